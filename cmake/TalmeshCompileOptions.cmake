@@ -1,0 +1,12 @@
+# Warnings and sanitizers for this project's own targets; clients that link the library inherit neither.
+add_library(talmesh_options INTERFACE)
+target_compile_options(talmesh_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+if(TALMESH_WARNINGS_AS_ERRORS)
+  target_compile_options(talmesh_options INTERFACE -Werror)
+endif()
+if(TALMESH_SANITIZE)
+  target_compile_options(talmesh_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(talmesh_options INTERFACE -fsanitize=address,undefined)
+endif()
