@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "architecture/IncludeRules.h"
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+const std::vector<std::string>& layers()
+{
+  static const std::vector<std::string> names{"external", "stats", "vtk", "plot", "widgets", "app"};
+  return names;
+}
+
+bool isSource(const fs::path& file)
+{
+  return file.extension() == ".h" || file.extension() == ".cpp" || file.extension() == ".ui";
+}
+
+std::vector<std::string> sourcesIn(const std::vector<std::string>& folders)
+{
+  const fs::path root(TALMESH_SOURCE_DIR);
+  std::vector<std::string> paths;
+  for (const std::string& folder : folders)
+  {
+    if (!fs::is_directory(root / folder))
+      continue;
+    for (const auto& entry : fs::recursive_directory_iterator(root / folder))
+    {
+      if (entry.is_regular_file() && isSource(entry.path()))
+        paths.push_back(fs::relative(entry.path(), root).generic_string());
+    }
+  }
+  std::sort(paths.begin(), paths.end());
+  return paths;
+}
+
+std::string textOf(const std::string& path)
+{
+  std::ifstream file(fs::path(TALMESH_SOURCE_DIR) / path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+template <typename Rule>
+std::string violationsIn(const std::vector<std::string>& paths, Rule rule)
+{
+  std::string report;
+  for (const std::string& path : paths)
+  {
+    for (const std::string& violation : rule(path, textOf(path)))
+      report += violation + "\n";
+  }
+  return report;
+}
+
+} // namespace
+
+TEST(SourceTree, HasSourcesInEveryLayer)
+{
+  for (const std::string& layer : layers())
+    EXPECT_FALSE(sourcesIn({layer}).empty()) << layer;
+}
+
+TEST(SourceTree, IncludesRunAlongTheArrows)
+{
+  EXPECT_EQ(violationsIn(sourcesIn(layers()), Talmesh::architecture::includeViolations), "");
+}
+
+TEST(SourceTree, GuardsAreNamedAfterTheirFile)
+{
+  EXPECT_EQ(violationsIn(sourcesIn({"external", "stats", "vtk", "plot", "widgets", "app", "tests"}),
+                         Talmesh::architecture::guardViolations),
+            "");
+}
+
+TEST(SourceTree, FileNamesAreUnique)
+{
+  std::vector<std::string> everywhere = layers();
+  everywhere.insert(everywhere.end(), {"tests", "examples", "bench"});
+  std::string report;
+  for (const std::string& duplicate : Talmesh::architecture::duplicateNames(sourcesIn(everywhere)))
+    report += duplicate + "\n";
+  EXPECT_EQ(report, "");
+}
