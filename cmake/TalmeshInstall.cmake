@@ -1,0 +1,20 @@
+# Installs the library, its headers in the folders of the tree, the CMake package and the viewer.
+include(CMakePackageConfigHelpers)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/TalmeshPlot)
+
+install(TARGETS talmeshplot EXPORT TalmeshPlotTargets)
+if(TARGET talmesh-plot)
+  install(TARGETS talmesh-plot)
+endif()
+install(DIRECTORY external stats vtk plot widgets
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/talmeshplot
+  FILES_MATCHING PATTERN "*.h")
+
+install(EXPORT TalmeshPlotTargets NAMESPACE Talmesh:: DESTINATION ${package_folder})
+configure_package_config_file(cmake/TalmeshPlotConfig.cmake.in TalmeshPlotConfig.cmake
+  INSTALL_DESTINATION ${package_folder})
+write_basic_package_version_file(TalmeshPlotConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES
+    ${CMAKE_CURRENT_BINARY_DIR}/TalmeshPlotConfig.cmake
+    ${CMAKE_CURRENT_BINARY_DIR}/TalmeshPlotConfigVersion.cmake
+  DESTINATION ${package_folder})
