@@ -1,0 +1,75 @@
+# Shared by ./run and ./test, which source it: packages, configuration, build and display.
+# Progress goes to standard error, so that standard output stays the program's own.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+packages=(
+  g++ cmake ninja-build
+  libvtk9-dev libvtk9-qt-dev qtbase5-dev libeigen3-dev libboost-dev
+  libgtest-dev poppler-utils
+  xvfb xauth libgl1-mesa-dri fonts-dejavu-core
+)
+
+say() { echo "$*" >&2; }
+
+missing_packages() {
+  local package
+  for package in "${packages[@]}"; do
+    [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] || echo "$package"
+  done
+}
+
+as_root() {
+  if ((EUID == 0)); then
+    env "$@"
+  else
+    sudo env "$@"
+  fi
+}
+
+install_packages() {
+  if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+    say "No apt here: expecting CMake, Ninja, VTK 9.1 with Qt 5, Eigen, Boost and GoogleTest to be installed."
+    return
+  fi
+  local missing
+  mapfile -t missing < <(missing_packages)
+  ((${#missing[@]})) || return 0
+  say "Installing ${missing[*]}"
+  local apt=(DEBIAN_FRONTEND=noninteractive apt-get -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 -q -y)
+  as_root "${apt[@]}" update >&2 </dev/null
+  # Images without manual pages lack this folder, and the Java packages that VTK pulls in need it.
+  as_root mkdir -p /usr/share/man/man1
+  as_root "${apt[@]}" install --no-install-recommends "${missing[@]}" >&2 </dev/null
+}
+
+# build PRESET [TARGET...]: brings build/PRESET up to date. Ninja reruns CMake itself when a CMake file changes.
+build() {
+  local preset=$1 tree=$root/build/$1
+  shift
+  local cache=$tree/CMakeCache.txt
+  if [[ -f $cache ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
+    say "The checkout has moved: starting $tree afresh."
+    rm -rf "$tree"
+  fi
+  if [[ ! -f $tree/build.ninja ]]; then
+    (cd "$root" && cmake --preset "$preset") >&2
+  fi
+  ninja -C "$tree" --quiet "$@" >&2
+}
+
+has_display() { [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; }
+
+# Runs a command on a virtual display of its own.
+on_virtual_display() {
+  xvfb-run -a -s "-screen 0 1920x1200x24" "$@"
+}
+
+# File names and table headers may hold any letter, which the plain C locale cannot express.
+use_utf8_locale() {
+  local current=${LC_ALL:-${LC_CTYPE:-${LANG:-}}}
+  case $current in
+    *[Uu][Tt][Ff]8 | *[Uu][Tt][Ff]-8) ;;
+    *) export LC_ALL=C.UTF-8 ;;
+  esac
+}
