@@ -1,0 +1,43 @@
+# Run by ctest; the variables come from tests/install/CMakeLists.txt.
+function(run)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  message(STATUS "${output}")
+  if(NOT result EQUAL 0)
+    string(JOIN " " command ${ARGN})
+    message(FATAL_ERROR "${command} ended with ${result}")
+  endif()
+endfunction()
+
+set(prefix "${WORK_TREE}/prefix")
+function(build_client source name)
+  run(${CMAKE_COMMAND} -S "${source}" -B "${WORK_TREE}/${name}" -G "${CMAKE_GENERATOR}" ${ARGN}
+    -D CMAKE_PREFIX_PATH=${prefix}
+    -D CMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}
+    -D CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER}
+    -D CMAKE_CXX_FLAGS=${CMAKE_CXX_FLAGS})
+  run(${CMAKE_COMMAND} --build "${WORK_TREE}/${name}")
+endfunction()
+
+# Leftovers of an earlier run could hide a file that is no longer installed.
+file(REMOVE_RECURSE "${WORK_TREE}")
+run(${CMAKE_COMMAND} --install "${BUILD_TREE}" --prefix "${prefix}")
+
+foreach(layer IN ITEMS external stats vtk plot widgets)
+  file(GLOB headers "${prefix}/${INCLUDE_FOLDER}/${layer}/*.h")
+  if(NOT headers)
+    message(FATAL_ERROR "No headers of ${layer} are installed")
+  endif()
+endforeach()
+build_client("${HEADERS_SOURCE}" headers -D INCLUDE_FOLDER=${prefix}/${INCLUDE_FOLDER})
+
+build_client("${CLIENT_SOURCE}" client)
+set(picture "${WORK_TREE}/client.pdf")
+run("${WORK_TREE}/client/minimal" "${CLIENT_SOURCE}/decay.csv" "${picture}")
+file(READ "${picture}" start LIMIT 5)
+if(NOT start STREQUAL "%PDF-")
+  message(FATAL_ERROR "The client wrote no PDF but: ${start}")
+endif()
+
+if(WITH_VIEWER)
+  run("${prefix}/bin/talmesh-plot" --version)
+endif()
