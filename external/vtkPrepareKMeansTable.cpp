@@ -1,0 +1,58 @@
+#include "external/vtkPrepareKMeansTable.h"
+
+#include <vtkDataArray.h>
+#include <vtkDoubleArray.h>
+#include <vtkInformation.h>
+#include <vtkInformationVector.h>
+#include <vtkNew.h>
+#include <vtkObjectFactory.h>
+#include <vtkTable.h>
+
+#include <string>
+
+vtkStandardNewMacro(vtkPrepareKMeansTable);
+
+namespace
+{
+
+std::string paddedName(int position, int positions)
+{
+  const std::size_t width = std::to_string(positions - 1).size();
+  const std::string digits = std::to_string(position);
+  return std::string(width - digits.size(), '0') + digits;
+}
+
+} // namespace
+
+void vtkPrepareKMeansTable::PrintSelf(ostream& os, vtkIndent indent)
+{
+  this->Superclass::PrintSelf(os, indent);
+  os << indent << "Stride: " << this->Stride << "\n";
+}
+
+int vtkPrepareKMeansTable::RequestData(vtkInformation*, vtkInformationVector** inputVector,
+                                       vtkInformationVector* outputVector)
+{
+  vtkTable* output = vtkTable::GetData(outputVector);
+  output->Initialize();
+  // Asking for an array that was never chosen is an error to VTK.
+  if (!this->GetInformation()->Has(vtkAlgorithm::INPUT_ARRAYS_TO_PROCESS()))
+    return 1;
+  auto* values = vtkDataArray::SafeDownCast(this->GetInputAbstractArrayToProcess(0, inputVector));
+  // Without a whole run there are no columns either: a stride far beyond the table would allocate
+  // one array per row that is not there.
+  if (!values || this->Stride < 1 || values->GetNumberOfTuples() < this->Stride)
+    return 1;
+
+  const vtkIdType runs = values->GetNumberOfTuples() / this->Stride;
+  for (int position = 0; position < this->Stride; ++position)
+  {
+    vtkNew<vtkDoubleArray> column;
+    column->SetName(paddedName(position, this->Stride).c_str());
+    column->SetNumberOfValues(runs);
+    for (vtkIdType run = 0; run < runs; ++run)
+      column->SetValue(run, values->GetComponent(run * this->Stride + position, 0));
+    output->AddColumn(column);
+  }
+  return 1;
+}
