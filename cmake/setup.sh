@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Shared by ./run and ./test, which source it: packages, configuration, build and display.
 # Progress goes to standard error, so that standard output stays the program's own.
 
@@ -13,9 +14,10 @@ packages=(
 say() { echo "$*" >&2; }
 
 missing_packages() {
-  local package
+  local installed package
+  installed=" $(dpkg-query -W -f='${Package}=${db:Status-Status} ' "${packages[@]}" 2>/dev/null || true)"
   for package in "${packages[@]}"; do
-    [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] || echo "$package"
+    [[ $installed == *" $package=installed "* ]] || echo "$package"
   done
 }
 
@@ -55,10 +57,10 @@ build() {
   if [[ ! -f $tree/build.ninja ]]; then
     (cd "$root" && cmake --preset "$preset") >&2
   fi
-  ninja -C "$tree" --quiet "$@" >&2
+  ninja -C "$tree" "$@" >&2
 }
 
-has_display() { [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; }
+has_display() { [[ -n ${DISPLAY:-} ]]; }
 
 # Runs a command on a virtual display of its own.
 on_virtual_display() {
