@@ -44,9 +44,9 @@ LogUniformDistribution::LogUniformDistribution(double lo, double hi)
     : lower(lo)
     , upper(hi)
 {
-  if (!(lo > 0.0) || !(lo < hi) || !std::isfinite(hi))
+  if (!(lo > 0.0) || !std::isfinite(hi) || !(std::log(lo) < std::log(hi)))
     throw std::invalid_argument(
-        "LogUniformDistribution: the bounds must be positive, finite and increasing");
+        "LogUniformDistribution: the logarithms of the bounds must be finite and increasing");
 }
 
 double LogUniformDistribution::density(double x) const

@@ -56,7 +56,7 @@ private:
 class LogUniformDistribution : public Distribution
 {
 public:
-  /// @throws std::invalid_argument unless 0 < lo < hi and both are finite.
+  /// @throws std::invalid_argument unless 0 < lo, hi is finite and ln lo < ln hi as doubles.
   LogUniformDistribution(double lo, double hi);
 
   int kind() const override { return LogUniform; }
