@@ -1,0 +1,50 @@
+#ifndef RunGrouping_h
+#define RunGrouping_h
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// What is known of the order of a table's rows. Pointers may be null and stay the caller's.
+struct RunColumns
+{
+  std::size_t rows = 0;
+  /// The time of each row; null without a time column.
+  const std::vector<double>* time = nullptr;
+  /// The number of the run of each row, into `names`; null without a run column.
+  const std::vector<int>* run = nullptr;
+  /// What the file calls each run, in order of first appearance.
+  const std::vector<std::string>* names = nullptr;
+  /// The line of each row in the file.
+  const std::vector<std::size_t>* lines = nullptr;
+};
+
+/// Rows sorted into runs of equal length.
+struct RunGrouping
+{
+  /// The row that each place of the stacked table takes: run after run, inside a run in the order
+  /// of the file. Empty when the rows stand so already.
+  std::vector<std::size_t> order;
+  /// The run, into `RunColumns::names`, that stands at each place; empty without a run column.
+  std::vector<int> runs;
+  std::size_t numberOfRuns = 0;
+  std::size_t pointsPerRun = 0;
+  /// The numbers of the runs: the names as numbers when all are different whole numbers, which
+  /// also puts the runs into ascending order; else 0, 1, 2, ...
+  std::vector<double> indices;
+  /// Why the rows are not runs of equal length, in one line; empty on success.
+  std::string error;
+};
+
+/// Finds the runs: by the run column, whose rows need not be contiguous, else by time: a run
+/// starts where time falls back. Without either all rows are one run. A run whose rows come in
+/// several pieces must go on in time, because two runs of the same name would otherwise be taken
+/// for one.
+RunGrouping groupRuns(const RunColumns& columns);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,54 @@
+#ifndef RunTableImport_h
+#define RunTableImport_h
+
+#include "external/LinePlotTable.h"
+
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
+
+#include <boost/shared_ptr.hpp>
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// What a user's table turned out to hold. Exactly one of `runs`, `table`, `error` and
+/// `cancelled` is set. Texts are UTF-8.
+struct ImportedTable
+{
+  /// Runs of equal length, one after another.
+  boost::shared_ptr<LinePlotTable> runs;
+  /// A table of double columns without an order of rows: no time, no run, no typed header.
+  vtkSmartPointer<vtkTable> table;
+  /// Why the text is not a table, in one line.
+  std::string error;
+  bool cancelled = false;
+  /// What the user should know although the import succeeded, one line each.
+  std::vector<std::string> notes;
+};
+
+/// Told the part done, from 0 to 1, every few thousand rows; returning false cancels.
+using ImportProgress = std::function<bool(double)>;
+
+/// Reads a delimited table of runs: a line of headers, then one row per time point.
+///
+/// Comma, semicolon and tab are recognised, as are decimal commas between tabs and semicolons.
+/// Names that are not valid UTF-8 are taken for Latin-1. Empty cells are NaN.
+/// Headers that carry a kind are taken as written, and so is the order of the columns. In a table
+/// of plain headers the columns that are constant within each run become parameters, the others
+/// molecules (a kind that item choosers can report, other than the undefined one), and the columns
+/// stand in the order in which line-plot tables keep them: plotted items, time, ": Run Index",
+/// parameters. A run index is added when the file has none; names of runs that are not different
+/// whole numbers become 0, 1, 2, ... there.
+/// Columns of text are left out with a note.
+///
+/// Needs memory in proportion to the size of the text. Touches no object of other threads.
+ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress = {});
+
+} // namespace Talmesh::app
+
+#endif
