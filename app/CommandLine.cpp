@@ -1,0 +1,227 @@
+#include "app/CommandLine.h"
+
+#include "app/StyleNames.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr int smallestSide = 16;
+constexpr int largestSide = 16384;
+
+bool endsWith(std::string_view text, std::string_view ending)
+{
+  return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
+}
+
+std::vector<std::string> splitAtCommas(std::string_view text)
+{
+  std::vector<std::string> parts;
+  for (;;)
+  {
+    const std::size_t comma = text.find(',');
+    parts.emplace_back(text.substr(0, comma));
+    if (comma == std::string_view::npos)
+      return parts;
+    text.remove_prefix(comma + 1);
+  }
+}
+
+bool readSide(std::string_view text, int& side)
+{
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), side);
+  return error == std::errc() && end == text.data() + text.size() && side >= smallestSide &&
+         side <= largestSide;
+}
+
+class CommandLineParser
+{
+public:
+  explicit CommandLineParser(const std::vector<std::string>& arguments_)
+      : arguments(arguments_)
+  {
+  }
+
+  ParsedCommandLine parse()
+  {
+    if (asksForHelp())
+      return parsed;
+    while (next < arguments.size() && parsed.error.empty())
+      readArgument(arguments[next++]);
+    if (!parsed.error.empty())
+      parsed.options = CommandLineOptions();
+    return parsed;
+  }
+
+private:
+  CommandLineOptions& options() { return parsed.options; }
+
+  /// Help is given however wrong the rest is.
+  bool asksForHelp()
+  {
+    const auto end = std::find(arguments.begin(), arguments.end(), "--");
+    const auto has = [&](const char* option)
+    { return std::find(arguments.begin(), end, option) != end; };
+    options().help = has("--help") || has("-h");
+    options().version = !options().help && has("--version");
+    return options().help || options().version;
+  }
+
+  void readArgument(const std::string& argument)
+  {
+    const bool option = !onlyFiles && argument.size() > 1 && argument.front() == '-';
+    if (!option)
+      readFile(argument);
+    else if (argument == "--")
+      onlyFiles = true;
+    else
+      readOption(argument);
+  }
+
+  void readFile(const std::string& argument)
+  {
+    if (argument.empty())
+      parsed.error = "the name of the file is empty";
+    else if (!options().file.empty())
+      parsed.error = "more than one file to open: " + options().file + " and " + argument;
+    else
+      options().file = argument;
+  }
+
+  void readOption(const std::string& argument)
+  {
+    const std::size_t equals = argument.find('=');
+    const std::string name = argument.substr(0, equals);
+    using Reader = void (CommandLineParser::*)(const std::string&);
+    struct Option
+    {
+      const char* name;
+      Reader read;
+    };
+    static constexpr Option known[] = {{"--style", &CommandLineParser::readStyle},
+                                       {"--x", &CommandLineParser::readX},
+                                       {"--y", &CommandLineParser::readY},
+                                       {"--z", &CommandLineParser::readZ},
+                                       {"--export", &CommandLineParser::readExport},
+                                       {"--gallery", &CommandLineParser::readGallery},
+                                       {"--size", &CommandLineParser::readSize}};
+    const auto* found =
+        std::find_if(std::begin(known), std::end(known),
+                     [&name](const Option& candidate) { return candidate.name == name; });
+    if (found == std::end(known))
+    {
+      parsed.error = "unknown option " + name;
+      return;
+    }
+    const bool inside = equals != std::string::npos;
+    if (!inside && next == arguments.size())
+      parsed.error = name + " needs a value";
+    else
+      readValue(name, inside ? argument.substr(equals + 1) : arguments[next++], found->read);
+  }
+
+  void readValue(const std::string& name, const std::string& value,
+                 void (CommandLineParser::*read)(const std::string&))
+  {
+    if (value.empty())
+      parsed.error = name + " needs a value";
+    else
+      (this->*read)(value);
+  }
+
+  void readStyle(const std::string& value)
+  {
+    if (const StyleName* found = findStyle(value))
+    {
+      options().style = found->style;
+      return;
+    }
+    parsed.error = "unknown style " + value + "; the styles are";
+    for (const StyleName& known : styleNames())
+      parsed.error += std::string(known.style == xyPlot ? " " : ", ") + known.name;
+  }
+
+  void readX(const std::string& value) { options().x = value; }
+  void readZ(const std::string& value) { options().z = value; }
+
+  void readY(const std::string& value)
+  {
+    for (std::string& name : splitAtCommas(value))
+      if (name.empty())
+        parsed.error = "--y has an empty name in " + value;
+      else
+        options().y.push_back(std::move(name));
+  }
+
+  void readExport(const std::string& value)
+  {
+    const std::size_t nameStart = value.find_last_of('/') + 1;
+    const std::string_view name = std::string_view(value).substr(nameStart);
+    const bool known = endsWith(name, ".png") || endsWith(name, ".pdf") || endsWith(name, ".csv");
+    if (known && name.size() > 4)
+      options().exports.push_back(value);
+    else
+      parsed.error = "cannot export to " + value + ": the name must end with .png, .pdf or .csv";
+  }
+
+  void readGallery(const std::string& value) { options().gallery = value; }
+
+  void readSize(const std::string& value)
+  {
+    const std::size_t cross = value.find('x');
+    const bool good = cross != std::string::npos &&
+                      readSide(std::string_view(value).substr(0, cross), options().width) &&
+                      readSide(std::string_view(value).substr(cross + 1), options().height);
+    if (!good)
+      parsed.error = "--size takes WIDTHxHEIGHT in pixels, each from " +
+                     std::to_string(smallestSide) + " to " + std::to_string(largestSide) +
+                     ", not " + value;
+  }
+
+  const std::vector<std::string>& arguments;
+  std::size_t next = 0;
+  bool onlyFiles = false;
+  ParsedCommandLine parsed;
+};
+
+} // namespace
+
+ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments)
+{
+  return CommandLineParser(arguments).parse();
+}
+
+std::string commandLineHelp()
+{
+  std::string help =
+      "Usage: talmesh-plot [FILE.csv] [OPTION]...\n"
+      "Shows simulated runs. Without FILE the example study opens, the repressilator gene "
+      "circuit.\n"
+      "\n"
+      "FILE.csv holds a line of names, then one row per time point, runs one after another.\n"
+      "\n"
+      "  --style NAME            the kind of plot (below)\n"
+      "  --x NAME                the column for the x axis\n"
+      "  --y NAME[,NAME...]      the columns to plot\n"
+      "  --z NAME                the column for the third axis, or the error bars\n"
+      "  --export FILE           write FILE.png, FILE.pdf or FILE.csv and open no window;\n"
+      "                          may be given several times\n"
+      "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
+      "  --size WxH              width and height of the pictures in pixels\n"
+      "  --help                  this text\n"
+      "  --version               the version\n"
+      "\n"
+      "Styles:\n";
+  for (const StyleName& style : styleNames())
+    help += std::string("  ") + style.name +
+            std::string(26 - std::char_traits<char>::length(style.name), ' ') + style.title + "\n";
+  return help;
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,55 @@
+#ifndef CommandLine_h
+#define CommandLine_h
+
+#include "external/PlotStyles.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// What the user asked for on the command line. Texts are UTF-8, as typed.
+struct CommandLineOptions
+{
+  /// The table to open; empty for the example study.
+  std::string file;
+  std::optional<plotStyles> style;
+  /// Names of columns; empty for the default.
+  std::string x;
+  std::vector<std::string> y;
+  std::string z;
+  /// Files to write, in order.
+  std::vector<std::string> exports;
+  /// The folder to write one picture of each view into; empty for none.
+  std::string gallery;
+  /// Width and height of the picture in pixels; 0 for the default.
+  int width = 0;
+  int height = 0;
+  bool help = false;
+  bool version = false;
+
+  /// Whether the program only writes files and opens no window.
+  bool writesOnly() const { return !exports.empty() || !gallery.empty(); }
+};
+
+/// Options, or why there are none.
+struct ParsedCommandLine
+{
+  CommandLineOptions options;
+  /// One line without a line end; empty on success.
+  std::string error;
+};
+
+/// Reads the arguments after the program's name. A value follows its option as the next argument or
+/// behind "=". After "--" every argument is a file. `--y` may be repeated; a comma separates names.
+/// Nothing is checked against the disk. With `--help` or `--version` nothing else matters.
+ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments);
+
+/// The text of `--help`, several lines, the last one ended.
+std::string commandLineHelp();
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef StyleNames_h
+#define StyleNames_h
+
+#include "external/PlotStyles.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// One plot style as the viewer offers it.
+struct StyleName
+{
+  plotStyles style;
+  /// The enumerator, which the command line takes and gallery files are named by.
+  const char* name;
+  /// What the window calls it.
+  const char* title;
+};
+
+/// All plot styles in the order of their values.
+const std::vector<StyleName>& styleNames();
+
+/// The style of an enumerator's name, or null.
+const StyleName* findStyle(std::string_view name);
+
+/// The entry of a style, or null for a value that is no enumerator.
+const StyleName* findStyle(plotStyles style);
+
+} // namespace Talmesh::app
+
+#endif

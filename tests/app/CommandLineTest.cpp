@@ -1,0 +1,164 @@
+#include "app/CommandLine.h"
+
+#include "app/StyleNames.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using namespace Talmesh::app;
+
+namespace
+{
+
+CommandLineOptions parsed(const std::vector<std::string>& arguments)
+{
+  const ParsedCommandLine line = parseCommandLine(arguments);
+  EXPECT_EQ(line.error, "");
+  return line.options;
+}
+
+std::string errorOf(const std::vector<std::string>& arguments)
+{
+  return parseCommandLine(arguments).error;
+}
+
+} // namespace
+
+TEST(CommandLine, OpensTheExampleStudyWithoutArguments)
+{
+  const CommandLineOptions options = parsed({});
+  EXPECT_EQ(options.file, "");
+  EXPECT_FALSE(options.style);
+  EXPECT_FALSE(options.writesOnly());
+  EXPECT_EQ(options.width, 0);
+}
+
+TEST(CommandLine, ReadsEveryOption)
+{
+  const CommandLineOptions options = parsed(
+      {"runs.csv", "--style", "xyzPlot", "--x", "Time [s]", "--y", "A,B", "--z", "C", "--export",
+       "a.png", "--export", "dir/b.pdf", "--gallery", "out", "--size", "800x600"});
+  EXPECT_EQ(options.file, "runs.csv");
+  EXPECT_EQ(options.style, xyzPlot);
+  EXPECT_EQ(options.x, "Time [s]");
+  EXPECT_EQ(options.y, (std::vector<std::string>{"A", "B"}));
+  EXPECT_EQ(options.z, "C");
+  EXPECT_EQ(options.exports, (std::vector<std::string>{"a.png", "dir/b.pdf"}));
+  EXPECT_EQ(options.gallery, "out");
+  EXPECT_EQ(options.width, 800);
+  EXPECT_EQ(options.height, 600);
+  EXPECT_TRUE(options.writesOnly());
+}
+
+TEST(CommandLine, TakesAValueBehindAnEqualsSign)
+{
+  const CommandLineOptions options = parsed({"--x=a=b", "--style=xyPlot"});
+  EXPECT_EQ(options.x, "a=b");
+  EXPECT_EQ(options.style, xyPlot);
+}
+
+TEST(CommandLine, GathersTheNamesOfRepeatedYOptions)
+{
+  EXPECT_EQ(parsed({"--y", "A", "--y", "B,C"}).y, (std::vector<std::string>{"A", "B", "C"}));
+}
+
+TEST(CommandLine, TakesEverythingAfterTwoDashesAsAFile)
+{
+  EXPECT_EQ(parsed({"--x", "t", "--", "--odd.csv"}).file, "--odd.csv");
+  EXPECT_EQ(parsed({"--", "--help"}).file, "--help");
+  EXPECT_FALSE(parsed({"--", "--help"}).help);
+}
+
+TEST(CommandLine, TakesALoneDashAsAFileAndADashAsAValue)
+{
+  EXPECT_EQ(parsed({"-"}).file, "-");
+  EXPECT_EQ(parsed({"--x", "-1"}).x, "-1");
+}
+
+TEST(CommandLine, GivesHelpHoweverWrongTheRestIs)
+{
+  EXPECT_TRUE(parsed({"--style", "none", "--help"}).help);
+  EXPECT_TRUE(parsed({"-h"}).help);
+  EXPECT_TRUE(parsed({"--version"}).version);
+  EXPECT_FALSE(parsed({"--version", "--help"}).version);
+}
+
+TEST(CommandLine, KnowsEveryStyleByItsEnumerator)
+{
+  for (const StyleName& style : styleNames())
+    EXPECT_EQ(parsed({"--style", style.name}).style, style.style);
+  EXPECT_EQ(styleNames().size(), 10u);
+}
+
+TEST(CommandLine, RefusesAnUnknownStyleAndNamesTheKnownOnes)
+{
+  EXPECT_EQ(errorOf({"--style", "pie"}),
+            "unknown style pie; the styles are xyPlot, reservedStyle1, reservedStyle2, "
+            "scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot, scatterWithErrorBars, "
+            "fitParameterDistribution, parallelCoordinates");
+  EXPECT_NE(errorOf({"--style", "XYPLOT"}), "");
+}
+
+TEST(CommandLine, RefusesAnUnknownOption)
+{
+  EXPECT_EQ(errorOf({"--colour", "red"}), "unknown option --colour");
+  EXPECT_EQ(errorOf({"--colour=red"}), "unknown option --colour");
+  EXPECT_EQ(errorOf({"-x"}), "unknown option -x");
+}
+
+TEST(CommandLine, RefusesAnOptionWithoutItsValue)
+{
+  for (const char* option : {"--style", "--x", "--y", "--z", "--export", "--gallery", "--size"})
+  {
+    EXPECT_EQ(errorOf({option}), std::string(option) + " needs a value");
+    EXPECT_EQ(errorOf({option, ""}), std::string(option) + " needs a value");
+    EXPECT_EQ(errorOf({std::string(option) + "="}), std::string(option) + " needs a value");
+  }
+}
+
+TEST(CommandLine, RefusesASecondFile)
+{
+  EXPECT_EQ(errorOf({"a.csv", "b.csv"}), "more than one file to open: a.csv and b.csv");
+  EXPECT_EQ(errorOf({""}), "the name of the file is empty");
+}
+
+TEST(CommandLine, RefusesAnEmptyNameAmongTheYColumns)
+{
+  EXPECT_EQ(errorOf({"--y", "A,,B"}), "--y has an empty name in A,,B");
+  EXPECT_EQ(errorOf({"--y", "A,"}), "--y has an empty name in A,");
+}
+
+TEST(CommandLine, RefusesAnExportOfAnotherKind)
+{
+  for (const char* name : {"plot.svg", "plot", "png", ".png", "dir/.pdf", "plot.PNG"})
+    EXPECT_EQ(errorOf({"--export", name}), std::string("cannot export to ") + name +
+                                               ": the name must end with .png, .pdf or .csv");
+}
+
+TEST(CommandLine, RefusesASizeThatIsNone)
+{
+  for (const char* size : {"800", "800x", "x600", "800x600x2", "8e2x600", "-800x600", "15x600",
+                           "800x16385", "99999999999x600", "800 x600", "axb"})
+    EXPECT_EQ(errorOf({"--size", size}),
+              std::string("--size takes WIDTHxHEIGHT in pixels, each from 16 to 16384, not ") +
+                  size);
+  EXPECT_EQ(parsed({"--size", "16x16384"}).height, 16384);
+}
+
+TEST(CommandLine, LeavesNoOptionsBesideAnError)
+{
+  EXPECT_EQ(parseCommandLine({"a.csv", "--bad"}).options.file, "");
+}
+
+TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
+{
+  const std::string help = commandLineHelp();
+  for (const char* word : {"FILE.csv", "--style", "--x", "--y", "--z", "--export", "--gallery",
+                           "--size", "--help", "--version"})
+    EXPECT_NE(help.find(word), std::string::npos) << word;
+  for (const StyleName& style : styleNames())
+    EXPECT_NE(help.find(style.name), std::string::npos) << style.name;
+  EXPECT_EQ(help.back(), '\n');
+}
