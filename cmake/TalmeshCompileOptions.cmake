@@ -1,7 +1,7 @@
 # Warnings and sanitizers for this project's own targets; clients that link the library inherit neither.
 add_library(talmesh_options INTERFACE)
 target_compile_options(talmesh_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+  -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
 if(TALMESH_WARNINGS_AS_ERRORS)
   target_compile_options(talmesh_options INTERFACE -Werror)
 endif()

@@ -1,0 +1,103 @@
+#include "plot/AxisWindows.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+
+#include <vtkAxis.h>
+
+#include <cmath>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+bool allFinite(const CoordinateWindow& window)
+{
+  return std::isfinite(window.xMin) && std::isfinite(window.xMax) && std::isfinite(window.yMin) &&
+         std::isfinite(window.yMax);
+}
+
+/// An axis can only turn logarithmic once its range allows it, and from then on takes limits as
+/// logarithms: the range is given in plain units first, then exactly as it was recorded.
+void restoreRange(vtkAxis* axis, double minimum, double maximum, bool recordedAsLog)
+{
+  const double plainMinimum = recordedAsLog ? std::pow(10.0, minimum) : minimum;
+  const double plainMaximum = recordedAsLog ? std::pow(10.0, maximum) : maximum;
+  if (!std::isfinite(plainMinimum) || !std::isfinite(plainMaximum))
+    return;
+  axis->SetBehavior(vtkAxis::FIXED);
+  axis->SetUnscaledRange(plainMinimum, plainMaximum);
+  if (axis->GetLogScaleActive() == recordedAsLog)
+  {
+    axis->SetMinimum(minimum);
+    axis->SetMaximum(maximum);
+  }
+}
+
+/// A window that came without its scales was recorded on the axis that the data would give.
+bool wouldBeLogarithmic(const PlotState& state, int column, bool logarithmic)
+{
+  double range[2];
+  return logarithmic && finiteRange(plottableColumn(state.table, column), range) &&
+         range[0] * range[1] > 0.0;
+}
+
+} // namespace
+
+ReducedMetaData currentKey(const PlotState& state)
+{
+  return {firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns),
+          static_cast<int>(state.metaData->getPlotStyle())};
+}
+
+const CoordinateWindow* rememberedWindow(const PlotState& state)
+{
+  const auto found = state.coordinateWindows.find(currentKey(state));
+  if (found == state.coordinateWindows.end() || !allFinite(found->second))
+    return nullptr;
+  return &found->second;
+}
+
+void fixRange(vtkAxis* axis, double minimum, double maximum)
+{
+  if (!std::isfinite(minimum) || !std::isfinite(maximum))
+    return;
+  axis->SetBehavior(vtkAxis::FIXED);
+  axis->SetMinimum(minimum);
+  axis->SetMaximum(maximum);
+}
+
+void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window,
+                       bool logarithmic)
+{
+  const auto scales = state.windowScales.find(currentKey(state));
+  const bool recordedAsLog =
+      scales != state.windowScales.end()
+          ? scales->second.xLog
+          : wouldBeLogarithmic(state, firstOf(state.metaData->xColumns), logarithmic);
+  axis->SetLogScale(logarithmic);
+  restoreRange(axis, window.xMin, window.xMax, recordedAsLog);
+}
+
+void restoreLeftAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window)
+{
+  const auto scales = state.windowScales.find(currentKey(state));
+  const bool recordedAsLog =
+      scales != state.windowScales.end()
+          ? scales->second.yLog
+          : wouldBeLogarithmic(state, firstOf(state.metaData->yColumns), axis->GetLogScale());
+  restoreRange(axis, window.yMin, window.yMax, recordedAsLog);
+}
+
+void rememberWindow(PlotState& state, vtkAxis* bottom, vtkAxis* left)
+{
+  const ReducedMetaData key = currentKey(state);
+  state.coordinateWindows[key] = {bottom->GetMinimum(), left->GetMinimum(), bottom->GetMaximum(),
+                                  left->GetMaximum(), true};
+  state.windowScales[key] = {bottom->GetLogScaleActive(), left->GetLogScaleActive()};
+}
+
+} // namespace Talmesh::plot

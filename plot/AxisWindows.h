@@ -1,0 +1,45 @@
+#ifndef AxisWindows_h
+#define AxisWindows_h
+
+#include "external/CoordinateWindow.h"
+#include "external/ReducedMetaData.h"
+
+class vtkAxis;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Whether the axes of a remembered window were logarithmic. The limits of such an axis are
+/// recorded as decimal logarithms.
+struct WindowScales
+{
+  bool xLog = false;
+  bool yLog = false;
+};
+
+/// The key of the configuration now plotted: first x column, first y column, plot style.
+ReducedMetaData currentKey(const PlotState& state);
+
+/// The window remembered for the configuration now plotted; null when there is none or when it is
+/// not finite.
+const CoordinateWindow* rememberedWindow(const PlotState& state);
+
+/// Fixes `axis` to [minimum, maximum]. Limits that are not finite leave it as it is, because VTK
+/// does not finish painting an infinite axis.
+void fixRange(vtkAxis* axis, double minimum, double maximum);
+
+/// Fixes the bottom axis to the remembered window, on a logarithmic scale if `logarithmic`.
+void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window,
+                       bool logarithmic);
+
+/// Fixes the left axis to the remembered window on the scale that it has.
+void restoreLeftAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window);
+
+/// Remembers the window that `bottom` and `left` show for the configuration now plotted.
+void rememberWindow(PlotState& state, vtkAxis* bottom, vtkAxis* left);
+
+} // namespace Talmesh::plot
+
+#endif

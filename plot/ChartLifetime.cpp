@@ -1,0 +1,82 @@
+#include "plot/ChartLifetime.h"
+
+#include "plot/PlotState.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+
+namespace Talmesh::plot
+{
+
+vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state)
+{
+  auto chart = vtkSmartPointer<vtkChartXY>::New();
+  chart->SetRenderEmpty(true);
+  chart->SetAnnotationLink(state.annotationLink);
+  return chart;
+}
+
+void ensureStandaloneChart(PlotState& state)
+{
+  const bool isMatrixCell = state.chartXY && state.chartXY->GetParent() == state.chartMatrix;
+  if (state.chartXY && !isMatrixCell)
+    return;
+  releaseChartXY(state);
+  state.chartXY = makeXYChart(state);
+}
+
+void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene)
+{
+  state.sceneLink.watch(scene);
+  chart->SetScene(scene);
+  state.currentChart = chart;
+}
+
+vtkContextScene* currentScene(const PlotState& state)
+{
+  return state.currentChart ? state.currentChart->GetScene() : nullptr;
+}
+
+void forgetScene(PlotState& state, vtkContextScene* scene)
+{
+  vtkAbstractContextItem* const charts[] = {
+      state.chartXY,  state.scatterPlotMatrix,   state.chartMatrix,
+      state.chartXYZ, state.parallelCoordinates, state.currentChart};
+  for (vtkAbstractContextItem* chart : charts)
+  {
+    if (chart && chart->GetScene() == scene)
+      chart->SetScene(nullptr);
+  }
+}
+
+void releaseChartXY(PlotState& state)
+{
+  if (state.chartXY)
+    keepUntilEventLoop(state.chartXY);
+  state.chartXY = nullptr;
+}
+
+void resetChartMatrix(PlotState& state, int columns, int rows)
+{
+  vtkContextScene* scene = state.chartMatrix->GetScene();
+  std::vector<vtkSmartPointer<vtkAbstractContextItem>> dropped;
+  for (vtkIdType i = 0; i < state.chartMatrix->GetNumberOfItems(); ++i)
+    dropped.emplace_back(state.chartMatrix->GetItem(i));
+  state.chartMatrix->SetSize(vtkVector2i(0, 0));
+  for (const auto& chart : dropped)
+  {
+    // Removal took the chart out of its scene, but a handler that is still running in it needs one.
+    chart->SetScene(scene);
+    keepUntilEventLoop(chart);
+  }
+  state.chartMatrix->SetSize(vtkVector2i(columns, rows));
+}
+
+void keepUntilEventLoop(vtkSmartPointer<vtkObjectBase> object)
+{
+  if (QCoreApplication* application = QCoreApplication::instance())
+    QMetaObject::invokeMethod(
+        application, [object] {}, Qt::QueuedConnection);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,47 @@
+#ifndef ChartLifetime_h
+#define ChartLifetime_h
+
+#include <vtkSmartPointer.h>
+
+class vtkAbstractContextItem;
+class vtkChartXY;
+class vtkContextScene;
+class vtkObjectBase;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// A new XY chart that shares the container's selection and paints its title even without plots.
+vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state);
+
+/// Gives `state.chartXY` a chart of its own when it has none or when it is a cell of the chart
+/// matrix, which belongs to a page of many charts.
+void ensureStandaloneChart(PlotState& state);
+
+/// Puts `chart` into `scene` and makes it the chart now shown. The scene's items stay as they are:
+/// only the widget adds items.
+void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene);
+
+/// The scene of the chart now shown, or null.
+vtkContextScene* currentScene(const PlotState& state);
+
+/// Clears the scene pointer of every chart that is in `scene`. For a scene that is dying.
+void forgetScene(PlotState& state, vtkContextScene* scene);
+
+/// Releases the stand-alone chart, as the styles do that draw none.
+void releaseChartXY(PlotState& state);
+
+/// Gives the chart matrix `columns` x `rows` fresh cells: no span, title, range, log flag, observer
+/// or mouse action of an earlier page survives.
+void resetChartMatrix(PlotState& state, int columns, int rows);
+
+/// Keeps `object` alive until control returns to the event loop, because a redraw can run inside a
+/// mouse handler of the very chart that it replaces. Without a running application there is no such
+/// handler and nothing is kept.
+void keepUntilEventLoop(vtkSmartPointer<vtkObjectBase> object);
+
+} // namespace Talmesh::plot
+
+#endif

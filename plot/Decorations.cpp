@@ -1,0 +1,60 @@
+#include "plot/Decorations.h"
+
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+
+#include <vtkPlot.h>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+constexpr std::array<PaletteColor, 12> palette = {{{0.6, 0.9, 0.9, 1.0},
+                                                   {0.9, 0.9, 0.6, 1.0},
+                                                   {0.6, 0.6, 0.9, 1.0},
+                                                   {0.9, 0.6, 0.3, 1.0},
+                                                   {0.3, 0.6, 0.9, 1.0},
+                                                   {0.9, 0.3, 0.6, 1.0},
+                                                   {0.6, 0.9, 0.3, 1.0},
+                                                   {0.9, 0.6, 0.9, 1.0},
+                                                   {0.9, 0.9, 0.9, 1.0},
+                                                   {0.6, 0.3, 0.6, 1.0},
+                                                   {0.6, 0.9, 0.6, 1.0},
+                                                   {0.9, 0.9, 0.3, 1.0}}};
+
+/// Below 255, so that the lines stand out darker than the palette.
+constexpr double decorationBrightness = 200.0;
+constexpr unsigned char decorationAlpha = 230;
+constexpr float decorationWidth = 4.0F;
+
+void addDecoration(PlotState& state, int line, int xColumn)
+{
+  const PaletteColor& color = paletteColor(static_cast<std::size_t>(line));
+  const auto component = [&](std::size_t i)
+  { return static_cast<unsigned char>(color[i] * decorationBrightness); };
+  vtkPlot* plot = state.chartXY->AddPlot(vtkChart::LINE);
+  plot->SetColor(component(0), component(1), component(2), decorationAlpha);
+  plot->SetWidth(decorationWidth);
+  feedPlot(plot, state.decorationTable, xColumn, line);
+  makeUnselectable(plot);
+}
+
+} // namespace
+
+const PaletteColor& paletteColor(std::size_t index)
+{
+  return palette[index % palette.size()];
+}
+
+void drawDecorations(PlotState& state)
+{
+  if (!state.showDecorations || !state.decorationTable || !state.chartXY)
+    return;
+  const int lines = static_cast<int>(state.decorationTable->GetNumberOfColumns()) - 1;
+  for (int line = 0; line < lines; ++line)
+    addDecoration(state, line, lines);
+}
+
+} // namespace Talmesh::plot

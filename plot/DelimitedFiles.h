@@ -1,0 +1,23 @@
+#ifndef DelimitedFiles_h
+#define DelimitedFiles_h
+
+#include <vtkSmartPointer.h>
+
+#include <string>
+
+class vtkTable;
+
+namespace Talmesh::plot
+{
+
+/// Reads a comma-separated file: names in the first line, numeric columns as doubles.
+/// @return what the reader delivers, for an unreadable file an empty table
+vtkSmartPointer<vtkTable> readDelimited(const std::string& fileName);
+
+/// Writes `table` comma-separated to `fileName`, or, when it is empty, into a string.
+/// @return that string, allocated with new[] and the caller's to free; null when a file was written
+char* writeDelimited(vtkTable* table, const std::string& fileName);
+
+} // namespace Talmesh::plot
+
+#endif

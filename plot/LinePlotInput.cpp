@@ -1,0 +1,75 @@
+#include "plot/LinePlotInput.h"
+
+#include "external/LinePlotData.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotState.h"
+#include "plot/SettingsSignals.h"
+#include "plot/TableColumns.h"
+#include "plot/Titles.h"
+
+#include <vtkColorSeries.h>
+#include <vtkPlot.h>
+
+#include <string>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+vtkSmartPointer<vtkTable> tableOf(const LinePlotData& data)
+{
+  auto table = vtkSmartPointer<vtkTable>::New();
+  table->AddColumn(makeColumn(data.xName, data.xValues ? *data.xValues : std::vector<double>()));
+  const vtkIdType rows = table->GetNumberOfRows();
+  for (const auto& [item, values] : data.series)
+  {
+    if (values && static_cast<vtkIdType>(values->size()) == rows)
+      table->AddColumn(makeColumn(Talmesh::selectionPairToString(item), *values));
+  }
+  return table;
+}
+
+} // namespace
+
+void setLinePlotData(PlotState& state, const LinePlotData& data)
+{
+  blockSettings(state);
+  setPlotTitle(state, "");
+  state.table = tableOf(data);
+  setFirst(state.metaData->xColumns, 0);
+  setXLabel(state, data.xName);
+  setYLabel(state, data.yName);
+  for (const auto& series : data.series)
+    state.columnItems.push_back(series.first);
+  unblockSettings(state);
+}
+
+void addLinePlotData(PlotState& state, const LinePlotData& data)
+{
+  state.derivedTables.push_back(tableOf(data));
+}
+
+void drawLinePlotItems(PlotState& state, const std::vector<Talmesh::TypedConcentrationName>& items)
+{
+  if (!state.chartXY)
+    return;
+  state.chartXY->ClearPlots();
+  vtkNew<vtkColorSeries> colors;
+  colors->SetColorScheme(vtkColorSeries::WILD_FLOWER);
+  const std::string xName = columnName(state.table, firstOf(state.metaData->xColumns));
+  for (std::size_t i = 0; i < items.size(); ++i)
+  {
+    const std::string yName = Talmesh::selectionPairToString(items[i]);
+    vtkPlot* plot = state.chartXY->AddPlot(vtkChart::LINE);
+    if (vtkDataArray::SafeDownCast(columnNamed(state.table, xName)) &&
+        vtkDataArray::SafeDownCast(columnNamed(state.table, yName)))
+      plot->SetInputData(state.table, xName, yName);
+    const vtkColor3ub color = colors->GetColorRepeating(static_cast<int>(i));
+    plot->SetColor(color[0], color[1], color[2], 255);
+  }
+  state.chartXY->RecalculateBounds();
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,94 @@
+#include "plot/LineTableInput.h"
+
+#include "external/LinePlotTable.h"
+#include "external/PlotMetaData.h"
+#include "plot/BorrowedColumn.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+#include "plot/TypedColumns.h"
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+vtkIdType rowCount(const LinePlotTable& lines)
+{
+  return static_cast<vtkIdType>(lines.numberOfTrajectories * lines.pointsPerTrajectory);
+}
+
+/// Index of the item that gives the time; -1 when no item is of the time or value kind.
+int timeItem(const std::vector<Talmesh::TypedConcentrationName>& items)
+{
+  int chosen = -1;
+  for (std::size_t i = 0; i < items.size(); ++i)
+  {
+    if (items[i].first != Talmesh::TimeOrValue)
+      continue;
+    if (items[i].second == "Time [s]")
+      return static_cast<int>(i);
+    if (items[i].second == "Value" || chosen < 0)
+      chosen = static_cast<int>(i);
+  }
+  return chosen;
+}
+
+std::string itemName(const PlotState& state, int index)
+{
+  const bool valid = index >= 0 && index < static_cast<int>(state.columnItems.size());
+  return valid ? state.columnItems[static_cast<std::size_t>(index)].second : "";
+}
+
+} // namespace
+
+void fillFromLinePlotTable(PlotState& state, const boost::shared_ptr<LinePlotTable>& lines)
+{
+  state.table = vtkSmartPointer<vtkTable>::New();
+  state.columnItems.clear();
+  std::size_t parameter = 0;
+  for (std::size_t i = 0; i < lines->items.size() && i < lines->values.size(); ++i)
+  {
+    const Talmesh::TypedConcentrationName& item = lines->items[i];
+    if (item.first == Talmesh::Parameter && parameter < lines->parameterRanges.size())
+    {
+      const auto& range = lines->parameterRanges[parameter++];
+      if (range.first == range.second)
+        continue;
+      state.parameterBounds.push_back(range);
+    }
+    state.table->AddColumn(borrowColumn(Talmesh::selectionPairToString(item), lines->values[i],
+                                        rowCount(*lines), lines));
+    state.columnItems.push_back(item);
+  }
+  findParameterColumns(state);
+}
+
+void chooseLineTableColumns(PlotState& state)
+{
+  PlotMetaData& settings = *state.metaData;
+  const std::vector<int>& parameters = settings.parameterColumns;
+  const int time = timeItem(state.columnItems);
+  int x = time;
+  if (time < 0)
+    x = parameters.empty() ? static_cast<int>(state.columnItems.size()) - 1
+                           : parameters.front() - 2;
+  setFirst(settings.xColumns, x);
+  setFirst(settings.yColumns, 0);
+  setFirst(settings.zColumns, 1);
+  settings.colorColumn = parameters.empty() ? x : parameters.front();
+  settings.xLabel = itemName(state, x);
+  settings.yLabel = itemName(state, 0);
+}
+
+void addLinePlotTable(PlotState& state, const LinePlotTable& lines)
+{
+  auto table = vtkSmartPointer<vtkTable>::New();
+  state.columnItems.clear();
+  for (std::size_t i = 0; i < lines.values.size() && i < lines.items.size(); ++i)
+    table->AddColumn(borrowColumn(Talmesh::selectionPairToString(lines.items[i]), lines.values[i],
+                                  rowCount(lines)));
+  state.derivedTables.push_back(table);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,25 @@
+#ifndef Margins_h
+#define Margins_h
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Applies margins and gutters to the chart of the current style; styles other than 0, 5 and 6
+/// take them when they are drawn.
+void updateMargins(PlotState& state);
+
+/// Applies the margins to the XY chart, when there is one.
+void applyXYBorders(PlotState& state);
+
+/// Applies gutter and borders to the chart matrix of the multi-plot page.
+void applyMultiPlotBorders(PlotState& state);
+
+/// Applies gutter and borders to the chart matrix of the selection page, with room for the heading
+/// of every chart.
+void applySelectionPageBorders(PlotState& state);
+
+} // namespace Talmesh::plot
+
+#endif

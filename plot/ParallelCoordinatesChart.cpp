@@ -1,0 +1,89 @@
+#include "plot/ParallelCoordinatesChart.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/ChartLifetime.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+
+#include <vtkAxis.h>
+#include <vtkIdTypeArray.h>
+#include <vtkPlotParallelCoordinates.h>
+#include <vtkTextProperty.h>
+
+#include <iostream>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+/// Fewer y columns than this are no choice of axes.
+constexpr std::size_t fewestChosenAxes = 3;
+constexpr double labelRotation = -45.0; ///< degrees
+
+void showColumn(PlotState& state, int column)
+{
+  double range[2];
+  if (finiteRange(plottableColumn(state.table, column), range))
+    state.parallelCoordinates->SetColumnVisibility(columnName(state.table, column), true);
+}
+
+void showColumns(PlotState& state)
+{
+  state.parallelCoordinates->SetColumnVisibilityAll(false);
+  const std::vector<int>& chosen = state.metaData->yColumns;
+  if (chosen.size() >= fewestChosenAxes)
+  {
+    for (const int column : chosen)
+      showColumn(state, column);
+  }
+  else
+  {
+    for (int column = 0; column < state.table->GetNumberOfColumns(); ++column)
+      showColumn(state, column);
+  }
+}
+
+void colorLines(PlotState& state)
+{
+  auto* plot = vtkPlotParallelCoordinates::SafeDownCast(state.parallelCoordinates->GetPlot(0));
+  double range[2];
+  const bool usable = finiteRange(plottableColumn(state.table, state.metaData->colorColumn), range);
+  plot->SetScalarVisibility(usable);
+  if (usable)
+    plot->SelectColorArray(columnName(state.table, state.metaData->colorColumn));
+}
+
+/// A plot that keeps an input keeps the columns that it last saw visible, so the chart gets a new
+/// one for every drawing.
+void feedLines(PlotState& state)
+{
+  vtkNew<vtkPlotParallelCoordinates> plot;
+  vtkNew<vtkIdTypeArray> brushed;
+  plot->SetSelection(brushed);
+  state.parallelCoordinates->SetPlot(plot);
+  state.parallelCoordinates->GetVisibleColumns()->SetNumberOfTuples(0);
+  plot->vtkPlot::SetInputData(state.table);
+}
+
+} // namespace
+
+void drawParallelCoordinates(PlotState& state, vtkContextScene* scene)
+{
+  if (!state.parallelCoordinates)
+  {
+    std::cerr << "Warning " << __PRETTY_FUNCTION__
+              << ": a copied container has no parallel-coordinates chart" << std::endl;
+    return;
+  }
+  showChart(state, state.parallelCoordinates, scene);
+  state.parallelCoordinates->ClearPlots();
+  feedLines(state);
+  showColumns(state);
+  colorLines(state);
+  for (int axis = 0; axis < state.parallelCoordinates->GetNumberOfAxes(); ++axis)
+    state.parallelCoordinates->GetAxis(axis)->GetLabelProperties()->SetOrientation(labelRotation);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,211 @@
+#include "plot/PlotContainer.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/ChartLifetime.h"
+#include "plot/PlotState.h"
+#include "plot/Redraw.h"
+#include "plot/SettingsSignals.h"
+#include "plot/vtkSelectionUpdateCallback.h"
+#include "plot/vtkShiftScaleCallback.h"
+
+#include <vtkCommand.h>
+
+#include <exception>
+#include <iostream>
+
+using Talmesh::plot::PlotState;
+
+namespace
+{
+
+void makeCharts(PlotState& state)
+{
+  state.annotationLink = vtkSmartPointer<vtkAnnotationLink>::New();
+  state.chartXY = Talmesh::plot::makeXYChart(state);
+  state.scatterPlotMatrix = vtkSmartPointer<vtkScatterPlotMatrix>::New();
+  state.chartXYZ = vtkSmartPointer<vtkChartXYZ>::New();
+  state.chartMatrix = vtkSmartPointer<vtkChartMatrix>::New();
+  state.extractSelectedRows = vtkSmartPointer<vtkExtractSelectedRows>::New();
+  state.currentChart = state.chartXY;
+  state.chartXY->AddPlot(vtkChart::POINTS);
+}
+
+void copyPlainFields(PlotState& to, const PlotState& from)
+{
+  to.columnItems = from.columnItems;
+  to.parameterBounds = from.parameterBounds;
+  to.coordinateWindows = from.coordinateWindows;
+  to.windowScales = from.windowScales;
+  to.showDecorations = from.showDecorations;
+  to.leftMargin = from.leftMargin;
+  to.topMargin = from.topMargin;
+  to.bottomMargin = from.bottomMargin;
+  to.rightMargin = from.rightMargin;
+  to.horizontalGutter = from.horizontalGutter;
+  to.verticalGutter = from.verticalGutter;
+  to.useIndexForXSeries = from.useIndexForXSeries;
+}
+
+} // namespace
+
+PlotContainer::PlotContainer(QObject* parent)
+    : QObject(parent)
+    , d(std::make_unique<PlotState>())
+{
+  d->metaData = new PlotMetaData(this);
+  d->coordinateWindows.max_load_factor(1.0F);
+  d->table = vtkSmartPointer<vtkTable>::New();
+  makeCharts(*d);
+  d->parallelCoordinates = vtkSmartPointer<vtkChartParallelCoordinates>::New();
+  d->parallelCoordinates->SetAnnotationLink(d->annotationLink);
+  connectParts();
+}
+
+PlotContainer::PlotContainer(const PlotContainer& other)
+    : QObject(other.parent())
+    , d(std::make_unique<PlotState>())
+{
+  copyPlainFields(*d, *other.d);
+  d->selectionUpdatePending = true;
+  d->metaData = new PlotMetaData(*other.d->metaData);
+  d->metaData->setParent(this);
+  d->table = vtkSmartPointer<vtkTable>::New();
+  d->table->DeepCopy(other.d->table);
+  makeCharts(*d);
+  connectParts();
+  if (vtkSmartPointer<vtkIntArray> selected = vtk::TakeSmartPointer(other.getCurrentSelection()))
+    d->table->AddColumn(selected);
+  selectionFromFlagColumn();
+  redraw();
+}
+
+PlotContainer::~PlotContainer()
+{
+  d->selectionUpdateCallback->Container = nullptr;
+  d->shiftScaleCallback->Container = nullptr;
+  d->annotationLink->RemoveObserver(d->selectionUpdateCallback);
+  if (d->chartXY)
+    d->chartXY->RemoveObserver(d->shiftScaleCallback);
+  // A container can die inside a mouse handler of its own charts.
+  if (d->currentChart)
+    Talmesh::plot::keepUntilEventLoop(d->currentChart);
+  delete d->metaData;
+}
+
+void PlotContainer::connectParts()
+{
+  connect(d->metaData, SIGNAL(redrawNeeded()), this, SLOT(redraw()));
+  d->selectionUpdateCallback = vtkSmartPointer<vtkSelectionUpdateCallback>::New();
+  d->selectionUpdateCallback->Container = this;
+  d->annotationLink->AddObserver(vtkCommand::AnnotationChangedEvent, d->selectionUpdateCallback);
+  d->shiftScaleCallback = vtkSmartPointer<vtkShiftScaleCallback>::New();
+  d->shiftScaleCallback->Container = this;
+  d->sceneLink.sceneDied = [this](vtkContextScene* scene)
+  { Talmesh::plot::forgetScene(*d, scene); };
+}
+
+void PlotContainer::setScene(vtkContextScene* scene)
+{
+  if (!d->currentChart)
+    return;
+  if (vtkContextScene* before = d->currentChart->GetScene())
+    before->ClearItems();
+  Talmesh::plot::showChart(*d, d->currentChart, scene);
+}
+
+void PlotContainer::redraw()
+{
+  const bool startedBySignal = sender() == d->metaData;
+  try
+  {
+    Talmesh::plot::redraw(*d);
+  }
+  catch (const std::exception& problem)
+  {
+    Talmesh::plot::unblockSettings(*d);
+    if (!startedBySignal)
+      throw;
+    std::cerr << "void PlotContainer::redraw(): " << problem.what() << std::endl;
+  }
+}
+
+void PlotContainer::dirty()
+{
+  Talmesh::plot::markDirty(*d);
+}
+
+void PlotContainer::annotationUpdate()
+{
+  d->selectionUpdateCallback->Execute(d->annotationLink, 0, nullptr);
+}
+
+void PlotContainer::setPlotStyle(plotStyles plotStyle)
+{
+  d->metaData->setPlotStyle(plotStyle);
+}
+
+vtkAbstractContextItem* PlotContainer::getItem() const
+{
+  return d->currentChart;
+}
+
+PlotMetaData* PlotContainer::getMetaData() const
+{
+  return d->metaData;
+}
+
+vtkTable* PlotContainer::getTable() const
+{
+  return d->table;
+}
+
+vtkChartXY* PlotContainer::getChartXY() const
+{
+  return d->chartXY;
+}
+
+vtkChartMatrix* PlotContainer::getChartMatrix() const
+{
+  return d->chartMatrix;
+}
+
+vtkAnnotationLink* PlotContainer::getAnnotationLink() const
+{
+  return d->annotationLink;
+}
+
+const std::vector<vtkSmartPointer<vtkTable>>& PlotContainer::getDerivedTables() const
+{
+  return d->derivedTables;
+}
+
+const std::vector<Talmesh::TypedConcentrationName>& PlotContainer::getColumnItems() const
+{
+  return d->columnItems;
+}
+
+vtkTable* PlotContainer::getQuartileTable() const
+{
+  return d->quartileTable;
+}
+
+vtkIntArray* PlotContainer::getClusterMembership() const
+{
+  return d->clusterMembership;
+}
+
+const std::vector<PlotContainer::KsStatistics>& PlotContainer::getKsResults() const
+{
+  return d->ksResults;
+}
+
+bool PlotContainer::getUseIndexForXSeries() const
+{
+  return d->useIndexForXSeries;
+}
+
+void PlotContainer::setUseIndexForXSeries(bool use)
+{
+  d->useIndexForXSeries = use;
+  dirty();
+}

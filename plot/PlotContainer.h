@@ -1,0 +1,264 @@
+#ifndef PlotContainer_h
+#define PlotContainer_h
+
+#include "external/PlotStyles.h"
+#include "external/TypedConcentrationName.h"
+#include "plot/KsStatistics.h"
+
+#include <vtkSmartPointer.h>
+
+#include <boost/shared_ptr.hpp>
+
+#include <QObject>
+#include <QStringList>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+class Distribution;
+class FitSettings;
+class LinePlotTable;
+class PlotMetaData;
+class QByteArray;
+class vtkAbstractContextItem;
+class vtkAnnotationLink;
+class vtkChartMatrix;
+class vtkChartXY;
+class vtkContextScene;
+class vtkIntArray;
+class vtkPlot;
+class vtkTable;
+struct FitRun;
+struct LinePlotData;
+struct ParameterSelection;
+struct SobolPostProcessResult;
+
+namespace Talmesh::plot
+{
+struct PlotState;
+}
+
+/// One plot: a table of data, the settings that say how to show it, and the charts that show it.
+///
+/// The container draws into the scene of the widget that shows it and never renders. Every settings
+/// change that the settings object announces draws the plot again. Records passed in as pointers
+/// stay the caller's. All calls belong to the GUI thread. Nothing here throws and nothing returns
+/// an error code unless an operation says so; missing or mistyped columns give empty plots.
+class PlotContainer : public QObject
+{
+  Q_OBJECT
+
+public:
+  using KsStatistics = ::KsStatistics;
+
+  explicit PlotContainer(QObject* parent);
+  /// An independent container with a deep copy of the data, the settings, the remembered axis
+  /// windows and the selection; derived results are not copied. It has no parallel-coordinates
+  /// chart and cannot draw style 9.
+  PlotContainer(const PlotContainer& other);
+  PlotContainer& operator=(const PlotContainer&) = delete;
+  ~PlotContainer() override;
+
+  /// Moves the chart now shown into `scene`; the items of the scene that held it are removed.
+  /// The scene is not kept alive; one that is gone counts as none.
+  void setScene(vtkContextScene* scene);
+
+  /// The chart now shown, which the widget adds to its scene. A drawing may exchange it.
+  vtkAbstractContextItem* getItem() const;
+  /// The settings, owned by the container.
+  PlotMetaData* getMetaData() const;
+  /// The plotted data, never null.
+  vtkTable* getTable() const;
+  /// The XY chart; null while the scatter-plot matrix or the 3-D chart is shown.
+  vtkChartXY* getChartXY() const;
+  /// The grid of charts of the pages of many charts.
+  vtkChartMatrix* getChartMatrix() const;
+  /// The selection that all charts share.
+  vtkAnnotationLink* getAnnotationLink() const;
+  /// Rank, density and further data tables; entries may be null.
+  const std::vector<vtkSmartPointer<vtkTable>>& getDerivedTables() const;
+  /// Typed names of the data columns.
+  const std::vector<Talmesh::TypedConcentrationName>& getColumnItems() const;
+  /// Quartiles of the runs per time point; null before the first computation.
+  vtkTable* getQuartileTable() const;
+  /// Cluster number of each run; null before the first clustering.
+  vtkIntArray* getClusterMembership() const;
+  /// One test result per parameter; empty before the first test.
+  const std::vector<KsStatistics>& getKsResults() const;
+
+  bool getUseIndexForXSeries() const;
+  /// Uses the row index as x series where a style knows that, and marks the scene for painting.
+  void setUseIndexForXSeries(bool use);
+
+  /// Draws the decoration lines with the next redraw. Its last column is their common x.
+  /// Null draws none. `show` switches them on or off.
+  void setDecorations(vtkSmartPointer<vtkTable> decorations, bool show);
+  bool getShowDecorations() const;
+  void setShowDecorations(bool show);
+
+  /// @name Data input
+  /// @{
+  /// Appends a table over the arrays of `table`, which stays the caller's and must outlive it.
+  void setLinePlotTableAsAdditionalData(LinePlotTable* table);
+  /// Shows a shared line-plot table, whose arrays are used in place, and chooses its time column.
+  void setLinePlotTable(boost::shared_ptr<LinePlotTable> table, bool quartiles);
+  /// Fills the table from the line-plot table last set. Does nothing without one.
+  void updateFromLinePlotTable(bool quartiles);
+  void findParameterColumns();
+  /// Chooses the plotted columns at position `index` of the column lists and draws.
+  void setPlotCols(int x, int y, int index, bool quartiles);
+  /// As above by column name; a name that the table does not have changes nothing.
+  void setPlotCols(const std::string& x, const std::string& y, int index, bool quartiles);
+  /// Adds one double column. One of another length than the table's is refused, as VTK does.
+  void addColumn(const std::vector<double>& values, const std::string& name);
+  /// Fills the container with the example plot and draws it.
+  void example();
+  /// Shows y over x, with error bars when `error` has as many values as x. When x and y differ in
+  /// length the chart's title says so and the settings stay silenced.
+  void setSimpleXYPlot(std::vector<double>& x, std::vector<double>& y, std::vector<double>& error);
+  /// Names of all table columns in column order.
+  QStringList getLabels() const;
+  /// Replaces the table by a comma-separated file with names in its first line. Does not draw.
+  void loadData(std::string fileName);
+  /// Writes the table comma-separated; when `keepAll` is false, after reducing it to the columns
+  /// that the settings use.
+  /// @return for an empty file name the text, allocated with new[] and the caller's; otherwise null
+  char* saveData(std::string fileName, bool keepAll);
+  /// @}
+
+  /// @name Appearance
+  /// @{
+  /// Solid colour of point plots, components 0 to 255.
+  void setColor(int r, int g, int b, int a);
+  void setColorScheme(std::string column, bool solid);
+  void useColors(vtkPlot* plot);
+  void setMarkerStyle(int style);
+  void setPointSize(double size);
+  void setLineWidth(double width);
+  void setPlotTitle(std::string title);
+  void setXLabel(std::string label);
+  void setYLabel(std::string label);
+  void setXTickLabels(std::vector<std::string> labels);
+  void setXTickPosition(const std::vector<double>& positions);
+  void LogScaleX();
+  void drawDecorations(vtkContextScene* scene);
+  int getLeftMargin() const;
+  int getTopMargin() const;
+  int getBottomMargin() const;
+  int getRightMargin() const;
+  int getHorizontalGutter() const;
+  int getVerticalGutter() const;
+  void setLeftMargin(int pixels);
+  void setTopMargin(int pixels);
+  void setBottomMargin(int pixels);
+  void setRightMargin(int pixels);
+  void setHorizontalGutter(int pixels);
+  void setVerticalGutter(int pixels);
+  void updateMargins();
+  /// @}
+
+  /// @name Selection
+  /// @{
+  /// A new array named "selected points" with 1 for every selected table row and 0 otherwise, the
+  /// caller's; null when nothing can be said of the rows.
+  vtkIntArray* getCurrentSelection() const;
+  /// Selects the rows whose entry is 1 in the table's last column, if that is an int column.
+  void selectionFromFlagColumn();
+  /// Selects one row of each run of `runs`: the one at position `offset` within the run.
+  void setSelection(ParameterSelection* runs, int offset);
+  /// The runs selected now, a new record that is the caller's; null when the table does not tell.
+  ParameterSelection* getSelection();
+  /// Ranks the parameters of the given runs as a further data set and draws.
+  void setExternalSelection(ParameterSelection* runs);
+  /// @}
+
+  /// @name Statistics
+  /// @{
+  /// Builds the rank and density tables of the settings' parameter columns of `source` in slots
+  /// `tableIndex` and `tableIndex` + 1 of the derived tables.
+  void generateRankedParameters(vtkSmartPointer<vtkTable> source, std::size_t tableIndex);
+  /// Compares the parameters of two rank tables of the derived tables; fills the test results.
+  void ksTestSelection(unsigned long first, unsigned long second);
+  /// Rebuilds the table of quartiles per time point from the first y column. A stride below 1
+  /// leaves the old one in place.
+  void generateQuartiles();
+  /// Groups the runs into `clusters` clusters by the shape of the first y column. `mode` 2 compares
+  /// phase spectra, 3 magnitude spectra, any other value the time series.
+  void clusterTimeSeries(int clusters, int mode);
+  /// Appends one new selection per cluster, labelled `prefix` and the cluster's number. The records
+  /// are the caller's. The list is expected to be empty: runs go to its entry of their number.
+  void selectionsFromClusters(std::string const& prefix,
+                              std::vector<ParameterSelection*>& selections);
+  /// @}
+
+  /// @name Changes of the data in place
+  /// @{
+  /// Multiplies run t of a double column by factors[t], one per whole run, the caller's.
+  void scaleColumn(double* factors, int column);
+  /// Divides each run of a double column by its own maximum, which counts as at least 0.
+  void scaleRelativeToMaxWithinTrajectory(int column);
+  /// Multiplies, or divides, a double column by another row by row. Does not draw.
+  void scaleColumnByColumn(int column, int byColumn, bool divide);
+  /// Reduces the table to the columns that the settings use and adds the flags of the selected
+  /// rows.
+  void shrinkToColumnSelection();
+  /// @}
+
+  /// @name Pages and special plots
+  /// @{
+  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
+  void drawMulitPlot(vtkContextScene* scene);
+  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
+  void drawSelectionCdfPlot(vtkContextScene* scene);
+  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
+  void drawFitParameterDistributionPlot(vtkContextScene* scene);
+  void drawScatterPlotWithErrorBars(vtkContextScene* scene);
+  void setSobolPostprocessResult(SobolPostProcessResult* result, bool atTimePoint, bool total,
+                                 unsigned long timePointIndex, unsigned long outputIndex);
+  void setupStackedSobol(bool total);
+  void setResidualPlot(FitRun* run, FitSettings* settings,
+                       std::vector<std::vector<double>>& predictions, bool scaled, bool sideBySide);
+  void setDistribution(Distribution* distribution);
+  /// @}
+
+  /// @name Binary dump
+  /// @{
+  /// A new byte array, the caller's, that holds the typed items and the table.
+  QByteArray* binaryDump();
+  /// Replaces items and table by those of a dump, which is only read. Does not draw.
+  void readDump(QByteArray* data);
+  /// @}
+
+  /// The whole state, for builders and callbacks. Not part of the stable interface.
+  Talmesh::plot::PlotState& state() { return *d; }
+  const Talmesh::plot::PlotState& state() const { return *d; }
+
+public slots:
+  /// Uses `data` as the table, shared and not copied. Does not draw. Null is ignored.
+  void setPlotData(vtkSmartPointer<vtkTable> data);
+  void setLinePlotData(LinePlotData* data);
+  void setLinePlotDataAsAdditionalData(LinePlotData* data);
+  /// Draws one line per item.
+  void setLinePlotItems(std::vector<Talmesh::TypedConcentrationName>* items);
+  /// Hands the style to the settings, whose announcement draws.
+  void setPlotStyle(plotStyles plotStyle);
+  void setLogScaleY(bool log);
+  void setShowLegend(bool legend);
+  /// Builds the chart of the current style. Started by the settings' signal it reports an exception
+  /// in one line on standard error; called directly it throws what the style's builder throws.
+  void redraw();
+  /// Asks the scene, if any, to paint again.
+  void dirty();
+  /// Runs the reaction to a changed selection.
+  void annotationUpdate();
+
+private:
+  void connectParts();
+
+  std::unique_ptr<Talmesh::plot::PlotState> d;
+};
+
+#endif

@@ -1,0 +1,145 @@
+#include "external/LinePlotData.h"
+#include "external/LinePlotTable.h"
+#include "external/PlotMetaData.h"
+#include "plot/DelimitedFiles.h"
+#include "plot/LinePlotInput.h"
+#include "plot/LineTableInput.h"
+#include "plot/PlotColumns.h"
+#include "plot/PlotContainer.h"
+#include "plot/PlotState.h"
+#include "plot/SettingsSignals.h"
+#include "plot/SimpleTables.h"
+#include "plot/TableColumns.h"
+#include "plot/TypedColumns.h"
+
+#include <QString>
+
+void PlotContainer::setPlotData(vtkSmartPointer<vtkTable> data)
+{
+  if (!data)
+    return;
+  d->derivedTables.clear();
+  d->table = data;
+  findParameterColumns();
+  if (d->metaData->getPlotStyle() == selectionCdfPlot)
+    generateRankedParameters(d->table, 0);
+}
+
+void PlotContainer::setLinePlotData(LinePlotData* data)
+{
+  if (data)
+    Talmesh::plot::setLinePlotData(*d, *data);
+}
+
+void PlotContainer::setLinePlotDataAsAdditionalData(LinePlotData* data)
+{
+  if (data)
+    Talmesh::plot::addLinePlotData(*d, *data);
+}
+
+void PlotContainer::setLinePlotTableAsAdditionalData(LinePlotTable* table)
+{
+  if (table)
+    Talmesh::plot::addLinePlotTable(*d, *table);
+}
+
+void PlotContainer::setLinePlotItems(std::vector<Talmesh::TypedConcentrationName>* items)
+{
+  if (items)
+    Talmesh::plot::drawLinePlotItems(*d, *items);
+}
+
+void PlotContainer::setLinePlotTable(boost::shared_ptr<LinePlotTable> table, bool quartiles)
+{
+  if (!table)
+    return;
+  Talmesh::plot::blockSettings(*d);
+  // The table in use still points into the one held so far.
+  table.swap(d->linePlotTable);
+  updateFromLinePlotTable(false);
+  Talmesh::plot::chooseLineTableColumns(*d);
+  if (quartiles)
+    generateQuartiles();
+  redraw();
+  Talmesh::plot::unblockSettings(*d);
+}
+
+void PlotContainer::updateFromLinePlotTable(bool quartiles)
+{
+  if (!d->linePlotTable)
+    return;
+  Talmesh::plot::fillFromLinePlotTable(*d, d->linePlotTable);
+  d->metaData->rankedDataCurrent = false;
+  if (d->metaData->getPlotStyle() == selectionCdfPlot)
+    generateRankedParameters(d->table, 0);
+  if (quartiles)
+    generateQuartiles();
+  d->metaData->setStride(static_cast<int>(d->linePlotTable->pointsPerTrajectory));
+  dirty();
+}
+
+void PlotContainer::findParameterColumns()
+{
+  Talmesh::plot::findParameterColumns(*d);
+}
+
+void PlotContainer::setPlotCols(int x, int y, int index, bool quartiles)
+{
+  if (!Talmesh::plot::setPlotColumns(*d, x, y, index))
+    return;
+  if (quartiles)
+    generateQuartiles();
+  redraw();
+}
+
+void PlotContainer::setPlotCols(const std::string& x, const std::string& y, int index,
+                                bool quartiles)
+{
+  setPlotCols(Talmesh::plot::columnIndex(d->table, x), Talmesh::plot::columnIndex(d->table, y),
+              index, quartiles);
+}
+
+void PlotContainer::addColumn(const std::vector<double>& values, const std::string& name)
+{
+  Talmesh::plot::addColumn(*d, values, name);
+}
+
+void PlotContainer::example()
+{
+  d->table = Talmesh::plot::exampleTable();
+  setPlotCols(0, 1, 0, false);
+  setPlotTitle("Example Plot");
+}
+
+void PlotContainer::setSimpleXYPlot(std::vector<double>& x, std::vector<double>& y,
+                                    std::vector<double>& error)
+{
+  Talmesh::plot::blockSettings(*d);
+  if (!Talmesh::plot::setSimpleTable(*d, x, y, error))
+    return;
+  setLineWidth(1.0);
+  setPointSize(2.0);
+  setMarkerStyle(3);
+  redraw();
+  Talmesh::plot::unblockSettings(*d);
+}
+
+QStringList PlotContainer::getLabels() const
+{
+  QStringList labels;
+  for (int column = 0; column < d->table->GetNumberOfColumns(); ++column)
+    labels << QString::fromStdString(Talmesh::plot::columnName(d->table, column));
+  return labels;
+}
+
+void PlotContainer::loadData(std::string fileName)
+{
+  d->table = Talmesh::plot::readDelimited(fileName);
+}
+
+char* PlotContainer::saveData(std::string fileName, bool keepAll)
+{
+  if (!keepAll)
+    shrinkToColumnSelection();
+  return Talmesh::plot::writeDelimited(d->table, fileName);
+}

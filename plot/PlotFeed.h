@@ -1,0 +1,24 @@
+#ifndef PlotFeed_h
+#define PlotFeed_h
+
+class vtkPlot;
+class vtkTable;
+
+namespace Talmesh::plot
+{
+
+/// Feeds `plot` from two columns of `table`. Columns that a chart cannot draw (outside the table,
+/// unnamed, not numeric) leave the plot without input, because VTK throws or crashes on them.
+/// @return whether the plot was fed
+bool feedPlot(vtkPlot* plot, vtkTable* table, int xColumn, int yColumn);
+
+/// As above for the y column, over the row index as x.
+bool feedPlotByIndex(vtkPlot* plot, vtkTable* table, int yColumn);
+
+/// Excludes from selection a plot whose rows are not those of the plot table: the selection speaks
+/// of rows of that table, and VTK reads past the end of a shorter one.
+void makeUnselectable(vtkPlot* plot);
+
+} // namespace Talmesh::plot
+
+#endif

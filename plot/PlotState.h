@@ -1,0 +1,111 @@
+#ifndef PlotState_h
+#define PlotState_h
+
+#include "external/CoordinateWindow.h"
+#include "external/ReducedMetaData.h"
+#include "external/TypedConcentrationName.h"
+#include "plot/AxisWindows.h"
+#include "plot/KsStatistics.h"
+#include "plot/SceneLink.h"
+
+#include <vtkAbstractContextItem.h>
+#include <vtkAnnotationLink.h>
+#include <vtkChartMatrix.h>
+#include <vtkChartParallelCoordinates.h>
+#include <vtkChartXY.h>
+#include <vtkChartXYZ.h>
+#include <vtkDoubleArray.h>
+#include <vtkExtractSelectedRows.h>
+#include <vtkIntArray.h>
+#include <vtkScalarsToColors.h>
+#include <vtkScatterPlotMatrix.h>
+#include <vtkSmartPointer.h>
+#include <vtkStringArray.h>
+#include <vtkTable.h>
+#include <vtkWeakPointer.h>
+
+#include <boost/shared_ptr.hpp>
+#include <boost/unordered_map.hpp>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+class LinePlotTable;
+class PlotMetaData;
+class vtkSelectionUpdateCallback;
+class vtkShiftScaleCallback;
+
+namespace Talmesh::plot
+{
+
+using CoordinateWindows = boost::unordered_map<ReducedMetaData, CoordinateWindow>;
+
+/// Everything that a PlotContainer knows. The container owns one; builders and operations are free
+/// functions over it, so that each can be read and tested without the others.
+///
+/// Pointers are null unless their comment says otherwise.
+struct PlotState
+{
+  /// The plot data, never null: one column per quantity, one row per sample.
+  vtkSmartPointer<vtkTable> table;
+  /// Rank, density and further data tables. Entries may be null.
+  std::vector<vtkSmartPointer<vtkTable>> derivedTables;
+  /// Typed name of each data column of line-plot data.
+  std::vector<Talmesh::TypedConcentrationName> columnItems;
+  bool showDecorations = false;
+  /// (lower, upper) of the parameter columns that are not constant.
+  std::vector<std::pair<double, double>> parameterBounds;
+  /// Never null while the container lives.
+  vtkSmartPointer<vtkSelectionUpdateCallback> selectionUpdateCallback;
+  /// Never null while the container lives.
+  vtkSmartPointer<vtkShiftScaleCallback> shiftScaleCallback;
+  /// Decoration lines, one column each; the last column is their common x.
+  vtkSmartPointer<vtkTable> decorationTable;
+  /// Cluster number of each run.
+  vtkSmartPointer<vtkIntArray> clusterMembership;
+  /// Colours of the points of the special plots.
+  vtkSmartPointer<vtkScalarsToColors> pointColors;
+  /// The settings, never null while the container lives, which owns them.
+  PlotMetaData* metaData = nullptr;
+  CoordinateWindows coordinateWindows;
+  /// Null while the scatter-plot matrix or the 3-D chart is shown; a cell of `chartMatrix` while
+  /// one of its pages is.
+  vtkSmartPointer<vtkChartXY> chartXY;
+  /// The chart now shown.
+  vtkSmartPointer<vtkAbstractContextItem> currentChart;
+  vtkSmartPointer<vtkScatterPlotMatrix> scatterPlotMatrix;
+  vtkSmartPointer<vtkChartMatrix> chartMatrix;
+  vtkSmartPointer<vtkChartXYZ> chartXYZ;
+  /// Null in a copied container.
+  vtkSmartPointer<vtkChartParallelCoordinates> parallelCoordinates;
+  vtkSmartPointer<vtkStringArray> xTickLabels;
+  vtkSmartPointer<vtkDoubleArray> xTickPositions;
+  vtkSmartPointer<vtkExtractSelectedRows> extractSelectedRows;
+  vtkSmartPointer<vtkAnnotationLink> annotationLink;
+  boost::shared_ptr<LinePlotTable> linePlotTable;
+  int leftMargin = 80;       ///< pixels
+  int topMargin = 20;        ///< pixels
+  int bottomMargin = 40;     ///< pixels
+  int rightMargin = 20;      ///< pixels
+  int horizontalGutter = 28; ///< pixels
+  int verticalGutter = 28;   ///< pixels
+  /// The next selection page first runs the selection-update callback.
+  bool selectionUpdatePending = false;
+  bool useIndexForXSeries = false;
+  std::vector<KsStatistics> ksResults;
+  vtkSmartPointer<vtkTable> quartileTable;
+
+  /// The scales on which the windows of `coordinateWindows` were recorded.
+  boost::unordered_map<ReducedMetaData, WindowScales> windowScales;
+  /// The scene that the charts were put into.
+  SceneLink sceneLink;
+  /// The chart last built from Sobol results, whose plots the reserved styles keep.
+  vtkWeakPointer<vtkChartXY> sobolChart;
+  /// Counts the drawings begun, so that a drawing notices when another ran inside it.
+  unsigned long drawings = 0;
+};
+
+} // namespace Talmesh::plot
+
+#endif

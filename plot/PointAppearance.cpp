@@ -1,0 +1,143 @@
+#include "plot/PointAppearance.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+#include "vtk/vtkPlotErrorPoints.h"
+
+#include <vtkLookupTable.h>
+#include <vtkPen.h>
+#include <vtkPlotPoints.h>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+/// Active plots of the scatter-plot matrix are drawn larger, and so are their markers.
+constexpr double activePlotScale = 1.5;
+
+vtkPlot* firstPlot(vtkChart* chart)
+{
+  return chart ? chart->GetPlot(0) : nullptr;
+}
+
+void setMarkerSize(vtkPlot* plot, double size)
+{
+  if (auto* points = vtkPlotPoints::SafeDownCast(plot))
+    points->SetMarkerSize(static_cast<float>(size));
+}
+
+vtkSmartPointer<vtkLookupTable> columnColors(const double range[2])
+{
+  auto colors = vtkSmartPointer<vtkLookupTable>::New();
+  colors->SetAlpha(1.0);
+  colors->SetHueRange(0.2, 0.8);
+  colors->SetSaturationRange(0.95, 1.0);
+  colors->SetValueRange(0.9, 0.9);
+  colors->SetRange(range);
+  colors->Build();
+  return colors;
+}
+
+void colorByColumn(PlotState& state, vtkPlotPoints* points)
+{
+  const int column = state.metaData->colorColumn;
+  double range[2];
+  if (!finiteRange(doubleColumn(state.table, column), range))
+    return;
+  points->ScalarVisibilityOn();
+  points->SetLookupTable(columnColors(range));
+  points->SelectColorArray(columnName(state.table, column));
+}
+
+/// The pair plots below the anti-diagonal, then the main chart.
+void setMultiPlotMarkerSize(PlotState& state, double size)
+{
+  const int n = static_cast<int>(state.metaData->parameterColumns.size());
+  const auto resize = [&](int column, int row)
+  { setMarkerSize(firstPlot(state.chartMatrix->GetChart(vtkVector2i(column, row))), size); };
+  for (int i = 0; i < n - 1; ++i)
+  {
+    for (int j = 0; j < n - 1 - i; ++j)
+      resize(i, j);
+  }
+  resize(n / 2, n / 2);
+}
+
+} // namespace
+
+void setColorScheme(PlotState& state, const std::string& column, bool solid)
+{
+  state.metaData->solidColor = solid;
+  if (!solid)
+  {
+    for (int i = 0; i < state.table->GetNumberOfColumns(); ++i)
+    {
+      if (columnName(state.table, i) == column)
+        state.metaData->colorColumn = i;
+    }
+  }
+  useColors(state, nullptr);
+}
+
+void useColors(PlotState& state, vtkPlot* plot)
+{
+  auto* points = vtkPlotPoints::SafeDownCast(plot ? plot : firstPlot(state.chartXY));
+  if (!points)
+    return;
+  if (!state.metaData->solidColor)
+  {
+    colorByColumn(state, points);
+    return;
+  }
+  points->ScalarVisibilityOff();
+  const auto& color = state.metaData->color;
+  const auto component = [&](std::size_t i) { return static_cast<unsigned char>(color[i]); };
+  points->SetColor(component(0), component(1), component(2), component(3));
+}
+
+void setMarkerStyle(PlotState& state, int style)
+{
+  state.metaData->markerStyle = style;
+  if (auto* points = vtkPlotPoints::SafeDownCast(firstPlot(state.chartXY)))
+    points->SetMarkerStyle(style);
+}
+
+void setPointSize(PlotState& state, double size)
+{
+  state.metaData->pointSize = size;
+  switch (state.metaData->getPlotStyle())
+  {
+  case scatterPlotMatrix:
+    state.scatterPlotMatrix->SetPlotMarkerSize(vtkScatterPlotMatrix::ACTIVEPLOT,
+                                               static_cast<float>(size * activePlotScale));
+    state.scatterPlotMatrix->SetPlotMarkerSize(vtkScatterPlotMatrix::SCATTERPLOT,
+                                               static_cast<float>(size));
+    break;
+  case multiPlot:
+    setMultiPlotMarkerSize(state, size);
+    break;
+  case xyPlot:
+    setMarkerSize(firstPlot(state.chartXY), size);
+    break;
+  default:
+    break;
+  }
+}
+
+void setLineWidth(PlotState& state, double width)
+{
+  state.metaData->setLineWidth(width);
+  if (state.metaData->getPlotStyle() != scatterWithErrorBars)
+    return;
+  if (auto* errorBars = vtkPlotErrorPoints::SafeDownCast(firstPlot(state.chartXY)))
+  {
+    vtkSmartPointer<vtkPen> pen = errorBars->GetPen();
+    pen->SetWidth(static_cast<float>(width));
+    errorBars->SetPen(pen);
+  }
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,32 @@
+#ifndef PointAppearance_h
+#define PointAppearance_h
+
+#include <string>
+
+class vtkPlot;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Chooses between the settings' solid colour and colouring by column. For the latter the colour
+/// column becomes the last table column named `column`, or stays when none is.
+void setColorScheme(PlotState& state, const std::string& column, bool solid);
+
+/// Colours `plot`, or the XY chart's first plot when it is null, as the settings say. Plots other
+/// than point plots, and a colour column that is not double or has no finite range, change nothing.
+void useColors(PlotState& state, vtkPlot* plot);
+
+/// Stores the marker style and applies it to the XY chart's first plot.
+void setMarkerStyle(PlotState& state, int style);
+
+/// Stores the marker size and applies it to the charts of the current style.
+void setPointSize(PlotState& state, double size);
+
+/// Stores the line width; in style 7 it becomes the width of the error bars.
+void setLineWidth(PlotState& state, double width);
+
+} // namespace Talmesh::plot
+
+#endif

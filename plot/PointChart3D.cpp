@@ -1,0 +1,90 @@
+#include "plot/PointChart3D.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/ChartLifetime.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+
+#include <vtkFloatArray.h>
+#include <vtkPlotPoints3D.h>
+
+#include <array>
+#include <cmath>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+using Coordinates = std::array<vtkDataArray*, 3>;
+
+constexpr const char* axisNames[] = {"x", "y", "z"};
+
+/// The three columns as the chart stores them, in single precision, one named after each axis: the
+/// same column may serve twice. A point that is not finite would stretch the axes without end.
+vtkSmartPointer<vtkTable> finitePoints(const Coordinates& coordinates)
+{
+  std::array<vtkNew<vtkFloatArray>, 3> columns;
+  for (vtkIdType row = 0; row < coordinates[0]->GetNumberOfTuples(); ++row)
+  {
+    std::array<float, 3> point;
+    for (std::size_t axis = 0; axis < point.size(); ++axis)
+      point[axis] = static_cast<float>(coordinates[axis]->GetComponent(row, 0));
+    if (!std::isfinite(point[0]) || !std::isfinite(point[1]) || !std::isfinite(point[2]))
+      continue;
+    for (std::size_t axis = 0; axis < point.size(); ++axis)
+      columns[axis]->InsertNextValue(point[axis]);
+  }
+  auto points = vtkSmartPointer<vtkTable>::New();
+  for (std::size_t axis = 0; axis < columns.size(); ++axis)
+  {
+    columns[axis]->SetName(axisNames[axis]);
+    points->AddColumn(columns[axis]);
+  }
+  return points;
+}
+
+bool feedPoints(vtkPlotPoints3D* plot, const PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  const Coordinates coordinates = {plottableColumn(state.table, firstOf(settings.xColumns)),
+                                   plottableColumn(state.table, firstOf(settings.yColumns)),
+                                   plottableColumn(state.table, firstOf(settings.zColumns))};
+  if (!coordinates[0] || !coordinates[1] || !coordinates[2])
+    return false;
+  vtkSmartPointer<vtkTable> points = finitePoints(coordinates);
+  if (points->GetNumberOfRows() == 0)
+    return false;
+  plot->SetInputData(points, axisNames[0], axisNames[1], axisNames[2]);
+  return true;
+}
+
+void titleAxes(PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  state.chartXYZ->SetXAxisLabel(columnName(state.table, firstOf(settings.xColumns)));
+  state.chartXYZ->SetYAxisLabel(columnName(state.table, firstOf(settings.yColumns)));
+  state.chartXYZ->SetZAxisLabel(columnName(state.table, firstOf(settings.zColumns)));
+}
+
+} // namespace
+
+void drawPointChart3D(PlotState& state, vtkContextScene* scene)
+{
+  showChart(state, state.chartXYZ, scene);
+  state.chartXYZ->ClearPlots();
+  releaseChartXY(state);
+
+  vtkNew<vtkPlotPoints3D> plot;
+  if (feedPoints(plot, state))
+  {
+    state.chartXYZ->AddPlot(plot);
+    titleAxes(state);
+  }
+  state.chartXYZ->SetAxisColor(vtkColor4ub(0, 0, 0, 255));
+  state.chartXYZ->RecalculateBounds();
+  state.chartXYZ->SetGeometry(vtkRectf(75, 20, 250, 260));
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,19 @@
+#ifndef Redraw_h
+#define Redraw_h
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Builds the chart of the settings' plot style into the scene of the chart now shown. Does not
+/// render. Without a scene it writes one line to standard output and leaves the settings silenced.
+/// @throws whatever the style's builder throws; the settings are then left silenced
+void redraw(PlotState& state);
+
+/// Asks the scene of the chart now shown, if any, to paint again.
+void markDirty(PlotState& state);
+
+} // namespace Talmesh::plot
+
+#endif

@@ -1,0 +1,88 @@
+#include "plot/ScatterMatrix.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/ChartLifetime.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+
+#include <numeric>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+std::vector<int> columnsToShow(const PlotState& state)
+{
+  if (state.metaData->getLimitColumVisibility())
+  {
+    std::vector<int> columns = {firstOf(state.metaData->xColumns),
+                                firstOf(state.metaData->yColumns)};
+    columns.insert(columns.end(), state.metaData->parameterColumns.begin(),
+                   state.metaData->parameterColumns.end());
+    return columns;
+  }
+  std::vector<int> columns(static_cast<std::size_t>(state.table->GetNumberOfColumns()));
+  std::iota(columns.begin(), columns.end(), 0);
+  return columns;
+}
+
+void showColumns(PlotState& state, const std::vector<int>& columns)
+{
+  vtkScatterPlotMatrix* matrix = state.scatterPlotMatrix;
+  vtkNew<vtkStringArray> names;
+  for (const int column : columns)
+  {
+    double range[2];
+    const std::string name = columnName(state.table, column);
+    if (finiteRange(plottableColumn(state.table, column), range) && names->LookupValue(name) < 0)
+      names->InsertNextValue(name);
+  }
+  // The matrix sizes itself to a new input, not to a new choice of columns.
+  matrix->SetSize(vtkVector2i(0, 0));
+  matrix->SetVisibleColumns(names);
+  const int count = static_cast<int>(names->GetNumberOfValues());
+  matrix->SetSize(vtkVector2i(count, count));
+  matrix->Modified();
+}
+
+/// The matrix names a plot by its cell: column counted from the left, row from the bottom, where
+/// the rows run through the columns backwards. Only cells below the diagonal hold plots.
+void activatePair(PlotState& state, int xColumn, int yColumn)
+{
+  vtkScatterPlotMatrix* matrix = state.scatterPlotMatrix;
+  vtkStringArray* names = matrix->GetVisibleColumns();
+  const vtkIdType x = names->LookupValue(columnName(state.table, xColumn));
+  const vtkIdType y = names->LookupValue(columnName(state.table, yColumn));
+  if (x < 0 || y < 0 || x == y)
+    return;
+  const vtkIdType last = names->GetNumberOfValues() - 1;
+  const vtkIdType left = std::min(x, y);
+  const vtkIdType right = std::max(x, y);
+  matrix->Update();
+  matrix->SetActivePlot(vtkVector2i(static_cast<int>(left), static_cast<int>(last - right)));
+}
+
+} // namespace
+
+void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
+{
+  showChart(state, state.scatterPlotMatrix, scene);
+  // The matrix ignores an empty table and would go on showing the one before.
+  state.scatterPlotMatrix->SetInput(nullptr);
+  if (state.table->GetNumberOfRows() > 0)
+    state.scatterPlotMatrix->SetInput(state.table);
+  releaseChartXY(state);
+
+  showColumns(state, columnsToShow(state));
+  if (state.metaData->getLimitColumVisibility())
+    activatePair(state, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
+
+  state.scatterPlotMatrix->SetGutter(vtkVector2f(static_cast<float>(state.verticalGutter),
+                                                 static_cast<float>(state.horizontalGutter)));
+  state.scatterPlotMatrix->SetBorders(state.leftMargin, state.bottomMargin, state.rightMargin,
+                                      state.topMargin);
+}
+
+} // namespace Talmesh::plot

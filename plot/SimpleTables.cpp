@@ -1,0 +1,76 @@
+#include "plot/SimpleTables.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+
+#include <vtkFloatArray.h>
+#include <vtkMath.h>
+
+#include <cmath>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+constexpr int exampleRows = 400;
+
+void addColumn(vtkTable* table, const char* name, const std::vector<double>& values)
+{
+  vtkNew<vtkFloatArray> column;
+  column->SetName(name);
+  for (const double value : values)
+    column->InsertNextValue(static_cast<float>(value));
+  table->AddColumn(column);
+}
+
+} // namespace
+
+vtkSmartPointer<vtkTable> exampleTable()
+{
+  const float pi = static_cast<float>(vtkMath::Pi());
+  std::vector<double> xs;
+  std::vector<double> ys;
+  std::vector<double> zs;
+  for (int i = 0; i < exampleRows; ++i)
+  {
+    const float x = static_cast<float>(i) / static_cast<float>(exampleRows);
+    const float y =
+        x * x + 0.4F * std::cos(6.0F * pi * x) + 0.16F * std::cos(18.0F * pi * x) - 0.7F;
+    const float z = std::sin(y) * std::cos(x);
+    xs.push_back(x);
+    ys.push_back(y);
+    zs.push_back(z);
+  }
+  auto table = vtkSmartPointer<vtkTable>::New();
+  addColumn(table, "x", xs);
+  addColumn(table, "y", ys);
+  addColumn(table, "z", zs);
+  return table;
+}
+
+bool setSimpleTable(PlotState& state, const std::vector<double>& x, const std::vector<double>& y,
+                    const std::vector<double>& error)
+{
+  state.table = vtkSmartPointer<vtkTable>::New();
+  if (x.size() != y.size())
+  {
+    if (state.chartXY)
+      state.chartXY->SetTitle("SimpleXYPlot: x and y sizes differ.");
+    return false;
+  }
+  const bool withError = error.size() == x.size();
+  addColumn(state.table, "x", x);
+  addColumn(state.table, "y", y);
+  if (withError)
+    addColumn(state.table, "error", error);
+  state.metaData->setPlotStyle(withError ? scatterWithErrorBars : xyPlot);
+  setFirst(state.metaData->zColumns, withError ? 2 : 0);
+  setFirst(state.metaData->xColumns, 0);
+  setFirst(state.metaData->yColumns, 1);
+  return true;
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,42 @@
+#include "plot/StyleTable.h"
+
+#include "plot/ParallelCoordinatesChart.h"
+#include "plot/PointChart3D.h"
+#include "plot/ReservedStyle.h"
+#include "plot/ScatterMatrix.h"
+#include "plot/XYChart.h"
+
+#include <cstddef>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+struct StyleEntry
+{
+  plotStyles style;
+  StyleBuilder builder;
+};
+
+constexpr StyleEntry styleTable[] = {
+    {xyPlot, drawXYChart},
+    {scatterPlotMatrix, drawScatterMatrix},
+    {xyzPlot, drawPointChart3D},
+    {parallelCoordinates, drawParallelCoordinates},
+};
+
+} // namespace
+
+StyleBuilder builderOf(plotStyles style)
+{
+  for (const StyleEntry& entry : styleTable)
+  {
+    if (entry.style == style)
+      return entry.builder;
+  }
+  return drawReservedStyle;
+}
+
+} // namespace Talmesh::plot

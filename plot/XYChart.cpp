@@ -1,0 +1,95 @@
+#include "plot/XYChart.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
+#include "plot/ChartLifetime.h"
+#include "plot/Margins.h"
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+#include "plot/PointAppearance.h"
+#include "plot/TableColumns.h"
+#include "plot/TickLabels.h"
+#include "plot/Titles.h"
+#include "plot/vtkShiftScaleCallback.h"
+#include "vtk/vtkPlotLineSet.h"
+
+#include <vtkAxis.h>
+#include <vtkCommand.h>
+#include <vtkPlotPoints.h>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+/// Part of the x range that stays empty beyond either end of the data.
+constexpr double rangePadding = 0.05;
+
+vtkPlot* addRuns(PlotState& state)
+{
+  vtkNew<vtkPlotLineSet> runs;
+  runs->SetStride(state.metaData->getStride());
+  runs->SetOnlyShowSelected(0);
+  state.chartXY->AddPlot(runs);
+  return runs;
+}
+
+vtkPlot* addPoints(PlotState& state)
+{
+  vtkPlot* plot = state.chartXY->AddPlot(vtkChart::POINTS);
+  if (auto* points = vtkPlotPoints::SafeDownCast(plot))
+    points->SetMarkerSize(static_cast<float>(state.metaData->pointSize));
+  return plot;
+}
+
+void dressBottomAxis(PlotState& state, const CoordinateWindow* window)
+{
+  vtkAxis* axis = state.chartXY->GetAxis(vtkAxis::BOTTOM);
+  double range[2];
+  if (window)
+  {
+    restoreBottomAxis(state, axis, *window, state.metaData->getLogX());
+  }
+  else if (finiteRange(doubleColumn(state.table, firstOf(state.metaData->xColumns)), range))
+  {
+    const double padding = (range[1] - range[0]) * rangePadding;
+    fixRange(axis, range[0] - padding, range[1] + padding);
+  }
+  applyTickLabels(state, axis);
+  axis->SetTitle(state.metaData->xLabel);
+}
+
+void dressLeftAxis(PlotState& state, const CoordinateWindow* window)
+{
+  vtkAxis* axis = state.chartXY->GetAxis(vtkAxis::LEFT);
+  if (window)
+    restoreLeftAxis(state, axis, *window);
+  else
+    // Both axes fit the data: the padded range only stands until the next layout.
+    state.chartXY->GetAxis(vtkAxis::BOTTOM)->SetBehavior(vtkAxis::AUTO);
+  axis->SetTitle(state.metaData->yLabel);
+}
+
+} // namespace
+
+void drawXYChart(PlotState& state, vtkContextScene* scene)
+{
+  ensureStandaloneChart(state);
+  showChart(state, state.chartXY, scene);
+  state.chartXY->ClearPlots();
+  applyXYBorders(state);
+  state.chartXY->SetAnnotationLink(state.annotationLink);
+  state.chartXY->AddObserver(vtkCommand::InteractionEvent, state.shiftScaleCallback);
+
+  vtkPlot* plot = state.metaData->getPlotLine() ? addRuns(state) : addPoints(state);
+  feedPlot(plot, state.table, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
+
+  const CoordinateWindow* window = rememberedWindow(state);
+  dressBottomAxis(state, window);
+  dressLeftAxis(state, window);
+  useColors(state, nullptr);
+  state.chartXY->SetTitle(state.metaData->title);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,7 @@
+#include "plot/vtkSelectionUpdateCallback.h"
+
+#include <vtkObjectFactory.h>
+
+vtkStandardNewMacro(vtkSelectionUpdateCallback);
+
+void vtkSelectionUpdateCallback::Execute(vtkObject*, unsigned long, void*) {}

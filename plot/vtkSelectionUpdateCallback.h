@@ -1,0 +1,25 @@
+#ifndef vtkSelectionUpdateCallback_h
+#define vtkSelectionUpdateCallback_h
+
+#include <vtkCommand.h>
+
+class PlotContainer;
+
+/// Reacts to every change of the selection: splits the runs, compares the parts, draws again.
+class vtkSelectionUpdateCallback : public vtkCommand
+{
+public:
+  vtkTypeMacro(vtkSelectionUpdateCallback, vtkCommand);
+  static vtkSelectionUpdateCallback* New();
+
+  /// @param caller the annotation link; anything else is ignored, as are the other arguments
+  void Execute(vtkObject* caller, unsigned long eventId, void* callData) override;
+
+  /// Not owned. Null until a container sets it and again once that container is gone.
+  PlotContainer* Container = nullptr;
+
+protected:
+  vtkSelectionUpdateCallback() = default;
+};
+
+#endif

@@ -1,0 +1,21 @@
+#include "plot/vtkShiftScaleCallback.h"
+
+#include "plot/AxisWindows.h"
+#include "plot/PlotContainer.h"
+
+#include <vtkAxis.h>
+#include <vtkChart.h>
+#include <vtkObjectFactory.h>
+
+vtkStandardNewMacro(vtkShiftScaleCallback);
+
+void vtkShiftScaleCallback::Execute(vtkObject* caller, unsigned long, void*)
+{
+  auto* chart = vtkChart::SafeDownCast(caller);
+  if (!chart || !this->Container)
+    return;
+  vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
+  vtkAxis* left = chart->GetAxis(vtkAxis::LEFT);
+  if (bottom && left)
+    Talmesh::plot::rememberWindow(this->Container->state(), bottom, left);
+}

@@ -1,0 +1,26 @@
+#ifndef vtkShiftScaleCallback_h
+#define vtkShiftScaleCallback_h
+
+#include <vtkCommand.h>
+
+class PlotContainer;
+
+/// Remembers the axis window that the user panned or zoomed to.
+class vtkShiftScaleCallback : public vtkCommand
+{
+public:
+  vtkTypeMacro(vtkShiftScaleCallback, vtkCommand);
+  static vtkShiftScaleCallback* New();
+
+  /// @param caller the chart that was panned or zoomed; anything but a chart with a bottom and a
+  ///   left axis is ignored, as are the other arguments
+  void Execute(vtkObject* caller, unsigned long eventId, void* callData) override;
+
+  /// Not owned. Null until a container sets it and again once that container is gone.
+  PlotContainer* Container = nullptr;
+
+protected:
+  vtkShiftScaleCallback() = default;
+};
+
+#endif
