@@ -1,0 +1,88 @@
+#include "widgets/VtkPlotWidget.h"
+
+#include "plot/PlotContainer.h"
+#include "widgets/ExportName.h"
+
+#include <vtkContextScene.h>
+#include <vtkContextView.h>
+#include <vtkGL2PSExporter.h>
+#include <vtkGenericOpenGLRenderWindow.h>
+#include <vtkNew.h>
+
+#include <QResizeEvent>
+
+VtkPlotWidget::VtkPlotWidget(QWidget* parent)
+  : QVTKOpenGLNativeWidget(parent)
+  , view(vtkSmartPointer<vtkContextView>::New())
+  , container(new PlotContainer(this))
+{
+  view->GetScene()->AddItem(container->getItem());
+  container->example();
+  container->redraw();
+  vtkNew<vtkGenericOpenGLRenderWindow> window;
+  setRenderWindow(window);
+  view->SetRenderWindow(window);
+  view->SetInteractor(interactor());
+  window->LineSmoothingOn();
+}
+
+VtkPlotWidget::~VtkPlotWidget() = default;
+
+void VtkPlotWidget::setPlotContainer(PlotContainer* replacement)
+{
+  if (!replacement)
+    return;
+  container = replacement;
+  container->setScene(view->GetScene());
+  container->redraw();
+  updatePlot(true);
+}
+
+PlotContainer* VtkPlotWidget::plotContainer() const
+{
+  return container;
+}
+
+vtkContextView* VtkPlotWidget::contextView() const
+{
+  return view;
+}
+
+void VtkPlotWidget::updatePlot(bool clear)
+{
+  if (clear)
+  {
+    // The item may be held by the scene alone, for example after its container died.
+    view->GetScene()->ClearItems();
+    if (container && container->getItem())
+      view->GetScene()->AddItem(container->getItem());
+  }
+  view->Render();
+}
+
+void VtkPlotWidget::printPlot(QString fileName)
+{
+  makeFramebufferReady();
+  vtkNew<vtkGL2PSExporter> exporter;
+  exporter->SetRenderWindow(renderWindow());
+  exporter->SetFileFormatToPDF();
+  exporter->SetSortToOff();
+  exporter->CompressOff();
+  exporter->SimpleLineOffsetOff();
+  exporter->SilentOn();
+  exporter->SetFilePrefix(exportPrefix(fileName).toLocal8Bit().constData());
+  exporter->Write();
+}
+
+void VtkPlotWidget::makeFramebufferReady()
+{
+  // A widget that was never shown has neither a context nor a size; grabbing makes both.
+  if (!isValid())
+  {
+    grabFramebuffer();
+    QResizeEvent resized(size(), QSize());
+    resizeEvent(&resized);
+  }
+  grabFramebuffer();
+  makeCurrent();
+}

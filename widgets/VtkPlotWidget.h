@@ -1,0 +1,50 @@
+#ifndef VtkPlotWidget_h
+#define VtkPlotWidget_h
+
+#include <QVTKOpenGLNativeWidget.h>
+#include <vtkSmartPointer.h>
+
+#include <QPointer>
+#include <QString>
+
+class PlotContainer;
+class vtkContextView;
+
+/// Shows one plot container and exports its picture. A new widget shows the example plot.
+///
+/// The program must set QVTKOpenGLNativeWidget::defaultFormat() as QSurfaceFormat's default before
+/// it makes its QApplication.
+class VtkPlotWidget : public QVTKOpenGLNativeWidget
+{
+  Q_OBJECT
+
+public:
+  explicit VtkPlotWidget(QWidget* parent = nullptr);
+  ~VtkPlotWidget() override;
+
+  /// Shows another container, which stays its owner's and must be replaced here before it dies.
+  /// The container that the widget made stays the widget's child. Null is ignored.
+  void setPlotContainer(PlotContainer* container);
+  /// The container shown; null after it died.
+  PlotContainer* plotContainer() const;
+  /// The view whose scene holds the chart.
+  vtkContextView* contextView() const;
+
+  /// Writes the picture as a vector PDF named `fileName` without its last ".pdf", followed by
+  /// ".pdf". A ".pdf" that starts at position 0 or 1 stays in the name. A failure is reported
+  /// through VTK's error output only. Works for a widget that was never shown.
+  void printPlot(QString fileName);
+
+public slots:
+  /// Renders; with `clear` the scene first gets the container's current chart as its only item,
+  /// which is how a chart that a redraw exchanged reaches the screen.
+  void updatePlot(bool clear = true);
+
+private:
+  void makeFramebufferReady();
+
+  vtkSmartPointer<vtkContextView> view;
+  QPointer<PlotContainer> container;
+};
+
+#endif
