@@ -11,7 +11,7 @@ void drawReservedStyle(PlotState& state, vtkContextScene* scene)
 {
   ensureStandaloneChart(state);
   showChart(state, state.chartXY, scene);
-  if (state.chartXY != state.sobolChart)
+  if (state.chartXY != state.sobolChart.Get())
     state.chartXY->ClearPlots();
   setPlotTitle(state, "Not yet implemented");
 }

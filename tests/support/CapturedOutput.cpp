@@ -1,8 +1,8 @@
 #include "support/CapturedOutput.h"
 
 CapturedOutput::CapturedOutput(std::ostream& captured)
-  : stream(captured)
-  , previous(captured.rdbuf(buffer.rdbuf()))
+    : stream(captured)
+    , previous(captured.rdbuf(buffer.rdbuf()))
 {
 }
 

@@ -1,0 +1,5 @@
+#include "plot/PlotContainer.h"
+
+void PlotContainer::shrinkToColumnSelection() {}
+void PlotContainer::drawMulitPlot(vtkContextScene*) {}
+void PlotContainer::drawSelectionCdfPlot(vtkContextScene*) {}

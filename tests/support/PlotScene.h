@@ -1,0 +1,32 @@
+#ifndef PlotScene_h
+#define PlotScene_h
+
+#include <vtkContextScene.h>
+#include <vtkContextView.h>
+#include <vtkRenderWindow.h>
+#include <vtkSmartPointer.h>
+
+#include <array>
+#include <string>
+
+class PlotContainer;
+
+/// A view without a window on the screen, into which a container draws as it would into a widget's.
+class PlotScene
+{
+public:
+  explicit PlotScene(int width = 640, int height = 480);
+
+  vtkContextScene* scene() const { return view->GetScene(); }
+  /// Makes the container's chart the scene's only item, as the widget does, and renders.
+  void render(const PlotContainer& container);
+  /// Number of pixels of the last rendering that are not background white.
+  int paintedPixels();
+  /// Writes the last rendering as PNG, for a person to look at.
+  void writePng(const std::string& fileName);
+
+private:
+  vtkSmartPointer<vtkContextView> view;
+};
+
+#endif
