@@ -1,0 +1,191 @@
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "support/CapturedOutput.h"
+#include "support/SampleTables.h"
+#include "widgets/VtkPlotWidget.h"
+#include "widgets/WidgetSupport.h"
+
+#include <vtkAbstractContextItem.h>
+#include <vtkChartXY.h>
+#include <vtkContextScene.h>
+#include <vtkContextView.h>
+#include <vtkScatterPlotMatrix.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QMetaMethod>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace
+{
+
+vtkAbstractContextItem* shownItem(const VtkPlotWidget& widget)
+{
+  vtkContextScene* scene = widget.contextView()->GetScene();
+  return scene->GetNumberOfItems() == 1 ? scene->GetItem(0) : nullptr;
+}
+
+/// Pixels of the widget's picture that are not white.
+int paintedPixels(VtkPlotWidget& widget)
+{
+  const QImage picture = widget.grabFramebuffer();
+  int painted = 0;
+  for (int y = 0; y < picture.height(); ++y)
+  {
+    for (int x = 0; x < picture.width(); ++x)
+    {
+      if (picture.pixelColor(x, y) != QColor(Qt::white))
+        ++painted;
+    }
+  }
+  return painted;
+}
+
+QByteArray contentOf(const QString& fileName)
+{
+  QFile file(fileName);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(VtkPlotWidget, ShowsTheExamplePlotFromTheStart)
+{
+  VtkPlotWidget widget;
+  ASSERT_NE(widget.plotContainer(), nullptr);
+  EXPECT_EQ(widget.plotContainer()->parent(), &widget);
+  EXPECT_EQ(widget.plotContainer()->getTable()->GetNumberOfRows(), 400);
+  EXPECT_EQ(widget.plotContainer()->getMetaData()->title, "Example Plot");
+  EXPECT_EQ(shownItem(widget), widget.plotContainer()->getItem());
+  widget.resize(400, 300);
+  widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+  EXPECT_GT(paintedPixels(widget), 1000);
+}
+
+TEST(VtkPlotWidget, OffersExactlyItsTwoSlots)
+{
+  const QMetaObject& meta = VtkPlotWidget::staticMetaObject;
+  EXPECT_STREQ(meta.className(), "VtkPlotWidget");
+  ASSERT_EQ(meta.methodCount() - meta.methodOffset(), 2);
+  EXPECT_EQ(meta.method(meta.methodOffset()).methodSignature(), "updatePlot(bool)");
+  EXPECT_EQ(meta.method(meta.methodOffset()).parameterNames(), QList<QByteArray>{"clear"});
+  EXPECT_EQ(meta.method(meta.methodOffset() + 1).methodSignature(), "updatePlot()");
+  EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
+}
+
+TEST(VtkPlotWidget, ShowsAnExchangedChartOnlyWhenItClearsTheScene)
+{
+  VtkPlotWidget widget;
+  vtkAbstractContextItem* before = shownItem(widget);
+  widget.plotContainer()->setPlotStyle(scatterPlotMatrix);
+  widget.updatePlot(false);
+  EXPECT_EQ(shownItem(widget), before);
+  widget.updatePlot(true);
+  EXPECT_TRUE(vtkScatterPlotMatrix::SafeDownCast(shownItem(widget)));
+  widget.plotContainer()->setPlotStyle(xyPlot);
+  widget.updatePlot();
+  EXPECT_TRUE(vtkChartXY::SafeDownCast(shownItem(widget)));
+}
+
+TEST(VtkPlotWidget, ShowsAnotherContainerWithoutOwningIt)
+{
+  PlotContainer other(nullptr);
+  other.setPlotData(plainTable());
+  {
+    VtkPlotWidget widget;
+    PlotContainer* own = widget.plotContainer();
+    widget.setPlotContainer(&other);
+    EXPECT_EQ(widget.plotContainer(), &other);
+    EXPECT_EQ(shownItem(widget), other.getItem());
+    EXPECT_EQ(own->parent(), &widget);
+    widget.setPlotContainer(nullptr);
+    EXPECT_EQ(widget.plotContainer(), &other);
+  }
+  CapturedOutput output(std::cout);
+  other.redraw();
+  EXPECT_EQ(output.text(), "void PlotContainer::redraw(): invalid scene\n");
+}
+
+TEST(VtkPlotWidget, MovesAContainerFromOneWidgetToAnother)
+{
+  PlotContainer container(nullptr);
+  container.setPlotData(plainTable());
+  VtkPlotWidget first;
+  VtkPlotWidget second;
+  first.setPlotContainer(&container);
+  second.setPlotContainer(&container);
+  EXPECT_EQ(first.contextView()->GetScene()->GetNumberOfItems(), 0U);
+  EXPECT_EQ(shownItem(second), container.getItem());
+  first.updatePlot(false);
+}
+
+TEST(VtkPlotWidget, SurvivesTheDeathOfItsContainer)
+{
+  VtkPlotWidget widget;
+  widget.show();
+  {
+    PlotContainer other(nullptr);
+    other.setPlotData(plainTable());
+    widget.setPlotContainer(&other);
+  }
+  EXPECT_EQ(widget.plotContainer(), nullptr);
+  widget.updatePlot(false);
+  widget.updatePlot(true);
+  QApplication::processEvents();
+}
+
+class PdfExport : public ::testing::Test
+{
+protected:
+  QString path(const char* name) const { return folder.filePath(name); }
+  QTemporaryDir folder;
+};
+
+TEST_F(PdfExport, WritesAPictureBeforeTheWidgetWasEverShown)
+{
+  VtkPlotWidget widget;
+  widget.resize(500, 400);
+  widget.printPlot(path("plot.pdf"));
+  const QByteArray pdf = contentOf(path("plot.pdf"));
+  EXPECT_TRUE(pdf.startsWith("%PDF"));
+  EXPECT_GT(pdf.size(), 10000);
+  EXPECT_TRUE(pdf.contains("/MediaBox [ 0 0 500 400 ]") || pdf.contains("500 400")) << pdf.left(600).toStdString();
+}
+
+TEST_F(PdfExport, WritesTheShownWidget)
+{
+  VtkPlotWidget widget;
+  widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+  widget.printPlot(path("a.pdf.pdf"));
+  EXPECT_TRUE(QFile::exists(path("a.pdf.pdf")));
+  EXPECT_FALSE(QFile::exists(path("a.pdf")));
+  widget.printPlot(path("noSuffix"));
+  EXPECT_TRUE(contentOf(path("noSuffix.pdf")).startsWith("%PDF"));
+  EXPECT_GT(paintedPixels(widget), 1000) << "the widget still shows its picture";
+}
+
+TEST_F(PdfExport, DrawsTheCurvesAsVectors)
+{
+  VtkPlotWidget small;
+  small.resize(500, 400);
+  small.printPlot(path("small.pdf"));
+  VtkPlotWidget large;
+  large.resize(1000, 800);
+  large.printPlot(path("large.pdf"));
+  const auto smallSize = static_cast<double>(contentOf(path("small.pdf")).size());
+  const auto largeSize = static_cast<double>(contentOf(path("large.pdf")).size());
+  EXPECT_LT(largeSize, 2.0 * smallSize) << "an image would have four times the pixels";
+}
+
+TEST(WidgetSupport, AsksForThePlatformsFileDialog)
+{
+  EXPECT_EQ(static_cast<int>(getFileDialogOption()), 0);
+  QT_BUG_26351_WORKAROUND(nullptr);
+}
+
+} // namespace
