@@ -1,0 +1,208 @@
+#include "vtk/CombinedSelection.h"
+
+#include <vtkAlgorithm.h>
+#include <vtkAnnotation.h>
+#include <vtkAnnotationLayers.h>
+#include <vtkConvertSelection.h>
+#include <vtkDataArray.h>
+#include <vtkDataSetAttributes.h>
+#include <vtkExecutive.h>
+#include <vtkIdTypeArray.h>
+#include <vtkInformation.h>
+#include <vtkInformationVector.h>
+#include <vtkNew.h>
+#include <vtkSelection.h>
+#include <vtkSelectionNode.h>
+#include <vtkTable.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace Talmesh
+{
+namespace
+{
+// VTK drops rows when it unites with a node that lists nothing, and looks into the missing list
+// when it converts one.
+bool listsNothing(vtkSelectionNode* node)
+{
+  switch (node->GetContentType())
+  {
+  case vtkSelectionNode::GLOBALIDS:
+  case vtkSelectionNode::PEDIGREEIDS:
+  case vtkSelectionNode::VALUES:
+  case vtkSelectionNode::INDICES:
+    return node->GetSelectionList() == nullptr;
+  default:
+    return false;
+  }
+}
+
+void addRow(SelectedRows& rows, vtkIdType row)
+{
+  rows.listed.push_back(row);
+  rows.marked[static_cast<std::size_t>(row)] = true;
+}
+
+void addListedRows(SelectedRows& rows, vtkIdTypeArray* list, vtkIdType rowCount)
+{
+  for (vtkIdType i = 0; i < list->GetNumberOfValues(); ++i)
+  {
+    const vtkIdType row = list->GetValue(i);
+    if (row >= 0 && row < rowCount)
+      addRow(rows, row);
+  }
+}
+
+void addUnlistedRows(SelectedRows& rows, vtkIdTypeArray* list, vtkIdType rowCount)
+{
+  std::vector<bool> isListed(static_cast<std::size_t>(rowCount), false);
+  for (vtkIdType i = 0; i < list->GetNumberOfValues(); ++i)
+  {
+    const vtkIdType row = list->GetValue(i);
+    if (row >= 0 && row < rowCount)
+      isListed[static_cast<std::size_t>(row)] = true;
+  }
+  for (vtkIdType row = 0; row < rowCount; ++row)
+  {
+    if (!isListed[static_cast<std::size_t>(row)])
+      addRow(rows, row);
+  }
+}
+} // namespace
+
+RowFilterPorts::RowFilterPorts(vtkInformationVector** input, vtkInformationVector* output)
+    : table(vtkTable::GetData(input[0]))
+    , selection(vtkSelection::GetData(input[1]))
+    , annotations(vtkAnnotationLayers::GetData(input[2]))
+    , outputs{vtkTable::GetData(output, 0), vtkTable::GetData(output, 1)}
+{
+}
+
+int fillRowFilterPort(int port, vtkInformation* info)
+{
+  const char* const types[] = {"vtkTable", "vtkSelection", "vtkAnnotationLayers"};
+  if (port < 0 || port > 2)
+    return 0;
+  info->Set(vtkAlgorithm::INPUT_REQUIRED_DATA_TYPE(), types[port]);
+  if (port > 0)
+    info->Set(vtkAlgorithm::INPUT_IS_OPTIONAL(), 1);
+  return 1;
+}
+
+bool contributes(vtkAnnotation* annotation)
+{
+  vtkInformation* info = annotation->GetInformation();
+  if (!info->Has(vtkAnnotation::ENABLE()))
+    return true;
+  const int enabled = info->Get(vtkAnnotation::ENABLE());
+  if (enabled == 0)
+    return false;
+  const bool hidden =
+      info->Has(vtkAnnotation::HIDE()) != 0 && info->Get(vtkAnnotation::HIDE()) == 1;
+  return !(enabled == 1 && hidden);
+}
+
+CombinedSelection combineSelections(vtkSelection* selection, vtkAnnotationLayers* annotations)
+{
+  CombinedSelection combined;
+  combined.selection = vtkSmartPointer<vtkSelection>::New();
+  if (selection)
+  {
+    // Selections copied shallowly share their nodes, and both uniting and converting write to them.
+    combined.selection->DeepCopy(selection);
+    for (unsigned int i = combined.selection->GetNumberOfNodes(); i-- > 0;)
+    {
+      if (listsNothing(combined.selection->GetNode(i)))
+        combined.selection->RemoveNode(i);
+    }
+    ++combined.sources;
+  }
+  const unsigned int count = annotations ? annotations->GetNumberOfAnnotations() : 0;
+  for (unsigned int a = 0; a < count; ++a)
+  {
+    vtkAnnotation* annotation = annotations->GetAnnotation(a);
+    if (!contributes(annotation))
+      continue;
+    ++combined.sources;
+    vtkSelection* annotated = annotation->GetSelection();
+    const unsigned int nodes = annotated ? annotated->GetNumberOfNodes() : 0;
+    for (unsigned int i = 0; i < nodes; ++i)
+    {
+      if (!listsNothing(annotated->GetNode(i)))
+        combined.selection->Union(annotated->GetNode(i));
+    }
+  }
+  return combined;
+}
+
+vtkSmartPointer<vtkSelection> toRowIndices(vtkSelection* combined, vtkTable* table)
+{
+  // vtkConvertSelection::ToSelectionType() would do, but it hides whether the conversion failed.
+  vtkNew<vtkTable> data;
+  data->ShallowCopy(table);
+  vtkNew<vtkConvertSelection> convert;
+  convert->SetInputData(0, combined);
+  convert->SetInputData(1, data);
+  convert->SetOutputType(vtkSelectionNode::INDICES);
+  convert->SetInputFieldType(vtkSelectionNode::ROW);
+  if (!convert->GetExecutive()->Update())
+    return nullptr;
+  return convert->GetOutput();
+}
+
+SelectedRows selectedRows(vtkSelection* indices, vtkIdType rowCount)
+{
+  SelectedRows rows;
+  rows.marked.assign(static_cast<std::size_t>(rowCount), false);
+  for (unsigned int i = 0; i < indices->GetNumberOfNodes(); ++i)
+  {
+    vtkSelectionNode* node = indices->GetNode(i);
+    auto* list = vtkArrayDownCast<vtkIdTypeArray>(node->GetSelectionList());
+    if (node->GetFieldType() != vtkSelectionNode::ROW || !list)
+      continue;
+    if (node->GetProperties()->Get(vtkSelectionNode::INVERSE()) == 0)
+      addListedRows(rows, list, rowCount);
+    else
+      addUnlistedRows(rows, list, rowCount);
+  }
+  return rows;
+}
+
+std::vector<double> rowTimes(vtkAbstractArray* column, vtkIdType rowCount)
+{
+  std::vector<double> times(static_cast<std::size_t>(rowCount),
+                            std::numeric_limits<double>::quiet_NaN());
+  auto* values = vtkArrayDownCast<vtkDataArray>(column);
+  const vtkIdType known = values ? std::min(rowCount, values->GetNumberOfTuples()) : 0;
+  for (vtkIdType row = 0; row < known; ++row)
+    times[static_cast<std::size_t>(row)] = values->GetComponent(row, 0);
+  return times;
+}
+
+void copyColumnStructure(vtkTable* source, vtkTable* target)
+{
+  target->GetRowData()->CopyStructure(source->GetRowData());
+}
+
+void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* target)
+{
+  for (vtkIdType c = 0; c < source->GetNumberOfColumns(); ++c)
+  {
+    vtkAbstractArray* from = source->GetColumn(c);
+    vtkAbstractArray* to = target->GetColumn(c);
+    for (const vtkIdType row : rows)
+      to->InsertNextTuple(row, from);
+  }
+}
+
+vtkSmartPointer<vtkIdTypeArray> makeIdColumn(const char* name, const std::vector<vtkIdType>& values)
+{
+  auto column = vtkSmartPointer<vtkIdTypeArray>::New();
+  column->SetName(name);
+  column->SetNumberOfValues(static_cast<vtkIdType>(values.size()));
+  for (std::size_t i = 0; i < values.size(); ++i)
+    column->SetValue(static_cast<vtkIdType>(i), values[i]);
+  return column;
+}
+} // namespace Talmesh

@@ -1,0 +1,91 @@
+#ifndef vtkCombinedFilterAndSelectedRows_h
+#define vtkCombinedFilterAndSelectedRows_h
+
+#include "vtk/VtkCompat.h"
+
+#include <vtkTableAlgorithm.h>
+
+#include <vector>
+
+/// Splits a table of stacked runs by the runs that are selected at every selected time.
+///
+/// A run occupies Stride consecutive rows. It is accepted if, at every distinct time at which
+/// any row is selected, a row of the run is selected. Output 0 holds the selected rows of the
+/// accepted runs; output 1 holds, in row order, the selected rows of all other runs and the
+/// unselected rows whose time equals a selected one exactly.
+///
+/// Input 0 is the table, input 1 an optional vtkSelection, input 2 optional vtkAnnotationLayers;
+/// the selection and the annotations that are enabled and not hidden are united. With annotations
+/// alone and none of them contributing, output 0 is a shallow copy of the input and output 1 empty.
+///
+/// The filter writes three vtkIdTypeArray columns of 0 and 1 to its input table, one value per
+/// row: "vtkComplementSelection" (unselected row of output 1), "vtkReducedSelection" (selected row
+/// of output 1) and "vtkRemainderSelection" (row of output 0). They replace columns of the same
+/// name. Nothing is written and both outputs have no rows when no selected row has a time, as when
+/// the time column is missing or not a vtkDoubleArray; NaN counts as no time.
+///
+/// Update() fails, with a VTK error and untouched outputs, without any selection input, with a
+/// negative TimeColumnIndex or ParaCount, and when the selection cannot be converted to row
+/// indices.
+class vtkCombinedFilterAndSelectedRows : public vtkTableAlgorithm
+{
+public:
+  static vtkCombinedFilterAndSelectedRows* New();
+  TALMESH_VTK_TYPE(vtkCombinedFilterAndSelectedRows, vtkTableAlgorithm);
+  void PrintSelf(ostream& os, vtkIndent indent) override;
+
+  /// Connects the vtkSelection (input port 1).
+  void SetSelectionConnection(vtkAlgorithmOutput* in);
+  /// Connects the vtkAnnotationLayers (input port 2).
+  void SetAnnotationLayersConnection(vtkAlgorithmOutput* in);
+
+  int FillInputPortInformation(int port, vtkInformation* info) override;
+  int RequestData(vtkInformation* request, vtkInformationVector** inputVector,
+                  vtkInformationVector* outputVector) override;
+
+  ///@{
+  /// Whether both outputs get a column "vtkOriginalRowIds" of input row numbers. Default false.
+  vtkSetMacro(AddOriginalRowIdsArray, bool);
+  vtkGetMacro(AddOriginalRowIdsArray, bool);
+  vtkBooleanMacro(AddOriginalRowIdsArray, bool);
+  ///@}
+
+  ///@{
+  /// Input column that holds the time of each row. Default -1, which must be replaced.
+  vtkSetMacro(TimeColumnIndex, vtkIdType);
+  vtkGetMacro(TimeColumnIndex, vtkIdType);
+  ///@}
+
+  ///@{
+  /// Number of parameter columns. Default -1, which must be replaced.
+  vtkSetMacro(ParaCount, vtkIdType);
+  vtkGetMacro(ParaCount, vtkIdType);
+  ///@}
+
+  ///@{
+  /// Rows per run; values below 1 count as 1. Default 1.
+  vtkSetMacro(Stride, vtkIdType);
+  vtkGetMacro(Stride, vtkIdType);
+  ///@}
+
+  /// Indices of the parameter columns; carried for the filter's user, not read by the filter.
+  std::vector<int> ParameterColumns;
+
+protected:
+  vtkCombinedFilterAndSelectedRows();
+  ~vtkCombinedFilterAndSelectedRows() override = default;
+
+  bool AddOriginalRowIdsArray = false;
+  vtkIdType TimeColumnIndex = -1;
+  vtkIdType ParaCount = -1;
+  vtkIdType Stride = 1;
+
+private:
+  vtkCombinedFilterAndSelectedRows(const vtkCombinedFilterAndSelectedRows&) = delete;
+  void operator=(const vtkCombinedFilterAndSelectedRows&) = delete;
+
+  bool CheckInputs(bool hasSelectionSource);
+  void ReportFailedConversion();
+};
+
+#endif

@@ -1,0 +1,57 @@
+#include "vtk/vtkPlotInvisiblePoints.h"
+
+#include "vtk/PlotItemPainting.h"
+
+#include <vtkContext2D.h>
+#include <vtkFloatArray.h>
+#include <vtkIdTypeArray.h>
+#include <vtkObjectFactory.h>
+#include <vtkPen.h>
+#include <vtkPoints2D.h>
+
+vtkStandardNewMacro(vtkPlotInvisiblePoints);
+
+void vtkPlotInvisiblePoints::PrintSelf(ostream& os, vtkIndent indent)
+{
+  this->Superclass::PrintSelf(os, indent);
+}
+
+bool vtkPlotInvisiblePoints::Paint(vtkContext2D* painter)
+{
+  if (!this->Visible || !this->Points || this->Points->GetNumberOfPoints() == 0)
+    return false;
+  if (!this->OnlyShowSelected)
+  {
+    const Talmesh::SelectionWithin inside(this->Selection, this->Points->GetNumberOfPoints());
+    return this->Superclass::Paint(painter);
+  }
+  if (!this->Selection || this->Selection->GetNumberOfValues() == 0)
+    return true;
+
+  const vtkMTimeType built = this->SelectedPoints->GetMTime();
+  if (this->Selection->GetMTime() > built || this->GetMTime() > built)
+    this->UpdateSelectedPoints();
+  const auto selectedCount = static_cast<int>(this->SelectedPoints->GetNumberOfTuples());
+  Talmesh::applyHighlightPen(painter, Talmesh::effectiveMarkerSize(this->MarkerSize, this->Pen));
+  if (selectedCount > 0)
+    painter->DrawMarkers(this->MarkerStyle, true, this->SelectedPoints->GetPointer(0),
+                         selectedCount);
+  return true;
+}
+
+void vtkPlotInvisiblePoints::UpdateSelectedPoints()
+{
+  const vtkIdType pointCount = this->Points->GetNumberOfPoints();
+  const float* const points = static_cast<float*>(this->Points->GetVoidPointer(0));
+  this->SelectedPoints->SetNumberOfComponents(2);
+  this->SelectedPoints->SetNumberOfTuples(0);
+  for (vtkIdType i = 0; i < this->Selection->GetNumberOfValues(); ++i)
+  {
+    const vtkIdType id = this->Selection->GetValue(i);
+    if (id < 0 || id >= pointCount)
+      continue;
+    this->SelectedPoints->InsertNextValue(points[2 * id]);
+    this->SelectedPoints->InsertNextValue(points[2 * id + 1]);
+  }
+  this->SelectedPoints->Modified();
+}
