@@ -1,0 +1,131 @@
+#include "stats/RankedParameter.h"
+
+#include "stats/RankedDensity.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Talmesh::stats
+{
+namespace
+{
+/// A strict weak order also with NaN, which plain "less" is not.
+bool lessWithNanLast(double a, double b)
+{
+  return std::isnan(b) ? !std::isnan(a) : a < b;
+}
+
+void rankDegenerate(const ParameterSupport& support, RankedParameter& result)
+{
+  const std::size_t positions = result.ranks.size();
+  for (std::size_t i = 0; i < positions; ++i)
+  {
+    result.ranks[i] = i >= positions / 2 ? 1.0 : 0.0;
+    result.sortedValues[i] =
+        static_cast<double>(i) * support.range / static_cast<double>(positions) + support.lower;
+  }
+}
+
+void rankValues(const std::vector<double>& filled, RankedParameter& result)
+{
+  for (std::size_t i = 0; i < filled.size(); ++i)
+  {
+    result.ranks[i] = static_cast<double>(i + 1) / static_cast<double>(filled.size());
+    result.sortedValues[i] = filled[i];
+  }
+}
+
+RankedParameter rankParameter(std::vector<double> values, const ParameterSupport& support,
+                              std::size_t positions, const KernelDensity& kernelDensity)
+{
+  RankedParameter result;
+  result.valueCount = values.size();
+  values.resize(positions,
+                values.empty() ? std::numeric_limits<double>::quiet_NaN() : values.back());
+  result.ranks = DoubleBuffer(positions);
+  result.sortedValues = DoubleBuffer(positions);
+  if (support.degenerate)
+  {
+    rankDegenerate(support, result);
+  }
+  else
+  {
+    rankValues(values, result);
+  }
+  result.densities = DoubleBuffer(densityLocations);
+  result.locations = DoubleBuffer(densityLocations);
+  estimateDensity(values, support, kernelDensity, result.densities, result.locations);
+  return result;
+}
+} // namespace
+
+std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValue& valueAt)
+{
+  const std::size_t step = static_cast<std::size_t>(std::max(stride, 1));
+  std::vector<double> values;
+  values.reserve(rows / step + 1);
+  for (std::size_t row = 0; row < rows; row += step)
+  {
+    values.push_back(valueAt(row));
+  }
+  std::sort(values.begin(), values.end(), lessWithNanLast);
+  return values;
+}
+
+std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt)
+{
+  std::vector<double> values = thinnedValues(rows, 1, valueAt);
+  values.erase(std::unique(values.begin(), values.end()), values.end());
+  return values;
+}
+
+ParameterSupport parameterSupport(const std::vector<double>& sorted,
+                                  const std::optional<std::pair<double, double>>& bounds)
+{
+  const auto isNumber = [](double value) { return !std::isnan(value); };
+  const auto last = std::find_if(sorted.rbegin(), sorted.rend(), isNumber);
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const double smallest = last == sorted.rend() ? nan : sorted.front();
+  const double largest = last == sorted.rend() ? nan : *last;
+
+  ParameterSupport support;
+  support.lower = bounds ? bounds->first : smallest;
+  support.upper = bounds ? std::fmax(bounds->second, largest) : largest;
+  support.range = support.upper > std::numeric_limits<double>::max()
+                      ? 1.1 * largest - support.lower
+                      : support.upper - support.lower;
+  if (support.range == 0.0)
+  {
+    support.lower *= 0.95;
+    support.upper *= 1.05;
+    support.range = support.upper - support.lower;
+    support.degenerate = true;
+  }
+  return support;
+}
+
+RankedParameters rankParameters(std::vector<std::optional<std::vector<double>>> lists,
+                                const std::vector<std::pair<double, double>>& bounds,
+                                const KernelDensity& kernelDensity)
+{
+  RankedParameters result;
+  result.boundsIgnored = lists.size() != bounds.size();
+  for (const auto& list : lists)
+  {
+    result.positions = std::max(result.positions, list ? list->size() : 0);
+  }
+  for (std::size_t k = 0; k < lists.size(); ++k)
+  {
+    result.parameters.emplace_back();
+    if (lists[k])
+    {
+      const auto pair = result.boundsIgnored ? std::nullopt : std::make_optional(bounds[k]);
+      const ParameterSupport support = parameterSupport(*lists[k], pair);
+      result.parameters.back() =
+          rankParameter(std::move(*lists[k]), support, result.positions, kernelDensity);
+    }
+  }
+  return result;
+}
+} // namespace Talmesh::stats
