@@ -4,6 +4,7 @@
 #include "plot/ChartLifetime.h"
 #include "plot/PlotState.h"
 #include "plot/Redraw.h"
+#include "plot/SelectionFlags.h"
 #include "plot/SettingsSignals.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
@@ -74,7 +75,7 @@ PlotContainer::PlotContainer(const PlotContainer& other)
   makeCharts(*d);
   connectParts();
   if (vtkSmartPointer<vtkIntArray> selected = vtk::TakeSmartPointer(other.getCurrentSelection()))
-    d->table->AddColumn(selected);
+    Talmesh::plot::replaceFlagColumn(d->table, selected);
   selectionFromFlagColumn();
   redraw();
 }

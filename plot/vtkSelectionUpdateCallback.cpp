@@ -1,7 +1,71 @@
 #include "plot/vtkSelectionUpdateCallback.h"
 
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/PlotState.h"
+#include "plot/RunSplit.h"
+#include "plot/SettingsSignals.h"
+
+#include <vtkAnnotationLink.h>
 #include <vtkObjectFactory.h>
+
+#include <exception>
+#include <functional>
+#include <iostream>
 
 vtkStandardNewMacro(vtkSelectionUpdateCallback);
 
-void vtkSelectionUpdateCallback::Execute(vtkObject*, unsigned long, void*) {}
+namespace
+{
+
+/// Tables that belong to the container's own data: ranks and densities.
+constexpr std::size_t ownTables = 2;
+
+/// Appends a further data set and ranks its parameters.
+/// @return the slot of its rank table
+std::size_t addDataSet(PlotContainer& container, const vtkSmartPointer<vtkTable>& data)
+{
+  auto& tables = container.state().derivedTables;
+  tables.push_back(data);
+  const std::size_t rankTable = tables.size();
+  container.generateRankedParameters(data, rankTable);
+  return rankTable;
+}
+
+void compareRuns(PlotContainer& container, vtkAnnotationLink* link)
+{
+  const Talmesh::plot::RunSplit split = Talmesh::plot::splitRuns(container.state(), link);
+  if (split.selected->GetNumberOfRows() < 1 || !split.remaining)
+    return;
+  const std::size_t selected = addDataSet(container, split.selected);
+  const std::size_t remaining = addDataSet(container, split.remaining);
+  container.ksTestSelection(selected, remaining);
+}
+
+/// VTK's event dispatch, from which the callback is called, must not be left by an exception.
+void reportFailure(PlotContainer& container, const std::function<void()>& step)
+{
+  try
+  {
+    step();
+  }
+  catch (const std::exception& problem)
+  {
+    Talmesh::plot::unblockSettings(container.state());
+    std::cerr << "void vtkSelectionUpdateCallback::Execute(vtkObject*, unsigned long int, void*): "
+              << problem.what() << std::endl;
+  }
+}
+
+} // namespace
+
+void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*)
+{
+  auto* link = vtkAnnotationLink::SafeDownCast(caller);
+  if (!link || !this->Container || this->Container->getMetaData()->parameterColumns.empty())
+    return;
+  PlotContainer& container = *this->Container;
+  container.state().derivedTables.resize(ownTables);
+  reportFailure(container, [&] { compareRuns(container, link); });
+  reportFailure(container, [&] { container.redraw(); });
+}

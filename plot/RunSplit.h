@@ -1,0 +1,35 @@
+#ifndef RunSplit_h
+#define RunSplit_h
+
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
+
+class vtkAnnotationLink;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// The plot table parted by a selection.
+struct RunSplit
+{
+  /// Selected rows of the runs that are selected at every selected time; never null.
+  vtkSmartPointer<vtkTable> selected;
+  /// The rows to compare them with; null if there is no such table.
+  vtkSmartPointer<vtkTable> remaining;
+};
+
+/// Position of the column that holds the time of each row: the first with "Value", "Time" or
+/// "Period" in its name; without one, two places in front of the first parameter column, which may
+/// be no column.
+int timeColumnOf(const PlotState& state);
+
+/// Parts the plot table by the selection and annotations of `link`, and marks its rows in the
+/// columns that vtkCombinedFilterAndSelectedRows writes. A table without a time column is reported
+/// by VTK and gives two tables without rows.
+RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link);
+
+} // namespace Talmesh::plot
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef SelectionFlags_h
+#define SelectionFlags_h
+
+#include <vtkIntArray.h>
+#include <vtkSmartPointer.h>
+
+class vtkTable;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Name of the column that keeps a selection with its table.
+inline constexpr char selectionFlagColumn[] = "selected points";
+
+/// One flag per table row: 1 where the annotation link's selection or one of its contributing
+/// annotations names the row, 0 elsewhere. Neither selection nor annotations are changed.
+/// @return null when the link holds neither layers nor a selection, or when VTK cannot say which
+///   rows the selection names
+vtkSmartPointer<vtkIntArray> selectionFlags(const PlotState& state);
+
+/// Makes the rows whose entry is exactly 1 in the table's last column the link's selection, which
+/// the link announces. Does nothing if that column is not a vtkIntArray.
+void selectFlaggedRows(PlotState& state);
+
+/// Appends `flags` under its own name, so that it is the last column: an older column of flags
+/// goes, and the columns behind that one move down by one place.
+/// @param flags one value per row of `table`
+void replaceFlagColumn(vtkTable* table, vtkIntArray* flags);
+
+} // namespace Talmesh::plot
+
+#endif

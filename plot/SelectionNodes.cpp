@@ -1,0 +1,35 @@
+#include "plot/SelectionNodes.h"
+
+#include <vtkIdTypeArray.h>
+#include <vtkNew.h>
+#include <vtkSelection.h>
+#include <vtkSelectionNode.h>
+
+#include <algorithm>
+
+namespace Talmesh::plot
+{
+
+vtkSmartPointer<vtkSelection> makeRowSelection(vtkIdTypeArray* rows)
+{
+  // VTK looks into the list of a node of indices without asking whether it has one.
+  if (!rows)
+    return makeRowSelection(std::vector<vtkIdType>{});
+  vtkNew<vtkSelectionNode> node;
+  node->SetFieldType(vtkSelectionNode::ROW);
+  node->SetContentType(vtkSelectionNode::INDICES);
+  node->SetSelectionList(rows);
+  auto selection = vtkSmartPointer<vtkSelection>::New();
+  selection->AddNode(node);
+  return selection;
+}
+
+vtkSmartPointer<vtkSelection> makeRowSelection(const std::vector<vtkIdType>& rows)
+{
+  vtkNew<vtkIdTypeArray> list;
+  list->SetNumberOfValues(static_cast<vtkIdType>(rows.size()));
+  std::copy(rows.begin(), rows.end(), list->GetPointer(0));
+  return makeRowSelection(list);
+}
+
+} // namespace Talmesh::plot
