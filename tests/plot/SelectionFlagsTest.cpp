@@ -1,0 +1,314 @@
+#include "plot/SelectionFlags.h"
+
+#include "plot/PlotState.h"
+#include "plot/SelectionNodes.h"
+#include "support/RunTables.h"
+
+#include <vtkAnnotation.h>
+#include <vtkAnnotationLayers.h>
+#include <vtkAnnotationLink.h>
+#include <vtkDoubleArray.h>
+#include <vtkIdTypeArray.h>
+#include <vtkInformation.h>
+#include <vtkIntArray.h>
+#include <vtkSelection.h>
+#include <vtkSelectionNode.h>
+#include <vtkVariant.h>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+using Talmesh::plot::makeRowSelection;
+
+namespace
+{
+
+using Flags = std::vector<double>;
+
+Flags currentFlags(const PlotContainer& container)
+{
+  const auto flags = vtk::TakeSmartPointer(container.getCurrentSelection());
+  EXPECT_NE(flags, nullptr);
+  return RunTables::valuesOf(flags);
+}
+
+vtkSmartPointer<vtkSelection> inverseSelection(const std::vector<vtkIdType>& unselected)
+{
+  auto selection = makeRowSelection(unselected);
+  selection->GetNode(0)->GetProperties()->Set(vtkSelectionNode::INVERSE(), 1);
+  return selection;
+}
+
+struct Marks
+{
+  std::optional<int> enable;
+  std::optional<int> hide;
+};
+
+void annotate(PlotContainer& container, vtkSelection* selection, const Marks& marks = {})
+{
+  vtkNew<vtkAnnotation> annotation;
+  annotation->SetSelection(selection);
+  if (marks.enable)
+    annotation->GetInformation()->Set(vtkAnnotation::ENABLE(), *marks.enable);
+  if (marks.hide)
+    annotation->GetInformation()->Set(vtkAnnotation::HIDE(), *marks.hide);
+  container.getAnnotationLink()->GetAnnotationLayers()->AddAnnotation(annotation);
+}
+
+Flags flagsWithAnnotation(const Marks& marks)
+{
+  RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  annotate(plot.container, makeRowSelection({1}), marks);
+  return currentFlags(plot.container);
+}
+
+/// A container whose table ends with a column of the given flags.
+struct FlaggedPlot : RunTables::Plot
+{
+  explicit FlaggedPlot(const std::vector<int>& values, const char* name = "selected points")
+      : RunTables::Plot(RunTables::runs(2, 2, 0))
+  {
+    vtkNew<vtkIntArray> flags;
+    flags->SetName(name);
+    for (const int value : values)
+      flags->InsertNextValue(value);
+    container.getTable()->AddColumn(flags);
+  }
+};
+
+} // namespace
+
+TEST(SelectionFlags, AreAllZeroOnAFreshLink)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 0, 0}));
+}
+
+TEST(SelectionFlags, AreNullWithoutLayersAndSelection)
+{
+  const RunTables::Plot plot;
+  plot.container.getAnnotationLink()->SetAnnotationLayers(nullptr);
+  EXPECT_EQ(plot.container.getCurrentSelection(), nullptr);
+}
+
+TEST(SelectionFlags, AreZeroWithLayersThatHoldNoSelection)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(nullptr);
+  EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 0, 0}));
+}
+
+TEST(SelectionFlags, HaveOneNamedComponentPerRow)
+{
+  const RunTables::Plot plot(RunTables::runs(3, 2));
+  const auto flags = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
+  ASSERT_NE(flags, nullptr);
+  EXPECT_EQ(flags->GetReferenceCount(), 1);
+  EXPECT_STREQ(flags->GetName(), "selected points");
+  EXPECT_EQ(flags->GetNumberOfComponents(), 1);
+  EXPECT_EQ(flags->GetNumberOfTuples(), 6);
+}
+
+TEST(SelectionFlags, AreEmptyForAnEmptyTable)
+{
+  const PlotContainer container(nullptr);
+  EXPECT_EQ(currentFlags(container), Flags());
+}
+
+TEST(SelectionFlags, MarkTheListedRowsOnce)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 3, 0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({4, 0, 4}));
+  EXPECT_EQ(currentFlags(plot.container), Flags({1, 0, 0, 0, 1, 0}));
+}
+
+TEST(SelectionFlags, IgnoreRowsThatTheTableDoesNotHave)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({-1, 2, 4, 1000000}));
+  EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 1, 0}));
+}
+
+TEST(SelectionFlags, MarkTheRowsThatAnInverseNodeDoesNotList)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(inverseSelection({2, 0, 17, -3}));
+  EXPECT_EQ(currentFlags(plot.container), Flags({0, 1, 0, 1}));
+}
+
+TEST(SelectionFlags, MarkEveryRowForAnInverseNodeThatListsNone)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(inverseSelection({}));
+  EXPECT_EQ(currentFlags(plot.container), Flags({1, 1, 1, 1}));
+}
+
+TEST(SelectionFlags, JoinSeveralNodes)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  auto selection = makeRowSelection({0});
+  selection->AddNode(makeRowSelection({3})->GetNode(0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(selection);
+  EXPECT_EQ(currentFlags(plot.container), Flags({1, 0, 0, 1}));
+}
+
+TEST(SelectionFlags, ReadASelectionByValue)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  vtkNew<vtkDoubleArray> values;
+  values->SetName("Complex: A");
+  values->InsertNextValue(10);
+  vtkNew<vtkSelectionNode> node;
+  node->SetFieldType(vtkSelectionNode::ROW);
+  node->SetContentType(vtkSelectionNode::VALUES);
+  node->SetSelectionList(values);
+  vtkNew<vtkSelection> selection;
+  selection->AddNode(node);
+  plot.container.getAnnotationLink()->SetCurrentSelection(selection);
+  EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 1, 0}));
+  EXPECT_EQ(selection->GetNode(0)->GetContentType(), vtkSelectionNode::VALUES);
+}
+
+TEST(SelectionFlags, ContainAnAnnotationThatDoesNotSayWhetherItIsEnabled)
+{
+  EXPECT_EQ(flagsWithAnnotation({}), Flags({0, 1, 0, 0}));
+  EXPECT_EQ(flagsWithAnnotation({std::nullopt, 1}), Flags({0, 1, 0, 0}));
+}
+
+TEST(SelectionFlags, ContainAnEnabledAnnotationThatIsNotHidden)
+{
+  EXPECT_EQ(flagsWithAnnotation({1, std::nullopt}), Flags({0, 1, 0, 0}));
+  EXPECT_EQ(flagsWithAnnotation({1, 0}), Flags({0, 1, 0, 0}));
+}
+
+TEST(SelectionFlags, LeaveOutAnEnabledAnnotationThatIsHidden)
+{
+  EXPECT_EQ(flagsWithAnnotation({1, 1}), Flags({0, 0, 0, 0}));
+}
+
+TEST(SelectionFlags, LeaveOutADisabledAnnotation)
+{
+  EXPECT_EQ(flagsWithAnnotation({0, std::nullopt}), Flags({0, 0, 0, 0}));
+  EXPECT_EQ(flagsWithAnnotation({0, 0}), Flags({0, 0, 0, 0}));
+}
+
+TEST(SelectionFlags, UniteSelectionAndAnnotationsWithoutChangingThem)
+{
+  RunTables::Plot plot(RunTables::runs(2, 3, 0));
+  const auto selected = makeRowSelection({0});
+  const auto annotated = makeRowSelection({5});
+  plot.container.getAnnotationLink()->SetCurrentSelection(selected);
+  annotate(plot.container, annotated);
+  annotate(plot.container, nullptr);
+  for (int repetition = 0; repetition < 3; ++repetition)
+    EXPECT_EQ(currentFlags(plot.container), Flags({1, 0, 0, 0, 0, 1}));
+  for (const auto& [selection, row] : {std::pair{selected, 0}, std::pair{annotated, 5}})
+  {
+    ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
+    EXPECT_EQ(RunTables::valuesOf(
+                  vtkIdTypeArray::SafeDownCast(selection->GetNode(0)->GetSelectionList())),
+              Flags({double(row)}));
+  }
+}
+
+TEST(SelectionFlags, DoNotChangeTheLink)
+{
+  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1}));
+  const vtkMTimeType before = plot.container.getAnnotationLink()->GetMTime();
+  currentFlags(plot.container);
+  EXPECT_EQ(plot.container.getAnnotationLink()->GetMTime(), before);
+}
+
+TEST(FlagColumn, BecomesTheSelectionOfTheRowsThatHoldExactlyOne)
+{
+  FlaggedPlot plot({1, 2, -1, 1});
+  plot.container.selectionFromFlagColumn();
+  vtkSelection* selection = plot.container.getAnnotationLink()->GetCurrentSelection();
+  ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
+  vtkSelectionNode* node = selection->GetNode(0);
+  EXPECT_EQ(node->GetFieldType(), vtkSelectionNode::ROW);
+  EXPECT_EQ(node->GetContentType(), vtkSelectionNode::INDICES);
+  auto* rows = vtkIdTypeArray::SafeDownCast(node->GetSelectionList());
+  EXPECT_EQ(RunTables::valuesOf(rows), Flags({0, 3}));
+}
+
+TEST(FlagColumn, MayHaveAnyName)
+{
+  FlaggedPlot plot({0, 1, 0, 0}, "something else");
+  plot.container.selectionFromFlagColumn();
+  EXPECT_EQ(RunTables::selectedRows(plot.container), std::set<vtkIdType>({1}));
+}
+
+TEST(FlagColumn, ReplacesTheWholeSelection)
+{
+  FlaggedPlot plot({0, 0, 0, 0});
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1, 2}));
+  plot.container.selectionFromFlagColumn();
+  EXPECT_EQ(RunTables::selectedRows(plot.container), std::set<vtkIdType>());
+}
+
+TEST(FlagColumn, OfDoublesLeavesTheSelectionUntouched)
+{
+  FlaggedPlot plot({1, 1, 1, 1});
+  plot.container.addColumn({1, 1, 1, 1}, "doubles behind the flags");
+  const auto selection = makeRowSelection({2});
+  plot.container.getAnnotationLink()->SetCurrentSelection(selection);
+  plot.container.selectionFromFlagColumn();
+  EXPECT_EQ(plot.container.getAnnotationLink()->GetCurrentSelection(), selection);
+}
+
+TEST(FlagColumn, MissingFromAnEmptyTableLeavesTheSelectionUntouched)
+{
+  PlotContainer container(nullptr);
+  const auto selection = makeRowSelection({2});
+  container.getAnnotationLink()->SetCurrentSelection(selection);
+  container.selectionFromFlagColumn();
+  EXPECT_EQ(container.getAnnotationLink()->GetCurrentSelection(), selection);
+}
+
+TEST(FlagColumn, AsksForNoDrawing)
+{
+  FlaggedPlot plot({1, 0, 0, 0});
+  const unsigned long before = plot.container.state().drawings;
+  plot.container.selectionFromFlagColumn();
+  EXPECT_EQ(plot.container.state().drawings, before);
+}
+
+TEST(FlagColumn, GoesBackAndForthUnchanged)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1, 4, 5}));
+  const Flags flags = currentFlags(plot.container);
+  const auto column = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
+  Talmesh::plot::replaceFlagColumn(plot.container.getTable(), column);
+  plot.container.getAnnotationLink()->SetCurrentSelection(nullptr);
+  plot.container.selectionFromFlagColumn();
+  EXPECT_EQ(currentFlags(plot.container), flags);
+}
+
+TEST(FlagColumn, IsPutLastInPlaceOfAnOlderOne)
+{
+  FlaggedPlot plot({1, 1, 1, 1});
+  plot.container.addColumn({0, 0, 0, 0}, "behind");
+  vtkTable* table = plot.container.getTable();
+  const vtkIdType columns = table->GetNumberOfColumns();
+  const auto flags = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
+  Talmesh::plot::replaceFlagColumn(table, flags);
+  EXPECT_EQ(table->GetNumberOfColumns(), columns);
+  EXPECT_STREQ(table->GetColumn(columns - 2)->GetName(), "behind");
+  EXPECT_EQ(table->GetColumn(columns - 1), flags);
+}
+
+TEST(RowSelection, OfNoListSelectsNoRow)
+{
+  const auto selection = makeRowSelection(nullptr);
+  ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
+  auto* list = vtkIdTypeArray::SafeDownCast(selection->GetNode(0)->GetSelectionList());
+  ASSERT_NE(list, nullptr);
+  EXPECT_EQ(list->GetNumberOfValues(), 0);
+}

@@ -1,0 +1,313 @@
+#include "external/ParameterSelection.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotState.h"
+#include "plot/SelectionNodes.h"
+#include "support/RunTables.h"
+
+#include <vtkAnnotationLink.h>
+#include <vtkFloatArray.h>
+#include <vtkIdTypeArray.h>
+#include <vtkSelection.h>
+#include <vtkSelectionNode.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <set>
+#include <vector>
+
+using Talmesh::plot::makeRowSelection;
+
+namespace
+{
+
+using Rows = std::set<vtkIdType>;
+using Runs = std::set<int>;
+
+RunTables::Shape shapeOf(std::vector<int> runIndices, int stride)
+{
+  RunTables::Shape shape;
+  shape.runIndices = std::move(runIndices);
+  shape.stride = stride;
+  shape.parameters = 0;
+  return shape;
+}
+
+void select(PlotContainer& container, const Runs& runs, int offset)
+{
+  ParameterSelection selection;
+  selection.runs = runs;
+  container.setSelection(&selection, offset);
+}
+
+Rows rowsOf(const RunTables::Shape& shape, const Runs& runs, int offset)
+{
+  RunTables::Plot plot(shape);
+  select(plot.container, runs, offset);
+  return RunTables::selectedRows(plot.container);
+}
+
+std::unique_ptr<ParameterSelection> selectionOf(PlotContainer& container)
+{
+  return std::unique_ptr<ParameterSelection>(container.getSelection());
+}
+
+void setStrideSilently(PlotContainer& container, int stride)
+{
+  container.getMetaData()->blockSignals(true);
+  container.getMetaData()->setStride(stride);
+  container.getMetaData()->blockSignals(false);
+}
+
+void setStyleSilently(PlotContainer& container, plotStyles style)
+{
+  container.getMetaData()->blockSignals(true);
+  container.getMetaData()->setPlotStyle(style);
+  container.getMetaData()->blockSignals(false);
+}
+
+void addIdColumn(vtkTable* table, const char* name, const std::vector<vtkIdType>& values)
+{
+  vtkNew<vtkIdTypeArray> column;
+  column->SetName(name);
+  for (const vtkIdType value : values)
+    column->InsertNextValue(value);
+  table->AddColumn(column);
+}
+
+} // namespace
+
+TEST(SelectionOfRuns, TakesTheRowAtTheOffsetWithinEachRun)
+{
+  const auto shape = RunTables::runs(9, 5, 0);
+  EXPECT_EQ(rowsOf(shape, {3, 7}, 2), Rows({3 * 5 + 2, 7 * 5 + 2}));
+  EXPECT_EQ(rowsOf(shape, {3, 7}, 0), Rows({15, 35}));
+}
+
+TEST(SelectionOfRuns, CountsTheOffsetRoundTheRun)
+{
+  const auto shape = RunTables::runs(3, 5, 0);
+  EXPECT_EQ(rowsOf(shape, {1}, 5), Rows({5}));
+  EXPECT_EQ(rowsOf(shape, {1}, 13), Rows({8}));
+  EXPECT_EQ(rowsOf(shape, {1}, -1), Rows({9}));
+}
+
+TEST(SelectionOfRuns, IsOneNodeOfRowIndices)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  select(plot.container, {2, 0}, 1);
+  vtkSelection* selection = plot.container.getAnnotationLink()->GetCurrentSelection();
+  ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
+  EXPECT_EQ(selection->GetNode(0)->GetFieldType(), vtkSelectionNode::ROW);
+  EXPECT_EQ(selection->GetNode(0)->GetContentType(), vtkSelectionNode::INDICES);
+  auto* list = vtkIdTypeArray::SafeDownCast(selection->GetNode(0)->GetSelectionList());
+  EXPECT_EQ(RunTables::valuesOf(list), std::vector<double>({1, 5}));
+}
+
+TEST(SelectionOfRuns, SkipsRunsThatTheTableDoesNotHave)
+{
+  EXPECT_EQ(rowsOf(shapeOf({0, 2, 5}, 2), {-4, 1, 2, 3, 5, 9}, 0), Rows({2, 4}));
+}
+
+TEST(SelectionOfRuns, NeverMovesBackInTheTable)
+{
+  // Run 2 is passed on the way to run 4; 5 still lies further down.
+  EXPECT_EQ(rowsOf(shapeOf({0, 4, 2, 5}, 1), {2, 4, 5}, 0), Rows({1, 3}));
+}
+
+TEST(SelectionOfRuns, GivesUpOnAllRunsBehindTheEnd)
+{
+  EXPECT_EQ(rowsOf(shapeOf({3, 1, 2}, 1), {1, 2, 3, 4, 5}, 0), Rows({0}));
+}
+
+TEST(SelectionOfRuns, StaysAtARowWithoutARunIndex)
+{
+  RunTables::Plot plot(shapeOf({0, 1, 2}, 1));
+  plot.container.getTable()->SetValueByName(1, ": Run Index", std::nan(""));
+  select(plot.container, {0, 1, 2}, 0);
+  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({0}));
+}
+
+TEST(SelectionOfRuns, MaySelectNothing)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  select(plot.container, {1}, 0);
+  select(plot.container, {}, 0);
+  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows());
+}
+
+TEST(SelectionOfRuns, FindsTheFirstColumnNamedForAnIndex)
+{
+  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  vtkTable* table = plot.container.getTable();
+  table->GetColumn(RunTables::complexColumn)->SetName("myIndexOfRuns");
+  select(plot.container, {10}, 0);
+  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({1}));
+}
+
+TEST(SelectionOfRuns, ReadsTheNameOfTheIndexLiterally)
+{
+  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  vtkTable* table = plot.container.getTable();
+  table->GetColumn(RunTables::moleculeColumn)->SetName("index");
+  select(plot.container, {1}, 0);
+  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({1}));
+}
+
+TEST(SelectionOfRuns, TakesColumnZeroWithoutAnIndex)
+{
+  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  plot.container.getTable()->GetColumn(RunTables::runIndexColumn)->SetName("Run");
+  select(plot.container, {20}, 0);
+  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({2}));
+}
+
+TEST(SelectionOfRuns, DoesNothingWithAnIndexThatIsNotDouble)
+{
+  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  vtkNew<vtkFloatArray> floats;
+  floats->SetName("Index");
+  for (int run = 0; run < 3; ++run)
+    floats->InsertNextValue(static_cast<float>(run));
+  vtkNew<vtkTable> table;
+  table->AddColumn(floats);
+  table->AddColumn(plot.container.getTable()->GetColumn(RunTables::runIndexColumn));
+  plot.container.setPlotData(table.Get());
+  const auto before = makeRowSelection({2});
+  plot.container.getAnnotationLink()->SetCurrentSelection(before);
+  select(plot.container, {0}, 0);
+  EXPECT_EQ(plot.container.getAnnotationLink()->GetCurrentSelection(), before);
+}
+
+TEST(SelectionOfRuns, DoesNothingWithoutRowsPerRun)
+{
+  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  const auto before = makeRowSelection({2});
+  plot.container.getAnnotationLink()->SetCurrentSelection(before);
+  for (const int stride : {0, -1, std::numeric_limits<int>::min()})
+  {
+    setStrideSilently(plot.container, stride);
+    select(plot.container, {0, 1}, 0);
+    EXPECT_EQ(plot.container.getAnnotationLink()->GetCurrentSelection(), before) << stride;
+  }
+}
+
+TEST(SelectionOfRuns, DoesNothingWithoutRecordOrTable)
+{
+  PlotContainer container(nullptr);
+  vtkSelection* before = container.getAnnotationLink()->GetCurrentSelection();
+  container.setSelection(nullptr, 0);
+  select(container, {0}, 0);
+  EXPECT_EQ(container.getAnnotationLink()->GetCurrentSelection(), before);
+}
+
+TEST(SelectionOfRuns, SelectsNoRowOfATableWithoutRows)
+{
+  EXPECT_EQ(rowsOf(RunTables::runs(0, 3, 0), {0, 1}, 1), Rows());
+}
+
+TEST(SelectionOfRuns, LeavesOutARowThatAPartialRunDoesNotHave)
+{
+  RunTables::Plot plot(RunTables::runs(2, 4, 0));
+  // Runs of five rows: the second one ends after three.
+  setStrideSilently(plot.container, 5);
+  for (vtkIdType row = 5; row < 8; ++row)
+    plot.container.getTable()->SetValueByName(row, ": Run Index", 1.0);
+  plot.container.getTable()->SetValueByName(4, ": Run Index", 0.0);
+  select(plot.container, {0, 1}, 2);
+  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({2, 7}));
+  select(plot.container, {0, 1}, 3);
+  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({3}));
+}
+
+TEST(SelectionOfRuns, AsksForNoDrawing)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  const unsigned long before = plot.container.state().drawings;
+  select(plot.container, {1}, 0);
+  EXPECT_EQ(plot.container.state().drawings, before);
+}
+
+TEST(SelectedRuns, AreTheRunsOfTheSelectedRowsWithTheirSource)
+{
+  RunTables::Plot plot(shapeOf({4, 7, 9}, 3));
+  plot.container.getMetaData()->sourceName = "scan";
+  plot.container.getMetaData()->sourceId = 42;
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0, 2, 7}));
+  const auto selection = selectionOf(plot.container);
+  ASSERT_NE(selection, nullptr);
+  EXPECT_EQ(selection->runs, Runs({4, 9}));
+  EXPECT_EQ(selection->sourceName, "scan");
+  EXPECT_EQ(selection->sourceId, 42);
+}
+
+TEST(SelectedRuns, AreNoneAndNotNullWhenNothingIsSelected)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  const auto selection = selectionOf(plot.container);
+  ASSERT_NE(selection, nullptr);
+  EXPECT_EQ(selection->runs, Runs());
+}
+
+TEST(SelectedRuns, AreNullWithoutARunIndexOfThatName)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  plot.container.getTable()->GetColumn(RunTables::runIndexColumn)->SetName("Run Index");
+  EXPECT_EQ(selectionOf(plot.container), nullptr);
+}
+
+TEST(SelectedRuns, AreNullWithARunIndexThatIsNotDouble)
+{
+  RunTables::Plot plot(RunTables::runs(1, 2, 0));
+  vtkTable* table = plot.container.getTable();
+  table->RemoveColumnByName(": Run Index");
+  addIdColumn(table, ": Run Index", {0, 0});
+  EXPECT_EQ(selectionOf(plot.container), nullptr);
+}
+
+TEST(SelectedRuns, AreNullWhenTheLinkHoldsNothing)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  plot.container.getAnnotationLink()->SetAnnotationLayers(nullptr);
+  EXPECT_EQ(selectionOf(plot.container), nullptr);
+}
+
+TEST(SelectedRuns, SkipIndicesThatAreNoInteger)
+{
+  RunTables::Plot plot(RunTables::runs(5, 1, 0));
+  const double values[] = {std::nan(""), HUGE_VAL, -1e300, 2147483648.0, 3.9};
+  for (int row = 0; row < 5; ++row)
+    plot.container.getTable()->SetValueByName(row, ": Run Index", values[row]);
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0, 1, 2, 3, 4}));
+  EXPECT_EQ(selectionOf(plot.container)->runs, Runs({3}));
+}
+
+TEST(SelectedRuns, ComeBackAsTheyWereSet)
+{
+  RunTables::Plot plot(shapeOf({1, 2, 4, 8, 16}, 3));
+  select(plot.container, {2, 3, 16}, 1);
+  EXPECT_EQ(selectionOf(plot.container)->runs, Runs({2, 16}));
+}
+
+TEST(SelectedRuns, AreTheAcceptedOnesInTheSelectionPage)
+{
+  RunTables::Plot plot(shapeOf({4, 7, 9}, 2));
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0}));
+  addIdColumn(plot.container.getTable(), "vtkRemainderSelection", {0, 0, 1, 0, 0, 5});
+  EXPECT_EQ(selectionOf(plot.container)->runs, Runs({4}));
+  setStyleSilently(plot.container, selectionCdfPlot);
+  EXPECT_EQ(selectionOf(plot.container)->runs, Runs({7, 9}));
+}
+
+TEST(SelectedRuns, ComeFromTheLinkInASelectionPageWithoutAcceptedRows)
+{
+  RunTables::Plot plot(shapeOf({4, 7, 9}, 2));
+  plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0}));
+  setStyleSilently(plot.container, selectionCdfPlot);
+  EXPECT_EQ(selectionOf(plot.container)->runs, Runs({4}));
+  // The accepted rows are ids; a column of another type is not theirs.
+  plot.container.addColumn({1, 1, 1, 1, 1, 1}, "vtkRemainderSelection");
+  EXPECT_EQ(selectionOf(plot.container)->runs, Runs({4}));
+}

@@ -1,0 +1,257 @@
+#include "external/PlotMetaData.h"
+#include "plot/PlotState.h"
+#include "plot/RunSplit.h"
+#include "plot/SelectionNodes.h"
+#include "plot/vtkSelectionUpdateCallback.h"
+#include "support/CapturedOutput.h"
+#include "support/RunTables.h"
+
+#include <vtkAnnotation.h>
+#include <vtkAnnotationLayers.h>
+#include <vtkAnnotationLink.h>
+#include <vtkIdTypeArray.h>
+#include <vtkObject.h>
+#include <vtkTable.h>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+using RunTables::valuesOf;
+using Talmesh::plot::makeRowSelection;
+
+namespace
+{
+
+using Values = std::vector<double>;
+
+void select(PlotContainer& container, const std::vector<vtkIdType>& rows)
+{
+  container.getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
+}
+
+std::string timeColumnName(const std::vector<std::string>& names, int firstParameter)
+{
+  PlotContainer container(nullptr);
+  for (const std::string& name : names)
+    container.addColumn({0.0}, name);
+  container.getMetaData()->parameterColumns = {firstParameter};
+  const int column = Talmesh::plot::timeColumnOf(container.state());
+  return column < 0 ? std::to_string(column) : container.getTable()->GetColumnName(column);
+}
+
+/// Silences VTK's own report while it lives.
+class QuietVtk
+{
+public:
+  QuietVtk() { vtkObject::GlobalWarningDisplayOff(); }
+  ~QuietVtk() { vtkObject::GlobalWarningDisplayOn(); }
+  QuietVtk(const QuietVtk&) = delete;
+  QuietVtk& operator=(const QuietVtk&) = delete;
+};
+
+constexpr std::size_t selectedSlot = 2;
+constexpr std::size_t remainingSlot = 5;
+
+} // namespace
+
+TEST(SelectionUpdate, SplitsTheRunsWhenTheSelectionChanges)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  select(plot.container, {0, 1, 4, 7});
+  const auto& tables = plot.container.getDerivedTables();
+  ASSERT_EQ(tables.size(), 8U);
+  // Run 0 is selected at both times, runs 1 and 2 only at the second.
+  EXPECT_EQ(valuesOf(tables[selectedSlot], "Complex: A"), Values({0, 1}));
+  EXPECT_EQ(valuesOf(tables[remainingSlot], "Complex: A"), Values({10, 11, 20, 21}));
+  EXPECT_EQ(valuesOf(plot.container.getTable(), "vtkRemainderSelection"),
+            Values({1, 1, 0, 0, 0, 0, 0, 0, 0}));
+  EXPECT_EQ(valuesOf(plot.container.getTable(), "vtkReducedSelection"),
+            Values({0, 0, 0, 0, 1, 0, 0, 1, 0}));
+  EXPECT_EQ(valuesOf(plot.container.getTable(), "vtkComplementSelection"),
+            Values({0, 0, 0, 1, 0, 0, 1, 0, 0}));
+}
+
+TEST(SelectionUpdate, RanksBothPartsAndComparesThem)
+{
+  RunTables::Plot plot(RunTables::runs(4, 3));
+  select(plot.container, {0, 3});
+  const auto& tables = plot.container.getDerivedTables();
+  ASSERT_EQ(tables.size(), 8U);
+  EXPECT_EQ(valuesOf(tables[3], "Sorted Parameter: k1"), Values({1, 2}));
+  EXPECT_EQ(valuesOf(tables[6], "Sorted Parameter: k1"), Values({3, 4}));
+  EXPECT_EQ(valuesOf(tables[3], "Sorted Parameter: k2"), Values({2, 4}));
+  EXPECT_EQ(valuesOf(tables[6], "Sorted Parameter: k2"), Values({6, 8}));
+  EXPECT_EQ(valuesOf(tables[4], "Density of Parameter: k1").size(), 200U);
+  EXPECT_EQ(valuesOf(tables[7], "Density of Parameter: k1").size(), 200U);
+  // Every selected value lies below every other one: the largest distance there is.
+  ASSERT_EQ(plot.container.getKsResults().size(), 2U);
+  for (const auto& result : plot.container.getKsResults())
+    EXPECT_DOUBLE_EQ(result.statistic, 1.0);
+}
+
+TEST(SelectionUpdate, StartsFromTheOwnTablesEachTime)
+{
+  RunTables::Plot plot(RunTables::runs(4, 3));
+  vtkNew<vtkTable> own;
+  plot.container.state().derivedTables = {own.Get(), nullptr, nullptr};
+  for (int repetition = 0; repetition < 3; ++repetition)
+  {
+    select(plot.container, {static_cast<vtkIdType>(3 * repetition)});
+    ASSERT_EQ(plot.container.getDerivedTables().size(), 8U);
+    EXPECT_EQ(plot.container.getDerivedTables()[0], own);
+    EXPECT_EQ(valuesOf(plot.container.getDerivedTables()[selectedSlot], "Complex: A"),
+              Values({10.0 * repetition}));
+  }
+}
+
+TEST(SelectionUpdate, KeepsOneMarkerColumnOfEachName)
+{
+  RunTables::Plot plot(RunTables::runs(4, 3));
+  select(plot.container, {0});
+  const vtkIdType columns = plot.container.getTable()->GetNumberOfColumns();
+  for (vtkIdType row = 0; row < 12; ++row)
+    select(plot.container, {row});
+  EXPECT_EQ(plot.container.getTable()->GetNumberOfColumns(), columns);
+}
+
+TEST(SelectionUpdate, AddsNoTablesForAnEmptySelectionButDraws)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  select(plot.container, {0});
+  const unsigned long before = plot.container.state().drawings;
+  select(plot.container, {});
+  EXPECT_EQ(plot.container.getDerivedTables().size(), 2U);
+  EXPECT_EQ(plot.container.state().drawings, before + 1);
+}
+
+TEST(SelectionUpdate, ComparesAllRunsWithNone)
+{
+  RunTables::Plot plot(RunTables::runs(3, 2));
+  select(plot.container, {0, 2, 4});
+  const auto& tables = plot.container.getDerivedTables();
+  ASSERT_EQ(tables.size(), 8U);
+  EXPECT_EQ(tables[selectedSlot]->GetNumberOfRows(), 3);
+  EXPECT_EQ(tables[remainingSlot]->GetNumberOfRows(), 0);
+  ASSERT_EQ(plot.container.getKsResults().size(), 2U);
+  EXPECT_EQ(plot.container.getKsResults()[0].statistic, 0.0);
+  EXPECT_EQ(plot.container.getKsResults()[0].pValue, 1.0);
+}
+
+TEST(SelectionUpdate, CountsTheAnnotationsIn)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  vtkNew<vtkAnnotation> annotation;
+  annotation->SetSelection(makeRowSelection({3}));
+  plot.container.getAnnotationLink()->GetAnnotationLayers()->AddAnnotation(annotation);
+  EXPECT_EQ(valuesOf(plot.container.getDerivedTables().at(selectedSlot), "Complex: A"),
+            Values({10}));
+}
+
+TEST(SelectionUpdate, DoesNotChangeTheSelection)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  const auto selection = makeRowSelection({7, 1});
+  plot.container.getAnnotationLink()->SetCurrentSelection(selection);
+  EXPECT_EQ(plot.container.getAnnotationLink()->GetCurrentSelection(), selection);
+  EXPECT_EQ(selection->GetNumberOfNodes(), 1U);
+  EXPECT_EQ(valuesOf(selection->GetNode(0)->GetSelectionList()), Values({7, 1}));
+}
+
+TEST(SelectionUpdate, SplitsRowsAloneWithAStrideBelowOne)
+{
+  RunTables::Plot plot(RunTables::runs(2, 2));
+  plot.container.getMetaData()->blockSignals(true);
+  plot.container.getMetaData()->setStride(0);
+  plot.container.getMetaData()->blockSignals(false);
+  select(plot.container, {0, 2});
+  EXPECT_EQ(valuesOf(plot.container.getDerivedTables().at(selectedSlot), "Complex: A"),
+            Values({0, 10}));
+}
+
+TEST(SelectionUpdate, RunsOnDemand)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  select(plot.container, {0});
+  plot.container.state().derivedTables.clear();
+  plot.container.annotationUpdate();
+  EXPECT_EQ(plot.container.getDerivedTables().size(), 8U);
+}
+
+TEST(SelectionUpdate, IgnoresCallersThatAreNoLink)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  vtkSelectionUpdateCallback* callback = plot.container.state().selectionUpdateCallback;
+  const unsigned long before = plot.container.state().drawings;
+  callback->Execute(nullptr, 0, nullptr);
+  callback->Execute(plot.container.getTable(), 0, nullptr);
+  EXPECT_EQ(plot.container.getDerivedTables().size(), 0U);
+  EXPECT_EQ(plot.container.state().drawings, before);
+}
+
+TEST(SelectionUpdate, NeedsParameterColumns)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3, 0));
+  const unsigned long before = plot.container.state().drawings;
+  select(plot.container, {0});
+  EXPECT_EQ(plot.container.getDerivedTables().size(), 0U);
+  EXPECT_EQ(plot.container.state().drawings, before);
+}
+
+TEST(SelectionUpdate, NeedsAContainer)
+{
+  vtkNew<vtkSelectionUpdateCallback> callback;
+  vtkNew<vtkAnnotationLink> link;
+  EXPECT_EQ(callback->Container, nullptr);
+  callback->Execute(link, 0, nullptr);
+}
+
+TEST(SelectionUpdate, TakesTheFirstColumnNamedForATime)
+{
+  EXPECT_EQ(timeColumnName({"a", "Period", "Time", "Value", "p"}, 4), "Period");
+  EXPECT_EQ(timeColumnName({"a", "myTimes", "p"}, 2), "myTimes");
+  EXPECT_EQ(timeColumnName({"Complex: Value", ": Time [s]", "p"}, 2), "Complex: Value");
+}
+
+TEST(SelectionUpdate, ReadsTheNameOfTheTimeLiterally)
+{
+  EXPECT_EQ(timeColumnName({"time", "PERIOD", "value", "p"}, 3), "PERIOD");
+}
+
+TEST(SelectionUpdate, TakesTheTimeTwoPlacesInFrontOfTheParameters)
+{
+  EXPECT_EQ(timeColumnName({"a", "t", "run", "p"}, 3), "t");
+  EXPECT_EQ(timeColumnName({"run", "p"}, 1), "-1");
+}
+
+TEST(SelectionUpdate, DrawsEvenWithoutATimeColumn)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  vtkTable* table = plot.container.getTable();
+  table->GetColumn(RunTables::timeColumn)->SetName("t");
+  plot.container.getMetaData()->parameterColumns = {1};
+  const unsigned long before = plot.container.state().drawings;
+  const QuietVtk quiet;
+  select(plot.container, {0});
+  EXPECT_EQ(plot.container.getDerivedTables().size(), 2U);
+  EXPECT_EQ(plot.container.state().drawings, before + 1);
+  EXPECT_EQ(table->GetColumnByName("vtkRemainderSelection"), nullptr);
+}
+
+TEST(SelectionUpdate, DropsRowsThatTheTableDoesNotHave)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  select(plot.container, {-5, 1, 9, 400});
+  EXPECT_EQ(valuesOf(plot.container.getDerivedTables().at(selectedSlot), "Complex: A"),
+            Values({1}));
+  EXPECT_EQ(RunTables::selectedRows(plot.container), std::set<vtkIdType>({1}));
+}
+
+TEST(SelectionUpdate, LeavesTheSettingsTalkative)
+{
+  RunTables::Plot plot(RunTables::runs(3, 3));
+  select(plot.container, {0});
+  EXPECT_FALSE(plot.container.getMetaData()->signalsBlocked());
+}
