@@ -94,7 +94,7 @@ void selectRuns(PlotState& state, const std::set<int>& runs, int offset)
     if (!cursor.atEnd() && cursor.run() == run && cursor.row() + position < rows)
       selected->InsertNextValue(cursor.row() + position);
   }
-  state.annotationLink->SetCurrentSelection(makeRowSelection(selected));
+  state.annotationLink->SetCurrentSelection(wrapRowSelection(selected));
 }
 
 std::unique_ptr<ParameterSelection> selectedRuns(const PlotState& state)

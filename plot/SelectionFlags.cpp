@@ -46,7 +46,7 @@ void selectFlaggedRows(PlotState& state)
     if (flags->GetTypedComponent(row, 0) == 1)
       flagged->InsertNextValue(row);
   }
-  state.annotationLink->SetCurrentSelection(makeRowSelection(flagged));
+  state.annotationLink->SetCurrentSelection(wrapRowSelection(flagged));
 }
 
 void replaceFlagColumn(vtkTable* table, vtkIntArray* flags)

@@ -10,11 +10,19 @@
 namespace Talmesh::plot
 {
 
-vtkSmartPointer<vtkSelection> makeRowSelection(vtkIdTypeArray* rows)
+vtkSmartPointer<vtkSelection> makeRowSelection(const std::vector<vtkIdType>& rows)
+{
+  vtkNew<vtkIdTypeArray> list;
+  list->SetNumberOfValues(static_cast<vtkIdType>(rows.size()));
+  std::copy(rows.begin(), rows.end(), list->GetPointer(0));
+  return wrapRowSelection(list);
+}
+
+vtkSmartPointer<vtkSelection> wrapRowSelection(vtkIdTypeArray* rows)
 {
   // VTK looks into the list of a node of indices without asking whether it has one.
   if (!rows)
-    return makeRowSelection(std::vector<vtkIdType>{});
+    return makeRowSelection({});
   vtkNew<vtkSelectionNode> node;
   node->SetFieldType(vtkSelectionNode::ROW);
   node->SetContentType(vtkSelectionNode::INDICES);
@@ -22,14 +30,6 @@ vtkSmartPointer<vtkSelection> makeRowSelection(vtkIdTypeArray* rows)
   auto selection = vtkSmartPointer<vtkSelection>::New();
   selection->AddNode(node);
   return selection;
-}
-
-vtkSmartPointer<vtkSelection> makeRowSelection(const std::vector<vtkIdType>& rows)
-{
-  vtkNew<vtkIdTypeArray> list;
-  list->SetNumberOfValues(static_cast<vtkIdType>(rows.size()));
-  std::copy(rows.begin(), rows.end(), list->GetPointer(0));
-  return makeRowSelection(list);
 }
 
 } // namespace Talmesh::plot

@@ -2,7 +2,7 @@
 
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
-#include "support/RunTables.h"
+#include "support/SampleRuns.h"
 
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
@@ -32,7 +32,7 @@ Flags currentFlags(const PlotContainer& container)
 {
   const auto flags = vtk::TakeSmartPointer(container.getCurrentSelection());
   EXPECT_NE(flags, nullptr);
-  return RunTables::valuesOf(flags);
+  return SampleRuns::valuesOf(flags);
 }
 
 vtkSmartPointer<vtkSelection> inverseSelection(const std::vector<vtkIdType>& unselected)
@@ -61,16 +61,16 @@ void annotate(PlotContainer& container, vtkSelection* selection, const Marks& ma
 
 Flags flagsWithAnnotation(const Marks& marks)
 {
-  RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   annotate(plot.container, makeRowSelection({1}), marks);
   return currentFlags(plot.container);
 }
 
 /// A container whose table ends with a column of the given flags.
-struct FlaggedPlot : RunTables::Plot
+struct FlaggedPlot : SampleRuns::Plot
 {
   explicit FlaggedPlot(const std::vector<int>& values, const char* name = "selected points")
-      : RunTables::Plot(RunTables::runs(2, 2, 0))
+      : SampleRuns::Plot(SampleRuns::runs(2, 2, 0))
   {
     vtkNew<vtkIntArray> flags;
     flags->SetName(name);
@@ -84,27 +84,27 @@ struct FlaggedPlot : RunTables::Plot
 
 TEST(SelectionFlags, AreAllZeroOnAFreshLink)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 0, 0}));
 }
 
 TEST(SelectionFlags, AreNullWithoutLayersAndSelection)
 {
-  const RunTables::Plot plot;
+  const SampleRuns::Plot plot;
   plot.container.getAnnotationLink()->SetAnnotationLayers(nullptr);
   EXPECT_EQ(plot.container.getCurrentSelection(), nullptr);
 }
 
 TEST(SelectionFlags, AreZeroWithLayersThatHoldNoSelection)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(nullptr);
   EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 0, 0}));
 }
 
 TEST(SelectionFlags, HaveOneNamedComponentPerRow)
 {
-  const RunTables::Plot plot(RunTables::runs(3, 2));
+  const SampleRuns::Plot plot(SampleRuns::runs(3, 2));
   const auto flags = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
   ASSERT_NE(flags, nullptr);
   EXPECT_EQ(flags->GetReferenceCount(), 1);
@@ -121,35 +121,35 @@ TEST(SelectionFlags, AreEmptyForAnEmptyTable)
 
 TEST(SelectionFlags, MarkTheListedRowsOnce)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 3, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 3, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({4, 0, 4}));
   EXPECT_EQ(currentFlags(plot.container), Flags({1, 0, 0, 0, 1, 0}));
 }
 
 TEST(SelectionFlags, IgnoreRowsThatTheTableDoesNotHave)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({-1, 2, 4, 1000000}));
   EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 1, 0}));
 }
 
 TEST(SelectionFlags, MarkTheRowsThatAnInverseNodeDoesNotList)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(inverseSelection({2, 0, 17, -3}));
   EXPECT_EQ(currentFlags(plot.container), Flags({0, 1, 0, 1}));
 }
 
 TEST(SelectionFlags, MarkEveryRowForAnInverseNodeThatListsNone)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(inverseSelection({}));
   EXPECT_EQ(currentFlags(plot.container), Flags({1, 1, 1, 1}));
 }
 
 TEST(SelectionFlags, JoinSeveralNodes)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   auto selection = makeRowSelection({0});
   selection->AddNode(makeRowSelection({3})->GetNode(0));
   plot.container.getAnnotationLink()->SetCurrentSelection(selection);
@@ -158,7 +158,7 @@ TEST(SelectionFlags, JoinSeveralNodes)
 
 TEST(SelectionFlags, ReadASelectionByValue)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   vtkNew<vtkDoubleArray> values;
   values->SetName("Complex: A");
   values->InsertNextValue(10);
@@ -198,7 +198,7 @@ TEST(SelectionFlags, LeaveOutADisabledAnnotation)
 
 TEST(SelectionFlags, UniteSelectionAndAnnotationsWithoutChangingThem)
 {
-  RunTables::Plot plot(RunTables::runs(2, 3, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(2, 3, 0));
   const auto selected = makeRowSelection({0});
   const auto annotated = makeRowSelection({5});
   plot.container.getAnnotationLink()->SetCurrentSelection(selected);
@@ -209,7 +209,7 @@ TEST(SelectionFlags, UniteSelectionAndAnnotationsWithoutChangingThem)
   for (const auto& [selection, row] : {std::pair{selected, 0}, std::pair{annotated, 5}})
   {
     ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
-    EXPECT_EQ(RunTables::valuesOf(
+    EXPECT_EQ(SampleRuns::valuesOf(
                   vtkIdTypeArray::SafeDownCast(selection->GetNode(0)->GetSelectionList())),
               Flags({double(row)}));
   }
@@ -217,7 +217,7 @@ TEST(SelectionFlags, UniteSelectionAndAnnotationsWithoutChangingThem)
 
 TEST(SelectionFlags, DoNotChangeTheLink)
 {
-  const RunTables::Plot plot(RunTables::runs(2, 2, 0));
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1}));
   const vtkMTimeType before = plot.container.getAnnotationLink()->GetMTime();
   currentFlags(plot.container);
@@ -234,14 +234,14 @@ TEST(FlagColumn, BecomesTheSelectionOfTheRowsThatHoldExactlyOne)
   EXPECT_EQ(node->GetFieldType(), vtkSelectionNode::ROW);
   EXPECT_EQ(node->GetContentType(), vtkSelectionNode::INDICES);
   auto* rows = vtkIdTypeArray::SafeDownCast(node->GetSelectionList());
-  EXPECT_EQ(RunTables::valuesOf(rows), Flags({0, 3}));
+  EXPECT_EQ(SampleRuns::valuesOf(rows), Flags({0, 3}));
 }
 
 TEST(FlagColumn, MayHaveAnyName)
 {
   FlaggedPlot plot({0, 1, 0, 0}, "something else");
   plot.container.selectionFromFlagColumn();
-  EXPECT_EQ(RunTables::selectedRows(plot.container), std::set<vtkIdType>({1}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), std::set<vtkIdType>({1}));
 }
 
 TEST(FlagColumn, ReplacesTheWholeSelection)
@@ -249,7 +249,7 @@ TEST(FlagColumn, ReplacesTheWholeSelection)
   FlaggedPlot plot({0, 0, 0, 0});
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1, 2}));
   plot.container.selectionFromFlagColumn();
-  EXPECT_EQ(RunTables::selectedRows(plot.container), std::set<vtkIdType>());
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), std::set<vtkIdType>());
 }
 
 TEST(FlagColumn, OfDoublesLeavesTheSelectionUntouched)
@@ -281,7 +281,7 @@ TEST(FlagColumn, AsksForNoDrawing)
 
 TEST(FlagColumn, GoesBackAndForthUnchanged)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1, 4, 5}));
   const Flags flags = currentFlags(plot.container);
   const auto column = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
@@ -306,7 +306,7 @@ TEST(FlagColumn, IsPutLastInPlaceOfAnOlderOne)
 
 TEST(RowSelection, OfNoListSelectsNoRow)
 {
-  const auto selection = makeRowSelection(nullptr);
+  const auto selection = Talmesh::plot::wrapRowSelection(nullptr);
   ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
   auto* list = vtkIdTypeArray::SafeDownCast(selection->GetNode(0)->GetSelectionList());
   ASSERT_NE(list, nullptr);

@@ -2,7 +2,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
-#include "support/RunTables.h"
+#include "support/SampleRuns.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkFloatArray.h>
@@ -26,9 +26,9 @@ namespace
 using Rows = std::set<vtkIdType>;
 using Runs = std::set<int>;
 
-RunTables::Shape shapeOf(std::vector<int> runIndices, int stride)
+SampleRuns::Shape shapeOf(std::vector<int> runIndices, int stride)
 {
-  RunTables::Shape shape;
+  SampleRuns::Shape shape;
   shape.runIndices = std::move(runIndices);
   shape.stride = stride;
   shape.parameters = 0;
@@ -42,11 +42,11 @@ void select(PlotContainer& container, const Runs& runs, int offset)
   container.setSelection(&selection, offset);
 }
 
-Rows rowsOf(const RunTables::Shape& shape, const Runs& runs, int offset)
+Rows rowsOf(const SampleRuns::Shape& shape, const Runs& runs, int offset)
 {
-  RunTables::Plot plot(shape);
+  SampleRuns::Plot plot(shape);
   select(plot.container, runs, offset);
-  return RunTables::selectedRows(plot.container);
+  return SampleRuns::selectedRows(plot.container);
 }
 
 std::unique_ptr<ParameterSelection> selectionOf(PlotContainer& container)
@@ -81,14 +81,14 @@ void addIdColumn(vtkTable* table, const char* name, const std::vector<vtkIdType>
 
 TEST(SelectionOfRuns, TakesTheRowAtTheOffsetWithinEachRun)
 {
-  const auto shape = RunTables::runs(9, 5, 0);
+  const auto shape = SampleRuns::runs(9, 5, 0);
   EXPECT_EQ(rowsOf(shape, {3, 7}, 2), Rows({3 * 5 + 2, 7 * 5 + 2}));
   EXPECT_EQ(rowsOf(shape, {3, 7}, 0), Rows({15, 35}));
 }
 
 TEST(SelectionOfRuns, CountsTheOffsetRoundTheRun)
 {
-  const auto shape = RunTables::runs(3, 5, 0);
+  const auto shape = SampleRuns::runs(3, 5, 0);
   EXPECT_EQ(rowsOf(shape, {1}, 5), Rows({5}));
   EXPECT_EQ(rowsOf(shape, {1}, 13), Rows({8}));
   EXPECT_EQ(rowsOf(shape, {1}, -1), Rows({9}));
@@ -96,14 +96,14 @@ TEST(SelectionOfRuns, CountsTheOffsetRoundTheRun)
 
 TEST(SelectionOfRuns, IsOneNodeOfRowIndices)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
   select(plot.container, {2, 0}, 1);
   vtkSelection* selection = plot.container.getAnnotationLink()->GetCurrentSelection();
   ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
   EXPECT_EQ(selection->GetNode(0)->GetFieldType(), vtkSelectionNode::ROW);
   EXPECT_EQ(selection->GetNode(0)->GetContentType(), vtkSelectionNode::INDICES);
   auto* list = vtkIdTypeArray::SafeDownCast(selection->GetNode(0)->GetSelectionList());
-  EXPECT_EQ(RunTables::valuesOf(list), std::vector<double>({1, 5}));
+  EXPECT_EQ(SampleRuns::valuesOf(list), std::vector<double>({1, 5}));
 }
 
 TEST(SelectionOfRuns, SkipsRunsThatTheTableDoesNotHave)
@@ -124,56 +124,56 @@ TEST(SelectionOfRuns, GivesUpOnAllRunsBehindTheEnd)
 
 TEST(SelectionOfRuns, StaysAtARowWithoutARunIndex)
 {
-  RunTables::Plot plot(shapeOf({0, 1, 2}, 1));
+  SampleRuns::Plot plot(shapeOf({0, 1, 2}, 1));
   plot.container.getTable()->SetValueByName(1, ": Run Index", std::nan(""));
   select(plot.container, {0, 1, 2}, 0);
-  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({0}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0}));
 }
 
 TEST(SelectionOfRuns, MaySelectNothing)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
   select(plot.container, {1}, 0);
   select(plot.container, {}, 0);
-  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows());
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows());
 }
 
 TEST(SelectionOfRuns, FindsTheFirstColumnNamedForAnIndex)
 {
-  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 1, 0));
   vtkTable* table = plot.container.getTable();
-  table->GetColumn(RunTables::complexColumn)->SetName("myIndexOfRuns");
+  table->GetColumn(SampleRuns::complexColumn)->SetName("myIndexOfRuns");
   select(plot.container, {10}, 0);
-  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({1}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({1}));
 }
 
 TEST(SelectionOfRuns, ReadsTheNameOfTheIndexLiterally)
 {
-  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 1, 0));
   vtkTable* table = plot.container.getTable();
-  table->GetColumn(RunTables::moleculeColumn)->SetName("index");
+  table->GetColumn(SampleRuns::moleculeColumn)->SetName("index");
   select(plot.container, {1}, 0);
-  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({1}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({1}));
 }
 
 TEST(SelectionOfRuns, TakesColumnZeroWithoutAnIndex)
 {
-  RunTables::Plot plot(RunTables::runs(3, 1, 0));
-  plot.container.getTable()->GetColumn(RunTables::runIndexColumn)->SetName("Run");
+  SampleRuns::Plot plot(SampleRuns::runs(3, 1, 0));
+  plot.container.getTable()->GetColumn(SampleRuns::runIndexColumn)->SetName("Run");
   select(plot.container, {20}, 0);
-  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({2}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({2}));
 }
 
 TEST(SelectionOfRuns, DoesNothingWithAnIndexThatIsNotDouble)
 {
-  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 1, 0));
   vtkNew<vtkFloatArray> floats;
   floats->SetName("Index");
   for (int run = 0; run < 3; ++run)
     floats->InsertNextValue(static_cast<float>(run));
   vtkNew<vtkTable> table;
   table->AddColumn(floats);
-  table->AddColumn(plot.container.getTable()->GetColumn(RunTables::runIndexColumn));
+  table->AddColumn(plot.container.getTable()->GetColumn(SampleRuns::runIndexColumn));
   plot.container.setPlotData(table.Get());
   const auto before = makeRowSelection({2});
   plot.container.getAnnotationLink()->SetCurrentSelection(before);
@@ -183,7 +183,7 @@ TEST(SelectionOfRuns, DoesNothingWithAnIndexThatIsNotDouble)
 
 TEST(SelectionOfRuns, DoesNothingWithoutRowsPerRun)
 {
-  RunTables::Plot plot(RunTables::runs(3, 1, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 1, 0));
   const auto before = makeRowSelection({2});
   plot.container.getAnnotationLink()->SetCurrentSelection(before);
   for (const int stride : {0, -1, std::numeric_limits<int>::min()})
@@ -205,26 +205,26 @@ TEST(SelectionOfRuns, DoesNothingWithoutRecordOrTable)
 
 TEST(SelectionOfRuns, SelectsNoRowOfATableWithoutRows)
 {
-  EXPECT_EQ(rowsOf(RunTables::runs(0, 3, 0), {0, 1}, 1), Rows());
+  EXPECT_EQ(rowsOf(SampleRuns::runs(0, 3, 0), {0, 1}, 1), Rows());
 }
 
 TEST(SelectionOfRuns, LeavesOutARowThatAPartialRunDoesNotHave)
 {
-  RunTables::Plot plot(RunTables::runs(2, 4, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(2, 4, 0));
   // Runs of five rows: the second one ends after three.
   setStrideSilently(plot.container, 5);
   for (vtkIdType row = 5; row < 8; ++row)
     plot.container.getTable()->SetValueByName(row, ": Run Index", 1.0);
   plot.container.getTable()->SetValueByName(4, ": Run Index", 0.0);
   select(plot.container, {0, 1}, 2);
-  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({2, 7}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({2, 7}));
   select(plot.container, {0, 1}, 3);
-  EXPECT_EQ(RunTables::selectedRows(plot.container), Rows({3}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({3}));
 }
 
 TEST(SelectionOfRuns, AsksForNoDrawing)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
   const unsigned long before = plot.container.state().drawings;
   select(plot.container, {1}, 0);
   EXPECT_EQ(plot.container.state().drawings, before);
@@ -232,7 +232,7 @@ TEST(SelectionOfRuns, AsksForNoDrawing)
 
 TEST(SelectedRuns, AreTheRunsOfTheSelectedRowsWithTheirSource)
 {
-  RunTables::Plot plot(shapeOf({4, 7, 9}, 3));
+  SampleRuns::Plot plot(shapeOf({4, 7, 9}, 3));
   plot.container.getMetaData()->sourceName = "scan";
   plot.container.getMetaData()->sourceId = 42;
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0, 2, 7}));
@@ -245,7 +245,7 @@ TEST(SelectedRuns, AreTheRunsOfTheSelectedRowsWithTheirSource)
 
 TEST(SelectedRuns, AreNoneAndNotNullWhenNothingIsSelected)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
   const auto selection = selectionOf(plot.container);
   ASSERT_NE(selection, nullptr);
   EXPECT_EQ(selection->runs, Runs());
@@ -253,14 +253,14 @@ TEST(SelectedRuns, AreNoneAndNotNullWhenNothingIsSelected)
 
 TEST(SelectedRuns, AreNullWithoutARunIndexOfThatName)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2, 0));
-  plot.container.getTable()->GetColumn(RunTables::runIndexColumn)->SetName("Run Index");
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
+  plot.container.getTable()->GetColumn(SampleRuns::runIndexColumn)->SetName("Run Index");
   EXPECT_EQ(selectionOf(plot.container), nullptr);
 }
 
 TEST(SelectedRuns, AreNullWithARunIndexThatIsNotDouble)
 {
-  RunTables::Plot plot(RunTables::runs(1, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(1, 2, 0));
   vtkTable* table = plot.container.getTable();
   table->RemoveColumnByName(": Run Index");
   addIdColumn(table, ": Run Index", {0, 0});
@@ -269,14 +269,14 @@ TEST(SelectedRuns, AreNullWithARunIndexThatIsNotDouble)
 
 TEST(SelectedRuns, AreNullWhenTheLinkHoldsNothing)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
   plot.container.getAnnotationLink()->SetAnnotationLayers(nullptr);
   EXPECT_EQ(selectionOf(plot.container), nullptr);
 }
 
 TEST(SelectedRuns, SkipIndicesThatAreNoInteger)
 {
-  RunTables::Plot plot(RunTables::runs(5, 1, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(5, 1, 0));
   const double values[] = {std::nan(""), HUGE_VAL, -1e300, 2147483648.0, 3.9};
   for (int row = 0; row < 5; ++row)
     plot.container.getTable()->SetValueByName(row, ": Run Index", values[row]);
@@ -286,14 +286,14 @@ TEST(SelectedRuns, SkipIndicesThatAreNoInteger)
 
 TEST(SelectedRuns, ComeBackAsTheyWereSet)
 {
-  RunTables::Plot plot(shapeOf({1, 2, 4, 8, 16}, 3));
+  SampleRuns::Plot plot(shapeOf({1, 2, 4, 8, 16}, 3));
   select(plot.container, {2, 3, 16}, 1);
   EXPECT_EQ(selectionOf(plot.container)->runs, Runs({2, 16}));
 }
 
 TEST(SelectedRuns, AreTheAcceptedOnesInTheSelectionPage)
 {
-  RunTables::Plot plot(shapeOf({4, 7, 9}, 2));
+  SampleRuns::Plot plot(shapeOf({4, 7, 9}, 2));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0}));
   addIdColumn(plot.container.getTable(), "vtkRemainderSelection", {0, 0, 1, 0, 0, 5});
   EXPECT_EQ(selectionOf(plot.container)->runs, Runs({4}));
@@ -303,7 +303,7 @@ TEST(SelectedRuns, AreTheAcceptedOnesInTheSelectionPage)
 
 TEST(SelectedRuns, ComeFromTheLinkInASelectionPageWithoutAcceptedRows)
 {
-  RunTables::Plot plot(shapeOf({4, 7, 9}, 2));
+  SampleRuns::Plot plot(shapeOf({4, 7, 9}, 2));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0}));
   setStyleSilently(plot.container, selectionCdfPlot);
   EXPECT_EQ(selectionOf(plot.container)->runs, Runs({4}));

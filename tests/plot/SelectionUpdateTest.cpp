@@ -4,13 +4,15 @@
 #include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "support/CapturedOutput.h"
-#include "support/RunTables.h"
+#include "support/SampleRuns.h"
 
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
 #include <vtkAnnotationLink.h>
 #include <vtkIdTypeArray.h>
 #include <vtkObject.h>
+#include <vtkSelection.h>
+#include <vtkSelectionNode.h>
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
@@ -19,7 +21,7 @@
 #include <string>
 #include <vector>
 
-using RunTables::valuesOf;
+using SampleRuns::valuesOf;
 using Talmesh::plot::makeRowSelection;
 
 namespace
@@ -59,7 +61,7 @@ constexpr std::size_t remainingSlot = 5;
 
 TEST(SelectionUpdate, SplitsTheRunsWhenTheSelectionChanges)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   select(plot.container, {0, 1, 4, 7});
   const auto& tables = plot.container.getDerivedTables();
   ASSERT_EQ(tables.size(), 8U);
@@ -76,7 +78,7 @@ TEST(SelectionUpdate, SplitsTheRunsWhenTheSelectionChanges)
 
 TEST(SelectionUpdate, RanksBothPartsAndComparesThem)
 {
-  RunTables::Plot plot(RunTables::runs(4, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(4, 3));
   select(plot.container, {0, 3});
   const auto& tables = plot.container.getDerivedTables();
   ASSERT_EQ(tables.size(), 8U);
@@ -94,14 +96,14 @@ TEST(SelectionUpdate, RanksBothPartsAndComparesThem)
 
 TEST(SelectionUpdate, StartsFromTheOwnTablesEachTime)
 {
-  RunTables::Plot plot(RunTables::runs(4, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(4, 3));
   vtkNew<vtkTable> own;
   plot.container.state().derivedTables = {own.Get(), nullptr, nullptr};
   for (int repetition = 0; repetition < 3; ++repetition)
   {
     select(plot.container, {static_cast<vtkIdType>(3 * repetition)});
     ASSERT_EQ(plot.container.getDerivedTables().size(), 8U);
-    EXPECT_EQ(plot.container.getDerivedTables()[0], own);
+    EXPECT_EQ(plot.container.getDerivedTables()[0], own.Get());
     EXPECT_EQ(valuesOf(plot.container.getDerivedTables()[selectedSlot], "Complex: A"),
               Values({10.0 * repetition}));
   }
@@ -109,7 +111,7 @@ TEST(SelectionUpdate, StartsFromTheOwnTablesEachTime)
 
 TEST(SelectionUpdate, KeepsOneMarkerColumnOfEachName)
 {
-  RunTables::Plot plot(RunTables::runs(4, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(4, 3));
   select(plot.container, {0});
   const vtkIdType columns = plot.container.getTable()->GetNumberOfColumns();
   for (vtkIdType row = 0; row < 12; ++row)
@@ -119,7 +121,7 @@ TEST(SelectionUpdate, KeepsOneMarkerColumnOfEachName)
 
 TEST(SelectionUpdate, AddsNoTablesForAnEmptySelectionButDraws)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   select(plot.container, {0});
   const unsigned long before = plot.container.state().drawings;
   select(plot.container, {});
@@ -129,7 +131,7 @@ TEST(SelectionUpdate, AddsNoTablesForAnEmptySelectionButDraws)
 
 TEST(SelectionUpdate, ComparesAllRunsWithNone)
 {
-  RunTables::Plot plot(RunTables::runs(3, 2));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2));
   select(plot.container, {0, 2, 4});
   const auto& tables = plot.container.getDerivedTables();
   ASSERT_EQ(tables.size(), 8U);
@@ -142,7 +144,7 @@ TEST(SelectionUpdate, ComparesAllRunsWithNone)
 
 TEST(SelectionUpdate, CountsTheAnnotationsIn)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   vtkNew<vtkAnnotation> annotation;
   annotation->SetSelection(makeRowSelection({3}));
   plot.container.getAnnotationLink()->GetAnnotationLayers()->AddAnnotation(annotation);
@@ -152,7 +154,7 @@ TEST(SelectionUpdate, CountsTheAnnotationsIn)
 
 TEST(SelectionUpdate, DoesNotChangeTheSelection)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   const auto selection = makeRowSelection({7, 1});
   plot.container.getAnnotationLink()->SetCurrentSelection(selection);
   EXPECT_EQ(plot.container.getAnnotationLink()->GetCurrentSelection(), selection);
@@ -162,7 +164,7 @@ TEST(SelectionUpdate, DoesNotChangeTheSelection)
 
 TEST(SelectionUpdate, SplitsRowsAloneWithAStrideBelowOne)
 {
-  RunTables::Plot plot(RunTables::runs(2, 2));
+  SampleRuns::Plot plot(SampleRuns::runs(2, 2));
   plot.container.getMetaData()->blockSignals(true);
   plot.container.getMetaData()->setStride(0);
   plot.container.getMetaData()->blockSignals(false);
@@ -173,7 +175,7 @@ TEST(SelectionUpdate, SplitsRowsAloneWithAStrideBelowOne)
 
 TEST(SelectionUpdate, RunsOnDemand)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   select(plot.container, {0});
   plot.container.state().derivedTables.clear();
   plot.container.annotationUpdate();
@@ -182,7 +184,7 @@ TEST(SelectionUpdate, RunsOnDemand)
 
 TEST(SelectionUpdate, IgnoresCallersThatAreNoLink)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   vtkSelectionUpdateCallback* callback = plot.container.state().selectionUpdateCallback;
   const unsigned long before = plot.container.state().drawings;
   callback->Execute(nullptr, 0, nullptr);
@@ -193,7 +195,7 @@ TEST(SelectionUpdate, IgnoresCallersThatAreNoLink)
 
 TEST(SelectionUpdate, NeedsParameterColumns)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3, 0));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3, 0));
   const unsigned long before = plot.container.state().drawings;
   select(plot.container, {0});
   EXPECT_EQ(plot.container.getDerivedTables().size(), 0U);
@@ -228,9 +230,9 @@ TEST(SelectionUpdate, TakesTheTimeTwoPlacesInFrontOfTheParameters)
 
 TEST(SelectionUpdate, DrawsEvenWithoutATimeColumn)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   vtkTable* table = plot.container.getTable();
-  table->GetColumn(RunTables::timeColumn)->SetName("t");
+  table->GetColumn(SampleRuns::timeColumn)->SetName("t");
   plot.container.getMetaData()->parameterColumns = {1};
   const unsigned long before = plot.container.state().drawings;
   const QuietVtk quiet;
@@ -242,16 +244,16 @@ TEST(SelectionUpdate, DrawsEvenWithoutATimeColumn)
 
 TEST(SelectionUpdate, DropsRowsThatTheTableDoesNotHave)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   select(plot.container, {-5, 1, 9, 400});
   EXPECT_EQ(valuesOf(plot.container.getDerivedTables().at(selectedSlot), "Complex: A"),
             Values({1}));
-  EXPECT_EQ(RunTables::selectedRows(plot.container), std::set<vtkIdType>({1}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), std::set<vtkIdType>({1}));
 }
 
 TEST(SelectionUpdate, LeavesTheSettingsTalkative)
 {
-  RunTables::Plot plot(RunTables::runs(3, 3));
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   select(plot.container, {0});
   EXPECT_FALSE(plot.container.getMetaData()->signalsBlocked());
 }

@@ -1,4 +1,4 @@
-#include "support/RunTables.h"
+#include "support/SampleRuns.h"
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace RunTables
+namespace SampleRuns
 {
 
 namespace
@@ -148,4 +148,4 @@ std::set<vtkIdType> selectedRows(const PlotContainer& container)
   return rows;
 }
 
-} // namespace RunTables
+} // namespace SampleRuns

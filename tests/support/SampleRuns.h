@@ -1,5 +1,5 @@
-#ifndef RunTables_h
-#define RunTables_h
+#ifndef SampleRuns_h
+#define SampleRuns_h
 
 #include "external/LinePlotTable.h"
 #include "external/TypedConcentrationName.h"
@@ -19,7 +19,7 @@
 
 /// Run-stacked data with the typed names and the column order of line-plot data:
 /// "Complex: A", "Molecule: B", ": Time [s]", ": Run Index", "Parameter: k1", "Parameter: k2", ...
-namespace RunTables
+namespace SampleRuns
 {
 
 /// What to build.
@@ -80,6 +80,6 @@ std::vector<double> valuesOf(vtkTable* table, const std::string& column);
 /// The rows that the lists of the container's current selection name.
 std::set<vtkIdType> selectedRows(const PlotContainer& container);
 
-} // namespace RunTables
+} // namespace SampleRuns
 
 #endif
