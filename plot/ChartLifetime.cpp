@@ -63,6 +63,7 @@ void resetChartMatrix(PlotState& state, int columns, int rows)
   for (vtkIdType i = 0; i < state.chartMatrix->GetNumberOfItems(); ++i)
     dropped.emplace_back(state.chartMatrix->GetItem(i));
   state.chartMatrix->SetSize(vtkVector2i(0, 0));
+  state.chartMatrix->ClearSpecificResizes();
   for (const auto& chart : dropped)
   {
     // Removal took the chart out of its scene, but a handler that is still running in it needs one.

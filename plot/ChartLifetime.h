@@ -33,7 +33,7 @@ void forgetScene(PlotState& state, vtkContextScene* scene);
 /// Releases the stand-alone chart, as the styles do that draw none.
 void releaseChartXY(PlotState& state);
 
-/// Gives the chart matrix `columns` x `rows` fresh cells: no span, title, range, log flag, observer
+/// Gives the chart matrix `columns` x `rows` fresh cells: no span, resize, title, range, log flag, observer
 /// or mouse action of an earlier page survives.
 void resetChartMatrix(PlotState& state, int columns, int rows);
 

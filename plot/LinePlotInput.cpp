@@ -3,6 +3,7 @@
 #include "external/LinePlotData.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/SettingsSignals.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
@@ -37,7 +38,7 @@ void setLinePlotData(PlotState& state, const LinePlotData& data)
 {
   blockSettings(state);
   setPlotTitle(state, "");
-  state.table = tableOf(data);
+  replaceTable(state, tableOf(data));
   setFirst(state.metaData->xColumns, 0);
   setXLabel(state, data.xName);
   setYLabel(state, data.yName);

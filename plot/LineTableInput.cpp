@@ -4,6 +4,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/BorrowedColumn.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 
@@ -44,7 +45,7 @@ std::string itemName(const PlotState& state, int index)
 
 void fillFromLinePlotTable(PlotState& state, const boost::shared_ptr<LinePlotTable>& lines)
 {
-  state.table = vtkSmartPointer<vtkTable>::New();
+  replaceTable(state, vtkSmartPointer<vtkTable>::New());
   state.columnItems.clear();
   std::size_t parameter = 0;
   for (std::size_t i = 0; i < lines->items.size() && i < lines->values.size(); ++i)

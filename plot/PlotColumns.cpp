@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
 
 namespace Talmesh::plot
@@ -36,8 +37,10 @@ void addColumn(PlotState& state, const std::vector<double>& values, const std::s
 {
   const bool fits = state.table->GetNumberOfColumns() == 0 ||
                     static_cast<vtkIdType>(values.size()) == state.table->GetNumberOfRows();
-  if (fits)
-    state.table->AddColumn(makeColumn(name, values));
+  if (!fits)
+    return;
+  state.table->AddColumn(makeColumn(name, values));
+  tableChanged(state);
 }
 
 } // namespace Talmesh::plot

@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/Redraw.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SettingsSignals.h"
@@ -70,7 +71,7 @@ PlotContainer::PlotContainer(const PlotContainer& other)
   d->selectionUpdatePending = true;
   d->metaData = new PlotMetaData(*other.d->metaData);
   d->metaData->setParent(this);
-  d->table = vtkSmartPointer<vtkTable>::New();
+  Talmesh::plot::replaceTable(*d, vtkSmartPointer<vtkTable>::New());
   d->table->DeepCopy(other.d->table);
   makeCharts(*d);
   connectParts();

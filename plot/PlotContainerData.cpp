@@ -7,6 +7,7 @@
 #include "plot/PlotColumns.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/SettingsSignals.h"
 #include "plot/SimpleTables.h"
 #include "plot/TableColumns.h"
@@ -19,7 +20,7 @@ void PlotContainer::setPlotData(vtkSmartPointer<vtkTable> data)
   if (!data)
     return;
   d->derivedTables.clear();
-  d->table = data;
+  Talmesh::plot::replaceTable(*d, data);
   findParameterColumns();
   if (d->metaData->getPlotStyle() == selectionCdfPlot)
     generateRankedParameters(d->table, 0);
@@ -69,7 +70,6 @@ void PlotContainer::updateFromLinePlotTable(bool quartiles)
   if (!d->linePlotTable)
     return;
   Talmesh::plot::fillFromLinePlotTable(*d, d->linePlotTable);
-  d->metaData->rankedDataCurrent = false;
   if (d->metaData->getPlotStyle() == selectionCdfPlot)
     generateRankedParameters(d->table, 0);
   if (quartiles)
@@ -106,7 +106,7 @@ void PlotContainer::addColumn(const std::vector<double>& values, const std::stri
 
 void PlotContainer::example()
 {
-  d->table = Talmesh::plot::exampleTable();
+  Talmesh::plot::replaceTable(*d, Talmesh::plot::exampleTable());
   setPlotCols(0, 1, 0, false);
   setPlotTitle("Example Plot");
 }
@@ -134,7 +134,7 @@ QStringList PlotContainer::getLabels() const
 
 void PlotContainer::loadData(std::string fileName)
 {
-  d->table = Talmesh::plot::readDelimited(fileName);
+  Talmesh::plot::replaceTable(*d, Talmesh::plot::readDelimited(fileName));
 }
 
 char* PlotContainer::saveData(std::string fileName, bool keepAll)

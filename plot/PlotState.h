@@ -6,6 +6,7 @@
 #include "external/TypedConcentrationName.h"
 #include "plot/AxisWindows.h"
 #include "plot/KsStatistics.h"
+#include "plot/RankedInputs.h"
 #include "plot/SceneLink.h"
 
 #include <vtkAbstractContextItem.h>
@@ -27,6 +28,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/unordered_map.hpp>
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -98,6 +100,8 @@ struct PlotState
 
   /// The scales on which the windows of `coordinateWindows` were recorded.
   boost::unordered_map<ReducedMetaData, WindowScales> windowScales;
+  /// What the plot table was last ranked with; none before the first time.
+  std::optional<RankedInputs> rankedInputs;
   /// The scene that the charts were put into.
   SceneLink sceneLink;
   /// The chart last built from Sobol results, whose plots the reserved styles keep.

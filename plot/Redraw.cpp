@@ -6,6 +6,7 @@
 #include "plot/Decorations.h"
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
+#include "plot/RankedTables.h"
 #include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
 #include "plot/StyleTable.h"
@@ -42,6 +43,7 @@ void redraw(PlotState& state)
     return;
   }
   cutSelectionToTable(state);
+  dropOutdatedRanks(state);
   const unsigned long drawing = ++state.drawings;
   builderOf(state.metaData->getPlotStyle())(state, scene);
   // A drawing that ran inside this one has dressed the chart that is now shown.

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
 
 #include <vtkFloatArray.h>
@@ -54,7 +55,7 @@ vtkSmartPointer<vtkTable> exampleTable()
 bool setSimpleTable(PlotState& state, const std::vector<double>& x, const std::vector<double>& y,
                     const std::vector<double>& error)
 {
-  state.table = vtkSmartPointer<vtkTable>::New();
+  replaceTable(state, vtkSmartPointer<vtkTable>::New());
   if (x.size() != y.size())
   {
     if (state.chartXY)

@@ -1,5 +1,6 @@
 #include "plot/StyleTable.h"
 
+#include "plot/FitParameterPage.h"
 #include "plot/ParallelCoordinatesChart.h"
 #include "plot/PointChart3D.h"
 #include "plot/ReservedStyle.h"
@@ -24,6 +25,7 @@ constexpr StyleEntry styleTable[] = {
     {xyPlot, drawXYChart},
     {scatterPlotMatrix, drawScatterMatrix},
     {xyzPlot, drawPointChart3D},
+    {fitParameterDistribution, drawFitParameterPage},
     {parallelCoordinates, drawParallelCoordinates},
 };
 

@@ -9,6 +9,7 @@ namespace Talmesh::plot
 void findParameterColumns(PlotState& state)
 {
   std::vector<int>& parameters = state.metaData->parameterColumns;
+  state.metaData->rankedDataCurrent = false;
   parameters.clear();
   for (std::size_t i = 0; i < state.columnItems.size(); ++i)
   {

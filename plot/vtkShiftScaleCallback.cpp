@@ -1,5 +1,6 @@
 #include "plot/vtkShiftScaleCallback.h"
 
+#include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/PlotContainer.h"
 
@@ -13,6 +14,9 @@ void vtkShiftScaleCallback::Execute(vtkObject* caller, unsigned long, void*)
 {
   auto* chart = vtkChart::SafeDownCast(caller);
   if (!chart || !this->Container)
+    return;
+  const PlotMetaData& settings = *this->Container->getMetaData();
+  if (settings.xColumns.empty() || settings.yColumns.empty())
     return;
   vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
   vtkAxis* left = chart->GetAxis(vtkAxis::LEFT);

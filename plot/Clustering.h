@@ -1,0 +1,37 @@
+#ifndef Clustering_h
+#define Clustering_h
+
+#include <string>
+#include <vector>
+
+struct ParameterSelection;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Sorts the runs into clusters by the shape of the first y column: k-means with the distance of
+/// vtkKMeansPearson, the first runs as first centres, one run per observation. `mode` 2 compares
+/// phase spectra, 3 magnitude spectra, any other value the time series. Equal data give equal
+/// clusters.
+///
+/// `clusterMembership` gets the 0-based cluster of every whole run. `decorationTable` gets the
+/// clusters' mean curves of what was compared, one row per position within a run: columns "0", "1",
+/// ... and last "Time". A cluster without runs is 0 throughout. The compared curves are added to
+/// the XY chart, when there is one, in the colours of their clusters. Two lines on standard output
+/// tell the number of runs and the size of the table of curves.
+///
+/// With fewer than one cluster or without a whole run there is no membership afterwards, and
+/// standard error says so.
+void clusterTimeSeries(PlotState& state, int clusters, int mode);
+
+/// Appends one new selection, the caller's, per cluster up to the highest in use, labelled `prefix`
+/// + " " + number, and puts run t into entry clusterMembership[t] of `selections`, counted from the
+/// start of the list, where there is such an entry. Nothing happens without a membership.
+void appendClusterSelections(const PlotState& state, const std::string& prefix,
+                             std::vector<ParameterSelection*>& selections);
+
+} // namespace Talmesh::plot
+
+#endif

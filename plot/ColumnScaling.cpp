@@ -1,0 +1,84 @@
+#include "plot/ColumnScaling.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/PlotState.h"
+#include "plot/PlotTable.h"
+#include "plot/Quartiles.h"
+#include "plot/Redraw.h"
+#include "plot/TableColumns.h"
+#include "stats/RunScaling.h"
+
+#include <algorithm>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+/// Column `index` if its storage is one double per row; null otherwise.
+vtkDoubleArray* plainColumn(const PlotState& state, int index)
+{
+  vtkDoubleArray* column = doubleColumn(state.table, index);
+  const bool plain =
+      column && column->GetNumberOfComponents() == 1 && column->GetNumberOfTuples() > 0;
+  return plain ? column : nullptr;
+}
+
+std::size_t length(const vtkDoubleArray* column)
+{
+  return static_cast<std::size_t>(column->GetNumberOfTuples());
+}
+
+/// Values written through the storage are invisible to VTK's cached ranges until it is told.
+void announce(PlotState& state, vtkDoubleArray* column)
+{
+  column->Modified();
+  state.table->Modified();
+  tableChanged(state);
+}
+
+void finish(PlotState& state)
+{
+  generateQuartiles(state);
+  markDirty(state);
+}
+
+} // namespace
+
+void scaleColumn(PlotState& state, const double* factors, int column)
+{
+  if (vtkDoubleArray* values = plainColumn(state, column))
+  {
+    stats::scaleRuns(values->GetPointer(0), length(values), state.metaData->getStride(), factors);
+    announce(state, values);
+  }
+  finish(state);
+}
+
+void scaleToRunMaximum(PlotState& state, int column)
+{
+  if (vtkDoubleArray* values = plainColumn(state, column))
+  {
+    stats::normaliseRunsToMaximum(values->GetPointer(0), length(values),
+                                  state.metaData->getStride());
+    announce(state, values);
+  }
+  finish(state);
+}
+
+void scaleColumnByColumn(PlotState& state, int column, int byColumn, bool divide)
+{
+  vtkDoubleArray* values = plainColumn(state, column);
+  vtkDoubleArray* by = plainColumn(state, byColumn);
+  if (!values || !by)
+    return;
+  const std::size_t rows = std::min(length(values), length(by));
+  if (divide)
+    stats::divideElementwise(values->GetPointer(0), by->GetPointer(0), rows);
+  else
+    stats::multiplyElementwise(values->GetPointer(0), by->GetPointer(0), rows);
+  announce(state, values);
+}
+
+} // namespace Talmesh::plot

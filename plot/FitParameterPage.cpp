@@ -1,0 +1,147 @@
+#include "plot/FitParameterPage.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/ChartLifetime.h"
+#include "plot/DecadeTicks.h"
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+
+#include <vtkAxis.h>
+#include <vtkColorTransferFunction.h>
+#include <vtkContextMouseEvent.h>
+#include <vtkPlotPoints.h>
+
+#include <cmath>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+constexpr int scoreColumn = 0;
+constexpr int iterationColumn = 1;
+
+/// Room for the labels of an axis that has a neighbour where other cells have the margin.
+constexpr float leftLabelRoom = 34.0F;   ///< pixels
+constexpr float bottomLabelRoom = 20.0F; ///< pixels
+
+/// A mouse button that no event carries. Button 0 would match every move without a button.
+constexpr int neverPressed = -1;
+
+std::vector<std::string> parameterTitles(const PlotState& state)
+{
+  std::vector<std::string> titles;
+  for (const int column : state.metaData->parameterColumns)
+    titles.push_back(columnAt(state.table, column) ? withoutPrefix(columnName(state.table, column))
+                                                   : "");
+  return titles;
+}
+
+/// Null when the score column cannot colour.
+vtkSmartPointer<vtkScalarsToColors> scoreColors(const PlotState& state)
+{
+  double range[2];
+  vtkDoubleArray* scores = doubleColumn(state.table, scoreColumn);
+  if (!plottableColumn(state.table, scoreColumn) || !finiteRange(scores, range))
+    return nullptr;
+  const bool logarithmic = range[0] > 0.0;
+  const double middle =
+      logarithmic ? std::sqrt(range[0]) * std::sqrt(range[1]) : 0.5 * range[0] + 0.5 * range[1];
+  auto colors = vtkSmartPointer<vtkColorTransferFunction>::New();
+  colors->AddRGBPoint(range[0], 0.1, 0.1, 0.8);
+  colors->AddRGBPoint(middle, 0.1, 0.1, 0.1);
+  colors->AddRGBPoint(range[1], 0.8, 0.1, 0.1);
+  if (logarithmic)
+    colors->SetScaleToLog10();
+  return colors;
+}
+
+void disablePanAndZoom(vtkChart* chart)
+{
+  chart->SetActionToButton(vtkChart::PAN, neverPressed);
+  chart->SetActionToButton(vtkChart::ZOOM, neverPressed);
+}
+
+void addPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
+{
+  auto* points = vtkPlotPoints::SafeDownCast(chart->AddPlot(vtkChart::POINTS));
+  const bool fed = feedPlot(points, state.table, xColumn, yColumn);
+  if (!fed || !state.pointColors)
+    return;
+  points->SetScalarVisibility(true);
+  points->SetLookupTable(state.pointColors);
+  points->SelectColorArray(columnName(state.table, scoreColumn));
+}
+
+/// An axis at the edge of the page is titled; between charts it stays bare.
+void dressParameterAxis(const PlotState& state, vtkAxis* axis, int column, const std::string& title,
+                        bool atEdge)
+{
+  axis->SetTitle(atEdge ? title : "");
+  axis->SetLabelsVisible(atEdge);
+  axis->SetLogScale(state.metaData->getLogParameterAxes());
+  useDecadeTicks(axis, plottableColumn(state.table, column));
+}
+
+void drawPair(PlotState& state, const std::vector<std::string>& titles, int i, int j)
+{
+  const std::vector<int>& columns = state.metaData->parameterColumns;
+  const auto x = static_cast<std::size_t>(i);
+  const auto y = columns.size() - 1 - static_cast<std::size_t>(j);
+  vtkChart* chart = state.chartMatrix->GetChart(vtkVector2i(i, j));
+  state.chartMatrix->SetChartSpan(vtkVector2i(i, j), vtkVector2i(1, 1));
+  chart->SetAnnotationLink(state.annotationLink);
+  chart->SetActionToButton(vtkChart::SELECT, vtkContextMouseEvent::RIGHT_BUTTON);
+  disablePanAndZoom(chart);
+  addPoints(state, chart, columns[x], columns[y]);
+  dressParameterAxis(state, chart->GetAxis(vtkAxis::BOTTOM), columns[x], titles[x], j == 0);
+  dressParameterAxis(state, chart->GetAxis(vtkAxis::LEFT), columns[y], titles[y], i == 0);
+}
+
+/// The axes of a diagonal chart are labelled, but only the first and last have a margin for that.
+void makeLabelRoom(PlotState& state, int m, int parameters)
+{
+  const vtkVector2f room(m > 0 ? leftLabelRoom : 0.0F, m < parameters - 1 ? bottomLabelRoom : 0.0F);
+  state.chartMatrix->SetSpecificResize(vtkVector2i(m, parameters - 1 - m), room);
+}
+
+void drawCourse(PlotState& state, const std::vector<std::string>& titles, int m)
+{
+  const int parameters = static_cast<int>(titles.size());
+  const vtkVector2i cell(m, parameters - 1 - m);
+  vtkChart* chart = state.chartMatrix->GetChart(cell);
+  state.chartMatrix->SetChartSpan(cell, vtkVector2i(1, 1));
+  disablePanAndZoom(chart);
+  const auto k = static_cast<std::size_t>(m);
+  const int column = state.metaData->parameterColumns[k];
+  addPoints(state, chart, iterationColumn, column);
+  chart->GetAxis(vtkAxis::BOTTOM)->SetTitle("Iteration");
+  dressParameterAxis(state, chart->GetAxis(vtkAxis::LEFT), column, titles[k], true);
+  makeLabelRoom(state, m, parameters);
+}
+
+} // namespace
+
+void drawFitParameterPage(PlotState& state, vtkContextScene* scene)
+{
+  const std::vector<std::string> titles = parameterTitles(state);
+  const int parameters = static_cast<int>(titles.size());
+  showChart(state, state.chartMatrix, scene);
+  resetChartMatrix(state, parameters, parameters);
+  state.chartMatrix->SetGutter(vtkVector2f(static_cast<float>(state.verticalGutter),
+                                           static_cast<float>(state.horizontalGutter)));
+  state.chartMatrix->SetBorders(state.leftMargin, state.bottomMargin, state.rightMargin,
+                                state.topMargin);
+  state.pointColors = scoreColors(state);
+  for (int i = 0; i < parameters - 1; ++i)
+  {
+    for (int j = 0; j < parameters - 1 - i; ++j)
+      drawPair(state, titles, i, j);
+  }
+  for (int m = 0; m < parameters; ++m)
+    drawCourse(state, titles, m);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,53 @@
+#include "plot/KsComparison.h"
+
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+#include "stats/KolmogorovSmirnov.h"
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+vtkTable* slotTable(const PlotState& state, std::size_t slot)
+{
+  return slot < state.derivedTables.size() ? state.derivedTables[slot].Get() : nullptr;
+}
+
+struct Sample
+{
+  double* begin = nullptr;
+  double* end = nullptr;
+};
+
+Sample sampleOf(vtkTable* table, int column)
+{
+  vtkDoubleArray* values = doubleColumn(table, column);
+  if (!values || values->GetNumberOfComponents() != 1)
+    return {};
+  double* first = values->GetPointer(0);
+  return {first, first + values->GetNumberOfTuples()};
+}
+
+KsStatistics compare(const Sample& a, const Sample& b)
+{
+  const KolmogorovSmirnov<double*, double*> test(a.begin, a.end, b.begin, b.end);
+  return {test.pValue(), test.statistic()};
+}
+
+} // namespace
+
+void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t second)
+{
+  state.ksResults.clear();
+  vtkTable* selected = slotTable(state, first);
+  vtkTable* others = slotTable(state, second);
+  if (!selected || !others)
+    return;
+  const int parameters = static_cast<int>(selected->GetNumberOfColumns()) / 2;
+  for (int k = 0; k < parameters; ++k)
+    state.ksResults.push_back(compare(sampleOf(selected, 2 * k + 1), sampleOf(others, 2 * k + 1)));
+}
+
+} // namespace Talmesh::plot

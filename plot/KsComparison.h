@@ -1,0 +1,23 @@
+#ifndef KsComparison_h
+#define KsComparison_h
+
+#include <cstddef>
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Fills `ksResults` with the Kolmogorov-Smirnov test of every parameter of two rank tables, in
+/// their order.
+///
+/// `first` and `second` are slots of the derived tables. Every odd column, 1, 3, ..., holds the
+/// ascending values of one parameter; the first table says how many there are. A column that is
+/// missing or not a vtkDoubleArray of one component counts as an empty sample; a slot that is null
+/// or does not exist leaves `ksResults` empty.
+/// @throws std::overflow_error where the log-gamma function overflows, for immense samples
+void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t second);
+
+} // namespace Talmesh::plot
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef PlotTable_h
+#define PlotTable_h
+
+#include <vtkSmartPointer.h>
+
+class vtkTable;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// Makes `table`, which must not be null, the plot table.
+void replaceTable(PlotState& state, vtkSmartPointer<vtkTable> table);
+
+/// To be called after every change of the plot table's values or columns: what was derived from
+/// them is out of date.
+void tableChanged(PlotState& state);
+
+} // namespace Talmesh::plot
+
+#endif

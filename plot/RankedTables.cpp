@@ -1,0 +1,181 @@
+#include "plot/RankedTables.h"
+
+#include "external/PlotMetaData.h"
+#include "external/UnivariateDensityDerivative.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+#include "stats/RankedParameter.h"
+
+#include <algorithm>
+#include <iostream>
+#include <optional>
+#include <string>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+using Lists = std::vector<std::optional<std::vector<double>>>;
+using Names = std::vector<std::string>;
+
+constexpr double densityAccuracy = 0.01;
+
+/// Label of every parameter; empty where no item has the parameter's position.
+Names parameterLabels(const PlotState& state)
+{
+  Names labels;
+  for (const int index : state.metaData->parameterColumns)
+  {
+    const bool valid = index >= 0 && index < static_cast<int>(state.columnItems.size());
+    labels.push_back(
+        valid ? Talmesh::selectionPairToString(state.columnItems[static_cast<std::size_t>(index)])
+              : "");
+  }
+  return labels;
+}
+
+/// The ascending values of every parameter; absent where they cannot be read.
+Lists parameterValues(const PlotState& state, vtkTable* source, bool ownRuns, const Names& labels)
+{
+  Lists lists;
+  for (std::size_t k = 0; k < labels.size(); ++k)
+  {
+    lists.emplace_back();
+    auto* column =
+        vtkDataArray::SafeDownCast(columnAt(source, state.metaData->parameterColumns[k]));
+    if (!column || labels[k].empty())
+      continue;
+    const auto rows = static_cast<std::size_t>(column->GetNumberOfTuples());
+    const auto valueAt = [column](std::size_t row)
+    { return column->GetComponent(static_cast<vtkIdType>(row), 0); };
+    lists.back() = ownRuns ? stats::thinnedValues(rows, state.metaData->getStride(), valueAt)
+                           : stats::distinctValues(rows, valueAt);
+  }
+  return lists;
+}
+
+void estimateKernelDensity(std::vector<double>& sources, std::vector<double>& targets,
+                           double bandwidth, std::vector<double>& density)
+{
+  UnivariateDensityDerivative estimate(
+      static_cast<int>(sources.size()), static_cast<int>(targets.size()), sources.data(),
+      targets.data(), bandwidth, 0, densityAccuracy, density.data());
+  estimate.Evaluate();
+}
+
+Names prefixed(const std::string& prefix, const Names& labels)
+{
+  Names names;
+  std::transform(labels.begin(), labels.end(), std::back_inserter(names),
+                 [&](const std::string& label) { return prefix + label; });
+  return names;
+}
+
+bool contains(const Names& names, const std::string& name)
+{
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// Whether every column of `table` will be replaced, or is one of `kept` with the right length.
+bool holdsOnly(vtkTable* table, const Names& replaced, const Names& kept)
+{
+  for (int i = 0; i < table->GetNumberOfColumns(); ++i)
+  {
+    const std::string name = columnName(table, i);
+    const bool fits = static_cast<std::size_t>(table->GetColumn(i)->GetNumberOfTuples()) ==
+                      stats::densityLocations;
+    if (!contains(replaced, name) && !(contains(kept, name) && fits))
+      return false;
+  }
+  return true;
+}
+
+void emptySlot(vtkSmartPointer<vtkTable>& slot, const Names& replaced, const Names& kept)
+{
+  if (!slot || !holdsOnly(slot, replaced, kept))
+    slot = vtkSmartPointer<vtkTable>::New();
+  for (const std::string& name : replaced)
+    slot->RemoveColumnByName(name.c_str());
+}
+
+/// Hands the buffer's memory to a new column.
+void addColumn(vtkTable* table, const std::string& name, stats::DoubleBuffer& buffer)
+{
+  const auto size = static_cast<vtkIdType>(buffer.size());
+  vtkNew<vtkDoubleArray> column;
+  column->SetName(name.c_str());
+  column->SetArray(buffer.release(), size, 0, vtkAbstractArray::VTK_DATA_ARRAY_DELETE);
+  table->AddColumn(column);
+}
+
+void reportIgnoredBounds()
+{
+  std::cerr << "Warning void PlotContainer::generateRankedParameters(vtkSmartPointer<vtkTable>, "
+               "std::size_t): the number of parameter columns does not match the number of "
+               "parameter bounds"
+            << std::endl;
+}
+
+void reportLength(std::size_t found, std::size_t expected)
+{
+  std::cout << "Huston we have a problem. Encountered a parameter list with size " << found
+            << ", expected " << expected << std::endl;
+}
+
+RankedInputs presentInputs(const PlotState& state)
+{
+  return {state.metaData->getStride(), state.metaData->parameterColumns, state.parameterBounds};
+}
+
+} // namespace
+
+void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
+                              std::size_t tableIndex)
+{
+  const Names labels = parameterLabels(state);
+  Lists lists = parameterValues(state, source, tableIndex == 0, labels);
+  const bool anyList =
+      std::any_of(lists.begin(), lists.end(), [](const auto& list) { return list.has_value(); });
+
+  if (state.derivedTables.size() < tableIndex + 2)
+    state.derivedTables.resize(tableIndex + 2);
+  vtkSmartPointer<vtkTable>& ranks = state.derivedTables[tableIndex];
+  vtkSmartPointer<vtkTable>& densities = state.derivedTables[tableIndex + 1];
+  Names rankNames = prefixed("Rank of ", labels);
+  const Names sortedNames = prefixed("Sorted ", labels);
+  rankNames.insert(rankNames.end(), sortedNames.begin(), sortedNames.end());
+  emptySlot(ranks, rankNames, {});
+  emptySlot(densities, prefixed("Density of ", labels), prefixed("Locations of ", labels));
+
+  stats::RankedParameters ranked =
+      stats::rankParameters(std::move(lists), state.parameterBounds, estimateKernelDensity);
+  if (ranked.boundsIgnored && anyList)
+    reportIgnoredBounds();
+  for (std::size_t k = 0; k < labels.size(); ++k)
+  {
+    if (!ranked.parameters[k])
+      continue;
+    stats::RankedParameter& parameter = *ranked.parameters[k];
+    if (parameter.valueCount != ranked.positions)
+      reportLength(parameter.valueCount, ranked.positions);
+    addColumn(ranks, "Rank of " + labels[k], parameter.ranks);
+    addColumn(ranks, "Sorted " + labels[k], parameter.sortedValues);
+    addColumn(densities, "Density of " + labels[k], parameter.densities);
+    addColumn(densities, "Locations of " + labels[k], parameter.locations);
+  }
+  if (source == state.table)
+  {
+    state.rankedInputs = presentInputs(state);
+    state.metaData->rankedDataCurrent = true;
+  }
+}
+
+void dropOutdatedRanks(PlotState& state)
+{
+  if (state.rankedInputs && !(presentInputs(state) == *state.rankedInputs))
+    state.metaData->rankedDataCurrent = false;
+}
+
+} // namespace Talmesh::plot

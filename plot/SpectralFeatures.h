@@ -1,0 +1,25 @@
+#ifndef SpectralFeatures_h
+#define SpectralFeatures_h
+
+#include <vtkSmartPointer.h>
+
+class vtkTable;
+
+namespace Talmesh::plot
+{
+
+enum class SpectralFeature
+{
+  phase,    ///< atan2 of imaginary and real part, radians in [-pi, pi]
+  magnitude ///< modulus
+};
+
+/// The discrete Fourier transform of every column of `curves`, whose columns are all doubles,
+/// reduced to one feature per frequency: a table of the same shape, columns named by their
+/// position. Rows are the frequencies in the transform's own order: 0 up to the highest, then the
+/// negative ones.
+vtkSmartPointer<vtkTable> spectralFeatures(vtkTable* curves, SpectralFeature feature);
+
+} // namespace Talmesh::plot
+
+#endif
