@@ -38,6 +38,18 @@ bool listsNothing(vtkSelectionNode* node)
   }
 }
 
+// VTK leaves out ids that a list already has, but looks them up in an index that it does not renew
+// after it has added to the list.
+void unite(vtkSelection* combined, vtkSelectionNode* node)
+{
+  for (unsigned int i = 0; i < combined->GetNumberOfNodes(); ++i)
+  {
+    if (vtkAbstractArray* list = combined->GetNode(i)->GetSelectionList())
+      list->ClearLookup();
+  }
+  combined->Union(node);
+}
+
 void addRow(SelectedRows& rows, vtkIdType row)
 {
   rows.listed.push_back(row);
@@ -130,7 +142,7 @@ CombinedSelection combineSelections(vtkSelection* selection, vtkAnnotationLayers
     for (unsigned int i = 0; i < nodes; ++i)
     {
       if (!listsNothing(annotated->GetNode(i)))
-        combined.selection->Union(annotated->GetNode(i));
+        unite(combined.selection, annotated->GetNode(i));
     }
   }
   return combined;
