@@ -6,15 +6,12 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 #include "SelectionBuilders.h"
 #include "VtkTestSupport.h"
 
 namespace
 {
 using Rows = std::vector<vtkIdType>;
-const double NaN = std::numeric_limits<double>::quiet_NaN();
 
 class AndFilter : public ::testing::Test
 {

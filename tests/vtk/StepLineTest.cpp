@@ -15,7 +15,6 @@
 
 namespace
 {
-const double NaN = std::numeric_limits<double>::quiet_NaN();
 const double Infinity = std::numeric_limits<double>::infinity();
 
 class ExposedStepLine : public Exposed<vtkPlotStepLine>

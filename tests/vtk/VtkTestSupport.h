@@ -10,6 +10,7 @@
 #include <vtkStringOutputWindow.h>
 #include <vtkTable.h>
 
+#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -101,6 +102,7 @@ std::vector<std::string> printedNames(vtkObject* object);
 using Kind = RecordingDevice::Kind;
 using Point = RecordingDevice::Point;
 using Points = std::vector<Point>;
+inline const double NaN = std::numeric_limits<double>::quiet_NaN();
 inline const RecordingDevice::Color HighlightColor{255, 50, 0, 150};
 
 #endif
