@@ -8,6 +8,16 @@
 namespace Talmesh::plot
 {
 
+namespace
+{
+
+bool isMatrixCell(const PlotState& state)
+{
+  return state.chartXY && state.chartXY->GetParent() == state.chartMatrix;
+}
+
+} // namespace
+
 vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state)
 {
   auto chart = vtkSmartPointer<vtkChartXY>::New();
@@ -18,8 +28,7 @@ vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state)
 
 void ensureStandaloneChart(PlotState& state)
 {
-  const bool isMatrixCell = state.chartXY && state.chartXY->GetParent() == state.chartMatrix;
-  if (state.chartXY && !isMatrixCell)
+  if (state.chartXY && !isMatrixCell(state))
     return;
   releaseChartXY(state);
   state.chartXY = makeXYChart(state);
@@ -60,6 +69,8 @@ void resetChartMatrix(PlotState& state, int columns, int rows)
 {
   vtkContextScene* scene = state.chartMatrix->GetScene();
   std::vector<vtkSmartPointer<vtkAbstractContextItem>> dropped;
+  if (isMatrixCell(state))
+    releaseChartXY(state);
   for (vtkIdType i = 0; i < state.chartMatrix->GetNumberOfItems(); ++i)
     dropped.emplace_back(state.chartMatrix->GetItem(i));
   state.chartMatrix->SetSize(vtkVector2i(0, 0));

@@ -33,8 +33,9 @@ void forgetScene(PlotState& state, vtkContextScene* scene);
 /// Releases the stand-alone chart, as the styles do that draw none.
 void releaseChartXY(PlotState& state);
 
-/// Gives the chart matrix `columns` x `rows` fresh cells: no span, resize, title, range, log flag, observer
-/// or mouse action of an earlier page survives.
+/// Gives the chart matrix `columns` x `rows` fresh cells: no span, resize, title, range, log flag,
+/// observer or mouse action of an earlier page survives. An XY chart that was one of the cells is
+/// released.
 void resetChartMatrix(PlotState& state, int columns, int rows);
 
 /// Keeps `object` alive until control returns to the event loop, because a redraw can run inside a

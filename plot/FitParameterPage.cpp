@@ -2,14 +2,13 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
-#include "plot/DecadeTicks.h"
+#include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 
 #include <vtkAxis.h>
 #include <vtkColorTransferFunction.h>
-#include <vtkContextMouseEvent.h>
 #include <vtkPlotPoints.h>
 
 #include <cmath>
@@ -26,18 +25,6 @@ constexpr int iterationColumn = 1;
 /// Room for the labels of an axis that has a neighbour where other cells have the margin.
 constexpr float leftLabelRoom = 34.0F;   ///< pixels
 constexpr float bottomLabelRoom = 20.0F; ///< pixels
-
-/// A mouse button that no event carries. Button 0 would match every move without a button.
-constexpr int neverPressed = -1;
-
-std::vector<std::string> parameterTitles(const PlotState& state)
-{
-  std::vector<std::string> titles;
-  for (const int column : state.metaData->parameterColumns)
-    titles.push_back(columnAt(state.table, column) ? withoutPrefix(columnName(state.table, column))
-                                                   : "");
-  return titles;
-}
 
 /// Null when the score column cannot colour.
 vtkSmartPointer<vtkScalarsToColors> scoreColors(const PlotState& state)
@@ -58,12 +45,6 @@ vtkSmartPointer<vtkScalarsToColors> scoreColors(const PlotState& state)
   return colors;
 }
 
-void disablePanAndZoom(vtkChart* chart)
-{
-  chart->SetActionToButton(vtkChart::PAN, neverPressed);
-  chart->SetActionToButton(vtkChart::ZOOM, neverPressed);
-}
-
 void addPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
 {
   auto* points = vtkPlotPoints::SafeDownCast(chart->AddPlot(vtkChart::POINTS));
@@ -75,16 +56,6 @@ void addPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
   points->SelectColorArray(columnName(state.table, scoreColumn));
 }
 
-/// An axis at the edge of the page is titled; between charts it stays bare.
-void dressParameterAxis(const PlotState& state, vtkAxis* axis, int column, const std::string& title,
-                        bool atEdge)
-{
-  axis->SetTitle(atEdge ? title : "");
-  axis->SetLabelsVisible(atEdge);
-  axis->SetLogScale(state.metaData->getLogParameterAxes());
-  useDecadeTicks(axis, plottableColumn(state.table, column));
-}
-
 void drawPair(PlotState& state, const std::vector<std::string>& titles, int i, int j)
 {
   const std::vector<int>& columns = state.metaData->parameterColumns;
@@ -92,8 +63,7 @@ void drawPair(PlotState& state, const std::vector<std::string>& titles, int i, i
   const auto y = columns.size() - 1 - static_cast<std::size_t>(j);
   vtkChart* chart = state.chartMatrix->GetChart(vtkVector2i(i, j));
   state.chartMatrix->SetChartSpan(vtkVector2i(i, j), vtkVector2i(1, 1));
-  chart->SetAnnotationLink(state.annotationLink);
-  chart->SetActionToButton(vtkChart::SELECT, vtkContextMouseEvent::RIGHT_BUTTON);
+  enableSelection(state, chart);
   disablePanAndZoom(chart);
   addPoints(state, chart, columns[x], columns[y]);
   dressParameterAxis(state, chart->GetAxis(vtkAxis::BOTTOM), columns[x], titles[x], j == 0);

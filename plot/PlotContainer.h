@@ -108,6 +108,8 @@ public:
   /// Fills the table from the line-plot table last set. Does nothing without one.
   void updateFromLinePlotTable(bool quartiles);
   void findParameterColumns();
+  /// Forgets the typed names of the data columns, for a caller that loads new data.
+  void clearColumnItems();
   /// Chooses the plotted columns at position `index` of the column lists and draws.
   void setPlotCols(int x, int y, int index, bool quartiles);
   /// As above by column name; a name that the table does not have changes nothing.

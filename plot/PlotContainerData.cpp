@@ -83,6 +83,11 @@ void PlotContainer::findParameterColumns()
   Talmesh::plot::findParameterColumns(*d);
 }
 
+void PlotContainer::clearColumnItems()
+{
+  d->columnItems.clear();
+}
+
 void PlotContainer::setPlotCols(int x, int y, int index, bool quartiles)
 {
   if (!Talmesh::plot::setPlotColumns(*d, x, y, index))

@@ -1,10 +1,12 @@
 #include "plot/StyleTable.h"
 
 #include "plot/FitParameterPage.h"
+#include "plot/MultiPlotPage.h"
 #include "plot/ParallelCoordinatesChart.h"
 #include "plot/PointChart3D.h"
 #include "plot/ReservedStyle.h"
 #include "plot/ScatterMatrix.h"
+#include "plot/SelectionPage.h"
 #include "plot/XYChart.h"
 
 #include <cstddef>
@@ -25,6 +27,8 @@ constexpr StyleEntry styleTable[] = {
     {xyPlot, drawXYChart},
     {scatterPlotMatrix, drawScatterMatrix},
     {xyzPlot, drawPointChart3D},
+    {multiPlot, drawMultiPlotPage},
+    {selectionCdfPlot, drawSelectionPage},
     {fitParameterDistribution, drawFitParameterPage},
     {parallelCoordinates, drawParallelCoordinates},
 };

@@ -1,0 +1,132 @@
+#include "plot/ColumnReduction.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
+#include "plot/PlotState.h"
+
+#include <vtkPlot.h>
+
+#include <algorithm>
+#include <iostream>
+#include <map>
+#include <set>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+void storeWindow(PlotState& state)
+{
+  const auto window = state.coordinateWindows.find(currentKey(state));
+  if (window != state.coordinateWindows.end())
+    state.metaData->storedCoordinateWindow = window->second;
+  state.coordinateWindows.clear();
+  state.windowScales.clear();
+}
+
+bool hasColorColumn(const PlotState& state)
+{
+  return state.metaData->colorColumn > 0 &&
+         state.metaData->colorColumn < state.table->GetNumberOfColumns();
+}
+
+/// In ascending order and once each: the settings may name a column in several lists.
+std::set<int> usedColumns(const PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  const int columns = static_cast<int>(state.table->GetNumberOfColumns());
+  std::set<int> used;
+  for (const auto* list :
+       {&settings.xColumns, &settings.yColumns, &settings.zColumns, &settings.parameterColumns})
+    used.insert(list->begin(), list->end());
+  for (std::size_t i = 0; i < state.columnItems.size(); ++i)
+  {
+    if (state.columnItems[i].first == Talmesh::TimeOrValue)
+      used.insert(static_cast<int>(i));
+  }
+  if (hasColorColumn(state))
+    used.insert(settings.colorColumn);
+  else
+    std::cerr << "invalid color column :" << settings.colorColumn << std::endl;
+  used.erase(used.begin(), used.lower_bound(0));
+  used.erase(used.lower_bound(columns), used.end());
+  return used;
+}
+
+void renumber(PlotState& state, const std::set<int>& used)
+{
+  PlotMetaData& settings = *state.metaData;
+  std::map<int, int> places;
+  for (const int column : used)
+    places.emplace(column, static_cast<int>(places.size()));
+  for (auto* list :
+       {&settings.xColumns, &settings.yColumns, &settings.zColumns, &settings.parameterColumns})
+  {
+    for (int& column : *list)
+    {
+      if (const auto place = places.find(column); place != places.end())
+        column = place->second;
+    }
+  }
+  const bool colored =
+      settings.colorColumn >= 0 && settings.colorColumn < state.table->GetNumberOfColumns();
+  if (hasColorColumn(state))
+    settings.colorColumn = places[settings.colorColumn];
+  else if (colored && used.count(settings.colorColumn) == 0)
+    settings.colorColumn = -1;
+}
+
+void removeUnused(PlotState& state, const std::set<int>& used)
+{
+  std::vector<Talmesh::TypedConcentrationName> items;
+  for (int column = static_cast<int>(state.table->GetNumberOfColumns()) - 1; column >= 0; --column)
+  {
+    if (used.count(column) == 0)
+      state.table->RemoveColumn(column);
+    else if (static_cast<std::size_t>(column) < state.columnItems.size())
+      items.push_back(state.columnItems[static_cast<std::size_t>(column)]);
+  }
+  std::reverse(items.begin(), items.end());
+  state.columnItems = items;
+}
+
+void feedFrom(vtkChart* chart, vtkTable* from, vtkTable* to)
+{
+  for (vtkIdType i = 0; chart && i < chart->GetNumberOfPlots(); ++i)
+  {
+    vtkPlot* plot = chart->GetPlot(i);
+    if (plot && plot->GetInput() == from)
+      plot->SetInputData(to);
+  }
+}
+
+/// VTK looks the columns of a plot up by name at every update and does not expect them to vanish.
+void detachPlots(PlotState& state)
+{
+  vtkNew<vtkTable> before;
+  before->ShallowCopy(state.table);
+  feedFrom(state.chartXY, state.table, before);
+  for (vtkChartMatrix* matrix :
+       {state.chartMatrix.Get(), static_cast<vtkChartMatrix*>(state.scatterPlotMatrix.Get())})
+  {
+    for (vtkIdType i = 0; i < matrix->GetNumberOfItems(); ++i)
+      feedFrom(vtkChart::SafeDownCast(matrix->GetItem(i)), state.table, before);
+  }
+  if (state.parallelCoordinates && state.parallelCoordinates->GetPlot(0)->GetInput() == state.table)
+    state.parallelCoordinates->GetPlot(0)->vtkPlot::SetInputData(before);
+}
+
+} // namespace
+
+void reduceToUsedColumns(PlotState& state)
+{
+  storeWindow(state);
+  detachPlots(state);
+  const std::set<int> used = usedColumns(state);
+  renumber(state, used);
+  removeUnused(state, used);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,141 @@
+#include "plot/DistributionCell.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
+#include "plot/ParameterCells.h"
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+#include "vtk/vtkPlotStepLine.h"
+
+#include <vtkAxis.h>
+#include <vtkPlotLine.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iomanip>
+#include <sstream>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+using Color = std::array<double, 3>;
+
+/// Colours of the further data sets in turn: the selected runs, then the others.
+constexpr std::array<Color, 3> dataSetColors = {
+    {{1.0, 0.2, 0.0}, {0.05, 0.6, 0.9}, {0.05, 0.9, 0.6}}};
+
+/// A data set's rank table is followed by its density table.
+constexpr std::size_t ownRankSlot = 0;
+
+/// Rank-table slot of further data set k = 1, 2, ...: the data itself comes before it.
+std::size_t rankSlot(std::size_t dataSet)
+{
+  return 3 * dataSet;
+}
+
+vtkTable* tableInSlot(const PlotState& state, std::size_t slot)
+{
+  return slot < state.derivedTables.size() ? state.derivedTables[slot].Get() : nullptr;
+}
+
+std::string itemLabel(const PlotState& state, std::size_t parameter)
+{
+  const auto column = static_cast<std::size_t>(state.metaData->parameterColumns[parameter]);
+  return column < state.columnItems.size()
+             ? Talmesh::selectionPairToString(state.columnItems[column])
+             : "";
+}
+
+/// Adds the curve of one data set. Without its columns, for example for a parameter that came after
+/// the last ranking, the curve is empty.
+vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t slot,
+                  const std::string& label)
+{
+  const bool density = state.metaData->getUseDensity();
+  vtkTable* table = tableInSlot(state, density ? slot + 1 : slot);
+  const std::string x = (density ? "Locations of " : "Sorted ") + label;
+  const std::string y = (density ? "Density of " : "Rank of ") + label;
+  vtkSmartPointer<vtkPlot> plot;
+  if (density)
+    plot = vtkSmartPointer<vtkPlotLine>::New();
+  else
+    plot = vtkSmartPointer<vtkPlotStepLine>::New();
+  feedPlot(plot, table, columnIndex(table, x), columnIndex(table, y));
+  makeUnselectable(plot);
+  chart->AddPlot(plot);
+  return plot;
+}
+
+void addCurves(const PlotState& state, vtkChart* chart, const std::string& label)
+{
+  addCurve(state, chart, ownRankSlot, label)->SetColor(0, 0, 0, 255);
+  for (std::size_t dataSet = 1; rankSlot(dataSet) + 1 < state.derivedTables.size(); ++dataSet)
+  {
+    const Color& color = dataSetColors[(dataSet - 1) % dataSetColors.size()];
+    addCurve(state, chart, rankSlot(dataSet), label)->SetColor(color[0], color[1], color[2]);
+  }
+}
+
+void dressLeftAxis(const PlotState& state, vtkAxis* axis)
+{
+  const bool density = state.metaData->getUseDensity();
+  axis->SetLabelsVisible(false);
+  axis->SetTitle(density ? "Density" : "Ecdf");
+  if (!density)
+    fixRange(axis, 0.0, 1.0);
+}
+
+} // namespace
+
+std::string pValueLabel(double pValue)
+{
+  std::ostringstream text;
+  text << "p = " << std::setprecision(2);
+  if (pValue < 0.01 && pValue != 0.0)
+    text << std::scientific << pValue;
+  else
+    text << std::fixed << pValue;
+  return text.str();
+}
+
+void fillDistributionCell(PlotState& state, vtkChart* chart, std::size_t parameter,
+                          const std::string& title)
+{
+  disablePanAndZoom(chart);
+  vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
+  dressParameterAxis(state, bottom, state.metaData->parameterColumns[parameter], title, true);
+  bottom->SetBehavior(vtkAxis::AUTO);
+  addCurves(state, chart, itemLabel(state, parameter));
+  if (parameter < state.ksResults.size())
+    chart->SetTitle(pValueLabel(state.ksResults[parameter].pValue));
+  dressLeftAxis(state, chart->GetAxis(vtkAxis::LEFT));
+}
+
+double highestBound(vtkChart* chart)
+{
+  double highest = 0.0;
+  for (vtkIdType i = 0; i < chart->GetNumberOfPlots(); ++i)
+  {
+    vtkPlot* plot = chart->GetPlot(i);
+    if (!plot->GetInput())
+      continue;
+    plot->Update();
+    double bounds[4] = {0.0, 0.0, 0.0, 0.0};
+    plot->GetBounds(bounds);
+    highest = std::max(highest, bounds[3]);
+  }
+  return highest;
+}
+
+void scaleDensityAxis(vtkChart* chart, double maximum)
+{
+  if (std::isfinite(maximum) && maximum > 0.0)
+    fixRange(chart->GetAxis(vtkAxis::LEFT), 0.0, maximum);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,92 @@
+#include "plot/MultiPlotPage.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/ChartLifetime.h"
+#include "plot/Margins.h"
+#include "plot/ParameterCells.h"
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+#include "plot/TickLabels.h"
+
+#include <vtkAxis.h>
+#include <vtkPlot.h>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+constexpr double rangePadding = 0.05;
+
+void addBlackPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
+{
+  vtkPlot* plot = chart->AddPlot(vtkChart::POINTS);
+  plot->SetColor(0, 0, 0, 255);
+  feedPlot(plot, state.table, xColumn, yColumn);
+}
+
+/// Rows count from the bottom and run through the parameters backwards.
+void drawPair(PlotState& state, const std::vector<std::string>& titles, int column, int row)
+{
+  const std::vector<int>& parameters = state.metaData->parameterColumns;
+  const auto x = static_cast<std::size_t>(column);
+  const auto y = parameters.size() - 1 - static_cast<std::size_t>(row);
+  const vtkVector2i cell(column, row);
+  state.chartMatrix->SetChartSpan(cell, vtkVector2i(1, 1));
+  vtkChart* chart = state.chartMatrix->GetChart(cell);
+  enableSelection(state, chart);
+  addBlackPoints(state, chart, parameters[x], parameters[y]);
+  dressParameterAxis(state, chart->GetAxis(vtkAxis::BOTTOM), parameters[x], titles[x], row == 0);
+  dressParameterAxis(state, chart->GetAxis(vtkAxis::LEFT), parameters[y], titles[y], column == 0);
+}
+
+void dressMainChart(PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  vtkAxis* bottom = state.chartXY->GetAxis(vtkAxis::BOTTOM);
+  bottom->SetTitle(settings.xLabel);
+  double range[2];
+  if (finiteRange(doubleColumn(state.table, firstOf(settings.xColumns)), range))
+  {
+    const double padding = rangePadding * (range[1] - range[0]);
+    bottom->SetMinimum(range[0] - padding);
+    bottom->SetMaximum(range[1] + padding);
+  }
+  applyTickLabelsByIndex(state, bottom);
+  state.chartXY->GetAxis(vtkAxis::LEFT)->SetTitle(settings.yLabel);
+  state.chartXY->SetTitle(settings.title);
+}
+
+void drawMainChart(PlotState& state, int parameters)
+{
+  const vtkVector2i cell(parameters / 2, parameters / 2);
+  const int span = (parameters + 1) / 2;
+  state.chartXY = vtkChartXY::SafeDownCast(state.chartMatrix->GetChart(cell));
+  enableSelection(state, state.chartXY);
+  state.chartMatrix->SetChartSpan(cell, vtkVector2i(span, span));
+  addBlackPoints(state, state.chartXY, firstOf(state.metaData->xColumns),
+                 firstOf(state.metaData->yColumns));
+  dressMainChart(state);
+}
+
+} // namespace
+
+void drawMultiPlotPage(PlotState& state, vtkContextScene* scene)
+{
+  const std::vector<std::string> titles = parameterTitles(state);
+  const int n = static_cast<int>(titles.size());
+  showChart(state, state.chartMatrix, scene);
+  resetChartMatrix(state, n, n);
+  applyMultiPlotBorders(state);
+  for (int column = 0; column < n - 1; ++column)
+  {
+    for (int row = 0; row < n - 1 - column; ++row)
+      drawPair(state, titles, column, row);
+  }
+  if (n > 0)
+    drawMainChart(state, n);
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,125 @@
+#include "plot/TrajectoryChart.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+#include "plot/TableColumns.h"
+#include "vtk/vtkPlotInvisiblePoints.h"
+#include "vtk/vtkPlotLineSet.h"
+
+#include <vtkAxis.h>
+#include <vtkBrush.h>
+#include <vtkLookupTable.h>
+#include <vtkPen.h>
+#include <vtkPlotFunctionalBag.h>
+
+#include <array>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+struct Band
+{
+  const char* column;
+  std::array<unsigned char, 4> color;
+};
+
+/// Painted in this order: the wide band behind the narrow one behind the line.
+constexpr std::array<Band, 3> bands = {
+    {{"Range", {148, 148, 255, 255}}, {"QRange", {64, 64, 255, 255}}, {"Median", {0, 0, 0, 255}}}};
+
+/// The x axis ends this part of its limits beyond the data, whatever their sign.
+constexpr double lowerFactor = 0.995;
+constexpr double upperFactor = 1.005;
+
+void addBand(PlotState& state, const Band& band)
+{
+  const int time = columnIndex(state.quartileTable, "Time");
+  const int value = columnIndex(state.quartileTable, band.column);
+  vtkNew<vtkPlotFunctionalBag> plot;
+  plot->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
+  plot->GetBrush()->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
+  vtkNew<vtkPen> selectionPen;
+  selectionPen->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
+  plot->SetSelectionPen(selectionPen);
+  feedPlot(plot, state.quartileTable, time, value);
+  makeUnselectable(plot);
+  state.chartXY->AddPlot(plot);
+}
+
+void addBands(PlotState& state)
+{
+  if (!state.quartileTable || !state.metaData->getShowQuantiles())
+    return;
+  state.quartileTable->Modified();
+  for (const Band& band : bands)
+    addBand(state, band);
+}
+
+vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
+{
+  const int onlyShowSelected = state.metaData->getShowQuantiles() ? 1 : 0;
+  if (state.metaData->getPlotLine())
+  {
+    auto lines = vtkSmartPointer<vtkPlotLineSet>::New();
+    lines->SetStride(state.metaData->getStride());
+    lines->SetOnlyShowSelected(onlyShowSelected);
+    return lines;
+  }
+  auto points = vtkSmartPointer<vtkPlotInvisiblePoints>::New();
+  points->SetOnlyShowSelected(onlyShowSelected);
+  return points;
+}
+
+void colorBySelection(PlotState& state, vtkPlotPoints* plot)
+{
+  // The marker column is there once runs have been split; VTK does not check for it.
+  if (!columnNamed(state.table, "vtkComplementSelection"))
+    return;
+  vtkNew<vtkLookupTable> colors;
+  colors->SetRange(0.0, 1.0);
+  colors->SetNumberOfTableValues(2);
+  colors->SetTableValue(0, 0.0, 0.0, 0.0, 1.0);
+  colors->SetTableValue(1, 0.05, 0.6, 0.9, 1.0);
+  plot->ScalarVisibilityOn();
+  plot->SetLookupTable(colors);
+  plot->SelectColorArray("vtkComplementSelection");
+}
+
+void dressAxes(PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  vtkAxis* bottom = state.chartXY->GetAxis(vtkAxis::BOTTOM);
+  vtkAxis* left = state.chartXY->GetAxis(vtkAxis::LEFT);
+  bottom->SetTitle(settings.xLabel);
+  left->SetTitle(settings.yLabel);
+  if (const CoordinateWindow* window = rememberedWindow(state))
+  {
+    restoreBottomAxis(state, bottom, *window, settings.getLogX());
+    restoreLeftAxis(state, left, *window);
+    return;
+  }
+  double range[2];
+  if (finiteRange(plottableColumn(state.table, firstOf(settings.xColumns)), range))
+    fixRange(bottom, lowerFactor * range[0], upperFactor * range[1]);
+  left->SetBehavior(vtkAxis::AUTO);
+}
+
+} // namespace
+
+vtkPlot* fillTrajectoryChart(PlotState& state)
+{
+  addBands(state);
+  vtkSmartPointer<vtkPlotPoints> runs = makeRunsPlot(state);
+  feedPlot(runs, state.table, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
+  colorBySelection(state, runs);
+  state.chartXY->AddPlot(runs);
+  dressAxes(state);
+  return runs;
+}
+
+} // namespace Talmesh::plot
