@@ -75,8 +75,8 @@ protected:
 };
 
 const std::vector<std::string> allColumns = {"Quantile", "Minimum",        "First Quartile",
-                                             "Median",  "Third Quartile", "Maximum",
-                                             "Range",   "QRange",         "Time"};
+                                             "Median",   "Third Quartile", "Maximum",
+                                             "Range",    "QRange",         "Time"};
 
 TEST_F(Quartiles, SummariseEveryPositionOfTheRuns)
 {
