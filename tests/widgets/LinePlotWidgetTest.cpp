@@ -1,0 +1,202 @@
+#include "external/LinePlotData.h"
+#include "plot/PlotContainer.h"
+#include "widgets/LinePlotWidget.h"
+#include "widgets/PlotSelector.h"
+#include "widgets/TableExport.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <vtkAxis.h>
+#include <vtkChartXY.h>
+#include <vtkContextScene.h>
+#include <vtkContextView.h>
+#include <vtkPlot.h>
+#include <vtkTable.h>
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QLabel>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+class LinePlot : public ::testing::Test
+{
+protected:
+  LinePlot()
+  {
+    data.xName = "Time [s]";
+    data.yName = "Count";
+    data.xValues = &time;
+    data.series[{Talmesh::Molecule, "A"}] = &a;
+    data.series[{Talmesh::Parameter, "k"}] = &k;
+  }
+
+  template <typename Child>
+  Child* find(const char* name)
+  {
+    return widget.findChild<Child*>(name);
+  }
+  PlotContainer& container() { return *find<VtkPlotWidget>("plotter")->plotContainer(); }
+  QStackedWidget* pages() { return find<QStackedWidget>("stackedWidget"); }
+  void press(const char* button)
+  {
+    QTest::mousePress(find<QPushButton>(button), Qt::LeftButton);
+    QTest::mouseRelease(find<QPushButton>(button), Qt::LeftButton);
+  }
+  void show()
+  {
+    widget.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+  }
+
+  std::vector<double> time = {0, 1, 2};
+  std::vector<double> a = {3, 4, 5};
+  std::vector<double> k = {1, 1, 1};
+  LinePlotData data;
+  LinePlotWidget widget;
+};
+
+TEST_F(LinePlot, StartsWithoutData)
+{
+  EXPECT_EQ(widget.objectName(), "LinePlotWidgetClass");
+  EXPECT_EQ(widget.windowTitle(), "Form");
+  EXPECT_EQ(widget.size(), QSize(1216, 884));
+  EXPECT_EQ(pages()->currentWidget(), find<QWidget>("page_no_data"));
+  EXPECT_EQ(pages()->indexOf(find<QWidget>("plotter")), 1);
+  EXPECT_TRUE(find<QLabel>("label")->text().contains("Simulation data not available"));
+  EXPECT_EQ(find<QPushButton>("exportButton")->text(), "Export Plot");
+  EXPECT_EQ(find<QPushButton>("showLegend")->text(), "Show the Legend");
+  EXPECT_EQ(find<QPushButton>("logSButton")->text(), "Use Log Scale");
+  EXPECT_EQ(find<PlotSelector>("selector")->topLevelItemCount(), 0);
+  EXPECT_EQ(container().getTable()->GetNumberOfColumns(), 0);
+}
+
+TEST_F(LinePlot, KeepsTheStatedSizePolicyOfTheChart)
+{
+  const QSizePolicy policy = pages()->sizePolicy();
+  EXPECT_EQ(policy.horizontalStretch(), 3);
+  EXPECT_EQ(policy.verticalStretch(), 0);
+  EXPECT_EQ(policy.horizontalPolicy(), QSizePolicy::Expanding);
+  EXPECT_EQ(policy.verticalPolicy(), QSizePolicy::Expanding);
+  EXPECT_EQ(pages()->sizeIncrement(), QSize(1, 1));
+  EXPECT_EQ(find<QSplitter>("splitter")->orientation(), Qt::Horizontal);
+}
+
+TEST_F(LinePlot, OffersExactlyItsThreeSlots)
+{
+  const QMetaObject& meta = LinePlotWidget::staticMetaObject;
+  ASSERT_EQ(meta.methodCount() - meta.methodOffset(), 3);
+  EXPECT_EQ(meta.method(meta.methodOffset()).methodSignature(), "toggleLegend()");
+  EXPECT_EQ(meta.method(meta.methodOffset() + 1).methodSignature(), "toggleLogScale()");
+  EXPECT_EQ(meta.method(meta.methodOffset() + 2).methodSignature(), "exportPlot()");
+}
+
+TEST_F(LinePlot, ShowsData)
+{
+  widget.setData(&data);
+  EXPECT_EQ(pages()->currentWidget(), find<QWidget>("plotter"));
+  EXPECT_EQ(find<PlotSelector>("selector")->topLevelItemCount(), 2);
+  EXPECT_EQ(container().getTable()->GetNumberOfColumns(), 3);
+  EXPECT_EQ(container().getColumnItems().size(), 2U);
+  widget.setData(&data);
+  EXPECT_EQ(container().getColumnItems().size(), 2U);
+}
+
+TEST_F(LinePlot, IgnoresDataThatAreNotThere)
+{
+  widget.setData(nullptr);
+  EXPECT_EQ(pages()->currentWidget(), find<QWidget>("page_no_data"));
+  data.series[{Talmesh::Molecule, "B"}] = nullptr;
+  data.xValues = nullptr;
+  widget.setData(&data);
+  EXPECT_EQ(container().getTable()->GetNumberOfRows(), 0);
+}
+
+TEST_F(LinePlot, PlotsTheItemsThatAreClicked)
+{
+  show();
+  widget.setData(&data);
+  auto* selector = find<PlotSelector>("selector");
+  selector->expandAll();
+  QTreeWidgetItem* item = selector->topLevelItem(0)->child(0);
+  QTest::mouseClick(selector->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    selector->visualItemRect(item).center());
+  ASSERT_EQ(container().getChartXY()->GetNumberOfPlots(), 1);
+  EXPECT_EQ(container().getChartXY()->GetPlot(0)->GetInput(), container().getTable());
+  vtkContextScene* scene = find<VtkPlotWidget>("plotter")->contextView()->GetScene();
+  ASSERT_EQ(scene->GetNumberOfItems(), 1U);
+  EXPECT_EQ(scene->GetItem(0), container().getItem());
+}
+
+TEST_F(LinePlot, EmptiesEverythingWhenTheDataGo)
+{
+  widget.setData(&data);
+  find<PlotSelector>("selector")->expandAll();
+  find<PlotSelector>("selector")->selectAll();
+  ASSERT_EQ(container().getChartXY()->GetNumberOfPlots(), 2);
+  widget.removeData();
+  EXPECT_EQ(pages()->currentWidget(), find<QWidget>("page_no_data"));
+  EXPECT_EQ(find<PlotSelector>("selector")->topLevelItemCount(), 0);
+  EXPECT_EQ(container().getChartXY()->GetNumberOfPlots(), 0);
+  EXPECT_EQ(container().getTable()->GetNumberOfColumns(), 0);
+}
+
+TEST_F(LinePlot, TogglesTheLogScaleWhenTheButtonGoesDown)
+{
+  show();
+  vtkAxis* left = container().getChartXY()->GetAxis(vtkAxis::LEFT);
+  EXPECT_FALSE(left->GetLogScale());
+  QTest::mousePress(find<QPushButton>("logSButton"), Qt::LeftButton);
+  EXPECT_TRUE(left->GetLogScale());
+  EXPECT_EQ(find<QPushButton>("logSButton")->text(), "Use Linear Scale");
+  QTest::mouseRelease(find<QPushButton>("logSButton"), Qt::LeftButton);
+  EXPECT_TRUE(left->GetLogScale());
+  press("logSButton");
+  EXPECT_FALSE(left->GetLogScale());
+  EXPECT_EQ(find<QPushButton>("logSButton")->text(), "Use Log Scale");
+}
+
+TEST_F(LinePlot, TogglesTheLegend)
+{
+  show();
+  EXPECT_FALSE(container().getChartXY()->GetShowLegend());
+  press("showLegend");
+  EXPECT_TRUE(container().getChartXY()->GetShowLegend());
+  EXPECT_EQ(find<QPushButton>("showLegend")->text(), "Hide the Legend");
+  widget.setData(&data);
+  widget.removeData();
+  EXPECT_TRUE(container().getChartXY()->GetShowLegend()) << "data do not reset it";
+}
+
+TEST_F(LinePlot, ExportsTheWholeTable)
+{
+  QTemporaryDir folder;
+  widget.setData(&data);
+  ASSERT_TRUE(exportTable(container(), folder.filePath("table.csv")));
+  QFile file(folder.filePath("table.csv"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll().count('\n'), 4);
+}
+
+TEST_F(LinePlot, ExportsTheEmptyTableWithoutData)
+{
+  QTemporaryDir folder;
+  EXPECT_TRUE(exportTable(container(), folder.filePath("empty.csv")));
+  EXPECT_TRUE(QFile::exists(folder.filePath("empty.csv")));
+}
+
+TEST_F(LinePlot, NoticesThatAnExportFailed)
+{
+  QTemporaryDir folder;
+  widget.setData(&data);
+  EXPECT_FALSE(exportTable(container(), folder.filePath("missing/table.csv")));
+}
+
+} // namespace

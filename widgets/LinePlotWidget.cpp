@@ -1,0 +1,110 @@
+#include "widgets/LinePlotWidget.h"
+
+#include "external/LinePlotData.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "widgets/TableExport.h"
+#include "widgets/WidgetSupport.h"
+
+#include <vtkTable.h>
+
+#include <QMessageBox>
+
+#include "ui_LinePlotWidget.h"
+
+namespace
+{
+
+constexpr int chartStretch = 3; ///< the chart gets three times the selector's width
+
+QString formText(const char* text)
+{
+  return QCoreApplication::translate("LinePlotWidgetClass", text);
+}
+
+} // namespace
+
+LinePlotWidget::LinePlotWidget(QWidget* parent)
+  : QWidget(parent)
+  , form(std::make_unique<Ui_LinePlotWidgetClass>())
+{
+  form->setupUi(this);
+  connect(form->showLegend, SIGNAL(pressed()), this, SLOT(toggleLegend()));
+  connect(form->logSButton, SIGNAL(pressed()), this, SLOT(toggleLogScale()));
+  connect(form->exportButton, SIGNAL(pressed()), this, SLOT(exportPlot()));
+  connect(form->selector,
+          SIGNAL(notifySelectionChanged(std::vector<Talmesh::TypedConcentrationName>*)),
+          form->plotter->plotContainer(),
+          SLOT(setLinePlotItems(std::vector<Talmesh::TypedConcentrationName>*)));
+  // After the container's slot, so that the items chosen are on the screen at once.
+  connect(form->selector,
+          SIGNAL(notifySelectionChanged(std::vector<Talmesh::TypedConcentrationName>*)),
+          form->plotter, SLOT(updatePlot()));
+
+  const QSizePolicy policy = form->stackedWidget->sizePolicy();
+  form->splitter->setStretchFactor(0, chartStretch);
+  // The splitter stretches a child in both directions.
+  form->stackedWidget->setSizePolicy(policy);
+
+  emptyTable();
+  toggleLogScale();
+  toggleLegend();
+}
+
+LinePlotWidget::~LinePlotWidget() = default;
+
+void LinePlotWidget::setData(LinePlotData* series)
+{
+  if (!series)
+    return;
+  std::vector<Talmesh::TypedConcentrationName> items;
+  for (const auto& entry : series->series)
+    items.push_back(entry.first);
+  form->plotter->plotContainer()->clearColumnItems();
+  form->plotter->plotContainer()->setLinePlotData(series);
+  form->selector->setSelectionOptions(items);
+  form->stackedWidget->setCurrentWidget(form->plotter);
+}
+
+void LinePlotWidget::removeData()
+{
+  form->stackedWidget->setCurrentWidget(form->page_no_data);
+  emptyTable();
+  std::vector<Talmesh::TypedConcentrationName> none;
+  form->selector->setSelectionOptions(none);
+}
+
+void LinePlotWidget::emptyTable()
+{
+  form->plotter->plotContainer()->setPlotData(vtkSmartPointer<vtkTable>::New());
+}
+
+void LinePlotWidget::toggleLegend()
+{
+  legendShown = !legendShown;
+  form->plotter->plotContainer()->setShowLegend(legendShown);
+  form->plotter->updatePlot(true);
+  form->showLegend->setText(
+    legendShown ? formText("Hide the Legend") : formText("Show the Legend"));
+}
+
+void LinePlotWidget::toggleLogScale()
+{
+  logScale = !logScale;
+  form->plotter->plotContainer()->setLogScaleY(logScale);
+  form->plotter->updatePlot(true);
+  form->logSButton->setText(
+    logScale ? formText("Use Linear Scale") : formText("Use Log Scale"));
+}
+
+void LinePlotWidget::exportPlot()
+{
+  const QString fileName =
+    QFileDialog::getSaveFileName(nullptr, formText("Save Plot data as"), QString(),
+                                 formText("CSV(*.csv)"), nullptr, getFileDialogOption());
+  if (fileName.isEmpty())
+    return;
+  if (!exportTable(*form->plotter->plotContainer(), fileName))
+    QMessageBox::warning(this, formText("Export Plot"),
+                         formText("The table could not be written to %1.").arg(fileName));
+}

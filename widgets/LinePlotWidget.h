@@ -1,0 +1,43 @@
+#ifndef LinePlotWidget_h
+#define LinePlotWidget_h
+
+#include <QWidget>
+
+#include <memory>
+
+struct LinePlotData;
+class Ui_LinePlotWidgetClass;
+
+/// The panel for time series: a chart, the list from which the user picks what it shows, and
+/// buttons to export the table, show the legend and switch the left axis to logarithmic scale.
+/// Without data it says so.
+class LinePlotWidget : public QWidget
+{
+  Q_OBJECT
+
+public:
+  explicit LinePlotWidget(QWidget* parent = nullptr);
+  ~LinePlotWidget() override;
+
+  /// Shows a data set, which stays the caller's and is copied. Null is ignored, and so is a series
+  /// without values.
+  void setData(LinePlotData* series);
+  /// Shows that there are no data; the selector and the table are emptied.
+  void removeData();
+
+public slots:
+  void toggleLegend();
+  void toggleLogScale();
+  /// Asks for a file and writes the whole table to it as comma-separated text. A message tells when
+  /// that fails.
+  void exportPlot();
+
+private:
+  void emptyTable();
+
+  std::unique_ptr<Ui_LinePlotWidgetClass> form;
+  bool logScale = true;
+  bool legendShown = true;
+};
+
+#endif
