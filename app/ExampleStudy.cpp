@@ -28,14 +28,6 @@ double sample(const ParameterRange& range, std::mt19937& generator)
   return range.lower + (range.upper - range.lower) * u;
 }
 
-std::vector<TypedConcentrationName> exampleItems()
-{
-  return {{Molecule, "TetR"},        {Molecule, "LacI"},         {Molecule, "cI"},
-          {Pattern, "tetR mRNA"},    {Pattern, "lacI mRNA"},     {Pattern, "cI mRNA"},
-          {TimeOrValue, "Time [s]"}, {TimeOrValue, "Run Index"}, {Parameter, "alpha"},
-          {Parameter, "alpha0"},     {Parameter, "beta"},        {Parameter, "n"}};
-}
-
 std::vector<double> timesInLifetimes()
 {
   std::vector<double> times;
@@ -69,6 +61,14 @@ void storeRun(LinePlotTable& table, std::size_t run, const RepressilatorParamete
 }
 
 } // namespace
+
+std::vector<TypedConcentrationName> exampleItems()
+{
+  return {{Molecule, "TetR"},        {Molecule, "LacI"},         {Molecule, "cI"},
+          {Pattern, "tetR mRNA"},    {Pattern, "lacI mRNA"},     {Pattern, "cI mRNA"},
+          {TimeOrValue, "Time [s]"}, {TimeOrValue, "Run Index"}, {Parameter, "alpha"},
+          {Parameter, "alpha0"},     {Parameter, "beta"},        {Parameter, "n"}};
+}
 
 const std::vector<ParameterRange>& exampleParameterRanges()
 {

@@ -31,6 +31,9 @@ struct ParameterRange
   bool logarithmic = false;
 };
 
+/// The items of the study, in column order.
+std::vector<TypedConcentrationName> exampleItems();
+
 /// The ranges of alpha, alpha0, beta and n, in this order.
 const std::vector<ParameterRange>& exampleParameterRanges();
 

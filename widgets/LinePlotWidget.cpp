@@ -25,8 +25,8 @@ QString formText(const char* text)
 } // namespace
 
 LinePlotWidget::LinePlotWidget(QWidget* parent)
-  : QWidget(parent)
-  , form(std::make_unique<Ui_LinePlotWidgetClass>())
+    : QWidget(parent)
+    , form(std::make_unique<Ui_LinePlotWidgetClass>())
 {
   form->setupUi(this);
   connect(form->showLegend, SIGNAL(pressed()), this, SLOT(toggleLegend()));
@@ -84,8 +84,8 @@ void LinePlotWidget::toggleLegend()
   legendShown = !legendShown;
   form->plotter->plotContainer()->setShowLegend(legendShown);
   form->plotter->updatePlot(true);
-  form->showLegend->setText(
-    legendShown ? formText("Hide the Legend") : formText("Show the Legend"));
+  form->showLegend->setText(legendShown ? formText("Hide the Legend")
+                                        : formText("Show the Legend"));
 }
 
 void LinePlotWidget::toggleLogScale()
@@ -93,15 +93,14 @@ void LinePlotWidget::toggleLogScale()
   logScale = !logScale;
   form->plotter->plotContainer()->setLogScaleY(logScale);
   form->plotter->updatePlot(true);
-  form->logSButton->setText(
-    logScale ? formText("Use Linear Scale") : formText("Use Log Scale"));
+  form->logSButton->setText(logScale ? formText("Use Linear Scale") : formText("Use Log Scale"));
 }
 
 void LinePlotWidget::exportPlot()
 {
   const QString fileName =
-    QFileDialog::getSaveFileName(nullptr, formText("Save Plot data as"), QString(),
-                                 formText("CSV(*.csv)"), nullptr, getFileDialogOption());
+      QFileDialog::getSaveFileName(nullptr, formText("Save Plot data as"), QString(),
+                                   formText("CSV(*.csv)"), nullptr, getFileDialogOption());
   if (fileName.isEmpty())
     return;
   if (!exportTable(*form->plotter->plotContainer(), fileName))

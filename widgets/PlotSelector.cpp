@@ -14,10 +14,10 @@ struct KindWord
 
 /// The kinds that can be read back from a category.
 constexpr KindWord kindWords[] = {
-  {Talmesh::Complex, "Complex", "Complexes"},
-  {Talmesh::Molecule, "Molecule", "Molecules"},
-  {Talmesh::ComplexWithMolecule, "Complex With Molecule", "Complexes With Molecules"},
-  {Talmesh::Pattern, "Pattern", "Patterns"},
+    {Talmesh::Complex, "Complex", "Complexes"},
+    {Talmesh::Molecule, "Molecule", "Molecules"},
+    {Talmesh::ComplexWithMolecule, "Complex With Molecule", "Complexes With Molecules"},
+    {Talmesh::Pattern, "Pattern", "Patterns"},
 };
 
 Talmesh::DataType kindOf(const QString& category)
@@ -36,7 +36,7 @@ constexpr int hintLines = 20;
 } // namespace
 
 PlotSelector::PlotSelector(QWidget* parent)
-  : QTreeWidget(parent)
+    : QTreeWidget(parent)
 {
   setColumnCount(1);
   setHeaderLabel(tr("Select Items to View"));
@@ -45,7 +45,7 @@ PlotSelector::PlotSelector(QWidget* parent)
 }
 
 void PlotSelector::setSelectionOptions(
-  std::vector<std::pair<Talmesh::DataType, std::string>>& options)
+    std::vector<std::pair<Talmesh::DataType, std::string>>& options)
 {
   const QTreeWidgetItem* current = currentItem();
   const QString name = current ? current->text(0) : QString();

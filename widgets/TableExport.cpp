@@ -13,6 +13,5 @@ bool exportTable(PlotContainer& container, const QString& fileName)
   // The writer does not say whether it could write, so the file is compared with what it should be.
   const std::unique_ptr<char[]> text(container.saveData("", true));
   QFile file(fileName);
-  return file.open(QIODevice::ReadOnly) &&
-         file.readAll() == QByteArray(text ? text.get() : "");
+  return file.open(QIODevice::ReadOnly) && file.readAll() == QByteArray(text ? text.get() : "");
 }

@@ -12,9 +12,9 @@
 #include <QResizeEvent>
 
 VtkPlotWidget::VtkPlotWidget(QWidget* parent)
-  : QVTKOpenGLNativeWidget(parent)
-  , view(vtkSmartPointer<vtkContextView>::New())
-  , container(new PlotContainer(this))
+    : QVTKOpenGLNativeWidget(parent)
+    , view(vtkSmartPointer<vtkContextView>::New())
+    , container(new PlotContainer(this))
 {
   view->GetScene()->AddItem(container->getItem());
   container->example();

@@ -1,6 +1,7 @@
+#include "widgets/LinePlotWidget.h"
+
 #include "external/LinePlotData.h"
 #include "plot/PlotContainer.h"
-#include "widgets/LinePlotWidget.h"
 #include "widgets/PlotSelector.h"
 #include "widgets/TableExport.h"
 #include "widgets/VtkPlotWidget.h"

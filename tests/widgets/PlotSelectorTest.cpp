@@ -88,8 +88,9 @@ TEST_F(Selector, ReportsClickedItems)
   EXPECT_TRUE(reported.empty());
 }
 
-class KindsReadBack : public Selector,
-                      public ::testing::WithParamInterface<std::pair<Talmesh::DataType, Talmesh::DataType>>
+class KindsReadBack
+    : public Selector,
+      public ::testing::WithParamInterface<std::pair<Talmesh::DataType, Talmesh::DataType>>
 {
 };
 
@@ -101,24 +102,24 @@ TEST_P(KindsReadBack, ComeFromTheCategory)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-  AllKinds, KindsReadBack,
-  ::testing::Values(std::make_pair(Talmesh::Complex, Talmesh::Complex),
-                    std::make_pair(Talmesh::Molecule, Talmesh::Molecule),
-                    std::make_pair(Talmesh::ComplexWithMolecule, Talmesh::ComplexWithMolecule),
-                    std::make_pair(Talmesh::Pattern, Talmesh::Pattern),
-                    std::make_pair(Talmesh::TimeOrValue, Talmesh::Parameter),
-                    std::make_pair(Talmesh::Parameter, Talmesh::Parameter),
-                    std::make_pair(Talmesh::UndefinedType, Talmesh::Parameter)));
+    AllKinds, KindsReadBack,
+    ::testing::Values(std::make_pair(Talmesh::Complex, Talmesh::Complex),
+                      std::make_pair(Talmesh::Molecule, Talmesh::Molecule),
+                      std::make_pair(Talmesh::ComplexWithMolecule, Talmesh::ComplexWithMolecule),
+                      std::make_pair(Talmesh::Pattern, Talmesh::Pattern),
+                      std::make_pair(Talmesh::TimeOrValue, Talmesh::Parameter),
+                      std::make_pair(Talmesh::Parameter, Talmesh::Parameter),
+                      std::make_pair(Talmesh::UndefinedType, Talmesh::Parameter)));
 
 TEST_F(Selector, UnderstandsPluralCategories)
 {
   offer({{Talmesh::Complex, "x"}});
   const std::pair<const char*, Talmesh::DataType> plurals[] = {
-    {"Complexes", Talmesh::Complex},
-    {"Molecules", Talmesh::Molecule},
-    {"Complexes With Molecules", Talmesh::ComplexWithMolecule},
-    {"Patterns", Talmesh::Pattern},
-    {"Parameters", Talmesh::Parameter}};
+      {"Complexes", Talmesh::Complex},
+      {"Molecules", Talmesh::Molecule},
+      {"Complexes With Molecules", Talmesh::ComplexWithMolecule},
+      {"Patterns", Talmesh::Pattern},
+      {"Parameters", Talmesh::Parameter}};
   child(0, 0)->setSelected(true);
   for (const auto& [text, kind] : plurals)
   {
@@ -201,9 +202,9 @@ TEST_F(Selector, AsksForFifteenLettersByTwentyLines)
 TEST_F(Selector, AnnouncesListsByPointer)
 {
   const QMetaObject& meta = PlotSelector::staticMetaObject;
-  EXPECT_GE(meta.indexOfSignal(
-              "notifySelectionChanged(std::vector<Talmesh::TypedConcentrationName>*)"),
-            0);
+  EXPECT_GE(
+      meta.indexOfSignal("notifySelectionChanged(std::vector<Talmesh::TypedConcentrationName>*)"),
+      0);
   EXPECT_GE(meta.indexOfSlot("processNewSelection()"), 0);
 }
 

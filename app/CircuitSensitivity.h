@@ -1,0 +1,31 @@
+#ifndef CircuitSensitivity_h
+#define CircuitSensitivity_h
+
+#include "external/Distribution.h"
+#include "external/SobolPostProcessResult.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/// What the example circuit's parameters do to its proteins and mRNAs.
+namespace Talmesh::app
+{
+
+/// First-order and total sensitivity of every protein and mRNA to alpha, alpha0, beta and n over
+/// time, estimated from `samples` * 6 simulations with the parameters distributed as in the example
+/// study. The outputs are named as the study's items, proteins first. The same numbers every time.
+std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples);
+
+struct NamedDistribution
+{
+  std::string name;
+  std::unique_ptr<Distribution> distribution;
+};
+
+/// The distributions from which the example study draws its parameters.
+std::vector<NamedDistribution> circuitPriors();
+
+} // namespace Talmesh::app
+
+#endif
