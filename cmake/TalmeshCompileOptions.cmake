@@ -6,6 +6,8 @@ if(TALMESH_WARNINGS_AS_ERRORS)
   target_compile_options(talmesh_options INTERFACE -Werror)
 endif()
 if(TALMESH_SANITIZE)
+  # The instrumented code of the standard library itself looks uninitialized to the compiler.
+  target_compile_options(talmesh_options INTERFACE -Wno-maybe-uninitialized)
   target_compile_options(talmesh_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(talmesh_options INTERFACE -fsanitize=address,undefined)
