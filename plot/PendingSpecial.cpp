@@ -11,8 +11,3 @@ void PlotContainer::setResidualPlot(FitRun*, FitSettings*, std::vector<std::vect
 {
 }
 void PlotContainer::setDistribution(Distribution*) {}
-QByteArray* PlotContainer::binaryDump()
-{
-  return nullptr;
-}
-void PlotContainer::readDump(QByteArray*) {}

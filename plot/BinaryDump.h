@@ -1,0 +1,31 @@
+#ifndef BinaryDump_h
+#define BinaryDump_h
+
+#include <QByteArray>
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// The typed items and the table as bytes. The format is frozen: big-endian, without magic number
+/// or version,
+///   int32 N, then N items: int32 kind, string name;
+///   int32 C, int32 R, then C columns: string name, byte isDouble, R values.
+/// A string is its length in bytes as uint32 (0xFFFFFFFF for none), then UTF-16; names are Latin-1.
+/// A value is an IEEE double where isDouble is 1, otherwise an int32.
+///
+/// Numeric columns other than int and double are written as double. A column that is not numeric
+/// is left out with one line on standard error. What no byte array can hold gives one line and an
+/// empty array.
+QByteArray writeDump(const PlotState& state);
+
+/// Replaces items and table by those of a dump. From the first byte that is missing on everything
+/// reads as zero. A negative count is 0, and no count makes more than the bytes can hold, except
+/// for the zeros that a dump cut short calls for, within bounds; beyond them there is one line on
+/// standard error and the table stays empty.
+void readDump(PlotState& state, const QByteArray& bytes);
+
+} // namespace Talmesh::plot
+
+#endif

@@ -1,0 +1,39 @@
+#ifndef DumpStream_h
+#define DumpStream_h
+
+#include <QDataStream>
+
+namespace Talmesh::plot
+{
+
+/// The encoding of dumps on `stream`, whatever the default of the Qt in use.
+void setDumpEncoding(QDataStream& stream);
+
+/// Reads the values of a dump. From the first failed read on everything reads as zero.
+class DumpStream
+{
+public:
+  explicit DumpStream(const QByteArray& bytes);
+
+  qint32 readInt();
+  /// A count; a negative one is 0.
+  qint32 readCount();
+  bool readFlag();
+  double readDouble();
+  /// A null string for none.
+  QString readName();
+
+  bool failed() const { return stream.status() != QDataStream::Ok; }
+  /// Bytes not read yet; 0 when a read has failed.
+  qint64 remaining() const;
+
+private:
+  template <typename Value>
+  Value read();
+
+  QDataStream stream;
+};
+
+} // namespace Talmesh::plot
+
+#endif
