@@ -1,5 +1,6 @@
 #include "plot/StyleTable.h"
 
+#include "plot/ErrorBarChart.h"
 #include "plot/FitParameterPage.h"
 #include "plot/MultiPlotPage.h"
 #include "plot/ParallelCoordinatesChart.h"
@@ -29,6 +30,7 @@ constexpr StyleEntry styleTable[] = {
     {xyzPlot, drawPointChart3D},
     {multiPlot, drawMultiPlotPage},
     {selectionCdfPlot, drawSelectionPage},
+    {scatterWithErrorBars, drawErrorBarChart},
     {fitParameterDistribution, drawFitParameterPage},
     {parallelCoordinates, drawParallelCoordinates},
 };

@@ -1,0 +1,142 @@
+#include "plot/DistributionChart.h"
+
+#include "external/Distribution.h"
+#include "external/ScientificFormat.h"
+#include "plot/AxisWindows.h"
+#include "plot/ChartLifetime.h"
+#include "plot/ChartReuse.h"
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+#include "plot/SelectionBounds.h"
+#include "plot/TableColumns.h"
+#include "plot/Titles.h"
+
+#include <vtkAxis.h>
+#include <vtkFloatArray.h>
+#include <vtkPlot.h>
+
+#include <cmath>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+constexpr int curvePoints = 50;
+/// Part of the density range that stays empty above the curve.
+constexpr double headroom = 1.05;
+
+class CurveWriter
+{
+public:
+  CurveWriter()
+  {
+    x->SetName("x");
+    pdf->SetName("pdf");
+  }
+
+  void add(double position, double density)
+  {
+    x->InsertNextValue(static_cast<float>(position));
+    pdf->InsertNextValue(static_cast<float>(density));
+  }
+
+  vtkSmartPointer<vtkTable> table() const
+  {
+    auto result = vtkSmartPointer<vtkTable>::New();
+    result->AddColumn(x);
+    result->AddColumn(pdf);
+    return result;
+  }
+
+private:
+  vtkNew<vtkFloatArray> x;
+  vtkNew<vtkFloatArray> pdf;
+};
+
+vtkSmartPointer<vtkTable> spike(double value)
+{
+  CurveWriter writer;
+  writer.add(0.5 * value, 0.0);
+  writer.add(0.98 * value, 0.0);
+  writer.add(value, 1.0);
+  writer.add(value / 0.98, 0.0);
+  writer.add(2.0 * value, 0.0);
+  return writer.table();
+}
+
+int labelDecimals(double width)
+{
+  if (width >= 100.0)
+    return 0;
+  return width >= 10.0 ? 1 : 2;
+}
+
+std::string scientific(double value)
+{
+  const QString text = QString::number(value, 'f', 2);
+  return Talmesh::getScientificFormat(text, 2, 10, false).toStdString();
+}
+
+void dressAxes(vtkChartXY* chart, const DensityCurve& curve)
+{
+  vtkAxis* left = chart->GetAxis(vtkAxis::LEFT);
+  fixRange(left, 0.0, headroom * curve.maximum);
+  left->SetTicksVisible(false);
+  left->SetLabelsVisible(false);
+  left->SetTitle("");
+  left->SetMargins(0, 0);
+  vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
+  bottom->SetTitle("");
+  bottom->SetNumberOfTicks(3);
+  bottom->SetNotation(vtkAxis::FIXED_NOTATION);
+  bottom->SetPrecision(labelDecimals(curve.range.second - curve.range.first));
+}
+
+} // namespace
+
+DensityCurve densityCurve(const Distribution& distribution)
+{
+  DensityCurve curve;
+  curve.range = distribution.range(1);
+  const auto [low, high] = curve.range;
+  if (distribution.kind() == Distribution::PointMass)
+  {
+    curve.table = spike(low);
+    return curve;
+  }
+  CurveWriter writer;
+  const double step = (high - low) / (curvePoints - 1);
+  for (int i = 0; i < curvePoints; ++i)
+  {
+    const double x = i * step + low;
+    const double density = distribution.density(x);
+    writer.add(x, density);
+    if (std::isfinite(density) && density > curve.maximum)
+      curve.maximum = density;
+  }
+  curve.table = writer.table();
+  return curve;
+}
+
+RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve)
+{
+  const auto [low, high] = curve.range;
+  state.table = curve.table;
+  cutSelectionToTable(state);
+  vtkChartXY* chart = reuseChartXY(state, currentScene(state));
+  vtkPlot* area = chart->AddPlot(vtkChart::STACKED);
+  // VTK sorts the points by x and does not finish painting an infinite axis.
+  double drawn[2];
+  if (finiteRange(plottableColumn(state.table, 0), drawn))
+    feedPlot(area, state.table, 0, 1);
+  area->SetColor(30, 30, 230, 255);
+  dressAxes(chart, curve);
+  chart->SetInteractive(false);
+  chart->Update();
+  setPlotTitle(state, "");
+  return {{low, high}, {scientific(low), scientific(high)}};
+}
+
+} // namespace Talmesh::plot

@@ -1,0 +1,114 @@
+#include "plot/ErrorBarChart.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/ChartReuse.h"
+#include "plot/Margins.h"
+#include "plot/PlotFeed.h"
+#include "plot/PlotState.h"
+#include "plot/PointAppearance.h"
+#include "plot/TableColumns.h"
+#include "plot/TickLabels.h"
+#include "vtk/vtkPlotErrorPoints.h"
+
+#include <vtkAxis.h>
+#include <vtkFloatArray.h>
+#include <vtkObjectFactory.h>
+#include <vtkPen.h>
+
+namespace Talmesh::plot
+{
+
+namespace
+{
+
+/// Part of the x range that stays empty beyond either end of the data.
+constexpr float rangePadding = 0.05F;
+
+/// Donates the reference that the base's destructor releases. It does so at the last moment, when
+/// it is known which column, if any, the item ended with.
+class OwnedErrorPoints : public vtkPlotErrorPoints
+{
+public:
+  static OwnedErrorPoints* New();
+
+protected:
+  OwnedErrorPoints() = default;
+  ~OwnedErrorPoints() override
+  {
+    if (ErrorArray)
+      ErrorArray->Register(nullptr);
+  }
+};
+
+vtkStandardNewMacro(OwnedErrorPoints);
+
+/// With the row index as x, a missing x column does no harm.
+void feed(const PlotState& state, vtkPlot* plot, vtkTable* table, int x, int y)
+{
+  plot->SetUseIndexForXSeries(state.useIndexForXSeries);
+  if (!feedPlot(plot, table, x, y) && state.useIndexForXSeries)
+    feedPlotByIndex(plot, table, y);
+}
+
+void addErrorBars(PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  vtkNew<OwnedErrorPoints> points;
+  feed(state, points, state.table, firstOf(settings.xColumns), firstOf(settings.yColumns));
+  points->SelectErrorArray(static_cast<vtkIdType>(firstOf(settings.zColumns)));
+  points->SetWidth(static_cast<float>(settings.getLineWidth()));
+  state.chartXY->AddPlot(points);
+}
+
+/// Only until the first layout, because the axis fits the data; a client that reads it before sees
+/// the padded range, computed in the column's precision.
+void padBottomAxis(PlotState& state)
+{
+  vtkAbstractArray* column = columnAt(state.table, firstOf(state.metaData->xColumns));
+  double range[2];
+  if (!finiteRange(vtkFloatArray::SafeDownCast(column), range))
+    return;
+  const float low = static_cast<float>(range[0]);
+  const float high = static_cast<float>(range[1]);
+  const float padding = rangePadding * (high - low);
+  vtkAxis* axis = state.chartXY->GetAxis(vtkAxis::BOTTOM);
+  axis->SetUnscaledMinimum(low - padding);
+  axis->SetUnscaledMaximum(high + padding);
+}
+
+vtkTable* lineTable(const PlotState& state)
+{
+  const bool hasOwn = !state.derivedTables.empty() && state.derivedTables.front();
+  return hasOwn ? state.derivedTables.front() : state.table;
+}
+
+void addLine(PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  const bool hasSecondX = settings.xColumns.size() >= 2;
+  if (settings.yColumns.size() < 2 || (!hasSecondX && !state.useIndexForXSeries))
+    return;
+  vtkPlot* line = state.chartXY->AddPlot(vtkChart::LINE);
+  vtkTable* table = lineTable(state);
+  feed(state, line, table, hasSecondX ? settings.xColumns[1] : 0, settings.yColumns[1]);
+  if (table != state.table)
+    makeUnselectable(line);
+}
+
+} // namespace
+
+void drawErrorBarChart(PlotState& state, vtkContextScene* scene)
+{
+  vtkChartXY* chart = reuseChartXY(state, scene);
+  applyXYBorders(state);
+  addErrorBars(state);
+  chart->GetAxis(vtkAxis::BOTTOM)->SetTitle(state.metaData->xLabel);
+  padBottomAxis(state);
+  addLine(state);
+  applyTickLabelsByIndex(state, chart->GetAxis(vtkAxis::BOTTOM));
+  chart->GetAxis(vtkAxis::LEFT)->SetTitle(state.metaData->yLabel);
+  useColors(state, nullptr);
+  chart->SetTitle(state.metaData->title);
+}
+
+} // namespace Talmesh::plot

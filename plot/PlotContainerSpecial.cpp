@@ -1,0 +1,72 @@
+#include "external/Distribution.h"
+#include "external/FitRun.h"
+#include "external/FitSettings.h"
+#include "external/PlotMetaData.h"
+#include "external/SobolPostProcessResult.h"
+#include "plot/DistributionChart.h"
+#include "plot/ErrorBarChart.h"
+#include "plot/PlotContainer.h"
+#include "plot/PlotState.h"
+#include "plot/Residuals.h"
+#include "plot/SettingsSignals.h"
+#include "plot/SobolChart.h"
+#include "plot/SobolTables.h"
+
+void PlotContainer::drawScatterPlotWithErrorBars(vtkContextScene* scene)
+{
+  Talmesh::plot::drawErrorBarChart(*d, scene);
+}
+
+void PlotContainer::setSobolPostprocessResult(SobolPostProcessResult* result, bool atTimePoint,
+                                              bool total, unsigned long timePointIndex,
+                                              unsigned long outputIndex)
+{
+  using namespace Talmesh::plot;
+  if (!result)
+    return;
+  blockSettings(*d);
+  const SobolIndex index = total ? SobolIndex::Total : SobolIndex::FirstOrder;
+  if (atTimePoint)
+  {
+    d->table = sobolTimePointTable(*result, index, timePointIndex);
+    d->metaData->title = sobolTimePointTitle(*result, index, timePointIndex);
+  }
+  else
+  {
+    d->table = sobolTimeSeriesTable(*result, index, outputIndex);
+    d->metaData->title = sobolTimeSeriesTitle(*result, index, outputIndex);
+  }
+  setupStackedSobol(total);
+  unblockSettings(*d);
+}
+
+void PlotContainer::setupStackedSobol(bool total)
+{
+  Talmesh::plot::blockSettings(*d);
+  Talmesh::plot::buildSobolChart(*d, total);
+  Talmesh::plot::unblockSettings(*d);
+}
+
+void PlotContainer::setResidualPlot(FitRun* run, FitSettings* settings,
+                                    std::vector<std::vector<double>>& predictions, bool scaled,
+                                    bool sideBySide)
+{
+  using namespace Talmesh::plot;
+  if (!run || !settings)
+    return;
+  blockSettings(*d);
+  const ResidualOptions options{scaled, sideBySide};
+  normalizePredictions(*settings, predictions);
+  d->table = residualTable(*run, *settings, predictions, options);
+  drawResiduals(*d, predictions.size(), settings->dataKind() == FitSettings::timeCourse, options);
+  unblockSettings(*d);
+}
+
+void PlotContainer::setDistribution(Distribution* distribution)
+{
+  if (!distribution)
+    return;
+  Talmesh::plot::blockSettings(*d);
+  Talmesh::plot::drawDensityCurve(*d, Talmesh::plot::densityCurve(*distribution));
+  Talmesh::plot::unblockSettings(*d);
+}

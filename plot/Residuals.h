@@ -1,0 +1,48 @@
+#ifndef Residuals_h
+#define Residuals_h
+
+#include <vtkSmartPointer.h>
+
+#include <vector>
+
+class FitSettings;
+class vtkTable;
+struct FitRun;
+
+namespace Talmesh::plot
+{
+
+struct PlotState;
+
+/// One row of predictions per fitted output.
+using Predictions = std::vector<std::vector<double>>;
+
+struct ResidualOptions
+{
+  /// Divide residuals by the errors of the observations.
+  bool scaled = false;
+  /// Predictions and observations instead of residuals.
+  bool sideBySide = false;
+};
+
+/// The factor of the observations: 1 for standardised data, otherwise the fitted global scale when
+/// it is fitted and known, otherwise the settings' scale.
+double observationScale(const FitRun& run, const FitSettings& settings);
+
+/// Standardises the predictions, or divides every row by its own value at the reference index, as
+/// the settings say. A reference outside a row leaves that row alone; a zero there makes the row
+/// infinite or NaN.
+void normalizePredictions(const FitSettings& settings, Predictions& predictions);
+
+/// The single-precision table of a residual plot: "Time" for time courses, then per output either
+/// "Residual ..." or "Prediction ..." and "Observation ...". A residual is scale * observation -
+/// prediction. Values that are missing, or that a shorter column lacks, are NaN.
+vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& settings,
+                                        const Predictions& predictions, ResidualOptions options);
+
+/// Plots the table of residualTable, `outputs` series of it, on the XY chart and titles it.
+void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, ResidualOptions options);
+
+} // namespace Talmesh::plot
+
+#endif
