@@ -507,6 +507,19 @@ protected:
     samples = {toBytes(frozenDump), dump(), QByteArray(12, '\0')};
   }
 
+  /// A restored selection splits and ranks the runs, which warns about bounds that no dump has.
+  static std::string withoutRankingWarnings(const std::string& text)
+  {
+    std::istringstream lines(text);
+    std::string kept;
+    for (std::string line; std::getline(lines, line);)
+    {
+      if (line.find("generateRankedParameters") == std::string::npos)
+        kept += line + '\n';
+    }
+    return kept;
+  }
+
   void readAndCheck(const QByteArray& bytes)
   {
     CapturedOutput errors(std::cerr);
@@ -514,7 +527,8 @@ protected:
     for (int c = 0; c < table()->GetNumberOfColumns(); ++c)
       ASSERT_EQ(table()->GetColumn(c)->GetNumberOfTuples(), table()->GetNumberOfRows());
     ASSERT_LE(items().size(), static_cast<std::size_t>(bytes.size()) / 8);
-    ASSERT_TRUE(errors.text().empty() || errors.text() == endsTooEarly) << errors.text();
+    const std::string own = withoutRankingWarnings(errors.text());
+    ASSERT_TRUE(own.empty() || own == endsTooEarly) << errors.text();
   }
 
   std::vector<QByteArray> samples;
