@@ -111,7 +111,7 @@ int labelFontSize(vtkStringArray* names)
 {
   constexpr int normalSize = 12;
   constexpr int smallestSize = 8;
-  constexpr std::size_t normalLength = 24;
+  constexpr std::size_t normalLength = 28;
   std::size_t longest = normalLength;
   for (vtkIdType i = 0; i < names->GetNumberOfValues(); ++i)
     longest = std::max(longest, names->GetValue(i).size());
