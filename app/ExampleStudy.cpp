@@ -73,7 +73,7 @@ std::vector<TypedConcentrationName> exampleItems()
 const std::vector<ParameterRange>& exampleParameterRanges()
 {
   static const std::vector<ParameterRange> ranges = {
-      {10.0, 1000.0, true}, {0.01, 10.0, true}, {0.1, 10.0, true}, {1.2, 3.0, false}};
+      {10.0, 300.0, true}, {0.01, 10.0, true}, {0.05, 1.0, true}, {1.5, 3.0, false}};
   return ranges;
 }
 

@@ -1,0 +1,53 @@
+#include "app/Batch.h"
+
+#include "app/Gallery.h"
+#include "app/PictureFile.h"
+#include "app/PlotChoice.h"
+#include "app/StudyFile.h"
+#include "plot/PlotContainer.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <QString>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr QSize defaultSize(1000, 700);
+
+std::string writeExports(const CommandLineOptions& options, const Study& study, const QSize& size)
+{
+  const auto widget = makeHiddenPlot(size);
+  PlotContainer& container = *widget->plotContainer();
+  showStudy(study, container);
+  PlotChoice choice = choiceOf(container);
+  std::string error = chooseByName(container, options, choice);
+  if (error.empty())
+    error = applyChoice(container, choice);
+  for (const std::string& path : options.exports)
+    if (error.empty())
+      error = exportPlot(*widget, QString::fromStdString(path));
+  return error;
+}
+
+} // namespace
+
+std::string runBatch(const CommandLineOptions& options)
+{
+  OpenedStudy opened;
+  if (options.file.empty())
+    opened.study = exampleStudyOfRepressilator();
+  else
+    opened = openStudyFile(QString::fromStdString(options.file));
+  if (!opened.error.empty())
+    return opened.error;
+  const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
+  std::string error = writeExports(options, opened.study, size);
+  if (error.empty() && !options.gallery.empty())
+    error = writeGallery(opened.study, QString::fromStdString(options.gallery), size);
+  return error;
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,18 @@
+#ifndef Batch_h
+#define Batch_h
+
+#include "app/CommandLine.h"
+
+#include <string>
+
+namespace Talmesh::app
+{
+
+/// Writes what the command line asks for, exports and gallery, without a window. Needs a
+/// QApplication. Nothing is written when the file cannot be opened or a column is not there.
+/// @return why something could not be done, in one line; empty on success
+std::string runBatch(const CommandLineOptions& options);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,17 @@
+#ifndef FurtherSeries_h
+#define FurtherSeries_h
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// Completes the XY chart that a container has just drawn: a redraw plots the first y column only.
+/// Adds one plot of the same kind for every further y column, each in a colour of its own, and
+/// names all of them in the legend without their kind. Does nothing where the container shows no XY
+/// chart.
+void addFurtherSeries(PlotContainer& container);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,232 @@
+#include "app/MainWindow.h"
+
+#include "app/LoadingBar.h"
+#include "app/PictureFile.h"
+#include "app/PlotChoice.h"
+#include "app/PlotDock.h"
+#include "app/StudyLoader.h"
+#include "plot/PlotContainer.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QStatusBar>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// The window at first: so many characters wide and lines high, of the font in use.
+constexpr int firstCharacters = 150;
+constexpr int firstLines = 44;
+constexpr int noteMilliseconds = 10000;
+
+QString localFileOf(const QMimeData* data)
+{
+  const QList<QUrl> urls = data->urls();
+  return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , plot(new VtkPlotWidget)
+    , dock(new PlotDock)
+    , loader(new StudyLoader(this))
+{
+  setWindowTitle(QStringLiteral("Talmesh Plot"));
+  setAcceptDrops(true);
+  setCentralWidget(plot);
+  addDockWidget(Qt::RightDockWidgetArea, dock);
+  const QFontMetrics metrics = fontMetrics();
+  resize(firstCharacters * metrics.averageCharWidth(), firstLines * metrics.lineSpacing());
+  container = plot->plotContainer();
+  makeMenus();
+  makeStatusBar();
+  connect(dock, &PlotDock::choiceChanged, this, &MainWindow::applyDock);
+  connect(loader, &StudyLoader::progressed, loadingBar, &LoadingBar::setPercent);
+  connect(loader, &StudyLoader::finished, this, &MainWindow::finishLoading);
+  connect(loadingBar, &LoadingBar::cancelled, this, &MainWindow::cancelLoading);
+}
+
+MainWindow::~MainWindow()
+{
+  // The loader goes first: its thread must not outlive what it reports to.
+  delete loader;
+}
+
+void MainWindow::makeStatusBar()
+{
+  size = new QLabel;
+  size->setObjectName(QStringLiteral("studySize"));
+  loadingBar = new LoadingBar;
+  statusBar()->addPermanentWidget(loadingBar);
+  statusBar()->addPermanentWidget(size);
+}
+
+void MainWindow::open(const CommandLineOptions& options)
+{
+  wishes = options;
+  if (options.width > 0)
+    // The window grows by as much as the plot must.
+    resize(QWidget::size() + QSize(options.width, options.height) - plot->size());
+  if (options.file.empty())
+    openExample();
+  else
+    openFile(QString::fromStdString(options.file));
+}
+
+void MainWindow::openFile(const QString& path)
+{
+  loadingPath = path;
+  load(QFileInfo(path).fileName(),
+       [path](const ImportProgress& progress) { return openStudyFile(path, progress); });
+}
+
+void MainWindow::openExample()
+{
+  loadingPath.clear();
+  load(tr("the example study"),
+       [](const ImportProgress&)
+       {
+         OpenedStudy example;
+         example.study = exampleStudyOfRepressilator();
+         return example;
+       });
+}
+
+bool MainWindow::isLoading() const
+{
+  return loader->isLoading();
+}
+
+void MainWindow::load(const QString& name, std::function<OpenedStudy(const ImportProgress&)> job)
+{
+  statusBar()->showMessage(tr("Opening %1 ...").arg(name));
+  loadingBar->begin();
+  loader->start(std::move(job));
+}
+
+void MainWindow::cancelLoading()
+{
+  loader->cancel();
+  loadingBar->end();
+  statusBar()->showMessage(tr("Cancelled"), noteMilliseconds);
+}
+
+void MainWindow::finishLoading(const OpenedStudy& result)
+{
+  loadingBar->end();
+  statusBar()->clearMessage();
+  if (!result.error.empty())
+  {
+    const QString message = QString::fromStdString(result.error);
+    if (!loadingPath.isEmpty())
+      recent.remove(loadingPath);
+    showError(message);
+    emit openFailed(message);
+    return;
+  }
+  showStudyInPlot(result.study);
+  if (!loadingPath.isEmpty())
+    recent.add(loadingPath);
+  for (const std::string& note : result.notes)
+    statusBar()->showMessage(QString::fromStdString(note), noteMilliseconds);
+  if (applyWishes())
+    emit opened();
+}
+
+void MainWindow::showStudyInPlot(const Study& opened)
+{
+  // A container remembers much of what it showed before, so each study gets its own.
+  auto* fresh = new PlotContainer(this);
+  plot->setPlotContainer(fresh);
+  if (container && container->parent() == this)
+    container->deleteLater();
+  container = fresh;
+  study = opened;
+  showStudy(study, *container);
+  dock->setColumns(container->getLabels());
+  dock->setChoice(choiceOf(*container));
+  size->setText(QString::fromStdString(studySize(study)));
+  setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
+}
+
+/// Shows what the command line asked for, once, or the study's own first choice.
+bool MainWindow::applyWishes()
+{
+  PlotChoice choice = choiceOf(*container);
+  const std::string error = chooseByName(*container, wishes, choice);
+  wishes = CommandLineOptions();
+  if (error.empty())
+    dock->setChoice(choice);
+  applyDock();
+  if (error.empty())
+    return true;
+  showError(QString::fromStdString(error));
+  emit openFailed(QString::fromStdString(error));
+  return false;
+}
+
+void MainWindow::applyDock()
+{
+  if (!container)
+    return;
+  const std::string error = applyChoice(*container, dock->choice());
+  plot->updatePlot(true);
+  if (!error.empty())
+    statusBar()->showMessage(QString::fromStdString(error), noteMilliseconds);
+}
+
+bool MainWindow::exportTo(const QString& path)
+{
+  const std::string error = exportPlot(*plot, path);
+  if (error.empty())
+    statusBar()->showMessage(tr("Wrote %1").arg(path), noteMilliseconds);
+  else
+    showError(QString::fromStdString(error));
+  return error.empty();
+}
+
+QString MainWindow::sizeText() const
+{
+  return size->text();
+}
+
+void MainWindow::showError(const QString& message)
+{
+  statusBar()->showMessage(message, noteMilliseconds);
+  if (!isVisible())
+    return;
+  // Opened, not executed: a nested event loop would let the window die under this call.
+  auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Talmesh Plot"), message,
+                              QMessageBox::Ok, this);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setTextFormat(Qt::PlainText);
+  box->open();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+  if (!localFileOf(event->mimeData()).isEmpty())
+    event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+  const QString path = localFileOf(event->mimeData());
+  if (path.isEmpty())
+    return;
+  event->acceptProposedAction();
+  openFile(path);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,99 @@
+#ifndef MainWindow_h
+#define MainWindow_h
+
+#include "app/CommandLine.h"
+#include "app/RecentFiles.h"
+#include "app/Study.h"
+#include "app/StudyFile.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+class PlotContainer;
+class QLabel;
+class QMenu;
+class VtkPlotWidget;
+
+namespace Talmesh::app
+{
+
+class LoadingBar;
+class PlotDock;
+class StudyLoader;
+
+/// The viewer's window: a plot, the panel to choose what it shows, and what is loaded.
+class MainWindow : public QMainWindow
+{
+  Q_OBJECT
+
+public:
+  explicit MainWindow(QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  /// Opens the file or example that the command line names and shows the columns it names. The
+  /// result is announced by `opened` or `openFailed`.
+  void open(const CommandLineOptions& options);
+  /// Starts to open a file; the window stays alive meanwhile.
+  void openFile(const QString& path);
+  /// Starts to simulate the example study.
+  void openExample();
+  bool isLoading() const;
+
+  /// Writes what is shown to a file, by its suffix; a failure is shown to the user.
+  /// @return whether it was written
+  bool exportTo(const QString& path);
+
+  VtkPlotWidget* plotWidget() const { return plot; }
+  PlotDock* plotDock() const { return dock; }
+  /// How much is loaded, as the status bar says it.
+  QString sizeText() const;
+
+signals:
+  void opened();
+  /// One line.
+  void openFailed(const QString& message);
+
+protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+private:
+  void makeMenus();
+  void makeFileMenu();
+  void makeViewMenu();
+  void makeHelpMenu();
+  void makeStatusBar();
+  QAction* addAction(QMenu* menu, const QString& text, const QKeySequence& keys,
+                     void (MainWindow::*slot)());
+  void chooseFile();
+  void chooseExport();
+  void showShortcuts();
+  void showAbout();
+  void fillRecentMenu();
+  void load(const QString& name, std::function<OpenedStudy(const ImportProgress&)> job);
+  void cancelLoading();
+  void finishLoading(const OpenedStudy& result);
+  void showStudyInPlot(const Study& study);
+  bool applyWishes();
+  void applyDock();
+  void updateRender();
+  void showError(const QString& message);
+
+  VtkPlotWidget* plot;
+  PlotDock* dock;
+  StudyLoader* loader;
+  LoadingBar* loadingBar = nullptr;
+  QLabel* size = nullptr;
+  QMenu* recentMenu = nullptr;
+  RecentFiles recent;
+  QPointer<PlotContainer> container;
+  Study study;
+  /// The file being opened; empty for the example.
+  QString loadingPath;
+  /// What the command line wishes of the study that is being opened first.
+  CommandLineOptions wishes;
+};
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,167 @@
+#include "app/MainWindow.h"
+#include "app/PlotDock.h"
+#include "app/StyleNames.h"
+#include "widgets/WidgetSupport.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+QString nativeText(const QAction* action)
+{
+  return action->shortcut().toString(QKeySequence::NativeText);
+}
+
+} // namespace
+
+QAction* MainWindow::addAction(QMenu* menu, const QString& text, const QKeySequence& keys,
+                               void (MainWindow::*slot)())
+{
+  QAction* action = menu->addAction(text);
+  action->setShortcut(keys);
+  connect(action, &QAction::triggered, this, slot);
+  return action;
+}
+
+void MainWindow::makeMenus()
+{
+  makeFileMenu();
+  makeViewMenu();
+  makeHelpMenu();
+}
+
+void MainWindow::makeFileMenu()
+{
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  addAction(file, tr("&Open..."), QKeySequence::Open, &MainWindow::chooseFile);
+  recentMenu = file->addMenu(tr("Open &recent"));
+  recentMenu->setObjectName(QStringLiteral("recentMenu"));
+  connect(recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
+  addAction(file, tr("Open the e&xample study"), QKeySequence(tr("Ctrl+Shift+O")),
+            &MainWindow::openExample);
+  file->addSeparator();
+  addAction(file, tr("&Export..."), QKeySequence(tr("Ctrl+E")), &MainWindow::chooseExport);
+  file->addSeparator();
+  QAction* quit = file->addAction(tr("&Quit"));
+  quit->setShortcut(QKeySequence(tr("Ctrl+Q")));
+  connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::makeViewMenu()
+{
+  QMenu* view = menuBar()->addMenu(tr("&View"));
+  const auto addSwitch = [this, view](const char* name, const QString& text, const QString& keys)
+  {
+    QAction* action = view->addAction(text);
+    action->setShortcut(QKeySequence(keys));
+    connect(action, &QAction::triggered, dock->findChild<QCheckBox*>(QLatin1String(name)),
+            &QCheckBox::click);
+  };
+  addSwitch("lines", tr("Lines or points"), tr("Ctrl+L"));
+  addSwitch("legend", tr("Legend"), tr("Ctrl+G"));
+  addSwitch("logX", tr("Logarithmic x axis"), tr("Ctrl+Shift+X"));
+  addSwitch("logY", tr("Logarithmic y axis"), tr("Ctrl+Shift+Y"));
+  view->addSeparator();
+  for (const StyleName& style : styleNames())
+  {
+    if (style.style == reservedStyle1 || style.style == reservedStyle2)
+      continue;
+    QAction* action = view->addAction(QString::fromUtf8(style.title));
+    action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(static_cast<int>(style.style))));
+    connect(action, &QAction::triggered, this,
+            [this, value = style.style]
+            {
+              PlotChoice choice = dock->choice();
+              choice.style = value;
+              dock->setChoice(choice);
+              applyDock();
+            });
+  }
+  view->addSeparator();
+  QAction* panel = dock->toggleViewAction();
+  panel->setShortcut(QKeySequence(Qt::Key_F9));
+  view->addAction(panel);
+}
+
+void MainWindow::makeHelpMenu()
+{
+  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  addAction(help, tr("&Keyboard shortcuts"), QKeySequence::HelpContents,
+            &MainWindow::showShortcuts);
+  addAction(help, tr("&About"), {}, &MainWindow::showAbout);
+}
+
+void MainWindow::chooseFile()
+{
+  auto* dialog =
+      new QFileDialog(this, tr("Open runs"), {}, tr("Tables (*.csv *.tsv *.txt);;All files (*)"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOptions(getFileDialogOption());
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::openFile);
+  dialog->open();
+}
+
+void MainWindow::chooseExport()
+{
+  auto* dialog = new QFileDialog(this, tr("Export"), {},
+                                 tr("Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOptions(getFileDialogOption());
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  const auto suffixOfFilter = [dialog](const QString& filter)
+  { dialog->setDefaultSuffix(filter.section(QStringLiteral("*."), 1).left(3)); };
+  suffixOfFilter(dialog->selectedNameFilter());
+  connect(dialog, &QFileDialog::filterSelected, dialog, suffixOfFilter);
+  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::exportTo);
+  dialog->open();
+}
+
+void MainWindow::fillRecentMenu()
+{
+  recentMenu->clear();
+  const QStringList paths = recent.paths();
+  for (const QString& path : paths)
+    connect(recentMenu->addAction(path), &QAction::triggered, this,
+            [this, path] { openFile(path); });
+  if (paths.isEmpty())
+    recentMenu->addAction(tr("None yet"))->setEnabled(false);
+}
+
+void MainWindow::showShortcuts()
+{
+  QString lines;
+  for (const QAction* menu : menuBar()->actions())
+    for (const QAction* action : menu->menu()->actions())
+      if (!action->shortcut().isEmpty())
+        lines += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
+                     .arg(nativeText(action).toHtmlEscaped(),
+                          action->text().remove(QLatin1Char('&')).toHtmlEscaped());
+  auto* box =
+      new QMessageBox(QMessageBox::NoIcon, tr("Keyboard shortcuts"),
+                      QStringLiteral("<table>%1</table>").arg(lines), QMessageBox::Ok, this);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->open();
+}
+
+void MainWindow::showAbout()
+{
+  auto* box = new QMessageBox(
+      QMessageBox::NoIcon, tr("About Talmesh Plot"),
+      tr("Talmesh Plot %1\nPlots of simulated runs.").arg(QApplication::applicationVersion()),
+      QMessageBox::Ok, this);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->open();
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,151 @@
+#include "app/PlotChoice.h"
+
+#include "app/ChartDressing.h"
+#include "app/ColumnRoles.h"
+#include "app/FurtherSeries.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/TableColumns.h"
+
+#include <vtkAxis.h>
+#include <vtkChartXY.h>
+#include <vtkTable.h>
+
+#include <algorithm>
+#include <exception>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr int mostNamesInAMessage = 20;
+
+std::string columnLabel(const PlotContainer& container, int column)
+{
+  return shownName(plot::columnName(container.getTable(), column));
+}
+
+std::string joinedLabels(const PlotContainer& container, const std::vector<int>& columns)
+{
+  std::string joined;
+  for (const int column : columns)
+    joined += (joined.empty() ? "" : ", ") + columnLabel(container, column);
+  return joined;
+}
+
+/// The settings must not announce each change, or every one of them would draw.
+void writeSettings(PlotContainer& container, const PlotChoice& choice)
+{
+  PlotMetaData& settings = *container.getMetaData();
+  settings.blockSignals(true);
+  settings.xColumns = {choice.x};
+  settings.yColumns = choice.y;
+  settings.zColumns = {choice.z};
+  settings.xLabel = columnLabel(container, choice.x);
+  settings.yLabel = joinedLabels(container, choice.y);
+  settings.setPlotStyle(choice.style);
+  settings.setPlotLine(choice.lines);
+  settings.setLogX(choice.logX);
+  settings.blockSignals(false);
+}
+
+std::string allNames(const PlotContainer& container)
+{
+  const int columns = static_cast<int>(container.getTable()->GetNumberOfColumns());
+  std::string names;
+  for (int column = 0; column < std::min(columns, mostNamesInAMessage); ++column)
+    names += (column > 0 ? ", " : "") + columnLabel(container, column);
+  return columns > mostNamesInAMessage ? names + ", ..." : names;
+}
+
+} // namespace
+
+PlotChoice choiceOf(const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  PlotChoice choice;
+  choice.style = settings.getPlotStyle();
+  choice.x = plot::firstOf(settings.xColumns);
+  choice.y = settings.yColumns;
+  choice.z = plot::firstOf(settings.zColumns);
+  choice.lines = settings.getPlotLine();
+  choice.logX = settings.getLogX();
+  if (vtkChartXY* chart = container.getChartXY())
+  {
+    choice.legend = chart->GetShowLegend();
+    choice.logY = chart->GetAxis(vtkAxis::LEFT)->GetLogScale();
+  }
+  return choice;
+}
+
+std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
+{
+  writeSettings(container, choice);
+  makeRoom(container);
+  try
+  {
+    container.redraw();
+  }
+  catch (const std::exception& failure)
+  {
+    container.getMetaData()->blockSignals(false);
+    return std::string("cannot draw this: ") + failure.what();
+  }
+  dressChart(container);
+  if (choice.style != xyPlot)
+    return {};
+  addFurtherSeries(container);
+  container.setLogScaleY(choice.logY);
+  container.setShowLegend(choice.legend);
+  return {};
+}
+
+std::string shownName(const std::string& columnName)
+{
+  return readHeader(columnName).name;
+}
+
+FoundColumn findColumn(const PlotContainer& container, const std::string& name)
+{
+  vtkTable* table = container.getTable();
+  const int whole = plot::columnIndex(table, name);
+  if (whole >= 0)
+    return {whole, {}};
+  std::vector<int> matches;
+  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
+    if (columnLabel(container, column) == name)
+      matches.push_back(column);
+  if (matches.size() == 1)
+    return {matches.front(), {}};
+  if (matches.empty())
+    return {-1, "no such column: " + name + "; the columns are " + allNames(container)};
+  return {-1, "more than one column is named " + name + ": " + plot::columnName(table, matches[0]) +
+                  " and " + plot::columnName(table, matches[1])};
+}
+
+std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,
+                         PlotChoice& choice)
+{
+  if (options.style)
+    choice.style = *options.style;
+  std::string error;
+  const auto choose = [&](const std::string& name, int& column)
+  {
+    if (name.empty() || !error.empty())
+      return;
+    const FoundColumn found = findColumn(container, name);
+    error = found.error;
+    column = found.column;
+  };
+  choose(options.x, choice.x);
+  choose(options.z, choice.z);
+  if (!options.y.empty())
+    choice.y.assign(options.y.size(), -1);
+  for (std::size_t i = 0; i < options.y.size(); ++i)
+    choose(options.y[i], choice.y[i]);
+  return error;
+}
+
+} // namespace Talmesh::app

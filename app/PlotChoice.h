@@ -1,0 +1,59 @@
+#ifndef PlotChoice_h
+#define PlotChoice_h
+
+#include "app/CommandLine.h"
+#include "external/PlotStyles.h"
+
+#include <string>
+#include <vector>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// What the user chooses of a plot. Columns are 0-based columns of the container's table.
+struct PlotChoice
+{
+  plotStyles style = xyPlot;
+  int x = 0;
+  /// The columns over x; the first one first in the legend. Never empty when applied.
+  std::vector<int> y{1};
+  int z = 2;
+  /// Lines, one per run, instead of points in the XY plot.
+  bool lines = false;
+  bool legend = false;
+  bool logX = false;
+  bool logY = false;
+};
+
+/// What a container now shows; legend and logarithmic y axis as its XY chart has them.
+PlotChoice choiceOf(const PlotContainer& container);
+
+/// Makes the container show the choice: draws it, with all y columns in the XY plot, and labels the
+/// axes. Does not render.
+/// @return why it could not be drawn, in one line; empty on success
+std::string applyChoice(PlotContainer& container, const PlotChoice& choice);
+
+/// A column's name without its kind: "k1" for "Parameter: k1".
+std::string shownName(const std::string& columnName);
+
+/// A column, or why there is none.
+struct FoundColumn
+{
+  int column = -1;
+  /// One line; empty on success.
+  std::string error;
+};
+
+/// Finds a column by its whole name, else by its name without the kind.
+FoundColumn findColumn(const PlotContainer& container, const std::string& name);
+
+/// Writes the style and the columns that the command line names into `choice`.
+/// @return why a name cannot be found, in one line; empty on success
+std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,
+                         PlotChoice& choice);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,180 @@
+#include "app/PlotDock.h"
+
+#include "app/StyleNames.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QFormLayout>
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// The widths of the panel follow the font, so that they are right on every screen.
+constexpr int charactersOfAName = 18;
+
+QComboBox* makeColumnBox(const QString& name)
+{
+  auto* box = new QComboBox;
+  box->setObjectName(name);
+  box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  box->setMinimumContentsLength(charactersOfAName);
+  return box;
+}
+
+bool isOffered(plotStyles offered)
+{
+  return offered != reservedStyle1 && offered != reservedStyle2;
+}
+
+void fill(QComboBox* box, const QStringList& names)
+{
+  const QSignalBlocker silent(box);
+  box->clear();
+  box->addItems(names);
+}
+
+} // namespace
+
+PlotDock::PlotDock(QWidget* parent)
+    : QDockWidget(tr("Plot"), parent)
+    , style(makeColumnBox(QStringLiteral("style")))
+    , x(makeColumnBox(QStringLiteral("x")))
+    , y(new QListWidget)
+    , z(makeColumnBox(QStringLiteral("z")))
+{
+  setObjectName(QStringLiteral("plotDock"));
+  for (const StyleName& known : styleNames())
+    if (isOffered(known.style))
+      style->addItem(QString::fromUtf8(known.title), static_cast<int>(known.style));
+  y->setObjectName(QStringLiteral("y"));
+  y->setMinimumHeight(6 * y->fontMetrics().lineSpacing());
+
+  auto* panel = new QWidget;
+  auto* layout = new QFormLayout(panel);
+  layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
+  layout->addRow(tr("St&yle"), style);
+  layout->addRow(tr("&X"), x);
+  layout->addRow(tr("&Y"), y);
+  layout->addRow(tr("&Z"), z);
+  setWidget(panel);
+  lines = addSwitch(tr("L&ines"), tr("One line per run instead of points"));
+  legend = addSwitch(tr("Le&gend"), tr("Show what each colour means"));
+  logX = addSwitch(tr("Logarithmic x axis"), tr("Needs positive values"));
+  logY = addSwitch(tr("Logarithmic y axis"), tr("Needs positive values"));
+  lines->setObjectName(QStringLiteral("lines"));
+  legend->setObjectName(QStringLiteral("legend"));
+  logX->setObjectName(QStringLiteral("logX"));
+  logY->setObjectName(QStringLiteral("logY"));
+
+  for (QComboBox* box : {style, x, z})
+    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &PlotDock::emitChoice);
+  connect(y, &QListWidget::itemChanged, this, &PlotDock::emitChoice);
+  enableControls();
+}
+
+QCheckBox* PlotDock::addSwitch(const QString& text, const QString& toolTip)
+{
+  auto* box = new QCheckBox(text);
+  box->setToolTip(toolTip);
+  static_cast<QFormLayout*>(widget()->layout())->addRow(box);
+  connect(box, &QCheckBox::toggled, this, &PlotDock::emitChoice);
+  return box;
+}
+
+void PlotDock::setColumns(const QStringList& names)
+{
+  QStringList shown;
+  for (const QString& name : names)
+    shown.append(QString::fromStdString(shownName(name.toStdString())));
+  fill(x, shown);
+  fill(z, shown);
+  const QSignalBlocker silent(y);
+  y->clear();
+  for (int column = 0; column < shown.size(); ++column)
+  {
+    auto* item = new QListWidgetItem(shown[column], y);
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    item->setCheckState(Qt::Unchecked);
+    item->setToolTip(names[column]);
+  }
+}
+
+void PlotDock::tickColumns(const std::vector<int>& columns)
+{
+  const QSignalBlocker silent(y);
+  for (int row = 0; row < y->count(); ++row)
+    y->item(row)->setCheckState(Qt::Unchecked);
+  for (const int column : columns)
+    if (QListWidgetItem* item = y->item(column))
+      item->setCheckState(Qt::Checked);
+  lastTicked = columns;
+}
+
+void PlotDock::setChoice(const PlotChoice& choice)
+{
+  const QSignalBlocker silentStyle(style);
+  const QSignalBlocker silentX(x);
+  const QSignalBlocker silentZ(z);
+  const QSignalBlocker silentLines(lines);
+  const QSignalBlocker silentLegend(legend);
+  const QSignalBlocker silentLogX(logX);
+  const QSignalBlocker silentLogY(logY);
+  style->setCurrentIndex(style->findData(static_cast<int>(choice.style)));
+  unofferedStyle = choice.style;
+  x->setCurrentIndex(choice.x);
+  z->setCurrentIndex(choice.z);
+  tickColumns(choice.y);
+  lines->setChecked(choice.lines);
+  legend->setChecked(choice.legend);
+  logX->setChecked(choice.logX);
+  logY->setChecked(choice.logY);
+  enableControls();
+}
+
+PlotChoice PlotDock::choice() const
+{
+  PlotChoice choice;
+  choice.style = style->currentIndex() < 0 ? unofferedStyle
+                                           : static_cast<plotStyles>(style->currentData().toInt());
+  choice.x = x->currentIndex();
+  choice.z = z->currentIndex();
+  choice.y.clear();
+  for (int row = 0; row < y->count(); ++row)
+    if (y->item(row)->checkState() == Qt::Checked)
+      choice.y.push_back(row);
+  if (choice.y.empty())
+    choice.y = lastTicked;
+  choice.lines = lines->isChecked();
+  choice.legend = legend->isChecked();
+  choice.logX = logX->isChecked();
+  choice.logY = logY->isChecked();
+  return choice;
+}
+
+void PlotDock::emitChoice()
+{
+  lastTicked = choice().y;
+  enableControls();
+  emit choiceChanged();
+}
+
+void PlotDock::enableControls()
+{
+  const plotStyles chosen = choice().style;
+  const bool xy = chosen == xyPlot;
+  lines->setEnabled(xy);
+  legend->setEnabled(xy);
+  logX->setEnabled(xy);
+  logY->setEnabled(xy);
+  z->setEnabled(chosen == xyzPlot || chosen == scatterWithErrorBars);
+  x->setEnabled(chosen != parallelCoordinates);
+}
+
+} // namespace Talmesh::app

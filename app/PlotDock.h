@@ -1,0 +1,56 @@
+#ifndef PlotDock_h
+#define PlotDock_h
+
+#include "app/PlotChoice.h"
+
+#include <QDockWidget>
+#include <QStringList>
+
+class QCheckBox;
+class QComboBox;
+class QListWidget;
+
+namespace Talmesh::app
+{
+
+/// The panel in which the user chooses style, columns and switches.
+class PlotDock : public QDockWidget
+{
+  Q_OBJECT
+
+public:
+  explicit PlotDock(QWidget* parent = nullptr);
+
+  /// Offers the columns of a table, by their names in column order. Emits nothing.
+  void setColumns(const QStringList& names);
+  /// Shows a choice. Emits nothing.
+  void setChoice(const PlotChoice& choice);
+  /// What the controls say. Without a ticked column the one ticked last stays.
+  PlotChoice choice() const;
+
+signals:
+  /// The user changed something.
+  void choiceChanged();
+
+private:
+  QCheckBox* addSwitch(const QString& text, const QString& toolTip);
+  void tickColumns(const std::vector<int>& columns);
+  void emitChoice();
+  void enableControls();
+
+  QComboBox* style;
+  QComboBox* x;
+  QListWidget* y;
+  QComboBox* z;
+  QCheckBox* lines;
+  QCheckBox* legend;
+  QCheckBox* logX;
+  QCheckBox* logY;
+  std::vector<int> lastTicked{1};
+  /// A style that is shown but not offered.
+  plotStyles unofferedStyle = xyPlot;
+};
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,114 @@
+#include "app/Study.h"
+
+#include "app/ExampleStudy.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
+#include <array>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+std::string counted(std::size_t count, const std::string& thing)
+{
+  return std::to_string(count) + ' ' + thing + (count == 1 ? "" : "s");
+}
+
+std::size_t varyingParameters(const LinePlotTable& runs)
+{
+  return static_cast<std::size_t>(
+      std::count_if(runs.parameterRanges.begin(), runs.parameterRanges.end(),
+                    [](const auto& range) { return range.first != range.second; }));
+}
+
+/// The position of the first column that holds a plotted item; 0 without one.
+int firstPlottedColumn(const PlotContainer& container)
+{
+  const auto& items = container.getColumnItems();
+  const auto found = std::find_if(items.begin(), items.end(),
+                                  [](const TypedConcentrationName& item)
+                                  { return item.first != TimeOrValue && item.first != Parameter; });
+  return found == items.end() ? 0 : static_cast<int>(found - items.begin());
+}
+
+/// The colour of the first series. The more runs lie on each other, the more light shines through.
+std::array<int, 4> seriesColour(std::size_t runs)
+{
+  constexpr double leastAlpha = 60.0;
+  const double alpha =
+      std::max(leastAlpha, 255.0 * std::min(1.0, 10.0 / static_cast<double>(runs)));
+  return {31, 84, 150, static_cast<int>(alpha)};
+}
+
+} // namespace
+
+Study exampleStudyOfRepressilator()
+{
+  return {"Repressilator", makeExampleStudy(), nullptr};
+}
+
+void showStudy(const Study& study, PlotContainer& container)
+{
+  PlotMetaData& settings = *container.getMetaData();
+  if (study.runs)
+  {
+    container.setLinePlotTable(study.runs, false);
+    settings.yColumns = {firstPlottedColumn(container)};
+    settings.blockSignals(true);
+    settings.setPlotLine(study.runs->pointsPerTrajectory > 1);
+    // All columns of a study would be too many scatter plots to read, and slow to draw.
+    settings.setLimitColumVisibility(!settings.parameterColumns.empty());
+    settings.blockSignals(false);
+    settings.color = seriesColour(settings.getPlotLine() ? study.runs->numberOfTrajectories : 1);
+  }
+  else
+  {
+    container.setPlotData(study.table);
+    const int last = static_cast<int>(study.table->GetNumberOfColumns()) - 1;
+    settings.xColumns = {0};
+    settings.yColumns = {std::min(1, last)};
+    settings.zColumns = {std::min(2, last)};
+    settings.color = seriesColour(1);
+  }
+  settings.sourceName = study.name;
+}
+
+Study lastPoints(const Study& study)
+{
+  if (!study.runs)
+    return study;
+  const LinePlotTable& runs = *study.runs;
+  auto last = boost::make_shared<LinePlotTable>();
+  last->items = runs.items;
+  last->parameterRanges = runs.parameterRanges;
+  last->numberOfTrajectories = runs.numberOfTrajectories;
+  last->pointsPerTrajectory = 1;
+  last->values.reserve(runs.values.size());
+  for (const double* values : runs.values)
+  {
+    last->values.push_back(new double[runs.numberOfTrajectories]);
+    for (std::size_t run = 0; run < runs.numberOfTrajectories; ++run)
+      last->values.back()[run] = values[(run + 1) * runs.pointsPerTrajectory - 1];
+  }
+  return {study.name, last, nullptr};
+}
+
+std::string studySize(const Study& study)
+{
+  if (study.runs)
+    return counted(study.runs->numberOfTrajectories, "run") + ", " +
+           counted(study.runs->pointsPerTrajectory, "point") + " each, " +
+           counted(varyingParameters(*study.runs), "parameter");
+  if (study.table)
+    return counted(static_cast<std::size_t>(study.table->GetNumberOfRows()), "row") + ", " +
+           counted(static_cast<std::size_t>(study.table->GetNumberOfColumns()), "column");
+  return {};
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,44 @@
+#ifndef Study_h
+#define Study_h
+
+#include "external/LinePlotTable.h"
+
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
+
+#include <boost/shared_ptr.hpp>
+
+#include <string>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// The data that the viewer shows: runs or, for data without runs, a plain table. Texts are UTF-8.
+struct Study
+{
+  /// What the window's title calls it.
+  std::string name;
+  boost::shared_ptr<LinePlotTable> runs;
+  vtkSmartPointer<vtkTable> table;
+};
+
+/// The simulated example study.
+Study exampleStudyOfRepressilator();
+
+/// Hands the study to a container that is in a scene, and chooses what to plot at first: the first
+/// plotted item over time, one line per run, or the second column of a plain table over its first.
+void showStudy(const Study& study, PlotContainer& container);
+
+/// The state of every run at its last point, as a study of one point per run; of a plain table the
+/// table itself.
+Study lastPoints(const Study& study);
+
+/// How much is loaded, in one line: "400 runs, 200 points each, 4 parameters". Parameters that are
+/// the same in all runs do not count.
+std::string studySize(const Study& study);
+
+} // namespace Talmesh::app
+
+#endif

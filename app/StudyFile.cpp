@@ -1,0 +1,105 @@
+#include "app/StudyFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <new>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr qint64 chunk = 4 << 20;
+/// The part of the progress that reading the bytes takes.
+constexpr double readingPart = 0.1;
+
+struct FileBytes
+{
+  std::string bytes;
+  std::string error;
+  bool cancelled = false;
+};
+
+FileBytes readBytes(const QString& path, const ImportProgress& progress)
+{
+  FileBytes read;
+  const QFileInfo info(path);
+  QFile file(path);
+  if (!info.exists())
+    read.error = "there is no such file";
+  else if (!info.isFile())
+    read.error = "this is not a file";
+  else if (!file.open(QIODevice::ReadOnly))
+    read.error = "cannot be read: " + file.errorString().toStdString();
+  if (!read.error.empty())
+    return read;
+
+  const qint64 size = file.size();
+  read.bytes.resize(static_cast<std::size_t>(size));
+  qint64 filled = 0;
+  while (filled < size)
+  {
+    const qint64 got =
+        file.read(&read.bytes[static_cast<std::size_t>(filled)], std::min(chunk, size - filled));
+    if (got < 0)
+      read.error = "cannot be read: " + file.errorString().toStdString();
+    if (got <= 0)
+      break;
+    filled += got;
+    read.cancelled = progress && !progress(readingPart * static_cast<double>(filled) /
+                                           static_cast<double>(size));
+    if (read.cancelled)
+      break;
+  }
+  read.bytes.resize(static_cast<std::size_t>(filled));
+  return read;
+}
+
+OpenedStudy openBytes(const FileBytes& read, const ImportProgress& progress)
+{
+  const auto parsing = [&progress](double done)
+  { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
+  ImportedTable imported = importRunTable(read.bytes, parsing);
+  OpenedStudy opened;
+  opened.study.runs = imported.runs;
+  opened.study.table = imported.table;
+  opened.error = imported.error;
+  opened.cancelled = imported.cancelled;
+  opened.notes = imported.notes;
+  return opened;
+}
+
+OpenedStudy open(const QString& path, const ImportProgress& progress)
+{
+  const FileBytes read = readBytes(path, progress);
+  OpenedStudy opened;
+  opened.error = read.error;
+  opened.cancelled = read.cancelled;
+  if (!opened.error.empty() || opened.cancelled)
+    return opened;
+  return openBytes(read, progress);
+}
+
+} // namespace
+
+OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress)
+{
+  OpenedStudy opened;
+  try
+  {
+    opened = open(path, progress);
+  }
+  catch (const std::bad_alloc&)
+  {
+    opened.error = "the table does not fit into memory";
+  }
+  if (!opened.error.empty())
+    opened.error = path.toStdString() + ": " + opened.error;
+  opened.study.name = QFileInfo(path).fileName().toStdString();
+  return opened;
+}
+
+} // namespace Talmesh::app

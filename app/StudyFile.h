@@ -1,0 +1,30 @@
+#ifndef StudyFile_h
+#define StudyFile_h
+
+#include "app/RunTableImport.h"
+#include "app/Study.h"
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// A study, or why there is none. Texts are UTF-8, one line each.
+struct OpenedStudy
+{
+  Study study;
+  std::string error;
+  bool cancelled = false;
+  /// What the user should know although the study could be opened.
+  std::vector<std::string> notes;
+};
+
+/// Reads a table from a regular file. Errors begin with the file's name. May run in any thread.
+OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress = {});
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,104 @@
+#include "app/Batch.h"
+#include "app/CommandLine.h"
+#include "app/MainWindow.h"
+
+#include <QVTKOpenGLNativeWidget.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QOpenGLContext>
+#include <QSurfaceFormat>
+
+#include <clocale>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+using namespace Talmesh::app;
+
+int fail(const std::string& message)
+{
+  std::cerr << "talmesh-plot: " << message << std::endl;
+  return EXIT_FAILURE;
+}
+
+/// Set when Qt has found a display. What it says before is summed up in one line.
+bool displayFound = false;
+
+/// Qt ends a program that has no display with an abort; the user gets a line and an exit status.
+void reportQtMessage(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+  if (type == QtFatalMsg)
+    std::_Exit(fail("the display cannot be opened"));
+  // A missing runtime folder does not concern the user of a plot.
+  const bool noise = type == QtDebugMsg || message.startsWith(QLatin1String("QStandardPaths:"));
+  if (!noise && displayFound)
+    std::cerr << message.toStdString() << std::endl;
+}
+
+std::vector<std::string> argumentsOf(int argc, char** argv)
+{
+  std::vector<std::string> arguments;
+  for (int i = 1; i < argc; ++i)
+    arguments.push_back(QFile::decodeName(argv[i]).toStdString());
+  return arguments;
+}
+
+int showWindow(const CommandLineOptions& options)
+{
+  MainWindow window;
+  // What the command line names must be there; what is opened later may fail in the window.
+  const auto failed = QObject::connect(&window, &MainWindow::openFailed, &window,
+                                       [](const QString& message)
+                                       { QCoreApplication::exit(fail(message.toStdString())); });
+  QObject::connect(&window, &MainWindow::opened, &window,
+                   [&failed] { QObject::disconnect(failed); });
+  window.show();
+  window.open(options);
+  return QCoreApplication::exec();
+}
+
+int writeFiles(const CommandLineOptions& options)
+{
+  const std::string error = runBatch(options);
+  return error.empty() ? EXIT_SUCCESS : fail(error);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+  const ParsedCommandLine line = parseCommandLine(argumentsOf(argc, argv));
+  const CommandLineOptions& options = line.options;
+  if (!line.error.empty())
+    return fail(line.error);
+  if (options.help)
+    std::cout << commandLineHelp();
+  if (options.version)
+    std::cout << "talmesh-plot " << TALMESH_VERSION << std::endl;
+  if (options.help || options.version)
+    return EXIT_SUCCESS;
+
+  qInstallMessageHandler(reportQtMessage);
+  QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
+  QCoreApplication::setAttribute(options.writesOnly() ? Qt::AA_DisableHighDpiScaling
+                                                      : Qt::AA_EnableHighDpiScaling);
+  QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  QCoreApplication::setOrganizationName(QStringLiteral("Talmesh"));
+  QCoreApplication::setApplicationName(QStringLiteral("talmesh-plot"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(TALMESH_VERSION));
+  // Qt has options of the same names as ours, so it sees none.
+  int programNameOnly = 1;
+  QApplication application(programNameOnly, argv);
+  displayFound = true;
+  // Qt takes over the user's locale, in which PDF and CSV would get decimal commas.
+  std::setlocale(LC_NUMERIC, "C");
+  QOpenGLContext context;
+  if (!context.create())
+    return fail("OpenGL is not available on this display");
+  return options.writesOnly() ? writeFiles(options) : showWindow(options);
+}
