@@ -59,7 +59,7 @@ TEST(ExampleStudy, SamplesWhatMt19937Gives)
   //     mt.append((1812433253 * (mt[-1] ^ (mt[-1] >> 30)) + i) & 0xffffffff)
   //   random.setstate((3, tuple(mt + [624]), None)); random.getrandbits(32)
   const double u = (3231437844.0 + 0.5) / 4294967296.0;
-  EXPECT_NEAR(exampleParameters()[0].alpha, 10.0 * std::pow(100.0, u), 1e-9);
+  EXPECT_NEAR(exampleParameters()[0].alpha, 10.0 * std::pow(30.0, u), 1e-9);
 }
 
 TEST(ExampleStudy, CountsTimeInSecondsAndRunsFromZero)

@@ -1,4 +1,5 @@
 #include "app/CircuitSensitivity.h"
+#include "app/ExampleStudy.h"
 #include "app/IndomethacinStudy.h"
 #include "app/LeastSquaresFit.h"
 #include "app/PuromycinStudy.h"
@@ -148,9 +149,13 @@ TEST(CircuitPriors, AreTheDistributionsOfTheStudy)
   const std::vector<NamedDistribution> priors = circuitPriors();
   ASSERT_EQ(priors.size(), 4U);
   EXPECT_EQ(priors[3].name, "n");
-  // n is uniform on [1.2, 3].
-  EXPECT_DOUBLE_EQ(priors[3].distribution->density(2.0), 1.0 / 1.8);
-  EXPECT_DOUBLE_EQ(priors[0].distribution->range(1).second, 1000.0);
+  const std::vector<ParameterRange>& ranges = exampleParameterRanges();
+  // n is uniform and alpha log-uniform, whose density at x is 1 / (x log(upper / lower)).
+  const double width = ranges[3].upper - ranges[3].lower;
+  EXPECT_DOUBLE_EQ(priors[3].distribution->density(ranges[3].lower), 1.0 / width);
+  EXPECT_DOUBLE_EQ(priors[0].distribution->range(1).second, ranges[0].upper);
+  EXPECT_DOUBLE_EQ(priors[0].distribution->density(20.0),
+                   1.0 / (20.0 * std::log(ranges[0].upper / ranges[0].lower)));
 }
 
 } // namespace

@@ -1,0 +1,224 @@
+#include "app/Gallery.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <clocale>
+#include <string>
+
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+
+namespace
+{
+
+struct Ended
+{
+  int status = -1;
+  bool crashed = true;
+  QByteArray output;
+  QByteArray errors;
+};
+
+class Program : public ::testing::Test
+{
+protected:
+  Ended run(const QStringList& arguments)
+  {
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(TALMESH_PLOT_PROGRAM), arguments);
+    Ended ended;
+    if (!process.waitForFinished(120000))
+    {
+      ADD_FAILURE() << "did not end: " << arguments.join(' ').toStdString();
+      process.kill();
+      process.waitForFinished();
+    }
+    ended.crashed = process.exitStatus() != QProcess::NormalExit;
+    ended.status = process.exitCode();
+    ended.output = process.readAllStandardOutput();
+    ended.errors = process.readAllStandardError();
+    return ended;
+  }
+
+  void expectError(const QStringList& arguments, const QString& message)
+  {
+    const Ended ended = run(arguments);
+    EXPECT_FALSE(ended.crashed);
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.errors.toStdString(), ("talmesh-plot: " + message + "\n").toStdString());
+    EXPECT_EQ(ended.output.toStdString(), "");
+  }
+
+  void expectSuccess(const QStringList& arguments)
+  {
+    const Ended ended = run(arguments);
+    EXPECT_FALSE(ended.crashed);
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.errors.toStdString(), "");
+  }
+
+  QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+
+  QString write(const char* name, const std::string& text)
+  {
+    QFile file(path(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text.data(), static_cast<qint64>(text.size()));
+    return path(name);
+  }
+
+  QTemporaryDir folder;
+  QProcessEnvironment environment = []
+  {
+    QProcessEnvironment changed = QProcessEnvironment::systemEnvironment();
+    changed.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+    return changed;
+  }();
+};
+
+QByteArray contentOf(const QString& path)
+{
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+TEST_F(Program, PrintsHelpAndVersion)
+{
+  const Ended help = run({"--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_TRUE(help.output.startsWith("Usage: talmesh-plot"));
+  const Ended version = run({"--version"});
+  EXPECT_EQ(version.status, 0);
+  EXPECT_TRUE(version.output.startsWith("talmesh-plot "));
+}
+
+TEST_F(Program, ExportsAUsersRunsInEveryFormat)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  expectSuccess({csv, "--y", "X,Y", "--x", "time", "--size", "420x280", "--export",
+                 path("plot.png"), "--export", path("plot.pdf"), "--export", path("plot.csv")});
+  EXPECT_EQ(QImage(path("plot.png")).size(), QSize(420, 280));
+  EXPECT_TRUE(contentOf(path("plot.pdf")).startsWith("%PDF"));
+  EXPECT_TRUE(contentOf(path("plot.csv")).startsWith("\"Molecule: X\",\"Molecule: Y\""));
+}
+
+TEST_F(Program, ExportsInEveryStyle)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  for (const char* style : {"xyPlot", "reservedStyle1", "reservedStyle2", "scatterPlotMatrix",
+                            "xyzPlot", "multiPlot", "selectionCdfPlot", "scatterWithErrorBars",
+                            "fitParameterDistribution", "parallelCoordinates"})
+  {
+    expectSuccess({csv, "--style", style, "--size", "300x200", "--export", path("plot.png")});
+    EXPECT_EQ(QImage(path("plot.png")).size(), QSize(300, 200)) << style;
+    QFile::remove(path("plot.png"));
+  }
+}
+
+TEST_F(Program, OpensTheExampleStudyWithoutAFile)
+{
+  expectSuccess({"--export", path("example.csv")});
+  EXPECT_TRUE(contentOf(path("example.csv")).startsWith("\"Molecule: TetR\""));
+  EXPECT_EQ(contentOf(path("example.csv")).count('\n'), 80001);
+}
+
+TEST_F(Program, WritesTheGallery)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  expectSuccess({csv, "--gallery", path("gallery"), "--size", "300x200"});
+  EXPECT_EQ(QDir(path("gallery")).entryList(QDir::Files).size(),
+            2 * static_cast<int>(galleryViews().size()));
+}
+
+TEST_F(Program, KeepsNumbersReadableWhateverTheLocale)
+{
+  constexpr const char* decimalCommas = "de_DE.UTF-8";
+  const std::string before = std::setlocale(LC_ALL, nullptr);
+  const bool installed = std::setlocale(LC_ALL, decimalCommas) != nullptr;
+  std::setlocale(LC_ALL, before.c_str());
+  if (!installed)
+    GTEST_SKIP() << "The locale " << decimalCommas << " is not installed.";
+  environment.insert(QStringLiteral("LC_ALL"), QLatin1String(decimalCommas));
+  const QString csv = write("runs.csv", sampleRuns());
+  expectSuccess({csv, "--export", path("plot.csv")});
+  EXPECT_EQ(contentOf(path("plot.csv")).count(','), 12 * 4 + 4);
+}
+
+TEST_F(Program, RefusesBadOptions)
+{
+  expectError({"--frobnicate"}, "unknown option --frobnicate");
+  expectError({"a.csv", "b.csv"}, "more than one file to open: a.csv and b.csv");
+  expectError({"--size", "0x0"},
+              "--size takes WIDTHxHEIGHT in pixels, each from 16 to 16384, not 0x0");
+  expectError({"--export", "plot.svg"},
+              "cannot export to plot.svg: the name must end with .png, .pdf or .csv");
+  expectError({"--style", "pie"},
+              "unknown style pie; the styles are xyPlot, reservedStyle1, reservedStyle2, "
+              "scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot, scatterWithErrorBars, "
+              "fitParameterDistribution, parallelCoordinates");
+}
+
+TEST_F(Program, RefusesAMissingFileWithAndWithoutAWindow)
+{
+  const QString missing = path("missing.csv");
+  expectError({missing, "--export", path("plot.png")}, missing + ": there is no such file");
+  expectError({missing}, missing + ": there is no such file");
+  EXPECT_FALSE(QFile::exists(path("plot.png")));
+}
+
+TEST_F(Program, RefusesAMissingColumnWithAndWithoutAWindow)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  const QString message = "no such column: Z; the columns are X, Y, time, Run Index, k";
+  expectError({csv, "--x", "Z", "--export", path("plot.png")}, message);
+  expectError({csv, "--y", "X,Z"}, message);
+  EXPECT_FALSE(QFile::exists(path("plot.png")));
+}
+
+TEST_F(Program, RefusesWhatIsNoTable)
+{
+  const QString text = write("letter.txt", "Dear reader\nthis is prose\n");
+  expectError({text, "--export", path("plot.png")},
+              text + ": not a table: no column holds numbers");
+  const QString binary = write("plot.bin", std::string("\x7f"
+                                                       "ELF\0\0\1",
+                                                       7));
+  expectError({binary, "--gallery", path("out")},
+              binary + ": not a table: the file holds binary data");
+  EXPECT_FALSE(QFile::exists(path("out")));
+}
+
+TEST_F(Program, NamesTheRunOfAnotherLength)
+{
+  const QString csv = write("runs.csv", "run,time,X\n1,0,1\n1,1,2\n2,0,1\n");
+  expectError({csv, "--export", path("plot.png")},
+              csv + ": run \"2\" has 1 point, other runs have 2");
+}
+
+TEST_F(Program, LeavesAnOldFileWholeWhenItCannotWrite)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  const Ended ended = run({csv, "--export", path("nowhere/plot.png")});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_TRUE(
+      ended.errors.startsWith(("talmesh-plot: " + path("nowhere/plot.png") + ": ").toUtf8()));
+  EXPECT_EQ(ended.errors.count('\n'), 1);
+}
+
+TEST_F(Program, SaysThatThereIsNoDisplay)
+{
+  environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":99999"));
+  environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+  environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+  expectError({"--export", path("plot.png")}, "the display cannot be opened");
+}

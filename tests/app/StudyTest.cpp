@@ -1,0 +1,120 @@
+#include "app/Study.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "support/PlotScene.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+
+namespace
+{
+
+class StudyInAContainer : public ::testing::Test
+{
+protected:
+  StudyInAContainer()
+      : container(nullptr)
+  {
+    container.setScene(view.scene());
+  }
+
+  const PlotMetaData& settings() const { return *container.getMetaData(); }
+
+  PlotScene view;
+  PlotContainer container;
+};
+
+} // namespace
+
+TEST_F(StudyInAContainer, ShowsTheFirstItemOverTimeAsLines)
+{
+  showStudy(sampleStudy(), container);
+  EXPECT_EQ(settings().getPlotStyle(), xyPlot);
+  EXPECT_TRUE(settings().getPlotLine());
+  EXPECT_EQ(settings().getStride(), 4);
+  EXPECT_EQ(settings().xColumns, std::vector<int>{2});
+  EXPECT_EQ(settings().yColumns, std::vector<int>{0});
+  EXPECT_FALSE(settings().signalsBlocked());
+}
+
+TEST_F(StudyInAContainer, LeavesParametersThatNeverChangeOut)
+{
+  showStudy(sampleStudy(), container);
+  EXPECT_EQ(container.getLabels(),
+            (QStringList{"Molecule: X", "Molecule: Y", ": time", ": Run Index", "Parameter: k"}));
+  EXPECT_EQ(settings().parameterColumns, std::vector<int>{4});
+}
+
+TEST_F(StudyInAContainer, LimitsTheScatterPlotMatrixToWhatHasParameters)
+{
+  showStudy(sampleStudy(), container);
+  EXPECT_TRUE(settings().getLimitColumVisibility());
+  PlotContainer other(nullptr);
+  other.setScene(view.scene());
+  showStudy(sampleStudy("time,X\n0,1\n1,2\n"), other);
+  EXPECT_FALSE(other.getMetaData()->getLimitColumVisibility());
+}
+
+TEST_F(StudyInAContainer, DoesNotTakeTimeForAnItem)
+{
+  showStudy(sampleStudy(": Time [s],: Run Index,Parameter: k,Complex: X\n"
+                        "0,0,1,5\n1,0,1,6\n0,1,2,5\n1,1,2,6\n"),
+            container);
+  EXPECT_EQ(settings().xColumns, std::vector<int>{0});
+  EXPECT_EQ(settings().yColumns, std::vector<int>{3});
+}
+
+TEST_F(StudyInAContainer, ShowsRunsOfOnePointAsPoints)
+{
+  showStudy(sampleStudy("run,a,b\n0,1,2\n1,3,4\n"), container);
+  EXPECT_FALSE(settings().getPlotLine());
+}
+
+TEST_F(StudyInAContainer, ShowsThePlainTableOfOneColumn)
+{
+  showStudy(sampleStudy("a\n1\n2\n"), container);
+  EXPECT_EQ(settings().yColumns, std::vector<int>{0});
+  EXPECT_EQ(settings().zColumns, std::vector<int>{0});
+  EXPECT_EQ(container.getLabels(), QStringList{"a"});
+}
+
+TEST_F(StudyInAContainer, LetsManyRunsShineThrough)
+{
+  showStudy(sampleStudy(), container);
+  EXPECT_EQ(settings().color[3], 255);
+  PlotContainer other(nullptr);
+  other.setScene(view.scene());
+  showStudy(sampleStudy(sampleRuns(20, 2)), other);
+  EXPECT_EQ(other.getMetaData()->color[3], 127);
+}
+
+TEST(Study, KeepsTheLastPointOfEveryRun)
+{
+  const Study study = sampleStudy("run,time,X\n0,0,1\n0,1,2\n1,0,3\n1,1,4\n");
+  const Study last = lastPoints(study);
+  EXPECT_EQ(last.runs->items, study.runs->items);
+  EXPECT_EQ(last.runs->numberOfTrajectories, 2u);
+  EXPECT_EQ(last.runs->pointsPerTrajectory, 1u);
+  EXPECT_EQ(last.runs->values[0][0], 2.0);
+  EXPECT_EQ(last.runs->values[0][1], 4.0);
+}
+
+TEST(Study, HasNoLastPointsWithoutRuns)
+{
+  const Study study = sampleStudy("a,b\n1,2\n");
+  EXPECT_EQ(lastPoints(study).table, study.table);
+}
+
+TEST(Study, SaysHowMuchItHolds)
+{
+  EXPECT_EQ(studySize(sampleStudy()), "3 runs, 4 points each, 1 parameter");
+  EXPECT_EQ(studySize(sampleStudy("time,X\n0,1\n")), "1 run, 1 point each, 0 parameters");
+  EXPECT_EQ(studySize(sampleStudy("a,b\n1,2\n3,4\n")), "2 rows, 2 columns");
+  EXPECT_EQ(studySize(Study()), "");
+}
