@@ -52,7 +52,7 @@ void reportFailure(PlotContainer& container, const std::function<void()>& step)
   catch (const std::exception& problem)
   {
     Talmesh::plot::unblockSettings(container.state());
-    std::cerr << "void vtkSelectionUpdateCallback::Execute(vtkObject*, unsigned long int, void*): "
+    std::cerr << "void vtkSelectionUpdateCallback::Execute(vtkObject*, unsigned long, void*): "
               << problem.what() << std::endl;
   }
 }

@@ -11,9 +11,9 @@
 #include <vtkIdTypeArray.h>
 #include <vtkInformation.h>
 #include <vtkIntArray.h>
+#include <vtkObject.h>
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
-#include <vtkVariant.h>
 
 #include <gtest/gtest.h>
 
@@ -171,6 +171,17 @@ TEST(SelectionFlags, ReadASelectionByValue)
   plot.container.getAnnotationLink()->SetCurrentSelection(selection);
   EXPECT_EQ(currentFlags(plot.container), Flags({0, 0, 1, 0}));
   EXPECT_EQ(selection->GetNode(0)->GetContentType(), vtkSelectionNode::VALUES);
+}
+
+TEST(SelectionFlags, AreNullWhenVtkCannotFindTheRows)
+{
+  const SampleRuns::Plot plot(SampleRuns::runs(2, 2, 0));
+  const auto pedigree = makeRowSelection({1});
+  pedigree->GetNode(0)->SetContentType(vtkSelectionNode::PEDIGREEIDS);
+  plot.container.getAnnotationLink()->SetCurrentSelection(pedigree);
+  vtkObject::GlobalWarningDisplayOff();
+  EXPECT_EQ(plot.container.getCurrentSelection(), nullptr);
+  vtkObject::GlobalWarningDisplayOn();
 }
 
 TEST(SelectionFlags, ContainAnAnnotationThatDoesNotSayWhetherItIsEnabled)

@@ -257,3 +257,21 @@ TEST(SelectionUpdate, LeavesTheSettingsTalkative)
   select(plot.container, {0});
   EXPECT_FALSE(plot.container.getMetaData()->signalsBlocked());
 }
+
+TEST(SelectionUpdate, ReportsAFailedDrawingInOneLineAndLeavesTheSettingsTalkative)
+{
+  SampleRuns::Plot plot(SampleRuns::runs(3, 3));
+  PlotMetaData& settings = *plot.container.getMetaData();
+  settings.blockSignals(true);
+  settings.setPlotStyle(fitParameterDistribution);
+  settings.blockSignals(false);
+  // Pages of parameters cut the type word off the names, which this one does not have.
+  plot.container.getTable()->GetColumn(SampleRuns::firstParameterColumn)->SetName("k1");
+  const CapturedOutput output(std::cerr);
+  select(plot.container, {0});
+  EXPECT_EQ(output.text(),
+            "void vtkSelectionUpdateCallback::Execute(vtkObject*, unsigned long, void*): "
+            "basic_string::substr: __pos (which is 11) > this->size() (which is 2)\n");
+  EXPECT_FALSE(settings.signalsBlocked());
+  EXPECT_EQ(plot.container.getDerivedTables().size(), 8U);
+}
