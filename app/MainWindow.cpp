@@ -4,6 +4,7 @@
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
 #include "app/PlotDock.h"
+#include "app/SelectionController.h"
 #include "app/StudyLoader.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
@@ -40,6 +41,7 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , plot(new VtkPlotWidget)
     , dock(new PlotDock)
+    , selection(new SelectionController(this))
     , loader(new StudyLoader(this))
 {
   setWindowTitle(QStringLiteral("Talmesh Plot"));
@@ -51,6 +53,8 @@ MainWindow::MainWindow(QWidget* parent)
   container = plot->plotContainer();
   makeMenus();
   makeStatusBar();
+  selection->follow(container);
+  connect(selection, &SelectionController::changed, this, &MainWindow::showSelection);
   connect(dock, &PlotDock::choiceChanged, this, &MainWindow::applyDock);
   connect(loader, &StudyLoader::progressed, loadingBar, &LoadingBar::setPercent);
   connect(loader, &StudyLoader::finished, this, &MainWindow::finishLoading);
@@ -68,7 +72,10 @@ void MainWindow::makeStatusBar()
   size = new QLabel;
   size->setObjectName(QStringLiteral("studySize"));
   loadingBar = new LoadingBar;
+  selected = new QLabel;
+  selected->setObjectName(QStringLiteral("selectionSize"));
   statusBar()->addPermanentWidget(loadingBar);
+  statusBar()->addPermanentWidget(selected);
   statusBar()->addPermanentWidget(size);
 }
 
@@ -157,6 +164,8 @@ void MainWindow::showStudyInPlot(const Study& opened)
   dock->setColumns(container->getLabels());
   dock->setChoice(choiceOf(*container));
   size->setText(QString::fromStdString(studySize(study)));
+  selection->follow(container);
+  selected->setText(selection->summary());
   setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
 }
 
@@ -184,6 +193,18 @@ void MainWindow::applyDock()
   plot->updatePlot(true);
   if (!error.empty())
     statusBar()->showMessage(QString::fromStdString(error), noteMilliseconds);
+}
+
+/// A changed selection has drawn the chart anew, without what the viewer adds to it.
+void MainWindow::showSelection()
+{
+  applyDock();
+  selected->setText(selection->summary());
+}
+
+QString MainWindow::selectionText() const
+{
+  return selected->text();
 }
 
 bool MainWindow::exportTo(const QString& path)

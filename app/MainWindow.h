@@ -19,6 +19,7 @@ namespace Talmesh::app
 
 class LoadingBar;
 class PlotDock;
+class SelectionController;
 class StudyLoader;
 
 /// The viewer's window: a plot, the panel to choose what it shows, and what is loaded.
@@ -45,8 +46,11 @@ public:
 
   VtkPlotWidget* plotWidget() const { return plot; }
   PlotDock* plotDock() const { return dock; }
+  SelectionController* selectionController() const { return selection; }
   /// How much is loaded, as the status bar says it.
   QString sizeText() const;
+  /// How much is selected, as the status bar says it.
+  QString selectionText() const;
 
 signals:
   void opened();
@@ -60,6 +64,7 @@ protected:
 private:
   void makeMenus();
   void makeFileMenu();
+  void makeSelectionMenu();
   void makeViewMenu();
   void makeHelpMenu();
   void makeStatusBar();
@@ -67,6 +72,9 @@ private:
                      void (MainWindow::*slot)());
   void chooseFile();
   void chooseExport();
+  void saveSelection();
+  void loadSelection();
+  void showSelection();
   void showShortcuts();
   void showAbout();
   void fillRecentMenu();
@@ -81,9 +89,11 @@ private:
 
   VtkPlotWidget* plot;
   PlotDock* dock;
+  SelectionController* selection;
   StudyLoader* loader;
   LoadingBar* loadingBar = nullptr;
   QLabel* size = nullptr;
+  QLabel* selected = nullptr;
   QMenu* recentMenu = nullptr;
   RecentFiles recent;
   QPointer<PlotContainer> container;

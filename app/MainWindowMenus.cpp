@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
+#include "app/SelectionController.h"
 #include "app/StyleNames.h"
 #include "widgets/WidgetSupport.h"
 
@@ -36,6 +37,7 @@ QAction* MainWindow::addAction(QMenu* menu, const QString& text, const QKeySeque
 void MainWindow::makeMenus()
 {
   makeFileMenu();
+  makeSelectionMenu();
   makeViewMenu();
   makeHelpMenu();
 }
@@ -55,6 +57,33 @@ void MainWindow::makeFileMenu()
   QAction* quit = file->addAction(tr("&Quit"));
   quit->setShortcut(QKeySequence(tr("Ctrl+Q")));
   connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::makeSelectionMenu()
+{
+  QMenu* menu = menuBar()->addMenu(tr("&Selection"));
+  const auto addStep = [menu](QAction* action, const QKeySequence& keys)
+  {
+    action->setShortcut(keys);
+    menu->addAction(action);
+  };
+  addStep(selection->undoStack().createUndoAction(this), QKeySequence::Undo);
+  addStep(selection->undoStack().createRedoAction(this), QKeySequence::Redo);
+  menu->addSeparator();
+  const auto add = [this, menu](const QString& text, const QKeySequence& keys,
+                                void (SelectionController::*slot)())
+  {
+    QAction* action = menu->addAction(text);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, selection, slot);
+  };
+  add(tr("Select &all"), QKeySequence::SelectAll, &SelectionController::selectAll);
+  add(tr("Select &nothing"), QKeySequence(Qt::Key_Escape), &SelectionController::clear);
+  menu->addSeparator();
+  addAction(menu, tr("&Load selected runs..."), QKeySequence(tr("Ctrl+Shift+L")),
+            &MainWindow::loadSelection);
+  addAction(menu, tr("&Save selected runs..."), QKeySequence(tr("Ctrl+Shift+S")),
+            &MainWindow::saveSelection);
 }
 
 void MainWindow::makeViewMenu()
@@ -124,6 +153,39 @@ void MainWindow::chooseExport()
   suffixOfFilter(dialog->selectedNameFilter());
   connect(dialog, &QFileDialog::filterSelected, dialog, suffixOfFilter);
   connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::exportTo);
+  dialog->open();
+}
+
+void MainWindow::saveSelection()
+{
+  auto* dialog = new QFileDialog(this, tr("Save selected runs"), {}, tr("Runs (*.json)"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOptions(getFileDialogOption());
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setDefaultSuffix(QStringLiteral("json"));
+  connect(dialog, &QFileDialog::fileSelected, this,
+          [this](const QString& path)
+          {
+            const std::string error = selection->save(path);
+            if (!error.empty())
+              showError(QString::fromStdString(error));
+          });
+  dialog->open();
+}
+
+void MainWindow::loadSelection()
+{
+  auto* dialog = new QFileDialog(this, tr("Load selected runs"), {}, tr("Runs (*.json)"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOptions(getFileDialogOption());
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  connect(dialog, &QFileDialog::fileSelected, this,
+          [this](const QString& path)
+          {
+            const std::string error = selection->load(path);
+            if (!error.empty())
+              showError(QString::fromStdString(error));
+          });
   dialog->open();
 }
 

@@ -1,0 +1,71 @@
+#ifndef SelectionController_h
+#define SelectionController_h
+
+#include "app/SelectionHistory.h"
+
+#include <vtkAnnotationLink.h>
+#include <vtkWeakPointer.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QUndoStack>
+
+#include <string>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// The selection of the plot now shown: what the menus do with it, its history and its size.
+class SelectionController : public QObject
+{
+  Q_OBJECT
+
+public:
+  explicit SelectionController(QObject* parent = nullptr);
+  ~SelectionController() override;
+
+  /// Turns to the selection of another container, not owned; its history starts anew. Null turns to
+  /// none.
+  void follow(PlotContainer* container);
+  /// For a table that has been replaced in the same container.
+  void restartHistory();
+
+  /// Selects every row.
+  void selectAll();
+  /// Selects nothing.
+  void clear();
+  /// Writes the indices of the selected runs to a small JSON file.
+  /// @return why that failed, in one line of UTF-8; empty on success
+  std::string save(const QString& path) const;
+  /// Selects the runs that such a file lists, as far as the table has them.
+  /// @return why that failed, in one line of UTF-8; empty on success
+  std::string load(const QString& path);
+
+  /// What is selected, in one line: "12 of 400 runs selected", or rows for a table without runs.
+  QString summary() const;
+  /// Undo and redo of selections.
+  QUndoStack& undoStack() { return stack; }
+
+signals:
+  /// The selection is another one. Emitted from the event loop, after the chart's own handler, once
+  /// for changes that come together.
+  void changed();
+
+private:
+  void announceLater();
+  void stopObserving();
+
+  QPointer<PlotContainer> container;
+  vtkWeakPointer<vtkAnnotationLink> link;
+  unsigned long observerTag = 0;
+  QUndoStack stack;
+  SelectionHistory history;
+  bool announcing = false;
+};
+
+} // namespace Talmesh::app
+
+#endif

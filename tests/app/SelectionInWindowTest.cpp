@@ -1,0 +1,193 @@
+#include "app/MainWindow.h"
+#include "app/PlotChoice.h"
+#include "app/PlotDock.h"
+#include "app/SelectionController.h"
+#include "external/ParameterSelection.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <vtkAxis.h>
+#include <vtkChartXY.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <set>
+
+#include "SampleStudies.h"
+
+namespace
+{
+
+using namespace Talmesh::app;
+using Runs = std::set<int>;
+
+constexpr int patience = 60000;
+constexpr int runCount = 3;
+constexpr int pointsPerRun = 4;
+
+/// The window with three runs of "X", drawn as lines.
+class SelectionInWindow : public ::testing::Test
+{
+protected:
+  SelectionInWindow()
+  {
+    QFile file(folder.filePath("runs.csv"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    const std::string text = sampleRuns(runCount, pointsPerRun);
+    file.write(text.data(), static_cast<qint64>(text.size()));
+    file.close();
+    window.resize(900, 600);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    // Shortcuts need an active window, which no window manager chooses here.
+    QApplication::setActiveWindow(&window);
+    window.openFile(file.fileName());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, patience));
+    choose(xyPlot);
+  }
+
+  VtkPlotWidget& plot() { return *window.plotWidget(); }
+  PlotContainer& container() { return *plot().plotContainer(); }
+
+  void choose(plotStyles style)
+  {
+    PlotChoice choice = window.plotDock()->choice();
+    choice.style = style;
+    window.plotDock()->setChoice(choice);
+    emit window.plotDock()->choiceChanged();
+    plot().updatePlot(true);
+  }
+
+  QPoint pixelOf(double x, double y)
+  {
+    const auto along = [](vtkAxis* axis, double value, int coordinate)
+    {
+      const double part = (value - axis->GetMinimum()) / (axis->GetMaximum() - axis->GetMinimum());
+      const float* ends[] = {axis->GetPoint1(), axis->GetPoint2()};
+      return ends[0][coordinate] + part * (ends[1][coordinate] - ends[0][coordinate]);
+    };
+    vtkChartXY* chart = container().getChartXY();
+    return {qRound(along(chart->GetAxis(vtkAxis::BOTTOM), x, 0)),
+            plot().height() - 1 - qRound(along(chart->GetAxis(vtkAxis::LEFT), y, 1))};
+  }
+
+  /// Drags a rectangle around the point of `run` at `point` with the right button.
+  void dragAround(int run, int point, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+  {
+    const double y = 2.0 + std::sin(point * 0.3 + run);
+    const QPoint start = pixelOf(point - 0.2, y - 0.03);
+    const QPoint end = pixelOf(point + 0.2, y + 0.03);
+    QTest::mousePress(&plot(), Qt::RightButton, modifiers, start);
+    QMouseEvent move(QEvent::MouseMove, end, plot().mapToGlobal(end), Qt::NoButton, Qt::RightButton,
+                     modifiers);
+    QCoreApplication::sendEvent(&plot(), &move);
+    QTest::mouseRelease(&plot(), Qt::RightButton, modifiers, end);
+    QCoreApplication::processEvents();
+  }
+
+  void press(const QKeySequence& keys)
+  {
+    const int key = keys[0];
+    QTest::keyClick(&window, static_cast<Qt::Key>(key & ~Qt::KeyboardModifierMask),
+                    static_cast<Qt::KeyboardModifiers>(key & Qt::KeyboardModifierMask));
+    QCoreApplication::processEvents();
+  }
+
+  Runs runs() { return std::unique_ptr<ParameterSelection>(container().getSelection())->runs; }
+
+  QTemporaryDir folder;
+  MainWindow window;
+};
+
+TEST_F(SelectionInWindow, FollowsTheRightMouseButtonAndItsModifiers)
+{
+  EXPECT_EQ(window.selectionText(), "0 of 3 runs selected");
+  dragAround(1, 1);
+  EXPECT_EQ(runs(), Runs{1});
+  EXPECT_EQ(window.selectionText(), "1 of 3 runs selected");
+  dragAround(0, 1, Qt::ControlModifier);
+  EXPECT_EQ(runs(), (Runs{0, 1}));
+  dragAround(1, 1, Qt::ShiftModifier);
+  EXPECT_EQ(runs(), Runs{0});
+  dragAround(0, 1, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(runs(), Runs{});
+  EXPECT_EQ(window.selectionText(), "0 of 3 runs selected");
+}
+
+TEST_F(SelectionInWindow, IsUndoneAndRedoneFromTheKeyboard)
+{
+  dragAround(1, 1);
+  dragAround(2, 1);
+  press(QKeySequence::Undo);
+  EXPECT_EQ(runs(), Runs{1});
+  EXPECT_EQ(window.selectionText(), "1 of 3 runs selected");
+  press(QKeySequence::Undo);
+  EXPECT_EQ(runs(), Runs{});
+  press(QKeySequence::Redo);
+  EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInWindow, IsEverythingOrNothingFromTheKeyboard)
+{
+  press(QKeySequence::SelectAll);
+  EXPECT_EQ(runs(), (Runs{0, 1, 2}));
+  EXPECT_EQ(window.selectionText(), "3 of 3 runs selected");
+  press(QKeySequence(Qt::Key_Escape));
+  EXPECT_EQ(runs(), Runs{});
+}
+
+TEST_F(SelectionInWindow, SurvivesAChangeOfStyleAndColumns)
+{
+  dragAround(1, 1);
+  for (const plotStyles style :
+       {scatterPlotMatrix, selectionCdfPlot, multiPlot, parallelCoordinates, xyPlot})
+  {
+    choose(style);
+    EXPECT_EQ(runs(), Runs{1}) << style;
+  }
+  PlotChoice choice = window.plotDock()->choice();
+  choice.y = {1};
+  window.plotDock()->setChoice(choice);
+  emit window.plotDock()->choiceChanged();
+  EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInWindow, IsSavedAndLoaded)
+{
+  dragAround(1, 1);
+  dragAround(2, 1, Qt::ControlModifier);
+  SelectionController& selection = *window.selectionController();
+  ASSERT_EQ(selection.save(folder.filePath("two.json")), "");
+  selection.clear();
+  ASSERT_EQ(runs(), Runs{});
+  EXPECT_EQ(selection.load(folder.filePath("two.json")), "");
+  EXPECT_EQ(runs(), (Runs{1, 2}));
+  EXPECT_NE(selection.load(folder.filePath("missing.json")), "");
+  EXPECT_EQ(runs(), (Runs{1, 2}));
+}
+
+TEST_F(SelectionInWindow, SplitsTheRunsForTheStatistics)
+{
+  dragAround(1, 1);
+  choose(selectionCdfPlot);
+  EXPECT_EQ(container().getDerivedTables().size(), 8U);
+  EXPECT_EQ(container().getKsResults().size(), container().getMetaData()->parameterColumns.size());
+}
+
+TEST_F(SelectionInWindow, StartsAnewWithAnotherStudy)
+{
+  dragAround(1, 1);
+  window.openFile(folder.filePath("runs.csv"));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, patience));
+  EXPECT_EQ(window.selectionText(), "0 of 3 runs selected");
+  EXPECT_FALSE(window.selectionController()->undoStack().canUndo());
+}
+
+} // namespace
