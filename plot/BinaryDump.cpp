@@ -3,6 +3,7 @@
 #include "plot/ColumnList.h"
 #include "plot/DumpStream.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
 
 #include <algorithm>
@@ -238,10 +239,10 @@ void readDump(PlotState& state, const QByteArray& bytes)
 {
   DumpStream in(bytes);
   readItems(in, state.columnItems);
-  state.table = ColumnReader(in, bytes.size()).readTable();
-  if (state.table)
+  const vtkSmartPointer<vtkTable> table = ColumnReader(in, bytes.size()).readTable();
+  replaceTable(state, table ? table : vtkSmartPointer<vtkTable>::New());
+  if (table)
     return;
-  state.table = vtkSmartPointer<vtkTable>::New();
   std::cerr << "void PlotContainer::readDump(QByteArray*): the data end too early, the table stays "
                "empty"
             << std::endl;

@@ -7,6 +7,7 @@
 #include "plot/ChartReuse.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/SelectionBounds.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
@@ -123,7 +124,7 @@ DensityCurve densityCurve(const Distribution& distribution)
 RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve)
 {
   const auto [low, high] = curve.range;
-  state.table = curve.table;
+  replaceTable(state, curve.table);
   cutSelectionToTable(state);
   vtkChartXY* chart = reuseChartXY(state, currentScene(state));
   vtkPlot* area = chart->AddPlot(vtkChart::STACKED);

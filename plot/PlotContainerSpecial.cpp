@@ -7,6 +7,7 @@
 #include "plot/ErrorBarChart.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/Residuals.h"
 #include "plot/SettingsSignals.h"
 #include "plot/SobolChart.h"
@@ -28,12 +29,12 @@ void PlotContainer::setSobolPostprocessResult(SobolPostProcessResult* result, bo
   const SobolIndex index = total ? SobolIndex::Total : SobolIndex::FirstOrder;
   if (atTimePoint)
   {
-    d->table = sobolTimePointTable(*result, index, timePointIndex);
+    replaceTable(*d, sobolTimePointTable(*result, index, timePointIndex));
     d->metaData->title = sobolTimePointTitle(*result, index, timePointIndex);
   }
   else
   {
-    d->table = sobolTimeSeriesTable(*result, index, outputIndex);
+    replaceTable(*d, sobolTimeSeriesTable(*result, index, outputIndex));
     d->metaData->title = sobolTimeSeriesTitle(*result, index, outputIndex);
   }
   setupStackedSobol(total);
@@ -57,7 +58,7 @@ void PlotContainer::setResidualPlot(FitRun* run, FitSettings* settings,
   blockSettings(*d);
   const ResidualOptions options{scaled, sideBySide};
   normalizePredictions(*settings, predictions);
-  d->table = residualTable(*run, *settings, predictions, options);
+  replaceTable(*d, residualTable(*run, *settings, predictions, options));
   drawResiduals(*d, predictions.size(), settings->dataKind() == FitSettings::timeCourse, options);
   unblockSettings(*d);
 }

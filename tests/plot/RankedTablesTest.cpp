@@ -1,6 +1,10 @@
+#include "external/Distribution.h"
+#include "external/FitRun.h"
+#include "external/FitSettings.h"
 #include "external/LinePlotData.h"
 #include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
+#include "external/SobolPostProcessResult.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
@@ -10,9 +14,12 @@
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <memory>
 
 namespace
 {
@@ -319,6 +326,20 @@ TEST_F(RankedDataFlag, IsClearedByEveryChangeOfTheTable)
   CapturedOutput output(std::cout);
   expectCleared("setLinePlotTable", [&] { container.setLinePlotTable(lineTable, false); });
   expectCleared("setSimpleXYPlot", [&] { container.setSimpleXYPlot(x, x, x); });
+  UniformDistribution distribution(0, 1);
+  expectCleared("setDistribution", [&] { container.setDistribution(&distribution); });
+  FitRun run;
+  FitSettings fit;
+  std::vector<Values> predictions;
+  expectCleared("setResidualPlot",
+                [&] { container.setResidualPlot(&run, &fit, predictions, false, false); });
+  SobolPostProcessResult sobol;
+  expectCleared("setSobolPostprocessResult",
+                [&] { container.setSobolPostprocessResult(&sobol, true, true, 0, 0); });
+  expectCleared("setSobolPostprocessResult",
+                [&] { container.setSobolPostprocessResult(&sobol, false, true, 0, 0); });
+  const std::unique_ptr<QByteArray> dump(container.binaryDump());
+  expectCleared("readDump", [&] { container.readDump(dump.get()); });
   expectCleared("example", [&] { container.example(); });
   expectCleared("loadData", [&] { container.loadData("there is no such file"); });
 }
