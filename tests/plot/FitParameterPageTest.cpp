@@ -382,8 +382,6 @@ TEST_F(FitParameterPage, IsTheChartOfItsStyle)
   EXPECT_FALSE(settings().signalsBlocked());
   scene.render(container);
   EXPECT_GT(scene.paintedPixels(), 5000);
-  if (const char* folder = std::getenv("TALMESH_PICTURES"))
-    scene.writePng(std::string(folder) + "/fit-parameters.png");
 }
 
 } // namespace
