@@ -78,6 +78,20 @@ TEST(RankedDensity, UsesTheSmallerOfDeviationAndSpread)
   EXPECT_NEAR(estimate(values).calls.bandwidth, 1.06 * deviation * std::pow(16.0, -0.2), 1e-14);
 }
 
+TEST(RankedDensity, UsesTheSpreadOfTheQuartilesWhenOutliersWidenTheDeviation)
+{
+  // 0, 45, 46, ..., 58, 100 on the middle third: the values at the positions 12 and 4 are 56
+  // and 48.
+  List values{0.0};
+  for (int value = 45; value <= 58; ++value)
+  {
+    values.push_back(value);
+  }
+  values.push_back(100.0);
+  const double spread = 8.0 / 300.0 / 1.34;
+  EXPECT_NEAR(estimate(values).calls.bandwidth, 1.06 * spread * std::pow(16.0, -0.2), 1e-14);
+}
+
 TEST(RankedDensity, NeedsElevenValuesForAKernel)
 {
   const Density ten = estimate(countingList(10));
