@@ -2,7 +2,7 @@
 
 #include <vtkCommand.h>
 
-#include <utility>
+#include <limits>
 
 namespace Talmesh::plot
 {
@@ -29,6 +29,13 @@ vtkSmartPointer<vtkDoubleArray> borrowColumn(const std::string& name, double* va
 {
   auto column = vtkSmartPointer<vtkDoubleArray>::New();
   column->SetName(name.c_str());
+  if (!values)
+  {
+    // Leaving the column out would shift the positions of those after it.
+    column->SetNumberOfValues(count);
+    column->Fill(std::numeric_limits<double>::quiet_NaN());
+    return column;
+  }
   column->SetArray(values, count, 1);
   if (owner)
   {

@@ -13,7 +13,7 @@ namespace Talmesh::plot
 
 /// A column named `name` that uses `values` (`count` doubles) in place and never frees them.
 /// `owner`, when given, lives at least as long as the column, so that the values outlive everything
-/// that reads them; without one the caller answers for that.
+/// that reads them; without one the caller answers for that. Null `values` give a column of NaNs.
 vtkSmartPointer<vtkDoubleArray> borrowColumn(const std::string& name, double* values,
                                              vtkIdType count,
                                              const boost::shared_ptr<const void>& owner = {});

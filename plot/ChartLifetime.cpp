@@ -84,6 +84,12 @@ void resetChartMatrix(PlotState& state, int columns, int rows)
   state.chartMatrix->SetSize(vtkVector2i(columns, rows));
 }
 
+void adoptCell(PlotState& state, int column, int row)
+{
+  releaseChartXY(state);
+  state.chartXY = vtkChartXY::SafeDownCast(state.chartMatrix->GetChart(vtkVector2i(column, row)));
+}
+
 void keepUntilEventLoop(vtkSmartPointer<vtkObjectBase> object)
 {
   if (QCoreApplication* application = QCoreApplication::instance())

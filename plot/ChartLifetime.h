@@ -38,6 +38,9 @@ void releaseChartXY(PlotState& state);
 /// released.
 void resetChartMatrix(PlotState& state, int columns, int rows);
 
+/// Makes the cell of the chart matrix at `column`, `row` the container's XY chart.
+void adoptCell(PlotState& state, int column, int row);
+
 /// Keeps `object` alive until control returns to the event loop, because a redraw can run inside a
 /// mouse handler of the very chart that it replaces. Without a running application there is no such
 /// handler and nothing is kept.

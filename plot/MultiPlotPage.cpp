@@ -63,7 +63,7 @@ void drawMainChart(PlotState& state, int parameters)
 {
   const vtkVector2i cell(parameters / 2, parameters / 2);
   const int span = (parameters + 1) / 2;
-  state.chartXY = vtkChartXY::SafeDownCast(state.chartMatrix->GetChart(cell));
+  adoptCell(state, cell.GetX(), cell.GetY());
   enableSelection(state, state.chartXY);
   state.chartMatrix->SetChartSpan(cell, vtkVector2i(span, span));
   addBlackPoints(state, state.chartXY, firstOf(state.metaData->xColumns),

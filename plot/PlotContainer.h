@@ -244,7 +244,7 @@ public slots:
   void setLinePlotData(LinePlotData* data);
   void setLinePlotDataAsAdditionalData(LinePlotData* data);
   /// Draws one line per item.
-  void setLinePlotItems(std::vector<Talmesh::TypedConcentrationName>* items);
+  void setLinePlotItems(std::vector<Talmesh::TypedConcentrationName>*);
   /// Hands the style to the settings, whose announcement draws.
   void setPlotStyle(plotStyles plotStyle);
   void setLogScaleY(bool log);

@@ -53,7 +53,7 @@ void placeTrajectoryChart(PlotState& state, const PageLayout& layout)
 {
   const vtkVector2i cell(0, layout.groups);
   state.chartMatrix->SetChartSpan(cell, vtkVector2i(layout.columns, layout.groups));
-  state.chartXY = vtkChartXY::SafeDownCast(state.chartMatrix->GetChart(cell));
+  adoptCell(state, cell.GetX(), cell.GetY());
   state.chartXY->SetRenderEmpty(true);
   state.chartXY->AddObserver(vtkCommand::InteractionEvent, state.shiftScaleCallback);
   enableSelection(state, state.chartXY);
