@@ -1,0 +1,259 @@
+#include "plot/vtkSelectionUpdateCallback.h"
+#include "plot/vtkShiftScaleCallback.h"
+#include "support/CapturedOutput.h"
+#include "support/LineTables.h"
+#include "support/PlotFixture.h"
+
+#include <vtkCommand.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using Talmesh::Complex;
+using Talmesh::Parameter;
+
+namespace
+{
+
+const std::string invalidScene = "void PlotContainer::redraw(): invalid scene\n";
+
+class ContainerCopy : public PlotFixture
+{
+protected:
+  /// Copies the container, which reports that the copy has no scene yet.
+  std::unique_ptr<PlotContainer> copied()
+  {
+    const CapturedOutput output(std::cout);
+    auto copy = std::make_unique<PlotContainer>(container);
+    EXPECT_EQ(output.text(), invalidScene);
+    return copy;
+  }
+};
+
+TEST_F(ContainerCopy, HasTheParentOfTheOriginal)
+{
+  EXPECT_EQ(copied()->parent(), nullptr);
+  QObject parent;
+  container.setParent(&parent);
+  const auto copy = copied();
+  EXPECT_EQ(copy->parent(), &parent);
+  container.setParent(nullptr);
+  copy->setParent(nullptr);
+}
+
+TEST_F(ContainerCopy, HasTheItemsBoundsWindowsMarginsAndFlags)
+{
+  auto& state = container.state();
+  state.columnItems = {{Complex, "A"}, {Parameter, "k"}};
+  state.parameterBounds = {{1, 2}};
+  state.coordinateWindows[{0, 1, 0}] = {1, 2, 3, 4, true};
+  state.showDecorations = true;
+  state.useIndexForXSeries = true;
+  state.leftMargin = 1;
+  state.topMargin = 2;
+  state.bottomMargin = 3;
+  state.rightMargin = 4;
+  state.horizontalGutter = 5;
+  state.verticalGutter = 6;
+  const auto copy = copied();
+  EXPECT_EQ(copy->getColumnItems(), state.columnItems);
+  EXPECT_EQ(copy->state().parameterBounds, state.parameterBounds);
+  ASSERT_EQ(copy->state().coordinateWindows.size(), 1U);
+  const CoordinateWindow& window = copy->state().coordinateWindows.at({0, 1, 0});
+  EXPECT_EQ(window.xMin, 1.0);
+  EXPECT_EQ(window.yMax, 4.0);
+  EXPECT_TRUE(window.valid);
+  EXPECT_TRUE(copy->getShowDecorations());
+  EXPECT_TRUE(copy->getUseIndexForXSeries());
+  EXPECT_EQ(copy->getLeftMargin(), 1);
+  EXPECT_EQ(copy->getTopMargin(), 2);
+  EXPECT_EQ(copy->getBottomMargin(), 3);
+  EXPECT_EQ(copy->getRightMargin(), 4);
+  EXPECT_EQ(copy->getHorizontalGutter(), 5);
+  EXPECT_EQ(copy->getVerticalGutter(), 6);
+
+  copy->state().columnItems.clear();
+  copy->state().coordinateWindows.clear();
+  EXPECT_EQ(state.columnItems.size(), 2U);
+  EXPECT_EQ(state.coordinateWindows.size(), 1U);
+}
+
+TEST_F(ContainerCopy, StartsWithoutDerivedResults)
+{
+  auto& state = container.state();
+  state.derivedTables = {plainTable()};
+  state.linePlotTable = lineTableOf({{Complex, "A"}});
+  state.ksResults = {{0.5, 0.5}};
+  state.decorationTable = plainTable();
+  state.clusterMembership = vtkSmartPointer<vtkIntArray>::New();
+  const auto copy = copied();
+  EXPECT_TRUE(copy->getDerivedTables().empty());
+  EXPECT_EQ(copy->state().linePlotTable, nullptr);
+  EXPECT_TRUE(copy->getKsResults().empty());
+  EXPECT_EQ(copy->state().decorationTable, nullptr);
+  EXPECT_EQ(copy->getClusterMembership(), nullptr);
+  EXPECT_EQ(copy->state().pointColors, nullptr);
+  EXPECT_TRUE(copy->state().selectionUpdatePending);
+  EXPECT_FALSE(state.selectionUpdatePending);
+}
+
+TEST_F(ContainerCopy, HasSettingsOfItsOwnWithEqualValues)
+{
+  settings().xColumns = {2, 1};
+  settings().title = "title";
+  settings().pointSize = 9.0;
+  settings().setStride(3);
+  settings().setPThreshold(0.01);
+  const auto copy = copied();
+  PlotMetaData* own = copy->getMetaData();
+  ASSERT_NE(own, &settings());
+  EXPECT_EQ(own->parent(), copy.get());
+  EXPECT_EQ(own->xColumns, (std::vector<int>{2, 1}));
+  EXPECT_EQ(own->title, "title");
+  EXPECT_EQ(own->pointSize, 9.0);
+  EXPECT_EQ(own->getStride(), 3);
+  EXPECT_EQ(own->getPThreshold(), 0.01);
+  own->title = "other";
+  EXPECT_EQ(settings().title, "title");
+}
+
+TEST_F(ContainerCopy, IsSilentUntilItIsDrawnInAScene)
+{
+  const auto copy = copied();
+  EXPECT_TRUE(copy->getMetaData()->signalsBlocked());
+  PlotScene other;
+  copy->setScene(other.scene());
+  copy->redraw();
+  EXPECT_FALSE(copy->getMetaData()->signalsBlocked());
+
+  newDrawings();
+  const unsigned long before = copy->state().drawings;
+  copy->getMetaData()->setStride(9);
+  EXPECT_EQ(copy->state().drawings, before + 1);
+  EXPECT_EQ(newDrawings(), 0U);
+  settings().setStride(10);
+  EXPECT_EQ(copy->state().drawings, before + 1);
+  EXPECT_EQ(newDrawings(), 1U);
+}
+
+TEST_F(ContainerCopy, HasATableOfItsOwnWithEqualValues)
+{
+  addStringColumn(container.getTable(), "words");
+  const auto copy = copied();
+  vtkTable* own = copy->getTable();
+  ASSERT_NE(own, container.getTable());
+  ASSERT_GE(own->GetNumberOfColumns(), 5);
+  ASSERT_EQ(own->GetNumberOfRows(), 5);
+  for (int column = 0; column < 5; ++column)
+  {
+    EXPECT_STREQ(own->GetColumnName(column), container.getTable()->GetColumnName(column));
+    EXPECT_NE(own->GetColumn(column), container.getTable()->GetColumn(column));
+    for (int row = 0; row < 5; ++row)
+      EXPECT_EQ(own->GetValue(row, column), container.getTable()->GetValue(row, column));
+  }
+  own->SetValue(2, 1, 77.0);
+  EXPECT_EQ(container.getTable()->GetValue(2, 1).ToDouble(), 9.0);
+}
+
+TEST_F(ContainerCopy, OutlivesTheOriginalAndItsBorrowedValues)
+{
+  auto original = std::make_unique<PlotContainer>(nullptr);
+  std::unique_ptr<PlotContainer> copy;
+  {
+    const CapturedOutput output(std::cout);
+    original->setLinePlotTable(lineTableOf({{Complex, "A"}, {Talmesh::TimeOrValue, "t"}}), false);
+    copy = std::make_unique<PlotContainer>(*original);
+  }
+  original.reset();
+  EXPECT_EQ(copy->getTable()->GetValue(5, 0).ToDouble(), lineValue(0, 5));
+  copy->setScene(scene.scene());
+  copy->redraw();
+  scene.render(*copy);
+  scene.scene()->ClearItems();
+}
+
+TEST_F(ContainerCopy, HasChartsOfItsOwnAndNoParallelCoordinates)
+{
+  const auto copy = copied();
+  const auto& own = copy->state();
+  const auto& others = container.state();
+  for (const auto& [mine, theirs] : std::vector<std::pair<vtkObject*, vtkObject*>>{
+           {own.chartXY, others.chartXY},
+           {own.scatterPlotMatrix, others.scatterPlotMatrix},
+           {own.chartMatrix, others.chartMatrix},
+           {own.chartXYZ, others.chartXYZ},
+           {own.extractSelectedRows, others.extractSelectedRows},
+           {own.annotationLink, others.annotationLink}})
+  {
+    EXPECT_NE(mine, nullptr);
+    EXPECT_NE(mine, theirs);
+  }
+  EXPECT_EQ(own.parallelCoordinates, nullptr);
+  EXPECT_EQ(own.currentChart, own.chartXY);
+  EXPECT_EQ(own.chartXY->GetScene(), nullptr);
+  EXPECT_EQ(own.chartXY->GetNumberOfPlots(), 1);
+  EXPECT_EQ(own.chartXY->GetAnnotationLink(), own.annotationLink);
+  EXPECT_EQ(others.chartXY->GetAnnotationLink(), others.annotationLink);
+}
+
+TEST_F(ContainerCopy, HasCallbacksThatPointAtIt)
+{
+  const auto copy = copied();
+  EXPECT_EQ(copy->state().selectionUpdateCallback->Container, copy.get());
+  EXPECT_EQ(copy->state().shiftScaleCallback->Container, copy.get());
+  EXPECT_EQ(container.state().selectionUpdateCallback->Container, &container);
+  EXPECT_TRUE(copy->getAnnotationLink()->HasObserver(vtkCommand::AnnotationChangedEvent,
+                                                     copy->state().selectionUpdateCallback));
+  EXPECT_FALSE(container.getAnnotationLink()->HasObserver(vtkCommand::AnnotationChangedEvent,
+                                                          copy->state().selectionUpdateCallback));
+}
+
+TEST_F(ContainerCopy, DrawsNoParallelCoordinatesAndSaysSoOnce)
+{
+  const auto copy = copied();
+  PlotScene other;
+  copy->setScene(other.scene());
+  copy->redraw();
+  const CapturedOutput output(std::cout);
+  const CapturedOutput errors(std::cerr);
+  copy->setPlotStyle(parallelCoordinates);
+  EXPECT_EQ(output.text() + errors.text(),
+            "Warning void Talmesh::plot::drawParallelCoordinates(PlotState&, vtkContextScene*): a "
+            "copied container has no parallel-coordinates chart\n");
+  EXPECT_FALSE(copy->getMetaData()->signalsBlocked());
+  other.render(*copy);
+  copy->setPlotStyle(xyPlot);
+  EXPECT_EQ(copy->getItem(), copy->getChartXY());
+  other.render(*copy);
+}
+
+TEST_F(ContainerCopy, CanBeTakenInEveryStyleAndOfACopy)
+{
+  for (int style = 0; style <= 10; ++style)
+  {
+    drawStyle(style);
+    std::unique_ptr<PlotContainer> first;
+    std::unique_ptr<PlotContainer> second;
+    {
+      const CapturedOutput output(std::cout);
+      first = std::make_unique<PlotContainer>(container);
+      second = std::make_unique<PlotContainer>(*first);
+    }
+    first.reset();
+    ASSERT_NE(second->getChartXY(), nullptr);
+    EXPECT_EQ(second->getMetaData()->getPlotStyle(), style);
+    PlotScene other;
+    second->setScene(other.scene());
+    for (int own = 0; own <= 10; ++own)
+    {
+      const CapturedOutput errors(std::cerr);
+      second->setPlotStyle(static_cast<plotStyles>(own));
+      second->redraw();
+      other.render(*second);
+    }
+    EXPECT_EQ(settings().getPlotStyle(), style);
+  }
+}
+
+} // namespace
