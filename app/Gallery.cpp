@@ -2,6 +2,7 @@
 
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
+#include "app/StatisticsViews.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
@@ -105,6 +106,14 @@ std::string write(const GalleryView& view, const Study& study, const QDir& folde
   return error;
 }
 
+/// These views and those of the comparisons and of published data.
+std::vector<GalleryView> joined(std::vector<GalleryView> views)
+{
+  for (const auto* further : {&statisticsViews(), &publishedViews()})
+    views.insert(views.end(), further->begin(), further->end());
+  return views;
+}
+
 } // namespace
 
 const std::vector<GalleryView>& galleryViews()
@@ -114,14 +123,14 @@ const std::vector<GalleryView>& galleryViews()
     return [style](const Study& study, PlotContainer& container)
     { return drawLastPoints(study, container, style); };
   };
-  static const std::vector<GalleryView> views = {
-      {"example", drawExample},
-      {"xyPlot-runs", drawRuns},
-      {"xyPlot-series", drawSeveralSeries},
-      {"xyPlot-points", drawPoints},
-      {"scatterPlotMatrix", lastPointsIn(scatterPlotMatrix)},
-      {"xyzPlot", lastPointsIn(xyzPlot)},
-      {"parallelCoordinates", lastPointsIn(parallelCoordinates)}};
+  static const std::vector<GalleryView> views =
+      joined({{"example", drawExample},
+              {"xyPlot-runs", drawRuns},
+              {"xyPlot-series", drawSeveralSeries},
+              {"xyPlot-points", drawPoints},
+              {"scatterPlotMatrix", lastPointsIn(scatterPlotMatrix)},
+              {"xyzPlot", lastPointsIn(xyzPlot)},
+              {"parallelCoordinates", lastPointsIn(parallelCoordinates)}});
   return views;
 }
 
