@@ -1,6 +1,7 @@
 #include "plot/ChartLifetime.h"
 
 #include "plot/PlotState.h"
+#include "plot/SelectionBounds.h"
 
 #include <QCoreApplication>
 #include <QMetaObject>
@@ -36,6 +37,7 @@ void ensureStandaloneChart(PlotState& state)
 
 void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene)
 {
+  cutSelectionToTable(state);
   state.sceneLink.watch(scene);
   chart->SetScene(scene);
   state.currentChart = chart;
@@ -67,21 +69,37 @@ void releaseChartXY(PlotState& state)
 
 void resetChartMatrix(PlotState& state, int columns, int rows)
 {
-  vtkContextScene* scene = state.chartMatrix->GetScene();
-  std::vector<vtkSmartPointer<vtkAbstractContextItem>> dropped;
+  const ChartCells dropped = cellsOf(state.chartMatrix);
   if (isMatrixCell(state))
     releaseChartXY(state);
-  for (vtkIdType i = 0; i < state.chartMatrix->GetNumberOfItems(); ++i)
-    dropped.emplace_back(state.chartMatrix->GetItem(i));
   state.chartMatrix->SetSize(vtkVector2i(0, 0));
   state.chartMatrix->ClearSpecificResizes();
-  for (const auto& chart : dropped)
+  retireCells(dropped, state.chartMatrix->GetScene());
+  state.chartMatrix->SetSize(vtkVector2i(columns, rows));
+}
+
+ChartCells cellsOf(vtkChartMatrix* matrix)
+{
+  ChartCells cells;
+  for (vtkIdType i = 0; i < matrix->GetNumberOfItems(); ++i)
+    cells.emplace_back(matrix->GetItem(i));
+  return cells;
+}
+
+void retireCells(const ChartCells& cells, vtkContextScene* scene)
+{
+  for (const auto& cell : cells)
   {
     // Removal took the chart out of its scene, but a handler that is still running in it needs one.
-    chart->SetScene(scene);
-    keepUntilEventLoop(chart);
+    cell->SetScene(scene);
+    keepUntilEventLoop(cell);
   }
-  state.chartMatrix->SetSize(vtkVector2i(columns, rows));
+}
+
+void leaveSobolChart(PlotState& state)
+{
+  if (state.chartXY && state.chartXY.Get() == state.sobolChart.Get())
+    releaseChartXY(state);
 }
 
 void adoptCell(PlotState& state, int column, int row)

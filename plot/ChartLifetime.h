@@ -1,9 +1,12 @@
 #ifndef ChartLifetime_h
 #define ChartLifetime_h
 
+#include <vtkAbstractContextItem.h>
 #include <vtkSmartPointer.h>
 
-class vtkAbstractContextItem;
+#include <vector>
+
+class vtkChartMatrix;
 class vtkChartXY;
 class vtkContextScene;
 class vtkObjectBase;
@@ -20,7 +23,8 @@ vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state);
 /// matrix, which belongs to a page of many charts.
 void ensureStandaloneChart(PlotState& state);
 
-/// Puts `chart` into `scene` and makes it the chart now shown. The scene's items stay as they are:
+/// Puts `chart` into `scene` and makes it the chart now shown, and cuts the selection to the table
+/// that it will show. The scene's items stay as they are:
 /// only the widget adds items.
 void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene);
 
@@ -37,6 +41,18 @@ void releaseChartXY(PlotState& state);
 /// observer or mouse action of an earlier page survives. An XY chart that was one of the cells is
 /// released.
 void resetChartMatrix(PlotState& state, int columns, int rows);
+
+using ChartCells = std::vector<vtkSmartPointer<vtkAbstractContextItem>>;
+
+/// The charts that a matrix holds now.
+ChartCells cellsOf(vtkChartMatrix* matrix);
+
+/// Keeps cells that their matrix has dropped usable until control returns to the event loop.
+/// @param scene the scene in which they were
+void retireCells(const ChartCells& cells, vtkContextScene* scene);
+
+/// Releases an XY chart that was built from Sobol results: its axes and legend fit nothing else.
+void leaveSobolChart(PlotState& state);
 
 /// Makes the cell of the chart matrix at `column`, `row` the container's XY chart.
 void adoptCell(PlotState& state, int column, int row);

@@ -28,8 +28,7 @@ void restoreAxis(vtkAxis* axis)
 
 vtkChartXY* reuseChartXY(PlotState& state, vtkContextScene* scene)
 {
-  if (state.chartXY.Get() == state.sobolChart.Get())
-    releaseChartXY(state);
+  leaveSobolChart(state);
   ensureStandaloneChart(state);
   showChart(state, state.chartXY, scene);
   state.chartXY->ClearPlots();

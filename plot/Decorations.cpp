@@ -39,6 +39,18 @@ void addDecoration(PlotState& state, int line, int xColumn)
   plot->SetWidth(decorationWidth);
   feedPlot(plot, state.decorationTable, xColumn, line);
   makeUnselectable(plot);
+  state.decorationPlots.emplace_back(plot);
+}
+
+/// Not every drawing clears the chart that the last decorations went into.
+void removeDecorations(PlotState& state)
+{
+  for (const auto& plot : state.decorationPlots)
+  {
+    if (plot && state.chartXY)
+      state.chartXY->RemovePlotInstance(plot);
+  }
+  state.decorationPlots.clear();
 }
 
 } // namespace
@@ -50,6 +62,7 @@ const PaletteColor& paletteColor(std::size_t index)
 
 void drawDecorations(PlotState& state)
 {
+  removeDecorations(state);
   if (!state.showDecorations || !state.decorationTable || !state.chartXY)
     return;
   const int lines = static_cast<int>(state.decorationTable->GetNumberOfColumns()) - 1;

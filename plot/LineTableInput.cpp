@@ -8,15 +8,22 @@
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 
+#include <limits>
+
 namespace Talmesh::plot
 {
 
 namespace
 {
 
+/// Rows of the value arrays; 0 for a shape that no memory could hold.
 vtkIdType rowCount(const LinePlotTable& lines)
 {
-  return static_cast<vtkIdType>(lines.numberOfTrajectories * lines.pointsPerTrajectory);
+  constexpr std::size_t mostRows = std::numeric_limits<int>::max();
+  const std::size_t points = lines.pointsPerTrajectory;
+  if (points == 0 || points > mostRows || lines.numberOfTrajectories > mostRows)
+    return 0;
+  return static_cast<vtkIdType>(lines.numberOfTrajectories * points);
 }
 
 /// Index of the item that gives the time; -1 when no item is of the time or value kind.
@@ -58,8 +65,11 @@ void fillFromLinePlotTable(PlotState& state, const boost::shared_ptr<LinePlotTab
         continue;
       state.parameterBounds.push_back(range);
     }
-    state.table->AddColumn(borrowColumn(Talmesh::selectionPairToString(item), lines->values[i],
-                                        rowCount(*lines), lines));
+    const std::string label = Talmesh::selectionPairToString(item);
+    // A second column of the same name would take the place of the first.
+    if (columnNamed(state.table, label))
+      continue;
+    state.table->AddColumn(borrowColumn(label, lines->values[i], rowCount(*lines), lines));
     state.columnItems.push_back(item);
   }
   findParameterColumns(state);

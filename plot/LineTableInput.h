@@ -3,7 +3,7 @@
 
 #include <boost/shared_ptr.hpp>
 
-class LinePlotTable;
+struct LinePlotTable;
 
 namespace Talmesh::plot
 {
@@ -12,7 +12,7 @@ struct PlotState;
 
 /// Fills the table and `columnItems` from the line-plot table, whose value arrays are used in place
 /// and kept alive by the columns. A constant parameter gets no column. The bounds of the other
-/// parameters are appended to `parameterBounds`, which is not emptied. Sets the stride and the
+/// parameters are appended to `parameterBounds`, which is not emptied. Sets the
 /// parameter columns.
 void fillFromLinePlotTable(PlotState& state, const boost::shared_ptr<LinePlotTable>& lines);
 

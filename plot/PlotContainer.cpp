@@ -111,13 +111,16 @@ void PlotContainer::setScene(vtkContextScene* scene)
   if (!d->currentChart)
     return;
   if (vtkContextScene* before = d->currentChart->GetScene())
+  {
     before->ClearItems();
+    Talmesh::plot::forgetScene(*d, before);
+  }
   Talmesh::plot::showChart(*d, d->currentChart, scene);
 }
 
 void PlotContainer::redraw()
 {
-  const bool startedBySignal = sender() == d->metaData;
+  const bool startedBySignal = sender() != nullptr;
   try
   {
     Talmesh::plot::redraw(*d);

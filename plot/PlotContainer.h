@@ -20,7 +20,7 @@
 
 class Distribution;
 class FitSettings;
-class LinePlotTable;
+struct LinePlotTable;
 class PlotMetaData;
 class QByteArray;
 class vtkAbstractContextItem;

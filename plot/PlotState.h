@@ -18,6 +18,7 @@
 #include <vtkDoubleArray.h>
 #include <vtkExtractSelectedRows.h>
 #include <vtkIntArray.h>
+#include <vtkPlot.h>
 #include <vtkScalarsToColors.h>
 #include <vtkScatterPlotMatrix.h>
 #include <vtkSmartPointer.h>
@@ -33,7 +34,7 @@
 #include <utility>
 #include <vector>
 
-class LinePlotTable;
+struct LinePlotTable;
 class PlotMetaData;
 class vtkSelectionUpdateCallback;
 class vtkShiftScaleCallback;
@@ -104,6 +105,8 @@ struct PlotState
   std::optional<RankedInputs> rankedInputs;
   /// The scene that the charts were put into.
   SceneLink sceneLink;
+  /// The decoration lines now in the XY chart.
+  std::vector<vtkWeakPointer<vtkPlot>> decorationPlots;
   /// The chart last built from Sobol results, whose plots the reserved styles keep.
   vtkWeakPointer<vtkChartXY> sobolChart;
   /// Counts the drawings begun, so that a drawing notices when another ran inside it.

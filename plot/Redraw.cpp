@@ -7,7 +7,6 @@
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/RankedTables.h"
-#include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
 #include "plot/StyleTable.h"
 
@@ -42,7 +41,6 @@ void redraw(PlotState& state)
     std::cout << "void PlotContainer::redraw(): invalid scene" << std::endl;
     return;
   }
-  cutSelectionToTable(state);
   dropOutdatedRanks(state);
   const unsigned long drawing = ++state.drawings;
   builderOf(state.metaData->getPlotStyle())(state, scene);

@@ -8,7 +8,7 @@ struct PlotState;
 
 /// Builds the chart of the settings' plot style into the scene of the chart now shown. Does not
 /// render. Without a scene it writes one line to standard output and leaves the settings silenced.
-/// @throws whatever the style's builder throws; the settings are then left silenced
+/// @throws whatever the style's builder throws; the settings are then silenced
 void redraw(PlotState& state);
 
 /// Asks the scene of the chart now shown, if any, to paint again.

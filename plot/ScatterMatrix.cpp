@@ -69,6 +69,7 @@ void activatePair(PlotState& state, int xColumn, int yColumn)
 void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
 {
   showChart(state, state.scatterPlotMatrix, scene);
+  const ChartCells dropped = cellsOf(state.scatterPlotMatrix);
   // The matrix ignores an empty table and would go on showing the one before.
   state.scatterPlotMatrix->SetInput(nullptr);
   if (state.table->GetNumberOfRows() > 0)
@@ -76,6 +77,7 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   releaseChartXY(state);
 
   showColumns(state, columnsToShow(state));
+  retireCells(dropped, scene);
   if (state.metaData->getLimitColumVisibility())
     activatePair(state, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
 

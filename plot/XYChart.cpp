@@ -66,7 +66,7 @@ void dressLeftAxis(PlotState& state, const CoordinateWindow* window)
   if (window)
     restoreLeftAxis(state, axis, *window);
   else
-    // Both axes fit the data: the padded range only stands until the next layout.
+    // The padded range only stands until the next layout, when the bottom axis fits the data.
     state.chartXY->GetAxis(vtkAxis::BOTTOM)->SetBehavior(vtkAxis::AUTO);
   axis->SetTitle(state.metaData->yLabel);
 }
@@ -75,6 +75,7 @@ void dressLeftAxis(PlotState& state, const CoordinateWindow* window)
 
 void drawXYChart(PlotState& state, vtkContextScene* scene)
 {
+  leaveSobolChart(state);
   ensureStandaloneChart(state);
   showChart(state, state.chartXY, scene);
   state.chartXY->ClearPlots();

@@ -4,6 +4,7 @@
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
+#include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
 
 #include <vtkAnnotationLink.h>
@@ -62,9 +63,13 @@ void reportFailure(PlotContainer& container, const std::function<void()>& step)
 void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*)
 {
   auto* link = vtkAnnotationLink::SafeDownCast(caller);
-  if (!link || !this->Container || this->Container->getMetaData()->parameterColumns.empty())
+  if (!link || !this->Container)
     return;
   PlotContainer& container = *this->Container;
+  if (link == container.getAnnotationLink())
+    Talmesh::plot::cutSelectionToTable(container.state());
+  if (container.getMetaData()->parameterColumns.empty())
+    return;
   container.state().derivedTables.resize(ownTables);
   reportFailure(container, [&] { compareRuns(container, link); });
   reportFailure(container, [&] { container.redraw(); });
