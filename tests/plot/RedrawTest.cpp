@@ -1,19 +1,23 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "plot/SelectionNodes.h"
 #include "support/CapturedOutput.h"
 #include "support/PlotScene.h"
 #include "support/SampleTables.h"
 
 #include <vtkAxis.h>
 #include <vtkContextMapper2D.h>
+#include <vtkIdTypeArray.h>
 #include <vtkPlotParallelCoordinates.h>
 #include <vtkPlotPoints.h>
 #include <vtkPlotPoints3D.h>
+#include <vtkSelectionNode.h>
 #include <vtkTextProperty.h>
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QSignalSpy>
 
 #include <cmath>
@@ -411,5 +415,72 @@ TEST_P(RedrawOfOddData, SurvivesATableOfOneRow)
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryStyle, RedrawOfOddData, ::testing::Range(0, 11));
+
+TEST_F(Redraw, LeavesTheChartOfSobolResultsBehind)
+{
+  container.state().sobolChart = container.getChartXY();
+  setStyle(0);
+  container.redraw();
+  setStyle(1);
+  EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), 0);
+  EXPECT_EQ(container.getChartXY()->GetTitle(), "Not yet implemented");
+}
+
+TEST_F(Redraw, DrawsDecorationsOnceHoweverOftenItRuns)
+{
+  container.setDecorations(plainTable(), true);
+  for (const int style : {9, 0, 1})
+  {
+    container.state().sobolChart = container.getChartXY();
+    setStyle(style);
+    container.redraw();
+    const vtkIdType plots = container.getChartXY()->GetNumberOfPlots();
+    container.redraw();
+    container.redraw();
+    EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), plots) << style;
+  }
+}
+
+TEST_F(Redraw, KeepsTheCellsOfAReplacedMatrixUntilTheEventLoop)
+{
+  setStyle(3);
+  scene.render(container);
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  const vtkWeakPointer<vtkChart> cell = matrix->GetChart(vtkVector2i(0, 0));
+  container.redraw();
+  EXPECT_NE(cell, nullptr);
+  EXPECT_EQ(cell->GetScene(), scene.scene());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(cell, nullptr);
+}
+
+TEST_F(Redraw, CutsASelectionThatNamesRowsBeyondTheTable)
+{
+  vtkNew<vtkIdTypeArray> rows;
+  for (const vtkIdType row : {1, 4, 5, 1000000})
+    rows->InsertNextValue(row);
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::wrapRowSelection(rows));
+  scene.render(container);
+  EXPECT_EQ(rows->GetNumberOfValues(), 4) << "the client's own list stays";
+  auto* kept = vtkIdTypeArray::SafeDownCast(
+      container.getAnnotationLink()->GetCurrentSelection()->GetNode(0)->GetSelectionList());
+  ASSERT_EQ(kept->GetNumberOfValues(), 2);
+  EXPECT_EQ(kept->GetValue(1), 4);
+}
+
+TEST_F(Redraw, ReportsInsteadOfThrowingWhateverSignalStartsIt)
+{
+  QObject clicked;
+  QObject::connect(&clicked, SIGNAL(objectNameChanged(QString)), &container, SLOT(redraw()));
+  container.state().columnItems = {{Talmesh::Parameter, "k"}};
+  settings().parameterColumns = {0};
+  settings().blockSignals(true);
+  container.setPlotStyle(multiPlot);
+  settings().blockSignals(false);
+  CapturedOutput errors(std::cerr);
+  clicked.setObjectName("now");
+  EXPECT_EQ(errors.text().rfind("void PlotContainer::redraw(): ", 0), 0U) << errors.text();
+  EXPECT_THROW(container.redraw(), std::out_of_range);
+}
 
 } // namespace
