@@ -1,5 +1,6 @@
 #include "plot/PlotContainer.h"
 
+#include <vtkAbstractArray.h>
 #include <vtkTable.h>
 
 #include <QByteArray>
