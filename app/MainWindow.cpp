@@ -190,6 +190,7 @@ void MainWindow::applyDock()
   if (!container)
     return;
   const std::string error = applyChoice(*container, dock->choice());
+  selected->setText(selection->summary());
   plot->updatePlot(true);
   if (!error.empty())
     statusBar()->showMessage(QString::fromStdString(error), noteMilliseconds);
@@ -199,7 +200,6 @@ void MainWindow::applyDock()
 void MainWindow::showSelection()
 {
   applyDock();
-  selected->setText(selection->summary());
 }
 
 QString MainWindow::selectionText() const

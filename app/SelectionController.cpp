@@ -22,6 +22,9 @@ namespace Talmesh::app
 namespace
 {
 
+/// Each step keeps copies of the selected rows.
+constexpr int mostSteps = 100;
+
 std::unique_ptr<ParameterSelection> runsOf(PlotContainer* container)
 {
   return std::unique_ptr<ParameterSelection>(container ? container->getSelection() : nullptr);
@@ -42,6 +45,7 @@ SelectionController::SelectionController(QObject* parent)
     : QObject(parent)
     , history(stack)
 {
+  stack.setUndoLimit(mostSteps);
 }
 
 SelectionController::~SelectionController()

@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "vtk/SelectionColumns.h"
 #include "vtk/vtkCombinedFilterAndSelectedRows.h"
 
 #include <vtkAnnotationLink.h>
@@ -31,6 +32,22 @@ bool namesTime(const std::string& name)
   return false;
 }
 
+/// The filter writes no markers when nothing is selected; those of the selection before would stay
+/// highlighted.
+void clearMarkers(vtkTable* table)
+{
+  for (const char* name :
+       {ComplementSelectionColumn, ReducedSelectionColumn, RemainderSelectionColumn})
+  {
+    if (auto* markers = vtkDataArray::SafeDownCast(columnNamed(table, name)))
+    {
+      markers->Fill(0.0);
+      markers->Modified();
+      table->Modified();
+    }
+  }
+}
+
 } // namespace
 
 int timeColumnOf(const PlotState& state)
@@ -45,6 +62,7 @@ int timeColumnOf(const PlotState& state)
 
 RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
 {
+  clearMarkers(state.table);
   const std::vector<int>& parameters = state.metaData->parameterColumns;
   vtkNew<vtkCombinedFilterAndSelectedRows> filter;
   filter->ParameterColumns = parameters;

@@ -76,6 +76,9 @@ void dressLeftAxis(PlotState& state, const CoordinateWindow* window)
 void drawXYChart(PlotState& state, vtkContextScene* scene)
 {
   leaveSobolChart(state);
+  // The chart of a distribution takes no mouse.
+  if (state.chartXY && !state.chartXY->GetInteractive())
+    releaseChartXY(state);
   ensureStandaloneChart(state);
   showChart(state, state.chartXY, scene);
   state.chartXY->ClearPlots();

@@ -181,6 +181,19 @@ TEST_F(SelectionInWindow, SplitsTheRunsForTheStatistics)
   EXPECT_EQ(container().getKsResults().size(), container().getMetaData()->parameterColumns.size());
 }
 
+TEST_F(SelectionInWindow, IsClearedInEveryStyle)
+{
+  for (const plotStyles style : {xyPlot, selectionCdfPlot})
+  {
+    choose(xyPlot);
+    dragAround(1, 1);
+    choose(style);
+    press(QKeySequence(Qt::Key_Escape));
+    EXPECT_EQ(runs(), Runs{}) << style;
+    EXPECT_EQ(window.selectionText(), "0 of 3 runs selected") << style;
+  }
+}
+
 TEST_F(SelectionInWindow, StartsAnewWithAnotherStudy)
 {
   dragAround(1, 1);
