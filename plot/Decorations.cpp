@@ -42,7 +42,13 @@ void addDecoration(PlotState& state, int line, int xColumn)
   state.decorationPlots.emplace_back(plot);
 }
 
-/// Not every drawing clears the chart that the last decorations went into.
+} // namespace
+
+const PaletteColor& paletteColor(std::size_t index)
+{
+  return palette[index % palette.size()];
+}
+
 void removeDecorations(PlotState& state)
 {
   for (const auto& plot : state.decorationPlots)
@@ -53,16 +59,8 @@ void removeDecorations(PlotState& state)
   state.decorationPlots.clear();
 }
 
-} // namespace
-
-const PaletteColor& paletteColor(std::size_t index)
-{
-  return palette[index % palette.size()];
-}
-
 void drawDecorations(PlotState& state)
 {
-  removeDecorations(state);
   if (!state.showDecorations || !state.decorationTable || !state.chartXY)
     return;
   const int lines = static_cast<int>(state.decorationTable->GetNumberOfColumns()) - 1;

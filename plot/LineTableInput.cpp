@@ -66,9 +66,6 @@ void fillFromLinePlotTable(PlotState& state, const boost::shared_ptr<LinePlotTab
       state.parameterBounds.push_back(range);
     }
     const std::string label = Talmesh::selectionPairToString(item);
-    // A second column of the same name would take the place of the first.
-    if (columnNamed(state.table, label))
-      continue;
     state.table->AddColumn(borrowColumn(label, lines->values[i], rowCount(*lines), lines));
     state.columnItems.push_back(item);
   }

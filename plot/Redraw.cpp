@@ -24,6 +24,7 @@ void dress(PlotState& state)
 {
   setPointSize(state, state.metaData->pointSize);
   setMarkerStyle(state, state.metaData->markerStyle);
+  removeDecorations(state);
   drawDecorations(state);
   applyLogScaleX(state);
 }

@@ -66,7 +66,8 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
   if (!link || !this->Container)
     return;
   PlotContainer& container = *this->Container;
-  if (link == container.getAnnotationLink())
+  // An empty table draws no rows, and one that has yet to come may have those selected.
+  if (link == container.getAnnotationLink() && container.getTable()->GetNumberOfRows() > 0)
     Talmesh::plot::cutSelectionToTable(container.state());
   if (container.getMetaData()->parameterColumns.empty())
     return;
