@@ -6,6 +6,7 @@
 /// vtkTypeMacro that is followed by a semicolon like any declaration. VTK's own ends in an access
 /// label, after which a semicolon is one too many.
 #define TALMESH_VTK_TYPE(thisClass, superclass)                                                    \
-  vtkTypeMacro(thisClass, superclass) static_assert(true, "ended by the user's semicolon")
+  vtkTypeMacro(thisClass, superclass)                                                              \
+  static_assert(true, "ended by the user's semicolon")
 
 #endif
