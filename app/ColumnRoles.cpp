@@ -1,5 +1,7 @@
 #include "app/ColumnRoles.h"
 
+#include "app/AsciiText.h"
+
 #include <algorithm>
 #include <array>
 #include <map>
@@ -11,21 +13,12 @@ namespace Talmesh::app
 namespace
 {
 
-std::string_view trimmed(std::string_view text)
-{
-  constexpr std::string_view blanks = " \t\r\n";
-  const std::size_t begin = text.find_first_not_of(blanks);
-  if (begin == std::string_view::npos)
-    return {};
-  return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
-}
+constexpr std::string_view blanks = " \t\r\n";
 
 std::string lowerCase(std::string_view text)
 {
   std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(),
-                 [](char c)
-                 { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  std::transform(lower.begin(), lower.end(), lower.begin(), toLower);
   return lower;
 }
 
@@ -41,7 +34,7 @@ std::string_view withoutBracketedUnit(std::string_view name)
   if (name.empty() || (name.back() != ']' && name.back() != ')'))
     return name;
   const std::size_t open = name.find_last_of(name.back() == ']' ? '[' : '(');
-  return open == std::string_view::npos ? name : trimmed(name.substr(0, open));
+  return open == std::string_view::npos ? name : trimmed(name.substr(0, open), blanks);
 }
 
 /// Cuts a unit of time behind the last "_", "/", "." or blank.
@@ -52,9 +45,9 @@ std::string_view withoutTimeUnit(std::string_view name)
       "m",    "min",   "mins", "minute", "minutes", "h",    "hr",    "hrs",
       "hour", "hours", "d",    "day",    "days",    "week", "weeks", "years"};
   const std::size_t cut = name.find_last_of("_/. ");
-  if (cut == std::string_view::npos || !isOneOf(trimmed(name.substr(cut + 1)), units))
+  if (cut == std::string_view::npos || !isOneOf(trimmed(name.substr(cut + 1), blanks), units))
     return name;
-  return trimmed(name.substr(0, cut));
+  return trimmed(name.substr(0, cut), blanks);
 }
 
 std::string withoutSeparators(std::string_view name)
@@ -121,7 +114,7 @@ void makeUnique(std::vector<ColumnHeader>& headers)
 
 ColumnHeader readHeader(std::string_view text)
 {
-  const std::string_view header = trimmed(text);
+  const std::string_view header = trimmed(text, blanks);
   for (int value = Complex; value <= UndefinedType; ++value)
   {
     const auto kind = static_cast<DataType>(value);
@@ -137,8 +130,8 @@ bool isTimeName(std::string_view name)
   constexpr std::array<std::string_view, 6> words = {"time",      "t",          "times",
                                                      "timepoint", "timepoints", "elapsedtime"};
   // A capital T alone is a temperature.
-  const std::string lower = lowerCase(trimmed(name));
-  if (trimmed(name).substr(0, 1) == "T" && lower.compare(0, 2, "ti") != 0)
+  const std::string lower = lowerCase(trimmed(name, blanks));
+  if (trimmed(name, blanks).substr(0, 1) == "T" && lower.compare(0, 2, "ti") != 0)
     return false;
   const std::string_view bare = withoutBracketedUnit(lower);
   return isOneOf(withoutSeparators(bare), words) ||
@@ -152,7 +145,7 @@ bool isRunName(std::string_view name)
       "sim", "simulation", "realization", "realisation", "subject"};
   constexpr std::array<std::string_view, 7> endings = {"",       "id", "index", "idx",
                                                        "number", "nr", "no"};
-  const std::string joined = withoutSeparators(lowerCase(trimmed(name)));
+  const std::string joined = withoutSeparators(lowerCase(trimmed(name, blanks)));
   for (const std::string_view word : words)
     if (joined.size() >= word.size() && joined.compare(0, word.size(), word) == 0 &&
         isOneOf(std::string_view(joined).substr(word.size()), endings))

@@ -1,5 +1,7 @@
 #include "app/NumberText.h"
 
+#include "app/AsciiText.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -16,20 +18,10 @@ constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 /// The longest text that a number with a decimal comma is looked for in.
 constexpr std::size_t longestNumber = 400;
 
-std::string_view trimmed(std::string_view text)
-{
-  constexpr std::string_view blanks = " \t\v\f";
-  const std::size_t begin = text.find_first_not_of(blanks);
-  if (begin == std::string_view::npos)
-    return {};
-  return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
-}
-
 bool sameIgnoringCase(std::string_view text, std::string_view lowerCase)
 {
   return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
-                    [](char a, char b)
-                    { return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b; });
+                    [](char a, char b) { return toLower(a) == b; });
 }
 
 bool isMissingWord(std::string_view text)
@@ -73,7 +65,7 @@ bool parse(std::string_view text, double& value)
 
 NumberText readNumber(std::string_view cell, bool commas)
 {
-  const std::string_view text = trimmed(cell);
+  const std::string_view text = trimmed(cell, " \t\v\f");
   NumberText number{NumberText::Kind::Missing, missing};
   if (text.empty() || isMissingWord(text))
     return number;

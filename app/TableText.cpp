@@ -1,5 +1,6 @@
 #include "app/TableText.h"
 
+#include "app/AsciiText.h"
 #include "app/DelimitedText.h"
 #include "app/NumberText.h"
 
@@ -11,6 +12,7 @@ namespace Talmesh::app
 namespace
 {
 
+constexpr std::string_view blanks = " \t";
 constexpr std::size_t mostColumns = 20000;
 constexpr std::size_t rowsBetweenReports = 2000;
 
@@ -66,14 +68,6 @@ std::string toUtf8(std::string_view text)
     }
   }
   return utf8;
-}
-
-std::string_view trimmed(std::string_view text)
-{
-  const std::size_t begin = text.find_first_not_of(" \t");
-  if (begin == std::string_view::npos)
-    return {};
-  return text.substr(begin, text.find_last_not_of(" \t") - begin + 1);
 }
 
 std::string unreadable(std::string_view bytes)
@@ -174,7 +168,7 @@ private:
 
   void dropTrailingEmptyFields(std::size_t kept)
   {
-    while (fields.size() > kept && trimmed(fields.back()).empty())
+    while (fields.size() > kept && trimmed(fields.back(), blanks).empty())
       fields.pop_back();
   }
 
@@ -191,7 +185,7 @@ private:
 
   void readRunName(std::string_view field)
   {
-    const std::string name = toUtf8(trimmed(field));
+    const std::string name = toUtf8(trimmed(field, blanks));
     if (name.empty())
     {
       table.error = line() + ": the run has no name in the column " +

@@ -28,6 +28,7 @@ struct LinePlotTable
   /// null pointers are allowed, the same pointer twice is not.
   std::vector<double*> values;
 
+  /// Number of runs.
   std::size_t numberOfTrajectories = 0;
 
   /// Points of one trajectory: the stride of the plotted table.

@@ -30,7 +30,8 @@ struct PlotMetaDataValues
   std::string xLabel;
   /// Left-axis title, UTF-8.
   std::string yLabel;
-  /// Column whose values colour the lines of parallel coordinates; negative for none.
+  /// Column whose values colour the lines of parallel coordinates and, unless solidColor is set,
+  /// points; negative for none.
   int colorColumn = -1;
   /// Columns that hold parameters, in the order in which they are shown.
   std::vector<int> parameterColumns;

@@ -17,10 +17,13 @@ struct SobolPostProcessResult
   std::vector<double> parameterValues;
   /// One name per parameter.
   std::vector<std::string> parameterNames;
+  /// The analysed outputs, the outer index of the indices.
   std::vector<Talmesh::TypedConcentrationName> outputs;
-  /// Seconds.
+  /// In seconds, the middle index of the indices; shared with whoever made the result, may be null.
   std::shared_ptr<std::vector<double>> timePoints;
+  /// The share of the variance that each parameter explains alone; may be null.
   std::shared_ptr<Indices> firstOrder;
+  /// The share that each parameter takes part in; may be null.
   std::shared_ptr<Indices> total;
 };
 

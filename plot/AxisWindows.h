@@ -37,7 +37,8 @@ void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWi
 /// Fixes the left axis to the remembered window on the scale that it has.
 void restoreLeftAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window);
 
-/// Remembers the window that `bottom` and `left` show for the configuration now plotted.
+/// Remembers, with the scales of the axes, the window that `bottom` and `left` show for the
+/// configuration now plotted.
 void rememberWindow(PlotState& state, vtkAxis* bottom, vtkAxis* left);
 
 } // namespace Talmesh::plot

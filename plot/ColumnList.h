@@ -28,6 +28,7 @@ public:
   /// @param name none leaves it unnamed; such columns do not replace each other
   void add(const Name& name, vtkSmartPointer<vtkDataArray> column);
 
+  /// A new table of the columns collected so far, which it shares.
   vtkSmartPointer<vtkTable> makeTable() const;
 
 private:

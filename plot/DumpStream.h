@@ -13,11 +13,13 @@ void setDumpEncoding(QDataStream& stream);
 class DumpStream
 {
 public:
+  /// @param bytes read from the start; shared, so that the array may go
   explicit DumpStream(const QByteArray& bytes);
 
   qint32 readInt();
   /// A count; a negative one is 0.
   qint32 readCount();
+  /// One byte, true unless it is 0.
   bool readFlag();
   double readDouble();
   /// A null string for none.

@@ -89,6 +89,7 @@ public:
   /// One test result per parameter; empty before the first test.
   const std::vector<KsStatistics>& getKsResults() const;
 
+  /// Whether the row index stands in for the x series; false at first.
   bool getUseIndexForXSeries() const;
   /// Uses the row index as x series where a style knows that, and marks the scene for painting.
   void setUseIndexForXSeries(bool use);
@@ -97,6 +98,7 @@ public:
   /// Null draws none. `show` switches them on or off.
   void setDecorations(vtkSmartPointer<vtkTable> decorations, bool show);
   bool getShowDecorations() const;
+  /// Takes effect with the next redraw.
   void setShowDecorations(bool show);
 
   /// @name Data input
@@ -104,9 +106,11 @@ public:
   /// Appends a table over the arrays of `table`, which stays the caller's and must outlive it.
   void setLinePlotTableAsAdditionalData(LinePlotTable* table);
   /// Shows a shared line-plot table, whose arrays are used in place, and chooses its time column.
+  /// Null is ignored. `quartiles`, here and below, asks for generateQuartiles() as well.
   void setLinePlotTable(boost::shared_ptr<LinePlotTable> table, bool quartiles);
   /// Fills the table from the line-plot table last set. Does nothing without one.
   void updateFromLinePlotTable(bool quartiles);
+  /// Makes the typed items of kind Parameter the settings' parameter columns.
   void findParameterColumns();
   /// Forgets the typed names of the data columns, for a caller that loads new data.
   void clearColumnItems();
@@ -133,20 +137,31 @@ public:
 
   /// @name Appearance
   /// @{
-  /// Solid colour of point plots, components 0 to 255.
+  /// Solid colour of point plots, components 0 to 255. Like all setters up to setYLabel it stores
+  /// the value in the settings and applies it to the charts now shown, if they have such a thing.
   void setColor(int r, int g, int b, int a);
+  /// Colours by the solid colour or by the column of that name.
   void setColorScheme(std::string column, bool solid);
+  /// Colours `plot`, or for null the XY chart's first plot, as the settings say.
   void useColors(vtkPlot* plot);
+  /// A value of vtkPlotPoints' marker enumeration.
   void setMarkerStyle(int style);
+  /// In pixels.
   void setPointSize(double size);
+  /// In pixels.
   void setLineWidth(double width);
   void setPlotTitle(std::string title);
   void setXLabel(std::string label);
   void setYLabel(std::string label);
+  /// Texts in place of the bottom axis's numbers, from the next drawing on; none restores those.
   void setXTickLabels(std::vector<std::string> labels);
+  /// Where they stand, in units of x; at 0, 1, 2, ... without positions.
   void setXTickPosition(const std::vector<double>& positions);
+  /// Makes the bottom axis logarithmic exactly when the settings say so.
   void LogScaleX();
+  /// Adds the decoration lines to the XY chart; `scene` is ignored.
   void drawDecorations(vtkContextScene* scene);
+  /// Margins and gutters are in pixels; setting one calls updateMargins().
   int getLeftMargin() const;
   int getTopMargin() const;
   int getBottomMargin() const;
@@ -159,6 +174,7 @@ public:
   void setRightMargin(int pixels);
   void setHorizontalGutter(int pixels);
   void setVerticalGutter(int pixels);
+  /// Applies margins and gutters to the chart of the current style.
   void updateMargins();
   /// @}
 
@@ -211,18 +227,25 @@ public:
 
   /// @name Pages and special plots
   /// @{
+  /// Draw the page of style 5, 6 or 8 into `scene` whatever the present style.
   /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
   void drawMulitPlot(vtkContextScene* scene);
-  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
   void drawSelectionCdfPlot(vtkContextScene* scene);
-  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
   void drawFitParameterDistributionPlot(vtkContextScene* scene);
+  /// Draws the chart of style 7 into `scene`.
   void drawScatterPlotWithErrorBars(vtkContextScene* scene);
+  /// Replaces the table by the first-order or `total` sensitivity indices: of all outputs at one
+  /// time point, or of one output over time. Shows them as style 1 or 2 does. Null is ignored.
   void setSobolPostprocessResult(SobolPostProcessResult* result, bool atTimePoint, bool total,
                                  unsigned long timePointIndex, unsigned long outputIndex);
+  /// Builds the chart of the indices that are in the table.
   void setupStackedSobol(bool total);
+  /// Replaces the table by residuals, divided by the errors if `scaled`, or by predictions and
+  /// observations if `sideBySide`, and plots it. `predictions`, [output][observation], are
+  /// normalised in place as the settings say. Null records are ignored.
   void setResidualPlot(FitRun* run, FitSettings* settings,
                        std::vector<std::vector<double>>& predictions, bool scaled, bool sideBySide);
+  /// Shows the density of a distribution, whose values become the table. Null is ignored.
   void setDistribution(Distribution* distribution);
   /// @}
 
@@ -241,13 +264,17 @@ public:
 public slots:
   /// Uses `data` as the table, shared and not copied. Does not draw. Null is ignored.
   void setPlotData(vtkSmartPointer<vtkTable> data);
+  /// Replaces the table by a copy of time series. Does not draw. Null is ignored.
   void setLinePlotData(LinePlotData* data);
+  /// Appends a table of time series to the derived tables. Null is ignored.
   void setLinePlotDataAsAdditionalData(LinePlotData* data);
-  /// Draws one line per item.
+  /// Draws one line per item; the list is only read. Null is ignored.
   void setLinePlotItems(std::vector<Talmesh::TypedConcentrationName>*);
   /// Hands the style to the settings, whose announcement draws.
   void setPlotStyle(plotStyles plotStyle);
+  /// Logarithmic left axis of the XY chart, which the settings do not keep.
   void setLogScaleY(bool log);
+  /// Legend of the XY chart, which the settings do not keep.
   void setShowLegend(bool legend);
   /// Builds the chart of the current style. Started by the settings' signal it reports an exception
   /// in one line on standard error; called directly it throws what the style's builder throws.

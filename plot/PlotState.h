@@ -56,6 +56,7 @@ struct PlotState
   std::vector<vtkSmartPointer<vtkTable>> derivedTables;
   /// Typed name of each data column of line-plot data.
   std::vector<Talmesh::TypedConcentrationName> columnItems;
+  /// Whether drawings include the lines of decorationTable.
   bool showDecorations = false;
   /// (lower, upper) of the parameter columns that are not constant.
   std::vector<std::pair<double, double>> parameterBounds;
@@ -71,21 +72,26 @@ struct PlotState
   vtkSmartPointer<vtkScalarsToColors> pointColors;
   /// The settings, never null while the container lives, which owns them.
   PlotMetaData* metaData = nullptr;
+  /// The axis window that the user last gave each configuration of columns and style.
   CoordinateWindows coordinateWindows;
   /// Null while the scatter-plot matrix or the 3-D chart is shown; a cell of `chartMatrix` while
   /// one of its pages is.
   vtkSmartPointer<vtkChartXY> chartXY;
   /// The chart now shown.
   vtkSmartPointer<vtkAbstractContextItem> currentChart;
+  /// The charts of styles 3, of the pages (5, 6, 8), of style 4 and of style 9.
   vtkSmartPointer<vtkScatterPlotMatrix> scatterPlotMatrix;
   vtkSmartPointer<vtkChartMatrix> chartMatrix;
   vtkSmartPointer<vtkChartXYZ> chartXYZ;
   /// Null in a copied container.
   vtkSmartPointer<vtkChartParallelCoordinates> parallelCoordinates;
+  /// Custom labels of the bottom axis and, in units of x, where they stand.
   vtkSmartPointer<vtkStringArray> xTickLabels;
   vtkSmartPointer<vtkDoubleArray> xTickPositions;
   vtkSmartPointer<vtkExtractSelectedRows> extractSelectedRows;
+  /// The selection of table rows that all charts share, never null.
   vtkSmartPointer<vtkAnnotationLink> annotationLink;
+  /// The record whose arrays the table uses in place, shared with the client.
   boost::shared_ptr<LinePlotTable> linePlotTable;
   int leftMargin = 80;       ///< pixels
   int topMargin = 20;        ///< pixels
@@ -95,8 +101,11 @@ struct PlotState
   int verticalGutter = 28;   ///< pixels
   /// The next selection page first runs the selection-update callback.
   bool selectionUpdatePending = false;
+  /// The row index stands in for the x series.
   bool useIndexForXSeries = false;
+  /// One test result per ranked parameter; empty before a test.
   std::vector<KsStatistics> ksResults;
+  /// Quartiles of the runs, one row per position within a run.
   vtkSmartPointer<vtkTable> quartileTable;
 
   /// The scales on which the windows of `coordinateWindows` were recorded.

@@ -10,7 +10,7 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// Makes `table`, which must not be null, the plot table.
+/// Makes `table`, which is shared and must not be null, the plot table and calls tableChanged().
 void replaceTable(PlotState& state, vtkSmartPointer<vtkTable> table);
 
 /// To be called after every change of the plot table's values or columns: what was derived from

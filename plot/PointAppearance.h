@@ -18,13 +18,14 @@ void setColorScheme(PlotState& state, const std::string& column, bool solid);
 /// than point plots, and a colour column that is not double or has no finite range, change nothing.
 void useColors(PlotState& state, vtkPlot* plot);
 
-/// Stores the marker style and applies it to the XY chart's first plot.
+/// Stores the marker style, a value of vtkPlotPoints' marker enumeration, and applies it to the XY
+/// chart's first plot.
 void setMarkerStyle(PlotState& state, int style);
 
-/// Stores the marker size and applies it to the charts of the current style.
+/// Stores the marker size in pixels and applies it to the charts of the current style.
 void setPointSize(PlotState& state, double size);
 
-/// Stores the line width; in style 7 it becomes the width of the error bars.
+/// Stores the line width in pixels; in style 7 it becomes the width of the error bars.
 void setLineWidth(PlotState& state, double width);
 
 } // namespace Talmesh::plot

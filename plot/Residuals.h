@@ -14,9 +14,10 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// One row of predictions per fitted output.
+/// Predictions in the units of the observations, [output][observation].
 using Predictions = std::vector<std::vector<double>>;
 
+/// What a residual plot shows.
 struct ResidualOptions
 {
   /// Divide residuals by the errors of the observations.
@@ -40,7 +41,9 @@ void normalizePredictions(const FitSettings& settings, Predictions& predictions)
 vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& settings,
                                         const Predictions& predictions, ResidualOptions options);
 
-/// Plots the table of residualTable, `outputs` series of it, on the XY chart and titles it.
+/// Plots the plot table, which is one of residualTable, on the XY chart and titles it.
+/// @param outputs number of series, or of pairs of series side by side
+/// @param timeCourse the table begins with "Time", which is x; otherwise the row index is
 void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, ResidualOptions options);
 
 } // namespace Talmesh::plot

@@ -24,6 +24,7 @@ public:
   }
 
   bool atEnd() const { return current >= rows; }
+  /// The first row of the present run.
   vtkIdType row() const { return current; }
   /// Run index of the row; the cursor must not be at its end.
   double run() const { return values->GetTypedComponent(current, 0); }

@@ -8,6 +8,7 @@ class vtkTable;
 namespace Talmesh::plot
 {
 
+/// What of a complex number is kept.
 enum class SpectralFeature
 {
   phase,    ///< atan2 of imaginary and real part, radians in [-pi, pi]

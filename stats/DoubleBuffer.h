@@ -12,6 +12,7 @@ class DoubleBuffer
 {
 public:
   DoubleBuffer() = default;
+  /// @throws std::bad_alloc when there is no memory for `size` values
   explicit DoubleBuffer(std::size_t size)
       : storage(new double[size]())
       , length(size)

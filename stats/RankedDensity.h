@@ -32,6 +32,7 @@ struct ReflectedReferences
   double mean = 0.0;
 };
 
+/// The references of ascending values (NaN last) under a support that is not degenerate.
 ReflectedReferences reflectedReferences(const std::vector<double>& sorted,
                                         const ParameterSupport& support);
 

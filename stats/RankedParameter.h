@@ -63,6 +63,7 @@ struct RankedParameter
   DoubleBuffer locations;
 };
 
+/// The derived columns of several parameters.
 struct RankedParameters
 {
   /// Length of the longest list; shorter lists are filled with their last value, empty ones with

@@ -63,8 +63,8 @@ protected:
   vtkPlotErrorPoints() = default;
   ~vtkPlotErrorPoints() override;
 
-  vtkStdString ErrorArrayName;
-  vtkWeakPointer<vtkFloatArray> ErrorArray;
+  vtkStdString ErrorArrayName;              ///< the selected column, empty if there is none
+  vtkWeakPointer<vtkFloatArray> ErrorArray; ///< half-lengths of the bars in units of y, not owned
 
 private:
   vtkPlotErrorPoints(const vtkPlotErrorPoints&) = delete;

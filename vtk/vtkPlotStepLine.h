@@ -40,7 +40,7 @@ protected:
   vtkPlotStepLine() = default;
   ~vtkPlotStepLine() override;
 
-  vtkPoints2D* StepPoints = nullptr;
+  vtkPoints2D* StepPoints = nullptr; ///< the staircase, owned; null before the first update
 
 private:
   vtkPlotStepLine(const vtkPlotStepLine&) = delete;

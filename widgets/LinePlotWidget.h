@@ -26,7 +26,9 @@ public:
   void removeData();
 
 public slots:
+  /// Shows or hides the legend.
   void toggleLegend();
+  /// Switches the left axis between logarithmic and linear scale.
   void toggleLogScale();
   /// Asks for a file and writes the whole table to it as comma-separated text. A message tells when
   /// that fails.

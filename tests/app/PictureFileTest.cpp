@@ -3,6 +3,7 @@
 #include "app/PlotChoice.h"
 #include "app/StudyFile.h"
 #include "plot/PlotContainer.h"
+#include "support/Pictures.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <gtest/gtest.h>
@@ -18,22 +19,6 @@ using namespace Talmesh::app;
 
 namespace
 {
-
-QByteArray contentOf(const QString& path)
-{
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-int paintedPixels(const QImage& picture)
-{
-  int painted = 0;
-  for (int y = 0; y < picture.height(); ++y)
-    for (int x = 0; x < picture.width(); ++x)
-      if (picture.pixelColor(x, y) != QColor(Qt::white))
-        ++painted;
-  return painted;
-}
 
 class PictureFile : public ::testing::Test
 {

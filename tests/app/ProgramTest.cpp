@@ -1,4 +1,5 @@
 #include "app/Gallery.h"
+#include "support/Pictures.h"
 
 #include <gtest/gtest.h>
 
@@ -83,12 +84,6 @@ protected:
     return changed;
   }();
 };
-
-QByteArray contentOf(const QString& path)
-{
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 

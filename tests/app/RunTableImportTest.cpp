@@ -9,9 +9,10 @@
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
+
+#include "ImportedRuns.h"
 
 using namespace Talmesh::app;
 
@@ -19,62 +20,6 @@ namespace
 {
 
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
-
-ImportedTable imported(const std::string& text)
-{
-  ImportedTable table = importRunTable(text);
-  EXPECT_EQ(table.error, "");
-  EXPECT_FALSE(table.cancelled);
-  return table;
-}
-
-std::string errorOf(const std::string& text)
-{
-  const ImportedTable table = importRunTable(text);
-  EXPECT_FALSE(table.runs);
-  EXPECT_FALSE(table.table);
-  EXPECT_EQ(table.error.find('\n'), std::string::npos);
-  return table.error;
-}
-
-std::vector<std::string> labels(const ImportedTable& table)
-{
-  std::vector<std::string> all;
-  for (const auto& item : table.runs->items)
-    all.push_back(Talmesh::selectionPairToString(item));
-  return all;
-}
-
-std::vector<double> values(const ImportedTable& table, const std::string& label)
-{
-  const LinePlotTable& runs = *table.runs;
-  for (std::size_t i = 0; i < runs.items.size(); ++i)
-    if (Talmesh::selectionPairToString(runs.items[i]) == label)
-      return {runs.values[i],
-              runs.values[i] + runs.numberOfTrajectories * runs.pointsPerTrajectory};
-  ADD_FAILURE() << "no item " << label;
-  return {};
-}
-
-void expectValues(const ImportedTable& table, const std::string& label,
-                  const std::vector<double>& expected)
-{
-  const std::vector<double> found = values(table, label);
-  ASSERT_EQ(found.size(), expected.size()) << label;
-  for (std::size_t i = 0; i < found.size(); ++i)
-    if (std::isnan(expected[i]))
-      EXPECT_TRUE(std::isnan(found[i])) << label << ' ' << i;
-    else
-      EXPECT_EQ(found[i], expected[i]) << label << ' ' << i;
-}
-
-void expectShape(const ImportedTable& table, std::size_t runs, std::size_t points)
-{
-  ASSERT_TRUE(table.runs);
-  EXPECT_FALSE(table.table);
-  EXPECT_EQ(table.runs->numberOfTrajectories, runs);
-  EXPECT_EQ(table.runs->pointsPerTrajectory, points);
-}
 
 } // namespace
 
@@ -179,12 +124,6 @@ TEST(RunTableImport, ReadsDecimalCommasBetweenSemicolonsAndTabs)
   expectValues(imported("t\tX\n0\t-1,5e1\n0,5\t2\n"), ": t", {0, 0.5});
 }
 
-TEST(RunTableImport, RefusesDecimalCommasBesideDecimalPoints)
-{
-  EXPECT_EQ(errorOf("t;X\n0;1,5\n1;1.234\n"),
-            "line 3: \"1.234\" is ambiguous: the table has both decimal points and decimal commas");
-}
-
 TEST(RunTableImport, ReadsByteOrderMarksCarriageReturnsAndQuotes)
 {
   const ImportedTable table =
@@ -240,12 +179,6 @@ TEST(RunTableImport, GathersTheScatteredRowsOfARun)
   expectValues(table, ": Run Index", {0, 0, 0, 1, 1, 1});
 }
 
-TEST(RunTableImport, RefusesARunThatStartsAgain)
-{
-  EXPECT_EQ(errorOf("time,run,X\n0,1,1\n1,1,2\n0,2,3\n1,2,4\n0,1,5\n1,1,6\n0,2,7\n1,2,8\n"),
-            "run \"1\" starts again in line 6: two runs have the same name");
-}
-
 TEST(RunTableImport, PutsNumberedRunsIntoOrder)
 {
   const ImportedTable table = imported("run,time,X\n12,0,1\n12,1,2\n7,0,3\n7,1,4\n");
@@ -259,28 +192,6 @@ TEST(RunTableImport, NumbersRunsWhoseNamesAreNoWholeNumbers)
   expectValues(imported("run,time,X\n0.5,0,1\n0.7,0,2\n"), ": Run Index", {0, 1});
   expectValues(imported("run,time,X\n1,0,1\n01,0,2\n"), ": Run Index", {0, 1});
   expectValues(imported("run,time,X\n1e30,0,1\n2,0,2\n"), ": Run Index", {0, 1});
-}
-
-TEST(RunTableImport, NamesTheRunOfAnotherLength)
-{
-  EXPECT_EQ(errorOf("run,time,X\na,0,1\na,1,2\nb,0,3\nc,0,1\nc,1,2\n"),
-            "run \"b\" has 1 point, other runs have 2");
-  EXPECT_EQ(errorOf("run,time,X\na,0,1\nb,0,3\nb,1,1\nc,0,1\nc,1,2\n"),
-            "run \"a\" has 1 point, other runs have 2");
-}
-
-TEST(RunTableImport, NamesTheRunOfAnotherLengthFoundByTime)
-{
-  EXPECT_EQ(errorOf("time,X\n0,1\n1,2\n0,1\n1,2\n2,3\n0,1\n1,2\n"),
-            "run 2 (from line 4, where time falls back) has 3 points, other runs have 2");
-  EXPECT_EQ(errorOf("time,X\n0,1\n0,1\n1,2\n0,1\n1,2\n0,1\n1,2\n"),
-            "run 1 has 3 points, other runs have 2");
-}
-
-TEST(RunTableImport, NumbersTheLineWhereAShortRunStarts)
-{
-  EXPECT_EQ(errorOf("time,X\n0,1\n1,2\n\n0,1\n1,2\n0,1\n"),
-            "run 3 (from line 7, where time falls back) has 1 point, other runs have 2");
 }
 
 TEST(RunTableImport, MakesAPlainTableOfColumnsWithoutTimeAndRun)
@@ -304,56 +215,10 @@ TEST(RunTableImport, LeavesColumnsOfTextOutAndSaysSo)
             (std::vector<std::string>{"The column \"drug\" holds text and is left out."}));
 }
 
-TEST(RunTableImport, RefusesTextAmongNumbers)
-{
-  EXPECT_EQ(errorOf("time,X\n0,1\n1,2a\n"), "line 3: \"2a\" in the column \"X\" is not a number");
-  EXPECT_EQ(errorOf("time,X\n12:30,1\n12:31,2\n"),
-            "line 2: \"12:30\" in the column \"time\" is not a number");
-}
-
-TEST(RunTableImport, RefusesRowsOfAnotherLength)
-{
-  EXPECT_EQ(errorOf("time,X\n0,1\n1\n"), "line 3 has 1 field, the first line has 2");
-  EXPECT_EQ(errorOf("time,X\n0,1,2\n"), "line 2 has 3 fields, the first line has 2");
-}
-
 TEST(RunTableImport, IgnoresEmptyFieldsBeyondTheHeaders)
 {
   const ImportedTable table = imported("time,X,,\n0,1,,\n1,2\n2,3, ,\n");
   expectValues(table, "Molecule: X", {1, 2, 3});
-}
-
-TEST(RunTableImport, RefusesARowWithoutItsRun)
-{
-  EXPECT_EQ(errorOf("run,time,X\n0,0,1\n,1,2\n"),
-            "line 3: the run has no name in the column \"run\"");
-}
-
-TEST(RunTableImport, RefusesWhatIsNoTable)
-{
-  EXPECT_EQ(errorOf(""), "the file is empty");
-  EXPECT_EQ(errorOf("\n\n"), "the file is empty");
-  EXPECT_EQ(errorOf("\xEF\xBB\xBF"), "the file is empty");
-  EXPECT_EQ(errorOf("time,X\n"), "the table has no rows below its headers");
-  EXPECT_EQ(errorOf("Dear reader\nthis is prose\n"), "not a table: no column holds numbers");
-  EXPECT_EQ(errorOf("0,1\n1,2\n"), "the first line holds numbers, not the names of the columns");
-  EXPECT_EQ(errorOf(std::string("a,b\n1,\0\n", 8)), "not a table: the file holds binary data");
-  EXPECT_EQ(errorOf("\xFF\xFEt\x01"), "the text is UTF-16; save it as UTF-8");
-  EXPECT_EQ(errorOf("time,X\n0,\"1\n"), "line 2: a quoted field is not closed");
-  EXPECT_EQ(errorOf("time,\"X\n0,1\n"), "line 1: a quoted name is not closed");
-}
-
-TEST(RunTableImport, RefusesAbsurdlyManyColumns)
-{
-  EXPECT_EQ(errorOf("a" + std::string(20000, ',') + "b\n"),
-            "the table has 20001 columns; at most 20000 can be read");
-}
-
-TEST(RunTableImport, KeepsMessagesInOneShortLine)
-{
-  const std::string error = errorOf("time,X\n0,1\n1,\"a\nb\x01" + std::string(100, 'x') + "\"\n");
-  EXPECT_EQ(error,
-            "line 3: \"a b " + std::string(36, 'x') + "...\" in the column \"X\" is not a number");
 }
 
 TEST(RunTableImport, ReportsItsProgressAndCanBeCancelled)
@@ -382,35 +247,4 @@ TEST(RunTableImport, ReportsItsProgressAndCanBeCancelled)
   EXPECT_FALSE(cancelled.runs);
   EXPECT_EQ(cancelled.error, "");
   EXPECT_EQ(calls, 2);
-}
-
-TEST(RunTableImport, SurvivesDamagedTables)
-{
-  const std::string whole =
-      "run,\"time [s]\",k1,X\r\n0,0,\"0,5\",1\n0,1,0.5,3\n1,0,,5\n1;1;0,7;inf\n";
-  const std::string spice = "\",;\t\r\n.e-+0NaN \xEF\xBB\xBF\xFF:";
-  std::mt19937 generator(7);
-  for (int i = 0; i < 20000; ++i)
-  {
-    std::string text = whole;
-    for (int edits = static_cast<int>(generator() % 8); edits >= 0; --edits)
-    {
-      const std::size_t at = generator() % (text.size() + 1);
-      const char c = spice[generator() % spice.size()];
-      if (generator() % 3 == 0 && at < text.size())
-        text.erase(at, 1 + generator() % 5);
-      else
-        text.insert(at, 1, c);
-    }
-    const ImportedTable table = importRunTable(text);
-    const int outcomes =
-        (table.runs ? 1 : 0) + (table.table ? 1 : 0) + (table.error.empty() ? 0 : 1);
-    ASSERT_EQ(outcomes, 1) << text;
-    ASSERT_EQ(table.error.find('\n'), std::string::npos) << text;
-    if (table.runs)
-    {
-      ASSERT_EQ(table.runs->items.size(), table.runs->values.size());
-      ASSERT_GT(table.runs->numberOfTrajectories * table.runs->pointsPerTrajectory, 0u);
-    }
-  }
 }

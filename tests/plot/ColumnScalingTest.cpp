@@ -2,6 +2,7 @@
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/PlotScene.h"
+#include "support/SampleRuns.h"
 #include "support/SampleTables.h"
 
 #include <vtkFloatArray.h>
@@ -34,8 +35,7 @@ protected:
 
   Values values(int index = 1)
   {
-    auto* column = Talmesh::plot::doubleColumn(container.getTable(), index);
-    return {column->GetPointer(0), column->GetPointer(0) + column->GetNumberOfTuples()};
+    return SampleRuns::valuesOf(container.getTable()->GetColumn(index));
   }
 
   bool isDirty() { return scene.scene()->GetDirty(); }

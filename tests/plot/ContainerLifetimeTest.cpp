@@ -1,3 +1,4 @@
+#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
 #include "support/LineTables.h"
@@ -7,9 +8,6 @@
 
 #include <vtkCommand.h>
 #include <vtkContext2D.h>
-#include <vtkIdTypeArray.h>
-#include <vtkSelection.h>
-#include <vtkSelectionNode.h>
 
 #include <gtest/gtest.h>
 
@@ -87,7 +85,7 @@ public:
   {
     if (link)
     {
-      link->SetCurrentSelection(someRows());
+      link->SetCurrentSelection(Talmesh::plot::makeRowSelection({1}));
       link->InvokeEvent(vtkCommand::AnnotationChangedEvent);
     }
     if (chart)
@@ -121,19 +119,6 @@ private:
       scene->AddItem(container->getItem());
     if (paints)
       scene->Paint(painter.painter);
-  }
-
-  static vtkSmartPointer<vtkSelection> someRows()
-  {
-    vtkNew<vtkIdTypeArray> rows;
-    rows->InsertNextValue(1);
-    vtkNew<vtkSelectionNode> node;
-    node->SetContentType(vtkSelectionNode::INDICES);
-    node->SetFieldType(vtkSelectionNode::ROW);
-    node->SetSelectionList(rows);
-    auto selection = vtkSmartPointer<vtkSelection>::New();
-    selection->AddNode(node);
-    return selection;
   }
 
   bool paints;

@@ -1,7 +1,6 @@
 #include "external/Distribution.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/PlotState.h"
 #include "support/PlotScene.h"
 #include "support/RecordingDevice.h"
 #include "support/SampleRuns.h"
@@ -10,83 +9,21 @@
 #include "vtk/vtkPlotErrorPoints.h"
 
 #include <vtkAxis.h>
-#include <vtkContextMapper2D.h>
-#include <vtkFloatArray.h>
 #include <vtkPen.h>
-#include <vtkPlotLine.h>
-#include <vtkVariant.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <limits>
+
+#include "ErrorBarFixture.h"
 
 using SampleRuns::valuesOf;
 
 namespace
 {
 
-void addFloats(vtkTable* table, const std::string& name, const std::vector<double>& values)
+class ErrorBarChart : public ErrorBarFixture
 {
-  vtkNew<vtkFloatArray> column;
-  column->SetName(name.c_str());
-  for (const double value : values)
-    column->InsertNextValue(static_cast<float>(value));
-  table->AddColumn(column);
-}
-
-/// Columns x, y, error, x2 and y2 of single precision.
-vtkSmartPointer<vtkTable> measurements()
-{
-  auto table = vtkSmartPointer<vtkTable>::New();
-  addFloats(table, "x", {1.0, 2.0, 3.0, 5.0});
-  addFloats(table, "y", {10.0, 12.0, 9.0, 11.0});
-  addFloats(table, "error", {1.0, 0.5, 0.0, 2.0});
-  addFloats(table, "x2", {1.0, 2.0, 4.0, 5.0});
-  addFloats(table, "y2", {10.5, 11.5, 10.0, 10.5});
-  return table;
-}
-
-class ErrorBarChart : public ::testing::Test
-{
-protected:
-  ErrorBarChart()
-  {
-    container.setScene(scene.scene());
-    container.getMetaData()->blockSignals(true);
-    container.getMetaData()->setPlotStyle(scatterWithErrorBars);
-    container.getMetaData()->blockSignals(false);
-    container.setPlotData(measurements());
-  }
-
-  void redraw() { container.redraw(); }
-  void secondSeries(const std::vector<int>& x, const std::vector<int>& y)
-  {
-    settings().xColumns = x;
-    settings().yColumns = y;
-    redraw();
-  }
-
-  PlotMetaData& settings() { return *container.getMetaData(); }
-  vtkChartXY* chart() { return container.getChartXY(); }
-  vtkAxis* bottom() { return chart()->GetAxis(vtkAxis::BOTTOM); }
-  vtkPlotErrorPoints* errorBars() { return vtkPlotErrorPoints::SafeDownCast(chart()->GetPlot(0)); }
-  vtkTable* table() { return container.getTable(); }
-
-  /// x and y column of a plot.
-  std::array<std::string, 2> inputOf(int index)
-  {
-    vtkPlot* plot = chart()->GetPlot(index);
-    const auto name = [plot](int array)
-    {
-      return std::string(
-          plot->GetData()->GetInputArrayToProcess(array, plot->GetInput())->GetName());
-    };
-    return {name(0), name(1)};
-  }
-
-  PlotScene scene;
-  PlotContainer container{nullptr};
 };
 
 using Columns = std::array<std::string, 2>;
@@ -136,95 +73,6 @@ TEST_F(ErrorBarChart, UsesTheRowIndexWhenAsked)
   redraw();
   EXPECT_TRUE(errorBars()->GetUseIndexForXSeries());
   EXPECT_EQ(errorBars()->GetInput(), table()) << "x columns do not matter then";
-}
-
-TEST_F(ErrorBarChart, PadsAFloatXAxisInSinglePrecisionBeforeTheFirstPaint)
-{
-  redraw();
-  const float padding = 0.05F * (5.0F - 1.0F);
-  EXPECT_EQ(bottom()->GetUnscaledMinimum(), 1.0F - padding);
-  EXPECT_EQ(bottom()->GetUnscaledMaximum(), 5.0F + padding);
-  EXPECT_EQ(bottom()->GetBehavior(), vtkAxis::AUTO);
-}
-
-TEST_F(ErrorBarChart, AXAxisThatIsNotFloatIsLeftToAutomaticScaling)
-{
-  redraw();
-  container.setPlotData(plainTable());
-  bottom()->SetUnscaledRange(-7.0, 7.0);
-  redraw();
-  EXPECT_EQ(bottom()->GetUnscaledMinimum(), -7.0);
-  EXPECT_EQ(bottom()->GetUnscaledMaximum(), 7.0);
-  EXPECT_EQ(bottom()->GetBehavior(), vtkAxis::AUTO);
-  scene.render(container);
-  EXPECT_EQ(bottom()->GetMinimum(), 0.0);
-  EXPECT_EQ(bottom()->GetMaximum(), 4.0);
-}
-
-TEST_F(ErrorBarChart, AFloatColumnThatIsNotFiniteDoesNotTouchTheRange)
-{
-  auto odd = vtkSmartPointer<vtkTable>::New();
-  addFloats(odd, "x", {1.0, std::numeric_limits<double>::infinity()});
-  addFloats(odd, "y", {1.0, 2.0});
-  addFloats(odd, "error", {1.0, 2.0});
-  container.setPlotData(odd);
-  bottom()->SetUnscaledRange(-7.0, 7.0);
-  redraw();
-  EXPECT_EQ(bottom()->GetUnscaledMaximum(), 7.0);
-  scene.render(container);
-}
-
-TEST_F(ErrorBarChart, SecondPairOfColumnsIsALine)
-{
-  secondSeries({0, 3}, {1, 4});
-  ASSERT_EQ(chart()->GetNumberOfPlots(), 2);
-  EXPECT_NE(vtkPlotLine::SafeDownCast(chart()->GetPlot(1)), nullptr);
-  EXPECT_EQ(chart()->GetPlot(1)->GetInput(), table());
-  EXPECT_EQ(inputOf(1), (Columns{"x2", "y2"}));
-  EXPECT_FALSE(chart()->GetPlot(1)->GetUseIndexForXSeries());
-}
-
-TEST_F(ErrorBarChart, SecondSeriesNeedsTwoYColumnsAndAnX)
-{
-  secondSeries({0, 3}, {1});
-  EXPECT_EQ(chart()->GetNumberOfPlots(), 1);
-  secondSeries({0}, {1, 4});
-  EXPECT_EQ(chart()->GetNumberOfPlots(), 1);
-  container.setUseIndexForXSeries(true);
-  redraw();
-  ASSERT_EQ(chart()->GetNumberOfPlots(), 2);
-  EXPECT_EQ(inputOf(1), (Columns{"x", "y2"})) << "column 0 stands in for the second x column";
-  EXPECT_TRUE(chart()->GetPlot(1)->GetUseIndexForXSeries());
-}
-
-TEST_F(ErrorBarChart, SecondSeriesComesFromTheFirstDerivedTable)
-{
-  const auto curve = tableOf({{"u", {0, 10, 20}}, {"v", {3, 4, 5}}});
-  container.state().derivedTables = {curve, table()};
-  secondSeries({0, 0}, {1, 1});
-  EXPECT_EQ(chart()->GetPlot(1)->GetInput(), curve);
-  EXPECT_EQ(inputOf(1), (Columns{"u", "v"}));
-  EXPECT_FALSE(chart()->GetPlot(1)->GetSelectable()) << "its rows are not those of the plot table";
-  container.state().derivedTables = {nullptr, curve};
-  redraw();
-  EXPECT_EQ(chart()->GetPlot(1)->GetInput(), table());
-  EXPECT_TRUE(chart()->GetPlot(1)->GetSelectable());
-}
-
-TEST_F(ErrorBarChart, SecondSeriesOutsideItsTableHasNoInput)
-{
-  VtkErrors errors;
-  for (const auto& [x, y] : {std::pair{3, 5}, {5, 4}, {-1, 4}, {3, -1}})
-  {
-    secondSeries({0, x}, {1, y});
-    ASSERT_EQ(chart()->GetNumberOfPlots(), 2);
-    EXPECT_EQ(chart()->GetPlot(1)->GetInput(), nullptr) << x << ' ' << y;
-    scene.render(container);
-  }
-  container.state().derivedTables = {tableOf({{"u", {0, 10}}})};
-  secondSeries({0, 0}, {1, 1});
-  EXPECT_EQ(chart()->GetPlot(1)->GetInput(), nullptr);
-  EXPECT_EQ(errors.text(), "");
 }
 
 TEST_F(ErrorBarChart, CustomTicksStandAtTheIndices)
@@ -303,58 +151,6 @@ TEST_F(ErrorBarChart, ErrorsOfAnotherTypeGiveMarkersOnly)
   errorBars()->Paint(painting.painter);
   EXPECT_TRUE(painting.device->calls(RecordingDevice::Kind::Poly).empty());
   EXPECT_FALSE(painting.device->calls(RecordingDevice::Kind::Markers).empty());
-}
-
-TEST_F(ErrorBarChart, AHundredRedrawsNeitherLeakNorFreeTheErrorColumn)
-{
-  vtkAbstractArray* column = table()->GetColumnByName("error");
-  const int references = column->GetReferenceCount();
-  for (int i = 0; i < 100; ++i)
-  {
-    redraw();
-    // Drawn, updated only and never looked at.
-    if (i % 3 == 0)
-      scene.render(container);
-    else if (i % 3 == 1)
-      errorBars()->Update();
-  }
-  chart()->ClearPlots();
-  EXPECT_EQ(column->GetReferenceCount(), references);
-  EXPECT_EQ(valuesOf(column), (std::vector<double>{1.0, 0.5, 0.0, 2.0}));
-}
-
-TEST_F(ErrorBarChart, AReplacedErrorColumnIsReleasedOnceAndTheNewOneKept)
-{
-  for (int i = 0; i < 100; ++i)
-  {
-    redraw();
-    errorBars()->Update();
-    addFloats(table(), "error", {1.0, 2.0, 3.0, 4.0});
-    if (i % 2 == 0)
-      errorBars()->Update();
-  }
-  vtkAbstractArray* column = table()->GetColumnByName("error");
-  const int references = column->GetReferenceCount();
-  redraw();
-  errorBars()->Update();
-  table()->RemoveColumnByName("error");
-  redraw();
-  container.setPlotData(measurements());
-  redraw();
-  scene.render(container);
-  EXPECT_GE(references, 1);
-  EXPECT_EQ(valuesOf(table(), "error"), (std::vector<double>{1.0, 0.5, 0.0, 2.0}));
-}
-
-TEST_F(ErrorBarChart, ItemsMayOutliveTheirTable)
-{
-  redraw();
-  errorBars()->Update();
-  vtkSmartPointer<vtkPlot> item = chart()->GetPlot(0);
-  container.setPlotData(plainTable());
-  redraw();
-  item = nullptr;
-  EXPECT_NE(errorBars(), nullptr);
 }
 
 TEST_F(ErrorBarChart, NothingOfOtherChartsShowsThrough)

@@ -1,91 +1,27 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
-#include "support/PlotScene.h"
 #include "support/SampleTables.h"
 
 #include <vtkAxis.h>
-#include <vtkColorTransferFunction.h>
-#include <vtkContextMapper2D.h>
 #include <vtkContextMouseEvent.h>
 #include <vtkPlotPoints.h>
-#include <vtkTextProperty.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <set>
 #include <stdexcept>
+
+#include "FitParameterFixture.h"
 
 namespace
 {
 
 using Values = std::vector<double>;
 
-class FitParameterPage : public ::testing::Test
+class FitParameterPage : public FitParameterFixture
 {
-protected:
-  FitParameterPage()
-  {
-    Values score;
-    Values iteration;
-    NamedValues columns = {{"Score", {}}, {"Iteration", {}}};
-    for (const char* name : {"Parameter: k1", "Parameter: k2", "Parameter: k3"})
-      columns.push_back({name, {}});
-    for (int i = 0; i <= 20; ++i)
-    {
-      columns[0].second.push_back(std::pow(10.0, 2.0 - 0.1 * i));
-      columns[1].second.push_back(i);
-      columns[2].second.push_back(1.0 + 0.05 * i);
-      columns[3].second.push_back(20.0 - 0.8 * i);
-      columns[4].second.push_back(0.5 + 0.01 * i * i);
-    }
-    container.setPlotData(tableOf(columns));
-    settings().parameterColumns = {2, 3, 4};
-    container.setScene(scene.scene());
-    settings().blockSignals(true);
-    settings().setPlotStyle(fitParameterDistribution);
-  }
-
-  void draw() { container.drawFitParameterDistributionPlot(scene.scene()); }
-  PlotMetaData& settings() { return *container.getMetaData(); }
-  vtkChart* cell(int column, int row)
-  {
-    return container.getChartMatrix()->GetChart(vtkVector2i(column, row));
-  }
-  vtkAxis* bottom(int column, int row) { return cell(column, row)->GetAxis(vtkAxis::BOTTOM); }
-  vtkAxis* left(int column, int row) { return cell(column, row)->GetAxis(vtkAxis::LEFT); }
-  vtkPlotPoints* points(int column, int row)
-  {
-    return vtkPlotPoints::SafeDownCast(cell(column, row)->GetPlot(0));
-  }
-
-  std::string input(int column, int row, int axis)
-  {
-    vtkPlot* plot = points(column, row);
-    return plot->GetData()->GetInputAbstractArrayToProcess(axis, plot->GetInput())->GetName();
-  }
-
-  /// Colour of a score, as the points get it.
-  std::array<double, 3> colorOf(double score)
-  {
-    std::array<double, 3> rgb{};
-    points(0, 0)->GetLookupTable()->GetColor(score, rgb.data());
-    return rgb;
-  }
-
-  void expectColor(double score, double red, double green, double blue)
-  {
-    const auto rgb = colorOf(score);
-    EXPECT_NEAR(rgb[0], red, 1e-9) << score;
-    EXPECT_NEAR(rgb[1], green, 1e-9) << score;
-    EXPECT_NEAR(rgb[2], blue, 1e-9) << score;
-  }
-
-  PlotScene scene{900, 700};
-  PlotContainer container{nullptr};
 };
 
 TEST_F(FitParameterPage, HasAChartPerPairAndOnePerParameter)
@@ -208,76 +144,6 @@ TEST_F(FitParameterPage, TakesMarginsAndGutters)
   EXPECT_EQ(borders[vtkAxis::RIGHT], 22);
   EXPECT_EQ(borders[vtkAxis::TOP], 21);
   EXPECT_EQ(container.getChartMatrix()->GetGutter(), vtkVector2f(30.0F, 29.0F));
-}
-
-TEST_F(FitParameterPage, ColoursLowScoresBlueTheGeometricMiddleDarkAndHighScoresRed)
-{
-  draw();
-  ASSERT_TRUE(points(0, 0)->GetScalarVisibility());
-  EXPECT_EQ(points(2, 0)->GetLookupTable(), points(0, 0)->GetLookupTable());
-  EXPECT_EQ(points(0, 0)->GetColorArrayName(), "Score");
-  expectColor(1.0, 0.1, 0.1, 0.8);
-  expectColor(10.0, 0.1, 0.1, 0.1);
-  expectColor(100.0, 0.8, 0.1, 0.1);
-  expectColor(std::sqrt(10.0), 0.1, 0.1, 0.45);
-}
-
-TEST_F(FitParameterPage, ColoursScoresThatAreNotAllPositiveOnALinearScale)
-{
-  Talmesh::plot::doubleColumn(container.getTable(), 0)->SetValue(20, -100.0);
-  draw();
-  expectColor(-100.0, 0.1, 0.1, 0.8);
-  expectColor(0.0, 0.1, 0.1, 0.1);
-  expectColor(50.0, 0.45, 0.1, 0.1);
-  expectColor(100.0, 0.8, 0.1, 0.1);
-}
-
-TEST_F(FitParameterPage, ColoursScoresOfImmenseRange)
-{
-  Talmesh::plot::doubleColumn(container.getTable(), 0)->SetValue(0, 1e300);
-  Talmesh::plot::doubleColumn(container.getTable(), 0)->SetValue(20, 1e-100);
-  draw();
-  expectColor(1e100, 0.1, 0.1, 0.1);
-}
-
-TEST_F(FitParameterPage, ColoursNothingByAnUnusableColumn)
-{
-  const auto replaceScore = [this](vtkAbstractArray* score)
-  {
-    auto table = vtkSmartPointer<vtkTable>::New();
-    table->AddColumn(score);
-    for (int i = 1; i < container.getTable()->GetNumberOfColumns(); ++i)
-      table->AddColumn(container.getTable()->GetColumn(i));
-    container.setPlotData(table);
-    settings().parameterColumns = {2, 3, 4};
-    draw();
-    scene.render(container);
-    EXPECT_FALSE(points(0, 0)->GetScalarVisibility());
-  };
-  const double infinity = std::numeric_limits<double>::infinity();
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  Values infinite(21, 1.0);
-  infinite[3] = infinity;
-  replaceScore(Talmesh::plot::makeColumn("Score", infinite));
-  replaceScore(Talmesh::plot::makeColumn("Score", Values(21, nan)));
-  vtkNew<vtkStringArray> text;
-  text->SetName("Score");
-  text->SetNumberOfValues(21);
-  replaceScore(text);
-  vtkNew<vtkIntArray> integers;
-  integers->SetName("Score");
-  integers->SetNumberOfValues(21);
-  integers->FillValue(3);
-  replaceScore(integers);
-}
-
-TEST_F(FitParameterPage, ColoursAConstantScore)
-{
-  Talmesh::plot::doubleColumn(container.getTable(), 0)->FillValue(4.0);
-  draw();
-  scene.render(container);
-  EXPECT_TRUE(points(0, 0)->GetScalarVisibility());
-  expectColor(4.0, 0.8, 0.1, 0.1);
 }
 
 TEST_F(FitParameterPage, IsEmptyWithoutParameters)

@@ -1,9 +1,8 @@
-#include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
+#include "support/PageFixture.h"
 #include "support/ParameterStudy.h"
-#include "support/PlotScene.h"
+#include "support/PlotFixture.h"
 #include "support/SampleTables.h"
 
 #include <vtkAxis.h>
@@ -20,7 +19,7 @@ namespace
 constexpr int runs = 7;
 constexpr int points = 5;
 
-class MultiPlot : public ::testing::Test
+class MultiPlot : public PageFixture
 {
 protected:
   void draw(int parameters)
@@ -30,21 +29,7 @@ protected:
     container.setLinePlotTable(parameterStudy(runs, points, parameters), false);
   }
 
-  vtkChart* cell(int column, int row)
-  {
-    return container.getChartMatrix()->GetChart(vtkVector2i(column, row));
-  }
-  vtkVector2i span(int column, int row)
-  {
-    return container.getChartMatrix()->GetChartSpan(vtkVector2i(column, row));
-  }
-  static std::string inputName(vtkPlot* plot, int axis)
-  {
-    return plot->GetData()->GetInputAbstractArrayToProcess(axis, plot->GetInput())->GetName();
-  }
-
-  PlotScene scene{900, 700};
-  PlotContainer container{nullptr};
+  vtkVector2i span(int column, int row) { return matrix()->GetChartSpan(vtkVector2i(column, row)); }
 };
 
 TEST_F(MultiPlot, DrawsATriangleOfPairsAndTheMainChart)
@@ -72,14 +57,14 @@ TEST_F(MultiPlot, DrawsATriangleOfPairsAndTheMainChart)
 TEST_F(MultiPlot, PairsTheParametersAgainstEachOther)
 {
   draw(4);
-  EXPECT_EQ(inputName(cell(0, 0)->GetPlot(0), 0), "Parameter: k1");
-  EXPECT_EQ(inputName(cell(0, 0)->GetPlot(0), 1), "Parameter: k4");
-  EXPECT_EQ(inputName(cell(2, 0)->GetPlot(0), 0), "Parameter: k3");
-  EXPECT_EQ(inputName(cell(0, 2)->GetPlot(0), 1), "Parameter: k2");
-  EXPECT_EQ(inputName(cell(1, 1)->GetPlot(0), 0), "Parameter: k2");
-  EXPECT_EQ(inputName(cell(1, 1)->GetPlot(0), 1), "Parameter: k3");
-  EXPECT_EQ(inputName(cell(2, 2)->GetPlot(0), 0), ": Time [s]");
-  EXPECT_EQ(inputName(cell(2, 2)->GetPlot(0), 1), "Molecule: A");
+  EXPECT_EQ(plottedName(cell(0, 0)->GetPlot(0), 0), "Parameter: k1");
+  EXPECT_EQ(plottedName(cell(0, 0)->GetPlot(0), 1), "Parameter: k4");
+  EXPECT_EQ(plottedName(cell(2, 0)->GetPlot(0), 0), "Parameter: k3");
+  EXPECT_EQ(plottedName(cell(0, 2)->GetPlot(0), 1), "Parameter: k2");
+  EXPECT_EQ(plottedName(cell(1, 1)->GetPlot(0), 0), "Parameter: k2");
+  EXPECT_EQ(plottedName(cell(1, 1)->GetPlot(0), 1), "Parameter: k3");
+  EXPECT_EQ(plottedName(cell(2, 2)->GetPlot(0), 0), ": Time [s]");
+  EXPECT_EQ(plottedName(cell(2, 2)->GetPlot(0), 1), "Molecule: A");
 }
 
 TEST_F(MultiPlot, TitlesOnlyTheOuterAxes)

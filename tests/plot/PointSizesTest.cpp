@@ -13,20 +13,6 @@ namespace
 class PointSizes : public PlotFixture
 {
 protected:
-  vtkPlotPoints* points() { return vtkPlotPoints::SafeDownCast(chart()->GetPlot(0)); }
-
-  /// Shows a bar plot before a point plot, which no operation on the first plot may reach.
-  vtkPlotPoints* hidePointsBehindBars()
-  {
-    chart()->ClearPlots();
-    chart()->AddPlot(vtkChart::BAR);
-    auto* later = vtkPlotPoints::SafeDownCast(chart()->AddPlot(vtkChart::POINTS));
-    later->SetMarkerSize(11.0F);
-    later->SetMarkerStyle(vtkPlotPoints::PLUS);
-    later->SetColor(1, 2, 3, 4);
-    return later;
-  }
-
   /// Makes the charts of a matrix page, with point plots of size 1 in all cells.
   void fillMatrix(int size)
   {

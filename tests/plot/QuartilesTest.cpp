@@ -54,10 +54,7 @@ protected:
   /// Runs of one column, over a time column.
   void setRuns(const Values& values, int stride)
   {
-    Values time;
-    for (std::size_t row = 0; row < values.size(); ++row)
-      time.push_back(0.5 * static_cast<double>(row % static_cast<std::size_t>(stride)));
-    container.setPlotData(tableOf({{"Time", time}, {"value", values}}));
+    container.setPlotData(runsOfValues(values, stride));
     container.getMetaData()->setStride(stride);
   }
 

@@ -1,25 +1,15 @@
-#include "external/Distribution.h"
-#include "external/FitRun.h"
-#include "external/FitSettings.h"
-#include "external/LinePlotData.h"
-#include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
-#include "external/SobolPostProcessResult.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
-#include "support/PlotScene.h"
 #include "support/SampleTables.h"
 
-#include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
-#include <QByteArray>
-
 #include <algorithm>
-#include <functional>
 #include <limits>
-#include <memory>
+
+#include "RankedTablesFixture.h"
 
 namespace
 {
@@ -30,58 +20,18 @@ const std::string boundsWarning =
     "Warning void PlotContainer::generateRankedParameters(vtkSmartPointer<vtkTable>, std::size_t): "
     "the number of parameter columns does not match the number of parameter bounds\n";
 
-/// Column 0 is time; columns 1 and 2 are the parameters k1 and k2. Three runs of two rows.
-vtkSmartPointer<vtkTable> threeRuns()
+class RankedTables : public RankedTablesFixture
 {
-  return tableOf({{"Time", {0, 1, 0, 1, 0, 1}},
-                  {"Parameter: k1", {5, 5, 2, 2, 5, 5}},
-                  {"Parameter: k2", {10, 10, 30, 30, 20, 20}}});
-}
-
-class RankedTables : public ::testing::Test
-{
-protected:
-  RankedTables()
-  {
-    container.setPlotData(threeRuns());
-    state().columnItems = {
-        {Talmesh::TimeOrValue, "Time"}, {Talmesh::Parameter, "k1"}, {Talmesh::Parameter, "k2"}};
-    state().parameterBounds = {{0, 10}, {0, 100}};
-    container.findParameterColumns();
-    settings().setStride(2);
-  }
-
-  Talmesh::plot::PlotState& state() { return container.state(); }
-  PlotMetaData& settings() { return *container.getMetaData(); }
-  void rank() { container.generateRankedParameters(container.getTable(), 0); }
-  vtkTable* slot(std::size_t index) { return container.getDerivedTables().at(index); }
-
-  Values values(std::size_t index, const std::string& name)
-  {
-    auto* column = vtkDoubleArray::SafeDownCast(Talmesh::plot::columnNamed(slot(index), name));
-    if (!column)
-      return {};
-    return {column->GetPointer(0), column->GetPointer(0) + column->GetNumberOfTuples()};
-  }
-
-  std::vector<std::string> names(std::size_t index)
-  {
-    std::vector<std::string> result;
-    for (int i = 0; i < slot(index)->GetNumberOfColumns(); ++i)
-      result.push_back(Talmesh::plot::columnName(slot(index), i));
-    return result;
-  }
-
-  PlotContainer container{nullptr};
 };
 
 TEST_F(RankedTables, HoldOnePairOfColumnsPerParameterInSelectionOrder)
 {
   rank();
   ASSERT_EQ(container.getDerivedTables().size(), 2U);
-  EXPECT_EQ(names(0), (std::vector<std::string>{"Rank of Parameter: k1", "Sorted Parameter: k1",
-                                                "Rank of Parameter: k2", "Sorted Parameter: k2"}));
-  EXPECT_EQ(names(1),
+  EXPECT_EQ(columnNames(slot(0)),
+            (std::vector<std::string>{"Rank of Parameter: k1", "Sorted Parameter: k1",
+                                      "Rank of Parameter: k2", "Sorted Parameter: k2"}));
+  EXPECT_EQ(columnNames(slot(1)),
             (std::vector<std::string>{"Density of Parameter: k1", "Locations of Parameter: k1",
                                       "Density of Parameter: k2", "Locations of Parameter: k2"}));
   EXPECT_EQ(values(1, "Density of Parameter: k1").size(), 200U);
@@ -141,9 +91,10 @@ TEST_F(RankedTables, RankedTwiceHoldEveryColumnOnce)
   rank();
   EXPECT_EQ(slot(0), ranks);
   EXPECT_EQ(slot(1), densities);
-  EXPECT_EQ(names(0), (std::vector<std::string>{"Rank of Parameter: k1", "Sorted Parameter: k1",
-                                                "Rank of Parameter: k2", "Sorted Parameter: k2"}));
-  auto sorted = names(1);
+  EXPECT_EQ(columnNames(slot(0)),
+            (std::vector<std::string>{"Rank of Parameter: k1", "Sorted Parameter: k1",
+                                      "Rank of Parameter: k2", "Sorted Parameter: k2"}));
+  auto sorted = columnNames(slot(1));
   std::sort(sorted.begin(), sorted.end());
   EXPECT_EQ(sorted,
             (std::vector<std::string>{"Density of Parameter: k1", "Density of Parameter: k2",
@@ -181,8 +132,9 @@ TEST_F(RankedTables, ForgetAParameterThatIsNoLongerSelected)
   settings().parameterColumns = {2};
   state().parameterBounds = {{0, 100}};
   rank();
-  EXPECT_EQ(names(0), (std::vector<std::string>{"Rank of Parameter: k2", "Sorted Parameter: k2"}));
-  EXPECT_EQ(names(1),
+  EXPECT_EQ(columnNames(slot(0)),
+            (std::vector<std::string>{"Rank of Parameter: k2", "Sorted Parameter: k2"}));
+  EXPECT_EQ(columnNames(slot(1)),
             (std::vector<std::string>{"Density of Parameter: k2", "Locations of Parameter: k2"}));
 }
 
@@ -216,8 +168,9 @@ TEST_F(RankedTables, SkipParametersThatCannotBeRead)
   settings().parameterColumns = {-1, 1, 3, 99, std::numeric_limits<int>::max()};
   state().parameterBounds.assign(5, {0, 10});
   rank();
-  EXPECT_EQ(names(0), (std::vector<std::string>{"Rank of Parameter: k1", "Sorted Parameter: k1"}));
-  EXPECT_EQ(names(1),
+  EXPECT_EQ(columnNames(slot(0)),
+            (std::vector<std::string>{"Rank of Parameter: k1", "Sorted Parameter: k1"}));
+  EXPECT_EQ(columnNames(slot(1)),
             (std::vector<std::string>{"Density of Parameter: k1", "Locations of Parameter: k1"}));
 }
 
@@ -233,7 +186,7 @@ TEST_F(RankedTables, OfATableWithoutRowsHaveColumnsWithoutRows)
 {
   container.generateRankedParameters(
       tableOf({{"Time", {}}, {"Parameter: k1", {}}, {"Parameter: k2", {}}}), 2);
-  EXPECT_EQ(names(2).size(), 4U);
+  EXPECT_EQ(columnNames(slot(2)).size(), 4U);
   EXPECT_EQ(slot(2)->GetNumberOfRows(), 0);
   EXPECT_EQ(values(3, "Density of Parameter: k1"), Values(200, 0.0));
 }
@@ -287,94 +240,6 @@ TEST_F(RankedTables, EstimateTheDensityBetweenTheBounds)
   EXPECT_NEAR(density[150], 0.0650916406331703, 1e-14);
   EXPECT_NEAR(density[199], 0.0455909870394309, 1e-14);
   EXPECT_NEAR(values(1, "Locations of Parameter: k1")[150], 9.04522613065327, 1e-13);
-}
-
-class RankedDataFlag : public RankedTables
-{
-protected:
-  void expectCleared(const std::string& by, const std::function<void()>& change)
-  {
-    settings().rankedDataCurrent = true;
-    change();
-    EXPECT_FALSE(settings().rankedDataCurrent) << by;
-  }
-};
-
-TEST_F(RankedDataFlag, IsSetByRankingThePlotTableOnly)
-{
-  container.generateRankedParameters(threeRuns(), 0);
-  EXPECT_FALSE(settings().rankedDataCurrent);
-  rank();
-  EXPECT_TRUE(settings().rankedDataCurrent);
-}
-
-TEST_F(RankedDataFlag, IsClearedByEveryChangeOfTheTable)
-{
-  Values x = {1, 2};
-  double factors[] = {1, 1, 1};
-  LinePlotData lines;
-  lines.xValues = &x;
-  auto lineTable = boost::make_shared<LinePlotTable>();
-  expectCleared("setPlotData", [&] { container.setPlotData(threeRuns()); });
-  expectCleared("findParameterColumns", [&] { container.findParameterColumns(); });
-  expectCleared("addColumn", [&] { container.addColumn(Values(6), "more"); });
-  expectCleared("scaleColumn", [&] { container.scaleColumn(factors, 1); });
-  expectCleared("scaleRelativeToMaxWithinTrajectory",
-                [&] { container.scaleRelativeToMaxWithinTrajectory(1); });
-  expectCleared("scaleColumnByColumn", [&] { container.scaleColumnByColumn(1, 2, false); });
-  expectCleared("setLinePlotData", [&] { container.setLinePlotData(&lines); });
-  CapturedOutput output(std::cout);
-  expectCleared("setLinePlotTable", [&] { container.setLinePlotTable(lineTable, false); });
-  expectCleared("setSimpleXYPlot", [&] { container.setSimpleXYPlot(x, x, x); });
-  UniformDistribution distribution(0, 1);
-  expectCleared("setDistribution", [&] { container.setDistribution(&distribution); });
-  FitRun run;
-  FitSettings fit;
-  std::vector<Values> predictions;
-  expectCleared("setResidualPlot",
-                [&] { container.setResidualPlot(&run, &fit, predictions, false, false); });
-  SobolPostProcessResult sobol;
-  expectCleared("setSobolPostprocessResult",
-                [&] { container.setSobolPostprocessResult(&sobol, true, true, 0, 0); });
-  expectCleared("setSobolPostprocessResult",
-                [&] { container.setSobolPostprocessResult(&sobol, false, true, 0, 0); });
-  const std::unique_ptr<QByteArray> dump(container.binaryDump());
-  expectCleared("readDump", [&] { container.readDump(dump.get()); });
-  expectCleared("example", [&] { container.example(); });
-  expectCleared("loadData", [&] { container.loadData("there is no such file"); });
-}
-
-TEST_F(RankedDataFlag, IsClearedByTheNextDrawingWhenAnInputChanged)
-{
-  PlotScene scene;
-  container.setScene(scene.scene());
-  rank();
-  container.redraw();
-  EXPECT_TRUE(settings().rankedDataCurrent);
-  settings().setStride(3);
-  EXPECT_FALSE(settings().rankedDataCurrent) << "stride";
-  rank();
-  settings().parameterColumns = {2, 1};
-  container.redraw();
-  EXPECT_FALSE(settings().rankedDataCurrent) << "parameters";
-  rank();
-  state().parameterBounds[0].second = 11;
-  container.redraw();
-  EXPECT_FALSE(settings().rankedDataCurrent) << "bounds";
-  rank();
-  container.redraw();
-  EXPECT_TRUE(settings().rankedDataCurrent);
-}
-
-TEST_F(RankedDataFlag, IsNotInheritedByACopyWhichHasNoRanks)
-{
-  PlotScene scene;
-  container.setScene(scene.scene());
-  rank();
-  CapturedOutput output(std::cout);
-  const PlotContainer copy(container);
-  EXPECT_FALSE(copy.getMetaData()->rankedDataCurrent);
-  EXPECT_TRUE(settings().rankedDataCurrent);
 }
 
 } // namespace

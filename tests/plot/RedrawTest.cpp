@@ -3,24 +3,19 @@
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 #include "support/CapturedOutput.h"
-#include "support/PlotScene.h"
+#include "support/PlotFixture.h"
 #include "support/SampleTables.h"
 
 #include <vtkAxis.h>
 #include <vtkContextMapper2D.h>
 #include <vtkIdTypeArray.h>
-#include <vtkPlotParallelCoordinates.h>
 #include <vtkPlotPoints.h>
-#include <vtkPlotPoints3D.h>
 #include <vtkSelectionNode.h>
-#include <vtkTextProperty.h>
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QSignalSpy>
 
-#include <cmath>
 #include <limits>
 
 namespace
@@ -28,43 +23,9 @@ namespace
 
 const std::string invalidScene = "void PlotContainer::redraw(): invalid scene\n";
 
-class Redraw : public ::testing::Test
-{
-protected:
-  Redraw()
-  {
-    container.setPlotData(plainTable());
-    container.setScene(scene.scene());
-  }
-
-  void setStyle(int style) { container.setPlotStyle(static_cast<plotStyles>(style)); }
-  PlotMetaData& settings() { return *container.getMetaData(); }
-  vtkAxis* bottom() { return container.getChartXY()->GetAxis(vtkAxis::BOTTOM); }
-  vtkAxis* left() { return container.getChartXY()->GetAxis(vtkAxis::LEFT); }
-
-  PlotScene scene;
-  PlotContainer container{nullptr};
-};
-
-class ReservedStyles : public Redraw, public ::testing::WithParamInterface<int>
+class Redraw : public UndrawnPlotFixture
 {
 };
-
-TEST_P(ReservedStyles, DrawNothingButTheTitle)
-{
-  setStyle(GetParam());
-  container.redraw();
-  ASSERT_NE(container.getChartXY(), nullptr);
-  EXPECT_EQ(container.getItem(), container.getChartXY());
-  EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), 0);
-  EXPECT_EQ(container.getChartXY()->GetTitle(), "Not yet implemented");
-  EXPECT_EQ(settings().title, "Not yet implemented");
-  scene.render(container);
-  EXPECT_GT(scene.paintedPixels(), 100) << "the title must be seen";
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryReservedValue, ReservedStyles,
-                         ::testing::Values(1, 2, 10, 11, 1000, -1));
 
 TEST(RedrawWithoutScene, SaysSoAndLeavesTheSettingsSilent)
 {
@@ -197,224 +158,6 @@ TEST_F(Redraw, DrawsRunsAsLinesWhenTheSettingsSaySo)
   ASSERT_EQ(container.getChartXY()->GetNumberOfPlots(), 1);
   EXPECT_STREQ(container.getChartXY()->GetPlot(0)->GetClassName(), "vtkPlotLineSet");
 }
-
-TEST_F(Redraw, ShowsAllColumnsInTheScatterPlotMatrix)
-{
-  setStyle(3);
-  EXPECT_EQ(container.getChartXY(), nullptr);
-  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
-  ASSERT_NE(matrix, nullptr);
-  EXPECT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 4);
-  EXPECT_EQ(matrix->GetSize().GetX(), 4);
-  EXPECT_EQ(matrix->GetGutter(), vtkVector2f(28, 28));
-  scene.render(container);
-  EXPECT_GT(scene.paintedPixels(), 1000);
-}
-
-TEST_F(Redraw, SwapsTheGuttersOfTheScatterPlotMatrix)
-{
-  container.setHorizontalGutter(11);
-  container.setVerticalGutter(22);
-  setStyle(3);
-  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
-  EXPECT_EQ(matrix->GetGutter(), vtkVector2f(22, 11));
-  int borders[4];
-  matrix->GetBorders(borders);
-  EXPECT_EQ(borders[vtkAxis::LEFT], 80);
-  EXPECT_EQ(borders[vtkAxis::BOTTOM], 40);
-  EXPECT_EQ(borders[vtkAxis::RIGHT], 20);
-  EXPECT_EQ(borders[vtkAxis::TOP], 20);
-}
-
-TEST_F(Redraw, LimitsTheScatterPlotMatrixToTheChosenColumns)
-{
-  settings().xColumns = {3};
-  settings().yColumns = {1};
-  settings().parameterColumns = {2};
-  settings().setLimitColumVisibility(true);
-  setStyle(3);
-  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
-  ASSERT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 3);
-  EXPECT_EQ(matrix->GetVisibleColumns()->GetValue(0), "d");
-  EXPECT_EQ(matrix->GetVisibleColumns()->GetValue(1), "b");
-  EXPECT_EQ(matrix->GetVisibleColumns()->GetValue(2), "c");
-  const vtkVector2i active = matrix->GetActivePlot();
-  EXPECT_EQ(matrix->GetColumnName(active.GetX()), "d");
-  EXPECT_EQ(matrix->GetRowName(active.GetY()), "b");
-  scene.render(container);
-
-  settings().setLimitColumVisibility(false);
-  EXPECT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 4);
-  EXPECT_EQ(matrix->GetSize().GetX(), 4);
-  scene.render(container);
-}
-
-TEST_F(Redraw, ActivatesNoPairOfOneColumn)
-{
-  settings().xColumns = {1};
-  settings().yColumns = {1};
-  settings().setLimitColumVisibility(true);
-  setStyle(3);
-  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
-  EXPECT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 1);
-  scene.render(container);
-}
-
-TEST_F(Redraw, DrawsPointsInSpace)
-{
-  settings().zColumns = {2};
-  setStyle(4);
-  EXPECT_EQ(container.getChartXY(), nullptr);
-  EXPECT_EQ(container.getItem(), container.state().chartXYZ);
-  scene.render(container);
-  EXPECT_GT(scene.paintedPixels(), 500);
-}
-
-TEST_F(Redraw, ShowsAllAxesForTwoYColumnsAndOnlyThreeForThree)
-{
-  settings().yColumns = {1, 2};
-  setStyle(9);
-  vtkStringArray* shown = container.state().parallelCoordinates->GetVisibleColumns();
-  EXPECT_EQ(shown->GetNumberOfValues(), 4);
-  settings().yColumns = {3, 1, 2};
-  container.redraw();
-  ASSERT_EQ(shown->GetNumberOfValues(), 3);
-  EXPECT_EQ(shown->GetValue(0), "d");
-  EXPECT_EQ(shown->GetValue(2), "c");
-  EXPECT_EQ(container.state().parallelCoordinates->GetNumberOfAxes(), 3);
-  for (int i = 0; i < 3; ++i)
-    EXPECT_EQ(
-        container.state().parallelCoordinates->GetAxis(i)->GetLabelProperties()->GetOrientation(),
-        -45.0);
-  scene.render(container);
-  EXPECT_GT(scene.paintedPixels(), 500);
-}
-
-TEST_F(Redraw, ColorsParallelCoordinatesByTheColorColumn)
-{
-  settings().colorColumn = 2;
-  setStyle(9);
-  auto* plot =
-      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0));
-  EXPECT_EQ(plot->GetScalarVisibility(), 1);
-  EXPECT_EQ(plot->GetColorArrayName(), "c");
-  scene.render(container);
-  settings().colorColumn = -1;
-  container.redraw();
-  EXPECT_EQ(
-      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0))
-          ->GetScalarVisibility(),
-      0);
-}
-
-TEST_F(Redraw, SwitchesThroughAllStylesInAnyOrder)
-{
-  for (int from = 0; from <= 11; ++from)
-  {
-    for (int to = 0; to <= 11; ++to)
-    {
-      setStyle(from);
-      container.redraw();
-      scene.render(container);
-      setStyle(to);
-      container.redraw();
-      scene.render(container);
-      ASSERT_NE(container.getItem(), nullptr);
-      EXPECT_EQ(container.getItem()->GetScene(), scene.scene());
-    }
-  }
-}
-
-class RedrawOfOddData : public Redraw, public ::testing::WithParamInterface<int>
-{
-};
-
-TEST_P(RedrawOfOddData, SurvivesColumnsThatDoNotExist)
-{
-  for (const int index : {-5, -1, 4, 1000})
-  {
-    settings().xColumns = {index};
-    settings().yColumns = {index, index, index};
-    settings().zColumns = {index};
-    settings().colorColumn = index;
-    settings().solidColor = false;
-    setStyle(GetParam());
-    container.redraw();
-    scene.render(container);
-  }
-  settings().xColumns.clear();
-  settings().yColumns.clear();
-  settings().zColumns.clear();
-  container.redraw();
-  scene.render(container);
-}
-
-TEST_P(RedrawOfOddData, SurvivesTextAndUnnamedColumns)
-{
-  vtkSmartPointer<vtkTable> table = plainTable();
-  addStringColumn(table, "words");
-  table->AddColumn(Talmesh::plot::makeColumn("nameless", {1, 2, 3, 4, 5}));
-  table->GetColumn(5)->SetName(nullptr);
-  container.setPlotData(table);
-  setStyle(GetParam());
-  for (const int index : {4, 5})
-  {
-    settings().xColumns = {index};
-    settings().yColumns = {index, 0, index};
-    settings().zColumns = {index};
-    settings().colorColumn = index;
-    settings().solidColor = false;
-    container.redraw();
-    scene.render(container);
-  }
-}
-
-TEST_P(RedrawOfOddData, SurvivesAnEmptyTable)
-{
-  setStyle(GetParam());
-  container.redraw();
-  scene.render(container);
-  container.setPlotData(vtkSmartPointer<vtkTable>::New());
-  container.redraw();
-  scene.render(container);
-  container.setPlotData(tableOf({{"a", {}}, {"b", {}}, {"c", {}}}));
-  container.redraw();
-  scene.render(container);
-}
-
-TEST_P(RedrawOfOddData, SurvivesValuesThatAreNotFinite)
-{
-  const double inf = std::numeric_limits<double>::infinity();
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  container.setPlotData(tableOf({{"a", {0, inf, 2, -inf, 4}},
-                                 {"b", {nan, nan, nan, nan, nan}},
-                                 {"c", {1, nan, 3, 4, 1e300}},
-                                 {"d", {7, 7, 7, 7, 7}}}));
-  setStyle(GetParam());
-  for (int x = 0; x < 4; ++x)
-  {
-    for (int y = 0; y < 4; ++y)
-    {
-      settings().xColumns = {x};
-      settings().yColumns = {y, 0, 3};
-      settings().zColumns = {3};
-      settings().colorColumn = x;
-      settings().solidColor = false;
-      container.redraw();
-      scene.render(container);
-    }
-  }
-}
-
-TEST_P(RedrawOfOddData, SurvivesATableOfOneRow)
-{
-  container.setPlotData(tableOf({{"a", {1}}, {"b", {2}}, {"c", {3}}}));
-  setStyle(GetParam());
-  container.redraw();
-  scene.render(container);
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryStyle, RedrawOfOddData, ::testing::Range(0, 11));
 
 TEST_F(Redraw, LeavesTheChartOfSobolResultsBehind)
 {

@@ -1,9 +1,6 @@
 #include "external/PlotMetaData.h"
-#include "external/SobolPostProcessResult.h"
 #include "plot/PlotContainer.h"
-#include "plot/PlotState.h"
-#include "plot/SobolTables.h"
-#include "support/PlotScene.h"
+#include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
 #include "support/SampleTables.h"
 #include "support/VtkErrors.h"
@@ -11,206 +8,29 @@
 #include <vtkAxis.h>
 #include <vtkChartLegend.h>
 #include <vtkColorSeries.h>
-#include <vtkFloatArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkPlotBar.h>
 #include <vtkPlotStacked.h>
-#include <vtkSelection.h>
-#include <vtkSelectionNode.h>
 #include <vtkTextProperty.h>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 
+#include "SobolFixture.h"
+
 using SampleRuns::valuesOf;
-using Talmesh::plot::SobolIndex;
 
 namespace
 {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
-/// Value of an index that names all of its subscripts; exact in single precision.
-double indexValue(std::size_t output, std::size_t time, std::size_t parameter)
+class SobolChart : public SobolFixture
 {
-  return static_cast<double>(output) / 8.0 + static_cast<double>(time) / 64.0 +
-         static_cast<double>(parameter) / 512.0;
-}
-
-std::shared_ptr<SobolPostProcessResult::Indices> makeIndices(std::size_t outputs, double offset)
-{
-  auto indices = std::make_shared<SobolPostProcessResult::Indices>();
-  for (std::size_t o = 0; o < outputs; ++o)
-  {
-    indices->emplace_back(3, std::vector<double>(2));
-    for (std::size_t t = 0; t < 3; ++t)
-    {
-      for (std::size_t p = 0; p < 2; ++p)
-        (*indices)[o][t][p] = indexValue(o, t, p) + offset;
-    }
-  }
-  return indices;
-}
-
-/// Two parameters, three times, one output of every kind and a second molecule, which is last.
-SobolPostProcessResult everyKind()
-{
-  SobolPostProcessResult result;
-  result.parameterValues = {0.1, 0.2};
-  result.parameterNames = {"k_on", "k_off"};
-  result.outputs = {{Talmesh::Complex, "C"},
-                    {Talmesh::Molecule, "M"},
-                    {Talmesh::ComplexWithMolecule, "CM"},
-                    {Talmesh::Pattern, "A_bound"},
-                    {Talmesh::TimeOrValue, "T"},
-                    {Talmesh::Parameter, "P"},
-                    {Talmesh::UndefinedType, "U"},
-                    {Talmesh::Molecule, "last"}};
-  result.timePoints = std::make_shared<std::vector<double>>(std::vector<double>{0.0, 12.5, 20.0});
-  result.firstOrder = makeIndices(result.outputs.size(), 0.0);
-  result.total = makeIndices(result.outputs.size(), 2.0);
-  return result;
-}
-
-std::vector<std::string> columnNames(vtkTable* table)
-{
-  std::vector<std::string> names;
-  for (int c = 0; c < table->GetNumberOfColumns(); ++c)
-    names.emplace_back(table->GetColumnName(c));
-  return names;
-}
-
-std::vector<std::string> stringsOf(vtkAbstractArray* column)
-{
-  std::vector<std::string> strings;
-  auto* array = vtkStringArray::SafeDownCast(column);
-  for (vtkIdType i = 0; array && i < array->GetNumberOfValues(); ++i)
-    strings.push_back(array->GetValue(i));
-  return strings;
-}
-
-class Sobol : public ::testing::Test
-{
-protected:
-  Sobol() { container.setScene(scene.scene()); }
-
-  void showOverTime(bool total, unsigned long output)
-  {
-    container.getMetaData()->setPlotStyle(reservedStyle2);
-    container.setSobolPostprocessResult(&result, false, total, 0, output);
-  }
-
-  void showAtTime(bool total, unsigned long time)
-  {
-    container.getMetaData()->setPlotStyle(reservedStyle1);
-    container.setSobolPostprocessResult(&result, true, total, time, 0);
-  }
-
-  vtkTable* table() { return container.getTable(); }
-  vtkChartXY* chart() { return container.getChartXY(); }
-  vtkAxis* bottom() { return chart()->GetAxis(vtkAxis::BOTTOM); }
-  vtkAxis* left() { return chart()->GetAxis(vtkAxis::LEFT); }
-  std::vector<double> column(const std::string& name) { return valuesOf(table(), name); }
-
-  PlotScene scene;
-  PlotContainer container{nullptr};
-  SobolPostProcessResult result = everyKind();
 };
 
-TEST_F(Sobol, TableOverTimeHoldsTheParametersThenTheTime)
-{
-  showOverTime(false, 3);
-  EXPECT_EQ(columnNames(table()), (std::vector<std::string>{"k_on", "k_off", "Time"}));
-  for (int c = 0; c < 3; ++c)
-    EXPECT_NE(vtkFloatArray::SafeDownCast(table()->GetColumn(c)), nullptr);
-  EXPECT_EQ(column("k_on"), (std::vector<double>{0.375, 0.390625, 0.40625}));
-  EXPECT_EQ(column("k_off"), (std::vector<double>{0.376953125, 0.392578125, 0.408203125}));
-  EXPECT_EQ(column("Time"), (std::vector<double>{0.0, 12.5, 20.0}));
-}
-
-TEST_F(Sobol, TableOverTimeTakesTheTotalIndices)
-{
-  showOverTime(true, 0);
-  EXPECT_EQ(column("k_on"), (std::vector<double>{2.0, 2.015625, 2.03125}));
-}
-
-TEST_F(Sobol, TableAtATimeHoldsTheEligibleOutputs)
-{
-  showAtTime(false, 1);
-  EXPECT_EQ(columnNames(table()), (std::vector<std::string>{"k_on", "k_off", "Name"}));
-  EXPECT_NE(vtkFloatArray::SafeDownCast(table()->GetColumn(0)), nullptr);
-  EXPECT_EQ(
-      stringsOf(table()->GetColumn(2)),
-      (std::vector<std::string>{"Molecule: M", "Complex With Molecule: CM", "Pattern: A_bound"}));
-  EXPECT_EQ(column("k_on"), (std::vector<double>{0.140625, 0.265625, 0.390625}));
-  EXPECT_EQ(column("k_off"), (std::vector<double>{0.142578125, 0.267578125, 0.392578125}));
-}
-
-TEST_F(Sobol, TableAtATimeTakesTheTotalIndices)
-{
-  showAtTime(true, 0);
-  EXPECT_EQ(column("k_on"), (std::vector<double>{2.125, 2.25, 2.375}));
-}
-
-TEST_F(Sobol, NegativeIndicesBecomeZeroAndNanStays)
-{
-  (*result.firstOrder)[1][0] = {-0.25, nan};
-  showOverTime(false, 1);
-  EXPECT_EQ(column("k_on")[0], 0.0);
-  EXPECT_TRUE(std::isnan(column("k_off")[0]));
-  showAtTime(false, 0);
-  EXPECT_EQ(column("k_on")[0], 0.0);
-  EXPECT_TRUE(std::isnan(column("k_off")[0]));
-  VtkErrors errors;
-  container.setScene(scene.scene());
-  scene.render(container);
-  EXPECT_EQ(errors.text(), "");
-}
-
-TEST_F(Sobol, KindsThatAreNotSpeciesNeverAppear)
-{
-  for (const Talmesh::DataType kind : {Talmesh::Complex, Talmesh::TimeOrValue, Talmesh::Parameter,
-                                       Talmesh::UndefinedType, static_cast<Talmesh::DataType>(7)})
-  {
-    result.outputs = {{kind, "only"}, {Talmesh::Molecule, "last"}};
-    showAtTime(false, 0);
-    EXPECT_EQ(table()->GetNumberOfRows(), 0) << kind;
-  }
-}
-
-TEST_F(Sobol, TheLastOutputNeverAppears)
-{
-  result.outputs = {{Talmesh::Complex, "C"}, {Talmesh::Pattern, "the only pattern"}};
-  showAtTime(false, 0);
-  EXPECT_EQ(table()->GetNumberOfRows(), 0);
-}
-
-TEST_F(Sobol, OneOutputGivesEmptyColumnsAndNoBars)
-{
-  result.outputs = {{Talmesh::Molecule, "M"}};
-  VtkErrors errors;
-  showAtTime(false, 0);
-  ASSERT_EQ(table()->GetNumberOfColumns(), 3);
-  for (int c = 0; c < 3; ++c)
-    EXPECT_EQ(table()->GetColumn(c)->GetNumberOfTuples(), 0) << c;
-  EXPECT_EQ(bottom()->GetMinimum(), -1.0);
-  EXPECT_EQ(bottom()->GetMaximum(), 1.0);
-  container.setScene(scene.scene());
-  scene.render(container);
-  EXPECT_EQ(errors.text(), "");
-}
-
-TEST_F(Sobol, WithoutOutputsNothingIsShown)
-{
-  result.outputs.clear();
-  showAtTime(true, 0);
-  EXPECT_EQ(table()->GetNumberOfRows(), 0);
-  EXPECT_EQ(container.getMetaData()->title, "Total Sensitivities at t= 0 s");
-}
-
-TEST_F(Sobol, TitlesNameIndexOutputAndTime)
+TEST_F(SobolChart, TitlesNameIndexOutputAndTime)
 {
   showOverTime(true, 3);
   EXPECT_EQ(container.getMetaData()->title, "Total Sensitivity of Pattern: A_bound");
@@ -223,7 +43,7 @@ TEST_F(Sobol, TitlesNameIndexOutputAndTime)
   EXPECT_EQ(chart()->GetTitle(), "Total Sensitivities at t= 12.5 s");
 }
 
-TEST_F(Sobol, TimeInTheTitleHasSixSignificantDigits)
+TEST_F(SobolChart, TimeInTheTitleHasSixSignificantDigits)
 {
   *result.timePoints = {1234567.0, 0.1 + 0.2, 1e-7};
   showAtTime(false, 0);
@@ -234,7 +54,7 @@ TEST_F(Sobol, TimeInTheTitleHasSixSignificantDigits)
   EXPECT_EQ(chart()->GetTitle(), "Sensitivities at t= 1e-07 s");
 }
 
-TEST_F(Sobol, BandsAreStackedOverTime)
+TEST_F(SobolChart, BandsAreStackedOverTime)
 {
   showOverTime(false, 1);
   ASSERT_EQ(chart()->GetNumberOfPlots(), 1);
@@ -250,7 +70,7 @@ TEST_F(Sobol, BandsAreStackedOverTime)
   EXPECT_FALSE(chart()->GetLegend()->GetInline());
 }
 
-TEST_F(Sobol, BarsAreStackedPerOutput)
+TEST_F(SobolChart, BarsAreStackedPerOutput)
 {
   showAtTime(false, 1);
   ASSERT_EQ(chart()->GetNumberOfPlots(), 1);
@@ -264,7 +84,7 @@ TEST_F(Sobol, BarsAreStackedPerOutput)
   EXPECT_FALSE(chart()->GetLegend()->GetInline());
 }
 
-TEST_F(Sobol, BarsAreLabelledByTheNames)
+TEST_F(SobolChart, BarsAreLabelledByTheNames)
 {
   showAtTime(false, 0);
   EXPECT_EQ(bottom()->GetMinimum(), -1.0);
@@ -278,7 +98,7 @@ TEST_F(Sobol, BarsAreLabelledByTheNames)
   EXPECT_EQ(bottom()->GetLabelProperties()->GetVerticalJustification(), VTK_TEXT_CENTERED);
 }
 
-TEST_F(Sobol, LongNamesAreWrittenSmaller)
+TEST_F(SobolChart, LongNamesAreWrittenSmaller)
 {
   showAtTime(false, 0);
   EXPECT_EQ(bottom()->GetLabelProperties()->GetFontSize(), 12);
@@ -290,7 +110,7 @@ TEST_F(Sobol, LongNamesAreWrittenSmaller)
   EXPECT_EQ(bottom()->GetLabelProperties()->GetFontSize(), 8);
 }
 
-class SobolLeftAxis : public Sobol, public ::testing::WithParamInterface<bool>
+class SobolLeftAxis : public SobolFixture, public ::testing::WithParamInterface<bool>
 {
 protected:
   void show(bool total) { GetParam() ? showAtTime(total, 0) : showOverTime(total, 0); }
@@ -319,15 +139,14 @@ TEST_P(SobolLeftAxis, StaysFixedWhenPainted)
 {
   show(true);
   const double maximum = left()->GetMaximum();
-  container.setScene(scene.scene());
-  scene.render(container);
+  render();
   EXPECT_EQ(left()->GetMinimum(), 0.0);
   EXPECT_EQ(left()->GetMaximum(), maximum);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothViews, SobolLeftAxis, ::testing::Bool());
 
-TEST_F(Sobol, OtherStylesGetAnEmptyChartWithTheTitle)
+TEST_F(SobolChart, OtherStylesGetAnEmptyChartWithTheTitle)
 {
   for (const int style : {0, 3, 4, 7, 9, 10})
   {
@@ -339,7 +158,7 @@ TEST_F(Sobol, OtherStylesGetAnEmptyChartWithTheTitle)
   }
 }
 
-TEST_F(Sobol, TheChartIsNewCurrentAndWithoutScene)
+TEST_F(SobolChart, TheChartIsNewCurrentAndWithoutScene)
 {
   const vtkSmartPointer<vtkChartXY> before = chart();
   showOverTime(false, 0);
@@ -348,7 +167,7 @@ TEST_F(Sobol, TheChartIsNewCurrentAndWithoutScene)
   EXPECT_EQ(chart()->GetScene(), nullptr);
 }
 
-TEST_F(Sobol, SettingsSpeakAgainAfterwards)
+TEST_F(SobolChart, SettingsSpeakAgainAfterwards)
 {
   container.getMetaData()->blockSignals(true);
   showOverTime(false, 0);
@@ -358,7 +177,7 @@ TEST_F(Sobol, SettingsSpeakAgainAfterwards)
   EXPECT_FALSE(container.getMetaData()->signalsBlocked());
 }
 
-TEST_F(Sobol, TheChartCanBeBuiltAgainForAnotherStyle)
+TEST_F(SobolChart, TheChartCanBeBuiltAgainForAnotherStyle)
 {
   showOverTime(false, 0);
   container.getMetaData()->blockSignals(true);
@@ -372,7 +191,7 @@ TEST_F(Sobol, TheChartCanBeBuiltAgainForAnotherStyle)
   EXPECT_EQ(left()->GetTitle(), "Total Sensitivity");
 }
 
-TEST_F(Sobol, RedrawOfAReservedStyleKeepsThePlots)
+TEST_F(SobolChart, RedrawOfAReservedStyleKeepsThePlots)
 {
   showOverTime(false, 1);
   container.setScene(scene.scene());
@@ -381,16 +200,7 @@ TEST_F(Sobol, RedrawOfAReservedStyleKeepsThePlots)
   EXPECT_EQ(chart()->GetNumberOfPlots(), 1);
 }
 
-TEST_F(Sobol, CountsComeFromTheTableAsBuilt)
-{
-  result.parameterNames = {"k", "k"};
-  showOverTime(false, 0);
-  EXPECT_EQ(columnNames(table()), (std::vector<std::string>{"k", "Time"}));
-  EXPECT_EQ(column("k")[0], indexValue(0, 0, 1));
-  EXPECT_EQ(stringsOf(chart()->GetPlot(0)->GetLabels()), (std::vector<std::string>{"k"}));
-}
-
-TEST_F(Sobol, MissingAndTextSeriesAreLeftOut)
+TEST_F(SobolChart, MissingAndTextSeriesAreLeftOut)
 {
   container.getMetaData()->blockSignals(true);
   for (const plotStyles style : {reservedStyle1, reservedStyle2})
@@ -404,13 +214,12 @@ TEST_F(Sobol, MissingAndTextSeriesAreLeftOut)
     container.getMetaData()->setPlotStyle(style);
     container.setupStackedSobol(false);
     EXPECT_EQ(stringsOf(chart()->GetPlot(0)->GetLabels()), (std::vector<std::string>{"a"}));
-    container.setScene(scene.scene());
-    scene.render(container);
+    render();
     EXPECT_EQ(errors.text(), "");
   }
 }
 
-TEST_F(Sobol, ATextColumnMayComeFirst)
+TEST_F(SobolChart, ATextColumnMayComeFirst)
 {
   auto mixed = vtkSmartPointer<vtkTable>::New();
   vtkNew<vtkStringArray> text;
@@ -425,7 +234,7 @@ TEST_F(Sobol, ATextColumnMayComeFirst)
   EXPECT_EQ(stringsOf(chart()->GetPlot(0)->GetLabels()), (std::vector<std::string>{"a"}));
 }
 
-TEST_F(Sobol, NoParametersOrNoTimesPaintWithoutComplaint)
+TEST_F(SobolChart, NoParametersOrNoTimesPaintWithoutComplaint)
 {
   VtkErrors errors;
   for (const bool atTime : {false, true})
@@ -433,80 +242,41 @@ TEST_F(Sobol, NoParametersOrNoTimesPaintWithoutComplaint)
     result = everyKind();
     result.parameterValues.clear();
     atTime ? showAtTime(false, 0) : showOverTime(false, 0);
-    container.setScene(scene.scene());
-    scene.render(container);
+    render();
   }
   result = everyKind();
   result.timePoints->clear();
   showOverTime(false, 0);
-  container.setScene(scene.scene());
-  scene.render(container);
+  render();
   EXPECT_EQ(table()->GetNumberOfRows(), 0);
   EXPECT_EQ(errors.text(), "");
 }
 
-TEST_F(Sobol, UnorderedAndUnknownTimesPaintWithoutComplaint)
+TEST_F(SobolChart, UnorderedAndUnknownTimesPaintWithoutComplaint)
 {
   VtkErrors errors;
   for (const double time : {nan, std::numeric_limits<double>::infinity(), -1.0})
   {
     *result.timePoints = {5.0, time, 2.0};
     showOverTime(false, 1);
-    container.setScene(scene.scene());
-    scene.render(container);
+    render();
   }
   EXPECT_EQ(errors.text(), "");
 }
 
-TEST_F(Sobol, WhatTheResultLacksIsNan)
-{
-  result.total = nullptr;
-  result.parameterNames.pop_back();
-  showOverTime(true, 1);
-  EXPECT_TRUE(std::isnan(column("k_on")[0]));
-  showOverTime(false, 99);
-  EXPECT_TRUE(std::isnan(column("k_on")[0]));
-  showAtTime(false, 99);
-  EXPECT_TRUE(std::isnan(column("k_on")[0]));
-  result.timePoints = nullptr;
-  showOverTime(false, 1);
-  EXPECT_EQ(table()->GetNumberOfRows(), 0);
-  container.setSobolPostprocessResult(nullptr, false, false, 0, 0);
-  EXPECT_EQ(chart()->GetTitle(), "Sensitivity of Molecule: M");
-}
-
-TEST_F(Sobol, RowsSelectedInAnEarlierLongerTableAreForgotten)
+TEST_F(SobolChart, RowsSelectedInAnEarlierLongerTableAreForgotten)
 {
   container.setPlotData(tableOf({{"a", std::vector<double>(100)}}));
-  vtkNew<vtkIdTypeArray> rows;
-  rows->InsertNextValue(1);
-  rows->InsertNextValue(99);
-  vtkNew<vtkSelectionNode> node;
-  node->SetContentType(vtkSelectionNode::INDICES);
-  node->SetFieldType(vtkSelectionNode::ROW);
-  node->SetSelectionList(rows);
-  vtkNew<vtkSelection> selection;
-  selection->AddNode(node);
-  container.getAnnotationLink()->SetCurrentSelection(selection);
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({1, 99}));
   showAtTime(false, 0);
-  container.setScene(scene.scene());
-  scene.render(container);
+  render();
   EXPECT_EQ(valuesOf(chart()->GetPlot(0)->GetSelection()), (std::vector<double>{1.0}));
 }
 
-TEST(VtkErrorsOfTheTests, AreCollected)
-{
-  VtkErrors errors;
-  const auto table = tableOf({{"a", {1}}});
-  table->AddColumn(Talmesh::plot::makeColumn("longer", {1, 2}));
-  EXPECT_NE(errors.text().find("longer"), std::string::npos);
-}
-
-TEST_F(Sobol, BarsAndLabelsAreSeen)
+TEST_F(SobolChart, BarsAndLabelsAreSeen)
 {
   showAtTime(false, 1);
-  container.setScene(scene.scene());
-  scene.render(container);
+  render();
   EXPECT_GT(scene.paintedPixels(), 5000);
 }
 

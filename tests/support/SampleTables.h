@@ -9,6 +9,7 @@
 #include <vtkStringArray.h>
 #include <vtkTable.h>
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -40,6 +41,33 @@ inline void addStringColumn(vtkTable* table, const std::string& name)
   for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
     column->InsertNextValue("text");
   table->AddColumn(column);
+}
+
+inline std::vector<std::string> columnNames(vtkTable* table)
+{
+  std::vector<std::string> names;
+  for (int c = 0; c < table->GetNumberOfColumns(); ++c)
+    names.push_back(Talmesh::plot::columnName(table, c));
+  return names;
+}
+
+/// The values of a column of text; empty for any other and for null.
+inline std::vector<std::string> stringsOf(vtkAbstractArray* column)
+{
+  std::vector<std::string> strings;
+  auto* array = vtkStringArray::SafeDownCast(column);
+  for (vtkIdType i = 0; array && i < array->GetNumberOfValues(); ++i)
+    strings.push_back(array->GetValue(i));
+  return strings;
+}
+
+/// Runs of `stride` rows: a column "Time" in steps of 0.5 and a column "value" of the values.
+inline vtkSmartPointer<vtkTable> runsOfValues(const std::vector<double>& values, int stride)
+{
+  std::vector<double> time;
+  for (std::size_t row = 0; row < values.size(); ++row)
+    time.push_back(0.5 * static_cast<double>(row % static_cast<std::size_t>(stride)));
+  return tableOf({{"Time", time}, {"value", values}});
 }
 
 #endif

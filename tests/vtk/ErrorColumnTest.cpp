@@ -139,7 +139,7 @@ TEST_F(ErrorPoints, LeavesTheColumnToTheTableOverAHundredItems)
   setTable({10, 20}, {1, 2});
   for (int redraw = 0; redraw < 100; ++redraw)
   {
-    const auto points = ExposedErrorPoints::create();
+    const auto points = makeExposed<ExposedErrorPoints>();
     points->SetInputData(table, "x", "y");
     points->SelectErrorArray("error");
     points->Update();

@@ -15,13 +15,6 @@
 class ExposedErrorPoints : public Exposed<vtkPlotErrorPoints>
 {
 public:
-  static vtkSmartPointer<ExposedErrorPoints> create()
-  {
-    auto* item = new ExposedErrorPoints;
-    item->InitializeObjectBase();
-    return vtkSmartPointer<ExposedErrorPoints>::Take(item);
-  }
-
   // Donates the reference that the base destructor releases.
   ~ExposedErrorPoints() override
   {
@@ -55,7 +48,7 @@ protected:
     return found;
   }
 
-  vtkSmartPointer<ExposedErrorPoints> item = ExposedErrorPoints::create();
+  vtkSmartPointer<ExposedErrorPoints> item = makeExposed<ExposedErrorPoints>();
   vtkSmartPointer<vtkTable> table;
   RecordingPainter recording;
   CapturedVtkOutput vtkOutput;

@@ -20,13 +20,6 @@ inline const char* const Remainder = "vtkRemainderSelection";
 class ExposedLineSet : public Exposed<vtkPlotLineSet>
 {
 public:
-  static vtkSmartPointer<ExposedLineSet> create()
-  {
-    auto* item = new ExposedLineSet;
-    item->InitializeObjectBase();
-    return vtkSmartPointer<ExposedLineSet>::Take(item);
-  }
-
   using vtkPlotLineSet::NumberOfRemainderRows;
   using vtkPlotLineSet::RemainderSelection;
   using vtkPlotLineSet::SelectedLineIds;
@@ -79,7 +72,7 @@ protected:
 
   void TearDown() override { EXPECT_EQ(vtkOutput.text(), ""); }
 
-  vtkSmartPointer<ExposedLineSet> item = ExposedLineSet::create();
+  vtkSmartPointer<ExposedLineSet> item = makeExposed<ExposedLineSet>();
   vtkSmartPointer<vtkTable> table;
   RecordingPainter recording;
   CapturedVtkOutput vtkOutput;

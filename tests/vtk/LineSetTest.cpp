@@ -144,11 +144,5 @@ TEST_F(LineSet, PaintsALineAndAMarkerIntoTheLegend)
 
 TEST_F(LineSet, KeepsToTheConventionsOfVtk)
 {
-  vtkNew<vtkPlotLineSet> lineSet;
-  EXPECT_STREQ(lineSet->GetClassName(), "vtkPlotLineSet");
-  EXPECT_TRUE(lineSet->IsA("vtkPlotPoints"));
-  const auto other = vtkSmartPointer<vtkPlotLineSet>::Take(lineSet->NewInstance());
-  EXPECT_STREQ(other->GetClassName(), "vtkPlotLineSet");
-  vtkNew<vtkPlotPoints> base;
-  EXPECT_EQ(printedNames(lineSet), printedNames(base));
+  expectConventionsOfVtk<vtkPlotLineSet>("vtkPlotLineSet");
 }

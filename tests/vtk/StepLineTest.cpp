@@ -20,13 +20,6 @@ const double Infinity = std::numeric_limits<double>::infinity();
 class ExposedStepLine : public Exposed<vtkPlotStepLine>
 {
 public:
-  static vtkSmartPointer<ExposedStepLine> create()
-  {
-    auto* item = new ExposedStepLine;
-    item->InitializeObjectBase();
-    return vtkSmartPointer<ExposedStepLine>::Take(item);
-  }
-
   using vtkPlotStepLine::StepPoints;
 };
 
@@ -46,7 +39,7 @@ protected:
     return lines.size() == 1 ? lines[0].points : Points();
   }
 
-  vtkSmartPointer<ExposedStepLine> item = ExposedStepLine::create();
+  vtkSmartPointer<ExposedStepLine> item = makeExposed<ExposedStepLine>();
   vtkSmartPointer<vtkTable> table;
   RecordingPainter recording;
   CapturedVtkOutput vtkOutput;
@@ -240,11 +233,5 @@ TEST_F(StepLine, PaintsALineAndAMarkerIntoTheLegendWhateverTheIndex)
 
 TEST_F(StepLine, KeepsToTheConventionsOfVtk)
 {
-  vtkNew<vtkPlotStepLine> line;
-  EXPECT_STREQ(line->GetClassName(), "vtkPlotStepLine");
-  EXPECT_TRUE(line->IsA("vtkPlotPoints"));
-  const auto other = vtkSmartPointer<vtkPlotStepLine>::Take(line->NewInstance());
-  EXPECT_STREQ(other->GetClassName(), "vtkPlotStepLine");
-  vtkNew<vtkPlotPoints> base;
-  EXPECT_EQ(printedNames(line), printedNames(base));
+  expectConventionsOfVtk<vtkPlotStepLine>("vtkPlotStepLine");
 }

@@ -1,14 +1,19 @@
 #ifndef VtkTestSupport_h
 #define VtkTestSupport_h
 
+#include "support/ArrayColumns.h"
 #include "support/RecordingDevice.h"
 
 #include <vtkCommand.h>
 #include <vtkIdTypeArray.h>
+#include <vtkNew.h>
 #include <vtkObject.h>
+#include <vtkPlotPoints.h>
 #include <vtkSmartPointer.h>
 #include <vtkStringOutputWindow.h>
 #include <vtkTable.h>
+
+#include <gtest/gtest.h>
 
 #include <limits>
 #include <string>
@@ -56,18 +61,20 @@ private:
   vtkSmartPointer<vtkOutputWindow> previous;
 };
 
+/// A new object of a class made for tests, which has no New() of its own.
+template <class Item>
+vtkSmartPointer<Item> makeExposed()
+{
+  auto* item = new Item;
+  item->InitializeObjectBase();
+  return vtkSmartPointer<Item>::Take(item);
+}
+
 /// An item type with its protected members in reach of a test.
 template <class Item>
 class Exposed : public Item
 {
 public:
-  static vtkSmartPointer<Exposed> create()
-  {
-    auto* item = new Exposed;
-    item->InitializeObjectBase();
-    return vtkSmartPointer<Exposed>::Take(item);
-  }
-
   using Item::BadPoints;
   using Item::Points;
   using Item::SelectedPoints;
@@ -77,16 +84,6 @@ public:
 /// A table of double columns.
 using NamedColumn = std::pair<const char*, std::vector<double>>;
 vtkSmartPointer<vtkTable> makeTable(const std::vector<NamedColumn>& columns);
-
-template <class Array>
-vtkSmartPointer<Array> makeColumn(const char* name, const std::vector<double>& values)
-{
-  auto column = vtkSmartPointer<Array>::New();
-  column->SetName(name);
-  for (const double value : values)
-    column->InsertNextTuple1(value);
-  return column;
-}
 
 vtkSmartPointer<vtkIdTypeArray> makeIds(const std::vector<vtkIdType>& ids);
 
@@ -98,6 +95,19 @@ std::vector<double> numbers(vtkTable* table, const char* name);
 
 /// The names of the properties that an object prints, in order.
 std::vector<std::string> printedNames(vtkObject* object);
+
+/// Expects of an item what VTK asks of its subclasses: its name, making others of its kind, and
+/// that it prints no properties beyond those of vtkPlotPoints.
+template <class Item>
+void expectConventionsOfVtk(const char* className)
+{
+  vtkNew<Item> item;
+  EXPECT_STREQ(item->GetClassName(), className);
+  EXPECT_TRUE(item->IsA("vtkPlotPoints"));
+  const auto other = vtkSmartPointer<Item>::Take(item->NewInstance());
+  EXPECT_STREQ(other->GetClassName(), className);
+  EXPECT_EQ(printedNames(item), printedNames(vtkNew<vtkPlotPoints>()));
+}
 
 using Kind = RecordingDevice::Kind;
 using Point = RecordingDevice::Point;

@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/CapturedOutput.h"
+#include "support/Pictures.h"
 #include "support/SampleTables.h"
 #include "widgets/WidgetSupport.h"
 
@@ -31,28 +32,6 @@ vtkAbstractContextItem* shownItem(const VtkPlotWidget& widget)
   return scene->GetNumberOfItems() == 1 ? scene->GetItem(0) : nullptr;
 }
 
-/// Pixels of the widget's picture that are not white.
-int paintedPixels(VtkPlotWidget& widget)
-{
-  const QImage picture = widget.grabFramebuffer();
-  int painted = 0;
-  for (int y = 0; y < picture.height(); ++y)
-  {
-    for (int x = 0; x < picture.width(); ++x)
-    {
-      if (picture.pixelColor(x, y) != QColor(Qt::white))
-        ++painted;
-    }
-  }
-  return painted;
-}
-
-QByteArray contentOf(const QString& fileName)
-{
-  QFile file(fileName);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 TEST(VtkPlotWidget, ShowsTheExamplePlotFromTheStart)
 {
   VtkPlotWidget widget;
@@ -64,7 +43,7 @@ TEST(VtkPlotWidget, ShowsTheExamplePlotFromTheStart)
   widget.resize(400, 300);
   widget.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
-  EXPECT_GT(paintedPixels(widget), 1000);
+  EXPECT_GT(paintedPixels(widget.grabFramebuffer()), 1000);
 }
 
 TEST(VtkPlotWidget, OffersExactlyItsTwoSlots)
@@ -168,7 +147,7 @@ TEST_F(PdfExport, WritesTheShownWidget)
   EXPECT_FALSE(QFile::exists(path("a.pdf")));
   widget.printPlot(path("noSuffix"));
   EXPECT_TRUE(contentOf(path("noSuffix.pdf")).startsWith("%PDF"));
-  EXPECT_GT(paintedPixels(widget), 1000) << "the widget still shows its picture";
+  EXPECT_GT(paintedPixels(widget.grabFramebuffer()), 1000) << "the widget still shows its picture";
 }
 
 /// Bytes of the picture's PDF beyond its background, an uncompressed image of 3 bytes a pixel.

@@ -1,0 +1,104 @@
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "support/PlotFixture.h"
+#include "support/SampleTables.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace
+{
+
+class RedrawOfOddData : public UndrawnPlotFixture, public ::testing::WithParamInterface<int>
+{
+};
+
+TEST_P(RedrawOfOddData, SurvivesColumnsThatDoNotExist)
+{
+  for (const int index : {-5, -1, 4, 1000})
+  {
+    settings().xColumns = {index};
+    settings().yColumns = {index, index, index};
+    settings().zColumns = {index};
+    settings().colorColumn = index;
+    settings().solidColor = false;
+    setStyle(GetParam());
+    container.redraw();
+    scene.render(container);
+  }
+  settings().xColumns.clear();
+  settings().yColumns.clear();
+  settings().zColumns.clear();
+  container.redraw();
+  scene.render(container);
+}
+
+TEST_P(RedrawOfOddData, SurvivesTextAndUnnamedColumns)
+{
+  vtkSmartPointer<vtkTable> table = plainTable();
+  addStringColumn(table, "words");
+  table->AddColumn(Talmesh::plot::makeColumn("nameless", {1, 2, 3, 4, 5}));
+  table->GetColumn(5)->SetName(nullptr);
+  container.setPlotData(table);
+  setStyle(GetParam());
+  for (const int index : {4, 5})
+  {
+    settings().xColumns = {index};
+    settings().yColumns = {index, 0, index};
+    settings().zColumns = {index};
+    settings().colorColumn = index;
+    settings().solidColor = false;
+    container.redraw();
+    scene.render(container);
+  }
+}
+
+TEST_P(RedrawOfOddData, SurvivesAnEmptyTable)
+{
+  setStyle(GetParam());
+  container.redraw();
+  scene.render(container);
+  container.setPlotData(vtkSmartPointer<vtkTable>::New());
+  container.redraw();
+  scene.render(container);
+  container.setPlotData(tableOf({{"a", {}}, {"b", {}}, {"c", {}}}));
+  container.redraw();
+  scene.render(container);
+}
+
+TEST_P(RedrawOfOddData, SurvivesValuesThatAreNotFinite)
+{
+  const double inf = std::numeric_limits<double>::infinity();
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  container.setPlotData(tableOf({{"a", {0, inf, 2, -inf, 4}},
+                                 {"b", {nan, nan, nan, nan, nan}},
+                                 {"c", {1, nan, 3, 4, 1e300}},
+                                 {"d", {7, 7, 7, 7, 7}}}));
+  setStyle(GetParam());
+  for (int x = 0; x < 4; ++x)
+  {
+    for (int y = 0; y < 4; ++y)
+    {
+      settings().xColumns = {x};
+      settings().yColumns = {y, 0, 3};
+      settings().zColumns = {3};
+      settings().colorColumn = x;
+      settings().solidColor = false;
+      container.redraw();
+      scene.render(container);
+    }
+  }
+}
+
+TEST_P(RedrawOfOddData, SurvivesATableOfOneRow)
+{
+  container.setPlotData(tableOf({{"a", {1}}, {"b", {2}}, {"c", {3}}}));
+  setStyle(GetParam());
+  container.redraw();
+  scene.render(container);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryStyle, RedrawOfOddData, ::testing::Range(0, 11));
+
+} // namespace

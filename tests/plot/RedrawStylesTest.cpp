@@ -1,0 +1,166 @@
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/PlotState.h"
+#include "support/PlotFixture.h"
+
+#include <vtkAxis.h>
+#include <vtkPlotParallelCoordinates.h>
+#include <vtkTextProperty.h>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class RedrawStyles : public UndrawnPlotFixture
+{
+};
+
+TEST_F(RedrawStyles, ShowsAllColumnsInTheScatterPlotMatrix)
+{
+  setStyle(3);
+  EXPECT_EQ(container.getChartXY(), nullptr);
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  ASSERT_NE(matrix, nullptr);
+  EXPECT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 4);
+  EXPECT_EQ(matrix->GetSize().GetX(), 4);
+  EXPECT_EQ(matrix->GetGutter(), vtkVector2f(28, 28));
+  scene.render(container);
+  EXPECT_GT(scene.paintedPixels(), 1000);
+}
+
+TEST_F(RedrawStyles, SwapsTheGuttersOfTheScatterPlotMatrix)
+{
+  container.setHorizontalGutter(11);
+  container.setVerticalGutter(22);
+  setStyle(3);
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  EXPECT_EQ(matrix->GetGutter(), vtkVector2f(22, 11));
+  int borders[4];
+  matrix->GetBorders(borders);
+  EXPECT_EQ(borders[vtkAxis::LEFT], 80);
+  EXPECT_EQ(borders[vtkAxis::BOTTOM], 40);
+  EXPECT_EQ(borders[vtkAxis::RIGHT], 20);
+  EXPECT_EQ(borders[vtkAxis::TOP], 20);
+}
+
+TEST_F(RedrawStyles, LimitsTheScatterPlotMatrixToTheChosenColumns)
+{
+  settings().xColumns = {3};
+  settings().yColumns = {1};
+  settings().parameterColumns = {2};
+  settings().setLimitColumVisibility(true);
+  setStyle(3);
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  ASSERT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 3);
+  EXPECT_EQ(matrix->GetVisibleColumns()->GetValue(0), "d");
+  EXPECT_EQ(matrix->GetVisibleColumns()->GetValue(1), "b");
+  EXPECT_EQ(matrix->GetVisibleColumns()->GetValue(2), "c");
+  const vtkVector2i active = matrix->GetActivePlot();
+  EXPECT_EQ(matrix->GetColumnName(active.GetX()), "d");
+  EXPECT_EQ(matrix->GetRowName(active.GetY()), "b");
+  scene.render(container);
+
+  settings().setLimitColumVisibility(false);
+  EXPECT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 4);
+  EXPECT_EQ(matrix->GetSize().GetX(), 4);
+  scene.render(container);
+}
+
+TEST_F(RedrawStyles, ActivatesNoPairOfOneColumn)
+{
+  settings().xColumns = {1};
+  settings().yColumns = {1};
+  settings().setLimitColumVisibility(true);
+  setStyle(3);
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  EXPECT_EQ(matrix->GetVisibleColumns()->GetNumberOfValues(), 1);
+  scene.render(container);
+}
+
+TEST_F(RedrawStyles, DrawsPointsInSpace)
+{
+  settings().zColumns = {2};
+  setStyle(4);
+  EXPECT_EQ(container.getChartXY(), nullptr);
+  EXPECT_EQ(container.getItem(), container.state().chartXYZ);
+  scene.render(container);
+  EXPECT_GT(scene.paintedPixels(), 500);
+}
+
+TEST_F(RedrawStyles, ShowsAllAxesForTwoYColumnsAndOnlyThreeForThree)
+{
+  settings().yColumns = {1, 2};
+  setStyle(9);
+  vtkStringArray* shown = container.state().parallelCoordinates->GetVisibleColumns();
+  EXPECT_EQ(shown->GetNumberOfValues(), 4);
+  settings().yColumns = {3, 1, 2};
+  container.redraw();
+  ASSERT_EQ(shown->GetNumberOfValues(), 3);
+  EXPECT_EQ(shown->GetValue(0), "d");
+  EXPECT_EQ(shown->GetValue(2), "c");
+  EXPECT_EQ(container.state().parallelCoordinates->GetNumberOfAxes(), 3);
+  for (int i = 0; i < 3; ++i)
+    EXPECT_EQ(
+        container.state().parallelCoordinates->GetAxis(i)->GetLabelProperties()->GetOrientation(),
+        -45.0);
+  scene.render(container);
+  EXPECT_GT(scene.paintedPixels(), 500);
+}
+
+TEST_F(RedrawStyles, ColorsParallelCoordinatesByTheColorColumn)
+{
+  settings().colorColumn = 2;
+  setStyle(9);
+  auto* plot =
+      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0));
+  EXPECT_EQ(plot->GetScalarVisibility(), 1);
+  EXPECT_EQ(plot->GetColorArrayName(), "c");
+  scene.render(container);
+  settings().colorColumn = -1;
+  container.redraw();
+  EXPECT_EQ(
+      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0))
+          ->GetScalarVisibility(),
+      0);
+}
+
+TEST_F(RedrawStyles, SwitchesThroughAllStylesInAnyOrder)
+{
+  for (int from = 0; from <= 11; ++from)
+  {
+    for (int to = 0; to <= 11; ++to)
+    {
+      setStyle(from);
+      container.redraw();
+      scene.render(container);
+      setStyle(to);
+      container.redraw();
+      scene.render(container);
+      ASSERT_NE(container.getItem(), nullptr);
+      EXPECT_EQ(container.getItem()->GetScene(), scene.scene());
+    }
+  }
+}
+
+class ReservedStyles : public UndrawnPlotFixture, public ::testing::WithParamInterface<int>
+{
+};
+
+TEST_P(ReservedStyles, DrawNothingButTheTitle)
+{
+  setStyle(GetParam());
+  container.redraw();
+  ASSERT_NE(container.getChartXY(), nullptr);
+  EXPECT_EQ(container.getItem(), container.getChartXY());
+  EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), 0);
+  EXPECT_EQ(container.getChartXY()->GetTitle(), "Not yet implemented");
+  EXPECT_EQ(settings().title, "Not yet implemented");
+  scene.render(container);
+  EXPECT_GT(scene.paintedPixels(), 100) << "the title must be seen";
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryReservedValue, ReservedStyles,
+                         ::testing::Values(1, 2, 10, 11, 1000, -1));
+
+} // namespace
