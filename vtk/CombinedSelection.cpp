@@ -14,6 +14,7 @@
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
 #include <vtkTable.h>
+#include <vtkVariant.h>
 
 #include <algorithm>
 #include <limits>
@@ -79,6 +80,23 @@ void addUnlistedRows(SelectedRows& rows, vtkIdTypeArray* list, vtkIdType rowCoun
   {
     if (!isListed[static_cast<std::size_t>(row)])
       addRow(rows, row);
+  }
+}
+
+void appendMissingCell(vtkAbstractArray* column)
+{
+  const int type = column->GetDataType();
+  const bool hasNaN = type == VTK_DOUBLE || type == VTK_FLOAT;
+  const double missing = hasNaN ? std::numeric_limits<double>::quiet_NaN() : 0.0;
+  const vtkIdType row = column->GetNumberOfTuples();
+  const int components = column->GetNumberOfComponents();
+  auto* numbers = vtkArrayDownCast<vtkDataArray>(column);
+  for (int component = 0; component < components; ++component)
+  {
+    if (numbers)
+      numbers->InsertComponent(row, component, missing);
+    else
+      column->InsertVariantValue(row * components + component, vtkVariant());
   }
 }
 } // namespace
@@ -204,7 +222,13 @@ void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* 
     vtkAbstractArray* from = source->GetColumn(c);
     vtkAbstractArray* to = target->GetColumn(c);
     for (const vtkIdType row : rows)
-      to->InsertNextTuple(row, from);
+    {
+      // VTK copies tuples unchecked, and the columns of a table may differ in length.
+      if (row < from->GetNumberOfTuples())
+        to->InsertNextTuple(row, from);
+      else
+        appendMissingCell(to);
+    }
   }
 }
 

@@ -81,7 +81,8 @@ std::vector<double> rowTimes(vtkAbstractArray* column, vtkIdType rowCount);
 /// Gives @p target the columns of @p source, without rows.
 void copyColumnStructure(vtkTable* source, vtkTable* target);
 
-/// Appends rows of @p source to @p target, which must have its column structure.
+/// Appends rows of @p source to @p target, which must have its column structure. Where a column is
+/// too short to have the row, the cell is NaN, 0 in a column of whole numbers, or an empty text.
 void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* target);
 
 /// A new one-component column.
