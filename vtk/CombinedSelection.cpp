@@ -1,6 +1,5 @@
 #include "vtk/CombinedSelection.h"
 
-#include <vtkAlgorithm.h>
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
 #include <vtkConvertSelection.h>
@@ -9,7 +8,6 @@
 #include <vtkExecutive.h>
 #include <vtkIdTypeArray.h>
 #include <vtkInformation.h>
-#include <vtkInformationVector.h>
 #include <vtkNew.h>
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
@@ -100,25 +98,6 @@ void appendMissingCell(vtkAbstractArray* column)
   }
 }
 } // namespace
-
-RowFilterPorts::RowFilterPorts(vtkInformationVector** input, vtkInformationVector* output)
-    : table(vtkTable::GetData(input[0]))
-    , selection(vtkSelection::GetData(input[1]))
-    , annotations(vtkAnnotationLayers::GetData(input[2]))
-    , outputs{vtkTable::GetData(output, 0), vtkTable::GetData(output, 1)}
-{
-}
-
-int fillRowFilterPort(int port, vtkInformation* info)
-{
-  const char* const types[] = {"vtkTable", "vtkSelection", "vtkAnnotationLayers"};
-  if (port < 0 || port > 2)
-    return 0;
-  info->Set(vtkAlgorithm::INPUT_REQUIRED_DATA_TYPE(), types[port]);
-  if (port > 0)
-    info->Set(vtkAlgorithm::INPUT_IS_OPTIONAL(), 1);
-  return 1;
-}
 
 bool contributes(vtkAnnotation* annotation)
 {
