@@ -61,7 +61,7 @@ void SelectionController::follow(PlotContainer* followed)
   if (link)
     observerTag = link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
                                     &SelectionController::announceLater);
-  history.follow(link);
+  history.follow(followed);
   history.restart();
 }
 
