@@ -19,6 +19,7 @@
 
 #include <memory>
 #include <set>
+#include <string>
 
 #include "SampleStudies.h"
 
@@ -100,6 +101,13 @@ protected:
     QCoreApplication::processEvents();
   }
 
+  void writeRuns(const char* name, const char* runs)
+  {
+    QFile file(folder.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(R"({"format": "talmesh-runs", "version": 1, "runs": )") + runs + "}");
+  }
+
   Runs runs() { return std::unique_ptr<ParameterSelection>(container().getSelection())->runs; }
 
   QTemporaryDir folder;
@@ -171,6 +179,34 @@ TEST_F(SelectionInWindow, IsSavedAndLoaded)
   EXPECT_EQ(runs(), (Runs{1, 2}));
   EXPECT_NE(selection.load(folder.filePath("missing.json")), "");
   EXPECT_EQ(runs(), (Runs{1, 2}));
+}
+
+TEST_F(SelectionInWindow, SaysWhichLoadedRunsTheTableDoesNotHave)
+{
+  SelectionController& selection = *window.selectionController();
+  const std::string path = folder.filePath("runs.json").toStdString();
+  writeRuns("runs.json", "[2, 0, 7, 1000]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")),
+            path + ": 2 of its 4 runs are not in this table: 7, 1000");
+  EXPECT_EQ(runs(), Runs({0, 2}));
+  writeRuns("runs.json", "[1, 3]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")),
+            path + ": 1 of its 2 runs is not in this table: 3");
+  EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInWindow, StaysWhenNoneOfTheLoadedRunsIsInTheTable)
+{
+  dragAround(1, 1);
+  SelectionController& selection = *window.selectionController();
+  const std::string path = folder.filePath("runs.json").toStdString();
+  writeRuns("runs.json", "[3, 4]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")),
+            path + ": none of its runs is in this table: 3, 4");
+  EXPECT_EQ(runs(), Runs{1});
+  writeRuns("runs.json", "[]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")), "");
+  EXPECT_EQ(runs(), Runs());
 }
 
 TEST_F(SelectionInWindow, SplitsTheRunsForTheStatistics)
