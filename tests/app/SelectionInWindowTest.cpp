@@ -13,7 +13,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QColor>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -101,6 +103,21 @@ protected:
     QCoreApplication::processEvents();
   }
 
+  /// Pixels in the colour in which half-transparent highlights lie on white.
+  int redPixels()
+  {
+    plot().updatePlot(true);
+    const QImage picture = plot().grabFramebuffer();
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+      {
+        const QColor color = picture.pixelColor(x, y);
+        count += color.red() > 200 && color.green() < 160 && color.blue() < 150;
+      }
+    return count;
+  }
+
   void writeRuns(const char* name, const char* runs)
   {
     QFile file(folder.filePath(name));
@@ -140,6 +157,18 @@ TEST_F(SelectionInWindow, IsUndoneAndRedoneFromTheKeyboard)
   EXPECT_EQ(runs(), Runs{});
   press(QKeySequence::Redo);
   EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInWindow, LosesItsHighlightOnUndo)
+{
+  ASSERT_EQ(redPixels(), 0);
+  dragAround(1, 1);
+  const int highlighted = redPixels();
+  EXPECT_GT(highlighted, 100);
+  press(QKeySequence::Undo);
+  EXPECT_EQ(redPixels(), 0);
+  press(QKeySequence::Redo);
+  EXPECT_EQ(redPixels(), highlighted);
 }
 
 TEST_F(SelectionInWindow, IsEverythingOrNothingFromTheKeyboard)
