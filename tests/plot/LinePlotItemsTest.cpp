@@ -161,6 +161,7 @@ TEST_F(LinePlotItems, DoNothingWhileNoXYChartIsShown)
 TEST_F(LinePlotItems, DrawIntoTheCellThatIsTheXYChartOfAPage)
 {
   container.state().columnItems = {{Complex, "A"}, {TimeOrValue, "Time [s]"}, {Parameter, "k"}};
+  container.state().parameterBounds = {{7.0, 9.0}, {7.0, 9.0}};
   settings().parameterColumns = {2, 2};
   for (const int style : {multiPlot, selectionCdfPlot})
   {

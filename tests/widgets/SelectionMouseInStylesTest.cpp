@@ -131,3 +131,19 @@ TEST_F(SelectionMouseInStyles, SelectsAlongAnAxisOfTheParallelCoordinates)
   EXPECT_EQ(marked(), Values({0, 0, 0, 1, 1, 1, 0, 0, 0}));
   EXPECT_EQ(container().getDerivedTables().size(), 8U);
 }
+
+TEST_F(SelectionMouseInStyles, LeavesParallelCoordinatesAloneBesideTheirAxes)
+{
+  showStyle(parallelCoordinates);
+  vtkChartParallelCoordinates* chart = container().state().parallelCoordinates;
+  const QPoint between(
+      qRound((chart->GetAxis(0)->GetPoint1()[0] + chart->GetAxis(1)->GetPoint1()[0]) / 2.0F),
+      widget.height() / 2);
+  dragPixels(between, between + QPoint(3, 40));
+  EXPECT_EQ(flags(), Values(9, 0.0));
+  container().setPlotData(vtkSmartPointer<vtkTable>::New());
+  container().redraw();
+  widget.updatePlot(true);
+  dragPixels(between, between + QPoint(3, 40));
+  EXPECT_EQ(chart->GetNumberOfAxes(), 0);
+}
