@@ -9,6 +9,8 @@
 
 #include <QString>
 
+#include <iostream>
+
 namespace Talmesh::app
 {
 
@@ -43,6 +45,8 @@ std::string runBatch(const CommandLineOptions& options)
     opened = openStudyFile(QString::fromStdString(options.file));
   if (!opened.error.empty())
     return opened.error;
+  for (const std::string& note : opened.notes)
+    std::cerr << "talmesh-plot: " << note << std::endl;
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
   std::string error = writeExports(options, opened.study, size);
   if (error.empty() && !options.gallery.empty())

@@ -9,7 +9,8 @@ namespace Talmesh::app
 {
 
 /// Writes what the command line asks for, exports and gallery, without a window. Needs a
-/// QApplication. Nothing is written when the file cannot be opened or a column is not there.
+/// QApplication. Nothing is written when the file cannot be opened or a column is not there. What
+/// the user should know of the file although it could be opened goes to standard error.
 /// @return why something could not be done, in one line; empty on success
 std::string runBatch(const CommandLineOptions& options);
 

@@ -17,6 +17,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QStringList>
 
 namespace Talmesh::app
 {
@@ -145,8 +146,11 @@ void MainWindow::finishLoading(const OpenedStudy& result)
   showStudyInPlot(result.study);
   if (!loadingPath.isEmpty())
     recent.add(loadingPath);
+  QStringList notes;
   for (const std::string& note : result.notes)
-    statusBar()->showMessage(QString::fromStdString(note), noteMilliseconds);
+    notes.append(QString::fromStdString(note));
+  if (!notes.isEmpty())
+    statusBar()->showMessage(notes.join(QLatin1Char(' ')), noteMilliseconds);
   if (applyWishes())
     emit opened();
 }

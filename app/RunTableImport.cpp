@@ -12,6 +12,7 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -46,6 +47,10 @@ struct StackedColumn
 {
   TypedConcentrationName item;
   std::unique_ptr<double[]> values;
+  /// (smallest, largest) finite value.
+  std::pair<double, double> range;
+
+  bool varies() const { return range.first != range.second; }
 };
 
 class RunTableBuilder
@@ -64,6 +69,16 @@ public:
     if (!text.roles.anyTyped)
       arrange();
     return handOver();
+  }
+
+  /// Names of the parameters that plots leave out because they are the same in all runs.
+  std::vector<std::string> unvariedParameters() const
+  {
+    std::vector<std::string> names;
+    for (const StackedColumn& column : columns)
+      if (column.item.first == Parameter && !column.varies())
+        names.push_back(column.item.second);
+    return names;
   }
 
 private:
@@ -86,21 +101,19 @@ private:
     return values;
   }
 
-  /// One value in each run, and not missing everywhere. Runs of one point tell nothing.
+  /// One value in each run. Runs of one point tell nothing.
   bool constantWithinRuns(const double* values) const
   {
     if (grouping.pointsPerRun < 2)
       return false;
-    bool anyValue = false;
     for (std::size_t place = 0; place < rows(); ++place)
     {
       const double first = values[place - place % grouping.pointsPerRun];
       const bool same = values[place] == first || (std::isnan(values[place]) && std::isnan(first));
       if (!same)
         return false;
-      anyValue = anyValue || !std::isnan(first);
     }
-    return anyValue;
+    return true;
   }
 
   void addColumn(std::size_t index)
@@ -109,15 +122,18 @@ private:
     const int position = static_cast<int>(index);
     if (position == text.roles.runColumn)
     {
-      columns.push_back({{TimeOrValue, header.typed ? header.name : runIndexName}, runIndices()});
+      columns.push_back(
+          {{TimeOrValue, header.typed ? header.name : runIndexName}, runIndices(), {}});
       return;
     }
     if (isTextColumn(text.columns[index]))
       return;
-    StackedColumn column{{header.kind, header.name}, stacked(text.columns[index])};
+    StackedColumn column{{header.kind, header.name}, stacked(text.columns[index]), {}};
+    column.range = rangeOf(column.values.get());
     if (!header.typed)
     {
-      const bool parameter = constantWithinRuns(column.values.get());
+      // Plots leave out a parameter that does not vary; as an item the column stays to be seen.
+      const bool parameter = column.varies() && constantWithinRuns(column.values.get());
       column.item.first = parameter ? Parameter : Molecule;
     }
     if (position == text.roles.timeColumn)
@@ -130,12 +146,15 @@ private:
   void arrange()
   {
     if (text.roles.runColumn < 0)
-      columns.push_back({{TimeOrValue, runIndexName}, runIndices()});
+      columns.push_back({{TimeOrValue, runIndexName}, runIndices(), {}});
     const auto place = [](const StackedColumn& column)
     {
-      if (column.item.first != TimeOrValue)
-        return column.item.first == Parameter ? 3 : 0;
-      return column.item.second == runIndexName ? 2 : 1;
+      if (column.item.first == Parameter)
+        return 4;
+      if (column.item.first == TimeOrValue)
+        return column.item.second == runIndexName ? 3 : 2;
+      // The first item is what is plotted at first.
+      return column.varies() ? 0 : 1;
     };
     std::stable_sort(columns.begin(), columns.end(),
                      [&](const StackedColumn& a, const StackedColumn& b)
@@ -164,7 +183,7 @@ private:
     for (StackedColumn& column : columns)
     {
       if (column.item.first == Parameter)
-        table->parameterRanges.push_back(rangeOf(column.values.get()));
+        table->parameterRanges.push_back(column.range);
       table->items.push_back(column.item);
       table->values.push_back(column.values.release());
     }
@@ -202,6 +221,12 @@ std::vector<std::string> notesOn(const TableText& text)
       notes.push_back("The column " + quotedForMessage(text.roles.headers[i].name) +
                       " holds text and is left out.");
   return notes;
+}
+
+std::string noteOnUnvaried(const std::string& parameter)
+{
+  return "The parameter " + quotedForMessage(parameter) +
+         " is the same in all runs and is left out.";
 }
 
 RunGrouping groupingOf(const TableText& text)
@@ -246,8 +271,12 @@ ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progr
   }
   const RunGrouping grouping = groupingOf(text);
   imported.error = grouping.error;
-  if (imported.error.empty())
-    imported.runs = RunTableBuilder(text, grouping).build();
+  if (!imported.error.empty())
+    return imported;
+  RunTableBuilder builder(text, grouping);
+  imported.runs = builder.build();
+  for (const std::string& parameter : builder.unvariedParameters())
+    imported.notes.push_back(noteOnUnvaried(parameter));
   return imported;
 }
 

@@ -38,12 +38,15 @@ using ImportProgress = std::function<bool(double)>;
 ///
 /// Comma, semicolon and tab are recognised, as are decimal commas between tabs and semicolons.
 /// Names that are not valid UTF-8 are taken for Latin-1. Empty cells are NaN.
-/// Headers that carry a kind are taken as written, and so is the order of the columns. In a table
-/// of plain headers the columns that are constant within each run become parameters, the others
-/// molecules (a kind that item choosers can report, other than the undefined one), and the columns
-/// stand in the order in which line-plot tables keep them: plotted items, time, ": Run Index",
-/// parameters. A run index is added when the file has none; names of runs that are not different
-/// whole numbers become 0, 1, 2, ... there.
+/// Headers that carry a kind are taken as written, and so is the order of the columns. A column
+/// with a plain header becomes a parameter if it is constant within each run and differs between
+/// runs, otherwise a molecule (a kind that item choosers can report, other than the undefined one).
+/// So no plain column is lost, although plots leave out parameters that are the same in all runs;
+/// such a parameter can only come from a header that says so, and is noted.
+/// In a table of plain headers the columns stand in the order in which line-plot tables keep them:
+/// plotted items, with those that never vary last, time, ": Run Index", parameters. A run index is
+/// added when the file has none; names of runs that are not different whole numbers become 0, 1, 2,
+/// ... there.
 /// Columns of text are left out with a note.
 ///
 /// Needs memory in proportion to the size of the text. Touches no object of other threads.

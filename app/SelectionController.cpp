@@ -3,7 +3,7 @@
 #include "app/RunSelectionFile.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/RunLayout.h"
+#include "plot/RunSelection.h"
 #include "plot/SelectionNodes.h"
 
 #include <vtkCommand.h>
@@ -11,9 +11,13 @@
 #include <vtkTable.h>
 
 #include <QMetaObject>
+#include <QStringList>
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <numeric>
+#include <set>
 #include <vector>
 
 namespace Talmesh::app
@@ -24,6 +28,11 @@ namespace
 
 /// Each step keeps copies of the selected rows.
 constexpr int mostSteps = 100;
+
+/// More run indices do not fit into a line.
+constexpr int mostIndices = 10;
+
+using Runs = std::vector<plot::PlacedRun>;
 
 std::unique_ptr<ParameterSelection> runsOf(PlotContainer* container)
 {
@@ -37,6 +46,29 @@ vtkIdType selectedRows(const PlotContainer& container)
     return 0;
   const int* first = flags->GetPointer(0);
   return std::accumulate(first, first + flags->GetNumberOfValues(), vtkIdType(0));
+}
+
+/// One line that says which of the runs of a file are not in the table.
+std::string noteOnMissing(const QString& path, const std::set<int>& missing, std::size_t wanted)
+{
+  QStringList indices;
+  for (const int run : missing)
+  {
+    if (indices.size() == mostIndices)
+    {
+      indices.append(QStringLiteral("..."));
+      break;
+    }
+    indices.append(QString::number(run));
+  }
+  const QString count = missing.size() == wanted ? QStringLiteral("none of its runs is")
+                                                 : QStringLiteral("%1 of its %2 runs %3 not")
+                                                       .arg(missing.size())
+                                                       .arg(wanted)
+                                                       .arg(missing.size() == 1 ? "is" : "are");
+  return QStringLiteral("%1: %2 in this table: %3")
+      .arg(path, count, indices.join(", "))
+      .toStdString();
 }
 
 } // namespace
@@ -61,7 +93,7 @@ void SelectionController::follow(PlotContainer* followed)
   if (link)
     observerTag = link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
                                     &SelectionController::announceLater);
-  history.follow(link);
+  history.follow(followed);
   history.restart();
 }
 
@@ -120,23 +152,40 @@ std::string SelectionController::load(const QString& path)
   LoadedRunSelection loaded = loadRunSelection(path);
   if (!loaded.error.empty())
     return loaded.error;
-  if (!runsOf(container))
+  const std::set<int>& wanted = loaded.selection.runs;
+  std::set<int> missing = wanted;
+  std::vector<vtkIdType> rows;
+  const auto present = container ? plot::wholeRuns(container->state()) : Runs();
+  if (present.empty())
     return tr("This table has no runs to select.").toStdString();
-  container->setSelection(&loaded.selection, 0);
-  return {};
+  for (const plot::PlacedRun& run : present)
+  {
+    missing.erase(run.index);
+    if (wanted.count(run.index) != 0)
+      rows.push_back(run.firstRow);
+  }
+  // A file may well say that nothing is selected.
+  if (!rows.empty() || wanted.empty())
+    container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+  return missing.empty() ? std::string() : noteOnMissing(path, missing, wanted.size());
 }
 
 QString SelectionController::summary() const
 {
   if (!container)
     return {};
-  const vtkIdType rows = container->getTable()->GetNumberOfRows();
-  if (const std::unique_ptr<ParameterSelection> runs = runsOf(container))
+  const std::unique_ptr<ParameterSelection> selected = runsOf(container);
+  if (selected && container->getMetaData()->getStride() > 0)
   {
-    const plot::RunLayout layout = {rows, container->getMetaData()->getStride()};
-    return tr("%1 of %2 runs selected").arg(runs->runs.size()).arg(layout.runs());
+    const Runs runs = plot::wholeRuns(container->state());
+    const auto count = std::count_if(runs.begin(), runs.end(),
+                                     [&selected](const plot::PlacedRun& run)
+                                     { return selected->runs.count(run.index) != 0; });
+    return tr("%1 of %2 runs selected").arg(count).arg(runs.size());
   }
-  return tr("%1 of %2 rows selected").arg(selectedRows(*container)).arg(rows);
+  return tr("%1 of %2 rows selected")
+      .arg(selectedRows(*container))
+      .arg(container->getTable()->GetNumberOfRows());
 }
 
 } // namespace Talmesh::app

@@ -40,11 +40,15 @@ public:
   /// Writes the indices of the selected runs to a small JSON file.
   /// @return why that failed, in one line of UTF-8; empty on success
   std::string save(const QString& path) const;
-  /// Selects the runs that such a file lists, as far as the table has them.
-  /// @return why that failed, in one line of UTF-8; empty on success
+  /// Selects the runs that such a file lists, as far as they are whole runs of the table. Keeps the
+  /// selection if none is.
+  /// @return what went wrong, in one line of UTF-8: why nothing could be selected, or which runs
+  /// the
+  ///   table does not have; empty if all are selected
   std::string load(const QString& path);
 
-  /// What is selected, in one line: "12 of 400 runs selected", or rows for a table without runs.
+  /// What is selected, in one line: "12 of 400 runs selected", or rows for a table without runs. A
+  /// partial last run does not count.
   QString summary() const;
   /// Undo and redo of selections.
   QUndoStack& undoStack() { return stack; }

@@ -1,15 +1,18 @@
 #include "app/SelectionHistory.h"
 
+#include "plot/PlotContainer.h"
+#include "plot/SelectionFlags.h"
+#include "plot/SelectionNodes.h"
+
 #include <vtkAnnotationLink.h>
 #include <vtkCommand.h>
-#include <vtkIdTypeArray.h>
-#include <vtkInformation.h>
 #include <vtkSelection.h>
-#include <vtkSelectionNode.h>
 #include <vtkSmartPointer.h>
+#include <vtkTable.h>
 #include <vtkWeakPointer.h>
 
 #include <QCoreApplication>
+#include <QPointer>
 #include <QUndoCommand>
 #include <QUndoStack>
 
@@ -28,73 +31,34 @@ constexpr float afterAllOthers = -1.0F;
 
 using Snapshot = vtkSmartPointer<vtkSelection>;
 
-/// What a node selects, without order and repetition.
-struct NodeRows
-{
-  int contentType = 0;
-  bool inverse = false;
-  std::vector<vtkIdType> ids;
-
-  bool operator==(const NodeRows& other) const
-  {
-    return contentType == other.contentType && inverse == other.inverse && ids == other.ids;
-  }
-};
-
-Snapshot copyOf(vtkSelection* selection)
-{
-  auto copy = Snapshot::New();
-  if (selection)
-    copy->DeepCopy(selection);
-  // The copies share the plot in which the selection was made, and with it the plotted table.
-  for (unsigned int i = 0; i < copy->GetNumberOfNodes(); ++i)
-    copy->GetNode(i)->GetProperties()->Remove(vtkSelectionNode::PROP());
-  return copy;
-}
-
-std::vector<vtkIdType> sortedIds(vtkIdTypeArray* list)
-{
-  std::vector<vtkIdType> ids;
-  if (list)
-    ids.assign(list->GetPointer(0), list->GetPointer(0) + list->GetNumberOfValues());
-  std::sort(ids.begin(), ids.end());
-  ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
-  return ids;
-}
-
-/// Nodes that select something. The field type does not count: charts say points, tables rows.
-std::vector<NodeRows> rowsOf(vtkSelection* selection)
-{
-  std::vector<NodeRows> nodes;
-  for (unsigned int i = 0; i < selection->GetNumberOfNodes(); ++i)
-  {
-    vtkSelectionNode* node = selection->GetNode(i);
-    auto* list = vtkIdTypeArray::SafeDownCast(node->GetSelectionList());
-    const bool inverse = node->GetProperties()->Get(vtkSelectionNode::INVERSE()) != 0;
-    if (inverse || !list || list->GetNumberOfValues() > 0)
-      nodes.push_back({node->GetContentType(), inverse, sortedIds(list)});
-  }
-  return nodes;
-}
-
 } // namespace
 
-/// The link that commands write to, shared by all of them.
-struct FollowedLink
+/// What commands write to, shared by all of them.
+struct FollowedContainer
 {
+  QPointer<PlotContainer> container;
+  /// The container's; a chart may keep it alive longer.
   vtkWeakPointer<vtkAnnotationLink> link;
   Snapshot current;
   bool restoring = false;
 
-  Snapshot selected() const { return copyOf(link ? link->GetCurrentSelection() : nullptr); }
+  Snapshot selected() const
+  {
+    return plot::copySelection(link ? link->GetCurrentSelection() : nullptr);
+  }
+
+  std::vector<bool> rowsOf(vtkSelection* selection) const
+  {
+    return plot::markedRows(selection, container->getTable());
+  }
 
   /// Makes a copy of `selection` current without recording that.
   void restore(vtkSelection* selection)
   {
-    if (!link)
+    if (!container || !link)
       return;
     restoring = true;
-    link->SetCurrentSelection(copyOf(selection));
+    link->SetCurrentSelection(plot::copySelection(selection));
     restoring = false;
     current = selected();
   }
@@ -106,27 +70,27 @@ namespace
 class SelectCommand : public QUndoCommand
 {
 public:
-  SelectCommand(std::shared_ptr<FollowedLink> ofLink, Snapshot oldSelection, Snapshot newSelection)
-      : link(std::move(ofLink))
+  SelectCommand(std::shared_ptr<FollowedContainer> ofContainer, Snapshot oldSelection,
+                Snapshot newSelection, bool clears)
+      : followed(std::move(ofContainer))
       , before(std::move(oldSelection))
       , after(std::move(newSelection))
   {
-    setText(QCoreApplication::translate("SelectionHistory",
-                                        rowsOf(after).empty() ? "Clear Selection" : "Select"));
+    setText(QCoreApplication::translate("SelectionHistory", clears ? "Clear Selection" : "Select"));
   }
 
-  void undo() override { link->restore(before); }
+  void undo() override { followed->restore(before); }
 
   void redo() override
   {
     // The stack redoes a command when it is pushed, but the selection is already made.
     if (pushed)
-      link->restore(after);
+      followed->restore(after);
     pushed = true;
   }
 
 private:
-  std::shared_ptr<FollowedLink> link;
+  std::shared_ptr<FollowedContainer> followed;
   Snapshot before;
   Snapshot after;
   bool pushed = false;
@@ -144,14 +108,15 @@ SelectionHistory::~SelectionHistory()
   stopObserving();
 }
 
-void SelectionHistory::follow(vtkAnnotationLink* link)
+void SelectionHistory::follow(PlotContainer* container)
 {
   stopObserving();
-  followed = std::make_shared<FollowedLink>();
-  followed->link = link;
-  if (link)
-    observerTag = link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
-                                    &SelectionHistory::record, afterAllOthers);
+  followed = std::make_shared<FollowedContainer>();
+  followed->container = container;
+  followed->link = container ? container->getAnnotationLink() : nullptr;
+  if (followed->link)
+    observerTag = followed->link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
+                                              &SelectionHistory::record, afterAllOthers);
   restart();
 }
 
@@ -164,14 +129,16 @@ void SelectionHistory::restart()
 
 void SelectionHistory::record()
 {
-  if (followed->restoring)
+  if (followed->restoring || !followed->container)
     return;
   const Snapshot before = followed->current;
   const Snapshot after = followed->selected();
-  if (rowsOf(before) == rowsOf(after))
+  const std::vector<bool> rows = followed->rowsOf(after);
+  if (followed->rowsOf(before) == rows)
     return;
   followed->current = after;
-  stack.push(new SelectCommand(followed, before, after));
+  const bool clears = std::find(rows.begin(), rows.end(), true) == rows.end();
+  stack.push(new SelectCommand(followed, before, after, clears));
 }
 
 void SelectionHistory::stopObserving()

@@ -3,20 +3,21 @@
 
 #include <memory>
 
+class PlotContainer;
 class QUndoStack;
-class vtkAnnotationLink;
 
 namespace Talmesh::app
 {
 
-struct FollowedLink;
+struct FollowedContainer;
 
-/// Makes the selections of an annotation link undoable.
+/// Makes the selections of a container undoable.
 ///
 /// Every announced change of what is selected becomes one command on the undo stack, whoever made
-/// it; changes that leave the same rows selected, and changes made by undo and redo, become none.
+/// it; changes that leave the same table rows selected, however they name them, and changes made by
+/// undo and redo, become none.
 /// The commands keep copies, so nobody who changes a selection in place changes the history, and no
-/// plots. They may outlive the history and the link; without the link they do nothing.
+/// plots. They may outlive the history and the container; without the container they do nothing.
 class SelectionHistory
 {
 public:
@@ -26,9 +27,9 @@ public:
   SelectionHistory(const SelectionHistory&) = delete;
   SelectionHistory& operator=(const SelectionHistory&) = delete;
 
-  /// Records the changes of `link` from now on instead of those of the link followed so far. Null
-  /// follows none.
-  void follow(vtkAnnotationLink* link);
+  /// Records the changes of `container`, not owned, from now on instead of those of the one
+  /// followed so far. Null follows none.
+  void follow(PlotContainer* container);
 
   /// Takes what is selected now as the state to start from and clears the stack: for a table that
   /// has been replaced, whose old rows mean nothing.
@@ -39,7 +40,7 @@ private:
   void stopObserving();
 
   QUndoStack& stack;
-  std::shared_ptr<FollowedLink> followed;
+  std::shared_ptr<FollowedContainer> followed;
   unsigned long observerTag = 0;
 };
 

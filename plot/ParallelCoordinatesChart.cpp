@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/ParameterCells.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 
@@ -78,6 +79,9 @@ void drawParallelCoordinates(PlotState& state, vtkContextScene* scene)
     return;
   }
   showChart(state, state.parallelCoordinates, scene);
+  // The button is the one that moves axes otherwise, and VTK reads an axis that is not there when
+  // the mouse is pressed beside all of them.
+  enableSelection(state, state.parallelCoordinates);
   state.parallelCoordinates->ClearPlots();
   feedLines(state);
   showColumns(state);

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/MatrixSelection.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
 #include "plot/Redraw.h"
@@ -102,6 +103,9 @@ void PlotContainer::connectParts()
   d->annotationLink->AddObserver(vtkCommand::AnnotationChangedEvent, d->selectionUpdateCallback);
   d->shiftScaleCallback = vtkSmartPointer<vtkShiftScaleCallback>::New();
   d->shiftScaleCallback->Container = this;
+  d->matrixSelection.watch(d->scatterPlotMatrix->GetAnnotationLink());
+  d->matrixSelection.selected = [this](vtkSelection* selection)
+  { Talmesh::plot::adoptMatrixSelection(*d, selection); };
   d->sceneLink.sceneDied = [this](vtkContextScene* scene)
   { Talmesh::plot::forgetScene(*d, scene); };
 }

@@ -189,7 +189,8 @@ public:
   void setSelection(ParameterSelection* runs, int offset);
   /// The runs selected now, a new record that is the caller's; null when the table does not tell.
   ParameterSelection* getSelection();
-  /// Ranks the parameters of the given runs as a further data set and draws.
+  /// Ranks the parameters of the given runs as a further data set and draws. An exception from the
+  /// ranking leaves everything as it was.
   void setExternalSelection(ParameterSelection* runs);
   /// @}
 

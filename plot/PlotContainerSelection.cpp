@@ -35,8 +35,17 @@ void PlotContainer::setExternalSelection(ParameterSelection* runs)
   const vtkSmartPointer<vtkTable> chosen = Talmesh::plot::tableOfRuns(*d, runs->runs);
   if (!chosen)
     return;
-  d->derivedTables.push_back(chosen);
-  generateRankedParameters(chosen, d->derivedTables.size());
+  const std::size_t tablesBefore = d->derivedTables.size();
+  try
+  {
+    d->derivedTables.push_back(chosen);
+    generateRankedParameters(chosen, d->derivedTables.size());
+  }
+  catch (...)
+  {
+    d->derivedTables.resize(tablesBefore);
+    throw;
+  }
   dirty();
   redraw();
 }

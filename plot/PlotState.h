@@ -6,6 +6,7 @@
 #include "external/TypedConcentrationName.h"
 #include "plot/AxisWindows.h"
 #include "plot/KsStatistics.h"
+#include "plot/MatrixSelection.h"
 #include "plot/RankedInputs.h"
 #include "plot/SceneLink.h"
 
@@ -114,6 +115,8 @@ struct PlotState
   std::optional<RankedInputs> rankedInputs;
   /// The scene that the charts were put into.
   SceneLink sceneLink;
+  /// The tie to the selection that the scatter-plot matrix keeps for itself.
+  MatrixSelection matrixSelection;
   /// The decoration lines now in the XY chart.
   std::vector<vtkWeakPointer<vtkPlot>> decorationPlots;
   /// The chart last built from Sobol results, whose plots the reserved styles keep.

@@ -4,6 +4,7 @@
 #include "external/TypedConcentrationName.h"
 #include "plot/PlotState.h"
 #include "plot/RunCursor.h"
+#include "plot/RunLayout.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
@@ -13,6 +14,7 @@
 #include <vtkIdTypeArray.h>
 #include <vtkSelection.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace Talmesh::plot
@@ -46,11 +48,16 @@ vtkIdTypeArray* acceptedRows(const PlotState& state)
   return vtkIdTypeArray::SafeDownCast(columnNamed(state.table, Talmesh::RemainderSelectionColumn));
 }
 
+/// The conversion to int is undefined for a value that int cannot hold.
+bool fitsInt(double index)
+{
+  return index > std::numeric_limits<int>::min() - 1.0 &&
+         index < std::numeric_limits<int>::max() + 1.0;
+}
+
 void insertRun(std::set<int>& runs, double index)
 {
-  // The conversion to int is undefined for a value that int cannot hold.
-  if (index > std::numeric_limits<int>::min() - 1.0 &&
-      index < std::numeric_limits<int>::max() + 1.0)
+  if (fitsInt(index))
     runs.insert(static_cast<int>(index));
 }
 
@@ -95,6 +102,24 @@ void selectRuns(PlotState& state, const std::set<int>& runs, int offset)
       selected->InsertNextValue(cursor.row() + position);
   }
   state.annotationLink->SetCurrentSelection(wrapRowSelection(selected));
+}
+
+std::vector<PlacedRun> wholeRuns(const PlotState& state)
+{
+  std::vector<PlacedRun> runs;
+  vtkDoubleArray* indices = runsOfRows(state.table);
+  if (!indices)
+    return runs;
+  const RunLayout layout = {std::min(state.table->GetNumberOfRows(), indices->GetNumberOfTuples()),
+                            state.metaData->getStride()};
+  for (vtkIdType run = 0; run < layout.runs(); ++run)
+  {
+    const vtkIdType row = layout.firstRow(run);
+    const double index = indices->GetTypedComponent(row, 0);
+    if (fitsInt(index))
+      runs.push_back({static_cast<int>(index), row});
+  }
+  return runs;
 }
 
 std::unique_ptr<ParameterSelection> selectedRuns(const PlotState& state)

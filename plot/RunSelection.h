@@ -5,9 +5,11 @@
 
 #include <vtkSmartPointer.h>
 #include <vtkTable.h>
+#include <vtkType.h>
 
 #include <memory>
 #include <set>
+#include <vector>
 
 /// Between runs, which users think in, and table rows, which charts select.
 ///
@@ -27,6 +29,17 @@ struct PlotState;
 /// table once. Does nothing if the column is not a vtkDoubleArray or the settings' stride is below
 /// 1.
 void selectRuns(PlotState& state, const std::set<int>& runs, int offset);
+
+/// A run and where it stands in the table.
+struct PlacedRun
+{
+  int index;
+  vtkIdType firstRow;
+};
+
+/// The whole runs of the plot table in row order; one whose index is no int is left out. Empty
+/// without a column ": Run Index" and with a stride below 1.
+std::vector<PlacedRun> wholeRuns(const PlotState& state);
 
 /// The runs of the selected rows, with the source named by the settings. In the selection CDF plot
 /// these are the runs that the last split accepted, otherwise all with a selected row.

@@ -5,8 +5,6 @@
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 
-#include <vtkSelection.h>
-
 #include <algorithm>
 #include <numeric>
 
@@ -67,15 +65,6 @@ void activatePair(PlotState& state, int xColumn, int yColumn)
   matrix->SetActivePlot(vtkVector2i(static_cast<int>(left), static_cast<int>(last - right)));
 }
 
-/// The matrix has a selection of its own, which does not notice that the table is another one.
-void mirrorSelection(PlotState& state)
-{
-  vtkNew<vtkSelection> selection;
-  if (vtkSelection* current = state.annotationLink->GetCurrentSelection())
-    selection->DeepCopy(current);
-  state.scatterPlotMatrix->GetAnnotationLink()->SetCurrentSelection(selection);
-}
-
 } // namespace
 
 void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
@@ -87,7 +76,8 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   if (state.table->GetNumberOfRows() > 0)
     state.scatterPlotMatrix->SetInput(state.table);
   releaseChartXY(state);
-  mirrorSelection(state);
+  // The matrix does not notice either that the table is another one.
+  state.matrixSelection.show(state.annotationLink->GetCurrentSelection());
 
   showColumns(state, columnsToShow(state));
   retireCells(dropped, scene);

@@ -14,6 +14,15 @@
 namespace Talmesh::plot
 {
 
+std::vector<bool> markedRows(vtkSelection* selection, vtkTable* table)
+{
+  const vtkIdType rows = table->GetNumberOfRows();
+  const auto copy = Talmesh::combineSelections(selection, nullptr);
+  const auto indices = Talmesh::toRowIndices(copy.selection, table);
+  return indices ? Talmesh::selectedRows(indices, rows).marked
+                 : std::vector<bool>(static_cast<std::size_t>(rows), false);
+}
+
 vtkSmartPointer<vtkIntArray> selectionFlags(const PlotState& state)
 {
   vtkAnnotationLayers* layers = state.annotationLink->GetAnnotationLayers();

@@ -4,6 +4,9 @@
 #include <vtkIntArray.h>
 #include <vtkSmartPointer.h>
 
+#include <vector>
+
+class vtkSelection;
 class vtkTable;
 
 namespace Talmesh::plot
@@ -13,6 +16,10 @@ struct PlotState;
 
 /// Name of the column that keeps a selection with its table.
 inline constexpr char selectionFlagColumn[] = "selected points";
+
+/// Whether `selection`, which may be null and is not changed, names each row of `table`. No row is
+/// named when VTK cannot say which.
+std::vector<bool> markedRows(vtkSelection* selection, vtkTable* table);
 
 /// One flag per table row: 1 where the annotation link's selection or one of its contributing
 /// annotations names the row, 0 elsewhere. Neither selection nor annotations are changed.

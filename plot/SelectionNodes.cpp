@@ -1,6 +1,8 @@
 #include "plot/SelectionNodes.h"
 
 #include <vtkIdTypeArray.h>
+#include <vtkInformation.h>
+#include <vtkInformationObjectBaseKey.h>
 #include <vtkNew.h>
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
@@ -30,6 +32,16 @@ vtkSmartPointer<vtkSelection> wrapRowSelection(vtkIdTypeArray* rows)
   auto selection = vtkSmartPointer<vtkSelection>::New();
   selection->AddNode(node);
   return selection;
+}
+
+vtkSmartPointer<vtkSelection> copySelection(vtkSelection* selection)
+{
+  auto copy = vtkSmartPointer<vtkSelection>::New();
+  if (selection)
+    copy->DeepCopy(selection);
+  for (unsigned int i = 0; i < copy->GetNumberOfNodes(); ++i)
+    copy->GetNode(i)->GetProperties()->Remove(vtkSelectionNode::PROP());
+  return copy;
 }
 
 } // namespace Talmesh::plot

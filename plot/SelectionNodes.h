@@ -19,6 +19,10 @@ vtkSmartPointer<vtkSelection> makeRowSelection(const std::vector<vtkIdType>& row
 /// As above, with `rows` as the node's list, which is not copied. Null makes an empty selection.
 vtkSmartPointer<vtkSelection> wrapRowSelection(vtkIdTypeArray* rows);
 
+/// A copy that shares nothing with `selection` and, unlike VTK's, does not keep the plot alive in
+/// which it was made. Null makes an empty selection.
+vtkSmartPointer<vtkSelection> copySelection(vtkSelection* selection);
+
 } // namespace Talmesh::plot
 
 #endif

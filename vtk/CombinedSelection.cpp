@@ -1,6 +1,5 @@
 #include "vtk/CombinedSelection.h"
 
-#include <vtkAlgorithm.h>
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
 #include <vtkConvertSelection.h>
@@ -9,11 +8,11 @@
 #include <vtkExecutive.h>
 #include <vtkIdTypeArray.h>
 #include <vtkInformation.h>
-#include <vtkInformationVector.h>
 #include <vtkNew.h>
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
 #include <vtkTable.h>
+#include <vtkVariant.h>
 
 #include <algorithm>
 #include <limits>
@@ -81,26 +80,24 @@ void addUnlistedRows(SelectedRows& rows, vtkIdTypeArray* list, vtkIdType rowCoun
       addRow(rows, row);
   }
 }
+
+void appendMissingCell(vtkAbstractArray* column)
+{
+  const int type = column->GetDataType();
+  const bool hasNaN = type == VTK_DOUBLE || type == VTK_FLOAT;
+  const double missing = hasNaN ? std::numeric_limits<double>::quiet_NaN() : 0.0;
+  const vtkIdType row = column->GetNumberOfTuples();
+  const int components = column->GetNumberOfComponents();
+  auto* numbers = vtkArrayDownCast<vtkDataArray>(column);
+  for (int component = 0; component < components; ++component)
+  {
+    if (numbers)
+      numbers->InsertComponent(row, component, missing);
+    else
+      column->InsertVariantValue(row * components + component, vtkVariant());
+  }
+}
 } // namespace
-
-RowFilterPorts::RowFilterPorts(vtkInformationVector** input, vtkInformationVector* output)
-    : table(vtkTable::GetData(input[0]))
-    , selection(vtkSelection::GetData(input[1]))
-    , annotations(vtkAnnotationLayers::GetData(input[2]))
-    , outputs{vtkTable::GetData(output, 0), vtkTable::GetData(output, 1)}
-{
-}
-
-int fillRowFilterPort(int port, vtkInformation* info)
-{
-  const char* const types[] = {"vtkTable", "vtkSelection", "vtkAnnotationLayers"};
-  if (port < 0 || port > 2)
-    return 0;
-  info->Set(vtkAlgorithm::INPUT_REQUIRED_DATA_TYPE(), types[port]);
-  if (port > 0)
-    info->Set(vtkAlgorithm::INPUT_IS_OPTIONAL(), 1);
-  return 1;
-}
 
 bool contributes(vtkAnnotation* annotation)
 {
@@ -204,7 +201,13 @@ void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* 
     vtkAbstractArray* from = source->GetColumn(c);
     vtkAbstractArray* to = target->GetColumn(c);
     for (const vtkIdType row : rows)
-      to->InsertNextTuple(row, from);
+    {
+      // VTK copies tuples unchecked, and the columns of a table may differ in length.
+      if (row < from->GetNumberOfTuples())
+        to->InsertNextTuple(row, from);
+      else
+        appendMissingCell(to);
+    }
   }
 }
 

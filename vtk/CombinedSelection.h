@@ -10,8 +10,6 @@ class vtkAbstractArray;
 class vtkAnnotation;
 class vtkAnnotationLayers;
 class vtkIdTypeArray;
-class vtkInformation;
-class vtkInformationVector;
 class vtkSelection;
 class vtkTable;
 
@@ -19,30 +17,6 @@ class vtkTable;
 /// filters and by everything else that reads an annotation link.
 namespace Talmesh
 {
-inline constexpr char NoSelectionMessage[] =
-    "No vtkSelection or vtkAnnotationLayers provided as input.";
-inline constexpr char NoTimeColumnMessage[] = "TimeColumnIndex not set.";
-inline constexpr char NoParaCountMessage[] = "ParaCount not set.";
-inline constexpr char ConversionFailedMessage[] = "Selection conversion to INDICES failed.";
-
-/// What a row filter finds at its ports; every member may be null.
-struct RowFilterPorts
-{
-  /// @param input one information vector per input port: table, selection, annotation layers.
-  /// @param output the two output tables.
-  RowFilterPorts(vtkInformationVector** input, vtkInformationVector* output);
-
-  vtkTable* table;
-  vtkSelection* selection;
-  vtkAnnotationLayers* annotations;
-  vtkTable* outputs[2];
-};
-
-/// Declares the three input ports of a row filter: a table and, both optional, a selection and
-/// annotation layers.
-/// @return 1, or 0 for any other port.
-int fillRowFilterPort(int port, vtkInformation* info);
-
 /// True unless the annotation is disabled, or enabled and hidden. An annotation that says nothing
 /// about being enabled contributes.
 bool contributes(vtkAnnotation* annotation);
@@ -81,7 +55,8 @@ std::vector<double> rowTimes(vtkAbstractArray* column, vtkIdType rowCount);
 /// Gives @p target the columns of @p source, without rows.
 void copyColumnStructure(vtkTable* source, vtkTable* target);
 
-/// Appends rows of @p source to @p target, which must have its column structure.
+/// Appends rows of @p source to @p target, which must have its column structure. Where a column is
+/// too short to have the row, the cell is NaN, 0 in a column of whole numbers, or an empty text.
 void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* target);
 
 /// A new one-component column.

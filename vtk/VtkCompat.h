@@ -9,4 +9,9 @@
   vtkTypeMacro(thisClass, superclass)                                                              \
   static_assert(true, "ended by the user's semicolon")
 
+/// The same for classes without a New() of their own.
+#define TALMESH_VTK_ABSTRACT_TYPE(thisClass, superclass)                                           \
+  vtkAbstractTypeMacro(thisClass, superclass)                                                      \
+  static_assert(true, "ended by the user's semicolon")
+
 #endif

@@ -5,10 +5,7 @@
 
 #include <vtkDoubleArray.h>
 #include <vtkIdTypeArray.h>
-#include <vtkInformation.h>
-#include <vtkInformationVector.h>
 #include <vtkObjectFactory.h>
-#include <vtkSelection.h>
 #include <vtkTable.h>
 
 #include <algorithm>
@@ -97,80 +94,21 @@ void writeMarkers(const Split& split, vtkTable* table)
 }
 } // namespace
 
-vtkCombinedFilterAndSelectedRows::vtkCombinedFilterAndSelectedRows()
+void vtkCombinedFilterAndSelectedRows::DivideRows(vtkTable* table,
+                                                  const Talmesh::SelectedRows& selected,
+                                                  vtkTable* const outputs[2])
 {
-  this->SetNumberOfInputPorts(3);
-  this->SetNumberOfOutputPorts(2);
-}
-
-void vtkCombinedFilterAndSelectedRows::PrintSelf(ostream& os, vtkIndent indent)
-{
-  this->Superclass::PrintSelf(os, indent);
-  os << indent << "AddOriginalRowIdsArray: " << this->AddOriginalRowIdsArray << "\n";
-}
-
-void vtkCombinedFilterAndSelectedRows::SetSelectionConnection(vtkAlgorithmOutput* in)
-{
-  this->SetInputConnection(1, in);
-}
-
-void vtkCombinedFilterAndSelectedRows::SetAnnotationLayersConnection(vtkAlgorithmOutput* in)
-{
-  this->SetInputConnection(2, in);
-}
-
-int vtkCombinedFilterAndSelectedRows::FillInputPortInformation(int port, vtkInformation* info)
-{
-  return Talmesh::fillRowFilterPort(port, info);
-}
-
-int vtkCombinedFilterAndSelectedRows::RequestData(vtkInformation*,
-                                                  vtkInformationVector** inputVector,
-                                                  vtkInformationVector* outputVector)
-{
-  const Talmesh::RowFilterPorts ports(inputVector, outputVector);
-  if (!ports.table || !this->CheckInputs(ports.selection || ports.annotations))
-    return 0;
-  const auto combined = Talmesh::combineSelections(ports.selection, ports.annotations);
-  if (combined.sources == 0)
-  {
-    ports.outputs[0]->ShallowCopy(ports.table);
-    return 1;
-  }
-  const auto indices = Talmesh::toRowIndices(combined.selection, ports.table);
-  if (!indices)
-  {
-    this->ReportFailedConversion();
-    return 0;
-  }
-
-  const vtkIdType rowCount = ports.table->GetNumberOfRows();
-  const auto selected = Talmesh::selectedRows(indices, rowCount);
-  auto* timeColumn =
-      this->TimeColumnIndex < ports.table->GetNumberOfColumns()
-          ? vtkDoubleArray::SafeDownCast(ports.table->GetColumn(this->TimeColumnIndex))
-          : nullptr;
-  const auto times = Talmesh::rowTimes(timeColumn, rowCount);
+  const auto times = Talmesh::rowTimes(vtkDoubleArray::SafeDownCast(this->FindTimeColumn(table)),
+                                       table->GetNumberOfRows());
   const vtkIdType stride = std::max<vtkIdType>(this->Stride, 1);
   const RunsAtTime runsAtTime = selectedRunsByTime(selected.marked, times, stride);
-
-  for (vtkTable* output : ports.outputs)
-    Talmesh::copyColumnStructure(ports.table, output);
   Split split(0);
   if (!runsAtTime.empty())
-  {
     split = splitRows(selected.marked, times, stride, runsAtTime);
-    for (int output = 0; output < 2; ++output)
-      Talmesh::appendRows(ports.table, split.rows[output], ports.outputs[output]);
-    writeMarkers(split, ports.table);
-  }
-  if (this->AddOriginalRowIdsArray)
-  {
-    for (int output = 0; output < 2; ++output)
-      ports.outputs[output]->AddColumn(
-          Talmesh::makeIdColumn(Talmesh::OriginalRowIdsColumn, split.rows[output]));
-  }
-  return 1;
+  for (int output = 0; output < 2; ++output)
+    this->FillOutput(table, split.rows[output], outputs[output]);
+  if (!runsAtTime.empty())
+    writeMarkers(split, table);
 }
 
 // The line numbers in the messages below are fixed, so the reports stand at the end of the file.

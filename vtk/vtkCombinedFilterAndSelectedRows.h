@@ -1,9 +1,7 @@
 #ifndef vtkCombinedFilterAndSelectedRows_h
 #define vtkCombinedFilterAndSelectedRows_h
 
-#include "vtk/VtkCompat.h"
-
-#include <vtkTableAlgorithm.h>
+#include "vtk/vtkCombinedRowFilter.h"
 
 #include <vector>
 
@@ -27,34 +25,11 @@
 /// Update() fails, with a VTK error and untouched outputs, without any selection input, with a
 /// negative TimeColumnIndex or ParaCount, and when the selection cannot be converted to row
 /// indices.
-class vtkCombinedFilterAndSelectedRows : public vtkTableAlgorithm
+class vtkCombinedFilterAndSelectedRows : public vtkCombinedRowFilter
 {
 public:
   static vtkCombinedFilterAndSelectedRows* New();
-  TALMESH_VTK_TYPE(vtkCombinedFilterAndSelectedRows, vtkTableAlgorithm);
-  void PrintSelf(ostream& os, vtkIndent indent) override;
-
-  /// Connects the vtkSelection (input port 1).
-  void SetSelectionConnection(vtkAlgorithmOutput* in);
-  /// Connects the vtkAnnotationLayers (input port 2).
-  void SetAnnotationLayersConnection(vtkAlgorithmOutput* in);
-
-  int FillInputPortInformation(int port, vtkInformation* info) override;
-  int RequestData(vtkInformation* request, vtkInformationVector** inputVector,
-                  vtkInformationVector* outputVector) override;
-
-  ///@{
-  /// Whether both outputs get a column "vtkOriginalRowIds" of input row numbers. Default false.
-  vtkSetMacro(AddOriginalRowIdsArray, bool);
-  vtkGetMacro(AddOriginalRowIdsArray, bool);
-  vtkBooleanMacro(AddOriginalRowIdsArray, bool);
-  ///@}
-
-  ///@{
-  /// Input column that holds the time of each row. Default -1, which must be replaced.
-  vtkSetMacro(TimeColumnIndex, vtkIdType);
-  vtkGetMacro(TimeColumnIndex, vtkIdType);
-  ///@}
+  TALMESH_VTK_TYPE(vtkCombinedFilterAndSelectedRows, vtkCombinedRowFilter);
 
   ///@{
   /// Number of parameter columns. Default -1, which must be replaced.
@@ -72,20 +47,20 @@ public:
   std::vector<int> ParameterColumns;
 
 protected:
-  vtkCombinedFilterAndSelectedRows();
+  vtkCombinedFilterAndSelectedRows() = default;
   ~vtkCombinedFilterAndSelectedRows() override = default;
 
-  bool AddOriginalRowIdsArray = false;
-  vtkIdType TimeColumnIndex = -1;
+  bool CheckInputs(bool hasSelectionSource) override;
+  void ReportFailedConversion() override;
+  void DivideRows(vtkTable* table, const Talmesh::SelectedRows& selected,
+                  vtkTable* const outputs[2]) override;
+
   vtkIdType ParaCount = -1;
   vtkIdType Stride = 1;
 
 private:
   vtkCombinedFilterAndSelectedRows(const vtkCombinedFilterAndSelectedRows&) = delete;
   void operator=(const vtkCombinedFilterAndSelectedRows&) = delete;
-
-  bool CheckInputs(bool hasSelectionSource);
-  void ReportFailedConversion();
 };
 
 #endif

@@ -1,9 +1,7 @@
 #ifndef vtkCombinedFilterOrSelectedRows_h
 #define vtkCombinedFilterOrSelectedRows_h
 
-#include "vtk/VtkCompat.h"
-
-#include <vtkTableAlgorithm.h>
+#include "vtk/vtkCombinedRowFilter.h"
 
 /// Splits a table into every selected row (output 0, the union of all selections) and the
 /// unselected rows whose time lies within the time range of the selected ones (output 1).
@@ -19,48 +17,24 @@
 ///
 /// Update() fails, with a VTK error and untouched outputs, without any selection input, with a
 /// negative TimeColumnIndex, and when the selection cannot be converted to row indices.
-class vtkCombinedFilterOrSelectedRows : public vtkTableAlgorithm
+class vtkCombinedFilterOrSelectedRows : public vtkCombinedRowFilter
 {
 public:
   static vtkCombinedFilterOrSelectedRows* New();
-  TALMESH_VTK_TYPE(vtkCombinedFilterOrSelectedRows, vtkTableAlgorithm);
-  void PrintSelf(ostream& os, vtkIndent indent) override;
-
-  /// Connects the vtkSelection (input port 1).
-  void SetSelectionConnection(vtkAlgorithmOutput* in);
-  /// Connects the vtkAnnotationLayers (input port 2).
-  void SetAnnotationLayersConnection(vtkAlgorithmOutput* in);
-
-  int FillInputPortInformation(int port, vtkInformation* info) override;
-  int RequestData(vtkInformation* request, vtkInformationVector** inputVector,
-                  vtkInformationVector* outputVector) override;
-
-  ///@{
-  /// Whether both outputs get a column "vtkOriginalRowIds" of input row numbers. Default false.
-  vtkSetMacro(AddOriginalRowIdsArray, bool);
-  vtkGetMacro(AddOriginalRowIdsArray, bool);
-  vtkBooleanMacro(AddOriginalRowIdsArray, bool);
-  ///@}
-
-  ///@{
-  /// Input column that holds the time of each row. Default -1, which must be replaced.
-  vtkSetMacro(TimeColumnIndex, vtkIdType);
-  vtkGetMacro(TimeColumnIndex, vtkIdType);
-  ///@}
+  TALMESH_VTK_TYPE(vtkCombinedFilterOrSelectedRows, vtkCombinedRowFilter);
 
 protected:
-  vtkCombinedFilterOrSelectedRows();
+  vtkCombinedFilterOrSelectedRows() = default;
   ~vtkCombinedFilterOrSelectedRows() override = default;
 
-  bool AddOriginalRowIdsArray = false;
-  vtkIdType TimeColumnIndex = -1;
+  bool CheckInputs(bool hasSelectionSource) override;
+  void ReportFailedConversion() override;
+  void DivideRows(vtkTable* table, const Talmesh::SelectedRows& selected,
+                  vtkTable* const outputs[2]) override;
 
 private:
   vtkCombinedFilterOrSelectedRows(const vtkCombinedFilterOrSelectedRows&) = delete;
   void operator=(const vtkCombinedFilterOrSelectedRows&) = delete;
-
-  bool CheckInputs(bool hasSelectionSource);
-  void ReportFailedConversion();
 };
 
 #endif

@@ -107,6 +107,15 @@ TEST_F(Program, ExportsAUsersRunsInEveryFormat)
   EXPECT_TRUE(contentOf(path("plot.csv")).startsWith("\"Molecule: X\",\"Molecule: Y\""));
 }
 
+TEST_F(Program, TellsWhatItLeavesOutOfAnExport)
+{
+  const QString csv = write("runs.csv", "time,X,drug\n0,1,none\n1,2,none\n");
+  const Ended ended = run({csv, "--export", path("plot.csv")});
+  EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.errors.toStdString(),
+            "talmesh-plot: The column \"drug\" holds text and is left out.\n");
+}
+
 TEST_F(Program, ExportsInEveryStyle)
 {
   const QString csv = write("runs.csv", sampleRuns());

@@ -80,9 +80,11 @@ TEST(RunTableImport, FindsRunsByTimeUnderTypedHeadersAndAddsNothing)
 
 TEST(RunTableImport, GivesPlainColumnsBesideTypedOnesAKind)
 {
-  const ImportedTable table = imported(": Time [s],Complex: X,k,extra\n0,1,5,1\n1,2,5,2\n");
+  const ImportedTable table = imported(": Time [s],Complex: X,k,extra\n"
+                                       "0,1,5,1\n1,2,5,2\n0,1,6,1\n1,2,6,2\n");
   EXPECT_EQ(labels(table), (std::vector<std::string>{": Time [s]", "Complex: X", "Parameter: k",
                                                      "Molecule: extra"}));
+  EXPECT_TRUE(table.notes.empty());
 }
 
 TEST(RunTableImport, ReturnsWhatTheWriterWrote)
@@ -151,15 +153,48 @@ TEST(RunTableImport, KeepsNamesInUtf8AndReadsLatin1)
   EXPECT_EQ(labels(imported("time,K\xE4se\n0,1\n1,2\n"))[0], "Molecule: Käse");
 }
 
-TEST(RunTableImport, MakesParametersOfColumnsThatAreConstantWithinEachRun)
+TEST(RunTableImport, MakesParametersOfColumnsThatAreConstantWithinEachRunAndDifferBetweenRuns)
+{
+  const ImportedTable table = imported("time,k,partly,item\n"
+                                       "0,4,,1\n1,4,,1\n0,4,2,1\n1,4,2,3\n0,5,3,1\n1,5,3,1\n");
+  EXPECT_EQ(labels(table), (std::vector<std::string>{"Molecule: item", ": time", ": Run Index",
+                                                     "Parameter: k", "Parameter: partly"}));
+  EXPECT_EQ(table.runs->parameterRanges[0], std::make_pair(4.0, 5.0));
+  EXPECT_EQ(table.runs->parameterRanges[1], std::make_pair(2.0, 3.0));
+  EXPECT_TRUE(table.notes.empty());
+}
+
+TEST(RunTableImport, KeepsColumnsThatAreTheSameInAllRunsAsItemsBehindTheOthers)
 {
   const ImportedTable table = imported("time,same,missing,partly,item\n"
                                        "0,4,,,1\n1,4,,,1\n0,4,,2,1\n1,4,,2,3\n");
   EXPECT_EQ(labels(table),
-            (std::vector<std::string>{"Molecule: missing", "Molecule: item", ": time",
-                                      ": Run Index", "Parameter: same", "Parameter: partly"}));
-  EXPECT_EQ(table.runs->parameterRanges[0], std::make_pair(4.0, 4.0));
-  EXPECT_EQ(table.runs->parameterRanges[1], std::make_pair(2.0, 2.0));
+            (std::vector<std::string>{"Molecule: item", "Molecule: same", "Molecule: missing",
+                                      "Molecule: partly", ": time", ": Run Index"}));
+  expectValues(table, "Molecule: same", {4, 4, 4, 4});
+  expectValues(table, "Molecule: partly", {missing, missing, 2, 2});
+  EXPECT_TRUE(table.runs->parameterRanges.empty());
+  EXPECT_TRUE(table.notes.empty());
+}
+
+TEST(RunTableImport, KeepsEveryColumnOfASingleRunAsAnItem)
+{
+  const ImportedTable table = imported("k,time,X\n7,0,1\n7,1,2\n7,2,4\n");
+  expectShape(table, 1, 3);
+  EXPECT_EQ(labels(table),
+            (std::vector<std::string>{"Molecule: X", "Molecule: k", ": time", ": Run Index"}));
+  expectValues(table, "Molecule: k", {7, 7, 7});
+}
+
+TEST(RunTableImport, NotesDeclaredParametersThatPlotsLeaveOut)
+{
+  const ImportedTable table = imported(": Time [s],Parameter: c,Parameter: k,Parameter: empty\n"
+                                       "0,7,1,\n1,7,1,\n0,7,2,\n1,7,2,\n");
+  EXPECT_EQ(labels(table), (std::vector<std::string>{": Time [s]", "Parameter: c", "Parameter: k",
+                                                     "Parameter: empty"}));
+  EXPECT_EQ(table.notes, (std::vector<std::string>{
+                             "The parameter \"c\" is the same in all runs and is left out.",
+                             "The parameter \"empty\" is the same in all runs and is left out."}));
 }
 
 TEST(RunTableImport, FindsNoParametersInRunsOfOnePoint)

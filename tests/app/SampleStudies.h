@@ -9,16 +9,16 @@
 #include <string>
 
 /// A table of runs as text: `runs` runs of `points` points of a wave X and its square Y, with the
-/// parameters k and c, of which c is the same in all runs.
+/// parameter k.
 inline std::string sampleRuns(int runs = 3, int points = 4)
 {
   std::ostringstream text;
-  text << "run,time,k,c,X,Y\n";
+  text << "run,time,k,X,Y\n";
   for (int run = 0; run < runs; ++run)
     for (int point = 0; point < points; ++point)
     {
       const double x = 2.0 + std::sin(point * 0.3 + run);
-      text << run << ',' << point << ',' << 0.5 + run << ",7," << x << ',' << x * x << '\n';
+      text << run << ',' << point << ',' << 0.5 + run << ',' << x << ',' << x * x << '\n';
     }
   return text.str();
 }

@@ -13,12 +13,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QColor>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
 #include <set>
+#include <string>
 
 #include "SampleStudies.h"
 
@@ -100,6 +103,28 @@ protected:
     QCoreApplication::processEvents();
   }
 
+  /// Pixels in the colour in which half-transparent highlights lie on white.
+  int redPixels()
+  {
+    plot().updatePlot(true);
+    const QImage picture = plot().grabFramebuffer();
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+      {
+        const QColor color = picture.pixelColor(x, y);
+        count += color.red() > 200 && color.green() < 160 && color.blue() < 150;
+      }
+    return count;
+  }
+
+  void writeRuns(const char* name, const char* runs)
+  {
+    QFile file(folder.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(R"({"format": "talmesh-runs", "version": 1, "runs": )") + runs + "}");
+  }
+
   Runs runs() { return std::unique_ptr<ParameterSelection>(container().getSelection())->runs; }
 
   QTemporaryDir folder;
@@ -132,6 +157,18 @@ TEST_F(SelectionInWindow, IsUndoneAndRedoneFromTheKeyboard)
   EXPECT_EQ(runs(), Runs{});
   press(QKeySequence::Redo);
   EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInWindow, LosesItsHighlightOnUndo)
+{
+  ASSERT_EQ(redPixels(), 0);
+  dragAround(1, 1);
+  const int highlighted = redPixels();
+  EXPECT_GT(highlighted, 100);
+  press(QKeySequence::Undo);
+  EXPECT_EQ(redPixels(), 0);
+  press(QKeySequence::Redo);
+  EXPECT_EQ(redPixels(), highlighted);
 }
 
 TEST_F(SelectionInWindow, IsEverythingOrNothingFromTheKeyboard)
@@ -171,6 +208,34 @@ TEST_F(SelectionInWindow, IsSavedAndLoaded)
   EXPECT_EQ(runs(), (Runs{1, 2}));
   EXPECT_NE(selection.load(folder.filePath("missing.json")), "");
   EXPECT_EQ(runs(), (Runs{1, 2}));
+}
+
+TEST_F(SelectionInWindow, SaysWhichLoadedRunsTheTableDoesNotHave)
+{
+  SelectionController& selection = *window.selectionController();
+  const std::string path = folder.filePath("runs.json").toStdString();
+  writeRuns("runs.json", "[2, 0, 7, 1000]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")),
+            path + ": 2 of its 4 runs are not in this table: 7, 1000");
+  EXPECT_EQ(runs(), Runs({0, 2}));
+  writeRuns("runs.json", "[1, 3]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")),
+            path + ": 1 of its 2 runs is not in this table: 3");
+  EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInWindow, StaysWhenNoneOfTheLoadedRunsIsInTheTable)
+{
+  dragAround(1, 1);
+  SelectionController& selection = *window.selectionController();
+  const std::string path = folder.filePath("runs.json").toStdString();
+  writeRuns("runs.json", "[3, 4]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")),
+            path + ": none of its runs is in this table: 3, 4");
+  EXPECT_EQ(runs(), Runs{1});
+  writeRuns("runs.json", "[]");
+  EXPECT_EQ(selection.load(folder.filePath("runs.json")), "");
+  EXPECT_EQ(runs(), Runs());
 }
 
 TEST_F(SelectionInWindow, SplitsTheRunsForTheStatistics)

@@ -43,12 +43,31 @@ TEST_F(StudyInAContainer, ShowsTheFirstItemOverTimeAsLines)
   EXPECT_FALSE(settings().signalsBlocked());
 }
 
-TEST_F(StudyInAContainer, LeavesParametersThatNeverChangeOut)
+TEST_F(StudyInAContainer, ShowsPlainColumnsThatAreTheSameInAllRuns)
 {
-  showStudy(sampleStudy(), container);
+  showStudy(sampleStudy("run,time,c,X,k\n0,0,7,1,3\n0,1,7,2,3\n1,0,7,3,4\n1,1,7,4,4\n"), container);
   EXPECT_EQ(container.getLabels(),
-            (QStringList{"Molecule: X", "Molecule: Y", ": time", ": Run Index", "Parameter: k"}));
+            (QStringList{"Molecule: X", "Molecule: c", ": time", ": Run Index", "Parameter: k"}));
+  EXPECT_EQ(settings().yColumns, std::vector<int>{0});
   EXPECT_EQ(settings().parameterColumns, std::vector<int>{4});
+}
+
+TEST_F(StudyInAContainer, ShowsEveryColumnOfASingleRun)
+{
+  showStudy(sampleStudy("k,time,X\n7,0,1\n7,1,2\n"), container);
+  EXPECT_EQ(container.getLabels(),
+            (QStringList{"Molecule: X", "Molecule: k", ": time", ": Run Index"}));
+  EXPECT_EQ(settings().yColumns, std::vector<int>{0});
+}
+
+TEST_F(StudyInAContainer, LeavesDeclaredParametersThatNeverChangeOut)
+{
+  showStudy(sampleStudy("Molecule: X,: Time [s],: Run Index,Parameter: c,Parameter: k\n"
+                        "1,0,0,7,3\n2,1,0,7,3\n3,0,1,7,4\n4,1,1,7,4\n"),
+            container);
+  EXPECT_EQ(container.getLabels(),
+            (QStringList{"Molecule: X", ": Time [s]", ": Run Index", "Parameter: k"}));
+  EXPECT_EQ(settings().parameterColumns, std::vector<int>{3});
 }
 
 TEST_F(StudyInAContainer, LimitsTheScatterPlotMatrixToWhatHasParameters)

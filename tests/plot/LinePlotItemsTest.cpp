@@ -5,6 +5,7 @@
 #include <vtkColorSeries.h>
 #include <vtkPlotBar.h>
 #include <vtkPlotLine.h>
+#include <vtkWeakPointer.h>
 
 #include <gtest/gtest.h>
 
@@ -153,6 +154,36 @@ TEST_F(LinePlotItems, DoNothingWhileNoXYChartIsShown)
     drawStyle(style);
     ASSERT_EQ(chart(), nullptr);
     container.setLinePlotItems(&items);
+    scene.render(container);
+  }
+}
+
+TEST_F(LinePlotItems, DrawIntoTheCellThatIsTheXYChartOfAPage)
+{
+  container.state().columnItems = {{Complex, "A"}, {TimeOrValue, "Time [s]"}, {Parameter, "k"}};
+  container.state().parameterBounds = {{7.0, 9.0}, {7.0, 9.0}};
+  settings().parameterColumns = {2, 2};
+  for (const int style : {multiPlot, selectionCdfPlot})
+  {
+    drawStyle(style);
+    scene.render(container);
+    const vtkWeakPointer<vtkChartXY> cell = chart();
+    vtkChartMatrix* page = container.getChartMatrix();
+    ASSERT_EQ(cell->GetParent(), page) << style;
+    vtkChart* other = page->GetChart(vtkVector2i(0, 0));
+    ASSERT_NE(other, cell.Get()) << style;
+    const vtkIdType otherPlots = other->GetNumberOfPlots();
+    container.setLinePlotItems(&items);
+    ASSERT_EQ(cell->GetNumberOfPlots(), 2) << style;
+    for (int i = 0; i < 2; ++i)
+      EXPECT_STREQ(cell->GetPlot(i)->GetClassName(), "vtkPlotLine") << style;
+    EXPECT_EQ(other->GetNumberOfPlots(), otherPlots) << style;
+    EXPECT_EQ(container.getItem(), page) << style;
+    EXPECT_EQ(chart(), cell.Get()) << style;
+    scene.render(container);
+    drawStyle(xyPlot);
+    EXPECT_NE(chart()->GetParent(), page) << style;
+    EXPECT_EQ(chart()->GetNumberOfPlots(), 1) << style;
     scene.render(container);
   }
 }

@@ -110,4 +110,18 @@ TEST_F(RedrawDetails, RememberWindowsOfTheStyleAsWell)
   EXPECT_EQ(left()->GetMinimum(), 2.0);
 }
 
+/// Only the bottom axis is given back to the chart where no window is remembered.
+TEST_F(RedrawDetails, KeepTheLeftAxisFixedAfterARememberedWindow)
+{
+  container.state().coordinateWindows[{0, 1, 0}] = {1, 2, 3, 4, true};
+  container.redraw();
+  ASSERT_EQ(left()->GetBehavior(), vtkAxis::FIXED);
+  container.setPlotCols(0, 2, 0, false);
+  EXPECT_EQ(bottom()->GetBehavior(), vtkAxis::AUTO);
+  EXPECT_EQ(left()->GetBehavior(), vtkAxis::FIXED);
+  scene.render(container);
+  EXPECT_EQ(left()->GetMinimum(), 2.0);
+  EXPECT_EQ(left()->GetMaximum(), 4.0);
+}
+
 } // namespace

@@ -1,4 +1,6 @@
+#include "plot/SelectionNodes.h"
 #include "support/PlotFixture.h"
+#include "support/SampleRuns.h"
 
 #include <vtkCommand.h>
 #include <vtkNew.h>
@@ -10,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -58,6 +61,117 @@ TEST_F(ReplacedCharts, SurviveARedrawFromTheirOwnHandler)
     QApplication::processEvents();
     scene.render(container);
   }
+}
+
+/// A plot of runs with parameters, whose pages have charts in every cell.
+class ReplacedChartsOfRuns : public PlotFixture, public ::testing::WithParamInterface<int>
+{
+protected:
+  ReplacedChartsOfRuns()
+  {
+    SampleRuns::load(container, SampleRuns::runs(4, 3));
+    settings().xColumns = {SampleRuns::timeColumn};
+    settings().yColumns = {SampleRuns::complexColumn, SampleRuns::timeColumn,
+                           SampleRuns::firstParameterColumn};
+    settings().setLimitColumVisibility(true);
+  }
+
+  /// The charts of the style that take the mouse.
+  std::vector<vtkSmartPointer<vtkAbstractContextItem>> chartsOf(int style)
+  {
+    drawStyle(style);
+    scene.render(container);
+    const Talmesh::plot::PlotState& state = container.state();
+    if (style == scatterPlotMatrix)
+      return {state.scatterPlotMatrix, state.scatterPlotMatrix->GetMainChart(),
+              state.scatterPlotMatrix->GetChart(vtkVector2i(0, 0))};
+    if (style == parallelCoordinates)
+      return {state.parallelCoordinates};
+    return {state.chartMatrix, chart(), state.chartMatrix->GetChart(vtkVector2i(0, 0))};
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Styles, ReplacedChartsOfRuns,
+                         ::testing::Values(scatterPlotMatrix, multiPlot, selectionCdfPlot,
+                                           parallelCoordinates));
+
+TEST_P(ReplacedChartsOfRuns, SurviveARedrawFromTheirOwnHandler)
+{
+  const std::size_t charts = chartsOf(GetParam()).size();
+  for (int style = 0; style <= 10; ++style)
+  {
+    for (std::size_t i = 0; i < charts; ++i)
+    {
+      SCOPED_TRACE(::testing::Message() << "style " << style << ", chart " << i);
+      // Bare, as the handler of a chart knows itself.
+      vtkAbstractContextItem* bare = chartsOf(GetParam())[i];
+      ASSERT_NE(bare, nullptr);
+      vtkNew<Intruder> intruder;
+      int calls = 0;
+      intruder->act = [&]
+      {
+        ++calls;
+        drawStyle(style);
+      };
+      const unsigned long tag = bare->AddObserver(vtkCommand::SelectionChangedEvent, intruder);
+      bare->InvokeEvent(vtkCommand::SelectionChangedEvent);
+      EXPECT_EQ(calls, 1);
+      // What handlers do at their end.
+      if (auto* asChart = vtkChart::SafeDownCast(bare))
+        asChart->GetNumberOfPlots();
+      ASSERT_NE(bare->GetScene(), nullptr);
+      bare->GetScene()->SetDirty(true);
+      bare->RemoveObserver(tag);
+      scene.render(container);
+      QApplication::processEvents();
+      scene.render(container);
+    }
+  }
+}
+
+TEST_P(ReplacedChartsOfRuns, SurviveASelectionFromTheirOwnHandler)
+{
+  const std::size_t charts = chartsOf(GetParam()).size();
+  for (std::size_t i = 0; i < charts; ++i)
+  {
+    vtkAbstractContextItem* bare = chartsOf(GetParam())[i];
+    vtkNew<Intruder> intruder;
+    intruder->act = [&]
+    {
+      const auto row = static_cast<vtkIdType>(i);
+      container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({row}));
+    };
+    const unsigned long tag = bare->AddObserver(vtkCommand::SelectionChangedEvent, intruder);
+    bare->InvokeEvent(vtkCommand::SelectionChangedEvent);
+    ASSERT_NE(bare->GetScene(), nullptr) << i;
+    bare->GetScene()->SetDirty(true);
+    bare->RemoveObserver(tag);
+    EXPECT_EQ(container.getDerivedTables().size(), 8U) << i;
+    scene.render(container);
+    QApplication::processEvents();
+    scene.render(container);
+  }
+}
+
+TEST_P(ReplacedChartsOfRuns, SurviveTheEndOfTheContainerInTheirOwnHandler)
+{
+  auto other = std::make_unique<PlotContainer>(nullptr);
+  PlotScene view;
+  other->setScene(view.scene());
+  SampleRuns::load(*other, SampleRuns::runs(4, 3));
+  other->getMetaData()->yColumns = settings().yColumns;
+  other->setPlotStyle(static_cast<plotStyles>(GetParam()));
+  view.render(*other);
+  vtkAbstractContextItem* bare = other->getItem();
+  vtkNew<Intruder> intruder;
+  intruder->act = [&] { other.reset(); };
+  const unsigned long tag = bare->AddObserver(vtkCommand::SelectionChangedEvent, intruder);
+  bare->InvokeEvent(vtkCommand::SelectionChangedEvent);
+  EXPECT_EQ(other, nullptr);
+  ASSERT_NE(bare->GetScene(), nullptr);
+  bare->GetScene()->SetDirty(true);
+  bare->RemoveObserver(tag);
+  QApplication::processEvents();
 }
 
 TEST(SelectionHandler, MayEndTheContainer)

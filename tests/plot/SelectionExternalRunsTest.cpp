@@ -2,13 +2,17 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "support/SampleRuns.h"
+#include "vtk/VtkCompat.h"
 
+#include <vtkDoubleArray.h>
 #include <vtkIntArray.h>
+#include <vtkObjectFactory.h>
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
 
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -40,6 +44,25 @@ Values firstRowsOf(const SampleRuns::Shape& shape, const std::set<int>& runs)
   setExternal(plot.container, runs);
   return valuesOf(plot.container.getDerivedTables().at(0), "Complex: A");
 }
+
+/// A column whose values cannot be read while `broken` is set.
+class UnreadableColumn : public vtkDoubleArray
+{
+public:
+  static UnreadableColumn* New();
+  TALMESH_VTK_TYPE(UnreadableColumn, vtkDoubleArray);
+  double GetComponent(vtkIdType row, int component) override
+  {
+    if (broken)
+      throw std::runtime_error("unreadable");
+    return this->Superclass::GetComponent(row, component);
+  }
+
+  static bool broken;
+};
+
+bool UnreadableColumn::broken = false;
+vtkStandardNewMacro(UnreadableColumn);
 
 } // namespace
 
@@ -157,4 +180,25 @@ TEST(ExternalRuns, AreDrawnAndLeaveTheSelectionAsItIs)
   EXPECT_EQ(plot.container.state().drawings, before + 1);
   EXPECT_TRUE(plot.scene->GetDirty());
   EXPECT_EQ(SampleRuns::selectedRows(plot.container), std::set<vtkIdType>());
+}
+
+TEST(ExternalRuns, ChangeNothingWhenTheyCannotBeRanked)
+{
+  SampleRuns::Plot plot(SampleRuns::runs(3, 2));
+  vtkNew<UnreadableColumn> parameter;
+  parameter->DeepCopy(plot.container.getTable()->GetColumnByName("Parameter: k1"));
+  plot.container.getTable()->AddColumn(parameter);
+  ASSERT_EQ(plot.container.getTable()->GetColumnByName("Parameter: k1"), parameter.Get());
+  setExternal(plot.container, {1});
+  const auto before = plot.container.getDerivedTables();
+  ASSERT_EQ(before.size(), 3U);
+  const unsigned long drawings = plot.container.state().drawings;
+  UnreadableColumn::broken = true;
+  EXPECT_THROW(setExternal(plot.container, {2}), std::runtime_error);
+  UnreadableColumn::broken = false;
+  EXPECT_EQ(plot.container.getDerivedTables(), before);
+  EXPECT_EQ(plot.container.state().drawings, drawings);
+  EXPECT_FALSE(plot.container.getMetaData()->signalsBlocked());
+  setExternal(plot.container, {2});
+  EXPECT_EQ(plot.container.getDerivedTables().size(), 6U);
 }

@@ -59,6 +59,24 @@ public:
     plot.container.getAnnotationLink()->SetCurrentSelection(selection);
   }
 
+  /// Takes every annotation away, so that the next selection stands alone.
+  void forget()
+  {
+    vtkAnnotationLayers* layers = plot.container.getAnnotationLink()->GetAnnotationLayers();
+    for (unsigned int i = layers->GetNumberOfAnnotations(); i-- > 0;)
+      layers->RemoveAnnotation(layers->GetAnnotation(i));
+    selected.clear();
+  }
+
+  /// The rows that the split marks as selected in an accepted run.
+  Values expectedMarks() const
+  {
+    Values marks;
+    for (int row = 0; row < rowCount; ++row)
+      marks.push_back(selected.count(row) && isAccepted(row / shape.stride));
+    return marks;
+  }
+
   Values expectedFlags() const
   {
     Values flags;
@@ -245,5 +263,35 @@ TEST(RandomSelections, AgreeWithAnIndependentReading)
     expectTheRowsOfChosenRuns(scenario);
     if (HasFailure())
       return;
+  }
+}
+
+TEST(RandomSelections, AgreeWithAnIndependentReadingOneAfterAnother)
+{
+  for (unsigned int seed = 2000; seed < 2200; ++seed)
+  {
+    Scenario scenario(seed);
+    for (int step = 0; step < 8; ++step)
+    {
+      SCOPED_TRACE(::testing::Message() << "seed " << seed << ", step " << step);
+      scenario.forget();
+      scenario.selectAtRandom();
+      const auto flags = vtk::TakeSmartPointer(scenario.container().getCurrentSelection());
+      EXPECT_EQ(SampleRuns::valuesOf(flags), scenario.expectedFlags());
+      expectTheRuns(scenario, scenario.expectedRuns());
+      expectTheSplit(scenario);
+      // Before the first selection that names a row there are no marks.
+      const Values marks =
+          SampleRuns::valuesOf(scenario.container().getTable(), "vtkRemainderSelection");
+      if (!marks.empty() || !scenario.expectedRuns().empty())
+      {
+        EXPECT_EQ(marks, scenario.expectedMarks());
+      }
+      // Some selections come from the list of runs, not from the chart.
+      if (scenario.chance(30))
+        expectTheRowsOfChosenRuns(scenario);
+      if (HasFailure())
+        return;
+    }
   }
 }

@@ -5,14 +5,18 @@
 #include "vtk/vtkCombinedFilterOrSelectedRows.h"
 
 #include <vtkAnnotationLink.h>
+#include <vtkDataSetAttributes.h>
 #include <vtkDoubleArray.h>
 #include <vtkExecutive.h>
+#include <vtkFloatArray.h>
 #include <vtkInformation.h>
 #include <vtkInformationVector.h>
+#include <vtkIntArray.h>
 #include <vtkStringArray.h>
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <set>
 #include <sstream>
 

@@ -121,6 +121,52 @@ TYPED_TEST(RowFilter, KeepsEveryTypeOfColumn)
   EXPECT_EQ(outPairs->GetComponent(1, 1), -1);
 }
 
+TYPED_TEST(RowFilter, FillsTheCellsThatAShortColumnDoesNotHave)
+{
+  configure(this->filter);
+  vtkNew<vtkStringArray> names;
+  names->SetName("name");
+  names->InsertNextValue("row 0");
+  vtkNew<vtkFloatArray> pairs;
+  pairs->SetName("pair");
+  pairs->SetNumberOfComponents(2);
+  pairs->InsertNextTuple2(0.5, -0.5);
+  // A table refuses such columns, but its data does not.
+  vtkDataSetAttributes* data = this->table->GetRowData();
+  data->AddArray(names);
+  data->AddArray(pairs);
+  data->AddArray(makeColumn<vtkDoubleArray>("number", {1.5}));
+  data->AddArray(makeColumn<vtkIntArray>("count", {7}));
+  data->AddArray(makeColumn<vtkDoubleArray>("nothing", {}));
+  this->filter->SetInputData(1, makeRowSelection({0, 1}));
+  ASSERT_TRUE(this->update());
+  vtkTable* selected = this->filter->GetOutput(0);
+  ASSERT_EQ(this->output(0), (Rows{0, 1}));
+  for (vtkIdType column = 0; column < selected->GetNumberOfColumns(); ++column)
+    EXPECT_EQ(selected->GetColumn(column)->GetNumberOfTuples(), 2) << column;
+  EXPECT_EQ(selected->GetValueByName(0, "name").ToString(), "row 0");
+  EXPECT_EQ(selected->GetValueByName(1, "name").ToString(), "");
+  auto* outPairs = vtkFloatArray::SafeDownCast(selected->GetColumnByName("pair"));
+  EXPECT_EQ(outPairs->GetComponent(0, 1), -0.5);
+  EXPECT_TRUE(std::isnan(outPairs->GetComponent(1, 0)));
+  EXPECT_TRUE(std::isnan(outPairs->GetComponent(1, 1)));
+  EXPECT_EQ(numbers(selected, "number")[0], 1.5);
+  EXPECT_TRUE(std::isnan(numbers(selected, "number")[1]));
+  EXPECT_EQ(numbers(selected, "count"), (std::vector<double>{7, 0}));
+  EXPECT_TRUE(std::isnan(numbers(selected, "nothing")[0]));
+}
+
+TYPED_TEST(RowFilter, TakesTimesThatAShortColumnDoesNotHaveForNone)
+{
+  configure(this->filter);
+  this->table->GetRowData()->AddArray(makeColumn<vtkDoubleArray>("short", {0, 1, 2, 0}));
+  this->filter->SetTimeColumnIndex(2);
+  this->filter->SetInputData(1, makeRowSelection({0}));
+  ASSERT_TRUE(this->update());
+  EXPECT_EQ(this->output(0), (Rows{0}));
+  EXPECT_EQ(this->output(1), (Rows{3}));
+}
+
 TYPED_TEST(RowFilter, AddsRowNumbersToBothOutputsOnDemand)
 {
   configure(this->filter);

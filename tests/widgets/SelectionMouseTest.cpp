@@ -1,23 +1,12 @@
-#include "external/ParameterSelection.h"
-#include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
-#include "support/SampleRuns.h"
-#include "widgets/VtkPlotWidget.h"
+#include "SelectionMouse.h"
 
 #include <vtkAnnotationLink.h>
-#include <vtkAxis.h>
-#include <vtkChartXY.h>
 #include <vtkIdTypeArray.h>
-#include <vtkIntArray.h>
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
 
 #include <gtest/gtest.h>
 
-#include <QPoint>
-#include <QTest>
-
-#include <memory>
 #include <set>
 #include <vector>
 
@@ -27,76 +16,6 @@ namespace
 {
 
 using Values = std::vector<double>;
-
-struct DataPoint
-{
-  double x;
-  double y;
-};
-
-/// A shown widget with three runs of three points, over which a mouse is dragged.
-class SelectionMouse : public ::testing::Test
-{
-protected:
-  SelectionMouse()
-  {
-    PlotMetaData& settings = *container().getMetaData();
-    settings.xColumns = {SampleRuns::timeColumn};
-    settings.yColumns = {SampleRuns::complexColumn};
-    SampleRuns::load(container(), SampleRuns::runs(3, 3));
-    container().redraw();
-    widget.updatePlot(true);
-    widget.resize(600, 400);
-    widget.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&widget));
-    widget.updatePlot(true);
-  }
-
-  PlotContainer& container() { return *widget.plotContainer(); }
-
-  /// Where the widget shows a point of the data.
-  QPoint pixelOf(const DataPoint& point)
-  {
-    vtkAxis* bottom = container().getChartXY()->GetAxis(vtkAxis::BOTTOM);
-    vtkAxis* left = container().getChartXY()->GetAxis(vtkAxis::LEFT);
-    const auto along = [](vtkAxis* axis, double value)
-    { return (value - axis->GetMinimum()) / (axis->GetMaximum() - axis->GetMinimum()); };
-    const double x = bottom->GetPoint1()[0] +
-                     along(bottom, point.x) * (bottom->GetPoint2()[0] - bottom->GetPoint1()[0]);
-    const double y =
-        left->GetPoint1()[1] + along(left, point.y) * (left->GetPoint2()[1] - left->GetPoint1()[1]);
-    return {qRound(x), widget.height() - 1 - qRound(y)};
-  }
-
-  void drag(const DataPoint& from, const DataPoint& to,
-            Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-  {
-    const QPoint start = pixelOf(from);
-    const QPoint end = pixelOf(to);
-    QTest::mousePress(&widget, Qt::RightButton, modifiers, start);
-    QMouseEvent move(QEvent::MouseMove, end, widget.mapToGlobal(end), Qt::NoButton, Qt::RightButton,
-                     modifiers);
-    QCoreApplication::sendEvent(&widget, &move);
-    QTest::mouseRelease(&widget, Qt::RightButton, modifiers, end);
-    widget.updatePlot(true);
-  }
-
-  /// Drags a rectangle around the point of `run` at `point`.
-  void dragAround(int run, int point, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-  {
-    const double y = 10 * run + point;
-    drag({point - 0.3, y - 0.4}, {point + 0.3, y + 0.4}, modifiers);
-  }
-
-  Values flags() { return valuesOf(vtk::TakeSmartPointer(container().getCurrentSelection())); }
-
-  std::set<int> runs()
-  {
-    return std::unique_ptr<ParameterSelection>(container().getSelection())->runs;
-  }
-
-  VtkPlotWidget widget;
-};
 
 /// The same for both ways of drawing runs.
 class SelectionMouseOverRuns : public SelectionMouse, public ::testing::WithParamInterface<bool>

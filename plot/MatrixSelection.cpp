@@ -1,0 +1,55 @@
+#include "plot/MatrixSelection.h"
+
+#include "plot/PlotState.h"
+#include "plot/SelectionFlags.h"
+#include "plot/SelectionNodes.h"
+
+#include <vtkCommand.h>
+#include <vtkSelection.h>
+
+namespace Talmesh::plot
+{
+
+MatrixSelection::~MatrixSelection()
+{
+  watch(nullptr);
+}
+
+void MatrixSelection::watch(vtkAnnotationLink* ofMatrix)
+{
+  if (link)
+    link->RemoveObserver(observerTag);
+  link = ofMatrix;
+  if (link)
+    observerTag =
+        link->AddObserver(vtkCommand::AnnotationChangedEvent, this, &MatrixSelection::announce);
+}
+
+void MatrixSelection::show(vtkSelection* selection)
+{
+  if (!link)
+    return;
+  showing = true;
+  link->SetCurrentSelection(copySelection(selection));
+  showing = false;
+}
+
+void MatrixSelection::announce()
+{
+  if (showing || !selected)
+    return;
+  // A copy, because the call may end this object.
+  const auto call = selected;
+  call(link->GetCurrentSelection());
+}
+
+void adoptMatrixSelection(PlotState& state, vtkSelection* selection)
+{
+  const vtkSmartPointer<vtkAnnotationLink> link = state.annotationLink;
+  if (markedRows(selection, state.table) == markedRows(link->GetCurrentSelection(), state.table))
+    return;
+  // The reaction draws again, which shows the selection in the matrix, and may end the container.
+  link->SetCurrentSelection(copySelection(selection));
+}
+
+} // namespace Talmesh::plot
