@@ -66,8 +66,7 @@ void fixRange(vtkAxis* axis, double minimum, double maximum)
   if (!std::isfinite(minimum) || !std::isfinite(maximum))
     return;
   axis->SetBehavior(vtkAxis::FIXED);
-  axis->SetMinimum(minimum);
-  axis->SetMaximum(maximum);
+  axis->SetUnscaledRange(minimum, maximum);
 }
 
 void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window,

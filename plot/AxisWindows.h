@@ -26,8 +26,9 @@ ReducedMetaData currentKey(const PlotState& state);
 /// not finite.
 const CoordinateWindow* rememberedWindow(const PlotState& state);
 
-/// Fixes `axis` to [minimum, maximum]. Limits that are not finite leave it as it is, because VTK
-/// does not finish painting an infinite axis.
+/// Fixes `axis` to [minimum, maximum] in units of the data. An axis that is to be logarithmic is
+/// not while its range holds 0. Limits that are not finite leave it as it is, because VTK does not
+/// finish painting an infinite axis.
 void fixRange(vtkAxis* axis, double minimum, double maximum);
 
 /// Fixes the bottom axis to the remembered window, on a logarithmic scale if `logarithmic`.

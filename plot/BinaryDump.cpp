@@ -128,6 +128,9 @@ void readItems(DumpStream& in, std::vector<TypedConcentrationName>& items)
     const auto kind = static_cast<DataType>(in.readInt());
     items.emplace_back(kind, in.readName().toLatin1().toStdString());
   }
+  // What is left is the beginning of an item, not the counts of the table.
+  if (stated > count)
+    in.fail();
 }
 
 template <typename Array, typename Read>

@@ -25,6 +25,8 @@ public:
   /// A null string for none.
   QString readName();
 
+  /// Makes everything from here on read as zero.
+  void fail() { stream.setStatus(QDataStream::ReadPastEnd); }
   bool failed() const { return stream.status() != QDataStream::Ok; }
   /// Bytes not read yet; 0 when a read has failed.
   qint64 remaining() const;

@@ -42,10 +42,9 @@ protected:
 
 vtkStandardNewMacro(OwnedErrorPoints);
 
-/// With the row index as x, a missing x column does no harm.
+/// With the row index as x, a column that cannot be drawn does no harm as x.
 void feed(const PlotState& state, vtkPlot* plot, vtkTable* table, int x, int y)
 {
-  plot->SetUseIndexForXSeries(state.useIndexForXSeries);
   if (!feedPlot(plot, table, x, y) && state.useIndexForXSeries)
     feedPlotByIndex(plot, table, y);
 }
@@ -54,6 +53,7 @@ void addErrorBars(PlotState& state)
 {
   const PlotMetaData& settings = *state.metaData;
   vtkNew<OwnedErrorPoints> points;
+  points->SetUseIndexForXSeries(state.useIndexForXSeries);
   feed(state, points, state.table, firstOf(settings.xColumns), firstOf(settings.yColumns));
   points->SelectErrorArray(static_cast<vtkIdType>(firstOf(settings.zColumns)));
   points->SetWidth(static_cast<float>(settings.getLineWidth()));
@@ -90,7 +90,11 @@ void addLine(PlotState& state)
     return;
   vtkPlot* line = state.chartXY->AddPlot(vtkChart::LINE);
   vtkTable* table = lineTable(state);
-  feed(state, line, table, hasSecondX ? settings.xColumns[1] : 0, settings.yColumns[1]);
+  const int x = hasSecondX ? settings.xColumns[1] : 0;
+  const int y = settings.yColumns[1];
+  line->SetUseIndexForXSeries(state.useIndexForXSeries);
+  if (columnAt(table, x) && columnAt(table, y))
+    feed(state, line, table, x, y);
   if (table != state.table)
     makeUnselectable(line);
 }

@@ -10,7 +10,8 @@ struct PlotState;
 
 /// Style 7: the first y column over the first x column (or the row index) as points with error
 /// bars, whose half-lengths stand in the first z column, a float column. With a second pair of
-/// columns it is drawn as a line, from the first derived table when there is one.
+/// columns it is drawn as a line, from the first derived table when there is one; without input
+/// unless both columns are there, even where the row index stands in for x.
 void drawErrorBarChart(PlotState& state, vtkContextScene* scene);
 
 } // namespace Talmesh::plot

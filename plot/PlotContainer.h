@@ -254,7 +254,14 @@ public:
   /// @{
   /// A new byte array, the caller's, that holds the typed items and the table.
   QByteArray* binaryDump();
-  /// Replaces items and table by those of a dump, which is only read. Does not draw.
+  /// Replaces items and table by those of a dump, which is only read; null is ignored. Then,
+  /// however damaged the dump: flags in the last column become the current selection, the settings'
+  /// stored window is remembered, the quartiles are computed anew and no selection update is
+  /// pending.
+  ///
+  /// Reading does not draw, but a selection that it restores is a change like any other. With
+  /// parameter columns in the settings the runs are split, ranked by the bounds known before, and
+  /// redraw() is called; without a scene that writes its line and leaves the settings silenced.
   void readDump(QByteArray* data);
   /// @}
 

@@ -6,12 +6,32 @@
 #include <vtkPlot.h>
 #include <vtkTable.h>
 
+#include <cmath>
+
 namespace Talmesh::plot
 {
 
+namespace
+{
+
+bool holdsFiniteValue(vtkDataArray* column)
+{
+  for (vtkIdType i = 0; i < column->GetNumberOfTuples(); ++i)
+  {
+    if (std::isfinite(column->GetComponent(i, 0)))
+      return true;
+  }
+  return false;
+}
+
+} // namespace
+
 bool feedPlot(vtkPlot* plot, vtkTable* table, int xColumn, int yColumn)
 {
-  if (!plottableColumn(table, xColumn) || !plottableColumn(table, yColumn))
+  vtkDataArray* y = plottableColumn(table, yColumn);
+  if (!y || !plottableColumn(table, xColumn))
+    return false;
+  if (plot->GetUseIndexForXSeries() && !holdsFiniteValue(y))
     return false;
   plot->SetInputData(table, columnName(table, xColumn), columnName(table, yColumn));
   return true;

@@ -8,7 +8,9 @@ namespace Talmesh::plot
 {
 
 /// Feeds `plot` from two columns of `table`. Columns that a chart cannot draw (outside the table,
-/// unnamed, not numeric) leave the plot without input, because VTK throws or crashes on them.
+/// unnamed, not numeric) leave the plot without input, because VTK throws or crashes on them; so
+/// does a y column without a finite value in a plot over the row index, which would give the chart
+/// an infinite axis.
 /// @return whether the plot was fed
 bool feedPlot(vtkPlot* plot, vtkTable* table, int xColumn, int yColumn);
 

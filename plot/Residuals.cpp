@@ -75,6 +75,12 @@ std::size_t rowCount(const FitRun& run, const FitSettings& settings)
   return rows;
 }
 
+std::vector<double> firstOnes(std::size_t count, std::vector<double> values)
+{
+  values.resize(std::min(count, values.size()));
+  return values;
+}
+
 std::vector<double> scaledBy(double factor, std::vector<double> values)
 {
   for (double& value : values)
@@ -127,22 +133,6 @@ void addAllSeries(PlotState& state, std::size_t outputs, bool timeCourse, bool s
   }
 }
 
-/// The container's setters reach the first plot only; here all series look alike.
-void markAllPoints(PlotState& state)
-{
-  setMarkerStyle(state, vtkPlotPoints::SQUARE);
-  setPointSize(state, pointSize);
-  for (vtkIdType i = 0; i < state.chartXY->GetNumberOfPlots(); ++i)
-  {
-    auto* points = vtkPlotPoints::SafeDownCast(state.chartXY->GetPlot(i));
-    if (points && !points->IsA("vtkPlotLine"))
-    {
-      points->SetMarkerStyle(vtkPlotPoints::SQUARE);
-      points->SetMarkerSize(static_cast<float>(pointSize));
-    }
-  }
-}
-
 } // namespace
 
 double observationScale(const FitRun& run, const FitSettings& settings)
@@ -188,7 +178,7 @@ vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& se
     const std::vector<double>& predicted = rowAt(predictions, j);
     if (options.sideBySide)
     {
-      writer.add("Prediction" + suffix, predicted);
+      writer.add("Prediction" + suffix, firstOnes(observations.size(), predicted));
       writer.add("Observation" + suffix, observations);
     }
     else
@@ -208,7 +198,8 @@ void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, Resid
   // The axis measures its labels in the scene; without one VTK warns, and scales when painting.
   if (state.chartXY->GetScene())
     state.chartXY->GetAxis(vtkAxis::LEFT)->AutoScale();
-  markAllPoints(state);
+  setMarkerStyle(state, vtkPlotPoints::SQUARE);
+  setPointSize(state, pointSize);
   state.chartXY->Update();
   setPlotTitle(state, options.scaled ? "Scaled Residuals" : "Residuals");
 }

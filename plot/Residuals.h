@@ -37,11 +37,14 @@ void normalizePredictions(const FitSettings& settings, Predictions& predictions)
 
 /// The single-precision table of a residual plot: "Time" for time courses, then per output either
 /// "Residual ..." or "Prediction ..." and "Observation ...". A residual is scale * observation -
-/// prediction. Values that are missing, or that a shorter column lacks, are NaN.
+/// prediction. Values that are missing, or that a shorter column lacks, are NaN; predictions beyond
+/// the last observation of their output are left out.
 vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& settings,
                                         const Predictions& predictions, ResidualOptions options);
 
-/// Plots the plot table, which is one of residualTable, on the XY chart and titles it.
+/// Plots the plot table, which is one of residualTable, on the XY chart and titles it. The settings
+/// get square markers of 3 pixels, which reach the plots that setMarkerStyle and setPointSize reach:
+/// the first one, be it points or a line.
 /// @param outputs number of series, or of pairs of series side by side
 /// @param timeCourse the table begins with "Time", which is x; otherwise the row index is
 void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, ResidualOptions options);

@@ -66,14 +66,14 @@ void feedSeries(StackingPlot* plot, vtkTable* table)
     plot->SetInputArray(static_cast<int>(i) + 1, names[i]);
 }
 
-/// VTK sorts the points by time, which NaN breaks.
+/// VTK sorts the points by time, which NaN breaks, and does not finish an axis with infinite ends.
 bool isTimeAxis(vtkDataArray* time, vtkTable* table)
 {
   if (!time || time->GetNumberOfTuples() != table->GetNumberOfRows())
     return false;
   for (vtkIdType i = 0; i < time->GetNumberOfTuples(); ++i)
   {
-    if (std::isnan(time->GetComponent(i, 0)))
+    if (!std::isfinite(time->GetComponent(i, 0)))
       return false;
   }
   return true;

@@ -29,48 +29,50 @@ double squaredDistance(double a, double b)
 struct Sums
 {
   explicit Sums(std::size_t outputs, std::size_t inputs)
-      : value(outputs)
-      , square(outputs)
+      : mean(outputs)
+      , deviation(outputs)
       , fromB(outputs, Values(inputs))
       , fromA(outputs, Values(inputs))
   {
   }
 
-  void addVariance(const Values& a, const Values& b)
+  /// By Welford's recurrence, which neither finds a variance in a constant nor loses one to a large
+  /// mean.
+  void addValues(const Values& values)
   {
-    for (std::size_t output = 0; output < value.size(); ++output)
+    count += 1.0;
+    for (std::size_t output = 0; output < mean.size(); ++output)
     {
-      value[output] += a[output] + b[output];
-      square[output] += a[output] * a[output] + b[output] * b[output];
+      const double distance = values[output] - mean[output];
+      mean[output] += distance / count;
+      deviation[output] += distance * (values[output] - mean[output]);
     }
   }
 
   void addDistances(std::size_t input, const Values& a, const Values& b, const Values& mixed)
   {
-    for (std::size_t output = 0; output < value.size(); ++output)
+    for (std::size_t output = 0; output < mean.size(); ++output)
     {
       fromB[output][input] += squaredDistance(b[output], mixed[output]);
       fromA[output][input] += squaredDistance(a[output], mixed[output]);
     }
   }
 
-  Values value;
-  Values square;
+  double count = 0.0;
+  Values mean;
+  Values deviation;          ///< squared, from the mean: 2 N V
   std::vector<Values> fromB; ///< squared distances of B from the mixed points, per input
   std::vector<Values> fromA;
 };
 
-SobolIndices indicesFrom(Sums sums, std::size_t samples)
+SobolIndices indicesFrom(Sums sums)
 {
-  const auto count = 2.0 * static_cast<double>(samples);
-  for (std::size_t output = 0; output < sums.value.size(); ++output)
+  for (std::size_t output = 0; output < sums.mean.size(); ++output)
   {
-    const double mean = sums.value[output] / count;
-    const double variance = sums.square[output] / count - mean * mean;
     for (double& distance : sums.fromB[output])
-      distance = 1.0 - distance / (count * variance);
+      distance = 1.0 - distance / sums.deviation[output];
     for (double& distance : sums.fromA[output])
-      distance = distance / (count * variance);
+      distance = distance / sums.deviation[output];
   }
   return {sums.fromB, sums.fromA};
 }
@@ -92,7 +94,8 @@ SobolIndices estimateSobolIndices(const UnitCubeModel& model, std::size_t inputs
     const Values fB = model(b);
     if (sums.empty())
       sums.emplace_back(fA.size(), inputs);
-    sums.front().addVariance(fA, fB);
+    sums.front().addValues(fA);
+    sums.front().addValues(fB);
     for (std::size_t input = 0; input < inputs; ++input)
     {
       Values mixed = a;
@@ -100,7 +103,7 @@ SobolIndices estimateSobolIndices(const UnitCubeModel& model, std::size_t inputs
       sums.front().addDistances(input, fA, fB, model(mixed));
     }
   }
-  return indicesFrom(sums.front(), samples);
+  return indicesFrom(sums.front());
 }
 
 } // namespace Talmesh::stats

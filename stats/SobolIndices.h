@@ -31,7 +31,7 @@ using UnitCubeModel = std::function<std::vector<double>(const std::vector<double
 /// (M. J. W. Jansen, Analysis of variance designs for model output, Computer Physics Communications
 /// 117, 1999, 35-43) with V the variance of f over A and B. Estimates can fall below 0. The model
 /// is evaluated samples * (inputs + 2) times. An output that does not vary has indices that are not
-/// a number.
+/// a number, whatever its value.
 /// @param samples N, at least 1; otherwise the result is empty
 /// @param seed of the Mersenne Twister that draws the points, the same everywhere
 SobolIndices estimateSobolIndices(const UnitCubeModel& model, std::size_t inputs,

@@ -19,8 +19,8 @@ public:
   explicit LinePlotWidget(QWidget* parent = nullptr);
   ~LinePlotWidget() override;
 
-  /// Shows a data set, which stays the caller's and is copied. Null is ignored, and so is a series
-  /// without values.
+  /// Shows a data set, which stays the caller's and is copied. Null is ignored. The selector offers
+  /// every item; one whose series is null draws nothing.
   void setData(LinePlotData* series);
   /// Shows that there are no data; the selector and the table are emptied.
   void removeData();

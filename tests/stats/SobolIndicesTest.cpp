@@ -81,9 +81,37 @@ TEST(SobolIndices, EvaluateTheModelOncePerPoint)
 
 TEST(SobolIndices, AreNoNumbersForAnOutputThatDoesNotVary)
 {
-  const SobolIndices indices = estimateSobolIndices(
-      [](const std::vector<double>&) { return std::vector<double>{2.0}; }, 1, 8, seed);
-  EXPECT_TRUE(std::isnan(indices.total[0][0]));
+  // Only the first of these is exact in binary.
+  for (const double value : {2.0, 0.1, 0.3, 1.0 / 3.0, 0.7, -1e8})
+  {
+    for (const std::size_t samples : {8U, 100U, 512U})
+    {
+      const SobolIndices indices = estimateSobolIndices([value](const std::vector<double>&)
+                                                        { return std::vector<double>{value}; },
+                                                        1, samples, seed);
+      EXPECT_TRUE(std::isnan(indices.firstOrder[0][0])) << value << ' ' << samples;
+      EXPECT_TRUE(std::isnan(indices.total[0][0])) << value << ' ' << samples;
+    }
+  }
+}
+
+TEST(SobolIndices, DoNotDependOnTheMeanOfAnOutput)
+{
+  for (const double mean : {1e6, 1e8, -1e10})
+  {
+    const auto model = [mean](const std::vector<double>& u)
+    {
+      const double value = u[0] + 3.0 * u[1];
+      return std::vector<double>{value, mean + value};
+    };
+    const SobolIndices indices = estimateSobolIndices(model, 2, 1000, seed);
+    for (const std::size_t input : {0U, 1U})
+    {
+      // At 1e10 an output is rounded to 2e-6.
+      EXPECT_NEAR(indices.firstOrder[0][input], indices.firstOrder[1][input], 1e-5) << mean;
+      EXPECT_NEAR(indices.total[0][input], indices.total[1][input], 1e-5) << mean;
+    }
+  }
 }
 
 TEST(SobolIndices, AreEmptyWithoutSamples)

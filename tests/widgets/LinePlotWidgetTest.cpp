@@ -1,10 +1,4 @@
-#include "widgets/LinePlotWidget.h"
-
-#include "external/LinePlotData.h"
-#include "plot/PlotContainer.h"
-#include "widgets/PlotSelector.h"
 #include "widgets/TableExport.h"
-#include "widgets/VtkPlotWidget.h"
 
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
@@ -13,56 +7,18 @@
 #include <vtkPlot.h>
 #include <vtkTable.h>
 
-#include <gtest/gtest.h>
-
 #include <QFile>
 #include <QLabel>
 #include <QMetaMethod>
-#include <QPushButton>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTest>
+
+#include "LinePlotFixture.h"
 
 namespace
 {
 
-class LinePlot : public ::testing::Test
-{
-protected:
-  LinePlot()
-  {
-    data.xName = "Time [s]";
-    data.yName = "Count";
-    data.xValues = &time;
-    data.series[{Talmesh::Molecule, "A"}] = &a;
-    data.series[{Talmesh::Parameter, "k"}] = &k;
-  }
-
-  template <typename Child>
-  Child* find(const char* name)
-  {
-    return widget.findChild<Child*>(name);
-  }
-  PlotContainer& container() { return *find<VtkPlotWidget>("plotter")->plotContainer(); }
-  QStackedWidget* pages() { return find<QStackedWidget>("stackedWidget"); }
-  void press(const char* button)
-  {
-    QTest::mousePress(find<QPushButton>(button), Qt::LeftButton);
-    QTest::mouseRelease(find<QPushButton>(button), Qt::LeftButton);
-  }
-  void show()
-  {
-    widget.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
-  }
-
-  std::vector<double> time = {0, 1, 2};
-  std::vector<double> a = {3, 4, 5};
-  std::vector<double> k = {1, 1, 1};
-  LinePlotData data;
-  LinePlotWidget widget;
-};
+using LinePlot = LinePlotFixture;
 
 TEST_F(LinePlot, StartsWithoutData)
 {

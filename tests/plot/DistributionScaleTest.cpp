@@ -1,0 +1,86 @@
+#include "external/Distribution.h"
+#include "support/PlotFixture.h"
+#include "support/VtkErrors.h"
+
+namespace
+{
+
+/// Distributions on a chart that showed other data on logarithmic axes.
+class DistributionScale : public PlotFixture
+{
+protected:
+  void showDecades(double sign)
+  {
+    container.setPlotData(
+        tableOf({{"x", {1.0, 10.0, 100.0}}, {"y", {sign, 10.0 * sign, 1000.0 * sign}}}));
+    container.redraw();
+    container.setLogScaleY(true);
+    scene.render(container);
+    ASSERT_TRUE(left()->GetLogScaleActive());
+  }
+
+  /// Before and after painting.
+  void expectPlainLeftAxis(double maximum)
+  {
+    for (int painted = 0; painted < 2; ++painted)
+    {
+      EXPECT_FALSE(left()->GetLogScaleActive()) << painted;
+      EXPECT_EQ(left()->GetMinimum(), 0.0) << painted;
+      EXPECT_EQ(left()->GetMaximum(), maximum) << painted;
+      EXPECT_EQ(left()->GetUnscaledMinimum(), 0.0) << painted;
+      EXPECT_EQ(left()->GetUnscaledMaximum(), maximum) << painted;
+      scene.render(container);
+    }
+  }
+
+  UniformDistribution uniform{0.0, 1.0};
+};
+
+TEST_F(DistributionScale, OfTheDensityIsPlain)
+{
+  for (const double sign : {1.0, -1.0})
+  {
+    showDecades(sign);
+    container.setDistribution(&uniform);
+    expectPlainLeftAxis(1.05);
+  }
+}
+
+TEST_F(DistributionScale, OfAFixedValueIsPlain)
+{
+  PointMassDistribution fixed(4.0);
+  for (const double sign : {1.0, -1.0})
+  {
+    showDecades(sign);
+    container.setDistribution(&fixed);
+    expectPlainLeftAxis(0.0);
+  }
+}
+
+TEST_F(DistributionScale, IsLogarithmicAgainForOtherData)
+{
+  showDecades(1.0);
+  container.setDistribution(&uniform);
+  scene.render(container);
+  container.setPlotData(tableOf({{"x", {1.0, 10.0, 100.0}}, {"y", {1.0, 10.0, 1000.0}}}));
+  container.redraw();
+  scene.render(container);
+  EXPECT_TRUE(left()->GetLogScaleActive());
+  EXPECT_EQ(left()->GetBehavior(), vtkAxis::AUTO);
+}
+
+TEST_F(DistributionScale, OfTheParameterStaysLogarithmicWherePossible)
+{
+  VtkErrors errors;
+  settings().setLogX(true);
+  LogUniformDistribution positive(1.0, 100.0);
+  container.setDistribution(&positive);
+  scene.render(container);
+  EXPECT_TRUE(bottom()->GetLogScaleActive());
+  container.setDistribution(&uniform);
+  scene.render(container);
+  EXPECT_FALSE(bottom()->GetLogScaleActive());
+  EXPECT_EQ(errors.text(), "");
+}
+
+} // namespace
