@@ -211,9 +211,11 @@ public:
 
   /// @name Pages and special plots
   /// @{
-  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
+  /// @throws std::out_of_range when a pair plot would be titled by a parameter column with a name
+  ///   shorter than 11 characters
   void drawMulitPlot(vtkContextScene* scene);
-  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
+  /// @throws std::out_of_range when a parameter would be shown whose column has a name shorter than
+  ///   11 characters
   void drawSelectionCdfPlot(vtkContextScene* scene);
   /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
   void drawFitParameterDistributionPlot(vtkContextScene* scene);
