@@ -70,6 +70,8 @@ void releaseChartXY(PlotState& state)
 void resetChartMatrix(PlotState& state, int columns, int rows)
 {
   const ChartCells dropped = cellsOf(state.chartMatrix);
+  for (const auto& cell : dropped)
+    cell->RemoveAllObservers();
   if (isMatrixCell(state))
     releaseChartXY(state);
   state.chartMatrix->SetSize(vtkVector2i(0, 0));

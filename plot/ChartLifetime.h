@@ -39,7 +39,8 @@ void releaseChartXY(PlotState& state);
 
 /// Gives the chart matrix `columns` x `rows` fresh cells: no span, resize, title, range, log flag,
 /// observer or mouse action of an earlier page survives. An XY chart that was one of the cells is
-/// released.
+/// released. The charts dropped lose all their observers, so that a mouse handler still running in
+/// one of them reports nothing to the new page; they keep their plots, which it may be walking.
 void resetChartMatrix(PlotState& state, int columns, int rows);
 
 using ChartCells = std::vector<vtkSmartPointer<vtkAbstractContextItem>>;

@@ -3,6 +3,9 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/PlotState.h"
+#include "plot/ScatterMatrix.h"
+#include "plot/SelectionFlags.h"
+#include "plot/TableColumns.h"
 
 #include <vtkPlot.h>
 
@@ -108,6 +111,7 @@ void detachPlots(PlotState& state)
   vtkNew<vtkTable> before;
   before->ShallowCopy(state.table);
   feedFrom(state.chartXY, state.table, before);
+  feedScatterMatrixFrom(state, before);
   for (vtkChartMatrix* matrix :
        {state.chartMatrix.Get(), static_cast<vtkChartMatrix*>(state.scatterPlotMatrix.Get())})
   {
@@ -118,7 +122,42 @@ void detachPlots(PlotState& state)
     state.parallelCoordinates->GetPlot(0)->vtkPlot::SetInputData(before);
 }
 
+/// Takes what the settings and the typed items say of column `from` to the end of the table and
+/// lets the columns behind it move up.
+void moveToEnd(PlotState& state, int from)
+{
+  const int last = static_cast<int>(state.table->GetNumberOfColumns()) - 1;
+  const auto move = [&](int& column)
+  {
+    if (column == from)
+      column = last;
+    else if (column > from && column <= last)
+      --column;
+  };
+  PlotMetaData& settings = *state.metaData;
+  for (auto* list :
+       {&settings.xColumns, &settings.yColumns, &settings.zColumns, &settings.parameterColumns})
+    std::for_each(list->begin(), list->end(), move);
+  move(settings.colorColumn);
+  auto& items = state.columnItems;
+  if (static_cast<std::size_t>(from) >= items.size())
+    return;
+  const bool complete = items.size() == static_cast<std::size_t>(last) + 1;
+  std::rotate(items.begin() + from, items.begin() + from + 1, items.end());
+  // The items must stay parallel to the columns, and those in front of the flags have none.
+  if (!complete)
+    items.pop_back();
+}
+
 } // namespace
+
+void appendFlagColumn(PlotState& state, vtkIntArray* flags)
+{
+  const int older = columnIndex(state.table, selectionFlagColumn);
+  if (older >= 0)
+    moveToEnd(state, older);
+  replaceFlagColumn(state.table, flags);
+}
 
 void reduceToUsedColumns(PlotState& state)
 {

@@ -1,6 +1,8 @@
 #ifndef ColumnReduction_h
 #define ColumnReduction_h
 
+class vtkIntArray;
+
 namespace Talmesh::plot
 {
 
@@ -14,6 +16,11 @@ struct PlotState;
 /// One line on standard error names a colour column that is 0 or outside the table. Plots that were
 /// fed from the table go on showing the columns that they were fed from.
 void reduceToUsedColumns(PlotState& state);
+
+/// Makes `flags` the last column of the plot table, in the place of an older column of flags. The
+/// settings and the typed items follow the columns that move: entries that named the older column
+/// name the new one.
+void appendFlagColumn(PlotState& state, vtkIntArray* flags);
 
 } // namespace Talmesh::plot
 

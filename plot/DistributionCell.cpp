@@ -6,6 +6,7 @@
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "plot/TypedColumns.h"
 #include "vtk/vtkPlotStepLine.h"
 
 #include <vtkAxis.h>
@@ -41,14 +42,6 @@ std::size_t rankSlot(std::size_t dataSet)
 vtkTable* tableInSlot(const PlotState& state, std::size_t slot)
 {
   return slot < state.derivedTables.size() ? state.derivedTables[slot].Get() : nullptr;
-}
-
-std::string itemLabel(const PlotState& state, std::size_t parameter)
-{
-  const auto column = static_cast<std::size_t>(state.metaData->parameterColumns[parameter]);
-  return column < state.columnItems.size()
-             ? Talmesh::selectionPairToString(state.columnItems[column])
-             : "";
 }
 
 /// Adds the curve of one data set. Without its columns, for example for a parameter that came after
@@ -107,10 +100,9 @@ void fillDistributionCell(PlotState& state, vtkChart* chart, std::size_t paramet
                           const std::string& title)
 {
   disablePanAndZoom(chart);
-  vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
-  dressParameterAxis(state, bottom, state.metaData->parameterColumns[parameter], title, true);
-  bottom->SetBehavior(vtkAxis::AUTO);
-  addCurves(state, chart, itemLabel(state, parameter));
+  addCurves(state, chart, parameterLabel(state, parameter));
+  dressParameterAxis(state, chart, vtkAxis::BOTTOM, title, true);
+  chart->GetAxis(vtkAxis::BOTTOM)->SetBehavior(vtkAxis::AUTO);
   if (parameter < state.ksResults.size())
     chart->SetTitle(pValueLabel(state.ksResults[parameter].pValue));
   dressLeftAxis(state, chart->GetAxis(vtkAxis::LEFT));

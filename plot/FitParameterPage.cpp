@@ -66,8 +66,8 @@ void drawPair(PlotState& state, const std::vector<std::string>& titles, int i, i
   enableSelection(state, chart);
   disablePanAndZoom(chart);
   addPoints(state, chart, columns[x], columns[y]);
-  dressParameterAxis(state, chart->GetAxis(vtkAxis::BOTTOM), columns[x], titles[x], j == 0);
-  dressParameterAxis(state, chart->GetAxis(vtkAxis::LEFT), columns[y], titles[y], i == 0);
+  dressParameterAxis(state, chart, vtkAxis::BOTTOM, titles[x], j == 0);
+  dressParameterAxis(state, chart, vtkAxis::LEFT, titles[y], i == 0);
 }
 
 /// The axes of a diagonal chart are labelled, but only the first and last have a margin for that.
@@ -88,7 +88,7 @@ void drawCourse(PlotState& state, const std::vector<std::string>& titles, int m)
   const int column = state.metaData->parameterColumns[k];
   addPoints(state, chart, iterationColumn, column);
   chart->GetAxis(vtkAxis::BOTTOM)->SetTitle("Iteration");
-  dressParameterAxis(state, chart->GetAxis(vtkAxis::LEFT), column, titles[k], true);
+  dressParameterAxis(state, chart, vtkAxis::LEFT, titles[k], true);
   makeLabelRoom(state, m, parameters);
 }
 

@@ -1,7 +1,9 @@
 #include "plot/KsComparison.h"
 
+#include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "plot/TypedColumns.h"
 #include "stats/KolmogorovSmirnov.h"
 
 namespace Talmesh::plot
@@ -36,6 +38,8 @@ KsStatistics compare(const Sample& a, const Sample& b)
   return {test.pValue(), test.statistic()};
 }
 
+constexpr KsStatistics resultOfEmptySamples = {1.0, 0.0};
+
 } // namespace
 
 void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t second)
@@ -48,6 +52,20 @@ void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t seco
   const int parameters = static_cast<int>(selected->GetNumberOfColumns()) / 2;
   for (int k = 0; k < parameters; ++k)
     state.ksResults.push_back(compare(sampleOf(selected, 2 * k + 1), sampleOf(others, 2 * k + 1)));
+}
+
+void alignResults(PlotState& state, std::size_t first)
+{
+  std::vector<KsStatistics> aligned;
+  for (std::size_t k = 0; k < state.metaData->parameterColumns.size(); ++k)
+  {
+    const std::string sorted = "Sorted " + parameterLabel(state, k);
+    const int column = columnIndex(slotTable(state, first), sorted);
+    const auto pair = static_cast<std::size_t>(column / 2);
+    const bool tested = column >= 0 && pair < state.ksResults.size();
+    aligned.push_back(tested ? state.ksResults[pair] : resultOfEmptySamples);
+  }
+  state.ksResults = aligned;
 }
 
 } // namespace Talmesh::plot

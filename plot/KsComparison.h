@@ -18,6 +18,12 @@ struct PlotState;
 /// @throws std::overflow_error where the log-gamma function overflows, for immense samples
 void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t second);
 
+/// Brings `ksResults`, whose order is that of the parameters in the rank table of slot `first`,
+/// into the order of the settings' parameter list. They differ when a parameter could not be
+/// ranked: it has no columns in that table and gets the result of empty samples, a distance of 0
+/// with p = 1.
+void alignResults(PlotState& state, std::size_t first);
+
 } // namespace Talmesh::plot
 
 #endif

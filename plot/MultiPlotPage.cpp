@@ -12,11 +12,15 @@
 #include <vtkAxis.h>
 #include <vtkPlot.h>
 
+#include <cmath>
+
 namespace Talmesh::plot
 {
 
 namespace
 {
+
+using Titles = std::vector<std::string>;
 
 constexpr double rangePadding = 0.05;
 
@@ -28,7 +32,7 @@ void addBlackPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
 }
 
 /// Rows count from the bottom and run through the parameters backwards.
-void drawPair(PlotState& state, const std::vector<std::string>& titles, int column, int row)
+void drawPair(PlotState& state, const Titles& titles, int column, int row)
 {
   const std::vector<int>& parameters = state.metaData->parameterColumns;
   const auto x = static_cast<std::size_t>(column);
@@ -38,8 +42,21 @@ void drawPair(PlotState& state, const std::vector<std::string>& titles, int colu
   vtkChart* chart = state.chartMatrix->GetChart(cell);
   enableSelection(state, chart);
   addBlackPoints(state, chart, parameters[x], parameters[y]);
-  dressParameterAxis(state, chart->GetAxis(vtkAxis::BOTTOM), parameters[x], titles[x], row == 0);
-  dressParameterAxis(state, chart->GetAxis(vtkAxis::LEFT), parameters[y], titles[y], column == 0);
+  dressParameterAxis(state, chart, vtkAxis::BOTTOM, titles[x], row == 0);
+  dressParameterAxis(state, chart, vtkAxis::LEFT, titles[y], column == 0);
+}
+
+/// The axis stays automatic, so that the range ends at the first paint. Limits that are not finite
+/// would keep VTK from painting it.
+void padRange(vtkAxis* axis, const double range[2])
+{
+  const double padding = rangePadding * (range[1] - range[0]);
+  const double minimum = range[0] - padding;
+  const double maximum = range[1] + padding;
+  if (!std::isfinite(minimum) || !std::isfinite(maximum))
+    return;
+  axis->SetMinimum(minimum);
+  axis->SetMaximum(maximum);
 }
 
 void dressMainChart(PlotState& state)
@@ -49,11 +66,7 @@ void dressMainChart(PlotState& state)
   bottom->SetTitle(settings.xLabel);
   double range[2];
   if (finiteRange(doubleColumn(state.table, firstOf(settings.xColumns)), range))
-  {
-    const double padding = rangePadding * (range[1] - range[0]);
-    bottom->SetMinimum(range[0] - padding);
-    bottom->SetMaximum(range[1] + padding);
-  }
+    padRange(bottom, range);
   applyTickLabelsByIndex(state, bottom);
   state.chartXY->GetAxis(vtkAxis::LEFT)->SetTitle(settings.yLabel);
   state.chartXY->SetTitle(settings.title);
@@ -75,8 +88,8 @@ void drawMainChart(PlotState& state, int parameters)
 
 void drawMultiPlotPage(PlotState& state, vtkContextScene* scene)
 {
-  const std::vector<std::string> titles = parameterTitles(state);
-  const int n = static_cast<int>(titles.size());
+  const int n = static_cast<int>(state.metaData->parameterColumns.size());
+  const Titles titles = n > 1 ? parameterTitles(state) : Titles{};
   showChart(state, state.chartMatrix, scene);
   resetChartMatrix(state, n, n);
   applyMultiPlotBorders(state);

@@ -52,8 +52,9 @@ void colorLines(PlotState& state)
   double range[2];
   const bool usable = finiteRange(plottableColumn(state.table, state.metaData->colorColumn), range);
   plot->SetScalarVisibility(usable);
+  // By index: the search by name reads every name on its way and crashes on a column without one.
   if (usable)
-    plot->SelectColorArray(columnName(state.table, state.metaData->colorColumn));
+    plot->SelectColorArray(static_cast<vtkIdType>(state.metaData->colorColumn));
 }
 
 /// A plot that keeps an input keeps the columns that it last saw visible, so the chart gets a new

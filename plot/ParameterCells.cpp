@@ -20,14 +20,17 @@ constexpr int neverPressed = -1;
 
 } // namespace
 
+std::string parameterTitle(const PlotState& state, std::size_t parameter)
+{
+  vtkAbstractArray* column = columnAt(state.table, state.metaData->parameterColumns[parameter]);
+  return column && column->GetName() ? withoutPrefix(column->GetName()) : "";
+}
+
 std::vector<std::string> parameterTitles(const PlotState& state)
 {
   std::vector<std::string> titles;
-  for (const int column : state.metaData->parameterColumns)
-  {
-    const std::string name = columnName(state.table, column);
-    titles.push_back(name.empty() ? "" : withoutPrefix(name));
-  }
+  for (std::size_t k = 0; k < state.metaData->parameterColumns.size(); ++k)
+    titles.push_back(parameterTitle(state, k));
   return titles;
 }
 
@@ -43,13 +46,14 @@ void enableSelection(const PlotState& state, vtkChart* chart)
   chart->SetActionToButton(vtkChart::SELECT, vtkContextMouseEvent::RIGHT_BUTTON);
 }
 
-void dressParameterAxis(const PlotState& state, vtkAxis* axis, int column, const std::string& title,
-                        bool atEdge)
+void dressParameterAxis(const PlotState& state, vtkChart* chart, int position,
+                        const std::string& title, bool atEdge)
 {
+  vtkAxis* axis = chart->GetAxis(position);
   axis->SetTitle(atEdge ? title : "");
   axis->SetLabelsVisible(atEdge);
   axis->SetLogScale(state.metaData->getLogParameterAxes());
-  useDecadeTicks(axis, plottableColumn(state.table, column));
+  useDecadeTicks(chart, position);
 }
 
 } // namespace Talmesh::plot

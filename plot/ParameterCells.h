@@ -1,10 +1,10 @@
 #ifndef ParameterCells_h
 #define ParameterCells_h
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
-class vtkAxis;
 class vtkChart;
 
 namespace Talmesh::plot
@@ -12,9 +12,14 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// Axis titles of the parameter columns: their names without the type word. A parameter column that
-/// the table does not have, or that has no name, has an empty title.
-/// @throws std::out_of_range for a name shorter than the type word
+/// Axis title of the parameter at position `parameter` of the settings' list: the name of its
+/// column without the type word. A parameter column that the table does not have, or that has no
+/// name at all, has an empty title.
+/// @throws std::out_of_range for a name shorter than the type word, also for an empty one
+std::string parameterTitle(const PlotState& state, std::size_t parameter);
+
+/// The titles of all parameters.
+/// @throws std::out_of_range as above
 std::vector<std::string> parameterTitles(const PlotState& state);
 
 /// Takes panning and zooming off the chart's mouse buttons.
@@ -24,10 +29,12 @@ void disablePanAndZoom(vtkChart* chart);
 /// mouse button.
 void enableSelection(const PlotState& state, vtkChart* chart);
 
-/// Dresses the axis of the parameter in table column `column`: titled and labelled at the edge of
-/// the page, bare between charts, logarithmic as the settings say.
-void dressParameterAxis(const PlotState& state, vtkAxis* axis, int column, const std::string& title,
-                        bool atEdge);
+/// Dresses an axis along which a chart shows a parameter: titled and labelled at the edge of the
+/// page, bare between charts, logarithmic as the settings say. The chart must have its plots
+/// already, because they decide on the ticks.
+/// @param position vtkAxis::BOTTOM or vtkAxis::LEFT
+void dressParameterAxis(const PlotState& state, vtkChart* chart, int position,
+                        const std::string& title, bool atEdge);
 
 } // namespace Talmesh::plot
 

@@ -229,8 +229,11 @@ public:
   /// @name Pages and special plots
   /// @{
   /// Draw the page of style 5, 6 or 8 into `scene` whatever the present style.
-  /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters
+  /// @throws std::out_of_range when a pair plot would be titled by a parameter column with a name
+  ///   shorter than 11 characters
   void drawMulitPlot(vtkContextScene* scene);
+  /// @throws std::out_of_range when a parameter would be shown whose column has a name shorter than
+  ///   11 characters
   void drawSelectionCdfPlot(vtkContextScene* scene);
   void drawFitParameterDistributionPlot(vtkContextScene* scene);
   /// Draws the chart of style 7 into `scene`.

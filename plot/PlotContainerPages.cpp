@@ -19,5 +19,5 @@ void PlotContainer::shrinkToColumnSelection()
 {
   Talmesh::plot::reduceToUsedColumns(*d);
   if (vtkSmartPointer<vtkIntArray> flags = Talmesh::plot::selectionFlags(*d))
-    Talmesh::plot::replaceFlagColumn(d->table, flags);
+    Talmesh::plot::appendFlagColumn(*d, flags);
 }

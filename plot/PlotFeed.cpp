@@ -3,7 +3,7 @@
 #include "plot/TableColumns.h"
 
 #include <vtkDataArray.h>
-#include <vtkPlot.h>
+#include <vtkPlotPoints.h>
 #include <vtkTable.h>
 
 #include <cmath>
@@ -41,6 +41,18 @@ bool feedPlotByIndex(vtkPlot* plot, vtkTable* table, int yColumn)
 {
   plot->SetUseIndexForXSeries(true);
   return feedPlot(plot, table, yColumn, yColumn);
+}
+
+bool colorPoints(vtkPlotPoints* plot, const std::string& column, vtkScalarsToColors* colors)
+{
+  const int index = columnIndex(plot->GetInput(), column);
+  if (!plottableColumn(plot->GetInput(), index))
+    return false;
+  plot->ScalarVisibilityOn();
+  plot->SetLookupTable(colors);
+  // By index: the search by name reads every name on its way and crashes on a column without one.
+  plot->SelectColorArray(static_cast<vtkIdType>(index));
+  return true;
 }
 
 void makeUnselectable(vtkPlot* plot)

@@ -1,7 +1,11 @@
 #ifndef PlotFeed_h
 #define PlotFeed_h
 
+#include <string>
+
 class vtkPlot;
+class vtkPlotPoints;
+class vtkScalarsToColors;
 class vtkTable;
 
 namespace Talmesh::plot
@@ -16,6 +20,11 @@ bool feedPlot(vtkPlot* plot, vtkTable* table, int xColumn, int yColumn);
 
 /// As above for the y column, over the row index as x.
 bool feedPlotByIndex(vtkPlot* plot, vtkTable* table, int yColumn);
+
+/// Colours the points of `plot` by a column of its input through `colors`. A plot without input, or
+/// whose input has no numeric column of that name, stays as it is.
+/// @return whether the plot is coloured
+bool colorPoints(vtkPlotPoints* plot, const std::string& column, vtkScalarsToColors* colors);
 
 /// Excludes from selection a plot whose rows are not those of the plot table: the selection speaks
 /// of rows of that table, and VTK reads past the end of a shorter one.

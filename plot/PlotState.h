@@ -121,7 +121,8 @@ struct PlotState
   std::vector<vtkWeakPointer<vtkPlot>> decorationPlots;
   /// The chart last built from Sobol results, whose plots the reserved styles keep.
   vtkWeakPointer<vtkChartXY> sobolChart;
-  /// Counts the drawings begun, so that a drawing notices when another ran inside it.
+  /// Counts the redraws completed, so that a drawing notices when one ran inside it. One that an
+  /// exception ended does not count: the drawing around it still has a page to fill.
   unsigned long drawings = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "plot/PointAppearance.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "vtk/vtkPlotErrorPoints.h"
@@ -47,9 +48,7 @@ void colorByColumn(PlotState& state, vtkPlotPoints* points)
   double range[2];
   if (!finiteRange(doubleColumn(state.table, column), range))
     return;
-  points->ScalarVisibilityOn();
-  points->SetLookupTable(columnColors(range));
-  points->SelectColorArray(columnName(state.table, column));
+  colorPoints(points, columnName(state.table, column), columnColors(range));
 }
 
 /// The pair plots below the anti-diagonal, then the main chart.

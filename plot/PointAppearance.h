@@ -15,7 +15,8 @@ struct PlotState;
 void setColorScheme(PlotState& state, const std::string& column, bool solid);
 
 /// Colours `plot`, or the XY chart's first plot when it is null, as the settings say. Plots other
-/// than point plots, and a colour column that is not double or has no finite range, change nothing.
+/// than point plots, and a colour column that is not double, has no name or no finite range, or is
+/// not in the input of the plot, change nothing.
 void useColors(PlotState& state, vtkPlot* plot);
 
 /// Stores the marker style, a value of vtkPlotPoints' marker enumeration, and applies it to the XY

@@ -4,6 +4,7 @@
 #include "external/UnivariateDensityDerivative.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "plot/TypedColumns.h"
 #include "stats/RankedParameter.h"
 
 #include <algorithm>
@@ -22,17 +23,11 @@ using Names = std::vector<std::string>;
 
 constexpr double densityAccuracy = 0.01;
 
-/// Label of every parameter; empty where no item has the parameter's position.
 Names parameterLabels(const PlotState& state)
 {
   Names labels;
-  for (const int index : state.metaData->parameterColumns)
-  {
-    const bool valid = index >= 0 && index < static_cast<int>(state.columnItems.size());
-    labels.push_back(
-        valid ? Talmesh::selectionPairToString(state.columnItems[static_cast<std::size_t>(index)])
-              : "");
-  }
+  for (std::size_t k = 0; k < state.metaData->parameterColumns.size(); ++k)
+    labels.push_back(parameterLabel(state, k));
   return labels;
 }
 
@@ -90,6 +85,19 @@ bool holdsOnly(vtkTable* table, const Names& replaced, const Names& kept)
       return false;
   }
   return true;
+}
+
+/// @return false for null
+bool holdsOnlyPrefixed(vtkTable* table, const std::string& one, const std::string& other)
+{
+  const int columns = table ? static_cast<int>(table->GetNumberOfColumns()) : 0;
+  for (int i = 0; i < columns; ++i)
+  {
+    const std::string name = columnName(table, i);
+    if (name.rfind(one, 0) != 0 && name.rfind(other, 0) != 0)
+      return false;
+  }
+  return table != nullptr;
 }
 
 void emptySlot(vtkSmartPointer<vtkTable>& slot, const Names& replaced, const Names& kept)
@@ -170,6 +178,13 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
     state.rankedInputs = presentInputs(state);
     state.metaData->rankedDataCurrent = true;
   }
+}
+
+bool hasOwnRanks(const PlotState& state)
+{
+  const auto& tables = state.derivedTables;
+  return tables.size() > 1 && holdsOnlyPrefixed(tables[0], "Rank of ", "Sorted ") &&
+         holdsOnlyPrefixed(tables[1], "Density of ", "Locations of ");
 }
 
 void dropOutdatedRanks(PlotState& state)

@@ -32,6 +32,10 @@ struct PlotState;
 void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
                               std::size_t tableIndex);
 
+/// Whether slots 0 and 1 hold a rank and a density table, rather than nothing or additional data
+/// that came before any ranking. Tables without columns count: no parameter could be ranked.
+bool hasOwnRanks(const PlotState& state);
+
 /// Clears the settings' flag `rankedDataCurrent` if stride, parameter list or bounds, which anyone
 /// may write, are no longer those that the plot table was ranked with.
 void dropOutdatedRanks(PlotState& state);

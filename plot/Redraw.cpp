@@ -43,11 +43,12 @@ void redraw(PlotState& state)
     return;
   }
   dropOutdatedRanks(state);
-  const unsigned long drawing = ++state.drawings;
+  const unsigned long before = state.drawings;
   builderOf(state.metaData->getPlotStyle())(state, scene);
   // A drawing that ran inside this one has dressed the chart that is now shown.
-  if (drawing == state.drawings)
+  if (state.drawings == before)
     dress(state);
+  ++state.drawings;
   unblockSettings(state);
 }
 

@@ -29,9 +29,18 @@ std::vector<int> columnsToShow(const PlotState& state)
   return columns;
 }
 
+void showColumns(vtkScatterPlotMatrix* matrix, vtkStringArray* names)
+{
+  // The matrix sizes itself to a new input, not to a new choice of columns.
+  matrix->SetSize(vtkVector2i(0, 0));
+  matrix->SetVisibleColumns(names);
+  const int count = static_cast<int>(names->GetNumberOfValues());
+  matrix->SetSize(vtkVector2i(count, count));
+  matrix->Modified();
+}
+
 void showColumns(PlotState& state, const std::vector<int>& columns)
 {
-  vtkScatterPlotMatrix* matrix = state.scatterPlotMatrix;
   vtkNew<vtkStringArray> names;
   for (const int column : columns)
   {
@@ -40,12 +49,7 @@ void showColumns(PlotState& state, const std::vector<int>& columns)
     if (finiteRange(plottableColumn(state.table, column), range) && names->LookupValue(name) < 0)
       names->InsertNextValue(name);
   }
-  // The matrix sizes itself to a new input, not to a new choice of columns.
-  matrix->SetSize(vtkVector2i(0, 0));
-  matrix->SetVisibleColumns(names);
-  const int count = static_cast<int>(names->GetNumberOfValues());
-  matrix->SetSize(vtkVector2i(count, count));
-  matrix->Modified();
+  showColumns(state.scatterPlotMatrix, names);
 }
 
 /// The matrix names a plot by its cell: column counted from the left, row from the bottom, where
@@ -63,6 +67,16 @@ void activatePair(PlotState& state, int xColumn, int yColumn)
   const vtkIdType right = std::max(x, y);
   matrix->Update();
   matrix->SetActivePlot(vtkVector2i(static_cast<int>(left), static_cast<int>(last - right)));
+}
+
+bool hasColumns(vtkTable* table, vtkStringArray* names)
+{
+  for (vtkIdType i = 0; i < names->GetNumberOfValues(); ++i)
+  {
+    if (!columnNamed(table, names->GetValue(i)))
+      return false;
+  }
+  return true;
 }
 
 } // namespace
@@ -88,6 +102,22 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
                                                  static_cast<float>(state.horizontalGutter)));
   state.scatterPlotMatrix->SetBorders(state.leftMargin, state.bottomMargin, state.rightMargin,
                                       state.topMargin);
+}
+
+void feedScatterMatrixFrom(PlotState& state, vtkTable* copy)
+{
+  vtkScatterPlotMatrix* matrix = state.scatterPlotMatrix;
+  vtkNew<vtkStringArray> names;
+  names->DeepCopy(matrix->GetVisibleColumns());
+  if (state.currentChart != matrix || !hasColumns(copy, names))
+    return;
+  const vtkVector2i active = matrix->GetActivePlot();
+  const ChartCells dropped = cellsOf(matrix);
+  matrix->SetInput(copy);
+  showColumns(matrix, names);
+  retireCells(dropped, matrix->GetScene());
+  matrix->Update();
+  matrix->SetActivePlot(active);
 }
 
 } // namespace Talmesh::plot

@@ -2,6 +2,7 @@
 #define ScatterMatrix_h
 
 class vtkContextScene;
+class vtkTable;
 
 namespace Talmesh::plot
 {
@@ -12,6 +13,11 @@ struct PlotState;
 /// column, the first y column and the parameter columns, with (x, y) as the active plot.
 /// Columns that are not numeric, have no name or no finite range are left out.
 void drawScatterMatrix(PlotState& state, vtkContextScene* scene);
+
+/// Lets the matrix, if it is the chart now shown, go on showing what it shows from `copy`: it looks
+/// its columns up in its input whenever another pair is chosen. To be called while the plot table
+/// still has all columns of `copy`.
+void feedScatterMatrixFrom(PlotState& state, vtkTable* copy);
 
 } // namespace Talmesh::plot
 

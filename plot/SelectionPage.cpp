@@ -8,6 +8,7 @@
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/RankedTables.h"
+#include "plot/SelectionBounds.h"
 #include "plot/ShownParameters.h"
 #include "plot/TrajectoryChart.h"
 #include "plot/vtkSelectionUpdateCallback.h"
@@ -43,9 +44,7 @@ PageLayout layoutOf(std::size_t shown)
 void rankOwnData(PlotState& state)
 {
   dropOutdatedRanks(state);
-  const bool missing =
-      state.derivedTables.size() < 2 || !state.derivedTables[0] || !state.derivedTables[1];
-  if (missing || !state.metaData->rankedDataCurrent)
+  if (!hasOwnRanks(state) || !state.metaData->rankedDataCurrent)
     generateRankedParameters(state, state.table, 0);
 }
 
@@ -59,15 +58,41 @@ void placeTrajectoryChart(PlotState& state, const PageLayout& layout)
   enableSelection(state, state.chartXY);
 }
 
+/// Whoever watches the selection hears of the cut and may answer by drawing the page.
+/// @return whether that happened
+bool cutSelection(PlotState& state)
+{
+  const unsigned long before = state.drawings;
+  cutSelectionToTable(state);
+  return state.drawings != before;
+}
+
 /// @return whether the update drew the page
 bool runPendingUpdate(PlotState& state)
 {
   if (!state.selectionUpdatePending)
     return false;
   state.selectionUpdatePending = false;
-  const unsigned long drawing = state.drawings;
+  const unsigned long before = state.drawings;
   state.selectionUpdateCallback->Execute(state.annotationLink, 0, nullptr);
-  return state.drawings != drawing;
+  return state.drawings != before;
+}
+
+std::vector<std::string> titlesOf(const PlotState& state, const std::vector<std::size_t>& shown)
+{
+  std::vector<std::string> titles;
+  for (const std::size_t parameter : shown)
+    titles.push_back(parameterTitle(state, parameter));
+  return titles;
+}
+
+/// Cells for the parameters and, as the container's XY chart, an empty one for the trajectories.
+void layOut(PlotState& state, std::size_t shown)
+{
+  const PageLayout layout = layoutOf(shown);
+  resetChartMatrix(state, layout.columns, 2 * layout.groups);
+  applySelectionPageBorders(state);
+  placeTrajectoryChart(state, layout);
 }
 
 vtkChart* parameterCell(PlotState& state, std::size_t position)
@@ -95,28 +120,30 @@ void scaleDensities(PlotState& state, std::size_t shown)
 
 void drawSelectionPage(PlotState& state, vtkContextScene* scene)
 {
-  const std::vector<std::string> titles = parameterTitles(state);
-  scene->ClearItems();
+  if (cutSelection(state))
+    return;
+  const PlotMetaData& settings = *state.metaData;
+  const std::vector<std::size_t> shown =
+      shownParameters(state.ksResults, settings.parameterColumns.size(), settings.getPThreshold(),
+                      settings.getKsThreshold());
+  const std::vector<std::string> titles = titlesOf(state, shown);
+  if (scene)
+    scene->ClearItems();
   showChart(state, state.chartMatrix, scene);
   rankOwnData(state);
-  const std::vector<std::size_t> shown =
-      shownParameters(state.ksResults, titles.size(), state.metaData->getPThreshold(),
-                      state.metaData->getKsThreshold());
-  const PageLayout layout = layoutOf(shown.size());
-  resetChartMatrix(state, layout.columns, 2 * layout.groups);
-  applySelectionPageBorders(state);
-
-  placeTrajectoryChart(state, layout);
+  // Before the cells are made: a drawing in there that fails may leave others behind.
   if (runPendingUpdate(state))
     return;
+  layOut(state, shown.size());
   vtkPlot* runs = fillTrajectoryChart(state);
   for (std::size_t i = 0; i < shown.size(); ++i)
-    fillDistributionCell(state, parameterCell(state, i), shown[i], titles[shown[i]]);
-  if (state.metaData->getUseDensity())
+    fillDistributionCell(state, parameterCell(state, i), shown[i], titles[i]);
+  if (settings.getUseDensity())
     scaleDensities(state, shown.size());
   useColors(state, runs);
-  state.chartXY->SetTitle(state.metaData->title);
-  scene->AddItem(state.currentChart);
+  state.chartXY->SetTitle(settings.title);
+  if (scene)
+    scene->AddItem(state.currentChart);
 }
 
 } // namespace Talmesh::plot

@@ -75,19 +75,15 @@ vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
   return points;
 }
 
-void colorBySelection(PlotState& state, vtkPlotPoints* plot)
+/// The marker column is there once runs have been split.
+void colorBySelection(vtkPlotPoints* plot)
 {
-  // The marker column is there once runs have been split; VTK does not check for it.
-  if (!columnNamed(state.table, "vtkComplementSelection"))
-    return;
   vtkNew<vtkLookupTable> colors;
   colors->SetRange(0.0, 1.0);
   colors->SetNumberOfTableValues(2);
   colors->SetTableValue(0, 0.0, 0.0, 0.0, 1.0);
   colors->SetTableValue(1, 0.05, 0.6, 0.9, 1.0);
-  plot->ScalarVisibilityOn();
-  plot->SetLookupTable(colors);
-  plot->SelectColorArray("vtkComplementSelection");
+  colorPoints(plot, "vtkComplementSelection", colors);
 }
 
 void dressAxes(PlotState& state)
@@ -116,7 +112,7 @@ vtkPlot* fillTrajectoryChart(PlotState& state)
   addBands(state);
   vtkSmartPointer<vtkPlotPoints> runs = makeRunsPlot(state);
   feedPlot(runs, state.table, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
-  colorBySelection(state, runs);
+  colorBySelection(runs);
   state.chartXY->AddPlot(runs);
   dressAxes(state);
   return runs;

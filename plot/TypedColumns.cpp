@@ -18,4 +18,12 @@ void findParameterColumns(PlotState& state)
   }
 }
 
+std::string parameterLabel(const PlotState& state, std::size_t parameter)
+{
+  // A negative index becomes one beyond every list.
+  const auto index = static_cast<std::size_t>(state.metaData->parameterColumns[parameter]);
+  return index < state.columnItems.size() ? Talmesh::selectionPairToString(state.columnItems[index])
+                                          : "";
+}
+
 } // namespace Talmesh::plot

@@ -1,6 +1,7 @@
 #include "plot/vtkSelectionUpdateCallback.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
@@ -41,6 +42,7 @@ void compareRuns(PlotContainer& container, vtkAnnotationLink* link)
   const std::size_t selected = addDataSet(container, split.selected);
   const std::size_t remaining = addDataSet(container, split.remaining);
   container.ksTestSelection(selected, remaining);
+  Talmesh::plot::alignResults(container.state(), selected);
 }
 
 /// VTK's event dispatch, from which the callback is called, must not be left by an exception.

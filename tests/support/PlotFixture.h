@@ -63,7 +63,7 @@ protected:
     settings().blockSignals(false);
   }
 
-  /// Drawings begun since the last call.
+  /// Drawings completed since the last call.
   unsigned long newDrawings()
   {
     const unsigned long before = counted;

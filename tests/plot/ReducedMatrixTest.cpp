@@ -1,0 +1,91 @@
+#include "support/PageFixture.h"
+#include "support/ParameterStudy.h"
+
+#include <vtkContextMouseEvent.h>
+#include <vtkGenericRenderWindowInteractor.h>
+#include <vtkScatterPlotMatrix.h>
+
+#include <gtest/gtest.h>
+
+#include "PageProbes.h"
+
+namespace
+{
+
+/// A scatter-plot matrix whose table has lost the parameters k1 and k3 since it was drawn.
+class ReducedMatrix : public PageFixture
+{
+protected:
+  ReducedMatrix()
+  {
+    container.setScene(scene.scene());
+    container.setLinePlotTable(parameterStudy(6, 4, 3), false);
+    container.setPlotStyle(scatterPlotMatrix);
+    scene.render(container);
+    settings().zColumns = {};
+    settings().parameterColumns = {4};
+    container.shrinkToColumnSelection();
+  }
+
+  vtkScatterPlotMatrix* pairs() { return vtkScatterPlotMatrix::SafeDownCast(container.getItem()); }
+
+  /// A click into the middle of a small chart, and the animation that it starts.
+  void click(int column, int row)
+  {
+    vtkChart* chart = pairs()->GetChart(vtkVector2i(column, row));
+    vtkContextMouseEvent mouse;
+    mouse.SetInteractor(interactor);
+    mouse.SetButton(vtkContextMouseEvent::LEFT_BUTTON);
+    mouse.SetPos(vtkVector2f(0.5F * (chart->GetPoint1()[0] + chart->GetPoint2()[0]),
+                             0.5F * (chart->GetPoint1()[1] + chart->GetPoint2()[1])));
+    pairs()->MouseButtonReleaseEvent(mouse);
+    int timer = 0;
+    for (int tick = 0; tick < 200; ++tick)
+    {
+      interactor->InvokeEvent(vtkCommand::TimerEvent, &timer);
+      if (tick % 10 == 0)
+        scene.render(container);
+    }
+  }
+
+  vtkNew<vtkGenericRenderWindowInteractor> interactor;
+};
+
+TEST_F(ReducedMatrix, StillHasEveryPair)
+{
+  EXPECT_EQ(container.getTable()->GetColumnByName("Parameter: k3"), nullptr);
+  EXPECT_EQ(pairs()->GetSize(), vtkVector2i(6, 6));
+  pairs()->SetActivePlot(vtkVector2i(3, 0));
+  vtkPlot* large = pairs()->GetMainChart()->GetPlot(0);
+  EXPECT_EQ(inputName(large, 0), "Parameter: k1");
+  EXPECT_EQ(inputName(large, 1), "Parameter: k3");
+  scene.render(container);
+}
+
+TEST_F(ReducedMatrix, KeepsItsActivePair)
+{
+  container.redraw();
+  scene.render(container);
+  const vtkVector2i active(1, 1);
+  ASSERT_TRUE(pairs()->SetActivePlot(active));
+  settings().parameterColumns = {};
+  container.shrinkToColumnSelection();
+  EXPECT_EQ(pairs()->GetActivePlot(), active);
+}
+
+TEST_F(ReducedMatrix, AnswersAClickOnAPairThatIsGoneFromTheTable)
+{
+  click(3, 0);
+  EXPECT_EQ(pairs()->GetActivePlot(), vtkVector2i(3, 0));
+  EXPECT_EQ(inputName(pairs()->GetMainChart()->GetPlot(0), 0), "Parameter: k1");
+}
+
+TEST_F(ReducedMatrix, ShowsTheReducedTableFromTheNextDrawingOn)
+{
+  container.redraw();
+  scene.render(container);
+  EXPECT_FALSE(pairs()->GetColumnVisibility("Parameter: k3"));
+  EXPECT_TRUE(pairs()->GetColumnVisibility("Parameter: k2"));
+}
+
+} // namespace
