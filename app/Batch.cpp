@@ -27,7 +27,10 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
   PlotContainer& container = *widget->plotContainer();
   showStudy(opened.study, container);
   if (opened.session)
-    restoreSession(*opened.session, container);
+  {
+    restoreSettings(*opened.session, container);
+    restoreSelection(*opened.session, container);
+  }
   PlotChoice choice = choiceOf(container);
   std::string error = chooseByName(container, options, choice);
   if (error.empty())

@@ -67,8 +67,9 @@ bool MainWindow::saveSessionTo(const QString& path)
 
 void MainWindow::showSession(const RestoredSession& session)
 {
-  restoreSession(session, *container);
+  restoreSettings(session, *container);
   dock->setColumns(container->getLabels());
+  restoreSelection(session, *container);
   // The history begins with what is restored.
   selection->restartHistory();
 }

@@ -30,6 +30,11 @@ SessionSettings settingsOf(const Study& study, PlotContainer& container)
   settings.legend = choice.legend;
   settings.logY = choice.logY;
   copySettings(*container.getMetaData(), *settings.plot);
+  for (std::vector<int>* columns : {&settings.plot->xColumns, &settings.plot->yColumns,
+                                    &settings.plot->zColumns, &settings.plot->parameterColumns})
+    for (int& column : *columns)
+      column = columnInDump(container.getTable(), column);
+  settings.plot->colorColumn = columnInDump(container.getTable(), settings.plot->colorColumn);
   settings.plot->storedCoordinateWindow = CoordinateWindow();
   const plot::PlotState& state = container.state();
   if (const CoordinateWindow* window = plot::rememberedWindow(state))
@@ -103,7 +108,7 @@ OpenedSession openSession(const QString& path)
   return opened;
 }
 
-void restoreSession(const RestoredSession& session, PlotContainer& container)
+void restoreSettings(const RestoredSession& session, PlotContainer& container)
 {
   const int columns = session.further ? static_cast<int>(session.further->GetNumberOfColumns()) : 0;
   for (int i = 0; i < columns; ++i)
@@ -112,6 +117,10 @@ void restoreSession(const RestoredSession& session, PlotContainer& container)
   restoreWindow(container.state(), session.settings);
   container.setLogScaleY(session.settings.logY);
   container.setShowLegend(session.settings.legend);
+}
+
+void restoreSelection(const RestoredSession& session, PlotContainer& container)
+{
   if (session.selected)
     container.getAnnotationLink()->SetCurrentSelection(selectionOf(session.selected));
 }

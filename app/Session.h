@@ -38,8 +38,12 @@ std::string saveSession(const QString& path, const Study& study, PlotContainer& 
 /// Reads a session. May run in any thread.
 OpenedSession openSession(const QString& path);
 
-/// Restores the rest of a session in a container that shows its study. Does not draw.
-void restoreSession(const RestoredSession& session, PlotContainer& container);
+/// Restores further columns and settings in a container that shows the session's study. Does not
+/// draw.
+void restoreSettings(const RestoredSession& session, PlotContainer& container);
+
+/// Selects what was selected, which the container's annotation link announces.
+void restoreSelection(const RestoredSession& session, PlotContainer& container);
 
 } // namespace Talmesh::app
 

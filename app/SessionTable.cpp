@@ -75,10 +75,11 @@ std::pair<double, double> rangeOf(const double* values, vtkIdType rows)
   return range.first <= range.second ? range : std::pair<double, double>(0.0, 0.0);
 }
 
-/// Takes the items' columns out of the table that was read.
+/// Moves the items' columns out of the table that was read, each once, so that no file can ask for
+/// more memory than it has columns.
 /// @return null when the columns are not those of the items
-boost::shared_ptr<LinePlotTable> runsOf(const plot::PlotState& read, int pointsPerRun,
-                                        const std::vector<std::pair<double, double>>& ranges)
+boost::shared_ptr<LinePlotTable> takeRuns(const plot::PlotState& read, int pointsPerRun,
+                                          const std::vector<std::pair<double, double>>& ranges)
 {
   const vtkIdType rows = read.table->GetNumberOfRows();
   if (rows < 1 || rows % pointsPerRun != 0 || read.columnItems.empty())
@@ -88,13 +89,14 @@ boost::shared_ptr<LinePlotTable> runsOf(const plot::PlotState& read, int pointsP
   runs->numberOfTrajectories = static_cast<std::size_t>(rows / pointsPerRun);
   for (const TypedConcentrationName& item : read.columnItems)
   {
-    auto* column =
-        vtkDoubleArray::SafeDownCast(plot::columnNamed(read.table, selectionPairToString(item)));
+    const std::string label = selectionPairToString(item);
+    auto* column = vtkDoubleArray::SafeDownCast(plot::columnNamed(read.table, label));
     if (!column || column->GetNumberOfValues() != rows)
       return nullptr;
     runs->items.push_back(item);
     runs->values.push_back(new double[static_cast<std::size_t>(rows)]);
     std::copy_n(column->GetPointer(0), rows, runs->values.back());
+    read.table->RemoveColumnByName(label.c_str());
     if (item.first != Parameter)
       continue;
     const std::size_t parameter = runs->parameterRanges.size();
@@ -118,6 +120,16 @@ QByteArray dumpStudy(const Study& study, PlotContainer& container)
   return plot::writeDump(dumped);
 }
 
+int columnInDump(vtkTable* shown, int column)
+{
+  if (column >= shown->GetNumberOfColumns() || isMarker(plot::columnName(shown, column)))
+    return -1;
+  int place = column;
+  for (int before = 0; before < column; ++before)
+    place -= isMarker(plot::columnName(shown, before)) ? 1 : 0;
+  return place;
+}
+
 DumpedTable readStudyDump(const QByteArray& dump, int pointsPerRun,
                           const std::vector<std::pair<double, double>>& ranges)
 {
@@ -134,9 +146,7 @@ DumpedTable readStudyDump(const QByteArray& dump, int pointsPerRun,
   }
   if (pointsPerRun > 0)
   {
-    result.study.runs = runsOf(read, pointsPerRun, ranges);
-    for (const TypedConcentrationName& item : read.columnItems)
-      table->RemoveColumnByName(selectionPairToString(item).c_str());
+    result.study.runs = takeRuns(read, pointsPerRun, ranges);
     result.further = table;
   }
   else

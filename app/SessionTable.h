@@ -24,6 +24,10 @@ namespace Talmesh::app
 /// Empty when it would be too large.
 QByteArray dumpStudy(const Study& study, PlotContainer& container);
 
+/// Where column `column` of the container's table will be found once its dump has been read and
+/// shown; -1 when it is left out.
+int columnInDump(vtkTable* shown, int column);
+
 /// A table that was dumped with its study.
 struct DumpedTable
 {

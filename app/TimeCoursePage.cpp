@@ -169,6 +169,7 @@ void TimeCoursePage::showRun()
   const ItemNames chosen = selectedNames(selector);
   RunCourses courses(*runs, timeItem(*runs), static_cast<std::size_t>(run->value()));
   chart->setData(&courses.record);
+  selector.expandAll();
   select(selector, chosen);
 }
 
@@ -182,7 +183,6 @@ void TimeCoursePage::chooseFirstItem(PlotSelector& selector) const
                 if (first.empty())
                   first.insert(nameOf(*item));
               });
-  selector.expandAll();
   select(selector, first);
 }
 

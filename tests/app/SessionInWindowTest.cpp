@@ -162,7 +162,7 @@ TEST_F(SessionInWindow, IsSavedThroughTheKeyboard)
         return dialog && dialog->isVisible();
       },
       patience));
-  auto* name = dialog->findChild<QLineEdit*>();
+  auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
   ASSERT_NE(name, nullptr);
   name->clear();
   QTest::keyClicks(name, path("typed"));

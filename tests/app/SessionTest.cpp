@@ -57,7 +57,8 @@ protected:
     if (opened.session)
     {
       showStudy(opened.study, *restored);
-      restoreSession(*opened.session, *restored);
+      restoreSettings(*opened.session, *restored);
+      restoreSelection(*opened.session, *restored);
     }
     return *restored;
   }
@@ -233,6 +234,33 @@ TEST_F(Session, KeepsColumnsThatWereAddedLater)
   PlotContainer& again = reopen();
   EXPECT_EQ(again.getLabels(), container.getLabels());
   EXPECT_EQ(valuesOf(again.getTable(), "later"), later);
+}
+
+TEST_F(Session, FindsColumnsBehindTheMarksOfASelection)
+{
+  const Study study = sampleStudy();
+  PlotContainer container(nullptr);
+  showStudy(study, container);
+  const QStringList before = container.getLabels();
+  container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection({4, 5, 6, 7}));
+  ASSERT_GT(container.getLabels().size(), before.size());
+  container.addColumn(std::vector<double>(12, 3.0), "later");
+  container.getMetaData()->yColumns = {0, static_cast<int>(container.getLabels().size()) - 1};
+  save(study, container);
+  PlotContainer& again = reopen();
+  const std::vector<int> y = again.getMetaData()->yColumns;
+  EXPECT_EQ(y, (std::vector<int>{0, static_cast<int>(before.size())}));
+  EXPECT_EQ(plot::columnName(again.getTable(), y[1]), "later");
+}
+
+TEST_F(Session, TakesAColumnForOneItemOnly)
+{
+  // Two items "Molecule: X" and one column of that name, of one row.
+  const QByteArray dump =
+      QByteArray::fromHex("000000020000000100000002005800000001000000020058000000010000"
+                          "000100000016004d006f006c006500630075006c0065003a00200058013f"
+                          "f0000000000000");
+  EXPECT_EQ(errorOf({R"({"pointsPerRun": 1})", dump}), "the session's table is damaged");
 }
 
 TEST_F(Session, RefusesTablesThatDoNotFitTheirRuns)
