@@ -3,6 +3,7 @@
 #include "app/Gallery.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
+#include "app/Session.h"
 #include "app/StudyFile.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
@@ -19,11 +20,17 @@ namespace
 
 constexpr QSize defaultSize(1000, 700);
 
-std::string writeExports(const CommandLineOptions& options, const Study& study, const QSize& size)
+std::string writeExports(const CommandLineOptions& options, const OpenedStudy& opened,
+                         const QSize& size)
 {
   const auto widget = makeHiddenPlot(size);
   PlotContainer& container = *widget->plotContainer();
-  showStudy(study, container);
+  showStudy(opened.study, container);
+  if (opened.session)
+  {
+    restoreSettings(*opened.session, container);
+    restoreSelection(*opened.session, container);
+  }
   PlotChoice choice = choiceOf(container);
   std::string error = chooseByName(container, options, choice);
   if (error.empty())
@@ -48,7 +55,7 @@ std::string runBatch(const CommandLineOptions& options)
   for (const std::string& note : opened.notes)
     std::cerr << "talmesh-plot: " << note << std::endl;
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
-  std::string error = writeExports(options, opened.study, size);
+  std::string error = writeExports(options, opened, size);
   if (error.empty() && !options.gallery.empty())
     error = writeGallery(opened.study, QString::fromStdString(options.gallery), size);
   return error;

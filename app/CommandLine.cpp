@@ -200,11 +200,12 @@ ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments)
 std::string commandLineHelp()
 {
   std::string help =
-      "Usage: talmesh-plot [FILE.csv] [OPTION]...\n"
+      "Usage: talmesh-plot [FILE] [OPTION]...\n"
       "Shows simulated runs. Without FILE the example study opens, the repressilator gene "
       "circuit.\n"
       "\n"
-      "FILE.csv holds a line of names, then one row per time point, runs one after another.\n"
+      "FILE is a table (.csv): a line of names, then one row per time point, runs one after\n"
+      "another; or a session that the window has saved (.talmesh).\n"
       "\n"
       "  --style NAME            the kind of plot (below)\n"
       "  --x NAME                the column for the x axis\n"

@@ -6,6 +6,7 @@
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
 #include "app/StudyLoader.h"
+#include "app/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
@@ -18,6 +19,7 @@
 #include <QMimeData>
 #include <QStatusBar>
 #include <QStringList>
+#include <QTabWidget>
 
 namespace Talmesh::app
 {
@@ -41,13 +43,18 @@ QString localFileOf(const QMimeData* data)
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , plot(new VtkPlotWidget)
+    , timeCourses(new TimeCoursePage)
+    , tabs(new QTabWidget)
     , dock(new PlotDock)
     , selection(new SelectionController(this))
     , loader(new StudyLoader(this))
 {
   setWindowTitle(QStringLiteral("Talmesh Plot"));
   setAcceptDrops(true);
-  setCentralWidget(plot);
+  tabs->addTab(plot, tr("Runs"));
+  tabs->addTab(timeCourses, tr("Time courses"));
+  tabs->setDocumentMode(true);
+  setCentralWidget(tabs);
   addDockWidget(Qt::RightDockWidgetArea, dock);
   const QFontMetrics metrics = fontMetrics();
   resize(firstCharacters * metrics.averageCharWidth(), firstLines * metrics.lineSpacing());
@@ -144,6 +151,8 @@ void MainWindow::finishLoading(const OpenedStudy& result)
     return;
   }
   showStudyInPlot(result.study);
+  if (result.session)
+    showSession(*result.session);
   if (!loadingPath.isEmpty())
     recent.add(loadingPath);
   QStringList notes;
@@ -165,6 +174,7 @@ void MainWindow::showStudyInPlot(const Study& opened)
   container = fresh;
   study = opened;
   showStudy(study, *container);
+  timeCourses->setStudy(study);
   dock->setColumns(container->getLabels());
   dock->setChoice(choiceOf(*container));
   size->setText(QString::fromStdString(studySize(study)));

@@ -12,6 +12,7 @@
 class PlotContainer;
 class QLabel;
 class QMenu;
+class QTabWidget;
 class VtkPlotWidget;
 
 namespace Talmesh::app
@@ -21,6 +22,7 @@ class LoadingBar;
 class PlotDock;
 class SelectionController;
 class StudyLoader;
+class TimeCoursePage;
 
 /// The viewer's window: a plot, the panel to choose what it shows, and what is loaded.
 class MainWindow : public QMainWindow
@@ -43,9 +45,14 @@ public:
   /// Writes what is shown to a file, by its suffix; a failure is shown to the user.
   /// @return whether it was written
   bool exportTo(const QString& path);
+  /// Writes the table and how it is shown as a session; a failure is shown to the user.
+  /// @return whether it was written
+  bool saveSessionTo(const QString& path);
 
   VtkPlotWidget* plotWidget() const { return plot; }
   PlotDock* plotDock() const { return dock; }
+  /// The pages "Runs" and "Time courses".
+  QTabWidget* pages() const { return tabs; }
   SelectionController* selectionController() const { return selection; }
   /// How much is loaded, as the status bar says it.
   QString sizeText() const;
@@ -72,6 +79,10 @@ private:
                      void (MainWindow::*slot)());
   void chooseFile();
   void chooseExport();
+  void chooseSession();
+  void saveSession();
+  void addSessionActions(QMenu* menu);
+  void showSession(const RestoredSession& session);
   void saveSelection();
   void loadSelection();
   void showSelection();
@@ -88,6 +99,8 @@ private:
   void showError(const QString& message);
 
   VtkPlotWidget* plot;
+  TimeCoursePage* timeCourses;
+  QTabWidget* tabs;
   PlotDock* dock;
   SelectionController* selection;
   StudyLoader* loader;

@@ -52,6 +52,7 @@ void MainWindow::makeFileMenu()
   addAction(file, tr("Open the e&xample study"), QKeySequence(tr("Ctrl+Shift+O")),
             &MainWindow::openExample);
   file->addSeparator();
+  addSessionActions(file);
   addAction(file, tr("&Export..."), QKeySequence(tr("Ctrl+E")), &MainWindow::chooseExport);
   file->addSeparator();
   QAction* quit = file->addAction(tr("&Quit"));
@@ -105,7 +106,7 @@ void MainWindow::makeViewMenu()
   {
     if (style.style == reservedStyle1 || style.style == reservedStyle2)
       continue;
-    QAction* action = view->addAction(QString::fromUtf8(style.title));
+    QAction* action = view->addAction(titleOf(style));
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(static_cast<int>(style.style))));
     connect(action, &QAction::triggered, this,
             [this, value = style.style]
@@ -133,7 +134,8 @@ void MainWindow::makeHelpMenu()
 void MainWindow::chooseFile()
 {
   auto* dialog =
-      new QFileDialog(this, tr("Open runs"), {}, tr("Tables (*.csv *.tsv *.txt);;All files (*)"));
+      new QFileDialog(this, tr("Open runs"), {},
+                      tr("Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setOptions(getFileDialogOption());
   dialog->setFileMode(QFileDialog::ExistingFile);

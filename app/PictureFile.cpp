@@ -1,5 +1,6 @@
 #include "app/PictureFile.h"
 
+#include "app/TranslatedText.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
@@ -33,7 +34,7 @@ Content pngOf(VtkPlotWidget& widget)
   QBuffer buffer(&content.bytes);
   buffer.open(QIODevice::WriteOnly);
   if (picture.isNull() || !picture.convertToFormat(QImage::Format_RGB32).save(&buffer, "PNG"))
-    content.error = "the plot could not be painted";
+    content.error = translated("PictureFile", "the plot could not be painted");
   return content;
 }
 
@@ -52,7 +53,7 @@ Content pdfOf(VtkPlotWidget& widget)
   if (file.open(QIODevice::ReadOnly))
     content.bytes = file.readAll();
   if (!content.bytes.startsWith("%PDF"))
-    content.error = "the plot could not be painted";
+    content.error = translated("PictureFile", "the plot could not be painted");
   return content;
 }
 
@@ -63,7 +64,7 @@ Content csvOf(VtkPlotWidget& widget)
   if (text)
     content.bytes = QByteArray(text.get());
   else
-    content.error = "the table could not be written";
+    content.error = translated("PictureFile", "the table could not be written");
   return content;
 }
 
@@ -87,7 +88,7 @@ std::string exportPlot(VtkPlotWidget& widget, const QString& path)
   else if (path.endsWith(QLatin1String(".csv")))
     content = csvOf(widget);
   else
-    content.error = "the name must end with .png, .pdf or .csv";
+    content.error = translated("PictureFile", "the name must end with .png, .pdf or .csv");
   if (content.error.empty())
     content.error = writeWhole(path, content.bytes);
   return content.error.empty() ? content.error : path.toStdString() + ": " + content.error;

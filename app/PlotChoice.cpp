@@ -3,6 +3,7 @@
 #include "app/ChartDressing.h"
 #include "app/ColumnRoles.h"
 #include "app/FurtherSeries.h"
+#include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/TableColumns.h"
@@ -91,7 +92,7 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
   catch (const std::exception& failure)
   {
     container.getMetaData()->blockSignals(false);
-    return std::string("cannot draw this: ") + failure.what();
+    return withValues(translated("PlotChoice", "cannot draw this: %1"), {failure.what()});
   }
   dressChart(container);
   if (choice.style != xyPlot)
@@ -120,9 +121,11 @@ FoundColumn findColumn(const PlotContainer& container, const std::string& name)
   if (matches.size() == 1)
     return {matches.front(), {}};
   if (matches.empty())
-    return {-1, "no such column: " + name + "; the columns are " + allNames(container)};
-  return {-1, "more than one column is named " + name + ": " + plot::columnName(table, matches[0]) +
-                  " and " + plot::columnName(table, matches[1])};
+    return {-1, withValues(translated("PlotChoice", "no such column: %1; the columns are %2"),
+                           {name, allNames(container)})};
+  return {-1, withValues(translated("PlotChoice", "more than one column is named %1: %2 and %3"),
+                         {name, plot::columnName(table, matches[0]),
+                          plot::columnName(table, matches[1])})};
 }
 
 std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,

@@ -52,7 +52,7 @@ PlotDock::PlotDock(QWidget* parent)
   setObjectName(QStringLiteral("plotDock"));
   for (const StyleName& known : styleNames())
     if (isOffered(known.style))
-      style->addItem(QString::fromUtf8(known.title), static_cast<int>(known.style));
+      style->addItem(titleOf(known), static_cast<int>(known.style));
   y->setObjectName(QStringLiteral("y"));
   y->setMinimumHeight(6 * y->fontMetrics().lineSpacing());
 

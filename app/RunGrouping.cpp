@@ -2,6 +2,7 @@
 
 #include "app/NumberText.h"
 #include "app/TableText.h"
+#include "app/TranslatedText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,7 +19,14 @@ namespace
 
 std::string points(std::size_t count)
 {
-  return std::to_string(count) + (count == 1 ? " point" : " points");
+  return count == 1 ? translated("RunGrouping", "1 point")
+                    : withValues(translated("RunGrouping", "%1 points"), {std::to_string(count)});
+}
+
+std::string unequalRun(const std::string& name, std::size_t length, std::size_t usual)
+{
+  return withValues(translated("RunGrouping", "run %1 has %2, other runs have %3"),
+                    {name, points(length), std::to_string(usual)});
 }
 
 /// The length most runs have; of equally frequent ones that of the earlier run.
@@ -62,13 +70,13 @@ RunGrouping groupByTime(const RunColumns& columns)
   grouping.pointsPerRun = usualLength(lengths);
   const std::size_t odd = oddRun(lengths, grouping.pointsPerRun);
   if (odd < lengths.size())
-    grouping.error = "run " + std::to_string(odd + 1) + " (from line " +
-                     std::to_string((*columns.lines)[starts[odd]]) +
-                     ", where time falls back) has " + points(lengths[odd]) + ", other runs have " +
-                     std::to_string(grouping.pointsPerRun);
+    grouping.error = withValues(
+        translated("RunGrouping",
+                   "run %1 (from line %2, where time falls back) has %3, other runs have %4"),
+        {std::to_string(odd + 1), std::to_string((*columns.lines)[starts[odd]]),
+         points(lengths[odd]), std::to_string(grouping.pointsPerRun)});
   if (odd == 0 && !grouping.error.empty())
-    grouping.error = "run 1 has " + points(lengths[0]) + ", other runs have " +
-                     std::to_string(grouping.pointsPerRun);
+    grouping.error = unequalRun("1", lengths[0], grouping.pointsPerRun);
   grouping.indices.resize(grouping.numberOfRuns);
   std::iota(grouping.indices.begin(), grouping.indices.end(), 0.0);
   return grouping;
@@ -104,8 +112,9 @@ std::string repeatedRun(const RunColumns& columns)
     std::size_t& before = last[run];
     const bool resumed = before + 1 < row && before != columns.rows;
     if (resumed && (*columns.time)[row] < (*columns.time)[before])
-      return "run " + quotedForMessage((*columns.names)[run]) + " starts again in line " +
-             std::to_string((*columns.lines)[row]) + ": two runs have the same name";
+      return withValues(
+          translated("RunGrouping", "run %1 starts again in line %2: two runs have the same name"),
+          {quotedForMessage((*columns.names)[run]), std::to_string((*columns.lines)[row])});
     before = row;
   }
   return {};
@@ -123,9 +132,8 @@ RunGrouping groupByName(const RunColumns& columns)
   grouping.error = repeatedRun(columns);
   const std::size_t odd = oddRun(lengths, grouping.pointsPerRun);
   if (grouping.error.empty() && odd < count)
-    grouping.error = "run " + quotedForMessage((*columns.names)[odd]) + " has " +
-                     points(lengths[odd]) + ", other runs have " +
-                     std::to_string(grouping.pointsPerRun);
+    grouping.error =
+        unequalRun(quotedForMessage((*columns.names)[odd]), lengths[odd], grouping.pointsPerRun);
   if (!grouping.error.empty())
     return grouping;
 

@@ -1,5 +1,6 @@
 #include "app/RunSelectionFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -50,7 +51,9 @@ QString readRuns(const QJsonArray& array, std::set<int>& runs)
   {
     const QJsonValue value = array.at(i);
     if (!isInteger(value))
-      return QString("entry %1 of its runs is not a whole number").arg(i + 1);
+      return QCoreApplication::translate("RunSelectionFile",
+                                         "entry %1 of its runs is not a whole number")
+          .arg(i + 1);
     runs.insert(static_cast<int>(value.toDouble()));
   }
   return {};
@@ -62,14 +65,17 @@ QString readText(const QByteArray& text, ParameterSelection& selection)
   QJsonParseError problem;
   const QJsonDocument document = QJsonDocument::fromJson(text, &problem);
   if (problem.error != QJsonParseError::NoError)
-    return QString("not a JSON file: %1 at byte %2").arg(problem.errorString()).arg(problem.offset);
+    return QCoreApplication::translate("RunSelectionFile", "not a JSON file: %1 at byte %2")
+        .arg(problem.errorString())
+        .arg(problem.offset);
   const QJsonObject object = document.object();
   if (object["format"].toString() != formatName)
-    return "not a selection of runs";
+    return QCoreApplication::translate("RunSelectionFile", "not a selection of runs");
   if (object["version"].toDouble() != formatVersion)
-    return "a selection of runs in a version that this program does not know";
+    return QCoreApplication::translate(
+        "RunSelectionFile", "a selection of runs in a version that this program does not know");
   if (!object["runs"].isArray())
-    return "a selection without a list of runs";
+    return QCoreApplication::translate("RunSelectionFile", "a selection without a list of runs");
   selection.sourceName = object["source"].toString().toStdString();
   selection.sourceId = object["sourceId"].toInt();
   selection.label = object["label"].toString().toStdString();
@@ -84,7 +90,9 @@ std::string saveRunSelection(const QString& path, const ParameterSelection& sele
   const QByteArray text = textOf(selection);
   if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
     return {};
-  return QString("%1: cannot be written: %2").arg(path, file.errorString()).toStdString();
+  return QCoreApplication::translate("RunSelectionFile", "%1: cannot be written: %2")
+      .arg(path, file.errorString())
+      .toStdString();
 }
 
 LoadedRunSelection loadRunSelection(const QString& path)
@@ -95,14 +103,17 @@ LoadedRunSelection loadRunSelection(const QString& path)
   QFile file(path);
   // Opening a folder succeeds, and reading a pipe may never end.
   if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-    return failure("not a file");
+    return failure(QCoreApplication::translate("RunSelectionFile", "not a file"));
   if (!file.open(QIODevice::ReadOnly))
-    return failure("cannot be read: " + file.errorString());
+    return failure(QCoreApplication::translate("RunSelectionFile", "cannot be read: %1")
+                       .arg(file.errorString()));
   const QByteArray text = file.read(largestFile + 1);
   if (file.error() != QFileDevice::NoError)
-    return failure("cannot be read: " + file.errorString());
+    return failure(QCoreApplication::translate("RunSelectionFile", "cannot be read: %1")
+                       .arg(file.errorString()));
   if (text.size() > largestFile)
-    return failure("too large for a selection of runs");
+    return failure(
+        QCoreApplication::translate("RunSelectionFile", "too large for a selection of runs"));
   LoadedRunSelection loaded;
   const QString reason = readText(text, loaded.selection);
   return reason.isEmpty() ? loaded : failure(reason);

@@ -2,6 +2,7 @@
 
 #include "app/RunGrouping.h"
 #include "app/TableText.h"
+#include "app/TranslatedText.h"
 
 #include <vtkDoubleArray.h>
 #include <vtkNew.h>
@@ -35,9 +36,10 @@ std::string mistypedCell(const TableText& text)
     const ColumnValues& column = text.columns[i];
     const bool needed = static_cast<int>(i) == text.roles.timeColumn;
     if (column.texts > 0 && (column.numbers > 0 || needed))
-      return "line " + std::to_string(column.firstTextLine) + ": " +
-             quotedForMessage(column.firstText) + " in the column " +
-             quotedForMessage(text.roles.headers[i].name) + " is not a number";
+      return withValues(
+          translated("RunTableImport", "line %1: %2 in the column %3 is not a number"),
+          {std::to_string(column.firstTextLine), quotedForMessage(column.firstText),
+           quotedForMessage(text.roles.headers[i].name)});
   }
   return {};
 }
@@ -218,8 +220,9 @@ std::vector<std::string> notesOn(const TableText& text)
   std::vector<std::string> notes;
   for (std::size_t i = 0; i < text.columns.size(); ++i)
     if (isTextColumn(text.columns[i]))
-      notes.push_back("The column " + quotedForMessage(text.roles.headers[i].name) +
-                      " holds text and is left out.");
+      notes.push_back(
+          withValues(translated("RunTableImport", "The column %1 holds text and is left out."),
+                     {quotedForMessage(text.roles.headers[i].name)}));
   return notes;
 }
 
@@ -260,7 +263,9 @@ ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progr
   imported.error = std::move(text.error);
   if (imported.cancelled || !imported.error.empty())
     return imported;
-  imported.error = hasNumbers(text) ? mistypedCell(text) : "not a table: no column holds numbers";
+  imported.error = hasNumbers(text)
+                       ? mistypedCell(text)
+                       : translated("RunTableImport", "not a table: no column holds numbers");
   if (!imported.error.empty())
     return imported;
   imported.notes = notesOn(text);

@@ -76,7 +76,8 @@ public:
       , before(std::move(oldSelection))
       , after(std::move(newSelection))
   {
-    setText(QCoreApplication::translate("SelectionHistory", clears ? "Clear Selection" : "Select"));
+    setText(clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
+                   : QCoreApplication::translate("SelectionHistory", "Select"));
   }
 
   void undo() override { followed->restore(before); }

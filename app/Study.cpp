@@ -1,6 +1,7 @@
 #include "app/Study.h"
 
 #include "app/ExampleStudy.h"
+#include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
@@ -15,9 +16,28 @@ namespace Talmesh::app
 namespace
 {
 
-std::string counted(std::size_t count, const std::string& thing)
+std::string counted(std::size_t count, const std::string& one, const std::string& many)
 {
-  return std::to_string(count) + ' ' + thing + (count == 1 ? "" : "s");
+  return std::to_string(count) + ' ' + (count == 1 ? one : many);
+}
+
+std::string runSize(const LinePlotTable& runs, std::size_t parameters)
+{
+  return withValues(
+      translated("Study", "%1, %2 each, %3"),
+      {counted(runs.numberOfTrajectories, translated("Study", "run"), translated("Study", "runs")),
+       counted(runs.pointsPerTrajectory, translated("Study", "point"),
+               translated("Study", "points")),
+       counted(parameters, translated("Study", "parameter"), translated("Study", "parameters"))});
+}
+
+std::string tableSize(vtkTable& table)
+{
+  return withValues(translated("Study", "%1, %2"),
+                    {counted(static_cast<std::size_t>(table.GetNumberOfRows()),
+                             translated("Study", "row"), translated("Study", "rows")),
+                     counted(static_cast<std::size_t>(table.GetNumberOfColumns()),
+                             translated("Study", "column"), translated("Study", "columns"))});
 }
 
 std::size_t varyingParameters(const LinePlotTable& runs)
@@ -102,12 +122,9 @@ Study lastPoints(const Study& study)
 std::string studySize(const Study& study)
 {
   if (study.runs)
-    return counted(study.runs->numberOfTrajectories, "run") + ", " +
-           counted(study.runs->pointsPerTrajectory, "point") + " each, " +
-           counted(varyingParameters(*study.runs), "parameter");
+    return runSize(*study.runs, varyingParameters(*study.runs));
   if (study.table)
-    return counted(static_cast<std::size_t>(study.table->GetNumberOfRows()), "row") + ", " +
-           counted(static_cast<std::size_t>(study.table->GetNumberOfColumns()), "column");
+    return tableSize(*study.table);
   return {};
 }
 

@@ -1,5 +1,9 @@
 #include "app/StudyFile.h"
 
+#include "app/Session.h"
+#include "app/SessionFile.h"
+#include "app/TranslatedText.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -29,11 +33,12 @@ FileBytes readBytes(const QString& path, const ImportProgress& progress)
   const QFileInfo info(path);
   QFile file(path);
   if (!info.exists())
-    read.error = "there is no such file";
+    read.error = translated("StudyFile", "there is no such file");
   else if (!info.isFile())
-    read.error = "this is not a file";
+    read.error = translated("StudyFile", "this is not a file");
   else if (!file.open(QIODevice::ReadOnly))
-    read.error = "cannot be read: " + file.errorString().toStdString();
+    read.error = withValues(translated("StudyFile", "cannot be read: %1"),
+                            {file.errorString().toStdString()});
   if (!read.error.empty())
     return read;
 
@@ -45,7 +50,8 @@ FileBytes readBytes(const QString& path, const ImportProgress& progress)
     const qint64 got =
         file.read(&read.bytes[static_cast<std::size_t>(filled)], std::min(chunk, size - filled));
     if (got < 0)
-      read.error = "cannot be read: " + file.errorString().toStdString();
+      read.error = withValues(translated("StudyFile", "cannot be read: %1"),
+                              {file.errorString().toStdString()});
     if (got <= 0)
       break;
     filled += got;
@@ -72,8 +78,20 @@ OpenedStudy openBytes(const FileBytes& read, const ImportProgress& progress)
   return opened;
 }
 
+OpenedStudy openFromSession(const QString& path)
+{
+  const OpenedSession session = openSession(path);
+  OpenedStudy opened;
+  opened.study = session.study;
+  opened.session = session.session;
+  opened.error = session.error;
+  return opened;
+}
+
 OpenedStudy open(const QString& path, const ImportProgress& progress)
 {
+  if (isSessionFile(path))
+    return openFromSession(path);
   const FileBytes read = readBytes(path, progress);
   OpenedStudy opened;
   opened.error = read.error;
@@ -94,11 +112,12 @@ OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress)
   }
   catch (const std::bad_alloc&)
   {
-    opened.error = "the table does not fit into memory";
+    opened.error = translated("StudyFile", "the table does not fit into memory");
   }
   if (!opened.error.empty())
     opened.error = path.toStdString() + ": " + opened.error;
-  opened.study.name = QFileInfo(path).fileName().toStdString();
+  if (!opened.session)
+    opened.study.name = QFileInfo(path).fileName().toStdString();
   return opened;
 }
 

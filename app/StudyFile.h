@@ -6,23 +6,29 @@
 
 #include <QString>
 
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace Talmesh::app
 {
 
+struct RestoredSession;
+
 /// A study, or why there is none. Texts are UTF-8, one line each.
 struct OpenedStudy
 {
   Study study;
+  /// What else a session file holds; null for a table.
+  std::shared_ptr<const RestoredSession> session;
   std::string error;
   bool cancelled = false;
   /// What the user should know although the study could be opened.
   std::vector<std::string> notes;
 };
 
-/// Reads a table from a regular file. Errors begin with the file's name. May run in any thread.
+/// Reads a table or a session from a regular file. Errors begin with the file's name. May run in
+/// any thread.
 OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress = {});
 
 } // namespace Talmesh::app

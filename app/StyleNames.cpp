@@ -1,5 +1,7 @@
 #include "app/StyleNames.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace Talmesh::app
@@ -21,16 +23,20 @@ const StyleName* find(Predicate wanted)
 const std::vector<StyleName>& styleNames()
 {
   static const std::vector<StyleName> names = {
-      {xyPlot, "xyPlot", "XY plot"},
-      {reservedStyle1, "reservedStyle1", "Reserved style 1"},
-      {reservedStyle2, "reservedStyle2", "Reserved style 2"},
-      {scatterPlotMatrix, "scatterPlotMatrix", "Scatter-plot matrix"},
-      {xyzPlot, "xyzPlot", "3-D points"},
-      {multiPlot, "multiPlot", "Multi-plot matrix"},
-      {selectionCdfPlot, "selectionCdfPlot", "Selection CDFs"},
-      {scatterWithErrorBars, "scatterWithErrorBars", "Scatter with error bars"},
-      {fitParameterDistribution, "fitParameterDistribution", "Fit-parameter distributions"},
-      {parallelCoordinates, "parallelCoordinates", "Parallel coordinates"}};
+      {xyPlot, "xyPlot", QT_TRANSLATE_NOOP("StyleNames", "XY plot")},
+      {reservedStyle1, "reservedStyle1", QT_TRANSLATE_NOOP("StyleNames", "Reserved style 1")},
+      {reservedStyle2, "reservedStyle2", QT_TRANSLATE_NOOP("StyleNames", "Reserved style 2")},
+      {scatterPlotMatrix, "scatterPlotMatrix",
+       QT_TRANSLATE_NOOP("StyleNames", "Scatter-plot matrix")},
+      {xyzPlot, "xyzPlot", QT_TRANSLATE_NOOP("StyleNames", "3-D points")},
+      {multiPlot, "multiPlot", QT_TRANSLATE_NOOP("StyleNames", "Multi-plot matrix")},
+      {selectionCdfPlot, "selectionCdfPlot", QT_TRANSLATE_NOOP("StyleNames", "Selection CDFs")},
+      {scatterWithErrorBars, "scatterWithErrorBars",
+       QT_TRANSLATE_NOOP("StyleNames", "Scatter with error bars")},
+      {fitParameterDistribution, "fitParameterDistribution",
+       QT_TRANSLATE_NOOP("StyleNames", "Fit-parameter distributions")},
+      {parallelCoordinates, "parallelCoordinates",
+       QT_TRANSLATE_NOOP("StyleNames", "Parallel coordinates")}};
   return names;
 }
 
@@ -42,6 +48,11 @@ const StyleName* findStyle(std::string_view name)
 const StyleName* findStyle(plotStyles style)
 {
   return find([style](const StyleName& entry) { return entry.style == style; });
+}
+
+QString titleOf(const StyleName& style)
+{
+  return QCoreApplication::translate("StyleNames", style.title);
 }
 
 } // namespace Talmesh::app

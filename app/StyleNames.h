@@ -3,6 +3,8 @@
 
 #include "external/PlotStyles.h"
 
+#include <QString>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +18,7 @@ struct StyleName
   plotStyles style;
   /// The enumerator, which the command line takes and gallery files are named by.
   const char* name;
-  /// What the window calls it.
+  /// What the window calls it, in English.
   const char* title;
 };
 
@@ -28,6 +30,9 @@ const StyleName* findStyle(std::string_view name);
 
 /// The entry of a style, or null for a value that is no enumerator.
 const StyleName* findStyle(plotStyles style);
+
+/// What the window calls a style, in the user's language.
+QString titleOf(const StyleName& style);
 
 } // namespace Talmesh::app
 

@@ -3,6 +3,7 @@
 #include "app/AsciiText.h"
 #include "app/DelimitedText.h"
 #include "app/NumberText.h"
+#include "app/TranslatedText.h"
 
 #include <algorithm>
 
@@ -73,12 +74,12 @@ std::string toUtf8(std::string_view text)
 std::string unreadable(std::string_view bytes)
 {
   if (bytes.empty())
-    return "the file is empty";
+    return translated("TableText", "the file is empty");
   const std::string_view start = bytes.substr(0, 2);
   if (start == "\xFF\xFE" || start == "\xFE\xFF")
-    return "the text is UTF-16; save it as UTF-8";
+    return translated("TableText", "the text is UTF-16; save it as UTF-8");
   if (bytes.find('\0') != std::string_view::npos)
-    return "not a table: the file holds binary data";
+    return translated("TableText", "not a table: the file holds binary data");
   return {};
 }
 
@@ -102,19 +103,21 @@ public:
   }
 
 private:
-  std::string line() const { return "line " + std::to_string(records.line()); }
+  std::string line() const { return std::to_string(records.line()); }
 
   void readHeaders()
   {
     if (!records.next(fields))
-      table.error = "the file is empty";
+      table.error = translated("TableText", "the file is empty");
     else if (records.endedInsideQuotes())
-      table.error = line() + ": a quoted name is not closed";
+      table.error =
+          withValues(translated("TableText", "line %1: a quoted name is not closed"), {line()});
     else
       dropTrailingEmptyFields(1);
     if (table.error.empty() && fields.size() > mostColumns)
-      table.error = "the table has " + std::to_string(fields.size()) + " columns; at most " +
-                    std::to_string(mostColumns) + " can be read";
+      table.error =
+          withValues(translated("TableText", "the table has %1 columns; at most %2 can be read"),
+                     {std::to_string(fields.size()), std::to_string(mostColumns)});
     if (!table.error.empty())
       return;
     const bool numbersOnly =
@@ -123,7 +126,8 @@ private:
                     { return readNumber(field, commas()).kind == NumberText::Kind::Number; });
     if (numbersOnly)
     {
-      table.error = "the first line holds numbers, not the names of the columns";
+      table.error =
+          translated("TableText", "the first line holds numbers, not the names of the columns");
       return;
     }
     std::vector<std::string> headers;
@@ -138,14 +142,15 @@ private:
     while (table.error.empty() && records.next(fields))
     {
       if (records.endedInsideQuotes())
-        table.error = line() + ": a quoted field is not closed";
+        table.error =
+            withValues(translated("TableText", "line %1: a quoted field is not closed"), {line()});
       else if (rowFits())
         readRow();
       if (table.rows % rowsBetweenReports == 0 && !report())
         return;
     }
     if (table.error.empty() && table.rows == 0)
-      table.error = "the table has no rows below its headers";
+      table.error = translated("TableText", "the table has no rows below its headers");
   }
 
   bool report()
@@ -160,9 +165,13 @@ private:
     dropTrailingEmptyFields(table.columns.size());
     if (fields.size() == table.columns.size())
       return true;
-    table.error = line() + " has " + std::to_string(fields.size()) +
-                  (fields.size() == 1 ? " field" : " fields") + ", the first line has " +
-                  std::to_string(table.columns.size());
+    table.error =
+        fields.size() == 1
+            ? withValues(translated("TableText", "line %1 has 1 field, the first line has %2"),
+                         {line(), std::to_string(table.columns.size())})
+            : withValues(
+                  translated("TableText", "line %1 has %2 fields, the first line has %3"),
+                  {line(), std::to_string(fields.size()), std::to_string(table.columns.size())});
     return false;
   }
 
@@ -188,8 +197,9 @@ private:
     const std::string name = toUtf8(trimmed(field, blanks));
     if (name.empty())
     {
-      table.error = line() + ": the run has no name in the column " +
-                    quotedForMessage(table.roles.headers[table.roles.runColumn].name);
+      table.error =
+          withValues(translated("TableText", "line %1: the run has no name in the column %2"),
+                     {line(), quotedForMessage(table.roles.headers[table.roles.runColumn].name)});
       return;
     }
     const auto [entry, added] = runNumbers.emplace(name, static_cast<int>(table.runNames.size()));
@@ -206,8 +216,11 @@ private:
     points = points || number.decimalPoint;
     decimalCommas = decimalCommas || number.decimalComma;
     if (points && decimalCommas)
-      table.error = line() + ": " + quotedForMessage(field) +
-                    " is ambiguous: the table has both decimal points and decimal commas";
+      table.error = withValues(
+          translated(
+              "TableText",
+              "line %1: %2 is ambiguous: the table has both decimal points and decimal commas"),
+          {line(), quotedForMessage(field)});
     if (number.kind == NumberText::Kind::Number)
       ++column.numbers;
     else if (number.kind == NumberText::Kind::Text && ++column.texts == 1)

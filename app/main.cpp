@@ -1,6 +1,7 @@
 #include "app/Batch.h"
 #include "app/CommandLine.h"
 #include "app/MainWindow.h"
+#include "widgets/Translation.h"
 
 #include <QVTKOpenGLNativeWidget.h>
 
@@ -95,6 +96,7 @@ int main(int argc, char** argv)
   int programNameOnly = 1;
   QApplication application(programNameOnly, argv);
   displayFound = true;
+  Talmesh::installTranslation(application, QLocale::system());
   // Qt takes over the user's locale, in which PDF and CSV would get decimal commas.
   std::setlocale(LC_NUMERIC, "C");
   QOpenGLContext context;

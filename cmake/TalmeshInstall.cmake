@@ -8,7 +8,8 @@ if(TARGET talmesh-plot)
 endif()
 install(DIRECTORY external stats vtk plot widgets
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/talmeshplot
-  FILES_MATCHING PATTERN "*.h")
+  FILES_MATCHING PATTERN "*.h"
+  PATTERN widgets/designer EXCLUDE)
 
 install(EXPORT TalmeshPlotTargets NAMESPACE Talmesh:: DESTINATION ${package_folder})
 configure_package_config_file(cmake/TalmeshPlotConfig.cmake.in TalmeshPlotConfig.cmake

@@ -8,6 +8,7 @@
 
 #include <vtkTable.h>
 
+#include <QCoreApplication>
 #include <QMessageBox>
 
 #include "ui_LinePlotWidget.h"
@@ -84,8 +85,9 @@ void LinePlotWidget::toggleLegend()
   legendShown = !legendShown;
   form->plotter->plotContainer()->setShowLegend(legendShown);
   form->plotter->updatePlot(true);
-  form->showLegend->setText(legendShown ? formText("Hide the Legend")
-                                        : formText("Show the Legend"));
+  form->showLegend->setText(
+      legendShown ? formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Hide the Legend"))
+                  : formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Show the Legend")));
 }
 
 void LinePlotWidget::toggleLogScale()
@@ -93,17 +95,22 @@ void LinePlotWidget::toggleLogScale()
   logScale = !logScale;
   form->plotter->plotContainer()->setLogScaleY(logScale);
   form->plotter->updatePlot(true);
-  form->logSButton->setText(logScale ? formText("Use Linear Scale") : formText("Use Log Scale"));
+  form->logSButton->setText(
+      logScale ? formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Use Linear Scale"))
+               : formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Use Log Scale")));
 }
 
 void LinePlotWidget::exportPlot()
 {
-  const QString fileName =
-      QFileDialog::getSaveFileName(nullptr, formText("Save Plot data as"), QString(),
-                                   formText("CSV(*.csv)"), nullptr, getFileDialogOption());
+  const QString fileName = QFileDialog::getSaveFileName(
+      nullptr, formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Save Plot data as")), QString(),
+      formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "CSV(*.csv)")), nullptr,
+      getFileDialogOption());
   if (fileName.isEmpty())
     return;
   if (!exportTable(*form->plotter->plotContainer(), fileName))
-    QMessageBox::warning(this, formText("Export Plot"),
-                         formText("The table could not be written to %1.").arg(fileName));
+    QMessageBox::warning(
+        this, formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Export Plot")),
+        formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "The table could not be written to %1."))
+            .arg(fileName));
 }

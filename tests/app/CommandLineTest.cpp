@@ -155,7 +155,7 @@ TEST(CommandLine, LeavesNoOptionsBesideAnError)
 TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
 {
   const std::string help = commandLineHelp();
-  for (const char* word : {"FILE.csv", "--style", "--x", "--y", "--z", "--export", "--gallery",
+  for (const char* word : {"FILE", "--style", "--x", "--y", "--z", "--export", "--gallery",
                            "--size", "--help", "--version"})
     EXPECT_NE(help.find(word), std::string::npos) << word;
   for (const StyleName& style : styleNames())

@@ -226,3 +226,22 @@ TEST_F(Program, SaysThatThereIsNoDisplay)
   environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
   expectError({"--export", path("plot.png")}, "the display cannot be opened");
 }
+
+TEST_F(Program, SpeaksGermanInAGermanEnvironment)
+{
+  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+  expectError({path("no.csv"), "--export", path("a.png")},
+              path("no.csv") + ": es gibt keine solche Datei");
+}
+
+TEST_F(Program, ExportsASession)
+{
+  // A table with the column Time of two rows, and no settings.
+  const QByteArray session =
+      QByteArray::fromHex("8954414c4d455348000000010000000200000000000000297b7d000000000000"
+                          "0001000000020000000800540069006d0065013ff00000000000004000000000"
+                          "0000005dbab94ab924455a2e3c29914fb8e4f346308bc3b0e2936efeb48e761f"
+                          "df4738");
+  expectSuccess({write("a.talmesh", session.toStdString()), "--export", path("a.csv")});
+  EXPECT_EQ(contentOf(path("a.csv")).toStdString(), "\"Time\"\n1\n2\n");
+}

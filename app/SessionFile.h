@@ -1,0 +1,55 @@
+#ifndef SessionFile_h
+#define SessionFile_h
+
+#include <QByteArray>
+#include <QString>
+
+#include <string>
+
+class QIODevice;
+
+namespace Talmesh::app
+{
+
+/// What a session file holds: the settings as JSON text and the binary dump of the plot table.
+struct SessionParts
+{
+  QByteArray settings;
+  QByteArray dump;
+};
+
+/// A session's parts, or why there are none.
+struct ReadSessionParts
+{
+  SessionParts parts;
+  /// One line of UTF-8; empty on success.
+  std::string error;
+};
+
+/// The ending of the names of session files, without the dot.
+inline constexpr char sessionSuffix[] = "talmesh";
+
+/// Whether a file is to be opened as a session: by its name, or else by its first bytes.
+bool isSessionFile(const QString& path);
+
+/// Writes version 1 of the format, all numbers big-endian:
+///   8 bytes "\x89TALMESH", uint32 version, uint32 S, uint64 D,
+///   S bytes of settings, D bytes of dump, and the SHA-256 of everything before it.
+/// @return whether the device took all of it
+bool writeSession(QIODevice& device, const SessionParts& parts);
+
+/// Reads a session from a device that knows its size. Every byte counts: a file that is cut short,
+/// longer or changed anywhere is refused, before any memory is taken that its size does not
+/// justify.
+ReadSessionParts readSession(QIODevice& device);
+
+/// Writes a file, which takes the place of an older one only when it is complete on the disk.
+/// @return why it could not be written, in one line of UTF-8; empty on success
+std::string saveSessionFile(const QString& path, const SessionParts& parts);
+
+/// Reads a regular file. Errors do not name it.
+ReadSessionParts loadSessionFile(const QString& path);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,49 @@
+#ifndef TimeCoursePage_h
+#define TimeCoursePage_h
+
+#include "app/Study.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class LinePlotWidget;
+class PlotSelector;
+class QSpinBox;
+
+namespace Talmesh::app
+{
+
+/// Shows the time courses of one run, of those items that the user picks from a list. Its chart is
+/// made when the page is shown for the first time, so that it costs nothing before.
+class TimeCoursePage : public QWidget
+{
+  Q_OBJECT
+
+public:
+  explicit TimeCoursePage(QWidget* parent = nullptr);
+  ~TimeCoursePage() override;
+
+  /// Turns to another study, whose runs are shared. A plain table has no time courses: the page
+  /// then says that there are none.
+  void setStudy(const Study& study);
+
+protected:
+  void showEvent(QShowEvent* event) override;
+
+private:
+  void build();
+  void fill();
+  void showRun();
+  void chooseFirstItem(PlotSelector& selector) const;
+
+  boost::shared_ptr<LinePlotTable> runs;
+  LinePlotWidget* chart = nullptr;
+  QSpinBox* run = nullptr;
+  /// Whether the study is one that the chart does not show yet.
+  bool outdated = true;
+};
+
+} // namespace Talmesh::app
+
+#endif

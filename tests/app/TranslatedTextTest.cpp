@@ -1,0 +1,47 @@
+#include "app/TranslatedText.h"
+
+#include "app/PlotDock.h"
+#include "app/RunTableImport.h"
+#include "app/Study.h"
+#include "support/German.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+
+TEST(TranslatedText, PutsValuesInTheirPlaces)
+{
+  EXPECT_EQ(withValues("%2 and %1", {"a", "b"}), "b and a");
+  EXPECT_EQ(withValues("%1%1", {"a"}), "aa");
+}
+
+TEST(TranslatedText, LeavesWhatTheValuesHoldAlone)
+{
+  EXPECT_EQ(withValues("%1, %2", {"%2", "100%"}), "%2, 100%");
+}
+
+TEST(TranslatedText, LeavesPlacesWithoutAValue)
+{
+  EXPECT_EQ(withValues("%1 %2 %0 % %", {"a"}), "a %2 %0 % %");
+}
+
+TEST(TranslatedText, IsGermanInMessages)
+{
+  EXPECT_EQ(importRunTable("time,A\n0,1\n1\n").error, "line 3 has 1 field, the first line has 2");
+  const German german;
+  ASSERT_TRUE(german.installed);
+  EXPECT_EQ(importRunTable("time,A\n0,1\n1\n").error, "Zeile 3 hat 1 Feld, die erste Zeile hat 2");
+  EXPECT_EQ(studySize(sampleStudy()), "3 L\xc3\xa4ufe, je 4 Zeitpunkte, 1 Parameter");
+}
+
+TEST(TranslatedText, IsGermanInTheStyles)
+{
+  const German german;
+  const PlotDock dock;
+  EXPECT_EQ(dock.windowTitle(), "Diagramm");
+  EXPECT_EQ(dock.findChild<QComboBox*>("style")->itemText(0), "XY-Diagramm");
+}

@@ -1,0 +1,699 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>LinePlotWidgetClass</name>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>&lt;!DOCTYPE HTML PUBLIC &quot;-//W3C//DTD HTML 4.0//EN&quot; &quot;http://www.w3.org/TR/REC-html40/strict.dtd&quot;&gt;
+&lt;html&gt;&lt;head&gt;&lt;meta name=&quot;qrichtext&quot; content=&quot;1&quot; /&gt;&lt;style type=&quot;text/css&quot;&gt;
+p, li { white-space: pre-wrap; }
+&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Sans Serif&apos;; font-size:9pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:24pt;&quot;&gt;Simulation data not available&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;!DOCTYPE HTML PUBLIC &quot;-//W3C//DTD HTML 4.0//EN&quot; &quot;http://www.w3.org/TR/REC-html40/strict.dtd&quot;&gt;
+&lt;html&gt;&lt;head&gt;&lt;meta name=&quot;qrichtext&quot; content=&quot;1&quot; /&gt;&lt;style type=&quot;text/css&quot;&gt;
+p, li { white-space: pre-wrap; }
+&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Sans Serif&apos;; font-size:9pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:24pt;&quot;&gt;Keine Simulationsdaten vorhanden&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Export Plot</source>
+        <translation>Daten exportieren</translation>
+    </message>
+    <message>
+        <source>Hide the Legend</source>
+        <translation>Legende ausblenden</translation>
+    </message>
+    <message>
+        <source>Use Linear Scale</source>
+        <translation>Lineare Skala</translation>
+    </message>
+    <message>
+        <source>Show the Legend</source>
+        <translation>Legende einblenden</translation>
+    </message>
+    <message>
+        <source>Use Log Scale</source>
+        <translation>Logarithmische Skala</translation>
+    </message>
+    <message>
+        <source>Save Plot data as</source>
+        <translation>Daten speichern unter</translation>
+    </message>
+    <message>
+        <source>CSV(*.csv)</source>
+        <translation>CSV(*.csv)</translation>
+    </message>
+    <message>
+        <source>The table could not be written to %1.</source>
+        <translation>Die Tabelle konnte nicht nach %1 geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFile</name>
+    <message>
+        <source>the plot could not be painted</source>
+        <translation>die Grafik konnte nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>the table could not be written</source>
+        <translation>die Tabelle konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the name must end with .png, .pdf or .csv</source>
+        <translation>der Name muss auf .png, .pdf oder .csv enden</translation>
+    </message>
+</context>
+<context>
+    <name>PlotChoice</name>
+    <message>
+        <source>cannot draw this: %1</source>
+        <translation>das lässt sich nicht zeichnen: %1</translation>
+    </message>
+    <message>
+        <source>no such column: %1; the columns are %2</source>
+        <translation>keine solche Spalte: %1; die Spalten sind %2</translation>
+    </message>
+    <message>
+        <source>more than one column is named %1: %2 and %3</source>
+        <translation>mehr als eine Spalte heißt %1: %2 und %3</translation>
+    </message>
+</context>
+<context>
+    <name>PlotSelector</name>
+    <message>
+        <source>Select Items to View</source>
+        <translation>Angezeigte Größen wählen</translation>
+    </message>
+</context>
+<context>
+    <name>RunGrouping</name>
+    <message>
+        <source>1 point</source>
+        <translation>1 Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Zeitpunkte</translation>
+    </message>
+    <message>
+        <source>run %1 has %2, other runs have %3</source>
+        <translation>der Lauf %1 hat %2, andere Läufe haben %3</translation>
+    </message>
+    <message>
+        <source>run %1 (from line %2, where time falls back) has %3, other runs have %4</source>
+        <translation>der Lauf %1 (ab Zeile %2, wo die Zeit zurückspringt) hat %3, andere Läufe haben %4</translation>
+    </message>
+    <message>
+        <source>run %1 starts again in line %2: two runs have the same name</source>
+        <translation>der Lauf %1 beginnt in Zeile %2 von neuem: Zwei Läufe haben denselben Namen</translation>
+    </message>
+</context>
+<context>
+    <name>RunSelectionFile</name>
+    <message>
+        <source>entry %1 of its runs is not a whole number</source>
+        <translation>Eintrag %1 der Läufe ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>not a JSON file: %1 at byte %2</source>
+        <translation>keine JSON-Datei: %1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>not a selection of runs</source>
+        <translation>keine Auswahl von Läufen</translation>
+    </message>
+    <message>
+        <source>a selection of runs in a version that this program does not know</source>
+        <translation>eine Auswahl von Läufen in einer Version, die dieses Programm nicht kennt</translation>
+    </message>
+    <message>
+        <source>a selection without a list of runs</source>
+        <translation>eine Auswahl ohne Liste der Läufe</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>too large for a selection of runs</source>
+        <translation>zu groß für eine Auswahl von Läufen</translation>
+    </message>
+</context>
+<context>
+    <name>RunTableImport</name>
+    <message>
+        <source>line %1: %2 in the column %3 is not a number</source>
+        <translation>Zeile %1: %2 in der Spalte %3 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>The column %1 holds text and is left out.</source>
+        <translation>Die Spalte %1 enthält Text und wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>not a table: no column holds numbers</source>
+        <translation>keine Tabelle: Keine Spalte enthält Zahlen</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionHistory</name>
+    <message>
+        <source>Clear Selection</source>
+        <translation>Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>SessionFile</name>
+    <message>
+        <source>%1: the table is too large for a session</source>
+        <translation>%1: Die Tabelle ist zu groß für eine Sitzung</translation>
+    </message>
+    <message>
+        <source>this is not a session of Talmesh Plot</source>
+        <translation>das ist keine Sitzung von Talmesh Plot</translation>
+    </message>
+    <message>
+        <source>the session is cut short</source>
+        <translation>die Sitzung ist unvollständig</translation>
+    </message>
+    <message>
+        <source>the session was written by a newer version of this program</source>
+        <translation>die Sitzung stammt von einer neueren Version dieses Programms</translation>
+    </message>
+    <message>
+        <source>the session is damaged</source>
+        <translation>die Sitzung ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>this is not a file</source>
+        <translation>das ist keine Datei</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the session&apos;s settings are damaged</source>
+        <translation>die Einstellungen der Sitzung sind beschädigt</translation>
+    </message>
+    <message>
+        <source>the session&apos;s table is damaged</source>
+        <translation>die Tabelle der Sitzung ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>Study</name>
+    <message>
+        <source>%1, %2 each, %3</source>
+        <translation>%1, je %2, %3</translation>
+    </message>
+    <message>
+        <source>run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>runs</source>
+        <translation>Läufe</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>Zeitpunkte</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>row</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>columns</source>
+        <translation>Spalten</translation>
+    </message>
+</context>
+<context>
+    <name>StudyFile</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>this is not a file</source>
+        <translation>das ist keine Datei</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the table does not fit into memory</source>
+        <translation>die Tabelle passt nicht in den Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>StyleNames</name>
+    <message>
+        <source>XY plot</source>
+        <translation>XY-Diagramm</translation>
+    </message>
+    <message>
+        <source>Reserved style 1</source>
+        <translation>Reservierte Darstellung 1</translation>
+    </message>
+    <message>
+        <source>Reserved style 2</source>
+        <translation>Reservierte Darstellung 2</translation>
+    </message>
+    <message>
+        <source>Scatter-plot matrix</source>
+        <translation>Streudiagramm-Matrix</translation>
+    </message>
+    <message>
+        <source>3-D points</source>
+        <translation>3D-Punkte</translation>
+    </message>
+    <message>
+        <source>Multi-plot matrix</source>
+        <translation>Diagramm-Matrix</translation>
+    </message>
+    <message>
+        <source>Selection CDFs</source>
+        <translation>Verteilungen der Auswahl</translation>
+    </message>
+    <message>
+        <source>Scatter with error bars</source>
+        <translation>Punkte mit Fehlerbalken</translation>
+    </message>
+    <message>
+        <source>Fit-parameter distributions</source>
+        <translation>Verteilungen der Fitparameter</translation>
+    </message>
+    <message>
+        <source>Parallel coordinates</source>
+        <translation>Parallele Koordinaten</translation>
+    </message>
+</context>
+<context>
+    <name>TableText</name>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the text is UTF-16; save it as UTF-8</source>
+        <translation>der Text ist in UTF-16 kodiert; bitte als UTF-8 speichern</translation>
+    </message>
+    <message>
+        <source>not a table: the file holds binary data</source>
+        <translation>keine Tabelle: Die Datei enthält Binärdaten</translation>
+    </message>
+    <message>
+        <source>line %1: a quoted name is not closed</source>
+        <translation>Zeile %1: Die Anführungszeichen um einen Namen sind nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>the table has %1 columns; at most %2 can be read</source>
+        <translation>die Tabelle hat %1 Spalten; höchstens %2 lassen sich lesen</translation>
+    </message>
+    <message>
+        <source>the first line holds numbers, not the names of the columns</source>
+        <translation>die erste Zeile enthält Zahlen statt der Namen der Spalten</translation>
+    </message>
+    <message>
+        <source>line %1: a quoted field is not closed</source>
+        <translation>Zeile %1: Die Anführungszeichen um ein Feld sind nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>the table has no rows below its headers</source>
+        <translation>die Tabelle hat unter ihren Überschriften keine Zeilen</translation>
+    </message>
+    <message>
+        <source>line %1 has 1 field, the first line has %2</source>
+        <translation>Zeile %1 hat 1 Feld, die erste Zeile hat %2</translation>
+    </message>
+    <message>
+        <source>line %1 has %2 fields, the first line has %3</source>
+        <translation>Zeile %1 hat %2 Felder, die erste Zeile hat %3</translation>
+    </message>
+    <message>
+        <source>line %1: the run has no name in the column %2</source>
+        <translation>Zeile %1: Der Lauf hat keinen Namen in der Spalte %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2 is ambiguous: the table has both decimal points and decimal commas</source>
+        <translation>Zeile %1: %2 ist mehrdeutig: Die Tabelle enthält Dezimalpunkte und Dezimalkommas</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::LoadingBar</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::MainWindow</name>
+    <message>
+        <source>Runs</source>
+        <translation>Läufe</translation>
+    </message>
+    <message>
+        <source>Time courses</source>
+        <translation>Zeitverläufe</translation>
+    </message>
+    <message>
+        <source>the example study</source>
+        <translation>die Beispielstudie</translation>
+    </message>
+    <message>
+        <source>Opening %1 ...</source>
+        <translation>%1 wird geöffnet …</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Open the e&amp;xample study</source>
+        <translation>&amp;Beispielstudie öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>B&amp;eenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>&amp;Selection</source>
+        <translation>&amp;Auswahl</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select &amp;nothing</source>
+        <translation>&amp;Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Load selected runs...</source>
+        <translation>Ausgewählte Läufe &amp;laden …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation>Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>&amp;Save selected runs...</source>
+        <translation>Ausgewählte Läufe &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>A&amp;nsicht</translation>
+    </message>
+    <message>
+        <source>Lines or points</source>
+        <translation>Linien oder Punkte</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Ctrl+G</source>
+        <translation>Ctrl+G</translation>
+    </message>
+    <message>
+        <source>Logarithmic x axis</source>
+        <translation>Logarithmische x-Achse</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+X</source>
+        <translation>Ctrl+Shift+X</translation>
+    </message>
+    <message>
+        <source>Logarithmic y axis</source>
+        <translation>Logarithmische y-Achse</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Y</source>
+        <translation>Ctrl+Shift+Y</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber Talmesh Plot</translation>
+    </message>
+    <message>
+        <source>Open runs</source>
+        <translation>Läufe öffnen</translation>
+    </message>
+    <message>
+        <source>Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)</source>
+        <translation>Tabellen und Sitzungen (*.csv *.tsv *.txt *.talmesh);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)</source>
+        <translation>Bild (*.png);;Vektorgrafik (*.pdf);;Tabelle (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save selected runs</source>
+        <translation>Ausgewählte Läufe speichern</translation>
+    </message>
+    <message>
+        <source>Runs (*.json)</source>
+        <translation>Läufe (*.json)</translation>
+    </message>
+    <message>
+        <source>Load selected runs</source>
+        <translation>Ausgewählte Läufe laden</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Noch keine</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>About Talmesh Plot</source>
+        <translation>Über Talmesh Plot</translation>
+    </message>
+    <message>
+        <source>Talmesh Plot %1
+Plots of simulated runs.</source>
+        <translation>Talmesh Plot %1
+Grafiken simulierter Läufe.</translation>
+    </message>
+    <message>
+        <source>Open sessio&amp;n...</source>
+        <translation>S&amp;itzung öffnen …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+O</source>
+        <translation>Ctrl+Alt+O</translation>
+    </message>
+    <message>
+        <source>&amp;Save session...</source>
+        <translation>Sitzung &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>Open session</source>
+        <translation>Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>Sessions (*.talmesh)</source>
+        <translation>Sitzungen (*.talmesh)</translation>
+    </message>
+    <message>
+        <source>Save session</source>
+        <translation>Sitzung speichern</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::PlotDock</name>
+    <message>
+        <source>Plot</source>
+        <translation>Diagramm</translation>
+    </message>
+    <message>
+        <source>St&amp;yle</source>
+        <translation>&amp;Darstellung</translation>
+    </message>
+    <message>
+        <source>&amp;X</source>
+        <translation>&amp;X</translation>
+    </message>
+    <message>
+        <source>&amp;Y</source>
+        <translation>&amp;Y</translation>
+    </message>
+    <message>
+        <source>&amp;Z</source>
+        <translation>&amp;Z</translation>
+    </message>
+    <message>
+        <source>L&amp;ines</source>
+        <translation>L&amp;inien</translation>
+    </message>
+    <message>
+        <source>One line per run instead of points</source>
+        <translation>Eine Linie je Lauf statt Punkten</translation>
+    </message>
+    <message>
+        <source>Le&amp;gend</source>
+        <translation>Le&amp;gende</translation>
+    </message>
+    <message>
+        <source>Show what each colour means</source>
+        <translation>Zeigt, was jede Farbe bedeutet</translation>
+    </message>
+    <message>
+        <source>Logarithmic x axis</source>
+        <translation>Logarithmische x-Achse</translation>
+    </message>
+    <message>
+        <source>Needs positive values</source>
+        <translation>Braucht positive Werte</translation>
+    </message>
+    <message>
+        <source>Logarithmic y axis</source>
+        <translation>Logarithmische y-Achse</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::SelectionController</name>
+    <message>
+        <source>This table has no runs to select.</source>
+        <translation>Diese Tabelle hat keine Läufe, die sich auswählen ließen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 runs selected</source>
+        <translation>%1 von %2 Läufen ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows selected</source>
+        <translation>%1 von %2 Zeilen ausgewählt</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::TimeCoursePage</name>
+    <message>
+        <source>The run whose time courses are shown</source>
+        <translation>Der Lauf, dessen Zeitverläufe gezeigt werden</translation>
+    </message>
+    <message>
+        <source>R&amp;un</source>
+        <translation>La&amp;uf</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::designer::WidgetCollection</name>
+    <message>
+        <source>Shows one plot</source>
+        <translation>Zeigt eine Grafik</translation>
+    </message>
+    <message>
+        <source>Lets the user choose the items to plot</source>
+        <translation>Lässt den Benutzer die dargestellten Größen wählen</translation>
+    </message>
+    <message>
+        <source>Shows time courses with a list to choose them from</source>
+        <translation>Zeigt Zeitverläufe mit einer Liste, aus der sie gewählt werden</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,39 @@
+#include "widgets/Translation.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <memory>
+
+namespace Talmesh
+{
+
+namespace
+{
+
+bool install(QCoreApplication& application, const QLocale& locale, const QString& name,
+             const QString& folder)
+{
+  auto translator = std::make_unique<QTranslator>(&application);
+  if (!translator->load(locale, name, QStringLiteral("_"), folder))
+    return false;
+  return QCoreApplication::installTranslator(translator.release());
+}
+
+} // namespace
+
+bool installTranslation(QCoreApplication& application, const QLocale& locale)
+{
+  if (locale.language() == QLocale::English || locale.language() == QLocale::C)
+    return true;
+  if (!install(application, locale, QStringLiteral("talmeshplot"),
+               QStringLiteral(":/talmeshplot/translations")))
+    return false;
+  // Without it only the buttons of Qt's own dialogs stay English.
+  install(application, locale, QStringLiteral("qtbase"),
+          QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+  return true;
+}
+
+} // namespace Talmesh
