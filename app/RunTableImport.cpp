@@ -228,8 +228,9 @@ std::vector<std::string> notesOn(const TableText& text)
 
 std::string noteOnUnvaried(const std::string& parameter)
 {
-  return "The parameter " + quotedForMessage(parameter) +
-         " is the same in all runs and is left out.";
+  return withValues(
+      translated("RunTableImport", "The parameter %1 is the same in all runs and is left out."),
+      {quotedForMessage(parameter)});
 }
 
 RunGrouping groupingOf(const TableText& text)

@@ -1,6 +1,7 @@
 #include "app/SelectionController.h"
 
 #include "app/RunSelectionFile.h"
+#include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
@@ -61,14 +62,16 @@ std::string noteOnMissing(const QString& path, const std::set<int>& missing, std
     }
     indices.append(QString::number(run));
   }
-  const QString count = missing.size() == wanted ? QStringLiteral("none of its runs is")
-                                                 : QStringLiteral("%1 of its %2 runs %3 not")
-                                                       .arg(missing.size())
-                                                       .arg(wanted)
-                                                       .arg(missing.size() == 1 ? "is" : "are");
-  return QStringLiteral("%1: %2 in this table: %3")
-      .arg(path, count, indices.join(", "))
-      .toStdString();
+  QString text;
+  if (missing.size() == wanted)
+    text = SelectionController::tr("%1: none of its runs is in this table: %2");
+  else if (missing.size() == 1)
+    text = SelectionController::tr("%1: 1 of its %3 runs is not in this table: %2");
+  else
+    text = SelectionController::tr("%1: %4 of its %3 runs are not in this table: %2");
+  return withValues(text.toStdString(),
+                    {path.toStdString(), indices.join(QStringLiteral(", ")).toStdString(),
+                     std::to_string(wanted), std::to_string(missing.size())});
 }
 
 } // namespace

@@ -165,6 +165,10 @@ p, li { white-space: pre-wrap; }
         <source>not a table: no column holds numbers</source>
         <translation>keine Tabelle: Keine Spalte enthält Zahlen</translation>
     </message>
+    <message>
+        <source>The parameter %1 is the same in all runs and is left out.</source>
+        <translation>Der Parameter %1 ist in allen Läufen gleich und wird ausgelassen.</translation>
+    </message>
 </context>
 <context>
     <name>SelectionHistory</name>
@@ -668,6 +672,18 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>%1 of %2 rows selected</source>
         <translation>%1 von %2 Zeilen ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1: none of its runs is in this table: %2</source>
+        <translation>%1: keiner der Läufe steht in dieser Tabelle: %2</translation>
+    </message>
+    <message>
+        <source>%1: 1 of its %3 runs is not in this table: %2</source>
+        <translation>%1: 1 der %3 Läufe steht nicht in dieser Tabelle: %2</translation>
+    </message>
+    <message>
+        <source>%1: %4 of its %3 runs are not in this table: %2</source>
+        <translation>%1: %4 der %3 Läufe stehen nicht in dieser Tabelle: %2</translation>
     </message>
 </context>
 <context>

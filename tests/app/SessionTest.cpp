@@ -103,6 +103,20 @@ TEST_F(Session, RestoresRunsAndParameters)
   EXPECT_EQ(container.state().parameterBounds, shown->state().parameterBounds);
 }
 
+TEST_F(Session, KeepsParametersThatAreTheSameInAllRuns)
+{
+  // Plots leave them out.
+  const Study study = sampleStudy(": Time [s],Molecule: A,Parameter: c,Parameter: k,: Run Index\n"
+                                  "0,1,7,2,0\n1,2,7,2,0\n0,3,7,3,1\n1,4,7,3,1\n");
+  save(study);
+  PlotContainer& container = reopen();
+  EXPECT_EQ(opened.study.runs->items, study.runs->items);
+  EXPECT_EQ(opened.study.runs->parameterRanges, study.runs->parameterRanges);
+  EXPECT_EQ(opened.study.runs->values[2][3], 7.0);
+  EXPECT_EQ(container.getLabels(), shown->getLabels());
+  EXPECT_FALSE(container.getLabels().contains("Parameter: c"));
+}
+
 TEST_F(Session, KeepsBoundsThatAreInfinite)
 {
   const Study study = sampleStudy();
