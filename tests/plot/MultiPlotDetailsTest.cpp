@@ -1,6 +1,7 @@
 #include "plot/PlotState.h"
 #include "support/PageFixture.h"
 #include "support/ParameterStudy.h"
+#include "support/PlotFixture.h"
 #include "support/SampleTables.h"
 
 #include <vtkAxis.h>
@@ -114,7 +115,7 @@ TEST_F(MultiPlotDetails, LeaveTheRangeOfAFloatColumnToVtk)
     x->InsertNextValue(100.0F + static_cast<float>(row));
   drawOver(x);
   expectUntouchedRange();
-  EXPECT_EQ(inputName(container.getChartXY()->GetPlot(0), 0), "single precision");
+  EXPECT_EQ(plottedName(container.getChartXY()->GetPlot(0), 0), "single precision");
 }
 
 TEST_F(MultiPlotDetails, LeaveARangeToVtkWhoseLimitsWouldNotBeFinite)

@@ -1,25 +1,11 @@
 #ifndef PageProbes_h
 #define PageProbes_h
 
-#include <vtkAbstractArray.h>
 #include <vtkCommand.h>
-#include <vtkContextMapper2D.h>
 #include <vtkPen.h>
-#include <vtkPlot.h>
-#include <vtkTable.h>
 
 #include <array>
 #include <functional>
-#include <string>
-
-/// The name of the column that a plot takes as x (0) or y (1); empty for a plot without input.
-inline std::string inputName(vtkPlot* plot, int axis)
-{
-  vtkTable* input = plot->GetInput();
-  vtkAbstractArray* column =
-      input ? plot->GetData()->GetInputAbstractArrayToProcess(axis, input) : nullptr;
-  return column && column->GetName() ? column->GetName() : "";
-}
 
 /// Red, green, blue and alpha.
 inline std::array<int, 4> penColor(vtkPen* pen)

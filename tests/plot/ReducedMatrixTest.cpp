@@ -1,13 +1,12 @@
 #include "support/PageFixture.h"
 #include "support/ParameterStudy.h"
+#include "support/PlotFixture.h"
 
 #include <vtkContextMouseEvent.h>
 #include <vtkGenericRenderWindowInteractor.h>
 #include <vtkScatterPlotMatrix.h>
 
 #include <gtest/gtest.h>
-
-#include "PageProbes.h"
 
 namespace
 {
@@ -57,8 +56,8 @@ TEST_F(ReducedMatrix, StillHasEveryPair)
   EXPECT_EQ(pairs()->GetSize(), vtkVector2i(6, 6));
   pairs()->SetActivePlot(vtkVector2i(3, 0));
   vtkPlot* large = pairs()->GetMainChart()->GetPlot(0);
-  EXPECT_EQ(inputName(large, 0), "Parameter: k1");
-  EXPECT_EQ(inputName(large, 1), "Parameter: k3");
+  EXPECT_EQ(plottedName(large, 0), "Parameter: k1");
+  EXPECT_EQ(plottedName(large, 1), "Parameter: k3");
   scene.render(container);
 }
 
@@ -77,7 +76,7 @@ TEST_F(ReducedMatrix, AnswersAClickOnAPairThatIsGoneFromTheTable)
 {
   click(3, 0);
   EXPECT_EQ(pairs()->GetActivePlot(), vtkVector2i(3, 0));
-  EXPECT_EQ(inputName(pairs()->GetMainChart()->GetPlot(0), 0), "Parameter: k1");
+  EXPECT_EQ(plottedName(pairs()->GetMainChart()->GetPlot(0), 0), "Parameter: k1");
 }
 
 TEST_F(ReducedMatrix, ShowsTheReducedTableFromTheNextDrawingOn)

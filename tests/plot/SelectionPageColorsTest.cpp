@@ -94,8 +94,8 @@ TEST_F(SelectionPageColors, BelongToRunsOfTheFirstColumnsOfTheTable)
     settings().yColumns = {4, 0};
     container.redraw();
     EXPECT_EQ(drawn()->GetInput(), container.getTable());
-    EXPECT_EQ(inputName(drawn(), 0), ": Time [s]");
-    EXPECT_EQ(inputName(drawn(), 1), "Parameter: k2");
+    EXPECT_EQ(plottedName(drawn(), 0), ": Time [s]");
+    EXPECT_EQ(plottedName(drawn(), 1), "Parameter: k2");
   }
 }
 

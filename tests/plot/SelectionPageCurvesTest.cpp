@@ -61,8 +61,8 @@ TEST_F(SelectionPageCurves, AreDensityLinesOfTheSlotsBehindTheRanks)
     vtkPlot* curve = cell(1, 0)->GetPlot(i);
     EXPECT_STREQ(curve->GetClassName(), "vtkPlotLine");
     EXPECT_EQ(curve->GetInput(), container.getDerivedTables()[densities[i]]);
-    EXPECT_EQ(inputName(curve, 0), "Locations of Parameter: k2");
-    EXPECT_EQ(inputName(curve, 1), "Density of Parameter: k2");
+    EXPECT_EQ(plottedName(curve, 0), "Locations of Parameter: k2");
+    EXPECT_EQ(plottedName(curve, 1), "Density of Parameter: k2");
   }
   scene.render(container);
 }
@@ -74,7 +74,7 @@ TEST_F(SelectionPageCurves, ShowBothParametersOfAStudyOfTwo)
   {
     const std::string name = "k" + std::to_string(i + 1);
     ASSERT_EQ(cell(i, 0)->GetNumberOfPlots(), 1);
-    EXPECT_EQ(inputName(cell(i, 0)->GetPlot(0), 0), "Sorted Parameter: " + name);
+    EXPECT_EQ(plottedName(cell(i, 0)->GetPlot(0), 0), "Sorted Parameter: " + name);
     EXPECT_EQ(cell(i, 0)->GetAxis(vtkAxis::BOTTOM)->GetTitle(), name);
     EXPECT_EQ(matrix()->GetChartSpan(vtkVector2i(i, 0)), vtkVector2i(1, 1));
   }

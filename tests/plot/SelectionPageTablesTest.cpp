@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "PageProbes.h"
 #include "SelectionPageFixture.h"
 
 namespace
@@ -21,7 +20,7 @@ TEST_F(SelectionPageTables, TakeTheFirstSlotsFromAdditionalData)
   container.redraw();
   ASSERT_EQ(tables().size(), 2U);
   EXPECT_EQ(ownCurve()->GetInput(), tables()[0]);
-  EXPECT_EQ(inputName(ownCurve(), 1), "Rank of Parameter: k1");
+  EXPECT_EQ(plottedName(ownCurve(), 1), "Rank of Parameter: k1");
   EXPECT_NE(tables()[1]->GetColumnByName("Density of Parameter: k1"), nullptr);
   scene.render(container);
 }
@@ -36,7 +35,7 @@ TEST_F(SelectionPageTables, AreRebuiltWhenOnlyTheDensitiesAreMissing)
     container.redraw();
     ASSERT_NE(tables()[1], nullptr);
     EXPECT_EQ(ownCurve()->GetInput(), tables()[1]);
-    EXPECT_EQ(inputName(ownCurve(), 1), "Density of Parameter: k1");
+    EXPECT_EQ(plottedName(ownCurve(), 1), "Density of Parameter: k1");
   }
 }
 

@@ -25,8 +25,6 @@ protected:
     settings().yColumns = {2};
     settings().colorColumn = 3;
   }
-
-  vtkPlotPoints* points() { return vtkPlotPoints::SafeDownCast(chart()->GetPlot(0)); }
 };
 
 TEST_F(UnnamedFirstColumn, DoesNotKeepPointsFromBeingColored)
