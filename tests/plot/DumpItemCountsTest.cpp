@@ -1,27 +1,9 @@
-#include "plot/PlotContainer.h"
-#include "plot/PlotState.h"
-#include "support/CapturedOutput.h"
+#include "BinaryDumpFixture.h"
 
-#include <vtkTable.h>
-
-#include <gtest/gtest.h>
-
-#include <QByteArray>
-#include <QDataStream>
-
-#include <string>
+using DumpBytes::ints;
 
 namespace
 {
-
-QByteArray ints(std::initializer_list<qint32> values)
-{
-  QByteArray bytes;
-  QDataStream out(&bytes, QIODevice::WriteOnly);
-  for (const qint32 value : values)
-    out << value;
-  return bytes;
-}
 
 /// More items than the bytes hold: one whole item, then the given beginning of the next.
 class DumpItemCounts : public ::testing::TestWithParam<qint32>

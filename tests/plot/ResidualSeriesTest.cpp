@@ -1,18 +1,12 @@
-#include "external/FitRun.h"
-#include "external/FitSettings.h"
-#include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
-#include "support/PlotFixture.h"
-#include "support/SampleRuns.h"
 #include "support/VtkErrors.h"
 
 #include <vtkPlotLine.h>
 #include <vtkPlotPoints.h>
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
+
+#include "ResidualFixture.h"
 
 using SampleRuns::valuesOf;
 
@@ -22,38 +16,11 @@ namespace
 constexpr double inf = std::numeric_limits<double>::infinity();
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
-/// Data over the row index.
-class IndexedData : public FitSettings
-{
-public:
-  int dataKind() const override { return 2; }
-};
-
-/// Two outputs at three times in a container of style 0.
-class ResidualSeries : public PlotFixture
+/// What every plot of the fit looks like in a container of style 0.
+class ResidualSeries : public ResidualFixture
 {
 protected:
-  ResidualSeries()
-  {
-    run.timePoints = {0.0, 0.5, 1.0};
-    for (FitSettings* data : {&course, static_cast<FitSettings*>(&indexed)})
-    {
-      data->observations = {{1.0, 2.0, 4.0}, {10.0, 20.0, 30.0}};
-      data->errors = {{0.5, 0.25, 2.0}, {1.0, 2.0, 4.0}};
-      data->outputs = {{Talmesh::Molecule, "M"}, {Talmesh::Pattern, "P"}};
-    }
-  }
-
-  void show(FitSettings& data, bool scaled, bool sideBySide)
-  {
-    container.setResidualPlot(&run, &data, predictions, scaled, sideBySide);
-  }
-
-  std::vector<double> column(const std::string& name)
-  {
-    return valuesOf(container.getTable(), name);
-  }
-
+  vtkAxis* left() { return chart()->GetAxis(vtkAxis::LEFT); }
   vtkPlotPoints* plot(int index) { return vtkPlotPoints::SafeDownCast(chart()->GetPlot(index)); }
 
   void expectUntouchedMarkers(int index, vtkPlotPoints* fresh)
@@ -65,23 +32,18 @@ protected:
   void expectPaintsOnFiniteAxes()
   {
     scene.render(container);
-    for (vtkAxis* axis : {left(), bottom()})
+    for (vtkAxis* axis : {left(), chart()->GetAxis(vtkAxis::BOTTOM)})
     {
       EXPECT_TRUE(std::isfinite(axis->GetMinimum()));
       EXPECT_TRUE(std::isfinite(axis->GetMaximum()));
       EXPECT_LE(axis->GetMinimum(), axis->GetMaximum());
     }
   }
-
-  FitRun run;
-  FitSettings course;
-  IndexedData indexed;
-  std::vector<std::vector<double>> predictions{{2.0, 4.0, 1.0}, {8.0, 24.0, 30.0}};
 };
 
 TEST_F(ResidualSeries, PredictionsBeyondTheObservationsAreLeftOut)
 {
-  for (FitSettings* data : {&course, static_cast<FitSettings*>(&indexed)})
+  for (FitSettings* data : {&course, static_cast<FitSettings*>(&other)})
   {
     data->observations = {{1.0, 2.0, 4.0, 5.0}, {10.0}};
     show(*data, false, true);
@@ -98,7 +60,7 @@ TEST_F(ResidualSeries, PredictionsBeyondTheObservationsAreLeftOut)
 TEST_F(ResidualSeries, OnlyTheFirstPlotIsMarkedWithSquares)
 {
   vtkNew<vtkPlotPoints> freshPoints;
-  for (FitSettings* data : {&course, static_cast<FitSettings*>(&indexed)})
+  for (FitSettings* data : {&course, static_cast<FitSettings*>(&other)})
   {
     show(*data, false, false);
     ASSERT_EQ(chart()->GetNumberOfPlots(), 2);
@@ -106,8 +68,8 @@ TEST_F(ResidualSeries, OnlyTheFirstPlotIsMarkedWithSquares)
     EXPECT_EQ(plot(0)->GetMarkerSize(), 3.0F);
     expectUntouchedMarkers(1, freshPoints);
   }
-  EXPECT_EQ(settings().markerStyle, 3);
-  EXPECT_EQ(settings().pointSize, 3.0);
+  EXPECT_EQ(container.getMetaData()->markerStyle, 3);
+  EXPECT_EQ(container.getMetaData()->pointSize, 3.0);
 }
 
 TEST_F(ResidualSeries, OnlyTheFirstLineIsMarkedWithSquaresSideBySide)
@@ -126,11 +88,12 @@ TEST_F(ResidualSeries, OnlyTheFirstLineIsMarkedWithSquaresSideBySide)
 TEST_F(ResidualSeries, TheSizeReachesNoPlotInOtherStyles)
 {
   vtkNew<vtkPlotPoints> fresh;
-  storeStyle(scatterWithErrorBars);
+  container.getMetaData()->blockSignals(true);
+  container.setPlotStyle(scatterWithErrorBars);
   show(course, false, false);
   EXPECT_EQ(plot(0)->GetMarkerStyle(), vtkPlotPoints::SQUARE);
   EXPECT_EQ(plot(0)->GetMarkerSize(), fresh->GetMarkerSize());
-  EXPECT_EQ(settings().pointSize, 3.0);
+  EXPECT_EQ(container.getMetaData()->pointSize, 3.0);
 }
 
 TEST_F(ResidualSeries, TheLeftAxisIsRoundedBeforeTheFirstPaint)
@@ -155,9 +118,9 @@ protected:
   void keepOneOutput()
   {
     predictions.resize(1);
-    indexed.observations.resize(1);
-    indexed.errors.resize(1);
-    indexed.outputs.resize(1);
+    other.observations.resize(1);
+    other.errors.resize(1);
+    other.outputs.resize(1);
   }
 
   VtkErrors errors;
@@ -166,13 +129,13 @@ protected:
 TEST_F(UnusableResiduals, OfAZeroReferencePaintOverTheRowIndex)
 {
   keepOneOutput();
-  indexed.normalizeToReference = true;
+  other.normalizeToReference = true;
   predictions = {{0.0, 4.0, -1.0}};
-  show(indexed, false, false);
+  show(other, false, false);
   EXPECT_EQ(column("Residual M 0")[1], -inf);
   expectPaintsOnFiniteAxes();
   predictions = {{0.0, 4.0, -1.0}};
-  show(indexed, false, true);
+  show(other, false, true);
   expectPaintsOnFiniteAxes();
   EXPECT_EQ(errors.text(), "");
 }
@@ -181,11 +144,11 @@ TEST_F(UnusableResiduals, OfMissingValuesPaintOverTheRowIndex)
 {
   keepOneOutput();
   predictions = {{}};
-  show(indexed, false, false);
+  show(other, false, false);
   EXPECT_TRUE(std::isnan(column("Residual M 0")[0]));
   expectPaintsOnFiniteAxes();
-  indexed.observations = {{nan, nan, nan}};
-  show(indexed, false, true);
+  other.observations = {{nan, nan, nan}};
+  show(other, false, true);
   expectPaintsOnFiniteAxes();
   EXPECT_EQ(errors.text(), "");
 }
@@ -193,8 +156,8 @@ TEST_F(UnusableResiduals, OfMissingValuesPaintOverTheRowIndex)
 TEST_F(UnusableResiduals, OfZeroErrorsPaintOverTheRowIndex)
 {
   keepOneOutput();
-  indexed.errors = {{0.0, 0.0, 0.0}};
-  show(indexed, true, false);
+  other.errors = {{0.0, 0.0, 0.0}};
+  show(other, true, false);
   EXPECT_EQ(column("Residual M 0")[0], -inf);
   expectPaintsOnFiniteAxes();
   EXPECT_EQ(errors.text(), "");
@@ -202,8 +165,8 @@ TEST_F(UnusableResiduals, OfZeroErrorsPaintOverTheRowIndex)
 
 TEST_F(UnusableResiduals, LeaveTheOtherOutputsOnTheAxes)
 {
-  indexed.errors[0] = {0.0, 0.0, 0.0};
-  show(indexed, true, false);
+  other.errors[0] = {0.0, 0.0, 0.0};
+  show(other, true, false);
   expectPaintsOnFiniteAxes();
   EXPECT_LE(left()->GetMinimum(), -2.0);
   EXPECT_GE(left()->GetMaximum(), 2.0);
