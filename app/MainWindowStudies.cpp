@@ -14,7 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScopedValueRollback>
-#include <QStatusBar>
+#include <QTabWidget>
 
 namespace Talmesh::app
 {
@@ -60,14 +60,14 @@ void MainWindow::fillStudiesMenu()
   QMenu* subject = nullptr;
   for (const CatalogueEntry& entry : studyCatalogue())
   {
-    if (!subject || subject->title() != entry.subject)
+    if (!subject || subject->title() != QString::fromStdString(entry.subject))
     {
-      subject = studiesMenu->addMenu(entry.subject);
+      subject = studiesMenu->addMenu(QString::fromStdString(entry.subject));
       subject->setToolTipsVisible(true);
     }
-    QAction* action = subject->addAction(entry.title);
+    QAction* action = subject->addAction(QString::fromStdString(entry.title));
     action->setObjectName(QString::fromStdString(entry.id));
-    action->setToolTip(entry.toolTip);
+    action->setToolTip(QString::fromStdString(entry.toolTip));
     action->setCheckable(true);
     connect(action, &QAction::triggered, this,
             [this, action, job = entry.open]
@@ -103,6 +103,9 @@ void MainWindow::followStudy()
       action->setChecked(action->objectName().toStdString() == id);
   }
   const bool own = study.chart != nullptr;
+  findChild<QAction*>(QStringLiteral("saveSession"))->setEnabled(!own);
+  if (own)
+    tabs->setCurrentWidget(plot);
   studiesMenu->findChild<QAction*>(QStringLiteral("returnToRuns"))
       ->setEnabled(own && (lastRuns.runs || lastRuns.table));
   dock->widget()->setEnabled(!own);

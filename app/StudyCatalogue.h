@@ -3,23 +3,22 @@
 
 #include "app/StudyLoader.h"
 
-#include <QString>
-
 #include <string>
 #include <vector>
 
 namespace Talmesh::app
 {
 
-/// A computed study with a chart of its own.
+/// A computed study with a chart of its own. Texts are UTF-8; those of menus mark a letter with
+/// "&".
 struct CatalogueEntry
 {
   /// The id of its chart.
   std::string id;
   /// The studies of one subject stand together in a menu of this name.
-  QString subject;
-  QString title;
-  QString toolTip;
+  std::string subject;
+  std::string title;
+  std::string toolTip;
   /// Computes the study; may run in any thread.
   StudyLoader::Job open;
 };

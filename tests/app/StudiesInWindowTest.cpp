@@ -28,6 +28,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <algorithm>
+
 #include "SampleStudies.h"
 
 namespace
@@ -105,15 +107,16 @@ TEST_F(StudiesInWindow, AreAllInTheMenuAndShownInContainersOfTheirOwn)
     show(entry.id);
     EXPECT_NE(&container(), before.data()) << entry.id;
     before = &container();
-    EXPECT_EQ(window.windowTitle().toStdString(),
-              QString(entry.subject + ": " + entry.title).remove('&').toStdString() +
-                  " - Talmesh Plot");
+    std::string name = entry.subject + ": " + entry.title;
+    name.erase(std::remove(name.begin(), name.end(), '&'), name.end());
+    EXPECT_EQ(window.windowTitle().toStdString(), name + " - Talmesh Plot");
     EXPECT_TRUE(find<QAction>(entry.id.c_str())->isChecked());
     EXPECT_GT(container().getTable()->GetNumberOfRows(), 0) << entry.id;
     EXPECT_TRUE(find<QWidget>("studyDock")->isVisible());
     EXPECT_FALSE(find<QLabel>("studyDescription")->text().isEmpty());
     EXPECT_FALSE(window.plotDock()->widget()->isEnabled());
     EXPECT_FALSE(find<QWidget>("clusterStart")->isEnabled());
+    EXPECT_FALSE(find<QAction>("saveSession")->isEnabled());
     for (const char* suffix : {".png", ".pdf", ".csv"})
       EXPECT_TRUE(window.exportTo(folder.filePath(QString::fromStdString(entry.id + suffix))))
           << entry.id << suffix;
@@ -281,6 +284,7 @@ TEST_F(StudiesInWindow, GiveWayToTheRunsAsTheyWereChosen)
   EXPECT_FALSE(find<QWidget>("studyDock")->isVisible());
   EXPECT_FALSE(find<QAction>("puromycin-rates")->isChecked());
   EXPECT_TRUE(find<QWidget>("clusterStart")->isEnabled());
+  EXPECT_TRUE(find<QAction>("saveSession")->isEnabled());
 }
 
 TEST_F(StudiesInWindow, CanBeGivenUp)
