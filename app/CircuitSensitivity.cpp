@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cmath>
+#include <stdexcept>
 
 namespace Talmesh::app
 {
@@ -67,15 +68,23 @@ SobolPostProcessResult::Indices regroup(const std::vector<std::vector<double>>& 
 
 } // namespace
 
-std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples)
+std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
+                                                           const ImportProgress& progress)
 {
   const std::vector<double> seconds = secondsOfTimePoints();
   std::vector<double> lifetimes = {0.0};
   for (const double time : seconds)
     lifetimes.push_back(time / mRnaLifetimeInSeconds());
-  const stats::SobolIndices indices = stats::estimateSobolIndices(
-      [&](const std::vector<double>& point) { return simulate(point, lifetimes); },
-      parameterNames.size(), samples, seed);
+  const auto simulations = static_cast<double>(samples * (parameterNames.size() + 2));
+  std::size_t done = 0;
+  const auto model = [&](const std::vector<double>& point)
+  {
+    if (progress && !progress(static_cast<double>(done++) / simulations))
+      throw std::runtime_error("cancelled");
+    return simulate(point, lifetimes);
+  };
+  const stats::SobolIndices indices =
+      stats::estimateSobolIndices(model, parameterNames.size(), samples, seed);
 
   auto result = std::make_unique<SobolPostProcessResult>();
   result->parameterValues.resize(parameterNames.size());

@@ -1,6 +1,7 @@
 #ifndef CircuitSensitivity_h
 #define CircuitSensitivity_h
 
+#include "app/RunTableImport.h"
 #include "external/Distribution.h"
 #include "external/SobolPostProcessResult.h"
 
@@ -15,7 +16,10 @@ namespace Talmesh::app
 /// First-order and total sensitivity of every protein and mRNA to alpha, alpha0, beta and n over
 /// time, estimated from `samples` * 6 simulations with the parameters distributed as in the example
 /// study. The outputs are named as the study's items, proteins first. The same numbers every time.
-std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples);
+/// @param progress told after each simulation
+/// @throws std::runtime_error when the progress cancels
+std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
+                                                           const ImportProgress& progress = {});
 
 struct NamedDistribution
 {

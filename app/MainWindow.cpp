@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/GroupController.h"
 #include "app/LoadingBar.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
@@ -60,6 +61,7 @@ MainWindow::MainWindow(QWidget* parent)
   resize(firstCharacters * metrics.averageCharWidth(), firstLines * metrics.lineSpacing());
   container = plot->plotContainer();
   makeMenus();
+  makeStudies();
   makeStatusBar();
   selection->follow(container);
   connect(selection, &SelectionController::changed, this, &MainWindow::showSelection);
@@ -166,6 +168,7 @@ void MainWindow::finishLoading(const OpenedStudy& result)
 
 void MainWindow::showStudyInPlot(const Study& opened)
 {
+  leaveStudy();
   // A container remembers much of what it showed before, so each study gets its own.
   auto* fresh = new PlotContainer(this);
   plot->setPlotContainer(fresh);
@@ -175,9 +178,10 @@ void MainWindow::showStudyInPlot(const Study& opened)
   study = opened;
   showStudy(study, *container);
   timeCourses->setStudy(study);
+  followStudy();
   dock->setColumns(container->getLabels());
   dock->setChoice(choiceOf(*container));
-  size->setText(QString::fromStdString(studySize(study)));
+  size->setText(QString::fromStdString(studySize(study, *container)));
   selection->follow(container);
   selected->setText(selection->summary());
   setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
@@ -203,7 +207,13 @@ void MainWindow::applyDock()
 {
   if (!container)
     return;
+  if (study.chart)
+  {
+    drawOwnChart();
+    return;
+  }
   const std::string error = applyChoice(*container, dock->choice());
+  groups->dress();
   selected->setText(selection->summary());
   plot->updatePlot(true);
   if (!error.empty())
@@ -213,7 +223,13 @@ void MainWindow::applyDock()
 /// A changed selection has drawn the chart anew, without what the viewer adds to it.
 void MainWindow::showSelection()
 {
-  applyDock();
+  if (!study.chart)
+  {
+    applyDock();
+    return;
+  }
+  selected->setText(selection->summary());
+  plot->updatePlot(true);
 }
 
 QString MainWindow::selectionText() const

@@ -2,6 +2,7 @@
 #define MainWindow_h
 
 #include "app/CommandLine.h"
+#include "app/PlotChoice.h"
 #include "app/RecentFiles.h"
 #include "app/Study.h"
 #include "app/StudyFile.h"
@@ -18,9 +19,12 @@ class VtkPlotWidget;
 namespace Talmesh::app
 {
 
+class ClusterDock;
+class GroupController;
 class LoadingBar;
 class PlotDock;
 class SelectionController;
+class StudyDock;
 class StudyLoader;
 class TimeCoursePage;
 
@@ -41,6 +45,8 @@ public:
   /// Starts to simulate the example study.
   void openExample();
   bool isLoading() const;
+  /// Shows once more the runs or the table opened last; a computed study has taken their place.
+  void returnToRuns();
 
   /// Writes what is shown to a file, by its suffix; a failure is shown to the user.
   /// @return whether it was written
@@ -74,6 +80,8 @@ private:
   void makeSelectionMenu();
   void makeViewMenu();
   void makeHelpMenu();
+  void makeStudies();
+  void fillStudiesMenu();
   void makeStatusBar();
   QAction* addAction(QMenu* menu, const QString& text, const QKeySequence& keys,
                      void (MainWindow::*slot)());
@@ -93,6 +101,9 @@ private:
   void cancelLoading();
   void finishLoading(const OpenedStudy& result);
   void showStudyInPlot(const Study& study);
+  void leaveStudy();
+  void followStudy();
+  void drawOwnChart();
   bool applyWishes();
   void applyDock();
   void updateRender();
@@ -111,6 +122,16 @@ private:
   RecentFiles recent;
   QPointer<PlotContainer> container;
   Study study;
+  ClusterDock* clusterDock = nullptr;
+  StudyDock* studyDock = nullptr;
+  GroupController* groups = nullptr;
+  QMenu* studiesMenu = nullptr;
+  /// The runs or the table opened last, and what the user had chosen of them.
+  Study lastRuns;
+  PlotChoice lastChoice;
+  /// The title that the study's own chart gave itself; another one is the user's.
+  std::string ownTitle;
+  bool drawingOwnChart = false;
   /// The file being opened; empty for the example.
   QString loadingPath;
   /// What the command line wishes of the study that is being opened first.

@@ -25,7 +25,8 @@ void MainWindow::addSessionActions(QMenu* menu)
 {
   addAction(menu, tr("Open sessio&n..."), QKeySequence(tr("Ctrl+Alt+O")),
             &MainWindow::chooseSession);
-  addAction(menu, tr("&Save session..."), QKeySequence::Save, &MainWindow::saveSession);
+  addAction(menu, tr("&Save session..."), QKeySequence::Save, &MainWindow::saveSession)
+      ->setObjectName(QStringLiteral("saveSession"));
   menu->addSeparator();
 }
 

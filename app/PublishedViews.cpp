@@ -1,13 +1,7 @@
 #include "app/CircuitSensitivity.h"
-#include "app/IndomethacinStudy.h"
-#include "app/PuromycinStudy.h"
 #include "app/StatisticsViews.h"
-#include "external/LinePlotData.h"
-#include "external/PlotMetaData.h"
+#include "app/StudyCharts.h"
 #include "plot/PlotContainer.h"
-
-#include <vtkTable.h>
-#include <vtkVariant.h>
 
 namespace Talmesh::app
 {
@@ -16,82 +10,22 @@ namespace
 {
 
 constexpr std::size_t sensitivitySamples = 1024;
-constexpr int curvePoints = 200;
 
-/// Stores the style without announcing it: the chart is built by the call that follows.
-void storeStyle(PlotContainer& container, plotStyles style)
+/// A view of a chart that needs no study.
+GalleryView viewOf(const char* name, std::function<void(PlotContainer&)> draw)
 {
-  container.getMetaData()->blockSignals(true);
-  container.setPlotStyle(style);
-  container.getMetaData()->blockSignals(false);
+  return {name, [draw = std::move(draw)](const Study&, PlotContainer& container)
+          {
+            draw(container);
+            return std::string();
+          }};
 }
 
-std::vector<double> valuesOf(vtkTable* table, vtkIdType column)
-{
-  std::vector<double> values;
-  for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
-    values.push_back(table->GetValue(row, column).ToDouble());
-  return values;
-}
-
-std::string drawRates(const Study&, PlotContainer& container)
-{
-  container.setPlotData(puromycinMeans());
-  const vtkSmartPointer<vtkTable> curve = puromycinCurve(curvePoints);
-  std::vector<double> concentrations = valuesOf(curve, 0);
-  std::vector<double> fit = valuesOf(curve, 1);
-  LinePlotData series;
-  series.xName = "concentration";
-  series.xValues = &concentrations;
-  series.series[{UndefinedType, "fit"}] = &fit;
-  container.setLinePlotDataAsAdditionalData(&series);
-  PlotMetaData& settings = *container.getMetaData();
-  settings.xColumns = {0, 0};
-  settings.yColumns = {1, 1};
-  settings.zColumns = {2};
-  settings.markerStyle = 4;
-  settings.pointSize = 8.0;
-  settings.title = "Puromycin: initial rate, standard error and Michaelis-Menten fit";
-  settings.xLabel = "Substrate concentration [ppm]";
-  settings.yLabel = "Initial rate [counts/min^2]";
-  storeStyle(container, scatterWithErrorBars);
-  container.redraw();
-  return {};
-}
-
-std::string drawFit(const Study&, PlotContainer& container)
-{
-  container.setPlotData(indomethacinFitTable());
-  container.getMetaData()->parameterColumns = {2, 3, 4, 5};
-  storeStyle(container, fitParameterDistribution);
-  container.redraw();
-  return {};
-}
-
-std::string drawResiduals(PlotContainer& container, bool scaled, bool sideBySide)
-{
-  IndomethacinResiduals study = indomethacinResiduals();
-  container.setXLabel("Time [h]");
-  container.setYLabel(sideBySide ? "Concentration [ug/ml]" : "Residual");
-  container.setResidualPlot(&study.run, study.settings.get(), study.predictions, scaled,
-                            sideBySide);
-  return {};
-}
-
-std::string drawSensitivity(PlotContainer& container, bool atTimePoint)
+void drawCircuitSensitivity(PlotContainer& container, bool atTimePoint)
 {
   const auto result = circuitSensitivity(sensitivitySamples);
-  storeStyle(container, atTimePoint ? reservedStyle1 : reservedStyle2);
-  container.setSobolPostprocessResult(result.get(), atTimePoint, false,
-                                      result->timePoints->size() - 1, 0);
-  return {};
-}
-
-std::string drawPrior(const Study&, PlotContainer& container)
-{
-  const std::vector<NamedDistribution> priors = circuitPriors();
-  container.setDistribution(priors.front().distribution.get());
-  return {};
+  const std::size_t last = result->timePoints->size() - 1;
+  drawSensitivity(container, *result, {atTimePoint, false, atTimePoint ? last : 0});
 }
 
 } // namespace
@@ -99,19 +33,22 @@ std::string drawPrior(const Study&, PlotContainer& container)
 const std::vector<GalleryView>& publishedViews()
 {
   static const std::vector<GalleryView> views = {
-      {"scatterWithErrorBars", drawRates},
-      {"fitParameterDistribution", drawFit},
-      {"residuals", [](const Study&, PlotContainer& container)
-       { return drawResiduals(container, false, false); }},
-      {"residuals-scaled", [](const Study&, PlotContainer& container)
-       { return drawResiduals(container, true, false); }},
-      {"residuals-sideBySide", [](const Study&, PlotContainer& container)
-       { return drawResiduals(container, false, true); }},
-      {"sensitivity-overTime",
-       [](const Study&, PlotContainer& container) { return drawSensitivity(container, false); }},
-      {"sensitivity-atTimePoint",
-       [](const Study&, PlotContainer& container) { return drawSensitivity(container, true); }},
-      {"distribution", drawPrior}};
+      viewOf("scatterWithErrorBars", drawPuromycinRates),
+      viewOf("fitParameterDistribution", drawIndomethacinFit),
+      viewOf("fittedCourse",
+             [](PlotContainer& container) { drawIndomethacinCourse(container, false); }),
+      viewOf("residuals",
+             [](PlotContainer& container) { drawIndomethacinResiduals(container, false, false); }),
+      viewOf("residuals-scaled",
+             [](PlotContainer& container) { drawIndomethacinResiduals(container, true, false); }),
+      viewOf("residuals-sideBySide",
+             [](PlotContainer& container) { drawIndomethacinResiduals(container, false, true); }),
+      viewOf("sensitivity-overTime",
+             [](PlotContainer& container) { drawCircuitSensitivity(container, false); }),
+      viewOf("sensitivity-atTimePoint",
+             [](PlotContainer& container) { drawCircuitSensitivity(container, true); }),
+      viewOf("distribution",
+             [](PlotContainer& container) { drawPrior(container, circuitPriors().front()); })};
   return views;
 }
 

@@ -1,6 +1,7 @@
 #include "app/Study.h"
 
 #include "app/ExampleStudy.h"
+#include "app/OwnChart.h"
 #include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
@@ -76,7 +77,11 @@ Study exampleStudyOfRepressilator()
 void showStudy(const Study& study, PlotContainer& container)
 {
   PlotMetaData& settings = *container.getMetaData();
-  if (study.runs)
+  if (study.chart)
+  {
+    study.chart->draw(container, study.chart->firstVariant);
+  }
+  else if (study.runs)
   {
     container.setLinePlotTable(study.runs, false);
     settings.yColumns = {firstPlottedColumn(container)};
@@ -126,6 +131,11 @@ std::string studySize(const Study& study)
   if (study.table)
     return tableSize(*study.table);
   return {};
+}
+
+std::string studySize(const Study& study, const PlotContainer& container)
+{
+  return studySize(study.chart ? Study{study.name, nullptr, container.getTable()} : study);
 }
 
 } // namespace Talmesh::app

@@ -8,6 +8,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <memory>
 #include <string>
 
 class PlotContainer;
@@ -15,13 +16,18 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// The data that the viewer shows: runs or, for data without runs, a plain table. Texts are UTF-8.
+struct OwnChart;
+
+/// The data that the viewer shows: runs or, for data without runs, a plain table, or else a chart
+/// that is computed. Texts are UTF-8.
 struct Study
 {
   /// What the window's title calls it.
   std::string name;
   boost::shared_ptr<LinePlotTable> runs;
   vtkSmartPointer<vtkTable> table;
+  /// Null for data whose chart the user composes.
+  std::shared_ptr<const OwnChart> chart = nullptr;
 };
 
 /// The simulated example study.
@@ -29,6 +35,7 @@ Study exampleStudyOfRepressilator();
 
 /// Hands the study to a container that is in a scene, and chooses what to plot at first: the first
 /// plotted item over time, one line per run, or the second column of a plain table over its first.
+/// A chart of its own is drawn in its first variant.
 void showStudy(const Study& study, PlotContainer& container);
 
 /// The state of every run at its last point, as a study of one point per run; of a plain table the
@@ -38,6 +45,8 @@ Study lastPoints(const Study& study);
 /// How much is loaded, in one line: "400 runs, 200 points each, 4 parameters". Parameters that are
 /// the same in all runs do not count.
 std::string studySize(const Study& study);
+/// As above, and for a chart of its own how much the container shows of it.
+std::string studySize(const Study& study, const PlotContainer& container);
 
 } // namespace Talmesh::app
 

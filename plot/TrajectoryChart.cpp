@@ -51,15 +51,6 @@ void addBand(PlotState& state, const Band& band)
   state.chartXY->AddPlot(plot);
 }
 
-void addBands(PlotState& state)
-{
-  if (!state.quartileTable || !state.metaData->getShowQuantiles())
-    return;
-  state.quartileTable->Modified();
-  for (const Band& band : bands)
-    addBand(state, band);
-}
-
 vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
 {
   const int onlyShowSelected = state.metaData->getShowQuantiles() ? 1 : 0;
@@ -107,9 +98,19 @@ void dressAxes(PlotState& state)
 
 } // namespace
 
+void addQuartileBands(PlotState& state)
+{
+  if (!state.quartileTable)
+    return;
+  state.quartileTable->Modified();
+  for (const Band& band : bands)
+    addBand(state, band);
+}
+
 vtkPlot* fillTrajectoryChart(PlotState& state)
 {
-  addBands(state);
+  if (state.metaData->getShowQuantiles())
+    addQuartileBands(state);
   vtkSmartPointer<vtkPlotPoints> runs = makeRunsPlot(state);
   feedPlot(runs, state.table, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
   colorBySelection(runs);

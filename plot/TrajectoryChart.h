@@ -13,6 +13,10 @@ struct PlotState;
 /// @return the plot of the runs
 vtkPlot* fillTrajectoryChart(PlotState& state);
 
+/// Adds the quartile table's bands to the XY chart: the whole range of the runs, the range between
+/// their quartiles and their median, in this order. Adds nothing without a quartile table.
+void addQuartileBands(PlotState& state);
+
 } // namespace Talmesh::plot
 
 #endif

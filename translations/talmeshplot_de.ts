@@ -280,6 +280,149 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>StudyCatalogue</name>
+    <message>
+        <source>&amp;Indomethacin</source>
+        <translation>&amp;Indometacin</translation>
+    </message>
+    <message>
+        <source>Plasma concentrations of six subjects after an injection (Kwan and others, 1976), fitted with a decay over two compartments.</source>
+        <translation>Plasmakonzentrationen von sechs Probanden nach einer Injektion (Kwan und andere, 1976), angepasst mit einem Abbau über zwei Kompartimente.</translation>
+    </message>
+    <message>
+        <source>&amp;Course of the fit</source>
+        <translation>&amp;Verlauf der Anpassung</translation>
+    </message>
+    <message>
+        <source>Every step of the fit, one chart per pair of parameters, coloured by the sum of squares</source>
+        <translation>Jeder Schritt der Anpassung, ein Diagramm je Parameterpaar, gefärbt nach der Quadratsumme</translation>
+    </message>
+    <message>
+        <source>Concentration axis</source>
+        <translation>Konzentrationsachse</translation>
+    </message>
+    <message>
+        <source>linear</source>
+        <translation>linear</translation>
+    </message>
+    <message>
+        <source>logarithmic</source>
+        <translation>logarithmisch</translation>
+    </message>
+    <message>
+        <source>&amp;Fitted decay</source>
+        <translation>&amp;Angepasster Abbau</translation>
+    </message>
+    <message>
+        <source>The measured concentrations and the fitted curve</source>
+        <translation>Die gemessenen Konzentrationen und die angepasste Kurve</translation>
+    </message>
+    <message>
+        <source>&amp;Residuals</source>
+        <translation>&amp;Residuen</translation>
+    </message>
+    <message>
+        <source>Observation minus prediction, all subjects</source>
+        <translation>Beobachtung minus Vorhersage, alle Probanden</translation>
+    </message>
+    <message>
+        <source>&amp;Scaled residuals</source>
+        <translation>&amp;Skalierte Residuen</translation>
+    </message>
+    <message>
+        <source>Residuals divided by the standard deviation of the subjects</source>
+        <translation>Residuen geteilt durch die Standardabweichung der Probanden</translation>
+    </message>
+    <message>
+        <source>&amp;Predictions and observations</source>
+        <translation>V&amp;orhersagen und Beobachtungen</translation>
+    </message>
+    <message>
+        <source>Both side by side, all subjects</source>
+        <translation>Beides nebeneinander, alle Probanden</translation>
+    </message>
+    <message>
+        <source>Initial rates of a reaction in cells treated with puromycin (Bates and Watts, 1988): means of two replicates, their standard errors and the Michaelis-Menten curve.</source>
+        <translation>Anfangsgeschwindigkeiten einer Reaktion in mit Puromycin behandelten Zellen (Bates und Watts, 1988): Mittel zweier Wiederholungen, ihre Standardfehler und die Michaelis-Menten-Kurve.</translation>
+    </message>
+    <message>
+        <source>&amp;Puromycin</source>
+        <translation>&amp;Puromycin</translation>
+    </message>
+    <message>
+        <source>&amp;Initial rates</source>
+        <translation>&amp;Anfangsgeschwindigkeiten</translation>
+    </message>
+    <message>
+        <source>Mean rates with error bars and the fitted curve</source>
+        <translation>Mittlere Geschwindigkeiten mit Fehlerbalken und die angepasste Kurve</translation>
+    </message>
+    <message>
+        <source>Species</source>
+        <translation>Spezies</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>Sobol indices of the example circuit: how much of the variance of a species each parameter explains, alone (first order) or with all its interactions (total).</source>
+        <translation>Sobol-Indizes des Beispielschaltkreises: welchen Anteil an der Varianz einer Spezies jeder Parameter erklärt, allein (erste Ordnung) oder mit allen Wechselwirkungen (total).</translation>
+    </message>
+    <message>
+        <source>Circuit &amp;sensitivity</source>
+        <translation>&amp;Sensitivität des Schaltkreises</translation>
+    </message>
+    <message>
+        <source>One band per parameter, for one species over time</source>
+        <translation>Ein Band je Parameter, für eine Spezies über der Zeit</translation>
+    </message>
+    <message>
+        <source>One bar per species, divided by parameters, at one time</source>
+        <translation>Ein Balken je Spezies, nach Parametern geteilt, zu einem Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>&amp;First-order indices over time</source>
+        <translation>Indizes &amp;erster Ordnung über der Zeit</translation>
+    </message>
+    <message>
+        <source>&amp;Total indices over time</source>
+        <translation>&amp;Totale Indizes über der Zeit</translation>
+    </message>
+    <message>
+        <source>First-order indices by &amp;species</source>
+        <translation>Indizes erster Ordnung nach &amp;Spezies</translation>
+    </message>
+    <message>
+        <source>Total indices &amp;by species</source>
+        <translation>Totale Indizes &amp;nach Spezies</translation>
+    </message>
+    <message>
+        <source>The distributions from which the parameters of the example circuit&apos;s runs are drawn.</source>
+        <translation>Die Verteilungen, aus denen die Parameter der Läufe des Beispielschaltkreises gezogen werden.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Circuit &amp;parameters</source>
+        <translation>&amp;Parameter des Schaltkreises</translation>
+    </message>
+    <message>
+        <source>&amp;Prior distributions</source>
+        <translation>A-&amp;priori-Verteilungen</translation>
+    </message>
+    <message>
+        <source>The density of one parameter</source>
+        <translation>Die Dichte eines Parameters</translation>
+    </message>
+</context>
+<context>
     <name>StudyFile</name>
     <message>
         <source>there is no such file</source>
@@ -390,6 +533,108 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>line %1: %2 is ambiguous: the table has both decimal points and decimal commas</source>
         <translation>Zeile %1: %2 ist mehrdeutig: Die Tabelle enthält Dezimalpunkte und Dezimalkommas</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ClusterDock</name>
+    <message>
+        <source>Groups of runs</source>
+        <translation>Gruppen von Läufen</translation>
+    </message>
+    <message>
+        <source>&amp;Group the runs</source>
+        <translation>Läufe &amp;gruppieren</translation>
+    </message>
+    <message>
+        <source>Into how many groups the runs are sorted</source>
+        <translation>In wie viele Gruppen die Läufe eingeteilt werden</translation>
+    </message>
+    <message>
+        <source>What makes two runs alike; level and amplitude never count</source>
+        <translation>Worin sich zwei Läufe gleichen; Niveau und Amplitude zählen nie</translation>
+    </message>
+    <message>
+        <source>Course over time</source>
+        <translation>Zeitverlauf</translation>
+    </message>
+    <message>
+        <source>Phases of the spectrum</source>
+        <translation>Phasen des Spektrums</translation>
+    </message>
+    <message>
+        <source>Magnitudes of the spectrum</source>
+        <translation>Beträge des Spektrums</translation>
+    </message>
+    <message>
+        <source>Sort the runs into groups by the first y column</source>
+        <translation>Die Läufe nach der ersten y-Spalte in Gruppen einteilen</translation>
+    </message>
+    <message>
+        <source>Click a group to select its runs</source>
+        <translation>Eine Gruppe anklicken, um ihre Läufe auszuwählen</translation>
+    </message>
+    <message>
+        <source>&amp;Number of groups</source>
+        <translation>A&amp;nzahl der Gruppen</translation>
+    </message>
+    <message>
+        <source>Alike &amp;by</source>
+        <translation>Gl&amp;eich nach</translation>
+    </message>
+    <message>
+        <source>&amp;Colours of the groups</source>
+        <translation>&amp;Farben der Gruppen</translation>
+    </message>
+    <message>
+        <source>Draw each run in the colour of its group in the XY plot</source>
+        <translation>Im XY-Diagramm jeden Lauf in der Farbe seiner Gruppe zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Mean of each group</source>
+        <translation>&amp;Mittel jeder Gruppe</translation>
+    </message>
+    <message>
+        <source>Draw the mean course of each group in the XY plot</source>
+        <translation>Im XY-Diagramm den mittleren Verlauf jeder Gruppe zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Quartile bands</source>
+        <translation>&amp;Quartilbänder</translation>
+    </message>
+    <message>
+        <source>Draw range, quartiles and median of all runs in the XY plot, and of the runs only the selected ones unless they have the colours of groups</source>
+        <translation>Im XY-Diagramm Spannweite, Quartile und Median aller Läufe zeichnen und von den Läufen nur die ausgewählten, wenn sie nicht die Farben von Gruppen haben</translation>
+    </message>
+    <message>
+        <source>Normalise each run to its ma&amp;ximum</source>
+        <translation>Jeden Lauf auf sein Ma&amp;ximum normieren</translation>
+    </message>
+    <message>
+        <source>Scale each run of the chosen y columns so that its largest value is 1; unticked, the values are loaded again</source>
+        <translation>Jeden Lauf der gewählten y-Spalten so skalieren, dass sein größter Wert 1 ist; ohne Häkchen werden die Werte neu geladen</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::GroupController</name>
+    <message>
+        <source>This data has no runs over time to group.</source>
+        <translation>Diese Daten haben keine Läufe über der Zeit, die sich gruppieren ließen.</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Group %1: %2 run</source>
+        <translation>Gruppe %1: %2 Lauf</translation>
+    </message>
+    <message>
+        <source>Group %1: %2 runs</source>
+        <translation>Gruppe %1: %2 Läufe</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>Gruppe %1</translation>
     </message>
 </context>
 <context>
@@ -607,6 +852,34 @@ Grafiken simulierter Läufe.</translation>
         <source>Save session</source>
         <translation>Sitzung speichern</translation>
     </message>
+    <message>
+        <source>S&amp;tudies</source>
+        <translation>S&amp;tudien</translation>
+    </message>
+    <message>
+        <source>&amp;Runs</source>
+        <translation>&amp;Läufe</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Show the runs opened last once more</source>
+        <translation>Die zuletzt geöffneten Läufe wieder zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Example circuit</source>
+        <translation>&amp;Beispielschaltkreis</translation>
+    </message>
+    <message>
+        <source>Simulate the runs of the example circuit</source>
+        <translation>Die Läufe des Beispielschaltkreises simulieren</translation>
+    </message>
+    <message>
+        <source>The chart of this study is composed already.</source>
+        <translation>Das Diagramm dieser Studie ist schon zusammengestellt.</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::PlotDock</name>
@@ -660,6 +933,17 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::RunNormaliser</name>
+    <message>
+        <source>Normalise Runs</source>
+        <translation>Läufe normieren</translation>
+    </message>
+    <message>
+        <source>Reload Values</source>
+        <translation>Werte neu laden</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::SelectionController</name>
     <message>
         <source>This table has no runs to select.</source>
@@ -684,6 +968,17 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>%1: %4 of its %3 runs are not in this table: %2</source>
         <translation>%1: %4 der %3 Läufe stehen nicht in dieser Tabelle: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::StudyDock</name>
+    <message>
+        <source>Study</source>
+        <translation>Studie</translation>
+    </message>
+    <message>
+        <source>Choose what the chart shows</source>
+        <translation>Wählen, was das Diagramm zeigt</translation>
     </message>
 </context>
 <context>

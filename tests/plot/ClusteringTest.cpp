@@ -35,6 +35,25 @@ TEST_F(Clustering, SortsRunsByShapeWhateverTheirLevelAndAmplitude)
   EXPECT_EQ(error, "");
 }
 
+// for (n in c(2, 4, 5)) print(kmeans(z, z[1:n, ], algorithm = "Lloyd")$cluster - 1)
+TEST_F(Clustering, AgreesWithAReferenceForOtherNumbersOfClusters)
+{
+  setRuns(threeShapes, 8);
+  EXPECT_EQ(cluster(2), (std::vector<int>{0, 1, 1, 1, 0, 1, 0, 1, 1, 1, 0, 1}));
+  EXPECT_EQ(cluster(4), (std::vector<int>{0, 1, 2, 3, 0, 2, 0, 1, 1, 1, 0, 3}));
+  EXPECT_EQ(cluster(5), (std::vector<int>{0, 1, 2, 3, 0, 2, 4, 1, 1, 1, 4, 3}));
+}
+
+// m <- t(scale(apply(x, 1, function(r) Mod(fft(r)))))
+// for (n in 2:4) print(kmeans(m, m[1:n, ], algorithm = "Lloyd")$cluster - 1)
+TEST_F(Clustering, AgreesWithAReferenceOnMagnitudes)
+{
+  setRuns(threeShapes, 8);
+  EXPECT_EQ(cluster(2, 3), (std::vector<int>{1, 1, 0, 0, 0, 0, 0, 1, 1, 1, 0, 0}));
+  EXPECT_EQ(cluster(3, 3), (std::vector<int>{0, 1, 2, 2, 0, 2, 0, 1, 1, 1, 0, 2}));
+  EXPECT_EQ(cluster(4, 3), (std::vector<int>{0, 1, 2, 3, 0, 3, 0, 1, 1, 1, 0, 3}));
+}
+
 TEST_F(Clustering, TellsTheNumberOfRunsAndTheSizeOfTheTableOfCurves)
 {
   setRuns(threeShapes, 8);

@@ -1,0 +1,162 @@
+#include "app/GroupController.h"
+
+#include "app/ClusterDock.h"
+#include "app/Study.h"
+#include "external/LinePlotTable.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/RunLayout.h"
+#include "plot/TableColumns.h"
+
+#include <vtkIntArray.h>
+#include <vtkTable.h>
+
+#include <QApplication>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// Clusters count runs by position, selections by the number that the table gives a run.
+std::set<int> numbersOfRuns(const PlotContainer& container, const std::set<int>& positions)
+{
+  vtkTable* table = container.getTable();
+  vtkDoubleArray* numbers = plot::doubleColumn(table, plot::columnIndex(table, ": Run Index"));
+  if (!numbers)
+    return positions;
+  const plot::RunLayout layout = {table->GetNumberOfRows(), container.getMetaData()->getStride()};
+  std::set<int> result;
+  for (const int position : positions)
+    result.insert(static_cast<int>(numbers->GetValue(layout.firstRow(position))));
+  return result;
+}
+
+std::vector<ParameterSelection> clusterSelections(PlotContainer& container,
+                                                  const std::string& prefix)
+{
+  std::vector<ParameterSelection*> owned;
+  container.selectionsFromClusters(prefix, owned);
+  std::vector<ParameterSelection> selections;
+  for (ParameterSelection* selection : owned)
+  {
+    selections.push_back(*selection);
+    selections.back().runs = numbersOfRuns(container, selection->runs);
+    delete selection;
+  }
+  return selections;
+}
+
+std::vector<int> membershipOf(const PlotContainer& container)
+{
+  vtkIntArray* membership = container.getClusterMembership();
+  if (!membership)
+    return {};
+  const int* first = membership->GetPointer(0);
+  return {first, first + membership->GetNumberOfTuples()};
+}
+
+/// The columns over x, which is no run's own.
+std::vector<int> shownColumns(const PlotMetaData& settings)
+{
+  std::vector<int> columns = settings.yColumns;
+  const auto isX = [&](int column)
+  {
+    const std::vector<int>& x = settings.xColumns;
+    return std::find(x.begin(), x.end(), column) != x.end();
+  };
+  columns.erase(std::remove_if(columns.begin(), columns.end(), isX), columns.end());
+  return columns;
+}
+
+} // namespace
+
+GroupController::GroupController(ClusterDock& panel, QUndoStack& undoStack, QObject* parent)
+    : QObject(parent)
+    , dock(panel)
+    , stack(undoStack)
+{
+  connect(&dock, &ClusterDock::groupingRequested, this, &GroupController::group);
+  connect(&dock, &ClusterDock::groupChosen, this, &GroupController::select);
+  connect(&dock, &ClusterDock::lookChanged, this, &GroupController::changed);
+  connect(&dock, &ClusterDock::normalisingRequested, this, &GroupController::normalise);
+  connect(&normaliser, &RunNormaliser::changed, this, &GroupController::changed);
+}
+
+void GroupController::leave()
+{
+  normaliser.follow(nullptr);
+}
+
+void GroupController::follow(PlotContainer* followed, const Study& study)
+{
+  container = followed;
+  normaliser.follow(followed);
+  groups = {};
+  selections.clear();
+  const bool runs = study.runs && study.runs->pointsPerTrajectory > 1;
+  dock.reset(runs ? static_cast<int>(study.runs->numberOfTrajectories) : 0,
+             runs ? QString() : tr("This data has no runs over time to group."));
+}
+
+void GroupController::group()
+{
+  if (!container)
+    return;
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  container->clusterTimeSeries(dock.groupCount(), dock.mode());
+  QApplication::restoreOverrideCursor();
+  selections = clusterSelections(*container, tr("Group").toStdString());
+  groups.groupOfRun = membershipOf(*container);
+  groups.names.clear();
+  for (std::size_t i = 0; i < selections.size(); ++i)
+  {
+    const std::size_t count = selections[i].runs.size();
+    const QString text = count == 1 ? tr("Group %1: %2 run") : tr("Group %1: %2 runs");
+    groups.names.push_back(text.arg(i + 1).arg(count).toStdString());
+    selections[i].label = tr("Group %1").arg(i + 1).toStdString();
+  }
+  dock.setGroups(groups);
+  emit changed();
+}
+
+void GroupController::select(int group)
+{
+  if (container && group >= 0 && group < static_cast<int>(selections.size()))
+    container->setSelection(&selections[static_cast<std::size_t>(group)], 0);
+}
+
+void GroupController::normalise(bool on)
+{
+  if (!container)
+    return;
+  const std::vector<int> shown = shownColumns(*container->getMetaData());
+  std::vector<int> others;
+  std::copy_if(shown.begin(), shown.end(), std::back_inserter(others),
+               [&](int column) { return normaliser.isNormalised({column}) != on; });
+  if (!others.empty())
+    stack.push(normaliser.makeCommand(others, on));
+  dock.setNormalised(normaliser.isNormalised(shown));
+}
+
+void GroupController::dress()
+{
+  if (!container)
+    return;
+  dock.setNormalised(normaliser.isNormalised(shownColumns(*container->getMetaData())));
+  const RunLook look = dock.look();
+  if (look.groupColours)
+    colourGroups(*container, groups);
+  if (look.quartileBands)
+    showQuartileBands(*container);
+  if (look.groupMeans)
+    addGroupMeans(*container, groups);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,57 @@
+#ifndef GroupController_h
+#define GroupController_h
+
+#include "app/GroupedPlots.h"
+#include "app/RunNormaliser.h"
+#include "external/ParameterSelection.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <vector>
+
+class PlotContainer;
+class QUndoStack;
+
+namespace Talmesh::app
+{
+
+class ClusterDock;
+struct Study;
+
+/// Does what the panel of groups asks for with the container now shown.
+class GroupController : public QObject
+{
+  Q_OBJECT
+
+public:
+  /// @param dock, stack outlive the controller's work; the stack takes the scaling of runs
+  GroupController(ClusterDock& dock, QUndoStack& stack, QObject* parent = nullptr);
+
+  /// Gives back the values of the study now shown, which is about to be left.
+  void leave();
+  /// Turns to the container of another study, not owned.
+  void follow(PlotContainer* container, const Study& study);
+  /// Completes the chart that the container has just drawn.
+  void dress();
+
+signals:
+  /// The chart must be drawn anew.
+  void changed();
+
+private:
+  void group();
+  void select(int group);
+  void normalise(bool on);
+
+  ClusterDock& dock;
+  QUndoStack& stack;
+  RunNormaliser normaliser;
+  QPointer<PlotContainer> container;
+  RunGroups groups;
+  std::vector<ParameterSelection> selections;
+};
+
+} // namespace Talmesh::app
+
+#endif

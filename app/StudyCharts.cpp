@@ -1,0 +1,159 @@
+#include "app/StudyCharts.h"
+
+#include "app/CircuitSensitivity.h"
+#include "app/IndomethacinStudy.h"
+#include "app/PuromycinStudy.h"
+#include "external/LinePlotData.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/TableColumns.h"
+
+#include <vtkChartXY.h>
+#include <vtkPlot.h>
+#include <vtkTable.h>
+#include <vtkVariant.h>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr int curvePoints = 200;
+
+/// Stores the style without announcing it: the chart is built by the call that follows.
+void storeStyle(PlotContainer& container, plotStyles style)
+{
+  container.getMetaData()->blockSignals(true);
+  container.setPlotStyle(style);
+  container.getMetaData()->blockSignals(false);
+}
+
+std::vector<double> valuesOf(vtkTable* table, vtkIdType column)
+{
+  std::vector<double> values;
+  for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
+    values.push_back(table->GetValue(row, column).ToDouble());
+  return values;
+}
+
+vtkSmartPointer<vtkTable> twoColumns(const char* firstName, const std::vector<double>& first,
+                                     const char* secondName, const std::vector<double>& second)
+{
+  auto table = vtkSmartPointer<vtkTable>::New();
+  table->AddColumn(plot::makeColumn(firstName, first));
+  table->AddColumn(plot::makeColumn(secondName, second));
+  return table;
+}
+
+/// All subjects' concentrations over time.
+vtkSmartPointer<vtkTable> indomethacinObservations()
+{
+  std::vector<double> times;
+  std::vector<double> concentrations;
+  for (const std::vector<double>& subject : indomethacinConcentrations())
+  {
+    times.insert(times.end(), indomethacinTimes().begin(), indomethacinTimes().end());
+    concentrations.insert(concentrations.end(), subject.begin(), subject.end());
+  }
+  return twoColumns("Time [h]", times, "Concentration [ug/ml]", concentrations);
+}
+
+/// The fitted decay between the first and the last sample, as a decoration line.
+vtkSmartPointer<vtkTable> indomethacinCurve()
+{
+  const double first = indomethacinTimes().front();
+  const double last = indomethacinTimes().back();
+  std::vector<double> times;
+  for (int i = 0; i < curvePoints; ++i)
+    times.push_back(first + (last - first) * i / (curvePoints - 1));
+  const std::vector<double> best = fitIndomethacin().back().parameters;
+  return twoColumns("fit", twoCompartmentDecay(best, times), "Time [h]", times);
+}
+
+void addPuromycinCurve(PlotContainer& container)
+{
+  if (!container.getDerivedTables().empty())
+    return;
+  const vtkSmartPointer<vtkTable> curve = puromycinCurve(curvePoints);
+  std::vector<double> concentrations = valuesOf(curve, 0);
+  std::vector<double> fit = valuesOf(curve, 1);
+  LinePlotData series;
+  series.xName = "concentration";
+  series.xValues = &concentrations;
+  series.series[{UndefinedType, "fit"}] = &fit;
+  container.setLinePlotDataAsAdditionalData(&series);
+}
+
+} // namespace
+
+void drawIndomethacinFit(PlotContainer& container)
+{
+  container.setPlotData(indomethacinFitTable());
+  container.getMetaData()->parameterColumns = {2, 3, 4, 5};
+  storeStyle(container, fitParameterDistribution);
+  container.redraw();
+}
+
+void drawIndomethacinCourse(PlotContainer& container, bool logarithmic)
+{
+  container.setPlotData(indomethacinObservations());
+  container.setDecorations(indomethacinCurve(), true);
+  PlotMetaData& settings = *container.getMetaData();
+  settings.xColumns = {0};
+  settings.yColumns = {1};
+  settings.pointSize = 7.0;
+  settings.title = "Indomethacin in plasma: six subjects and the fitted decay";
+  settings.xLabel = "Time [h]";
+  settings.yLabel = "Concentration [ug/ml]";
+  settings.color = {31, 84, 150, 255};
+  storeStyle(container, xyPlot);
+  container.redraw();
+  container.setLogScaleY(logarithmic);
+}
+
+void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideBySide)
+{
+  IndomethacinResiduals study = indomethacinResiduals();
+  container.setXLabel("Time [h]");
+  if (sideBySide)
+    container.setYLabel("Concentration [ug/ml]");
+  else
+    container.setYLabel(scaled ? "Residual / standard deviation" : "Residual [ug/ml]");
+  container.setResidualPlot(&study.run, study.settings.get(), study.predictions, scaled,
+                            sideBySide);
+}
+
+void drawPuromycinRates(PlotContainer& container)
+{
+  container.setPlotData(puromycinMeans());
+  addPuromycinCurve(container);
+  PlotMetaData& settings = *container.getMetaData();
+  settings.xColumns = {0, 0};
+  settings.yColumns = {1, 1};
+  settings.zColumns = {2};
+  settings.markerStyle = 4;
+  settings.pointSize = 8.0;
+  settings.title = "Puromycin: initial rate, standard error and Michaelis-Menten fit";
+  settings.xLabel = "Substrate concentration [ppm]";
+  settings.yLabel = "Initial rate [counts/min^2]";
+  storeStyle(container, scatterWithErrorBars);
+  container.redraw();
+}
+
+void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
+                     const SensitivityView& view)
+{
+  storeStyle(container, view.atTimePoint ? reservedStyle1 : reservedStyle2);
+  container.setSobolPostprocessResult(&result, view.atTimePoint, view.total, view.position,
+                                      view.position);
+}
+
+void drawPrior(PlotContainer& container, const NamedDistribution& prior)
+{
+  container.setDistribution(prior.distribution.get());
+  container.setPlotTitle("Prior density of " + prior.name);
+  container.setXLabel(prior.name);
+}
+
+} // namespace Talmesh::app
