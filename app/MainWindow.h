@@ -2,9 +2,11 @@
 #define MainWindow_h
 
 #include "app/CommandLine.h"
+#include "app/PictureFile.h"
 #include "app/RecentFiles.h"
 #include "app/Study.h"
 #include "app/StudyFile.h"
+#include "app/UpdateClock.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -18,6 +20,7 @@ class VtkPlotWidget;
 namespace Talmesh::app
 {
 
+class ComparisonDock;
 class LoadingBar;
 class PlotDock;
 class SelectionController;
@@ -42,15 +45,20 @@ public:
   void openExample();
   bool isLoading() const;
 
-  /// Writes what is shown to a file, by its suffix; a failure is shown to the user.
+  /// Writes what is shown to a file, by its suffix, as on the screen or for print; a failure is
+  /// shown to the user.
   /// @return whether it was written
   bool exportTo(const QString& path);
+  bool exportTo(const QString& path, const PaperSize& paper);
+  /// Asks for the size of a picture, then writes it.
+  void askForSizeAndExport(const QString& path);
   /// Writes the table and how it is shown as a session; a failure is shown to the user.
   /// @return whether it was written
   bool saveSessionTo(const QString& path);
 
   VtkPlotWidget* plotWidget() const { return plot; }
   PlotDock* plotDock() const { return dock; }
+  ComparisonDock* comparisonDock() const { return comparison; }
   /// The pages "Runs" and "Time courses".
   QTabWidget* pages() const { return tabs; }
   SelectionController* selectionController() const { return selection; }
@@ -95,13 +103,18 @@ private:
   void showStudyInPlot(const Study& study);
   bool applyWishes();
   void applyDock();
+  void applyComparison();
+  void chooseStyle(plotStyles style);
+  void sayHowLongItTook();
   void updateRender();
+  bool sayWhatWasWritten(const QString& path, const std::string& error);
   void showError(const QString& message);
 
   VtkPlotWidget* plot;
   TimeCoursePage* timeCourses;
   QTabWidget* tabs;
   PlotDock* dock;
+  ComparisonDock* comparison;
   SelectionController* selection;
   StudyLoader* loader;
   LoadingBar* loadingBar = nullptr;
@@ -110,6 +123,7 @@ private:
   QMenu* recentMenu = nullptr;
   RecentFiles recent;
   QPointer<PlotContainer> container;
+  UpdateClock clock;
   Study study;
   /// The file being opened; empty for the example.
   QString loadingPath;
