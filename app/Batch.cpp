@@ -1,5 +1,6 @@
 #include "app/Batch.h"
 
+#include "app/ComparisonChoice.h"
 #include "app/Gallery.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
@@ -20,12 +21,22 @@ namespace
 
 constexpr QSize defaultSize(1000, 700);
 
+std::string writeExport(const CommandLineOptions& options, VtkPlotWidget& widget,
+                        const QString& path)
+{
+  if (options.paperWidth <= 0.0)
+    return exportPlot(widget, path);
+  return exportPlot(widget, path,
+                    {QSizeF(options.paperWidth, options.paperHeight), options.dotsPerInch});
+}
+
 std::string writeExports(const CommandLineOptions& options, const OpenedStudy& opened,
                          const QSize& size)
 {
   const auto widget = makeHiddenPlot(size);
   PlotContainer& container = *widget->plotContainer();
   showStudy(opened.study, container);
+  chooseOpeningStyle(container, options);
   if (opened.session)
   {
     restoreSettings(*opened.session, container);
@@ -37,7 +48,7 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
     error = applyChoice(container, choice);
   for (const std::string& path : options.exports)
     if (error.empty())
-      error = exportPlot(*widget, QString::fromStdString(path));
+      error = writeExport(options, *widget, QString::fromStdString(path));
   return error;
 }
 

@@ -14,6 +14,10 @@ namespace
 
 constexpr int smallestSide = 16;
 constexpr int largestSide = 16384;
+constexpr double smallestPaperSide = 20.0; ///< millimetres
+constexpr double largestPaperSide = 1200.0;
+constexpr int smallestResolution = 72; ///< dots per inch
+constexpr int largestResolution = 1200;
 
 bool endsWith(std::string_view text, std::string_view ending)
 {
@@ -33,11 +37,22 @@ std::vector<std::string> splitAtCommas(std::string_view text)
   }
 }
 
-bool readSide(std::string_view text, int& side)
+template <typename Number>
+bool readNumber(std::string_view text, Number smallest, Number largest, Number& number)
 {
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), side);
-  return error == std::errc() && end == text.data() + text.size() && side >= smallestSide &&
-         side <= largestSide;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && end == text.data() + text.size() && number >= smallest &&
+         number <= largest;
+}
+
+/// Reads "WIDTHxHEIGHT".
+template <typename Number>
+bool readSize(std::string_view text, Number smallest, Number largest, Number& width, Number& height)
+{
+  const std::size_t cross = text.find('x');
+  return cross != std::string_view::npos &&
+         readNumber(text.substr(0, cross), smallest, largest, width) &&
+         readNumber(text.substr(cross + 1), smallest, largest, height);
 }
 
 class CommandLineParser
@@ -110,7 +125,9 @@ private:
                                        {"--z", &CommandLineParser::readZ},
                                        {"--export", &CommandLineParser::readExport},
                                        {"--gallery", &CommandLineParser::readGallery},
-                                       {"--size", &CommandLineParser::readSize}};
+                                       {"--size", &CommandLineParser::readPixels},
+                                       {"--paper", &CommandLineParser::readPaper},
+                                       {"--dpi", &CommandLineParser::readResolution}};
     const auto* found =
         std::find_if(std::begin(known), std::end(known),
                      [&name](const Option& candidate) { return candidate.name == name; });
@@ -172,16 +189,27 @@ private:
 
   void readGallery(const std::string& value) { options().gallery = value; }
 
-  void readSize(const std::string& value)
+  void readPixels(const std::string& value)
   {
-    const std::size_t cross = value.find('x');
-    const bool good = cross != std::string::npos &&
-                      readSide(std::string_view(value).substr(0, cross), options().width) &&
-                      readSide(std::string_view(value).substr(cross + 1), options().height);
-    if (!good)
+    if (!readSize(value, smallestSide, largestSide, options().width, options().height))
       parsed.error = "--size takes WIDTHxHEIGHT in pixels, each from " +
                      std::to_string(smallestSide) + " to " + std::to_string(largestSide) +
                      ", not " + value;
+  }
+
+  void readPaper(const std::string& value)
+  {
+    if (!readSize(value, smallestPaperSide, largestPaperSide, options().paperWidth,
+                  options().paperHeight))
+      parsed.error =
+          "--paper takes WIDTHxHEIGHT in millimetres, each from 20 to 1200, not " + value;
+  }
+
+  void readResolution(const std::string& value)
+  {
+    if (!readNumber(std::string_view(value), smallestResolution, largestResolution,
+                    options().dotsPerInch))
+      parsed.error = "--dpi takes a number from 72 to 1200, not " + value;
   }
 
   const std::vector<std::string>& arguments;
@@ -215,6 +243,8 @@ std::string commandLineHelp()
       "                          may be given several times\n"
       "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
       "  --size WxH              width and height of the pictures in pixels\n"
+      "  --paper WxH             width and height of exported pictures in millimetres\n"
+      "  --dpi N                 resolution of a PNG with --paper, 300 without this\n"
       "  --help                  this text\n"
       "  --version               the version\n"
       "\n"

@@ -27,6 +27,11 @@ struct CommandLineOptions
   /// Width and height of the picture in pixels; 0 for the default.
   int width = 0;
   int height = 0;
+  /// Width and height of exported pictures on paper in millimetres; 0 for the size in pixels.
+  double paperWidth = 0.0;
+  double paperHeight = 0.0;
+  /// Pixels per inch of a picture of a size on paper.
+  int dotsPerInch = 300;
   bool help = false;
   bool version = false;
 

@@ -1,8 +1,8 @@
 #include "app/MainWindow.h"
 
+#include "app/ComparisonDock.h"
 #include "app/GroupController.h"
 #include "app/LoadingBar.h"
-#include "app/PictureFile.h"
 #include "app/PlotChoice.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
@@ -47,6 +47,7 @@ MainWindow::MainWindow(QWidget* parent)
     , timeCourses(new TimeCoursePage)
     , tabs(new QTabWidget)
     , dock(new PlotDock)
+    , comparison(new ComparisonDock)
     , selection(new SelectionController(this))
     , loader(new StudyLoader(this))
 {
@@ -57,6 +58,8 @@ MainWindow::MainWindow(QWidget* parent)
   tabs->setDocumentMode(true);
   setCentralWidget(tabs);
   addDockWidget(Qt::RightDockWidgetArea, dock);
+  addDockWidget(Qt::BottomDockWidgetArea, comparison);
+  setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
   const QFontMetrics metrics = fontMetrics();
   resize(firstCharacters * metrics.averageCharWidth(), firstLines * metrics.lineSpacing());
   container = plot->plotContainer();
@@ -66,6 +69,10 @@ MainWindow::MainWindow(QWidget* parent)
   selection->follow(container);
   connect(selection, &SelectionController::changed, this, &MainWindow::showSelection);
   connect(dock, &PlotDock::choiceChanged, this, &MainWindow::applyDock);
+  connect(comparison, &ComparisonDock::choiceChanged, this, &MainWindow::applyComparison);
+  connect(comparison, &ComparisonDock::styleChosen, this, &MainWindow::chooseStyle);
+  connect(comparison, &ComparisonDock::said, this,
+          [this](const QString& message) { statusBar()->showMessage(message, noteMilliseconds); });
   connect(loader, &StudyLoader::progressed, loadingBar, &LoadingBar::setPercent);
   connect(loader, &StudyLoader::finished, this, &MainWindow::finishLoading);
   connect(loadingBar, &LoadingBar::cancelled, this, &MainWindow::cancelLoading);
@@ -164,6 +171,8 @@ void MainWindow::finishLoading(const OpenedStudy& result)
     statusBar()->showMessage(notes.join(QLatin1Char(' ')), noteMilliseconds);
   if (applyWishes())
     emit opened();
+  // What is restored is no update that the user waits for.
+  clock.end();
 }
 
 void MainWindow::showStudyInPlot(const Study& opened)
@@ -177,12 +186,14 @@ void MainWindow::showStudyInPlot(const Study& opened)
   container = fresh;
   study = opened;
   showStudy(study, *container);
+  chooseOpeningStyle(*container, wishes);
   timeCourses->setStudy(study);
   followStudy();
   dock->setColumns(container->getLabels());
   dock->setChoice(choiceOf(*container));
   size->setText(QString::fromStdString(studySize(study, *container)));
   selection->follow(container);
+  clock.follow(container->getAnnotationLink());
   selected->setText(selection->summary());
   setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
 }
@@ -215,6 +226,7 @@ void MainWindow::applyDock()
   const std::string error = applyChoice(*container, dock->choice());
   groups->dress();
   selected->setText(selection->summary());
+  comparison->refresh(*container);
   plot->updatePlot(true);
   if (!error.empty())
     statusBar()->showMessage(QString::fromStdString(error), noteMilliseconds);
@@ -223,28 +235,43 @@ void MainWindow::applyDock()
 /// A changed selection has drawn the chart anew, without what the viewer adds to it.
 void MainWindow::showSelection()
 {
-  if (!study.chart)
+  if (study.chart)
   {
-    applyDock();
+    selected->setText(selection->summary());
+    plot->updatePlot(true);
     return;
   }
-  selected->setText(selection->summary());
-  plot->updatePlot(true);
+  applyDock();
+  sayHowLongItTook();
+}
+
+void MainWindow::applyComparison()
+{
+  if (!container)
+    return;
+  clock.begin();
+  writeComparisonChoice(*container, comparison->choice());
+  applyDock();
+  sayHowLongItTook();
+}
+
+void MainWindow::chooseStyle(plotStyles style)
+{
+  PlotChoice choice = dock->choice();
+  choice.style = style;
+  dock->setChoice(choice);
+  applyDock();
+}
+
+void MainWindow::sayHowLongItTook()
+{
+  if (const std::optional<qint64> milliseconds = clock.end())
+    statusBar()->showMessage(tr("Updated in %1 ms").arg(*milliseconds), noteMilliseconds);
 }
 
 QString MainWindow::selectionText() const
 {
   return selected->text();
-}
-
-bool MainWindow::exportTo(const QString& path)
-{
-  const std::string error = exportPlot(*plot, path);
-  if (error.empty())
-    statusBar()->showMessage(tr("Wrote %1").arg(path), noteMilliseconds);
-  else
-    showError(QString::fromStdString(error));
-  return error.empty();
 }
 
 QString MainWindow::sizeText() const

@@ -2,10 +2,12 @@
 #define MainWindow_h
 
 #include "app/CommandLine.h"
+#include "app/PictureFile.h"
 #include "app/PlotChoice.h"
 #include "app/RecentFiles.h"
 #include "app/Study.h"
 #include "app/StudyFile.h"
+#include "app/UpdateClock.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -20,6 +22,7 @@ namespace Talmesh::app
 {
 
 class ClusterDock;
+class ComparisonDock;
 class GroupController;
 class LoadingBar;
 class PlotDock;
@@ -48,15 +51,20 @@ public:
   /// Shows once more the runs or the table opened last; a computed study has taken their place.
   void returnToRuns();
 
-  /// Writes what is shown to a file, by its suffix; a failure is shown to the user.
+  /// Writes what is shown to a file, by its suffix, as on the screen or for print; a failure is
+  /// shown to the user.
   /// @return whether it was written
   bool exportTo(const QString& path);
+  bool exportTo(const QString& path, const PaperSize& paper);
+  /// Asks for the size of a picture, then writes it.
+  void askForSizeAndExport(const QString& path);
   /// Writes the table and how it is shown as a session; a failure is shown to the user.
   /// @return whether it was written
   bool saveSessionTo(const QString& path);
 
   VtkPlotWidget* plotWidget() const { return plot; }
   PlotDock* plotDock() const { return dock; }
+  ComparisonDock* comparisonDock() const { return comparison; }
   /// The pages "Runs" and "Time courses".
   QTabWidget* pages() const { return tabs; }
   SelectionController* selectionController() const { return selection; }
@@ -106,13 +114,18 @@ private:
   void drawOwnChart();
   bool applyWishes();
   void applyDock();
+  void applyComparison();
+  void chooseStyle(plotStyles style);
+  void sayHowLongItTook();
   void updateRender();
+  bool sayWhatWasWritten(const QString& path, const std::string& error);
   void showError(const QString& message);
 
   VtkPlotWidget* plot;
   TimeCoursePage* timeCourses;
   QTabWidget* tabs;
   PlotDock* dock;
+  ComparisonDock* comparison;
   SelectionController* selection;
   StudyLoader* loader;
   LoadingBar* loadingBar = nullptr;
@@ -121,6 +134,7 @@ private:
   QMenu* recentMenu = nullptr;
   RecentFiles recent;
   QPointer<PlotContainer> container;
+  UpdateClock clock;
   Study study;
   ClusterDock* clusterDock = nullptr;
   StudyDock* studyDock = nullptr;

@@ -1,3 +1,4 @@
+#include "app/ComparisonDock.h"
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
@@ -108,19 +109,15 @@ void MainWindow::makeViewMenu()
       continue;
     QAction* action = view->addAction(titleOf(style));
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(static_cast<int>(style.style))));
-    connect(action, &QAction::triggered, this,
-            [this, value = style.style]
-            {
-              PlotChoice choice = dock->choice();
-              choice.style = value;
-              dock->setChoice(choice);
-              applyDock();
-            });
+    connect(action, &QAction::triggered, this, [this, value = style.style] { chooseStyle(value); });
   }
   view->addSeparator();
   QAction* panel = dock->toggleViewAction();
   panel->setShortcut(QKeySequence(Qt::Key_F9));
   view->addAction(panel);
+  QAction* comparisonPanel = comparison->toggleViewAction();
+  comparisonPanel->setShortcut(QKeySequence(Qt::Key_F8));
+  view->addAction(comparisonPanel);
 }
 
 void MainWindow::makeHelpMenu()
@@ -140,21 +137,6 @@ void MainWindow::chooseFile()
   dialog->setOptions(getFileDialogOption());
   dialog->setFileMode(QFileDialog::ExistingFile);
   connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::openFile);
-  dialog->open();
-}
-
-void MainWindow::chooseExport()
-{
-  auto* dialog = new QFileDialog(this, tr("Export"), {},
-                                 tr("Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setOptions(getFileDialogOption());
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  const auto suffixOfFilter = [dialog](const QString& filter)
-  { dialog->setDefaultSuffix(filter.section(QStringLiteral("*."), 1).left(3)); };
-  suffixOfFilter(dialog->selectedNameFilter());
-  connect(dialog, &QFileDialog::filterSelected, dialog, suffixOfFilter);
-  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::exportTo);
   dialog->open();
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/ChartDressing.h"
 #include "app/ColumnRoles.h"
+#include "app/ComparisonChoice.h"
 #include "app/FurtherSeries.h"
 #include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
@@ -84,6 +85,7 @@ PlotChoice choiceOf(const PlotContainer& container)
 std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
 {
   writeSettings(container, choice);
+  refreshQuartiles(container);
   makeRoom(container);
   try
   {

@@ -169,7 +169,7 @@ void PlotDock::enableControls()
 {
   const plotStyles chosen = choice().style;
   const bool xy = chosen == xyPlot;
-  lines->setEnabled(xy);
+  lines->setEnabled(xy || chosen == selectionCdfPlot);
   legend->setEnabled(xy);
   logX->setEnabled(xy);
   logY->setEnabled(xy);

@@ -101,6 +101,7 @@ void showStudy(const Study& study, PlotContainer& container)
     settings.zColumns = {std::min(2, last)};
     settings.color = seriesColour(1);
   }
+  settings.title.clear();
   settings.sourceName = study.name;
 }
 

@@ -615,6 +615,237 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>Talmesh::app::ComparisonDock</name>
+    <message>
+        <source>Comparison</source>
+        <translation>Vergleich</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ComparisonModel</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>The parameter that was compared</source>
+        <translation>Der verglichene Parameter</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Largest distance of the two empirical distribution functions (two-sample Kolmogorov-Smirnov statistic)</source>
+        <translation>Größter Abstand der beiden empirischen Verteilungsfunktionen (Kolmogorow-Smirnow-Statistik zweier Stichproben)</translation>
+    </message>
+    <message>
+        <source>D</source>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>Probability of such a distance if selected and other runs do not differ</source>
+        <translation>Wahrscheinlichkeit eines solchen Abstands, wenn ausgewählte und übrige Läufe sich nicht unterscheiden</translation>
+    </message>
+    <message>
+        <source>p</source>
+        <translation>p</translation>
+    </message>
+    <message>
+        <source>p adjusted after Benjamini and Hochberg, because one selection tests all parameters at once</source>
+        <translation>p nach Benjamini und Hochberg korrigiert, weil eine Auswahl alle Parameter zugleich prüft</translation>
+    </message>
+    <message>
+        <source>Adjusted p</source>
+        <translation>Korrigiertes p</translation>
+    </message>
+    <message>
+        <source>Number of values of the selected runs</source>
+        <translation>Anzahl der Werte der ausgewählten Läufe</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
+    </message>
+    <message>
+        <source>Number of values of the runs that are not selected</source>
+        <translation>Anzahl der Werte der nicht ausgewählten Läufe</translation>
+    </message>
+    <message>
+        <source>Not selected</source>
+        <translation>Nicht ausgewählt</translation>
+    </message>
+    <message>
+        <source>Whether p and D meet the thresholds</source>
+        <translation>Ob p und D die Schwellen einhalten</translation>
+    </message>
+    <message>
+        <source>Significant</source>
+        <translation>Signifikant</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ComparisonSettings</name>
+    <message>
+        <source>&amp;Distributions</source>
+        <translation>&amp;Verteilungen</translation>
+    </message>
+    <message>
+        <source>The runs, and below them how each parameter is distributed</source>
+        <translation>Die Läufe und darunter die Verteilung jedes Parameters</translation>
+    </message>
+    <message>
+        <source>Parameter &amp;pairs</source>
+        <translation>Parameter&amp;paare</translation>
+    </message>
+    <message>
+        <source>The runs, and each parameter over each other one</source>
+        <translation>Die Läufe und jeder Parameter über jedem anderen</translation>
+    </message>
+    <message>
+        <source>Parameters with at most this p count as different and are shown first</source>
+        <translation>Parameter mit höchstens diesem p gelten als verschieden und werden zuerst gezeigt</translation>
+    </message>
+    <message>
+        <source>Parameters with at least this Kolmogorov-Smirnov statistic D count as different</source>
+        <translation>Parameter mit mindestens dieser Kolmogorow-Smirnow-Statistik D gelten als verschieden</translation>
+    </message>
+    <message>
+        <source>Largest p</source>
+        <translation>Größtes p</translation>
+    </message>
+    <message>
+        <source>Smallest D</source>
+        <translation>Kleinstes D</translation>
+    </message>
+    <message>
+        <source>D&amp;ensities</source>
+        <translation>Di&amp;chten</translation>
+    </message>
+    <message>
+        <source>Densities instead of empirical distribution functions (ECDF)</source>
+        <translation>Dichten statt empirischer Verteilungsfunktionen (ECDF)</translation>
+    </message>
+    <message>
+        <source>Common density scale</source>
+        <translation>Gemeinsame Dichteskala</translation>
+    </message>
+    <message>
+        <source>The same scale for the densities of all parameters</source>
+        <translation>Dieselbe Skala für die Dichten aller Parameter</translation>
+    </message>
+    <message>
+        <source>Logarithmic parameters</source>
+        <translation>Logarithmische Parameter</translation>
+    </message>
+    <message>
+        <source>Logarithmic parameter axes, where all values are positive</source>
+        <translation>Logarithmische Parameterachsen, wo alle Werte positiv sind</translation>
+    </message>
+    <message>
+        <source>Quartile bands</source>
+        <translation>Quartilbänder</translation>
+    </message>
+    <message>
+        <source>Range, quartiles and median of all runs; of the runs themselves only the selected ones</source>
+        <translation>Spannweite, Quartile und Median aller Läufe; von den Läufen selbst nur die ausgewählten</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ComparisonTable</name>
+    <message>
+        <source>This table has no parameters to compare.</source>
+        <translation>Diese Tabelle hat keine Parameter zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>Nothing is selected. Drag a rectangle over some runs with the right mouse button to compare their parameters with those of the other runs.</source>
+        <translation>Nichts ist ausgewählt. Ziehen Sie mit der rechten Maustaste ein Rechteck über einige Läufe, um ihre Parameter mit denen der übrigen zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>No run is selected at every time that the selection covers.</source>
+        <translation>Kein Lauf ist zu jeder Zeit ausgewählt, die die Auswahl umfasst.</translation>
+    </message>
+    <message>
+        <source>All runs are selected; there are none to compare them with.</source>
+        <translation>Alle Läufe sind ausgewählt; es bleiben keine zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern...</translation>
+    </message>
+    <message>
+        <source>Copy the table, or its selected rows, for a spreadsheet (Ctrl+C)</source>
+        <translation>Die Tabelle oder ihre ausgewählten Zeilen für eine Tabellenkalkulation kopieren (Strg+C)</translation>
+    </message>
+    <message>
+        <source>Write the table to a CSV file</source>
+        <translation>Die Tabelle in eine CSV-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Copied the comparison</source>
+        <translation>Vergleich kopiert</translation>
+    </message>
+    <message>
+        <source>Save the comparison</source>
+        <translation>Vergleich speichern</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Tabelle (*.csv)</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ExportDialog</name>
+    <message>
+        <source>As on the &amp;screen</source>
+        <translation>Wie auf dem &amp;Bildschirm</translation>
+    </message>
+    <message>
+        <source>Of a size on &amp;paper, with text of 12 points</source>
+        <translation>In einer Größe auf &amp;Papier, mit Schrift von 12 Punkt</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Größe des Bildes</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>B&amp;reite</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>&amp;Höhe</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution</source>
+        <translation>&amp;Auflösung</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>more than %1 on a side</source>
+        <translation>mehr als %1 auf einer Seite</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::GroupController</name>
     <message>
         <source>This data has no runs over time to group.</source>
@@ -879,6 +1110,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>The chart of this study is composed already.</source>
         <translation>Das Diagramm dieser Studie ist schon zusammengestellt.</translation>
+    </message>
+    <message>
+        <source>Updated in %1 ms</source>
+        <translation>In %1 ms aktualisiert</translation>
     </message>
 </context>
 <context>

@@ -110,7 +110,8 @@ TEST(CommandLine, RefusesAnUnknownOption)
 
 TEST(CommandLine, RefusesAnOptionWithoutItsValue)
 {
-  for (const char* option : {"--style", "--x", "--y", "--z", "--export", "--gallery", "--size"})
+  for (const char* option :
+       {"--style", "--x", "--y", "--z", "--export", "--gallery", "--size", "--paper", "--dpi"})
   {
     EXPECT_EQ(errorOf({option}), std::string(option) + " needs a value");
     EXPECT_EQ(errorOf({option, ""}), std::string(option) + " needs a value");
@@ -147,6 +148,22 @@ TEST(CommandLine, RefusesASizeThatIsNone)
   EXPECT_EQ(parsed({"--size", "16x16384"}).height, 16384);
 }
 
+TEST(CommandLine, TakesASizeOnPaperAndAResolution)
+{
+  const CommandLineOptions options = parsed({"--paper", "180x120.5", "--dpi", "600"});
+  EXPECT_EQ(options.paperWidth, 180.0);
+  EXPECT_EQ(options.paperHeight, 120.5);
+  EXPECT_EQ(options.dotsPerInch, 600);
+  EXPECT_EQ(parsed({}).paperWidth, 0.0);
+  for (const char* size : {"180", "180x", "x120", "19x120", "180x1201", "nanx120", "180x120mm"})
+    EXPECT_EQ(errorOf({"--paper", size}), std::string("--paper takes WIDTHxHEIGHT in millimetres, "
+                                                      "each from 20 to 1200, not ") +
+                                              size);
+  for (const char* dpi : {"71", "1201", "300.5", "high"})
+    EXPECT_EQ(errorOf({"--dpi", dpi}),
+              std::string("--dpi takes a number from 72 to 1200, not ") + dpi);
+}
+
 TEST(CommandLine, LeavesNoOptionsBesideAnError)
 {
   EXPECT_EQ(parseCommandLine({"a.csv", "--bad"}).options.file, "");
@@ -156,7 +173,7 @@ TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
 {
   const std::string help = commandLineHelp();
   for (const char* word : {"FILE", "--style", "--x", "--y", "--z", "--export", "--gallery",
-                           "--size", "--help", "--version"})
+                           "--size", "--paper", "--dpi", "--help", "--version"})
     EXPECT_NE(help.find(word), std::string::npos) << word;
   for (const StyleName& style : styleNames())
     EXPECT_NE(help.find(style.name), std::string::npos) << style.name;

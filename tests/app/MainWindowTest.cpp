@@ -66,9 +66,13 @@ protected:
     return QTest::qWaitFor([this] { return !window->isLoading(); }, patience);
   }
 
+  /// Opens three runs in the XY plot.
   void openSample()
   {
-    window->openFile(write("runs.csv", sampleRuns()));
+    CommandLineOptions options;
+    options.file = write("runs.csv", sampleRuns()).toStdString();
+    options.style = xyPlot;
+    window->open(options);
     ASSERT_TRUE(waitUntilLoaded());
   }
 

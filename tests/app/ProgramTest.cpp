@@ -116,6 +116,13 @@ TEST_F(Program, TellsWhatItLeavesOutOfAnExport)
             "talmesh-plot: The column \"drug\" holds text and is left out.\n");
 }
 
+TEST_F(Program, ExportsForPrint)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  expectSuccess({csv, "--paper", "90x60", "--dpi", "200", "--export", path("plot.png")});
+  EXPECT_EQ(QImage(path("plot.png")).size(), QSize(709, 472));
+}
+
 TEST_F(Program, ExportsInEveryStyle)
 {
   const QString csv = write("runs.csv", sampleRuns());

@@ -1,0 +1,49 @@
+#ifndef ExportDialog_h
+#define ExportDialog_h
+
+#include "app/PictureFile.h"
+
+#include <QDialog>
+
+#include <optional>
+
+class QDoubleSpinBox;
+class QLabel;
+class QRadioButton;
+class QSpinBox;
+
+namespace Talmesh::app
+{
+
+/// Asks how large an exported picture shall be: as on the screen, or of a size on paper. The size
+/// chosen last is offered again, also by the next run of the program.
+class ExportDialog : public QDialog
+{
+  Q_OBJECT
+
+public:
+  /// @param pixels made of pixels, so that it has a resolution, rather than of vectors
+  /// @param screen the size of the plot on the screen
+  ExportDialog(bool pixels, const QSize& screen, QWidget* parent = nullptr);
+
+  /// The size on paper; none for the size on the screen.
+  std::optional<PaperSize> paper() const;
+
+  void accept() override;
+
+private:
+  void restore(const QSize& screen);
+  void showPixels();
+
+  bool inPixels;
+  QRadioButton* asOnScreen;
+  QRadioButton* onPaper;
+  QDoubleSpinBox* width;
+  QDoubleSpinBox* height;
+  QSpinBox* resolution;
+  QLabel* pixelSize;
+};
+
+} // namespace Talmesh::app
+
+#endif

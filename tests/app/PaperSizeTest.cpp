@@ -1,0 +1,281 @@
+#include "app/ExportDialog.h"
+#include "app/MainWindow.h"
+#include "app/PictureFile.h"
+#include "app/PlotChoice.h"
+#include "app/ScaledPicture.h"
+#include "app/Study.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <gtest/gtest.h>
+
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QImage>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+
+namespace
+{
+
+/// Standard output of a program, which must be installed.
+QString outputOf(const QString& program, const QStringList& arguments)
+{
+  QProcess process;
+  process.start(program, arguments);
+  EXPECT_TRUE(process.waitForFinished(30000) && process.exitCode() == 0) << program.toStdString();
+  return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+/// How much two pictures of one size differ, 0 to 255, on average of the pixels.
+double differenceOf(const QImage& a, const QImage& b)
+{
+  double sum = 0.0;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x)
+      sum += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y)));
+  return sum / (a.width() * a.height());
+}
+
+class PaperSizeOfAPicture : public ::testing::Test
+{
+protected:
+  PaperSizeOfAPicture()
+      : widget(makeHiddenPlot(QSize(520, 360)))
+  {
+    showStudy(sampleStudy(sampleRuns(12, 6)), container());
+    draw(selectionCdfPlot);
+  }
+
+  PlotContainer& container() { return *widget->plotContainer(); }
+
+  void draw(plotStyles style)
+  {
+    PlotChoice choice = choiceOf(container());
+    choice.style = style;
+    applyChoice(container(), choice);
+    widget->updatePlot(true);
+  }
+
+  QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+
+  QTemporaryDir folder;
+  std::unique_ptr<VtkPlotWidget> widget;
+};
+
+} // namespace
+
+TEST_F(PaperSizeOfAPicture, IsThePageOfThePdf)
+{
+  ASSERT_EQ(exportPlot(*widget, path("plot.pdf"), {QSizeF(180.0, 120.0), 300}), "");
+  const QString info = outputOf("pdfinfo", {path("plot.pdf")});
+  const QRegularExpression size(QStringLiteral("Page size: *([0-9.]+) x ([0-9.]+) pts"));
+  const QRegularExpressionMatch found = size.match(info);
+  ASSERT_TRUE(found.hasMatch()) << info.toStdString();
+  // 25.4 mm are 72 points, and the page is a whole number of them.
+  EXPECT_NEAR(found.captured(1).toDouble() / 72.0 * 25.4, 180.0, 0.18);
+  EXPECT_NEAR(found.captured(2).toDouble() / 72.0 * 25.4, 120.0, 0.18);
+}
+
+TEST_F(PaperSizeOfAPicture, KeepsTheTextOfThePdfAsText)
+{
+  ASSERT_EQ(exportPlot(*widget, path("plot.pdf"), {QSizeF(180.0, 120.0), 300}), "");
+  const QString text = outputOf("pdftotext", {path("plot.pdf"), QStringLiteral("-")});
+  for (const char* word : {"time", "X", "k", "Ecdf"})
+    EXPECT_TRUE(text.contains(QLatin1String(word))) << word << " in " << text.toStdString();
+
+  // Every font is one of those that all readers have, or is in the file.
+  QStringList fonts = outputOf("pdffonts", {path("plot.pdf")}).split(QLatin1Char('\n'));
+  fonts = fonts.mid(2);
+  fonts.removeAll(QString());
+  ASSERT_FALSE(fonts.isEmpty());
+  const QRegularExpression standard(QStringLiteral("^(Helvetica|Times|Courier|Symbol)"));
+  const QRegularExpression embedded(QStringLiteral(" yes +(yes|no) +(yes|no) +\\d+ +\\d+$"));
+  for (const QString& font : fonts)
+    EXPECT_TRUE(standard.match(font).hasMatch() || embedded.match(font).hasMatch())
+        << font.toStdString();
+}
+
+TEST_F(PaperSizeOfAPicture, HasNoPixelsInThePdf)
+{
+  ASSERT_EQ(exportPlot(*widget, path("plot.pdf"), {QSizeF(180.0, 120.0), 300}), "");
+  EXPECT_EQ(outputOf("pdfimages", {QStringLiteral("-list"), path("plot.pdf")})
+                .count(QLatin1String("image")),
+            1)
+      << "only the heading";
+}
+
+TEST_F(PaperSizeOfAPicture, IsThatOfThePngInPixelsAndInMillimetres)
+{
+  for (const int dpi : {72, 150, 300})
+  {
+    const PaperSize paper = {QSizeF(90.0, 70.0), dpi};
+    ASSERT_EQ(exportPlot(*widget, path("plot.png"), paper), "");
+    const QImage picture(path("plot.png"));
+    EXPECT_EQ(picture.width(), qRound(90.0 / 25.4 * dpi));
+    EXPECT_EQ(picture.height(), qRound(70.0 / 25.4 * dpi));
+    EXPECT_NEAR(picture.width() * 1000.0 / picture.dotsPerMeterX(), 90.0, 0.2);
+    EXPECT_NEAR(picture.height() * 1000.0 / picture.dotsPerMeterY(), 70.0, 0.2);
+  }
+}
+
+TEST_F(PaperSizeOfAPicture, LeavesTheWidgetAsItWas)
+{
+  const QImage before = widget->grabFramebuffer();
+  exportPlot(*widget, path("plot.png"), {QSizeF(90.0, 70.0), 300});
+  exportPlot(*widget, path("plot.pdf"), {QSizeF(90.0, 70.0), 300});
+  EXPECT_EQ(widget->size(), QSize(520, 360));
+  EXPECT_TRUE(widget->updatesEnabled());
+  EXPECT_EQ(widget->grabFramebuffer(), before);
+}
+
+TEST_F(PaperSizeOfAPicture, IsRefusedNowhereInAnyStyle)
+{
+  for (const plotStyles style :
+       {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, scatterWithErrorBars,
+        fitParameterDistribution, parallelCoordinates})
+  {
+    draw(style);
+    EXPECT_EQ(exportPlot(*widget, path("plot.png"), {QSizeF(90.0, 70.0), 150}), "") << style;
+    EXPECT_EQ(QImage(path("plot.png")).size(), QSize(531, 413)) << style;
+  }
+}
+
+TEST_F(PaperSizeOfAPicture, ScalesEverythingAlike)
+{
+  draw(selectionCdfPlot);
+  const QImage small = widget->grabFramebuffer();
+  EXPECT_EQ(paintScaled(*widget, 1.0), small.convertToFormat(QImage::Format_RGB32));
+  for (const double scale : {2.0, 2.5, 3.0})
+  {
+    const QImage large = paintScaled(*widget, scale);
+    ASSERT_EQ(large.size(), QSize(qRound(520 * scale), qRound(360 * scale)));
+    const QImage shrunk =
+        large.scaled(small.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // Text and lines fall on other pixels, and so differ; a part in a wrong place differs more.
+    const double difference = differenceOf(shrunk, small);
+    EXPECT_LT(difference, 4.0) << scale;
+    EXPECT_GT(differenceOf(shrunk.mirrored(true, false), small), 3.0 * difference) << scale;
+    // Lines get thicker with the rest, so that the picture is not lighter.
+    QImage paper(small.size(), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    EXPECT_NEAR(differenceOf(shrunk, paper), differenceOf(small, paper),
+                0.25 * differenceOf(small, paper))
+        << scale;
+  }
+}
+
+namespace
+{
+
+class ExportDialogOfAWindow : public ::testing::Test
+{
+protected:
+  ExportDialogOfAWindow()
+  {
+    QCoreApplication::setOrganizationName(QStringLiteral("TalmeshTest"));
+    QCoreApplication::setApplicationName(QStringLiteral("export"));
+    QSettings().clear();
+  }
+
+  ~ExportDialogOfAWindow() override { QSettings().clear(); }
+
+  template <typename Widget>
+  static Widget& child(QWidget& of, const char* name)
+  {
+    return *of.findChild<Widget*>(QLatin1String(name));
+  }
+};
+
+} // namespace
+
+TEST_F(ExportDialogOfAWindow, OffersTheShapeOfTheScreenOnAPageOfAJournal)
+{
+  ExportDialog dialog(true, QSize(900, 600));
+  ASSERT_TRUE(dialog.paper());
+  EXPECT_EQ(dialog.paper()->millimetres, QSizeF(180.0, 120.0));
+  EXPECT_EQ(dialog.paper()->dotsPerInch, 300);
+}
+
+TEST_F(ExportDialogOfAWindow, AsksForAResolutionOnlyForPixels)
+{
+  for (const bool pixels : {true, false})
+  {
+    ExportDialog dialog(pixels, QSize(900, 600));
+    dialog.show();
+    EXPECT_EQ(child<QSpinBox>(dialog, "exportResolution").isVisible(), pixels);
+  }
+}
+
+TEST_F(ExportDialogOfAWindow, RemembersWhatWasAccepted)
+{
+  {
+    ExportDialog dialog(true, QSize(900, 600));
+    child<QDoubleSpinBox>(dialog, "exportWidth").setValue(85.0);
+    child<QDoubleSpinBox>(dialog, "exportHeight").setValue(60.0);
+    child<QSpinBox>(dialog, "exportResolution").setValue(600);
+    dialog.accept();
+  }
+  {
+    ExportDialog dialog(true, QSize(900, 600));
+    EXPECT_EQ(dialog.paper()->millimetres, QSizeF(85.0, 60.0));
+    EXPECT_EQ(dialog.paper()->dotsPerInch, 600);
+    child<QDoubleSpinBox>(dialog, "exportWidth").setValue(100.0);
+    dialog.reject();
+  }
+  ExportDialog dialog(true, QSize(900, 600));
+  EXPECT_EQ(dialog.paper()->millimetres.width(), 85.0);
+}
+
+TEST_F(ExportDialogOfAWindow, CanTakeTheSizeOfTheScreen)
+{
+  ExportDialog dialog(true, QSize(900, 600));
+  child<QRadioButton>(dialog, "asOnScreen").click();
+  EXPECT_FALSE(dialog.paper());
+  EXPECT_FALSE(child<QDoubleSpinBox>(dialog, "exportWidth").isEnabled());
+}
+
+TEST_F(ExportDialogOfAWindow, RefusesMorePixelsThanMemoryShouldHold)
+{
+  ExportDialog dialog(true, QSize(900, 600));
+  const QPushButton* save =
+      child<QDialogButtonBox>(dialog, "exportButtons").button(QDialogButtonBox::Save);
+  EXPECT_TRUE(save->isEnabled());
+  child<QDoubleSpinBox>(dialog, "exportWidth").setValue(1000.0);
+  child<QSpinBox>(dialog, "exportResolution").setValue(1200);
+  EXPECT_FALSE(save->isEnabled());
+}
+
+TEST_F(ExportDialogOfAWindow, WritesTheFileOfTheSizeAccepted)
+{
+  const QTemporaryDir folder;
+  MainWindow window;
+  window.resize(500, 400);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  const QSize before = window.plotWidget()->size();
+  const QString path = folder.filePath(QStringLiteral("plot.png"));
+  window.askForSizeAndExport(path);
+  auto* dialog = window.findChild<ExportDialog*>();
+  ASSERT_TRUE(dialog);
+  child<QDoubleSpinBox>(*dialog, "exportWidth").setValue(90.0);
+  child<QDoubleSpinBox>(*dialog, "exportHeight").setValue(60.0);
+  child<QSpinBox>(*dialog, "exportResolution").setValue(200);
+  dialog->accept();
+  EXPECT_EQ(QImage(path).size(), QSize(709, 472));
+  EXPECT_EQ(window.plotWidget()->size(), before);
+}
