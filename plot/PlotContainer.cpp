@@ -8,6 +8,7 @@
 #include "plot/Redraw.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SettingsSignals.h"
+#include "plot/vtkSelectableScatterPlotMatrix.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
 
@@ -25,7 +26,7 @@ void makeCharts(PlotState& state)
 {
   state.annotationLink = vtkSmartPointer<vtkAnnotationLink>::New();
   state.chartXY = Talmesh::plot::makeXYChart(state);
-  state.scatterPlotMatrix = vtkSmartPointer<vtkScatterPlotMatrix>::New();
+  state.scatterPlotMatrix = vtkSmartPointer<vtkSelectableScatterPlotMatrix>::New();
   state.chartXYZ = vtkSmartPointer<vtkChartXYZ>::New();
   state.chartMatrix = vtkSmartPointer<vtkChartMatrix>::New();
   state.extractSelectedRows = vtkSmartPointer<vtkExtractSelectedRows>::New();

@@ -41,6 +41,17 @@ PageLayout layoutOf(std::size_t shown)
           static_cast<int>((filled - 1) / chartsPerRow) + 1};
 }
 
+/// A chart loses its scene with its place among the items, but a handler that is still running in
+/// it needs one.
+void clearScene(const PlotState& state, vtkContextScene* scene)
+{
+  const vtkSmartPointer<vtkAbstractContextItem> shown = state.currentChart;
+  const bool wasHere = shown && shown->GetScene() == scene;
+  scene->ClearItems();
+  if (wasHere)
+    shown->SetScene(scene);
+}
+
 void rankOwnData(PlotState& state)
 {
   dropOutdatedRanks(state);
@@ -128,7 +139,7 @@ void drawSelectionPage(PlotState& state, vtkContextScene* scene)
                       settings.getKsThreshold());
   const std::vector<std::string> titles = titlesOf(state, shown);
   if (scene)
-    scene->ClearItems();
+    clearScene(state, scene);
   showChart(state, state.chartMatrix, scene);
   rankOwnData(state);
   // Before the cells are made: a drawing in there that fails may leave others behind.

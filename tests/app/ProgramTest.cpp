@@ -109,7 +109,7 @@ TEST_F(Program, ExportsAUsersRunsInEveryFormat)
 
 TEST_F(Program, TellsWhatItLeavesOutOfAnExport)
 {
-  const QString csv = write("runs.csv", "time,X,drug\n0,1,none\n1,2,none\n");
+  const QString csv = write("runs.csv", "time,X,drug\n0,1,aspirin\n1,2,aspirin\n");
   const Ended ended = run({csv, "--export", path("plot.csv")});
   EXPECT_EQ(ended.status, 0);
   EXPECT_EQ(ended.errors.toStdString(),

@@ -122,7 +122,6 @@ TEST_P(ReplacedChartsOfRuns, SurviveARedrawFromTheirOwnHandler)
       ASSERT_NE(bare->GetScene(), nullptr);
       bare->GetScene()->SetDirty(true);
       bare->RemoveObserver(tag);
-      scene.render(container);
       QApplication::processEvents();
       scene.render(container);
     }

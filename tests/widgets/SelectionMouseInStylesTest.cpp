@@ -56,7 +56,7 @@ TEST_F(SelectionMouseInStyles, AddsAndSubtractsInTheScatterPlotMatrix)
 {
   showMatrix();
   dragInMatrix({0.7, 9.0}, {1.3, 13.0});
-  dragInMatrix({0.7, 19.0}, {1.3, 23.0}, Qt::ControlModifier);
+  dragInMatrix({0.7, 19.0}, {1.3, 21.5}, Qt::ControlModifier);
   EXPECT_EQ(runs(), Runs({1, 2}));
   dragInMatrix({0.7, 9.0}, {1.3, 13.0}, Qt::ShiftModifier);
   EXPECT_EQ(runs(), Runs{2});
@@ -71,11 +71,11 @@ TEST_F(SelectionMouseInStyles, ShowsASelectionOfTheMatrixInOtherStyles)
   dragInMatrix({0.7, 9.0}, {2.3, 13.0});
   showStyle(xyPlot);
   EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 1, 0, 0, 0}));
-  drag({-0.3, 19.0}, {0.3, 21.0}, Qt::ControlModifier);
+  drag({0.7, 19.0}, {1.3, 21.5}, Qt::ControlModifier);
   EXPECT_EQ(runs(), Runs({1, 2}));
   showStyle(scatterPlotMatrix);
   dragInMatrix({0.7, 9.0}, {2.3, 13.0}, Qt::ShiftModifier);
-  EXPECT_EQ(flags(), Values({0, 0, 0, 0, 0, 0, 1, 0, 0}));
+  EXPECT_EQ(flags(), Values({0, 0, 0, 0, 0, 0, 0, 1, 0}));
 }
 
 TEST_F(SelectionMouseInStyles, SelectsInTheMainChartOfTheMultiPlotPage)
@@ -84,7 +84,7 @@ TEST_F(SelectionMouseInStyles, SelectsInTheMainChartOfTheMultiPlotPage)
   drag({0.7, 9.0}, {2.3, 13.0});
   EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 1, 0, 0, 0}));
   EXPECT_EQ(container().getDerivedTables().size(), 8U);
-  drag({-0.3, 19.0}, {0.3, 21.0}, Qt::ControlModifier);
+  drag({0.7, 19.0}, {1.3, 21.5}, Qt::ControlModifier);
   EXPECT_EQ(runs(), Runs({1, 2}));
 }
 
@@ -141,9 +141,4 @@ TEST_F(SelectionMouseInStyles, LeavesParallelCoordinatesAloneBesideTheirAxes)
       widget.height() / 2);
   dragPixels(between, between + QPoint(3, 40));
   EXPECT_EQ(flags(), Values(9, 0.0));
-  container().setPlotData(vtkSmartPointer<vtkTable>::New());
-  container().redraw();
-  widget.updatePlot(true);
-  dragPixels(between, between + QPoint(3, 40));
-  EXPECT_EQ(chart->GetNumberOfAxes(), 0);
 }
