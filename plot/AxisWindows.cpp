@@ -20,7 +20,7 @@ bool allFinite(const CoordinateWindow& window)
          std::isfinite(window.yMax);
 }
 
-/// An axis can only turn logarithmic once its range allows it, and from then on takes limits as
+/// An axis can only turn logarithmic once its range allows it, and from then on takes ends as
 /// logarithms: the range is given in plain units first, then exactly as it was recorded.
 void restoreRange(vtkAxis* axis, double minimum, double maximum, bool recordedAsLog)
 {
@@ -29,7 +29,7 @@ void restoreRange(vtkAxis* axis, double minimum, double maximum, bool recordedAs
   if (!std::isfinite(plainMinimum) || !std::isfinite(plainMaximum))
     return;
   axis->SetBehavior(vtkAxis::FIXED);
-  axis->SetUnscaledRange(plainMinimum, plainMaximum);
+  setDataRange(axis, plainMinimum, plainMaximum);
   if (axis->GetLogScaleActive() == recordedAsLog)
   {
     axis->SetMinimum(minimum);
@@ -61,12 +61,22 @@ const CoordinateWindow* rememberedWindow(const PlotState& state)
   return &found->second;
 }
 
+void setDataRange(vtkAxis* axis, double minimum, double maximum)
+{
+  // Not SetUnscaledRange: a logarithmic axis that gets two ends in this way forgets that it may
+  // show values below 0 when it is linear again.
+  const bool logarithmic = axis->GetLogScale();
+  axis->SetLogScale(false);
+  axis->SetRange(minimum, maximum);
+  axis->SetLogScale(logarithmic);
+}
+
 void fixRange(vtkAxis* axis, double minimum, double maximum)
 {
   if (!std::isfinite(minimum) || !std::isfinite(maximum))
     return;
   axis->SetBehavior(vtkAxis::FIXED);
-  axis->SetUnscaledRange(minimum, maximum);
+  setDataRange(axis, minimum, maximum);
 }
 
 void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window,

@@ -26,6 +26,10 @@ ReducedMetaData currentKey(const PlotState& state);
 /// not finite.
 const CoordinateWindow* rememberedWindow(const PlotState& state);
 
+/// Makes `axis` show [minimum, maximum] in units of the data. Its behaviour, its limits and whether
+/// it is to be logarithmic stay; it is not logarithmic while its range holds 0.
+void setDataRange(vtkAxis* axis, double minimum, double maximum);
+
 /// Fixes `axis` to [minimum, maximum] in units of the data. An axis that is to be logarithmic is
 /// not while its range holds 0. Limits that are not finite leave it as it is, because VTK does not
 /// finish painting an infinite axis.

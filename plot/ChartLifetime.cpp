@@ -3,6 +3,8 @@
 #include "plot/PlotState.h"
 #include "plot/SelectionBounds.h"
 
+#include <vtkContextScene.h>
+
 #include <QCoreApplication>
 #include <QMetaObject>
 
@@ -41,6 +43,19 @@ void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene*
   state.sceneLink.watch(scene);
   chart->SetScene(scene);
   state.currentChart = chart;
+}
+
+void addToSceneItems(PlotState& state)
+{
+  vtkContextScene* scene = currentScene(state);
+  if (!scene)
+    return;
+  for (unsigned int i = 0; i < scene->GetNumberOfItems(); ++i)
+  {
+    if (scene->GetItem(i) == state.currentChart)
+      return;
+  }
+  scene->AddItem(state.currentChart);
 }
 
 vtkContextScene* currentScene(const PlotState& state)

@@ -24,9 +24,11 @@ vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state);
 void ensureStandaloneChart(PlotState& state);
 
 /// Puts `chart` into `scene` and makes it the chart now shown, and cuts the selection to the table
-/// that it will show. The scene's items stay as they are:
-/// only the widget adds items.
+/// that it will show. The scene's items stay as they are: the widget replaces them.
 void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene);
+
+/// Adds the chart now shown to the items of its scene, if it has one, unless it is one of them.
+void addToSceneItems(PlotState& state);
 
 /// The scene of the chart now shown, or null.
 vtkContextScene* currentScene(const PlotState& state);

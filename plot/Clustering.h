@@ -18,9 +18,11 @@ struct PlotState;
 ///
 /// `clusterMembership` gets the 0-based cluster of every whole run. `decorationTable` gets the
 /// clusters' mean curves of what was compared, one row per position within a run: columns "0", "1",
-/// ... and last "Time". A cluster without runs is 0 throughout. The compared curves are added to
-/// the XY chart, when there is one, in the colours of their clusters. Two lines on standard output
-/// tell the number of runs and the size of the table of curves.
+/// ... and last "Time". A cluster without runs is 0 throughout. No more than 4096 curves are
+/// listed, or one per run if that is more: the others are empty, and a mistyped number of clusters
+/// must not exhaust the memory. The compared curves are added to the XY chart, when there is one,
+/// in the colours of their clusters. Two lines on standard output tell the number of runs and the
+/// size of the table of curves.
 ///
 /// With fewer than one cluster or without a whole run there is no membership afterwards, and
 /// standard error says so.

@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTable.h"
 #include "plot/ScatterMatrix.h"
 #include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
@@ -166,6 +167,7 @@ void reduceToUsedColumns(PlotState& state)
   const std::set<int> used = usedColumns(state);
   renumber(state, used);
   removeUnused(state, used);
+  tableChanged(state);
 }
 
 } // namespace Talmesh::plot

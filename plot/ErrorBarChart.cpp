@@ -1,6 +1,7 @@
 #include "plot/ErrorBarChart.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
 #include "plot/ChartReuse.h"
 #include "plot/Margins.h"
 #include "plot/PlotFeed.h"
@@ -71,9 +72,7 @@ void padBottomAxis(PlotState& state)
   const float low = static_cast<float>(range[0]);
   const float high = static_cast<float>(range[1]);
   const float padding = rangePadding * (high - low);
-  vtkAxis* axis = state.chartXY->GetAxis(vtkAxis::BOTTOM);
-  axis->SetUnscaledMinimum(low - padding);
-  axis->SetUnscaledMaximum(high + padding);
+  setDataRange(state.chartXY->GetAxis(vtkAxis::BOTTOM), low - padding, high + padding);
 }
 
 vtkTable* lineTable(const PlotState& state)

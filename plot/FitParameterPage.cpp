@@ -112,6 +112,7 @@ void drawFitParameterPage(PlotState& state, vtkContextScene* scene)
   }
   for (int m = 0; m < parameters; ++m)
     drawCourse(state, titles, m);
+  addToSceneItems(state);
 }
 
 } // namespace Talmesh::plot

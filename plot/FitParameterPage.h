@@ -17,6 +17,8 @@ struct PlotState;
 /// logarithmic scale when all of it is positive; a column 0 that is not a double column with a
 /// finite range switches colouring off. Parameters are titled by their column names without the
 /// type word, "Parameter: "; a position outside the table gives a chart without points and title.
+/// The page becomes one of the scene's items, beside those that are there, so that it is painted
+/// also where no widget replaces them. `scene` may be null.
 /// @throws std::out_of_range for a parameter column with a name shorter than 11 characters; nothing
 ///   has changed then
 void drawFitParameterPage(PlotState& state, vtkContextScene* scene);

@@ -22,8 +22,8 @@ constexpr int neverPressed = -1;
 
 std::string parameterTitle(const PlotState& state, std::size_t parameter)
 {
-  vtkAbstractArray* column = columnAt(state.table, state.metaData->parameterColumns[parameter]);
-  return column && column->GetName() ? withoutPrefix(column->GetName()) : "";
+  const int column = state.metaData->parameterColumns[parameter];
+  return columnAt(state.table, column) ? withoutPrefix(columnName(state.table, column)) : "";
 }
 
 std::vector<std::string> parameterTitles(const PlotState& state)

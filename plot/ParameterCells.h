@@ -13,9 +13,9 @@ namespace Talmesh::plot
 struct PlotState;
 
 /// Axis title of the parameter at position `parameter` of the settings' list: the name of its
-/// column without the type word. A parameter column that the table does not have, or that has no
-/// name at all, has an empty title.
-/// @throws std::out_of_range for a name shorter than the type word, also for an empty one
+/// column without the type word. A parameter column that the table does not have has an empty
+/// title.
+/// @throws std::out_of_range for a name shorter than the type word; no name counts as an empty one
 std::string parameterTitle(const PlotState& state, std::size_t parameter);
 
 /// The titles of all parameters.

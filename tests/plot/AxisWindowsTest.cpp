@@ -8,7 +8,7 @@
 #include "support/SampleTables.h"
 
 #include <vtkAxis.h>
-#include <vtkChartXYZ.h>
+#include <vtkChartParallelCoordinates.h>
 #include <vtkCommand.h>
 #include <vtkContextMouseEvent.h>
 
@@ -207,6 +207,14 @@ TEST_F(ShiftScaleCallback, IgnoresEverythingButCharts)
   EXPECT_TRUE(state().coordinateWindows.empty());
   execute(container.getChartXY());
   EXPECT_EQ(state().coordinateWindows.size(), 1U);
+}
+
+TEST_F(ShiftScaleCallback, IgnoresChartsWithoutAxes)
+{
+  vtkNew<vtkChartParallelCoordinates> lines;
+  ASSERT_EQ(lines->GetAxis(vtkAxis::BOTTOM), nullptr);
+  execute(lines);
+  EXPECT_TRUE(state().coordinateWindows.empty());
 }
 
 TEST_F(ShiftScaleCallback, WithoutContainerDoesNothing)

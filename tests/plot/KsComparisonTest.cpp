@@ -1,5 +1,6 @@
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "support/PlotScene.h"
 #include "support/SampleTables.h"
 
 #include <vtkFloatArray.h>
@@ -119,6 +120,21 @@ TEST_F(KsComparison, IgnoresALastColumnWithoutPartner)
   first->AddColumn(Talmesh::plot::makeColumn("odd", {1, 2}));
   EXPECT_EQ(compare(first, rankTable({{1, 2}})).size(), 1U);
   EXPECT_TRUE(compare(tableOf({{"odd", {1, 2}}}), rankTable({{1, 2}})).empty());
+}
+
+TEST_F(KsComparison, NeitherDrawsNorMarksTheScene)
+{
+  PlotScene scene;
+  container.setScene(scene.scene());
+  container.redraw();
+  scene.scene()->SetDirty(false);
+  const unsigned long before = container.state().drawings;
+  const auto table = rankTable({{1, 2}});
+  ASSERT_EQ(compare(table, table).size(), 1U);
+  EXPECT_EQ(container.state().drawings, before);
+  EXPECT_FALSE(scene.scene()->GetDirty());
+  container.dirty();
+  EXPECT_TRUE(scene.scene()->GetDirty());
 }
 
 TEST_F(KsComparison, ForgetsTheResultsBefore)

@@ -15,6 +15,7 @@
 
 #include <QByteArray>
 
+#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -78,6 +79,34 @@ TEST_F(RankedDataFlag, IsClearedByEveryChangeOfTheTable)
   expectCleared("readDump", [&] { container.readDump(dump.get()); });
   expectCleared("example", [&] { container.example(); });
   expectCleared("loadData", [&] { container.loadData("there is no such file"); });
+}
+
+TEST_F(RankedDataFlag, IsClearedByReducingTheTable)
+{
+  addStringColumn(container.getTable(), "unused");
+  CapturedOutput errors(std::cerr);
+  expectCleared("shrinkToColumnSelection", [&] { container.shrinkToColumnSelection(); });
+  ASSERT_EQ(container.getTable()->GetColumnByName("unused"), nullptr);
+  expectCleared("reducing again", [&] { container.shrinkToColumnSelection(); });
+}
+
+TEST_F(RankedDataFlag, StaysWithABoundThatIsNotANumber)
+{
+  PlotScene scene;
+  container.setScene(scene.scene());
+  state().parameterBounds[0].first = std::nan("");
+  state().parameterBounds[1].second = std::nan("");
+  rank();
+  container.redraw();
+  EXPECT_TRUE(settings().rankedDataCurrent);
+  state().parameterBounds[1].second = 7;
+  container.redraw();
+  EXPECT_FALSE(settings().rankedDataCurrent);
+  state().parameterBounds[1].second = std::nan("");
+  rank();
+  state().parameterBounds.emplace_back(0, 1);
+  container.redraw();
+  EXPECT_FALSE(settings().rankedDataCurrent) << "one more pair";
 }
 
 TEST_F(RankedDataFlag, IsClearedByTheNextDrawingWhenAnInputChanged)

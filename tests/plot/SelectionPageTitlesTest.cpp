@@ -40,10 +40,13 @@ TEST_F(SelectionPageTitles, ReportAShortNameInOneLineWhenASettingDraws)
   EXPECT_FALSE(settings().signalsBlocked());
 }
 
-TEST_F(SelectionPageTitles, CountAnEmptyNameAsShort)
+TEST_F(SelectionPageTitles, CountAnEmptyOrMissingNameAsShort)
 {
   draw(3);
   rename("Parameter: k2", "");
+  EXPECT_THROW(container.redraw(), std::out_of_range);
+  rename("Parameter: k3", nullptr);
+  settings().parameterColumns = {5};
   EXPECT_THROW(container.redraw(), std::out_of_range);
 }
 
@@ -58,13 +61,9 @@ TEST_F(SelectionPageTitles, AreCutFromTheShownParametersOnly)
   EXPECT_THROW(container.redraw(), std::out_of_range);
 }
 
-TEST_F(SelectionPageTitles, AreEmptyWithoutANameToCut)
+TEST_F(SelectionPageTitles, AreEmptyWithoutAColumn)
 {
   draw(3);
-  rename("Parameter: k2", nullptr);
-  container.redraw();
-  EXPECT_EQ(title(1), "");
-  rename("Parameter: k1", nullptr);
   settings().parameterColumns = {1000, -1, 5};
   container.redraw();
   EXPECT_EQ(title(0), "");

@@ -170,9 +170,14 @@ TEST(KolmogorovSmirnovPValue, IsZeroAbove370)
   const double inside = std::sqrt(365.0 / 10000.0);
   EXPECT_EQ(Comparison::pValue(inside, 10000), Comparison::miller(inside, 10000));
   EXPECT_GT(Comparison::pValue(inside, 10000), 0.0);
-  // The tail is not even asked: it would be NaN here, its last base being rounded to below zero.
-  ASSERT_TRUE(std::isnan(Comparison::miller(657.0 / 1000.0, 1000)));
-  EXPECT_EQ(Comparison::pValue(657.0 / 1000.0, 1000), 0.0);
+  // Next to 370 the tail is too small for a double, but where its last base is rounded to below
+  // zero it is NaN, which tells whether it was asked: N d^2 is 369.9972 and 370.0027 here.
+  const double below = 1091.0 / 3217.0;
+  const double above = 738.0 / 1472.0;
+  ASSERT_TRUE(std::isnan(Comparison::miller(below, 3217)));
+  ASSERT_TRUE(std::isnan(Comparison::miller(above, 1472)));
+  EXPECT_TRUE(std::isnan(Comparison::pValue(below, 3217)));
+  EXPECT_EQ(Comparison::pValue(above, 1472), 0.0);
 }
 
 TEST(KolmogorovSmirnovPValue, LetsNaNOfTheTailThrough)

@@ -20,6 +20,8 @@ public:
   vtkContextScene* scene() const { return view->GetScene(); }
   /// Makes the container's chart the scene's only item, as the widget does, and renders.
   void render(const PlotContainer& container);
+  /// Renders the items that the scene has.
+  void renderItems() { view->Render(); }
   /// Number of pixels of the last rendering that are not background white.
   int paintedPixels();
   /// Writes the last rendering as PNG, for a person to look at.
