@@ -24,9 +24,10 @@ void MainWindow::makeStudies()
   clusterDock = new ClusterDock;
   addDockWidget(Qt::RightDockWidgetArea, clusterDock);
   tabifyDockWidget(dock, clusterDock);
-  dock->raise();
   studyDock = new StudyDock;
   addDockWidget(Qt::RightDockWidgetArea, studyDock);
+  tabifyDockWidget(dock, studyDock);
+  dock->raise();
   studyDock->hide();
   groups = new GroupController(*clusterDock, selection->undoStack(), this);
   connect(groups, &GroupController::changed, this, &MainWindow::applyDock);
@@ -113,6 +114,7 @@ void MainWindow::followStudy()
   studyDock->setVisible(own);
   if (!own)
     return;
+  studyDock->raise();
   studyDock->setChart(*study.chart);
   ownTitle = container->getMetaData()->title;
   // A redraw by the container would lose what it does not know of the chart.

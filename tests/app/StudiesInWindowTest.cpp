@@ -10,6 +10,7 @@
 #include <vtkChartMatrix.h>
 #include <vtkChartXY.h>
 #include <vtkPlotBar.h>
+#include <vtkPlotPoints.h>
 #include <vtkPlotStacked.h>
 #include <vtkStringArray.h>
 #include <vtkTable.h>
@@ -164,7 +165,10 @@ TEST_F(StudiesInWindow, ShowTheResidualsInThreeWays)
 {
   show("indomethacin-residuals");
   EXPECT_EQ(title(), "Residuals");
-  EXPECT_EQ(chart().GetNumberOfPlots(), 6);
+  ASSERT_EQ(chart().GetNumberOfPlots(), 6);
+  for (vtkIdType i = 0; i < 6; ++i)
+    EXPECT_EQ(vtkPlotPoints::SafeDownCast(chart().GetPlot(i))->GetMarkerSize(), 6.0F) << i;
+  EXPECT_GT(chart().GetAxis(vtkAxis::BOTTOM)->GetMaximum(), 8.1) << "beyond the last sample";
   show("indomethacin-scaled");
   EXPECT_EQ(title(), "Scaled Residuals");
   EXPECT_EQ(axisTitle(vtkAxis::LEFT), "Residual / standard deviation");
