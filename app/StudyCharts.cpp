@@ -26,6 +26,8 @@ namespace
 
 constexpr int curvePoints = 200;
 constexpr float markerSize = 6.0F; ///< pixels
+/// Keeps the ends of upright labels off the tick marks.
+constexpr float uprightLabelOffset = 12.0F; ///< pixels
 
 /// Stores the style without announcing it: the chart is built by the call that follows.
 void storeStyle(PlotContainer& container, plotStyles style)
@@ -201,6 +203,8 @@ void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
   storeStyle(container, view.atTimePoint ? reservedStyle1 : reservedStyle2);
   container.setSobolPostprocessResult(&result, view.atTimePoint, view.total, view.position,
                                       view.position);
+  if (view.atTimePoint)
+    container.getChartXY()->GetAxis(vtkAxis::BOTTOM)->SetLabelOffset(uprightLabelOffset);
 }
 
 void drawPrior(PlotContainer& container, const NamedDistribution& prior)

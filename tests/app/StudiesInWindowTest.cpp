@@ -38,7 +38,7 @@ namespace
 
 using namespace Talmesh::app;
 
-constexpr int patience = 120000;
+constexpr int patience = 500000;
 
 /// The window with three runs, from which computed studies are chosen.
 class StudiesInWindow : public ::testing::Test
