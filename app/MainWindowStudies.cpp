@@ -1,4 +1,5 @@
 #include "app/ClusterDock.h"
+#include "app/ComparisonDock.h"
 #include "app/GroupController.h"
 #include "app/MainWindow.h"
 #include "app/OwnChart.h"
@@ -31,6 +32,7 @@ void MainWindow::makeStudies()
   studyDock->hide();
   groups = new GroupController(*clusterDock, selection->undoStack(), this);
   connect(groups, &GroupController::changed, this, &MainWindow::applyDock);
+  connect(groups, &GroupController::xyPlotWanted, this, [this] { chooseStyle(xyPlot); });
   connect(studyDock, &StudyDock::variantChanged, this,
           [this]
           {
@@ -111,6 +113,7 @@ void MainWindow::followStudy()
       ->setEnabled(own && (lastRuns.runs || lastRuns.table));
   dock->widget()->setEnabled(!own);
   dock->widget()->setToolTip(own ? tr("The chart of this study is composed already.") : QString());
+  comparison->widget()->setEnabled(!own);
   studyDock->setVisible(own);
   if (!own)
     return;
@@ -137,6 +140,7 @@ void MainWindow::drawOwnChart()
     container->setPlotTitle(title);
   dock->setChoice(choiceOf(*container));
   selected->setText(selection->summary());
+  comparison->refresh(*container);
   plot->updatePlot(true);
 }
 

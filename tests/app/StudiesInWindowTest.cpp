@@ -1,3 +1,4 @@
+#include "app/ComparisonDock.h"
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
@@ -57,6 +58,7 @@ protected:
     QApplication::setActiveWindow(&window);
     window.openFile(file.fileName());
     EXPECT_TRUE(waitUntilLoaded());
+    QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
   }
 
   bool waitUntilLoaded()
@@ -116,6 +118,7 @@ TEST_F(StudiesInWindow, AreAllInTheMenuAndShownInContainersOfTheirOwn)
     EXPECT_TRUE(find<QWidget>("studyDock")->isVisible());
     EXPECT_FALSE(find<QLabel>("studyDescription")->text().isEmpty());
     EXPECT_FALSE(window.plotDock()->widget()->isEnabled());
+    EXPECT_FALSE(window.comparisonDock()->widget()->isEnabled());
     EXPECT_FALSE(find<QWidget>("clusterStart")->isEnabled());
     EXPECT_FALSE(find<QAction>("saveSession")->isEnabled());
     for (const char* suffix : {".png", ".pdf", ".csv"})
