@@ -33,7 +33,10 @@ QIcon swatch(const QColor& colour, int size)
 {
   QPixmap picture(size, size);
   picture.fill(colour);
-  return QIcon(picture);
+  QIcon icon(picture);
+  // The chosen group keeps its own colour too.
+  icon.addPixmap(picture, QIcon::Selected);
+  return icon;
 }
 
 } // namespace
@@ -61,6 +64,7 @@ ClusterDock::ClusterDock(QWidget* parent)
   list->setObjectName(QStringLiteral("clusterList"));
   list->setToolTip(tr("Click a group to select its runs"));
   list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
+  list->setMaximumHeight((mostGroups + 3) * list->fontMetrics().lineSpacing());
   makeForm();
   connect(start, &QPushButton::clicked, this, &ClusterDock::groupingRequested);
   const auto choose = [this](QListWidgetItem* item) { emit groupChosen(list->row(item)); };

@@ -84,7 +84,7 @@ GroupController::GroupController(ClusterDock& panel, QUndoStack& undoStack, QObj
 {
   connect(&dock, &ClusterDock::groupingRequested, this, &GroupController::group);
   connect(&dock, &ClusterDock::groupChosen, this, &GroupController::select);
-  connect(&dock, &ClusterDock::lookChanged, this, &GroupController::changed);
+  connect(&dock, &ClusterDock::lookChanged, this, &GroupController::show);
   connect(&dock, &ClusterDock::normalisingRequested, this, &GroupController::normalise);
   connect(&normaliser, &RunNormaliser::changed, this, &GroupController::changed);
 }
@@ -123,7 +123,17 @@ void GroupController::group()
     selections[i].label = tr("Group %1").arg(i + 1).toStdString();
   }
   dock.setGroups(groups);
-  emit changed();
+  show();
+}
+
+void GroupController::show()
+{
+  const RunLook look = dock.look();
+  const bool any = look.groupColours || look.groupMeans || look.quartileBands;
+  if (container && any && container->getMetaData()->getPlotStyle() != xyPlot)
+    emit xyPlotWanted();
+  else
+    emit changed();
 }
 
 void GroupController::select(int group)

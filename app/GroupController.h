@@ -38,9 +38,12 @@ public:
 signals:
   /// The chart must be drawn anew.
   void changed();
+  /// As above, in the XY plot, which alone shows what the user has asked for.
+  void xyPlotWanted();
 
 private:
   void group();
+  void show();
   void select(int group);
   void normalise(bool on);
 

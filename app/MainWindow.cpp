@@ -186,7 +186,8 @@ void MainWindow::showStudyInPlot(const Study& opened)
   container = fresh;
   study = opened;
   showStudy(study, *container);
-  chooseOpeningStyle(*container, wishes);
+  if (!study.chart)
+    chooseOpeningStyle(*container, wishes);
   timeCourses->setStudy(study);
   followStudy();
   dock->setColumns(container->getLabels());

@@ -1,4 +1,5 @@
 #include "app/ClusterDock.h"
+#include "app/ComparisonDock.h"
 #include "app/GroupController.h"
 #include "app/MainWindow.h"
 #include "app/OwnChart.h"
@@ -24,12 +25,14 @@ void MainWindow::makeStudies()
   clusterDock = new ClusterDock;
   addDockWidget(Qt::RightDockWidgetArea, clusterDock);
   tabifyDockWidget(dock, clusterDock);
-  dock->raise();
   studyDock = new StudyDock;
   addDockWidget(Qt::RightDockWidgetArea, studyDock);
+  tabifyDockWidget(dock, studyDock);
+  dock->raise();
   studyDock->hide();
   groups = new GroupController(*clusterDock, selection->undoStack(), this);
   connect(groups, &GroupController::changed, this, &MainWindow::applyDock);
+  connect(groups, &GroupController::xyPlotWanted, this, [this] { chooseStyle(xyPlot); });
   connect(studyDock, &StudyDock::variantChanged, this,
           [this]
           {
@@ -110,9 +113,11 @@ void MainWindow::followStudy()
       ->setEnabled(own && (lastRuns.runs || lastRuns.table));
   dock->widget()->setEnabled(!own);
   dock->widget()->setToolTip(own ? tr("The chart of this study is composed already.") : QString());
+  comparison->widget()->setEnabled(!own);
   studyDock->setVisible(own);
   if (!own)
     return;
+  studyDock->raise();
   studyDock->setChart(*study.chart);
   ownTitle = container->getMetaData()->title;
   // A redraw by the container would lose what it does not know of the chart.
@@ -135,6 +140,7 @@ void MainWindow::drawOwnChart()
     container->setPlotTitle(title);
   dock->setChoice(choiceOf(*container));
   selected->setText(selection->summary());
+  comparison->refresh(*container);
   plot->updatePlot(true);
 }
 

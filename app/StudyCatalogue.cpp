@@ -17,7 +17,8 @@ namespace Talmesh::app
 namespace
 {
 
-/// The indices of the fixed sequence of points agree to about two digits with this many.
+/// Some seconds of work. First-order indices near zero still scatter around it, and the chart cuts
+/// what falls below.
 constexpr std::size_t sensitivitySamples = 1024;
 constexpr double secondsPerHour = 3600.0;
 

@@ -5,13 +5,18 @@
 #include "app/PuromycinStudy.h"
 #include "external/LinePlotData.h"
 #include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
 #include "plot/PlotContainer.h"
 #include "plot/TableColumns.h"
 
+#include <vtkAxis.h>
 #include <vtkChartXY.h>
-#include <vtkPlot.h>
+#include <vtkPlotPoints.h>
 #include <vtkTable.h>
 #include <vtkVariant.h>
+
+#include <algorithm>
+#include <limits>
 
 namespace Talmesh::app
 {
@@ -20,6 +25,9 @@ namespace
 {
 
 constexpr int curvePoints = 200;
+constexpr float markerSize = 6.0F; ///< pixels
+/// Keeps the ends of upright labels off the tick marks.
+constexpr float uprightLabelOffset = 12.0F; ///< pixels
 
 /// Stores the style without announcing it: the chart is built by the call that follows.
 void storeStyle(PlotContainer& container, plotStyles style)
@@ -85,6 +93,49 @@ void addPuromycinCurve(PlotContainer& container)
   container.setLinePlotDataAsAdditionalData(&series);
 }
 
+/// Part of the axes that stays empty beyond the data, so that no marker is cut.
+constexpr double padding = 0.03;
+
+void padAxis(vtkAxis* axis, double low, double high)
+{
+  const double room = padding * (high - low);
+  plot::fixRange(axis, low - room, high + room);
+}
+
+void padTimeAxis(vtkChartXY* chart)
+{
+  padAxis(chart->GetAxis(vtkAxis::BOTTOM), 0.0, indomethacinTimes().back());
+}
+
+/// From the lowest to the highest value of all columns but the first.
+void padValueAxis(vtkChartXY* chart, vtkTable* table)
+{
+  double low = std::numeric_limits<double>::infinity();
+  double high = -low;
+  for (int column = 1; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
+  {
+    double range[2];
+    if (!plot::finiteRange(plot::plottableColumn(table, column), range))
+      continue;
+    low = std::min(low, range[0]);
+    high = std::max(high, range[1]);
+  }
+  padAxis(chart->GetAxis(vtkAxis::LEFT), low, high);
+}
+
+/// The container marks the points of the first series only.
+void markEverySeries(vtkChartXY* chart)
+{
+  for (vtkIdType i = 0; i < chart->GetNumberOfPlots(); ++i)
+  {
+    auto* points = vtkPlotPoints::SafeDownCast(chart->GetPlot(i));
+    if (!points || points->IsA("vtkPlotLine"))
+      continue;
+    points->SetMarkerStyle(vtkPlotPoints::SQUARE);
+    points->SetMarkerSize(markerSize);
+  }
+}
+
 } // namespace
 
 void drawIndomethacinFit(PlotContainer& container)
@@ -110,6 +161,7 @@ void drawIndomethacinCourse(PlotContainer& container, bool logarithmic)
   storeStyle(container, xyPlot);
   container.redraw();
   container.setLogScaleY(logarithmic);
+  padTimeAxis(container.getChartXY());
 }
 
 void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideBySide)
@@ -122,6 +174,10 @@ void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideB
     container.setYLabel(scaled ? "Residual / standard deviation" : "Residual [ug/ml]");
   container.setResidualPlot(&study.run, study.settings.get(), study.predictions, scaled,
                             sideBySide);
+  vtkChartXY* chart = container.getChartXY();
+  markEverySeries(chart);
+  padTimeAxis(chart);
+  padValueAxis(chart, container.getTable());
 }
 
 void drawPuromycinRates(PlotContainer& container)
@@ -147,6 +203,8 @@ void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
   storeStyle(container, view.atTimePoint ? reservedStyle1 : reservedStyle2);
   container.setSobolPostprocessResult(&result, view.atTimePoint, view.total, view.position,
                                       view.position);
+  if (view.atTimePoint)
+    container.getChartXY()->GetAxis(vtkAxis::BOTTOM)->SetLabelOffset(uprightLabelOffset);
 }
 
 void drawPrior(PlotContainer& container, const NamedDistribution& prior)

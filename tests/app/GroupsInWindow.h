@@ -59,6 +59,7 @@ protected:
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     QApplication::setActiveWindow(&window);
     open("runs.csv", twoShapes(pointsPerRun));
+    chooseStyle(xyPlot);
     window.findChild<QDockWidget*>(QStringLiteral("clusterDock"))->raise();
     QCoreApplication::processEvents();
   }
@@ -124,6 +125,13 @@ protected:
   {
     window.plotDock()->setChoice(choice);
     emit window.plotDock()->choiceChanged();
+  }
+
+  void chooseStyle(plotStyles style)
+  {
+    Talmesh::app::PlotChoice choice = window.plotDock()->choice();
+    choice.style = style;
+    choose(choice);
   }
 
   template <typename Plot>

@@ -82,6 +82,19 @@ TEST_F(GroupsInWindow, KeepTheirColoursWhenTheChartIsDrawnAnew)
   EXPECT_EQ(window.plotDock()->choice().style, multiPlot);
 }
 
+TEST_F(GroupsInWindow, AreShownInTheXYPlotWhateverWasShownBefore)
+{
+  chooseStyle(selectionCdfPlot);
+  group(2);
+  EXPECT_EQ(window.plotDock()->choice().style, xyPlot);
+  EXPECT_EQ(plots<vtkPlotLineSet>().size(), 3U);
+  chooseStyle(multiPlot);
+  tick("groupColours");
+  EXPECT_EQ(window.plotDock()->choice().style, multiPlot) << "nothing is left to show";
+  tick("quartileBands");
+  EXPECT_EQ(window.plotDock()->choice().style, xyPlot);
+}
+
 TEST_F(GroupsInWindow, BecomeTheSelectionAndThatIsUndone)
 {
   group(2);
@@ -147,6 +160,7 @@ TEST_F(GroupsInWindow, AreForgottenWithTheirStudy)
   group(2);
   tick("quartileBands");
   open("other.csv", sampleRuns());
+  chooseStyle(xyPlot);
   EXPECT_EQ(find<QListWidget>("clusterList")->count(), 0);
   EXPECT_FALSE(find<QCheckBox>("groupColours")->isEnabled());
   EXPECT_FALSE(find<QCheckBox>("quartileBands")->isChecked());

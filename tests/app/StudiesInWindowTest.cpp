@@ -1,3 +1,4 @@
+#include "app/ComparisonDock.h"
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
@@ -10,6 +11,7 @@
 #include <vtkChartMatrix.h>
 #include <vtkChartXY.h>
 #include <vtkPlotBar.h>
+#include <vtkPlotPoints.h>
 #include <vtkPlotStacked.h>
 #include <vtkStringArray.h>
 #include <vtkTable.h>
@@ -37,7 +39,7 @@ namespace
 
 using namespace Talmesh::app;
 
-constexpr int patience = 120000;
+constexpr int patience = 500000;
 
 /// The window with three runs, from which computed studies are chosen.
 class StudiesInWindow : public ::testing::Test
@@ -56,6 +58,7 @@ protected:
     QApplication::setActiveWindow(&window);
     window.openFile(file.fileName());
     EXPECT_TRUE(waitUntilLoaded());
+    QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
   }
 
   bool waitUntilLoaded()
@@ -115,6 +118,7 @@ TEST_F(StudiesInWindow, AreAllInTheMenuAndShownInContainersOfTheirOwn)
     EXPECT_TRUE(find<QWidget>("studyDock")->isVisible());
     EXPECT_FALSE(find<QLabel>("studyDescription")->text().isEmpty());
     EXPECT_FALSE(window.plotDock()->widget()->isEnabled());
+    EXPECT_FALSE(window.comparisonDock()->widget()->isEnabled());
     EXPECT_FALSE(find<QWidget>("clusterStart")->isEnabled());
     EXPECT_FALSE(find<QAction>("saveSession")->isEnabled());
     for (const char* suffix : {".png", ".pdf", ".csv"})
@@ -164,7 +168,10 @@ TEST_F(StudiesInWindow, ShowTheResidualsInThreeWays)
 {
   show("indomethacin-residuals");
   EXPECT_EQ(title(), "Residuals");
-  EXPECT_EQ(chart().GetNumberOfPlots(), 6);
+  ASSERT_EQ(chart().GetNumberOfPlots(), 6);
+  for (vtkIdType i = 0; i < 6; ++i)
+    EXPECT_EQ(vtkPlotPoints::SafeDownCast(chart().GetPlot(i))->GetMarkerSize(), 6.0F) << i;
+  EXPECT_GT(chart().GetAxis(vtkAxis::BOTTOM)->GetMaximum(), 8.1) << "beyond the last sample";
   show("indomethacin-scaled");
   EXPECT_EQ(title(), "Scaled Residuals");
   EXPECT_EQ(axisTitle(vtkAxis::LEFT), "Residual / standard deviation");
