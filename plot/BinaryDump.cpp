@@ -18,8 +18,6 @@ namespace
 
 /// A QByteArray counts with int and has a header.
 constexpr qint64 largestDump = std::numeric_limits<int>::max() - 64;
-/// Largest memory that a dump cut short gets for values that it does not hold.
-constexpr double mostZeroBytes = 256.0 * 1024 * 1024;
 
 constexpr qint64 intSize = 4;
 constexpr qint64 doubleSize = 8;
@@ -150,9 +148,10 @@ vtkSmartPointer<vtkDataArray> readValues(const DumpStream& in, vtkIdType rows, R
 class ColumnReader
 {
 public:
-  ColumnReader(DumpStream& source, qint64 dumpSize)
+  ColumnReader(DumpStream& source, qint64 dumpSize, double zeroLimit)
       : in(source)
       , size(dumpSize)
+      , zeroBytes(zeroLimit)
       , count(in.readCount())
       , rows(in.readCount())
   {
@@ -196,7 +195,7 @@ private:
     const double absentBytes = absent * static_cast<double>(rows * intSize);
     const double missingBytes = present ? static_cast<double>(valuesSize - in.remaining()) : 0.0;
     return absentBytes + absent * smallestHeader <= static_cast<double>(std::max(named, size)) &&
-           absentBytes + missingBytes <= mostZeroBytes;
+           absentBytes + missingBytes <= zeroBytes;
   }
 
   vtkSmartPointer<vtkDataArray> readDoubles()
@@ -211,6 +210,7 @@ private:
 
   DumpStream& in;
   qint64 size;
+  double zeroBytes;
   qint32 count;
   qint64 rows;
   qint64 presentSize = 0;
@@ -238,11 +238,11 @@ QByteArray writeDump(const PlotState& state)
   return bytes;
 }
 
-void readDump(PlotState& state, const QByteArray& bytes)
+void readDump(PlotState& state, const QByteArray& bytes, double zeroBytes)
 {
   DumpStream in(bytes);
   readItems(in, state.columnItems);
-  const vtkSmartPointer<vtkTable> table = ColumnReader(in, bytes.size()).readTable();
+  const vtkSmartPointer<vtkTable> table = ColumnReader(in, bytes.size(), zeroBytes).readTable();
   replaceTable(state, table ? table : vtkSmartPointer<vtkTable>::New());
   if (table)
     return;

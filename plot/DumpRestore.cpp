@@ -10,9 +10,9 @@
 namespace Talmesh::plot
 {
 
-void restoreDump(PlotState& state, const QByteArray& bytes)
+void restoreDump(PlotState& state, const QByteArray& bytes, double zeroBytes)
 {
-  readDump(state, bytes);
+  readDump(state, bytes, zeroBytes);
   selectFlaggedRows(state);
   const CoordinateWindow& stored = state.metaData->storedCoordinateWindow;
   if (stored.valid)
