@@ -88,7 +88,7 @@ void ClusterDock::makeForm()
                       tr("Draw each run in the colour of its group in the XY plot"));
   means = addSwitch(QStringLiteral("groupMeans"), tr("&Mean of each group"),
                     tr("Draw the mean course of each group in the XY plot"));
-  bands = addSwitch(QStringLiteral("quartileBands"), tr("&Quartile bands"),
+  bands = addSwitch(QStringLiteral("runBands"), tr("&Quartile bands"),
                     tr("Draw range, quartiles and median of all runs in the XY plot, and of the "
                        "runs only the selected ones unless they have the colours of groups"));
   for (const QCheckBox* box : {colours, means, bands})

@@ -91,7 +91,7 @@ TEST_F(GroupsInWindow, AreShownInTheXYPlotWhateverWasShownBefore)
   chooseStyle(multiPlot);
   tick("groupColours");
   EXPECT_EQ(window.plotDock()->choice().style, multiPlot) << "nothing is left to show";
-  tick("quartileBands");
+  tick("runBands");
   EXPECT_EQ(window.plotDock()->choice().style, xyPlot);
 }
 
@@ -110,6 +110,7 @@ TEST_F(GroupsInWindow, BecomeTheSelectionAndThatIsUndone)
   auto* list = find<QListWidget>("clusterList");
   list->setCurrentRow(0);
   QTest::keyClick(list, Qt::Key_Return);
+  QCoreApplication::processEvents();
   EXPECT_EQ(runs(), (Runs{10, 30, 50})) << "from the keyboard";
   EXPECT_EQ(plots<vtkPlotLineSet>().size(), 3U) << "with the colours still there";
 }
@@ -158,12 +159,12 @@ TEST_F(GroupsInWindow, AreAtMostAsManyAsTheRuns)
 TEST_F(GroupsInWindow, AreForgottenWithTheirStudy)
 {
   group(2);
-  tick("quartileBands");
+  tick("runBands");
   open("other.csv", sampleRuns());
   chooseStyle(xyPlot);
   EXPECT_EQ(find<QListWidget>("clusterList")->count(), 0);
   EXPECT_FALSE(find<QCheckBox>("groupColours")->isEnabled());
-  EXPECT_FALSE(find<QCheckBox>("quartileBands")->isChecked());
+  EXPECT_FALSE(find<QCheckBox>("runBands")->isChecked());
   EXPECT_EQ(chart().GetNumberOfPlots(), 1);
 }
 
@@ -174,14 +175,14 @@ TEST_F(GroupsInWindow, NeedRunsAndSayWhyThereAreNone)
   EXPECT_EQ(find<QLabel>("clusterReason")->text(), "This data has no runs over time to group.");
   EXPECT_FALSE(find<QLabel>("clusterReason")->isHidden());
   for (const char* name : {"clusterCount", "clusterMode", "clusterStart", "clusterList",
-                           "groupColours", "groupMeans", "quartileBands", "normaliseRuns"})
+                           "groupColours", "groupMeans", "runBands", "normaliseRuns"})
     EXPECT_FALSE(find<QWidget>(name)->isEnabled()) << name;
 }
 
 TEST_F(GroupsInWindow, ExplainEveryControl)
 {
   for (const char* name : {"clusterCount", "clusterMode", "clusterStart", "clusterList",
-                           "groupColours", "groupMeans", "quartileBands", "normaliseRuns"})
+                           "groupColours", "groupMeans", "runBands", "normaliseRuns"})
     EXPECT_FALSE(find<QWidget>(name)->toolTip().isEmpty()) << name;
 }
 

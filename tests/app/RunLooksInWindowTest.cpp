@@ -20,7 +20,7 @@ class RunLooksInWindow : public GroupsInWindow
 
 TEST_F(RunLooksInWindow, QuartileBandsLieBehindTheSelectedRuns)
 {
-  tick("quartileBands");
+  tick("runBands");
   const auto bands = plots<vtkPlotFunctionalBag>();
   ASSERT_EQ(bands.size(), 3U);
   vtkPlotLineSet* all = plots<vtkPlotLineSet>()[0];
@@ -36,7 +36,7 @@ TEST_F(RunLooksInWindow, QuartileBandsLieBehindTheSelectedRuns)
   choose(choice);
   // Y at the first time: 1, 2, ... 6.
   EXPECT_EQ(container().getQuartileTable()->GetValueByName(0, "Median").ToDouble(), 3.5);
-  tick("quartileBands");
+  tick("runBands");
   EXPECT_TRUE(plots<vtkPlotFunctionalBag>().empty());
 }
 
