@@ -37,8 +37,7 @@ struct RangeEnds
 DensityCurve densityCurve(const Distribution& distribution);
 
 /// Shows `curve` as a filled curve without titles on the XY chart, which no longer reacts to the
-/// mouse; its table becomes the container's. The density is never on a logarithmic scale; the x
-/// axis keeps the scale it has.
+/// mouse; its table becomes the container's. The density is never on a logarithmic scale.
 /// @return the ends of the range, which are not put on the chart: the axis has ticks of its own
 RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve);
 

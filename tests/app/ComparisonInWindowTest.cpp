@@ -221,8 +221,10 @@ TEST_F(ComparisonInWindow, DrawsTheBandsOfTheColumnShown)
   choice.y = {1};
   window.plotDock()->setChoice(choice);
   emit window.plotDock()->choiceChanged();
-  // The second column is the square of the first.
-  EXPECT_NEAR(range(), ofX * ofX, 1e-9);
+  // The second column is the square of the first; quartiles of an even number of runs are the mean
+  // of two of them, whose square is a little less.
+  EXPECT_GT(range(), ofX * ofX);
+  EXPECT_NEAR(range(), ofX * ofX, 1e-3);
 }
 
 TEST_F(ComparisonInWindow, ChangesBetweenItsTwoPages)

@@ -75,6 +75,7 @@ protected:
   PlotChoice change()
   {
     PlotChoice choice = window->plotDock()->choice();
+    choice.style = xyPlot;
     choice.y = {1, 0};
     choice.legend = true;
     choice.logY = true;
@@ -89,6 +90,7 @@ protected:
   void expectChanged(const PlotChoice& choice)
   {
     const PlotChoice shown = window->plotDock()->choice();
+    EXPECT_EQ(shown.style, choice.style);
     EXPECT_EQ(shown.y, (std::vector<int>{0, 1}));
     EXPECT_EQ(shown.legend, choice.legend);
     EXPECT_EQ(shown.logY, choice.logY);

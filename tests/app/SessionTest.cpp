@@ -7,6 +7,7 @@
 #include "plot/SelectionFlags.h"
 #include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
+#include "support/PlotScene.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +55,7 @@ protected:
     opened = openSession(path());
     EXPECT_EQ(opened.error, "");
     restored = std::make_unique<PlotContainer>(nullptr);
+    restored->setScene(view.scene());
     if (opened.session)
     {
       showStudy(opened.study, *restored);
@@ -78,6 +80,7 @@ protected:
 
   QTemporaryDir folder;
   std::unique_ptr<PlotContainer> shown;
+  PlotScene view;
   std::unique_ptr<PlotContainer> restored;
   OpenedSession opened;
 };

@@ -215,8 +215,7 @@ TEST_F(Redraw, ReportsInsteadOfThrowingWhateverSignalStartsIt)
 {
   QObject clicked;
   QObject::connect(&clicked, SIGNAL(objectNameChanged(QString)), &container, SLOT(redraw()));
-  container.state().columnItems = {{Talmesh::Parameter, "k"}};
-  settings().parameterColumns = {0};
+  settings().parameterColumns = {0, 1};
   settings().blockSignals(true);
   container.setPlotStyle(multiPlot);
   settings().blockSignals(false);

@@ -74,6 +74,7 @@ TEST_F(ReducedMatrix, KeepsItsActivePair)
 
 TEST_F(ReducedMatrix, AnswersAClickOnAPairThatIsGoneFromTheTable)
 {
+  scene.render(container);
   click(3, 0);
   EXPECT_EQ(pairs()->GetActivePlot(), vtkVector2i(3, 0));
   EXPECT_EQ(plottedName(pairs()->GetMainChart()->GetPlot(0), 0), "Parameter: k1");
