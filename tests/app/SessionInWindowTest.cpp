@@ -145,6 +145,9 @@ TEST_F(SessionInWindow, OpensWhenDropped)
   makeWindow();
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(path("a.talmesh"))});
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(window.get(), &enter);
+  EXPECT_TRUE(enter.isAccepted());
   QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(window.get(), &dropped);
   ASSERT_TRUE(loaded());
@@ -168,6 +171,9 @@ TEST_F(SessionInWindow, IsSavedThroughTheKeyboard)
   ASSERT_NE(name, nullptr);
   name->clear();
   QTest::keyClicks(name, path("typed"));
+  // The list of suggestions would take the next key.
+  if (QWidget* suggestions = QApplication::activePopupWidget())
+    QTest::keyClick(suggestions, Qt::Key_Escape);
   QTest::keyClick(name, Qt::Key_Return);
   EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(path("typed.talmesh")); }, patience));
   EXPECT_EQ(loadSessionFile(path("typed.talmesh")).error, "");
