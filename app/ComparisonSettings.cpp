@@ -71,7 +71,7 @@ ComparisonSettings::ComparisonSettings(QWidget* parent)
   addSwitches(layout);
   layout->setRowStretch(layout->rowCount(), 1);
   layout->setColumnStretch(1, 1);
-  enableControls();
+  setChoice({}, xyPlot, false);
 }
 
 QToolButton* ComparisonSettings::addPage(const QString& text, const QString& toolTip,

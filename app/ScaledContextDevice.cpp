@@ -3,6 +3,7 @@
 #include <vtkMatrix3x3.h>
 #include <vtkNew.h>
 #include <vtkObjectFactory.h>
+#include <vtkOpenGLRenderWindow.h>
 #include <vtkPen.h>
 #include <vtkUnicodeString.h>
 
@@ -10,6 +11,27 @@
 #include <cmath>
 
 vtkStandardNewMacro(ScaledContextDevice);
+
+namespace
+{
+
+/// The base class maps the coordinates 0.5 to size - 0.5 onto the pixels 0 to size, so that one
+/// part of a picture would not fit the next.
+struct PixelScale
+{
+  explicit PixelScale(int size)
+      : Unit((size - 1.0) / size)
+  {
+  }
+
+  double CoordinateOf(double pixel) const { return pixel * this->Unit + 0.5; }
+  double PixelAt(double coordinate) const { return (coordinate - 0.5) / this->Unit; }
+
+  /// The length of one pixel.
+  double Unit;
+};
+
+} // namespace
 
 void ScaledContextDevice::SetOffset(int x, int y)
 {
@@ -20,10 +42,12 @@ void ScaledContextDevice::SetOffset(int x, int y)
 void ScaledContextDevice::SetMatrix(vtkMatrix3x3* matrix)
 {
   vtkNew<vtkMatrix3x3> enlarged;
-  enlarged->SetElement(0, 0, this->Scale);
-  enlarged->SetElement(1, 1, this->Scale);
-  enlarged->SetElement(0, 2, -this->Offset[0]);
-  enlarged->SetElement(1, 2, -this->Offset[1]);
+  for (int axis = 0; axis < 2; ++axis)
+  {
+    const PixelScale pixels(this->RenderWindow->GetSize()[axis]);
+    enlarged->SetElement(axis, axis, this->Scale * pixels.Unit);
+    enlarged->SetElement(axis, 2, pixels.CoordinateOf(-this->Offset[axis]));
+  }
   vtkMatrix3x3::Multiply3x3(enlarged, matrix, enlarged);
   this->Superclass::SetMatrix(enlarged);
 }
@@ -50,24 +74,24 @@ void ScaledContextDevice::SetClipping(int* rectangle)
 
 void ScaledContextDevice::DrawString(float* point, const vtkUnicodeString& text)
 {
-  // Text is a picture, whose pixels must fall on whole ones of the window, or its edges smear.
+  // Text is a picture that repeats at its edges: between two pixels its top would show below it.
   vtkNew<vtkMatrix3x3> matrix;
   this->GetMatrix(matrix);
-  float moved[2];
   vtkNew<vtkMatrix3x3> whole;
+  float origin[2];
   for (int axis = 0; axis < 2; ++axis)
   {
+    const PixelScale pixels(this->RenderWindow->GetSize()[axis]);
     const double scale = matrix->GetElement(axis, axis);
-    const double offset = matrix->GetElement(axis, 2);
+    const double pixel = pixels.PixelAt(scale * point[axis] + matrix->GetElement(axis, 2));
     whole->SetElement(axis, axis, scale);
-    whole->SetElement(axis, 2, std::floor(offset));
-    // The base class rounds down what should already be whole.
+    whole->SetElement(axis, 2, pixels.CoordinateOf(std::floor(pixel)));
+    // The base class rounds down to whole pixels: it must find 0.
     constexpr double safely = 0.25;
-    const double pixel = std::floor(scale * point[axis] + offset) - std::floor(offset);
-    moved[axis] = static_cast<float>((pixel + safely) / scale);
+    origin[axis] = static_cast<float>(safely / scale);
   }
   this->PushMatrix();
   this->Superclass::SetMatrix(whole);
-  this->Superclass::DrawString(moved, text);
+  this->Superclass::DrawString(origin, text);
   this->PopMatrix();
 }
