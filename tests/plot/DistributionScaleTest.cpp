@@ -1,6 +1,5 @@
 #include "external/Distribution.h"
 #include "support/PlotFixture.h"
-#include "support/VtkErrors.h"
 
 namespace
 {
@@ -55,32 +54,6 @@ TEST_F(DistributionScale, OfAFixedValueIsPlain)
     container.setDistribution(&fixed);
     expectPlainLeftAxis(0.0);
   }
-}
-
-TEST_F(DistributionScale, IsLogarithmicAgainForOtherData)
-{
-  showDecades(1.0);
-  container.setDistribution(&uniform);
-  scene.render(container);
-  container.setPlotData(tableOf({{"x", {1.0, 10.0, 100.0}}, {"y", {1.0, 10.0, 1000.0}}}));
-  container.redraw();
-  scene.render(container);
-  EXPECT_TRUE(left()->GetLogScaleActive());
-  EXPECT_EQ(left()->GetBehavior(), vtkAxis::AUTO);
-}
-
-TEST_F(DistributionScale, OfTheParameterStaysLogarithmicWherePossible)
-{
-  VtkErrors errors;
-  settings().setLogX(true);
-  LogUniformDistribution positive(1.0, 100.0);
-  container.setDistribution(&positive);
-  scene.render(container);
-  EXPECT_TRUE(bottom()->GetLogScaleActive());
-  container.setDistribution(&uniform);
-  scene.render(container);
-  EXPECT_FALSE(bottom()->GetLogScaleActive());
-  EXPECT_EQ(errors.text(), "");
 }
 
 } // namespace
