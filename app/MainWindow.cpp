@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QStringList>
 #include <QTabWidget>
@@ -29,8 +30,10 @@ namespace
 {
 
 /// The window at first: so many characters wide and lines high, of the font in use.
-constexpr int firstCharacters = 150;
-constexpr int firstLines = 44;
+constexpr int firstCharacters = 170;
+constexpr int firstLines = 54;
+/// The comparison beneath the plot is as high as its controls, so that the plot keeps the rest.
+constexpr int comparisonLines = 12;
 constexpr int noteMilliseconds = 10000;
 
 QString localFileOf(const QMimeData* data)
@@ -60,12 +63,11 @@ MainWindow::MainWindow(QWidget* parent)
   addDockWidget(Qt::RightDockWidgetArea, dock);
   addDockWidget(Qt::BottomDockWidgetArea, comparison);
   setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-  const QFontMetrics metrics = fontMetrics();
-  resize(firstCharacters * metrics.averageCharWidth(), firstLines * metrics.lineSpacing());
   container = plot->plotContainer();
   makeMenus();
   makeStudies();
   makeStatusBar();
+  takeFirstSize();
   selection->follow(container);
   connect(selection, &SelectionController::changed, this, &MainWindow::showSelection);
   connect(dock, &PlotDock::choiceChanged, this, &MainWindow::applyDock);
@@ -82,6 +84,15 @@ MainWindow::~MainWindow()
 {
   // The loader goes first: its thread must not outlive what it reports to.
   delete loader;
+}
+
+void MainWindow::takeFirstSize()
+{
+  const QFontMetrics metrics = fontMetrics();
+  const QSize wished(firstCharacters * metrics.averageCharWidth(),
+                     firstLines * metrics.lineSpacing());
+  resize(wished.boundedTo(screen()->availableSize() * 9 / 10));
+  resizeDocks({comparison}, {comparisonLines * metrics.lineSpacing()}, Qt::Vertical);
 }
 
 void MainWindow::makeStatusBar()

@@ -91,6 +91,7 @@ private:
   void makeStudies();
   void fillStudiesMenu();
   void makeStatusBar();
+  void takeFirstSize();
   QAction* addAction(QMenu* menu, const QString& text, const QKeySequence& keys,
                      void (MainWindow::*slot)());
   void chooseFile();
