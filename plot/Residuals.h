@@ -43,8 +43,8 @@ vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& se
                                         const Predictions& predictions, ResidualOptions options);
 
 /// Plots the plot table, which is one of residualTable, on the XY chart and titles it. The settings
-/// get square markers of 3 pixels, which reach the plots that setMarkerStyle and setPointSize reach:
-/// the first one, be it points or a line.
+/// get square markers of 3 pixels, which reach the plots that setMarkerStyle and setPointSize
+/// reach: the first one, be it points or a line.
 /// @param outputs number of series, or of pairs of series side by side
 /// @param timeCourse the table begins with "Time", which is x; otherwise the row index is
 void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, ResidualOptions options);
