@@ -57,6 +57,17 @@ std::vector<double> simulate(const std::vector<double>& point, const std::vector
   return values;
 }
 
+/// The charts leave out the last output. As in the study's own items, the time follows the species;
+/// it depends on no parameter.
+void appendTime(SobolPostProcessResult& result)
+{
+  result.outputs.push_back(exampleItems()[stateOfOutput.size()]);
+  const std::vector<std::vector<double>> none(timePoints,
+                                              std::vector<double>(parameterNames.size(), 0.0));
+  result.firstOrder->push_back(none);
+  result.total->push_back(none);
+}
+
 /// [output * time][parameter] as [output][time][parameter].
 SobolPostProcessResult::Indices regroup(const std::vector<std::vector<double>>& flat)
 {
@@ -95,6 +106,7 @@ std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
   result->firstOrder =
       std::make_shared<SobolPostProcessResult::Indices>(regroup(indices.firstOrder));
   result->total = std::make_shared<SobolPostProcessResult::Indices>(regroup(indices.total));
+  appendTime(*result);
   return result;
 }
 

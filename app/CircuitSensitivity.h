@@ -15,7 +15,8 @@ namespace Talmesh::app
 
 /// First-order and total sensitivity of every protein and mRNA to alpha, alpha0, beta and n over
 /// time, estimated from `samples` * 6 simulations with the parameters distributed as in the example
-/// study. The outputs are named as the study's items, proteins first. The same numbers every time.
+/// study. The outputs are the study's items: proteins, mRNAs and last the time, whose indices are 0
+/// and which no chart shows. The same numbers every time.
 /// @param progress told after each simulation
 /// @throws std::runtime_error when the progress cancels
 std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,

@@ -86,12 +86,17 @@ void adjust(std::vector<ComparedParameter>& parameters)
 
 } // namespace
 
+void dropOutdatedTests(PlotContainer& container)
+{
+  if (!derivedTable(container, selectedRanks) || !derivedTable(container, otherRanks))
+    container.ksTestSelection(selectedRanks, otherRanks);
+}
+
 Comparison comparisonOf(const PlotContainer& container)
 {
   using State = Comparison::State;
   if (container.getMetaData()->parameterColumns.empty())
     return {State::noParameters, {}};
-  // The test results of an earlier selection stay when nothing is selected any more.
   if (!isAnyRowSelected(container))
     return {State::nothingSelected, {}};
   Comparison comparison;

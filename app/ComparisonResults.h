@@ -50,6 +50,10 @@ struct Comparison
 /// The comparison that the container made when its selection last changed.
 Comparison comparisonOf(const PlotContainer& container);
 
+/// Forgets the tests of an earlier selection when the present one leaves nothing to compare.
+/// Without it the charts would show the former p-values at the next drawing. Draws nothing.
+void dropOutdatedTests(PlotContainer& container);
+
 } // namespace Talmesh::app
 
 #endif

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/ComparisonDock.h"
+#include "app/ComparisonResults.h"
 #include "app/GroupController.h"
 #include "app/LoadingBar.h"
 #include "app/PlotChoice.h"
@@ -235,6 +236,7 @@ void MainWindow::applyDock()
     drawOwnChart();
     return;
   }
+  dropOutdatedTests(*container);
   const std::string error = applyChoice(*container, dock->choice());
   groups->dress();
   selected->setText(selection->summary());

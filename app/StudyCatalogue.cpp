@@ -128,7 +128,8 @@ void describeVariants(OwnChart& chart, const SobolPostProcessResult& result, boo
   {
     chart.variantLabel = translated("StudyCatalogue", "Species");
     for (const TypedConcentrationName& output : result.outputs)
-      chart.variants.push_back(selectionPairToString(output));
+      if (output.first != TimeOrValue)
+        chart.variants.push_back(selectionPairToString(output));
     return;
   }
   chart.variantLabel = translated("StudyCatalogue", "Time");

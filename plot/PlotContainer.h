@@ -200,6 +200,7 @@ public:
   /// `tableIndex` and `tableIndex` + 1 of the derived tables.
   void generateRankedParameters(vtkSmartPointer<vtkTable> source, std::size_t tableIndex);
   /// Compares the parameters of two rank tables of the derived tables; fills the test results.
+  /// Where either table is missing, the results are empty. Draws nothing.
   void ksTestSelection(unsigned long first, unsigned long second);
   /// Rebuilds the table of quartiles per time point from the first y column. A stride below 1
   /// leaves the old one in place.

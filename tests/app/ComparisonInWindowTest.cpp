@@ -89,6 +89,11 @@ protected:
   {
     return *window.findChild<QLabel*>(QStringLiteral("comparisonExplanation"));
   }
+  std::string parameterChartTitle()
+  {
+    auto* matrix = vtkChartMatrix::SafeDownCast(container().getItem());
+    return matrix ? matrix->GetChart(vtkVector2i(0, 0))->GetTitle() : "no page of charts";
+  }
   bool saysHowLongItTook()
   {
     const QRegularExpression text(QStringLiteral("^Updated in \\d+ ms$"));
@@ -155,6 +160,18 @@ TEST_F(ComparisonInWindow, FillsTheTableWithEverySelection)
   window.selectionController()->undoStack().undo();
   QCoreApplication::processEvents();
   EXPECT_EQ(table().index(0, ComparisonModel::Selected).data().toString(), "1");
+}
+
+TEST_F(ComparisonInWindow, TakesThePValuesOffTheChartsWithTheSelection)
+{
+  open();
+  EXPECT_EQ(parameterChartTitle(), "");
+  select({0, 1, 2, 3});
+  EXPECT_EQ(parameterChartTitle().substr(0, 4), "p = ");
+  window.selectionController()->clear();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(parameterChartTitle(), "");
+  EXPECT_TRUE(container().getKsResults().empty());
 }
 
 TEST_F(ComparisonInWindow, FillsTheTableInEveryStyle)

@@ -146,10 +146,19 @@ TEST_F(ComparisonResults, AreNoneWithoutASelection)
   EXPECT_EQ(comparisonOf(container()).state, State::nothingSelected);
   select(firstRuns(8));
   selectRows({});
-  // The container keeps the tests of the selection before.
-  EXPECT_FALSE(container().getKsResults().empty());
   EXPECT_EQ(comparisonOf(container()).state, State::nothingSelected);
   EXPECT_TRUE(comparisonOf(container()).parameters.empty());
+}
+
+TEST_F(ComparisonResults, LeaveOutdatedTestsInTheContainerUntilTheyAreDropped)
+{
+  select(firstRuns(8));
+  dropOutdatedTests(container());
+  EXPECT_EQ(container().getKsResults().size(), 2U);
+  selectRows({});
+  EXPECT_EQ(container().getKsResults().size(), 2U);
+  dropOutdatedTests(container());
+  EXPECT_TRUE(container().getKsResults().empty());
 }
 
 TEST_F(ComparisonResults, AreNoneWhenNoRunIsSelectedAtEveryTime)

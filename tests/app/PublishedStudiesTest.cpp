@@ -117,11 +117,13 @@ TEST(PuromycinStudy, DrawsTheCurveFromTheOrigin)
 TEST(CircuitSensitivity, GivesEveryIndexOfEveryOutput)
 {
   const auto result = circuitSensitivity(24);
-  ASSERT_EQ(result->outputs.size(), 6U);
+  ASSERT_EQ(result->outputs.size(), 7U);
   EXPECT_EQ(result->outputs[0].second, "TetR");
+  EXPECT_EQ(result->outputs[5].second, "cI mRNA");
+  EXPECT_EQ(result->outputs[6].second, "Time [s]");
   ASSERT_EQ(result->parameterNames.size(), 4U);
   EXPECT_EQ(result->parameterValues.size(), 4U);
-  ASSERT_EQ(result->firstOrder->size(), 6U);
+  ASSERT_EQ(result->firstOrder->size(), 7U);
   for (const auto& output : *result->total)
   {
     ASSERT_EQ(output.size(), result->timePoints->size());

@@ -260,8 +260,9 @@ TEST_F(StudiesInWindow, KeepTheBarsOfSensitivitiesThroughChangesOfSettings)
   EXPECT_EQ(seriesOf(bars), 4);
   EXPECT_EQ(title(), "Sensitivities at t= 36000 s");
   vtkStringArray* names = chart().GetAxis(vtkAxis::BOTTOM)->GetTickLabels();
-  ASSERT_EQ(names->GetNumberOfValues(), 5);
+  ASSERT_EQ(names->GetNumberOfValues(), 6);
   EXPECT_EQ(names->GetValue(0), "Molecule: TetR");
+  EXPECT_EQ(names->GetValue(5), "Pattern: cI mRNA");
 }
 
 TEST_F(StudiesInWindow, RefuseAnotherStyle)
