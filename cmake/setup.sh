@@ -63,9 +63,10 @@ build() {
 
 has_display() { [[ -n ${DISPLAY:-} ]]; }
 
-# Runs a command on a virtual display of its own.
+# Runs a command on a virtual display of its own. Without -noreset the display starts anew whenever its last client
+# leaves, and refuses a test that comes meanwhile.
 on_virtual_display() {
-  xvfb-run -a -s "-screen 0 1920x1200x24" "$@"
+  xvfb-run -a -s "-screen 0 1920x1200x24 -noreset" "$@"
 }
 
 # File names and table headers may hold any letter, which the plain C locale cannot express.
