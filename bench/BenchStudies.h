@@ -12,6 +12,7 @@
 #include <vtkSelection.h>
 #include <vtkSmartPointer.h>
 
+#include <array>
 #include <benchmark/benchmark.h>
 #include <random>
 #include <vector>
@@ -26,6 +27,19 @@ inline void runCounts(benchmark::internal::Benchmark* benchmark)
   benchmark->RangeMultiplier(10)->Range(100, 10000)->Unit(benchmark::kMillisecond);
 }
 
+/// Runs with a value of their own for every parameter, as sampled ones have: each takes 1, 2, ...
+/// in an order of its own, for the factors have no divisor in common with a power of ten.
+inline boost::shared_ptr<LinePlotTable> measuredStudy(int runs)
+{
+  constexpr std::array<int, studyParameters> factors = {1, 3, 7, 9, 11, 13};
+  const auto table = parameterStudy(runs, studyPoints, studyParameters);
+  const std::size_t first = table->items.size() - factors.size();
+  for (std::size_t p = 0; p < factors.size(); ++p)
+    for (int row = 0; row < runs * studyPoints; ++row)
+      table->values[first + p][row] = 1.0 + row / studyPoints * factors[p] % runs;
+  return table;
+}
+
 /// A container that shows a parameter study in a scene, in the given style.
 struct ShownStudy
 {
@@ -36,7 +50,7 @@ struct ShownStudy
     container.getMetaData()->blockSignals(true);
     container.setPlotStyle(style);
     container.getMetaData()->blockSignals(false);
-    container.setLinePlotTable(parameterStudy(runs, studyPoints, studyParameters), true);
+    container.setLinePlotTable(measuredStudy(runs), true);
     container.redraw();
   }
 
