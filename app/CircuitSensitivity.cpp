@@ -15,11 +15,12 @@ namespace
 
 constexpr std::array<const char*, 4> parameterNames = {"alpha", "alpha0", "beta", "n"};
 constexpr std::uint32_t seed = 2000335;
-constexpr std::size_t timePoints = 40;
+constexpr std::size_t timePoints = 36;
 constexpr double hour = 3600.0; ///< seconds
 /// From here on: at time zero all runs are equal, and nothing can be attributed to a parameter.
 constexpr double firstTime = 0.25 * hour;
-constexpr double lastTime = 10.0 * hour;
+/// Later the oscillations of different parameters lose step, and no parameter alone explains much.
+constexpr double lastTime = 2.0 * hour;
 
 /// Position in the simulated state of the outputs, proteins first.
 constexpr std::array<std::size_t, 6> stateOfOutput = {3, 4, 5, 0, 1, 2};

@@ -1,5 +1,8 @@
 #include "stats/SobolIndices.h"
 
+#include <boost/random/sobol.hpp>
+
+#include <cmath>
 #include <random>
 
 namespace Talmesh::stats
@@ -10,15 +13,40 @@ namespace
 
 using Values = std::vector<double>;
 
-/// The standard's own distributions may differ between libraries.
-Values randomPoint(std::mt19937& generator, std::size_t inputs)
+/// Points of Sobol's sequence, all shifted by one random vector modulo 1.
+class ShiftedSobolSequence
 {
-  constexpr double steps = 4294967296.0;
-  Values point(inputs);
-  for (double& coordinate : point)
-    coordinate = static_cast<double>(generator()) / steps;
-  return point;
-}
+public:
+  ShiftedSobolSequence(std::size_t dimensions, std::uint32_t seed)
+      : sequence(dimensions)
+      , shift(dimensions)
+  {
+    // The standard's own distributions may differ between libraries.
+    constexpr double steps = 4294967296.0;
+    std::mt19937 generator(seed);
+    for (double& coordinate : shift)
+      coordinate = static_cast<double>(generator()) / steps;
+  }
+
+  /// The next coordinates, as many as there are in `point`; a point of the sequence may be taken in
+  /// parts.
+  void take(Values& point)
+  {
+    for (double& coordinate : point)
+    {
+      // The 53 upper bits, so that rounding does not reach 1.
+      const double unshifted = std::ldexp(static_cast<double>(sequence() >> 11U), -53);
+      const double sum = unshifted + shift[next];
+      coordinate = sum < 1.0 ? sum : sum - 1.0;
+      next = (next + 1) % shift.size();
+    }
+  }
+
+private:
+  boost::random::sobol sequence;
+  Values shift;
+  std::size_t next = 0;
+};
 
 double squaredDistance(double a, double b)
 {
@@ -82,14 +110,16 @@ SobolIndices indicesFrom(Sums sums)
 SobolIndices estimateSobolIndices(const UnitCubeModel& model, std::size_t inputs,
                                   std::size_t samples, std::uint32_t seed)
 {
-  if (samples == 0)
+  if (samples == 0 || inputs == 0)
     return {};
-  std::mt19937 generator(seed);
+  ShiftedSobolSequence sequence(2 * inputs, seed);
+  Values a(inputs);
+  Values b(inputs);
   std::vector<Sums> sums;
   for (std::size_t sample = 0; sample < samples; ++sample)
   {
-    const Values a = randomPoint(generator, inputs);
-    const Values b = randomPoint(generator, inputs);
+    sequence.take(a);
+    sequence.take(b);
     const Values fA = model(a);
     const Values fB = model(b);
     if (sums.empty())

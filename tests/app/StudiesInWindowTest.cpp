@@ -211,9 +211,9 @@ TEST_F(StudiesInWindow, ShowSensitivitiesOfEverySpeciesAndTime)
   EXPECT_EQ(title(), "Sensitivity of Molecule: cI");
   show("sensitivity-total-atTime");
   auto* times = find<QComboBox>("studyVariant");
-  EXPECT_EQ(times->count(), 40);
-  EXPECT_EQ(times->currentText(), "10 h");
-  EXPECT_EQ(title(), "Total Sensitivities at t= 36000 s");
+  EXPECT_EQ(times->count(), 36);
+  EXPECT_EQ(times->currentText(), "2 h");
+  EXPECT_EQ(title(), "Total Sensitivities at t= 7200 s");
   QTest::keyClick(times, Qt::Key_Home);
   EXPECT_EQ(title(), "Total Sensitivities at t= 900 s");
 }
@@ -258,7 +258,7 @@ TEST_F(StudiesInWindow, KeepTheBarsOfSensitivitiesThroughChangesOfSettings)
   auto* bars = vtkPlotBar::SafeDownCast(chart().GetPlot(0));
   ASSERT_NE(bars, nullptr);
   EXPECT_EQ(seriesOf(bars), 4);
-  EXPECT_EQ(title(), "Sensitivities at t= 36000 s");
+  EXPECT_EQ(title(), "Sensitivities at t= 7200 s");
   vtkStringArray* names = chart().GetAxis(vtkAxis::BOTTOM)->GetTickLabels();
   ASSERT_EQ(names->GetNumberOfValues(), 6);
   EXPECT_EQ(names->GetValue(0), "Molecule: TetR");
