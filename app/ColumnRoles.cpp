@@ -1,6 +1,7 @@
 #include "app/ColumnRoles.h"
 
 #include "app/AsciiText.h"
+#include "app/Utf8Text.h"
 
 #include <algorithm>
 #include <array>
@@ -15,6 +16,12 @@ namespace
 
 constexpr std::string_view blanks = " \t\r\n";
 
+/// The text without blanks and line ends around it.
+std::string_view bare(std::string_view text)
+{
+  return withoutOuterBlanks(trimmed(text, blanks));
+}
+
 std::string lowerCase(std::string_view text)
 {
   std::string lower(text);
@@ -28,26 +35,40 @@ bool isOneOf(std::string_view text, const std::array<std::string_view, N>& words
   return std::find(words.begin(), words.end(), text) != words.end();
 }
 
-/// Cuts a unit in brackets or parentheses from the end of a name.
-std::string_view withoutBracketedUnit(std::string_view name)
-{
-  if (name.empty() || (name.back() != ']' && name.back() != ')'))
-    return name;
-  const std::size_t open = name.find_last_of(name.back() == ']' ? '[' : '(');
-  return open == std::string_view::npos ? name : trimmed(name.substr(0, open), blanks);
-}
-
-/// Cuts a unit of time behind the last "_", "/", "." or blank.
-std::string_view withoutTimeUnit(std::string_view name)
+bool isTimeUnit(std::string_view text)
 {
   constexpr std::array<std::string_view, 24> units = {
       "s",    "sec",   "secs", "second", "seconds", "ms",   "us",    "ns",
       "m",    "min",   "mins", "minute", "minutes", "h",    "hr",    "hrs",
       "hour", "hours", "d",    "day",    "days",    "week", "weeks", "years"};
-  const std::size_t cut = name.find_last_of("_/. ");
-  if (cut == std::string_view::npos || !isOneOf(trimmed(name.substr(cut + 1), blanks), units))
+  return isOneOf(text, units);
+}
+
+/// A name cut into what stands before brackets or parentheses at its end, and what stands in them.
+struct BracketedName
+{
+  std::string_view name;
+  std::string_view inside;
+};
+
+BracketedName bracketedName(std::string_view name)
+{
+  if (name.empty() || (name.back() != ']' && name.back() != ')'))
+    return {name, {}};
+  const std::size_t open = name.find_last_of(name.back() == ']' ? '[' : '(');
+  if (open == std::string_view::npos)
+    return {name, {}};
+  const std::string_view inside = name.substr(open + 1, name.size() - open - 2);
+  return {bare(name.substr(0, open)), bare(inside)};
+}
+
+/// Cuts a unit of time behind the last "_", "/", ".", "," or blank.
+std::string_view withoutTimeUnit(std::string_view name)
+{
+  const std::size_t cut = name.find_last_of("_/., ");
+  if (cut == std::string_view::npos || !isTimeUnit(bare(name.substr(cut + 1))))
     return name;
-  return trimmed(name.substr(0, cut), blanks);
+  return trimmed(name.substr(0, cut), " \t\r\n/,");
 }
 
 std::string withoutSeparators(std::string_view name)
@@ -59,62 +80,80 @@ std::string withoutSeparators(std::string_view name)
   return joined;
 }
 
-/// The x columns that the plots know by parts of their name, beside the names of time.
-bool isTypedTimeName(const std::string& name)
+/// The length of the word time or t that a name starts with, 0 without one.
+std::size_t leadingTimeWord(const std::string& name)
 {
-  return isTimeName(name) || name.find("Time") != std::string::npos ||
-         name.find("Value") != std::string::npos || name.find("Period") != std::string::npos;
+  const std::string lower = lowerCase(name);
+  for (const std::string_view word : {"time", "t"})
+    if (lower.compare(0, word.size(), word) == 0 &&
+        lower.find_first_of("abcdefghijklmnopqrstuvwxyz", word.size()) != word.size())
+      return word.size();
+  return 0;
 }
 
-bool namesTime(const ColumnHeader& header)
+/// The place of a typed column among those that could be the time, the smallest being the time. The
+/// plots put "Time [s]" on the x axis before any other.
+int rankOfTime(const ColumnHeader& header)
 {
-  if (header.typed)
-    return header.kind == TimeOrValue && isTypedTimeName(header.name);
-  return isTimeName(header.name);
+  constexpr int none = 4;
+  if (!header.typed || header.kind != TimeOrValue)
+    return none;
+  if (header.name == "Time [s]")
+    return 0;
+  if (isTimeName(header.name))
+    return 1;
+  if (header.name.find("Time") != std::string::npos)
+    return 2;
+  return plotsTakeForTime(header.name) ? 3 : none;
 }
 
-bool namesRuns(const ColumnHeader& header)
+int timeColumnAmong(const std::vector<ColumnHeader>& headers)
 {
-  return (!header.typed || header.kind == TimeOrValue) && isRunName(header.name);
+  const auto typed = std::min_element(headers.begin(), headers.end(),
+                                      [](const ColumnHeader& a, const ColumnHeader& b)
+                                      { return rankOfTime(a) < rankOfTime(b); });
+  const bool none = typed == headers.end() || rankOfTime(*typed) == rankOfTime(ColumnHeader());
+  const auto plain = std::find_if(headers.begin(), headers.end(),
+                                  [](const ColumnHeader& header)
+                                  { return !header.typed && isTimeName(header.name); });
+  const auto found = none ? plain : typed;
+  return found == headers.end() ? -1 : static_cast<int>(found - headers.begin());
 }
 
-template <typename Predicate>
-int firstColumn(const std::vector<ColumnHeader>& headers, Predicate wanted)
+std::vector<int> runCandidatesAmong(const std::vector<ColumnHeader>& headers)
 {
+  std::vector<int> candidates;
   for (const bool typed : {true, false})
-  {
-    const auto found = std::find_if(headers.begin(), headers.end(),
-                                    [&](const ColumnHeader& header)
-                                    { return header.typed == typed && wanted(header); });
-    if (found != headers.end())
-      return static_cast<int>(found - headers.begin());
-  }
-  return -1;
+    for (std::size_t i = 0; i < headers.size(); ++i)
+    {
+      const ColumnHeader& header = headers[i];
+      const bool mayBe = header.typed == typed && (!typed || header.kind == TimeOrValue);
+      if (mayBe && isRunName(header.name))
+        candidates.push_back(static_cast<int>(i));
+    }
+  return candidates;
 }
 
-void makeUnique(std::vector<ColumnHeader>& headers)
+/// Plain headers have no kind yet: they are told apart from typed ones by one that does not exist.
+void makeNamesUnique(std::vector<ColumnHeader>& headers)
 {
-  std::set<TypedConcentrationName> taken;
+  constexpr auto noKind = static_cast<DataType>(-1);
+  std::vector<TypedConcentrationName> items;
   for (const ColumnHeader& header : headers)
-    taken.emplace(header.kind, header.name);
-  std::map<TypedConcentrationName, int> seen;
-  for (ColumnHeader& header : headers)
-  {
-    int& count = seen[{header.kind, header.name}];
-    if (++count == 1)
-      continue;
-    std::string name = header.name + " (" + std::to_string(count) + ")";
-    while (!taken.emplace(header.kind, name).second)
-      name = header.name + " (" + std::to_string(++count) + ")";
-    header.name = name;
-  }
+    items.emplace_back(header.typed ? header.kind : noKind, header.name);
+  std::vector<TypedConcentrationName*> all;
+  for (TypedConcentrationName& item : items)
+    all.push_back(&item);
+  makeLabelsUnique(all);
+  for (std::size_t i = 0; i < headers.size(); ++i)
+    headers[i].name = items[i].second;
 }
 
 } // namespace
 
 ColumnHeader readHeader(std::string_view text)
 {
-  const std::string_view header = trimmed(text, blanks);
+  const std::string_view header = bare(text);
   for (int value = Complex; value <= UndefinedType; ++value)
   {
     const auto kind = static_cast<DataType>(value);
@@ -125,17 +164,45 @@ ColumnHeader readHeader(std::string_view text)
   return {UndefinedType, std::string(header), false};
 }
 
+std::string_view withoutCommentMark(std::string_view name)
+{
+  const std::string_view marked = bare(name);
+  if (marked.substr(0, 1) != "#")
+    return name;
+  const std::string_view rest = bare(marked.substr(1));
+  const bool apart = !rest.empty() && rest.data() != marked.data() + 1;
+  return apart || isTimeName(rest) || isRunName(rest) ? rest : name;
+}
+
 bool isTimeName(std::string_view name)
 {
-  constexpr std::array<std::string_view, 6> words = {"time",      "t",          "times",
-                                                     "timepoint", "timepoints", "elapsedtime"};
-  // A capital T alone is a temperature.
-  const std::string lower = lowerCase(trimmed(name, blanks));
-  if (trimmed(name, blanks).substr(0, 1) == "T" && lower.compare(0, 2, "ti") != 0)
-    return false;
-  const std::string_view bare = withoutBracketedUnit(lower);
-  return isOneOf(withoutSeparators(bare), words) ||
-         isOneOf(withoutSeparators(withoutTimeUnit(bare)), words);
+  constexpr std::array<std::string_view, 9> words = {
+      "time",        "t",       "times",          "timepoint", "timepoints",
+      "elapsedtime", "simtime", "simulationtime", "zeit"};
+  const std::string_view given = bare(name);
+  const std::string lower = lowerCase(given);
+  const BracketedName cut = bracketedName(lower);
+  // A capital T is a temperature unless its unit says otherwise.
+  if (given.substr(0, 1) == "T" && leadingTimeWord(lower) == 1)
+    return cut.name == "t" && isTimeUnit(cut.inside);
+  return isOneOf(withoutSeparators(cut.name), words) ||
+         isOneOf(withoutSeparators(withoutTimeUnit(cut.name)), words);
+}
+
+bool plotsTakeForTime(std::string_view label)
+{
+  constexpr std::array<std::string_view, 3> words = {"Value", "Time", "Period"};
+  return std::any_of(words.begin(), words.end(),
+                     [label](std::string_view word)
+                     { return label.find(word) != std::string_view::npos; });
+}
+
+std::string plottedTimeName(const std::string& name)
+{
+  if (plotsTakeForTime(name))
+    return name;
+  const std::size_t word = leadingTimeWord(name);
+  return word > 0 ? "Time" + name.substr(word) : "Time (" + name + ")";
 }
 
 bool isRunName(std::string_view name)
@@ -145,7 +212,7 @@ bool isRunName(std::string_view name)
       "sim", "simulation", "realization", "realisation", "subject"};
   constexpr std::array<std::string_view, 7> endings = {"",       "id", "index", "idx",
                                                        "number", "nr", "no"};
-  const std::string joined = withoutSeparators(lowerCase(trimmed(name, blanks)));
+  const std::string joined = withoutSeparators(lowerCase(bare(name)));
   for (const std::string_view word : words)
     if (joined.size() >= word.size() && joined.compare(0, word.size(), word) == 0 &&
         isOneOf(std::string_view(joined).substr(word.size()), endings))
@@ -153,20 +220,40 @@ bool isRunName(std::string_view name)
   return false;
 }
 
+void makeLabelsUnique(const std::vector<TypedConcentrationName*>& items)
+{
+  std::set<TypedConcentrationName> taken;
+  for (const TypedConcentrationName* item : items)
+    taken.insert(*item);
+  std::map<TypedConcentrationName, int> seen;
+  for (TypedConcentrationName* item : items)
+  {
+    int& count = seen[*item];
+    if (++count == 1)
+      continue;
+    TypedConcentrationName renamed(item->first, item->second + " (" + std::to_string(count) + ")");
+    while (!taken.insert(renamed).second)
+      renamed.second = item->second + " (" + std::to_string(++count) + ")";
+    *item = renamed;
+  }
+}
+
 ColumnRoles assignRoles(const std::vector<std::string>& headers)
 {
   ColumnRoles roles;
   for (const std::string& text : headers)
   {
-    ColumnHeader header = readHeader(text);
-    if (header.name.empty())
+    ColumnHeader header = readHeader(roles.headers.empty() ? withoutCommentMark(text) : text);
+    header.unnamed = header.name.empty();
+    if (header.unnamed)
       header.name = "Column " + std::to_string(roles.headers.size() + 1);
     roles.anyTyped = roles.anyTyped || header.typed;
     roles.headers.push_back(std::move(header));
   }
-  roles.timeColumn = firstColumn(roles.headers, namesTime);
-  roles.runColumn = firstColumn(roles.headers, namesRuns);
-  makeUnique(roles.headers);
+  roles.timeColumn = timeColumnAmong(roles.headers);
+  roles.runCandidates = runCandidatesAmong(roles.headers);
+  roles.runColumn = roles.runCandidates.empty() ? -1 : roles.runCandidates.front();
+  makeNamesUnique(roles.headers);
   return roles;
 }
 

@@ -1,5 +1,8 @@
 #include "app/DelimitedText.h"
 
+#include "app/NumberText.h"
+#include "app/Utf8Text.h"
+
 #include <algorithm>
 
 namespace Talmesh::app
@@ -20,7 +23,20 @@ struct DelimiterFit
 {
   bool even = true;
   std::size_t fields = 0;
+  /// What the cells below the headers hold.
+  std::size_t numbers = 0;
+  std::size_t texts = 0;
 };
+
+void countCells(DelimiterFit& fit, const std::vector<std::string_view>& fields, char delimiter)
+{
+  for (const std::string_view field : fields)
+  {
+    const NumberText::Kind kind = readNumber(field, delimiter != ',').kind;
+    fit.numbers += kind == NumberText::Kind::Number ? 1 : 0;
+    fit.texts += kind == NumberText::Kind::Text ? 1 : 0;
+  }
+}
 
 DelimiterFit fitOf(std::string_view text, char delimiter)
 {
@@ -29,12 +45,28 @@ DelimiterFit fitOf(std::string_view text, char delimiter)
   DelimiterFit fit;
   for (std::size_t record = 0; record < sampledRecords && reader.next(fields); ++record)
   {
-    if (record == 0)
+    if (isBlankRecord(fields))
+      continue;
+    if (fit.fields == 0)
       fit.fields = fields.size();
-    else if (fields.size() != fit.fields)
-      fit.even = false;
+    else
+    {
+      fit.even = fit.even && fields.size() == fit.fields;
+      countCells(fit, fields, delimiter);
+    }
   }
   return fit;
+}
+
+bool fitsBetter(const DelimiterFit& fit, const DelimiterFit& other)
+{
+  if (fit.even != other.even)
+    return fit.even;
+  const std::size_t share = fit.numbers * (other.numbers + other.texts);
+  const std::size_t otherShare = other.numbers * (fit.numbers + fit.texts);
+  if (fit.even && share != otherShare)
+    return share > otherShare;
+  return fit.fields > other.fields;
 }
 
 } // namespace
@@ -67,6 +99,18 @@ void DelimitedText::skipEmptyLines()
     skipLineEnd();
 }
 
+bool DelimitedText::isBlank(char c) const
+{
+  return (c == ' ' || c == '\t') && c != delimiter;
+}
+
+std::size_t DelimitedText::afterBlanks(std::size_t from) const
+{
+  while (from < text.size() && isBlank(text[from]))
+    ++from;
+  return from;
+}
+
 std::string_view DelimitedText::plainField()
 {
   const std::size_t begin = cursor;
@@ -77,7 +121,7 @@ std::string_view DelimitedText::plainField()
 
 bool DelimitedText::closesField(std::size_t quote) const
 {
-  const std::size_t after = quote + 1;
+  const std::size_t after = afterBlanks(quote + 1);
   return after == text.size() || text[after] == delimiter || isLineEnd(text[after]);
 }
 
@@ -93,7 +137,7 @@ std::string_view DelimitedText::quotedField()
     if (c == '"' && closesField(cursor))
     {
       const std::string_view tail = text.substr(copied, cursor - copied);
-      ++cursor;
+      cursor = afterBlanks(cursor + 1);
       return copy ? std::string_view(copy->append(tail)) : tail;
     }
     if (c == '"' && text[cursor + 1] == '"')
@@ -122,7 +166,10 @@ bool DelimitedText::next(std::vector<std::string_view>& fields)
     return false;
   for (;;)
   {
-    const bool quoted = !atLineEnd() && text[cursor] == '"';
+    const std::size_t quote = afterBlanks(cursor);
+    const bool quoted = quote < text.size() && text[quote] == '"';
+    if (quoted)
+      cursor = quote;
     fields.push_back(quoted ? quotedField() : plainField());
     if (atLineEnd())
       break;
@@ -132,17 +179,23 @@ bool DelimitedText::next(std::vector<std::string_view>& fields)
   return true;
 }
 
+bool isBlankRecord(const std::vector<std::string_view>& fields)
+{
+  return std::all_of(fields.begin(), fields.end(),
+                     [](std::string_view field) { return withoutOuterBlanks(field).empty(); });
+}
+
 char detectDelimiter(std::string_view text)
 {
   char best = ';';
-  DelimiterFit bestFit{false, 1};
+  DelimiterFit bestFit;
+  bestFit.even = false;
   for (const char candidate : {'\t', ';', ','})
   {
     const DelimiterFit fit = fitOf(text, candidate);
     if (fit.fields < 2)
       continue;
-    const bool better = fit.even != bestFit.even ? fit.even : fit.fields > bestFit.fields;
-    if (better)
+    if (fitsBetter(fit, bestFit))
     {
       best = candidate;
       bestFit = fit;

@@ -13,9 +13,9 @@ namespace Talmesh::app
 /// Reads delimited text record by record.
 ///
 /// A field may stand in double quotes; inside, a doubled quote is one quote, and delimiters and
-/// line ends belong to the field. A lone quote inside a quoted field is taken as it stands, as
-/// writers that do not double their quotes mean it. Records end with LF, CR LF or CR. Records
-/// without any character are skipped.
+/// line ends belong to the field. Blanks around the quotes do not. A lone quote inside a quoted
+/// field is taken as it stands, as writers that do not double their quotes mean it. Records end
+/// with LF, CR LF or CR. Records without any character are skipped.
 class DelimitedText
 {
 public:
@@ -38,6 +38,8 @@ private:
   bool atLineEnd() const;
   void skipLineEnd();
   void skipEmptyLines();
+  bool isBlank(char c) const;
+  std::size_t afterBlanks(std::size_t from) const;
   std::string_view plainField();
   std::string_view quotedField();
   bool closesField(std::size_t quote) const;
@@ -51,10 +53,14 @@ private:
   std::deque<std::string> unescaped;
 };
 
+/// Whether a record holds nothing but blanks, as spreadsheets leave them.
+bool isBlankRecord(const std::vector<std::string_view>& fields);
+
 /// The delimiter among tab, semicolon and comma that splits the first records most evenly: the
-/// same number of fields, more than one, in every record; among equals the one with most fields.
-/// A text that none of them splits has a single column, and the answer is the semicolon, so that
-/// decimal commas can be read.
+/// same number of fields, more than one, in every record that is not blank; among equals the one
+/// under which the largest part of the cells below the headers are numbers, then the one with most
+/// fields. A text that none of them splits has a single column, and the answer is the semicolon, so
+/// that decimal commas can be read.
 char detectDelimiter(std::string_view text);
 
 /// The text without a leading UTF-8 byte-order mark.

@@ -22,9 +22,11 @@ struct NumberText
   bool decimalComma = false;
 };
 
-/// Reads one cell, whatever the locale. Surrounding blanks are ignored. Empty cells and the words
-/// for a missing value (NA, N/A, NaN, null, none, "-", ".") are missing; "inf" and "infinity" with
-/// an optional sign are numbers. A number too large for a double is infinite, one too small is 0.
+/// Reads one cell, whatever the locale. Surrounding blanks, also non-breaking ones, are ignored.
+/// Empty cells and the words for a missing value (NA, N/A, NaN, null, none, "-", ".") are missing;
+/// "inf" and "infinity" with an optional sign are numbers. A minus may be the typesetters' U+2212,
+/// an exponent that of Fortran (1.0D-03). A number too large for a double is infinite, one too
+/// small is 0.
 /// @param commas whether a comma may stand for the decimal point.
 NumberText readNumber(std::string_view text, bool commas);
 

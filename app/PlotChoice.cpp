@@ -62,6 +62,22 @@ std::string allNames(const PlotContainer& container)
   return columns > mostNamesInAMessage ? names + ", ..." : names;
 }
 
+/// The columns that play the part that the name tells: an import gives the columns of time and runs
+/// names that the plots know.
+std::vector<int> columnsOfRole(vtkTable* table, const std::string& name)
+{
+  std::vector<int> columns;
+  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
+  {
+    const ColumnHeader header = readHeader(plot::columnName(table, column));
+    const bool sameRole = (isTimeName(name) && isTimeName(header.name)) ||
+                          (isRunName(name) && isRunName(header.name));
+    if (header.typed && header.kind == TimeOrValue && sameRole)
+      columns.push_back(column);
+  }
+  return columns;
+}
+
 } // namespace
 
 PlotChoice choiceOf(const PlotContainer& container)
@@ -120,6 +136,11 @@ FoundColumn findColumn(const PlotContainer& container, const std::string& name)
   for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
     if (columnLabel(container, column) == name)
       matches.push_back(column);
+  const std::string unmarked(withoutCommentMark(name));
+  if (matches.empty() && unmarked != name)
+    return findColumn(container, unmarked);
+  if (matches.empty())
+    matches = columnsOfRole(table, name);
   if (matches.size() == 1)
     return {matches.front(), {}};
   if (matches.empty())

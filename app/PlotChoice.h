@@ -46,7 +46,8 @@ struct FoundColumn
   std::string error;
 };
 
-/// Finds a column by its whole name, else by its name without the kind.
+/// Finds a column by its whole name, else by its name without the kind, else by what a table's
+/// header calls its time or its runs, which may have got another name in the import.
 FoundColumn findColumn(const PlotContainer& container, const std::string& name);
 
 /// Writes the style and the columns that the command line names into `choice`.

@@ -1,8 +1,8 @@
 #include "app/RunGrouping.h"
 
 #include "app/NumberText.h"
-#include "app/TableText.h"
 #include "app/TranslatedText.h"
+#include "app/Utf8Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,10 +73,10 @@ RunGrouping groupByTime(const RunColumns& columns)
     grouping.error = withValues(
         translated("RunGrouping",
                    "run %1 (from line %2, where time falls back) has %3, other runs have %4"),
-        {std::to_string(odd + 1), std::to_string((*columns.lines)[starts[odd]]),
-         points(lengths[odd]), std::to_string(grouping.pointsPerRun)});
+        {std::to_string(odd), std::to_string((*columns.lines)[starts[odd]]), points(lengths[odd]),
+         std::to_string(grouping.pointsPerRun)});
   if (odd == 0 && !grouping.error.empty())
-    grouping.error = unequalRun("1", lengths[0], grouping.pointsPerRun);
+    grouping.error = unequalRun("0", lengths[0], grouping.pointsPerRun);
   grouping.indices.resize(grouping.numberOfRuns);
   std::iota(grouping.indices.begin(), grouping.indices.end(), 0.0);
   return grouping;
@@ -89,7 +89,9 @@ std::vector<double> wholeNumbers(const std::vector<std::string>& names)
   for (const std::string& name : names)
   {
     const NumberText number = readNumber(name, false);
+    // What looks like an exponent of Fortran is a name, as of the wells of a plate.
     const bool whole = number.kind == NumberText::Kind::Number &&
+                       name.find_first_of("dD") == std::string::npos &&
                        std::abs(number.value) <= std::numeric_limits<int>::max() &&
                        number.value == std::floor(number.value);
     if (!whole)
@@ -100,36 +102,77 @@ std::vector<double> wholeNumbers(const std::vector<std::string>& names)
   return different ? numbers : std::vector<double>{};
 }
 
-/// A run that starts again at an earlier time, described; empty when there is none.
-std::string repeatedRun(const RunColumns& columns)
+using RowsOfRuns = std::vector<std::vector<std::size_t>>;
+
+RowsOfRuns rowsOfRuns(const RunColumns& columns)
 {
-  if (!columns.time)
-    return {};
-  std::vector<std::size_t> last(columns.names->size(), columns.rows);
+  RowsOfRuns rows(columns.names->size());
   for (std::size_t row = 0; row < columns.rows; ++row)
+    rows[(*columns.run)[row]].push_back(row);
+  return rows;
+}
+
+/// Where time falls back among the rows of a run; their number when it never does.
+std::size_t fallBack(const std::vector<double>& time, const std::vector<std::size_t>& rows)
+{
+  double latest = -std::numeric_limits<double>::infinity();
+  for (std::size_t i = 0; i < rows.size(); ++i)
   {
-    const int run = (*columns.run)[row];
-    std::size_t& before = last[run];
-    const bool resumed = before + 1 < row && before != columns.rows;
-    if (resumed && (*columns.time)[row] < (*columns.time)[before])
+    if (time[rows[i]] < latest)
+      return i;
+    if (!std::isnan(time[rows[i]]))
+      latest = time[rows[i]];
+  }
+  return rows.size();
+}
+
+/// Sorts the rows of a run by time.
+/// @return whether every row has a time of its own; otherwise the order stays
+bool sortByTime(const std::vector<double>& time, std::vector<std::size_t>& rows)
+{
+  if (std::any_of(rows.begin(), rows.end(), [&](std::size_t row) { return std::isnan(time[row]); }))
+    return false;
+  std::vector<std::size_t> sorted = rows;
+  std::sort(sorted.begin(), sorted.end(),
+            [&](std::size_t a, std::size_t b) { return time[a] < time[b]; });
+  const auto same =
+      std::adjacent_find(sorted.begin(), sorted.end(),
+                         [&](std::size_t a, std::size_t b) { return time[a] == time[b]; });
+  if (same != sorted.end())
+    return false;
+  rows.swap(sorted);
+  return true;
+}
+
+/// Sorts the rows of runs whose time falls back.
+/// @return why a run cannot be sorted; empty on success
+std::string orderByTime(const RunColumns& columns, RowsOfRuns& rows)
+{
+  for (std::size_t run = 0; columns.time && run < rows.size(); ++run)
+  {
+    const std::size_t at = fallBack(*columns.time, rows[run]);
+    if (at == rows[run].size())
+      continue;
+    const std::size_t line = (*columns.lines)[rows[run][at]];
+    if (!sortByTime(*columns.time, rows[run]))
       return withValues(
           translated("RunGrouping", "run %1 starts again in line %2: two runs have the same name"),
-          {quotedForMessage((*columns.names)[run]), std::to_string((*columns.lines)[row])});
-    before = row;
+          {quotedForMessage((*columns.names)[run]), std::to_string(line)});
   }
   return {};
 }
 
 RunGrouping groupByName(const RunColumns& columns)
 {
-  const std::size_t count = columns.names->size();
-  std::vector<std::size_t> lengths(count, 0);
-  for (const int run : *columns.run)
-    ++lengths[run];
+  RowsOfRuns rows = rowsOfRuns(columns);
+  const std::size_t count = rows.size();
+  std::vector<std::size_t> lengths;
+  for (const std::vector<std::size_t>& run : rows)
+    lengths.push_back(run.size());
   RunGrouping grouping;
   grouping.numberOfRuns = count;
   grouping.pointsPerRun = usualLength(lengths);
-  grouping.error = repeatedRun(columns);
+  grouping.error = orderByTime(columns, rows);
   const std::size_t odd = oddRun(lengths, grouping.pointsPerRun);
   if (grouping.error.empty() && odd < count)
     grouping.error =
@@ -149,12 +192,9 @@ RunGrouping groupByName(const RunColumns& columns)
             [&](int a, int b) { return grouping.indices[a] < grouping.indices[b]; });
   std::sort(grouping.indices.begin(), grouping.indices.end());
 
-  std::vector<std::size_t> next(count);
-  for (std::size_t place = 0; place < count; ++place)
-    next[grouping.runs[place]] = place * grouping.pointsPerRun;
-  grouping.order.resize(columns.rows);
-  for (std::size_t row = 0; row < columns.rows; ++row)
-    grouping.order[next[(*columns.run)[row]]++] = row;
+  grouping.order.reserve(columns.rows);
+  for (const int run : grouping.runs)
+    grouping.order.insert(grouping.order.end(), rows[run].begin(), rows[run].end());
   if (std::is_sorted(grouping.order.begin(), grouping.order.end()))
     grouping.order.clear();
   return grouping;

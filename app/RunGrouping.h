@@ -26,7 +26,7 @@ struct RunColumns
 struct RunGrouping
 {
   /// The row that each place of the stacked table takes: run after run, inside a run in the order
-  /// of the file. Empty when the rows stand so already.
+  /// of the file or, where that falls back, of time. Empty when the rows stand so already.
   std::vector<std::size_t> order;
   /// The run, into `RunColumns::names`, that stands at each place; empty without a run column.
   std::vector<int> runs;
@@ -40,9 +40,10 @@ struct RunGrouping
 };
 
 /// Finds the runs: by the run column, whose rows need not be contiguous, else by time: a run
-/// starts where time falls back. Without either all rows are one run. A run whose rows come in
-/// several pieces must go on in time, because two runs of the same name would otherwise be taken
-/// for one.
+/// starts where time falls back. Without either all rows are one run. The rows of a named run whose
+/// time falls back are sorted by time when no two of them share one; otherwise two runs of the same
+/// name would be taken for one, which is an error. Messages count runs without a name from 0, as
+/// their indices do.
 RunGrouping groupRuns(const RunColumns& columns);
 
 } // namespace Talmesh::app

@@ -1,18 +1,15 @@
 #include "app/RunTableImport.h"
 
 #include "app/RunGrouping.h"
+#include "app/RunTableBuilder.h"
 #include "app/TableText.h"
 #include "app/TranslatedText.h"
+#include "app/Utf8Text.h"
 
 #include <vtkDoubleArray.h>
 #include <vtkNew.h>
 
-#include <boost/make_shared.hpp>
-
 #include <algorithm>
-#include <cmath>
-#include <limits>
-#include <memory>
 #include <utility>
 
 namespace Talmesh::app
@@ -21,11 +18,53 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr const char* runIndexName = "Run Index";
-
 bool isTextColumn(const ColumnValues& column)
 {
   return column.texts > 0 && column.numbers == 0;
+}
+
+/// Whether the first column is the one that pandas and R put before a table unless told otherwise:
+/// without a name, it counts the rows.
+bool firstColumnCountsRows(const TableText& text)
+{
+  const ColumnValues& first = text.columns.front();
+  if (!text.roles.headers.front().unnamed || first.numbers != text.rows)
+    return false;
+  const double start = first.values.front();
+  for (std::size_t row = 0; row < text.rows; ++row)
+    if (first.values[row] != start + static_cast<double>(row))
+      return false;
+  const bool otherNumbers =
+      std::any_of(text.columns.begin() + 1, text.columns.end(),
+                  [](const ColumnValues& column) { return column.numbers > 0; });
+  return otherNumbers && (start == 0.0 || start == 1.0);
+}
+
+/// The columns that are no data, one flag each, and what to say of them.
+struct LeftOutColumns
+{
+  std::vector<bool> flags;
+  std::vector<std::string> notes;
+};
+
+LeftOutColumns leftOutOf(const TableText& text)
+{
+  LeftOutColumns leftOut;
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    leftOut.flags.push_back(isTextColumn(text.columns[i]));
+    if (leftOut.flags.back())
+      leftOut.notes.push_back(
+          withValues(translated("RunTableImport", "The column %1 holds text and is left out."),
+                     {quotedForMessage(text.roles.headers[i].name)}));
+  }
+  if (firstColumnCountsRows(text))
+  {
+    leftOut.flags.front() = true;
+    leftOut.notes.push_back(translated(
+        "RunTableImport", "The first column has no name and counts the rows; it is left out."));
+  }
+  return leftOut;
 }
 
 /// Texts among numbers are an error, because a silent gap would look like data.
@@ -38,172 +77,19 @@ std::string mistypedCell(const TableText& text)
     if (column.texts > 0 && (column.numbers > 0 || needed))
       return withValues(
           translated("RunTableImport", "line %1: %2 in the column %3 is not a number"),
-          {std::to_string(column.firstTextLine), quotedForMessage(column.firstText),
+          {std::to_string(column.firstText.line), quotedForMessage(column.firstText.text),
            quotedForMessage(text.roles.headers[i].name)});
   }
   return {};
 }
 
-/// A column on its way into the result.
-struct StackedColumn
-{
-  TypedConcentrationName item;
-  std::unique_ptr<double[]> values;
-  /// (smallest, largest) finite value.
-  std::pair<double, double> range;
-
-  bool varies() const { return range.first != range.second; }
-};
-
-class RunTableBuilder
-{
-public:
-  RunTableBuilder(TableText& text_, const RunGrouping& grouping_)
-      : text(text_)
-      , grouping(grouping_)
-  {
-  }
-
-  boost::shared_ptr<LinePlotTable> build()
-  {
-    for (std::size_t i = 0; i < text.columns.size(); ++i)
-      addColumn(i);
-    if (!text.roles.anyTyped)
-      arrange();
-    return handOver();
-  }
-
-  /// Names of the parameters that plots leave out because they are the same in all runs.
-  std::vector<std::string> unvariedParameters() const
-  {
-    std::vector<std::string> names;
-    for (const StackedColumn& column : columns)
-      if (column.item.first == Parameter && !column.varies())
-        names.push_back(column.item.second);
-    return names;
-  }
-
-private:
-  std::size_t rows() const { return text.rows; }
-
-  std::unique_ptr<double[]> stacked(ColumnValues& column) const
-  {
-    std::unique_ptr<double[]> values(new double[rows()]);
-    for (std::size_t place = 0; place < rows(); ++place)
-      values[place] = column.values[grouping.order.empty() ? place : grouping.order[place]];
-    std::vector<double>().swap(column.values);
-    return values;
-  }
-
-  std::unique_ptr<double[]> runIndices() const
-  {
-    std::unique_ptr<double[]> values(new double[rows()]);
-    for (std::size_t place = 0; place < rows(); ++place)
-      values[place] = grouping.indices[place / grouping.pointsPerRun];
-    return values;
-  }
-
-  /// One value in each run. Runs of one point tell nothing.
-  bool constantWithinRuns(const double* values) const
-  {
-    if (grouping.pointsPerRun < 2)
-      return false;
-    for (std::size_t place = 0; place < rows(); ++place)
-    {
-      const double first = values[place - place % grouping.pointsPerRun];
-      const bool same = values[place] == first || (std::isnan(values[place]) && std::isnan(first));
-      if (!same)
-        return false;
-    }
-    return true;
-  }
-
-  void addColumn(std::size_t index)
-  {
-    const ColumnHeader& header = text.roles.headers[index];
-    const int position = static_cast<int>(index);
-    if (position == text.roles.runColumn)
-    {
-      columns.push_back(
-          {{TimeOrValue, header.typed ? header.name : runIndexName}, runIndices(), {}});
-      return;
-    }
-    if (isTextColumn(text.columns[index]))
-      return;
-    StackedColumn column{{header.kind, header.name}, stacked(text.columns[index]), {}};
-    column.range = rangeOf(column.values.get());
-    if (!header.typed)
-    {
-      // Plots leave out a parameter that does not vary; as an item the column stays to be seen.
-      const bool parameter = column.varies() && constantWithinRuns(column.values.get());
-      column.item.first = parameter ? Parameter : Molecule;
-    }
-    if (position == text.roles.timeColumn)
-      column.item.first = TimeOrValue;
-    columns.push_back(std::move(column));
-  }
-
-  /// Puts a table of plain headers into the order of line-plot tables. The plots rely on it: they
-  /// look for the time two columns before the first parameter.
-  void arrange()
-  {
-    if (text.roles.runColumn < 0)
-      columns.push_back({{TimeOrValue, runIndexName}, runIndices(), {}});
-    const auto place = [](const StackedColumn& column)
-    {
-      if (column.item.first == Parameter)
-        return 4;
-      if (column.item.first == TimeOrValue)
-        return column.item.second == runIndexName ? 3 : 2;
-      // The first item is what is plotted at first.
-      return column.varies() ? 0 : 1;
-    };
-    std::stable_sort(columns.begin(), columns.end(),
-                     [&](const StackedColumn& a, const StackedColumn& b)
-                     { return place(a) < place(b); });
-  }
-
-  std::pair<double, double> rangeOf(const double* values) const
-  {
-    std::pair<double, double> range(std::numeric_limits<double>::infinity(),
-                                    -std::numeric_limits<double>::infinity());
-    for (std::size_t place = 0; place < rows(); ++place)
-      if (std::isfinite(values[place]))
-      {
-        range.first = std::min(range.first, values[place]);
-        range.second = std::max(range.second, values[place]);
-      }
-    return range.first <= range.second ? range : std::pair<double, double>(0.0, 0.0);
-  }
-
-  boost::shared_ptr<LinePlotTable> handOver()
-  {
-    auto table = boost::make_shared<LinePlotTable>();
-    table->numberOfTrajectories = grouping.numberOfRuns;
-    table->pointsPerTrajectory = grouping.pointsPerRun;
-    table->values.reserve(columns.size());
-    for (StackedColumn& column : columns)
-    {
-      if (column.item.first == Parameter)
-        table->parameterRanges.push_back(column.range);
-      table->items.push_back(column.item);
-      table->values.push_back(column.values.release());
-    }
-    return table;
-  }
-
-  TableText& text;
-  const RunGrouping& grouping;
-  std::vector<StackedColumn> columns;
-};
-
-vtkSmartPointer<vtkTable> plainTable(TableText& text)
+vtkSmartPointer<vtkTable> plainTable(TableText& text, const std::vector<bool>& leftOut)
 {
   auto table = vtkSmartPointer<vtkTable>::New();
   for (std::size_t i = 0; i < text.columns.size(); ++i)
   {
     ColumnValues& column = text.columns[i];
-    if (isTextColumn(column))
+    if (leftOut[i])
       continue;
     vtkNew<vtkDoubleArray> array;
     array->SetName(text.roles.headers[i].name.c_str());
@@ -215,22 +101,23 @@ vtkSmartPointer<vtkTable> plainTable(TableText& text)
   return table;
 }
 
-std::vector<std::string> notesOn(const TableText& text)
-{
-  std::vector<std::string> notes;
-  for (std::size_t i = 0; i < text.columns.size(); ++i)
-    if (isTextColumn(text.columns[i]))
-      notes.push_back(
-          withValues(translated("RunTableImport", "The column %1 holds text and is left out."),
-                     {quotedForMessage(text.roles.headers[i].name)}));
-  return notes;
-}
-
 std::string noteOnUnvaried(const std::string& parameter)
 {
   return withValues(
       translated("RunTableImport", "The parameter %1 is the same in all runs and is left out."),
       {quotedForMessage(parameter)});
+}
+
+/// Why the rows are no runs, or in which order their points are, when there is no time; else empty.
+std::string noteOnMissingTime(const TableText& text, std::size_t pointsPerRun)
+{
+  if (text.roles.timeColumn >= 0 || pointsPerRun == 1)
+    return {};
+  return text.roles.describeRuns()
+             ? translated("RunTableImport", "There is no time column, so the points of a run are "
+                                            "in the order of the file.")
+             : translated("RunTableImport",
+                          "There is no time column, so the rows are not taken for runs.");
 }
 
 RunGrouping groupingOf(const TableText& text)
@@ -269,20 +156,28 @@ ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progr
                        : translated("RunTableImport", "not a table: no column holds numbers");
   if (!imported.error.empty())
     return imported;
-  imported.notes = notesOn(text);
+  LeftOutColumns leftOut = leftOutOf(text);
+  imported.notes = std::move(leftOut.notes);
+  const auto addNote = [&imported](const std::string& note)
+  {
+    if (!note.empty())
+      imported.notes.push_back(note);
+  };
   if (!text.roles.describeRuns())
   {
-    imported.table = plainTable(text);
+    addNote(noteOnMissingTime(text, 0));
+    imported.table = plainTable(text, leftOut.flags);
     return imported;
   }
   const RunGrouping grouping = groupingOf(text);
   imported.error = grouping.error;
   if (!imported.error.empty())
     return imported;
-  RunTableBuilder builder(text, grouping);
-  imported.runs = builder.build();
-  for (const std::string& parameter : builder.unvariedParameters())
-    imported.notes.push_back(noteOnUnvaried(parameter));
+  addNote(noteOnMissingTime(text, grouping.pointsPerRun));
+  const BuiltRuns built = buildRunTable(text, leftOut.flags, grouping);
+  imported.runs = built.runs;
+  for (const std::string& parameter : built.unvariedParameters)
+    addNote(noteOnUnvaried(parameter));
   return imported;
 }
 

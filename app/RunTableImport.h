@@ -37,17 +37,17 @@ using ImportProgress = std::function<bool(double)>;
 /// Reads a delimited table of runs: a line of headers, then one row per time point.
 ///
 /// Comma, semicolon and tab are recognised, as are decimal commas between tabs and semicolons.
-/// Names that are not valid UTF-8 are taken for Latin-1. Empty cells are NaN.
-/// Headers that carry a kind are taken as written, and so is the order of the columns. A column
-/// with a plain header becomes a parameter if it is constant within each run and differs between
-/// runs, otherwise a molecule (a kind that item choosers can report, other than the undefined one).
-/// So no plain column is lost, although plots leave out parameters that are the same in all runs;
-/// such a parameter can only come from a header that says so, and is noted.
-/// In a table of plain headers the columns stand in the order in which line-plot tables keep them:
-/// plotted items, with those that never vary last, time, ": Run Index", parameters. A run index is
-/// added when the file has none; names of runs that are not different whole numbers become 0, 1, 2,
-/// ... there.
-/// Columns of text are left out with a note.
+/// Names that are not valid UTF-8 are taken for Latin-1. Empty cells are NaN. Blank rows are
+/// skipped. Headers that carry a kind are taken as written, and so is the order of the columns
+/// where the plots find the time in it (see arrangeTypedColumns()). A column with a plain header
+/// becomes a parameter if it is constant within each run and differs between runs, otherwise a
+/// molecule (a kind that item choosers can report, other than the undefined one). So no plain
+/// column is lost, although plots leave out parameters that are the same in all runs; such a
+/// parameter can only come from a header that says so, and is noted. A table of plain headers is
+/// arranged as line-plot tables are (see arrangePlainColumns()). A run index is added when the file
+/// has none; names of runs that are not different whole numbers become 0, 1, 2, ... there. Columns
+/// of text, and a first column without a name that counts the rows, are left out with a note. That
+/// there is no time column is noted, too.
 ///
 /// Needs memory in proportion to the size of the text. Touches no object of other threads.
 ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress = {});

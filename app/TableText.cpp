@@ -1,11 +1,13 @@
 #include "app/TableText.h"
 
-#include "app/AsciiText.h"
 #include "app/DelimitedText.h"
 #include "app/NumberText.h"
 #include "app/TranslatedText.h"
+#include "app/Utf8Text.h"
 
 #include <algorithm>
+#include <cmath>
+#include <unordered_map>
 
 namespace Talmesh::app
 {
@@ -13,63 +15,9 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr std::string_view blanks = " \t";
 constexpr std::size_t mostColumns = 20000;
 constexpr std::size_t rowsBetweenReports = 2000;
-
-bool isContinuationByte(char c)
-{
-  return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-}
-
-/// The length of the UTF-8 sequence at `at`, 0 when there is no valid one.
-std::size_t sequenceLength(std::string_view text, std::size_t at)
-{
-  const auto lead = static_cast<unsigned char>(text[at]);
-  const std::size_t length = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
-  if (length == 0 || at + length > text.size())
-    return 0;
-  for (std::size_t i = 1; i < length; ++i)
-    if (!isContinuationByte(text[at + i]))
-      return 0;
-  return length;
-}
-
-bool isUtf8(std::string_view text)
-{
-  for (std::size_t at = 0; at < text.size();)
-  {
-    const std::size_t length = sequenceLength(text, at);
-    if (length == 0)
-      return false;
-    at += length;
-  }
-  return true;
-}
-
-std::string toUtf8(std::string_view text)
-{
-  if (isUtf8(text))
-    return std::string(text);
-  std::string utf8;
-  for (const char c : text)
-  {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80)
-      utf8 += c;
-    else
-    {
-      utf8 += static_cast<char>(0xC0U | (byte >> 6U));
-      utf8 += static_cast<char>(0x80U | (byte & 0x3FU));
-    }
-  }
-  return utf8;
-}
+constexpr std::size_t longestNote = 80;
 
 std::string unreadable(std::string_view bytes)
 {
@@ -81,6 +29,59 @@ std::string unreadable(std::string_view bytes)
   if (bytes.find('\0') != std::string_view::npos)
     return translated("TableText", "not a table: the file holds binary data");
   return {};
+}
+
+/// A column that may name the runs.
+struct RunNames
+{
+  std::vector<int> runOfRow;
+  std::vector<std::string> names;
+  std::unordered_map<std::string, int> numbers;
+  /// The first line without a name; 0 when there is none.
+  std::size_t unnamedLine = 0;
+
+  void add(std::string_view field, std::size_t line)
+  {
+    const std::string name = toUtf8(withoutOuterBlanks(field));
+    if (name.empty() && unnamedLine == 0)
+      unnamedLine = line;
+    const auto [entry, added] = numbers.emplace(name, static_cast<int>(names.size()));
+    if (added)
+      names.push_back(name);
+    runOfRow.push_back(entry->second);
+  }
+};
+
+void note(NotedCell& cell, bool wanted, std::string_view field, std::size_t line)
+{
+  if (wanted && cell.line == 0)
+    cell = {line, std::string(field.substr(0, longestNote))};
+}
+
+/// The cell of the earliest line that `noted` tells of any column; null without one.
+const NotedCell* earliest(const std::vector<ColumnValues>& columns, NotedCell ColumnValues::*noted)
+{
+  const NotedCell* first = nullptr;
+  for (const ColumnValues& column : columns)
+  {
+    const NotedCell& cell = column.*noted;
+    if (cell.line > 0 && (!first || cell.line < first->line))
+      first = &cell;
+  }
+  return first;
+}
+
+std::string ambiguousCell(const std::vector<ColumnValues>& columns)
+{
+  const NotedCell* point = earliest(columns, &ColumnValues::firstDecimalPoint);
+  const NotedCell* comma = earliest(columns, &ColumnValues::firstDecimalComma);
+  if (!point || !comma)
+    return {};
+  const NotedCell& later = point->line < comma->line ? *comma : *point;
+  return withValues(
+      translated("TableText",
+                 "line %1: %2 is ambiguous: the table has both decimal points and decimal commas"),
+      {std::to_string(later.line), quotedForMessage(later.text)});
 }
 
 class TableTextReader
@@ -99,6 +100,10 @@ public:
     readHeaders();
     if (table.error.empty())
       readRows();
+    if (table.error.empty() && !table.cancelled)
+      chooseRunColumn();
+    if (table.error.empty() && !table.cancelled)
+      table.error = ambiguousCell(table.columns);
     return std::move(table);
   }
 
@@ -107,7 +112,11 @@ private:
 
   void readHeaders()
   {
-    if (!records.next(fields))
+    // Above the headers a line of nothing but blanks is blank in every table.
+    bool found = records.next(fields);
+    while (found && isBlankRecord(fields) && (fields.size() > 1 || !fields.front().empty()))
+      found = records.next(fields);
+    if (!found)
       table.error = translated("TableText", "the file is empty");
     else if (records.endedInsideQuotes())
       table.error =
@@ -134,6 +143,7 @@ private:
     for (const std::string_view field : fields)
       headers.push_back(toUtf8(field));
     table.roles = assignRoles(headers);
+    candidates.resize(table.roles.runCandidates.size());
     table.columns.resize(headers.size());
   }
 
@@ -144,6 +154,8 @@ private:
       if (records.endedInsideQuotes())
         table.error =
             withValues(translated("TableText", "line %1: a quoted field is not closed"), {line()});
+      else if (table.columns.size() > 1 && isBlankRecord(fields))
+        continue;
       else if (rowFits())
         readRow();
       if (table.rows % rowsBetweenReports == 0 && !report())
@@ -177,57 +189,56 @@ private:
 
   void dropTrailingEmptyFields(std::size_t kept)
   {
-    while (fields.size() > kept && trimmed(fields.back(), blanks).empty())
+    while (fields.size() > kept && withoutOuterBlanks(fields.back()).empty())
       fields.pop_back();
   }
 
   void readRow()
   {
-    for (std::size_t column = 0; column < fields.size() && table.error.empty(); ++column)
-      if (static_cast<int>(column) == table.roles.runColumn)
-        readRunName(fields[column]);
-      else
-        readCell(column, fields[column]);
+    for (std::size_t column = 0; column < fields.size(); ++column)
+      readCell(table.columns[column], fields[column]);
+    for (std::size_t i = 0; i < candidates.size(); ++i)
+      candidates[i].add(fields[table.roles.runCandidates[i]], records.line());
     table.lines.push_back(records.line());
     ++table.rows;
   }
 
-  void readRunName(std::string_view field)
+  void readCell(ColumnValues& column, std::string_view field)
   {
-    const std::string name = toUtf8(trimmed(field, blanks));
-    if (name.empty())
-    {
-      table.error =
-          withValues(translated("TableText", "line %1: the run has no name in the column %2"),
-                     {line(), quotedForMessage(table.roles.headers[table.roles.runColumn].name)});
-      return;
-    }
-    const auto [entry, added] = runNumbers.emplace(name, static_cast<int>(table.runNames.size()));
-    if (added)
-      table.runNames.push_back(name);
-    table.runOfRow.push_back(entry->second);
+    const NumberText number = readNumber(field, commas());
+    const bool isNumber = number.kind == NumberText::Kind::Number;
+    const bool isText = number.kind == NumberText::Kind::Text;
+    column.values.push_back(number.value);
+    column.numbers += isNumber ? 1 : 0;
+    column.texts += isText ? 1 : 0;
+    note(column.firstText, isText, field, records.line());
+    note(column.firstFraction, isNumber && number.value != std::floor(number.value), field,
+         records.line());
+    note(column.firstDecimalPoint, number.decimalPoint, field, records.line());
+    note(column.firstDecimalComma, number.decimalComma, field, records.line());
   }
 
-  void readCell(std::size_t index, std::string_view field)
+  void chooseRunColumn()
   {
-    ColumnValues& column = table.columns[index];
-    const NumberText number = readNumber(field, commas());
-    column.values.push_back(number.value);
-    points = points || number.decimalPoint;
-    decimalCommas = decimalCommas || number.decimalComma;
-    if (points && decimalCommas)
-      table.error = withValues(
-          translated(
-              "TableText",
-              "line %1: %2 is ambiguous: the table has both decimal points and decimal commas"),
-          {line(), quotedForMessage(field)});
-    if (number.kind == NumberText::Kind::Number)
-      ++column.numbers;
-    else if (number.kind == NumberText::Kind::Text && ++column.texts == 1)
+    table.roles.runColumn = -1;
+    for (std::size_t i = 0; i < candidates.size() && table.roles.runColumn < 0; ++i)
     {
-      column.firstText = std::string(field.substr(0, 80));
-      column.firstTextLine = records.line();
+      const int column = table.roles.runCandidates[i];
+      if (table.columns[column].texts > 0 || table.columns[column].firstFraction.line == 0)
+        takeRuns(column, candidates[i]);
     }
+  }
+
+  void takeRuns(int column, RunNames& names)
+  {
+    if (names.unnamedLine > 0)
+      table.error = withValues(
+          translated("TableText", "line %1: the run has no name in the column %2"),
+          {std::to_string(names.unnamedLine), quotedForMessage(table.roles.headers[column].name)});
+    table.roles.runColumn = column;
+    table.columns[column] = ColumnValues();
+    table.runOfRow = std::move(names.runOfRow);
+    table.runNames = std::move(names.names);
   }
 
   bool commas() const { return delimiter != ','; }
@@ -237,9 +248,8 @@ private:
   DelimitedText records;
   const std::function<bool(double)>& progress;
   std::vector<std::string_view> fields;
-  std::unordered_map<std::string, int> runNumbers;
-  bool points = false;
-  bool decimalCommas = false;
+  /// One for each of the roles' run candidates.
+  std::vector<RunNames> candidates;
   TableText table;
 };
 
@@ -252,23 +262,6 @@ TableText readTableText(std::string_view bytes, const std::function<bool(double)
   if (!table.error.empty())
     return table;
   return TableTextReader(withoutByteOrderMark(bytes), progress).read();
-}
-
-std::string quotedForMessage(std::string_view text)
-{
-  constexpr std::size_t longest = 40;
-  std::string shown = toUtf8(text);
-  if (shown.size() > longest)
-  {
-    std::size_t cut = longest;
-    while (cut > 0 && isContinuationByte(shown[cut]))
-      --cut;
-    shown = shown.substr(0, cut) + "...";
-  }
-  for (char& c : shown)
-    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F)
-      c = ' ';
-  return '"' + shown + '"';
 }
 
 } // namespace Talmesh::app

@@ -13,21 +13,31 @@
 namespace Talmesh::app
 {
 
+/// A cell that a message may have to name.
+struct NotedCell
+{
+  /// The line, counted from 1; 0 for none.
+  std::size_t line = 0;
+  std::string text;
+};
+
 /// The values of one column as read.
 struct ColumnValues
 {
   std::vector<double> values;
   std::size_t numbers = 0;
   std::size_t texts = 0;
-  /// The first text among the cells and its line.
-  std::string firstText;
-  std::size_t firstTextLine = 0;
+  NotedCell firstText;
+  NotedCell firstFraction;
+  NotedCell firstDecimalPoint;
+  NotedCell firstDecimalComma;
 };
 
 /// A delimited text read into columns, without regard to runs.
 struct TableText
 {
   ColumnRoles roles;
+  /// The values of all columns but that of the runs, which has none.
   std::vector<ColumnValues> columns;
   std::size_t rows = 0;
   std::vector<std::size_t> lines;
@@ -39,12 +49,10 @@ struct TableText
 };
 
 /// Reads headers and cells. Every row must have as many fields as there are headers; empty fields
-/// beyond them, as spreadsheets leave them, are ignored.
+/// beyond them and, in a table of several columns, blank rows, as spreadsheets leave them, are
+/// ignored. A column with a name of runs whose cells are numbers, not all of them whole, does not
+/// name runs, and the next one with such a name does.
 TableText readTableText(std::string_view bytes, const std::function<bool(double)>& progress);
-
-/// A text from a file as it can stand inside a message of one line: quoted, without line breaks
-/// and control characters, cut to some forty bytes.
-std::string quotedForMessage(std::string_view text);
 
 } // namespace Talmesh::app
 

@@ -43,11 +43,37 @@ TEST(ColumnRoles, TakesEveryOtherHeaderAsPlain)
 
 TEST(ColumnRoles, KnowsTheNamesOfTime)
 {
-  for (const char* name : {"time", "Time", "TIME", "t", "Time [s]", "time (min)", "t [h]", "time_s",
-                           "Time/s", "time.ms", "time s", "timepoint", "Time Point", "t/min"})
+  for (const char* name : {"time",
+                           "Time",
+                           "TIME",
+                           "t",
+                           "Time [s]",
+                           "time (min)",
+                           "t [h]",
+                           "time_s",
+                           "Time/s",
+                           "time.ms",
+                           "time s",
+                           "timepoint",
+                           "Time Point",
+                           "t/min",
+                           "Time / s",
+                           "t / h",
+                           "Time, s",
+                           "t,min",
+                           "simulation_time",
+                           "Simulation Time [s]",
+                           "sim time",
+                           "T [s]",
+                           "T (h)",
+                           "Zeit",
+                           "Zeit [s]",
+                           "Zeit / s",
+                           "Time\u00A0[s]"})
     EXPECT_TRUE(isTimeName(name)) << name;
-  for (const char* name : {"", "T", "T [K]", "timer", "temperature", "half-time", "x", "tetR",
-                           "time constant", "[s]", "s"})
+  for (const char* name :
+       {"", "T", "T [K]", "timer", "temperature", "half-time", "x", "tetR", "time constant", "[s]",
+        "s", "T [m2]", "T_m", "T / s", "T s", "x / s", "Zeitkonstante", "simulation"})
     EXPECT_FALSE(isTimeName(name)) << name;
 }
 
@@ -76,6 +102,48 @@ TEST(ColumnRoles, PrefersTypedTimeAndRun)
   EXPECT_EQ(roles.runColumn, 2);
 }
 
+TEST(ColumnRoles, PrefersANameOfTimeAmongTypedColumnsOfItsKind)
+{
+  EXPECT_EQ(assignRoles({": Value", ": Time [s]"}).timeColumn, 1);
+  EXPECT_EQ(assignRoles({": Period", ": Lap Time", ": t"}).timeColumn, 2);
+  EXPECT_EQ(assignRoles({": Period", ": Lap Time"}).timeColumn, 1);
+  EXPECT_EQ(assignRoles({": t", ": Time [s]"}).timeColumn, 1);
+  EXPECT_EQ(assignRoles({": Value", "time"}).timeColumn, 0);
+}
+
+TEST(ColumnRoles, ListsAllColumnsThatMayNameTheRuns)
+{
+  EXPECT_EQ(assignRoles({"Rep", "run", "x", ": Run Index"}).runCandidates,
+            (std::vector<int>{3, 0, 1}));
+}
+
+TEST(ColumnRoles, DropsTheMarkOfACommentBeforeTheFirstHeader)
+{
+  EXPECT_EQ(assignRoles({"# time", "# X"}).headers[0].name, "time");
+  EXPECT_EQ(assignRoles({"# time", "# X"}).headers[1].name, "# X");
+  EXPECT_EQ(assignRoles({"#time", "X"}).timeColumn, 0);
+  EXPECT_EQ(assignRoles({"# cells", "X"}).headers[0].name, "cells");
+  EXPECT_EQ(assignRoles({"#cells", "X"}).headers[0].name, "#cells");
+  EXPECT_EQ(assignRoles({"#", "X"}).headers[0].name, "#");
+}
+
+TEST(ColumnRoles, GivesTimeANameThatThePlotsKnow)
+{
+  EXPECT_EQ(plottedTimeName("time"), "Time");
+  EXPECT_EQ(plottedTimeName("TIME"), "Time");
+  EXPECT_EQ(plottedTimeName("t [s]"), "Time [s]");
+  EXPECT_EQ(plottedTimeName("T (h)"), "Time (h)");
+  EXPECT_EQ(plottedTimeName("time_s"), "Time_s");
+  EXPECT_EQ(plottedTimeName("timepoint"), "Time (timepoint)");
+  EXPECT_EQ(plottedTimeName("Zeit [s]"), "Time (Zeit [s])");
+  EXPECT_EQ(plottedTimeName("Sim Time"), "Sim Time");
+  for (const char* name : {"time", "t [s]", "T (h)", "time_s", "timepoint", "Zeit [s]", "sim time"})
+  {
+    EXPECT_TRUE(plotsTakeForTime(plottedTimeName(name))) << name;
+    EXPECT_TRUE(isTimeName(plottedTimeName(name))) << name;
+  }
+}
+
 TEST(ColumnRoles, DoesNotTakeAnItemOfAnotherKindForTimeOrRun)
 {
   const ColumnRoles roles = assignRoles({"Molecule: time", "Parameter: run"});
@@ -94,6 +162,15 @@ TEST(ColumnRoles, NamesColumnsWithoutANameByPosition)
   const ColumnRoles roles = assignRoles({"", "a", " "});
   EXPECT_EQ(roles.headers[0].name, "Column 1");
   EXPECT_EQ(roles.headers[2].name, "Column 3");
+  EXPECT_TRUE(roles.headers[0].unnamed);
+  EXPECT_FALSE(roles.headers[1].unnamed);
+}
+
+TEST(ColumnRoles, DoesNotNumberAPlainNameThatATypedHeaderHas)
+{
+  const ColumnRoles roles = assignRoles({"a", "Undefined Type: a", "Molecule: a"});
+  for (const ColumnHeader& header : roles.headers)
+    EXPECT_EQ(header.name, "a");
 }
 
 TEST(ColumnRoles, NumbersColumnsOfTheSameLabel)

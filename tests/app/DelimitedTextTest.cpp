@@ -63,6 +63,20 @@ TEST(DelimitedText, TakesAQuoteInsideAPlainFieldAsItStands)
   EXPECT_EQ(readAll("5\",6\n", ','), (Records{{"5\"", "6"}}));
 }
 
+TEST(DelimitedText, LeavesBlanksAroundQuotesOut)
+{
+  EXPECT_EQ(readAll("time, \"A\"\n0, \"1.5\"\n", ','), (Records{{"time", "A"}, {"0", "1.5"}}));
+  EXPECT_EQ(readAll("\"a\" , \t\"b, c\"  \r\n", ','), (Records{{"a", "b, c"}}));
+  EXPECT_EQ(readAll("\"a\" ,\"b\" ", ','), (Records{{"a", "b"}}));
+  EXPECT_EQ(readAll("\"a\"\t\"b\"\n", '\t'), (Records{{"a", "b"}}));
+}
+
+TEST(DelimitedText, KeepsBlanksOfFieldsWithoutQuotesAndInsideQuotes)
+{
+  EXPECT_EQ(readAll(" a , \" b \" \n", ','), (Records{{" a ", " b "}}));
+  EXPECT_EQ(readAll("\"a \" b\" ,c\n", ','), (Records{{"a \" b", "c"}}));
+}
+
 TEST(DelimitedText, TellsAQuoteThatIsNeverClosed)
 {
   const std::string text = "a,b\n1,\"2\n3,4\n";
@@ -98,6 +112,20 @@ TEST(DelimitedText, DoesNotTakeDecimalCommasForDelimiters)
   EXPECT_EQ(detectDelimiter("t;x\n0,5;1,25\n"), ';');
   EXPECT_EQ(detectDelimiter("t\tx\n0,5\t1,25\n"), '\t');
   EXPECT_EQ(detectDelimiter("x\n0,5\n1,5\n"), ';');
+}
+
+TEST(DelimitedText, PrefersTheDelimiterThatLeavesNumbers)
+{
+  EXPECT_EQ(detectDelimiter("Time, s;Conc, mM\n0,5;1,25\n1,5;2,25\n"), ';');
+  EXPECT_EQ(detectDelimiter("Time, s\tConc, mM\n0,5\t1,25\n"), '\t');
+  EXPECT_EQ(detectDelimiter("name;unit,time\nX;mM,0.5\n"), ',');
+  EXPECT_EQ(detectDelimiter("a,b;c,d\nx,y;z,u\n"), ',');
+}
+
+TEST(DelimitedText, DoesNotLetBlankRowsDecideOnTheDelimiter)
+{
+  EXPECT_EQ(detectDelimiter("a,b;x\n  \n;\n1,2;3\n"), ';');
+  EXPECT_EQ(detectDelimiter("  \na,b\n \n1,2\n"), ',');
 }
 
 TEST(DelimitedText, DoesNotCountDelimitersInsideQuotes)

@@ -52,6 +52,45 @@ TEST(NumberText, LeavesNumbersBeyondTheRangeOfADoubleInfiniteOrZero)
   expectNumber("1" + std::string(400, '0'), infinity);
 }
 
+TEST(NumberText, TellsTheOverflowFromTheUnderflowByTheFirstDigitAndTheExponent)
+{
+  const std::string zeros(400, '0');
+  expectNumber("0." + zeros + "1e5", 0.0);
+  expectNumber("1" + zeros + "e-1", infinity);
+  expectNumber("-1" + zeros + "e-1", -infinity);
+  expectNumber("0." + zeros + "1e800", infinity);
+  expectNumber("1" + zeros + "e-800", 0.0);
+  expectNumber("+.1e400", infinity);
+  expectNumber("1e99999999999999999999", infinity);
+  expectNumber("-1e-99999999999999999999", 0.0);
+  EXPECT_TRUE(std::signbit(readNumber("-1e-400", false).value));
+}
+
+TEST(NumberText, ReadsTheExponentsOfFortran)
+{
+  expectNumber("1.0D-03", 1e-3);
+  expectNumber("-2.5d+02", -250.0);
+  expectNumber("6D3", 6000.0);
+  expectNumber("1,5D1", 15.0, true);
+  for (const char* text : {"D3", "1D", "2D-", "3d4d5", "0dx", "id1"})
+    expectKind(text, NumberText::Kind::Text);
+}
+
+TEST(NumberText, ReadsTheMinusOfTypesetters)
+{
+  expectNumber("\u22121.5", -1.5);
+  expectNumber("\u22122e\u22123", -2e-3);
+  expectKind("\u2212", NumberText::Kind::Missing);
+  expectKind("1\u22122", NumberText::Kind::Text);
+}
+
+TEST(NumberText, TakesANonBreakingSpaceForABlank)
+{
+  expectNumber("\u00A01.5\u00A0 ", 1.5);
+  expectKind(" \u00A0", NumberText::Kind::Missing);
+  expectKind("1\u00A0000", NumberText::Kind::Text);
+}
+
 TEST(NumberText, TakesEmptyCellsAndTheWordsForNothingAsMissing)
 {
   for (const char* text : {"", "  ", "NA", "n/a", "NaN", "nan", "null", "None", "-", ".", "#N/A"})

@@ -224,7 +224,8 @@ TEST(RunTableImport, PutsNumberedRunsIntoOrder)
 TEST(RunTableImport, NumbersRunsWhoseNamesAreNoWholeNumbers)
 {
   expectValues(imported("run,time,X\nb,0,1\nb,1,2\na,0,3\na,1,4\n"), ": Run Index", {0, 0, 1, 1});
-  expectValues(imported("run,time,X\n0.5,0,1\n0.7,0,2\n"), ": Run Index", {0, 1});
+  expectValues(imported("run,time,X\n1.5 mM,0,1\n0.7 mM,0,2\n"), ": Run Index", {0, 1});
+  expectValues(imported("run,time,X\n1D2,0,1\n1D1,0,2\n"), ": Run Index", {0, 1});
   expectValues(imported("run,time,X\n1,0,1\n01,0,2\n"), ": Run Index", {0, 1});
   expectValues(imported("run,time,X\n1e30,0,1\n2,0,2\n"), ": Run Index", {0, 1});
 }

@@ -21,6 +21,14 @@ TEST(RunTableRefusals, RefusesARunThatStartsAgain)
             "run \"1\" starts again in line 6: two runs have the same name");
 }
 
+TEST(RunTableRefusals, RefusesTwoRunsOfOneNameThatFollowEachOther)
+{
+  EXPECT_EQ(errorOf("run,time,X\n7,0,1\n7,1,2\n7,0,3\n7,1,4\n8,0,1\n8,1,1\n8,2,1\n8,3,1\n"),
+            "run \"7\" starts again in line 4: two runs have the same name");
+  EXPECT_EQ(errorOf("run,time,X\n7,5,1\n7,,2\n7,3,3\n"),
+            "run \"7\" starts again in line 4: two runs have the same name");
+}
+
 TEST(RunTableRefusals, NamesTheRunOfAnotherLength)
 {
   EXPECT_EQ(errorOf("run,time,X\na,0,1\na,1,2\nb,0,3\nc,0,1\nc,1,2\n"),
@@ -32,15 +40,15 @@ TEST(RunTableRefusals, NamesTheRunOfAnotherLength)
 TEST(RunTableRefusals, NamesTheRunOfAnotherLengthFoundByTime)
 {
   EXPECT_EQ(errorOf("time,X\n0,1\n1,2\n0,1\n1,2\n2,3\n0,1\n1,2\n"),
-            "run 2 (from line 4, where time falls back) has 3 points, other runs have 2");
+            "run 1 (from line 4, where time falls back) has 3 points, other runs have 2");
   EXPECT_EQ(errorOf("time,X\n0,1\n0,1\n1,2\n0,1\n1,2\n0,1\n1,2\n"),
-            "run 1 has 3 points, other runs have 2");
+            "run 0 has 3 points, other runs have 2");
 }
 
 TEST(RunTableRefusals, NumbersTheLineWhereAShortRunStarts)
 {
   EXPECT_EQ(errorOf("time,X\n0,1\n1,2\n\n0,1\n1,2\n0,1\n"),
-            "run 3 (from line 7, where time falls back) has 1 point, other runs have 2");
+            "run 2 (from line 7, where time falls back) has 1 point, other runs have 2");
 }
 
 TEST(RunTableRefusals, RefusesTextAmongNumbers)
@@ -54,6 +62,15 @@ TEST(RunTableRefusals, RefusesRowsOfAnotherLength)
 {
   EXPECT_EQ(errorOf("time,X\n0,1\n1\n"), "line 3 has 1 field, the first line has 2");
   EXPECT_EQ(errorOf("time,X\n0,1,2\n"), "line 2 has 3 fields, the first line has 2");
+}
+
+TEST(RunTableRefusals, CountsRunsAsTheirIndexDoes)
+{
+  // The index of the runs of a table without a run column is 0, 1, 2.
+  const std::string complete = "time,X\n0,1\n1,2\n0,1\n1,2\n0,1\n";
+  EXPECT_EQ(values(imported(complete + "1,2\n"), ": Run Index").back(), 2.0);
+  EXPECT_EQ(errorOf(complete),
+            "run 2 (from line 6, where time falls back) has 1 point, other runs have 2");
 }
 
 TEST(RunTableRefusals, RefusesARowWithoutItsRun)
@@ -93,7 +110,7 @@ TEST(RunTableRefusals, SurvivesDamagedTables)
 {
   const std::string whole =
       "run,\"time [s]\",k1,X\r\n0,0,\"0,5\",1\n0,1,0.5,3\n1,0,,5\n1;1;0,7;inf\n";
-  const std::string spice = "\",;\t\r\n.e-+0NaN \xEF\xBB\xBF\xFF:";
+  const std::string spice = "\",;\t\r\n.e-+0NaN \xEF\xBB\xBF\xFF:#D\xC2\xA0\xE2\x88\x92";
   std::mt19937 generator(7);
   for (int i = 0; i < 20000; ++i)
   {
