@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace Talmesh::app
 {
@@ -48,14 +49,15 @@ std::size_t varyingParameters(const LinePlotTable& runs)
                     [](const auto& range) { return range.first != range.second; }));
 }
 
-/// The position of the first column that holds a plotted item; 0 without one.
-int firstPlottedColumn(const PlotContainer& container)
+/// The positions of the columns that hold plotted items; the first column without any.
+std::vector<int> plottedColumns(const PlotContainer& container)
 {
   const auto& items = container.getColumnItems();
-  const auto found = std::find_if(items.begin(), items.end(),
-                                  [](const TypedConcentrationName& item)
-                                  { return item.first != TimeOrValue && item.first != Parameter; });
-  return found == items.end() ? 0 : static_cast<int>(found - items.begin());
+  std::vector<int> columns;
+  for (std::size_t i = 0; i < items.size(); ++i)
+    if (items[i].first != TimeOrValue && items[i].first != Parameter)
+      columns.push_back(static_cast<int>(i));
+  return columns.empty() ? std::vector<int>{0} : columns;
 }
 
 /// The colour of the first series. The more runs lie on each other, the more light shines through.
@@ -84,7 +86,9 @@ void showStudy(const Study& study, PlotContainer& container)
   else if (study.runs)
   {
     container.setLinePlotTable(study.runs, false);
-    settings.yColumns = {firstPlottedColumn(container)};
+    const std::vector<int> plotted = plottedColumns(container);
+    settings.yColumns = {plotted.front()};
+    settings.zColumns = {plotted[std::min<std::size_t>(1, plotted.size() - 1)]};
     settings.blockSignals(true);
     settings.setPlotLine(study.runs->pointsPerTrajectory > 1);
     // All columns of a study would be too many scatter plots to read, and slow to draw.

@@ -87,6 +87,16 @@ TEST_F(StudyInAContainer, DoesNotTakeTimeForAnItem)
             container);
   EXPECT_EQ(settings().xColumns, std::vector<int>{0});
   EXPECT_EQ(settings().yColumns, std::vector<int>{3});
+  EXPECT_EQ(settings().zColumns, std::vector<int>{3});
+}
+
+TEST_F(StudyInAContainer, DrawsTheSecondItemUpwards)
+{
+  showStudy(sampleStudy(": Time [s],: Run Index,Parameter: k,Complex: X,Complex: Y\n"
+                        "0,0,1,5,6\n1,0,1,6,7\n0,1,2,5,8\n1,1,2,6,9\n"),
+            container);
+  EXPECT_EQ(settings().yColumns, std::vector<int>{3});
+  EXPECT_EQ(settings().zColumns, std::vector<int>{4});
 }
 
 TEST_F(StudyInAContainer, ShowsRunsOfOnePointAsPoints)
