@@ -1,5 +1,6 @@
 #include "app/RunNormaliser.h"
 
+#include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
@@ -70,7 +71,9 @@ void RunNormaliser::follow(PlotContainer* followed)
 /// A column behind those of the items has been added to the runs.
 bool RunNormaliser::isScalable(int column) const
 {
-  if (!container || !plot::doubleColumn(container->getTable(), column) ||
+  // Without runs over time there would be nothing to compare a maximum with.
+  const bool runs = container && container->getMetaData()->getStride() > 1;
+  if (!runs || !plot::doubleColumn(container->getTable(), column) ||
       plot::columnName(container->getTable(), column).empty())
     return false;
   const auto& items = container->getColumnItems();

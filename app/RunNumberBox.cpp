@@ -18,8 +18,8 @@ constexpr int nowhere = -1;
 void RunNumberBox::setNumbers(std::vector<int> numbers)
 {
   const QSignalBlocker silent(this);
-  numbersOfRuns = std::move(numbers);
-  setRange(0, std::max(0, static_cast<int>(numbersOfRuns.size()) - 1));
+  runNumbers = std::move(numbers);
+  setRange(0, std::max(0, static_cast<int>(runNumbers.size()) - 1));
   setValue(0);
   // The same place may have another number now.
   lineEdit()->setText(textFromValue(value()));
@@ -27,17 +27,17 @@ void RunNumberBox::setNumbers(std::vector<int> numbers)
 
 QString RunNumberBox::textFromValue(int place) const
 {
-  const bool known = place >= 0 && place < static_cast<int>(numbersOfRuns.size());
-  return QString::number(known ? numbersOfRuns[static_cast<std::size_t>(place)] : place);
+  const bool known = place >= 0 && place < static_cast<int>(runNumbers.size());
+  return QString::number(known ? runNumbers[static_cast<std::size_t>(place)] : place);
 }
 
 int RunNumberBox::placeOf(const QString& text) const
 {
   bool isNumber = false;
   const int number = text.trimmed().toInt(&isNumber);
-  const auto found = std::find(numbersOfRuns.begin(), numbersOfRuns.end(), number);
-  return isNumber && found != numbersOfRuns.end() ? static_cast<int>(found - numbersOfRuns.begin())
-                                                  : nowhere;
+  const auto found = std::find(runNumbers.begin(), runNumbers.end(), number);
+  return isNumber && found != runNumbers.end() ? static_cast<int>(found - runNumbers.begin())
+                                               : nowhere;
 }
 
 int RunNumberBox::valueFromText(const QString& text) const

@@ -25,7 +25,7 @@ public:
 private:
   int placeOf(const QString& text) const;
 
-  std::vector<int> numbersOfRuns;
+  std::vector<int> runNumbers;
 };
 
 } // namespace Talmesh::app

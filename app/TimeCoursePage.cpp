@@ -43,7 +43,7 @@ int timeOfCourses(const LinePlotTable& runs)
 
 /// The numbers that the runs have in the table, or those of their places when they cannot tell the
 /// runs apart.
-std::vector<int> numbersOfRuns(const LinePlotTable& runs)
+std::vector<int> shownRunNumbers(const LinePlotTable& runs)
 {
   std::vector<int> places(runs.numberOfTrajectories);
   std::iota(places.begin(), places.end(), 0);
@@ -197,7 +197,7 @@ void TimeCoursePage::fill()
 {
   outdated = false;
   const bool shown = runs && timeOfCourses(*runs) >= 0 && runs->numberOfTrajectories > 0;
-  run->setNumbers(shown ? numbersOfRuns(*runs) : std::vector<int>());
+  run->setNumbers(shown ? shownRunNumbers(*runs) : std::vector<int>());
   run->setEnabled(shown);
   if (!shown)
   {

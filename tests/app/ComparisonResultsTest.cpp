@@ -111,6 +111,28 @@ protected:
   }
 };
 
+/// The second run has other times than all others.
+class ComparisonResultsOfUnlikeTimes : public ComparisonResults
+{
+protected:
+  ComparisonResultsOfUnlikeTimes()
+      : ComparisonResults(textOfRuns())
+  {
+  }
+
+private:
+  static std::string textOfRuns()
+  {
+    std::ostringstream text;
+    text << "run,time,k,X\n";
+    for (int run = 0; run < 20; ++run)
+      for (int point = 0; point < 3; ++point)
+        text << run << ',' << (run == 1 ? 11 : 1) * point << ',' << run << ',' << run + point
+             << '\n';
+    return text.str();
+  }
+};
+
 class ComparisonResultsWithAGap : public ComparisonResults
 {
 protected:
@@ -247,9 +269,9 @@ TEST_F(ComparisonResults, CountRunsHoweverManyOfTheirRowsAreSelected)
   }
 }
 
-TEST_F(ComparisonResults, CountRunsThatAreNotSelectedAtEveryTimeAmongTheOthers)
+TEST_F(ComparisonResultsOfUnlikeTimes, CountRunsThatAreNotSelectedAtEveryTimeAmongTheOthers)
 {
-  // Runs 0 and 1 at the first time, run 0 alone at the second.
+  // Runs 0 and 1 at the first time, run 0 alone at the second, which run 1 does not have.
   selectRows({0, 1, 3});
   const Comparison comparison = comparisonOf(container());
   ASSERT_FALSE(comparison.parameters.empty());
