@@ -95,7 +95,8 @@ void ClusterDock::makeForm()
     connect(box, &QCheckBox::toggled, this, &ClusterDock::lookChanged);
   normalise = addSwitch(QStringLiteral("normaliseRuns"), tr("Normalise each run to its ma&ximum"),
                         tr("Scale each run of the chosen y columns so that its largest value is 1; "
-                           "unticked, the values are loaded again"));
+                           "unticked, the values are loaded again. Times, numbers of runs and "
+                           "parameters are left out"));
   connect(normalise, &QCheckBox::toggled, this, &ClusterDock::normalisingRequested);
 }
 

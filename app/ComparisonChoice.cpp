@@ -15,7 +15,7 @@ namespace Talmesh::app
 namespace
 {
 
-/// Under this name a container remembers what its quartiles were computed from.
+/// Under this name a container remembers which quartiles it has and what of.
 constexpr const char* quartileSource = "talmeshQuartileSource";
 
 QString sourceOfQuartiles(const PlotContainer& container)
@@ -28,6 +28,14 @@ QString sourceOfQuartiles(const PlotContainer& container)
   };
   return stateOf(plot::firstOf(settings.xColumns)) + stateOf(plot::firstOf(settings.yColumns)) +
          QString::number(settings.getStride());
+}
+
+/// Tells one computation of the quartiles from another: others compute them too, and for other
+/// columns. The table itself counts as changed with every drawing, its columns do not.
+QString quartilesNow(const PlotContainer& container)
+{
+  vtkAbstractArray* range = plot::columnNamed(container.getQuartileTable(), "Range");
+  return range ? QStringLiteral(" %1").arg(range->GetMTime()) : QString();
 }
 
 } // namespace
@@ -64,10 +72,11 @@ void refreshQuartiles(PlotContainer& container)
   if (!container.getMetaData()->getShowQuantiles())
     return;
   const QString source = sourceOfQuartiles(container);
-  if (container.getQuartileTable() && container.property(quartileSource).toString() == source)
+  if (container.getQuartileTable() &&
+      container.property(quartileSource).toString() == source + quartilesNow(container))
     return;
   container.generateQuartiles();
-  container.setProperty(quartileSource, source);
+  container.setProperty(quartileSource, source + quartilesNow(container));
 }
 
 void chooseOpeningStyle(PlotContainer& container, const CommandLineOptions& options)

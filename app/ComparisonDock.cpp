@@ -32,6 +32,7 @@ ComparisonDock::ComparisonDock(QWidget* parent)
   connect(settings, &ComparisonSettings::choiceChanged, this, &ComparisonDock::choiceChanged);
   connect(settings, &ComparisonSettings::styleChosen, this, &ComparisonDock::styleChosen);
   connect(results, &ComparisonTable::said, this, &ComparisonDock::said);
+  connect(results, &ComparisonTable::failed, this, &ComparisonDock::failed);
 }
 
 void ComparisonDock::refresh(const PlotContainer& container)

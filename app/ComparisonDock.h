@@ -32,6 +32,8 @@ signals:
   void styleChosen(plotStyles style);
   /// What has become of a step with the table, in one line.
   void said(const QString& message);
+  /// Why a step with the table could not be done, in one line.
+  void failed(const QString& message);
 
 private:
   ComparisonSettings* settings;

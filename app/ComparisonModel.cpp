@@ -4,7 +4,6 @@
 #include <QLocale>
 
 #include <cmath>
-#include <limits>
 
 namespace Talmesh::app
 {
@@ -35,7 +34,35 @@ QString full(const QVariant& value)
 QVariant sortable(const QVariant& value)
 {
   const bool nan = value.userType() == QMetaType::Double && std::isnan(value.toDouble());
-  return nan ? QVariant(std::numeric_limits<double>::infinity()) : value;
+  return nan ? QVariant() : value;
+}
+
+bool isResult(int column)
+{
+  return column == ComparisonModel::Statistic || column == ComparisonModel::PValue ||
+         column == ComparisonModel::AdjustedPValue || column == ComparisonModel::Significant;
+}
+
+QString reasonOf(TestObstacle obstacle)
+{
+  switch (obstacle)
+  {
+  case TestObstacle::repeatedValues:
+    return ComparisonModel::tr(
+        "Not tested. Values repeat: the test needs a value of its own for every run.");
+  case TestObstacle::missingValues:
+    return ComparisonModel::tr("Not tested. Values are missing: the test needs a number for every "
+                               "run.");
+  case TestObstacle::changingValues:
+    return ComparisonModel::tr("Not tested. Values change within a run: the test needs one value "
+                               "for every run.");
+  case TestObstacle::otherParameter:
+    return ComparisonModel::tr("Not tested. Another parameter has missing values or changes within "
+                               "a run, which distorts this test.");
+  case TestObstacle::none:
+    break;
+  }
+  return {};
 }
 
 } // namespace
@@ -80,11 +107,30 @@ QVariant ComparisonModel::valueAt(const ComparedParameter& parameter, int column
   }
 }
 
+QVariant ComparisonModel::untested(const ComparedParameter& parameter, int column, int role)
+{
+  switch (role)
+  {
+  case Qt::DisplayRole:
+    return QString(QChar(0x2013)); // en dash
+  case FullTextRole:
+    return column == Significant ? tr("not tested") : QString();
+  case Qt::ToolTipRole:
+    return reasonOf(parameter.obstacle);
+  default:
+    return {};
+  }
+}
+
 QVariant ComparisonModel::data(const QModelIndex& index, int role) const
 {
   if (!index.isValid() || index.row() >= rowCount())
     return {};
   const ComparedParameter& parameter = parameters[static_cast<std::size_t>(index.row())];
+  if (role == Qt::TextAlignmentRole)
+    return int(Qt::AlignVCenter | (index.column() == Name ? Qt::AlignLeft : Qt::AlignRight));
+  if (parameter.obstacle != TestObstacle::none && isResult(index.column()))
+    return untested(parameter, index.column(), role);
   const QVariant value = valueAt(parameter, index.column());
   switch (role)
   {
@@ -95,8 +141,6 @@ QVariant ComparisonModel::data(const QModelIndex& index, int role) const
   case Qt::ToolTipRole:
   case FullTextRole:
     return full(value);
-  case Qt::TextAlignmentRole:
-    return int(Qt::AlignVCenter | (index.column() == Name ? Qt::AlignLeft : Qt::AlignRight));
   case Qt::FontRole:
   {
     QFont font;
@@ -129,9 +173,9 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
                     "parameters at once")
                : tr("Adjusted p");
   case Selected:
-    return tip ? tr("Number of values of the selected runs") : tr("Selected");
+    return tip ? tr("Number of selected runs") : tr("Selected");
   case Others:
-    return tip ? tr("Number of values of the runs that are not selected") : tr("Not selected");
+    return tip ? tr("Number of runs that are not selected") : tr("Not selected");
   case Significant:
     return tip ? tr("Whether p and D meet the thresholds") : tr("Significant");
   default:

@@ -8,7 +8,8 @@
 namespace Talmesh::app
 {
 
-/// A comparison as a table: one row per parameter.
+/// A comparison as a table: one row per parameter. A parameter that was not tested has dashes for
+/// the results, and the reason as their tool tip.
 class ComparisonModel : public QAbstractTableModel
 {
   Q_OBJECT
@@ -28,9 +29,9 @@ public:
 
   enum Role
   {
-    /// What rows are ordered by: numbers as numbers, NaN behind them.
+    /// What rows are ordered by: numbers as numbers. No value for NaN and for what was not tested.
     SortRole = Qt::UserRole,
-    /// The value in full, as text for other programs.
+    /// The value in full, as text for other programs. Empty for numbers that were not computed.
     FullTextRole
   };
 
@@ -44,6 +45,7 @@ public:
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+  static QVariant untested(const ComparedParameter& parameter, int column, int role);
   QVariant valueAt(const ComparedParameter& parameter, int column) const;
 
   std::vector<ComparedParameter> parameters;

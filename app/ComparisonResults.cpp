@@ -7,12 +7,18 @@
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 #include "stats/FalseDiscovery.h"
+#include "stats/RankedParameter.h"
+#include "vtk/SelectionColumns.h"
 
+#include <vtkIdTypeArray.h>
 #include <vtkIntArray.h>
 #include <vtkSmartPointer.h>
 #include <vtkTable.h>
 
 #include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <limits>
 #include <optional>
 
 namespace Talmesh::app
@@ -21,8 +27,11 @@ namespace Talmesh::app
 namespace
 {
 
-/// Where the reaction to a selection puts the rank tables of the two groups of runs.
+/// Where the reaction to a selection puts the rows of the two groups of runs and, behind them,
+/// their rank tables.
+constexpr std::size_t selectedRows = 2;
 constexpr std::size_t selectedRanks = 3;
+constexpr std::size_t otherRows = 5;
 constexpr std::size_t otherRanks = 6;
 constexpr const char* valuesPrefix = "Sorted ";
 
@@ -42,33 +51,75 @@ vtkTable* derivedTable(const PlotContainer& container, std::size_t slot)
   return slot < tables.size() ? tables[slot].Get() : nullptr;
 }
 
-/// The values of one parameter that were compared; null if it was not.
-vtkAbstractArray* comparedValues(const PlotContainer& container, std::size_t slot, std::size_t k)
+/// Whether one parameter's values were ranked.
+bool isRanked(const PlotContainer& container, vtkTable* ranks, std::size_t k)
 {
-  const std::string name = valuesPrefix + plot::parameterLabel(container.state(), k);
-  return plot::columnNamed(derivedTable(container, slot), name);
+  return plot::columnNamed(ranks, valuesPrefix + plot::parameterLabel(container.state(), k));
 }
 
-std::size_t countOf(vtkAbstractArray* values)
+/// The number of runs with a row that one of the columns marks. A selection covers some rows of
+/// every run, so that the numbers of rows do not tell it.
+std::size_t markedRuns(const PlotContainer& container, std::initializer_list<const char*> columns)
 {
-  return values ? static_cast<std::size_t>(values->GetNumberOfTuples()) : 0;
+  const vtkIdType stride = std::max(container.getMetaData()->getStride(), 1);
+  const vtkIdType rows = container.getTable()->GetNumberOfRows();
+  std::vector<bool> marked(static_cast<std::size_t>(rows / stride + 1), false);
+  for (const char* name : columns)
+    if (auto* marks = vtkIdTypeArray::SafeDownCast(plot::columnNamed(container.getTable(), name)))
+      for (vtkIdType row = 0; row < std::min(rows, marks->GetNumberOfTuples()); ++row)
+        if (marks->GetTypedComponent(row, 0) != 0)
+          marked[static_cast<std::size_t>(row / stride)] = true;
+  return static_cast<std::size_t>(std::count(marked.begin(), marked.end(), true));
+}
+
+/// One of the two groups.
+struct GroupOfRuns
+{
+  vtkTable* rows = nullptr;
+  vtkTable* ranks = nullptr;
+  std::size_t runs = 0;
+};
+
+/// What keeps the values of parameter `k` in one group from being a sample of its runs.
+TestObstacle obstacleIn(const PlotContainer& container, const GroupOfRuns& group, std::size_t k)
+{
+  const int index = container.getMetaData()->parameterColumns[k];
+  auto* column = vtkDataArray::SafeDownCast(plot::columnAt(group.rows, index));
+  if (!column)
+    return TestObstacle::missingValues;
+  const std::vector<double> values = stats::distinctValues(
+      static_cast<std::size_t>(column->GetNumberOfTuples()),
+      [column](std::size_t row) { return column->GetComponent(static_cast<vtkIdType>(row), 0); });
+  if (values.empty() || std::isnan(values.back()))
+    return TestObstacle::missingValues;
+  if (values.size() < group.runs)
+    return TestObstacle::repeatedValues;
+  if (values.size() > group.runs)
+    return TestObstacle::changingValues;
+  const bool filledUp = static_cast<std::size_t>(group.ranks->GetNumberOfRows()) != values.size();
+  return filledUp ? TestObstacle::otherParameter : TestObstacle::none;
 }
 
 /// Nothing for a parameter that was not compared.
-std::optional<ComparedParameter> resultOf(const PlotContainer& container, std::size_t k)
+std::optional<ComparedParameter> resultOf(const PlotContainer& container,
+                                          const GroupOfRuns& selected, const GroupOfRuns& others,
+                                          std::size_t k)
 {
   const PlotMetaData& settings = *container.getMetaData();
-  vtkAbstractArray* selected = comparedValues(container, selectedRanks, k);
-  vtkAbstractArray* others = comparedValues(container, otherRanks, k);
-  if (!selected || !others)
+  if (!isRanked(container, selected.ranks, k) || !isRanked(container, others.ranks, k))
     return {};
-  const KsStatistics& test = container.getKsResults()[k];
   ComparedParameter result;
   result.name = shownName(plot::columnName(container.getTable(), settings.parameterColumns[k]));
+  result.selected = selected.runs;
+  result.others = others.runs;
+  result.obstacle = obstacleIn(container, selected, k);
+  if (result.obstacle == TestObstacle::none)
+    result.obstacle = obstacleIn(container, others, k);
+  KsStatistics test = container.getKsResults()[k];
+  if (result.obstacle != TestObstacle::none)
+    test.statistic = test.pValue = std::numeric_limits<double>::quiet_NaN();
   result.statistic = test.statistic;
   result.pValue = test.pValue;
-  result.selected = countOf(selected);
-  result.others = countOf(others);
   result.significant =
       plot::isSignificant(test, settings.getPThreshold(), settings.getKsThreshold());
   return result;
@@ -101,17 +152,20 @@ Comparison comparisonOf(const PlotContainer& container)
     return {State::nothingSelected, {}};
   Comparison comparison;
   comparison.state = State::compared;
+  const GroupOfRuns selected = {derivedTable(container, selectedRows),
+                                derivedTable(container, selectedRanks),
+                                markedRuns(container, {RemainderSelectionColumn})};
+  const GroupOfRuns others = {
+      derivedTable(container, otherRows), derivedTable(container, otherRanks),
+      markedRuns(container, {ComplementSelectionColumn, ReducedSelectionColumn})};
   const std::size_t tested =
       std::min(container.getKsResults().size(), container.getMetaData()->parameterColumns.size());
   for (std::size_t k = 0; k < tested; ++k)
-    if (const std::optional<ComparedParameter> result = resultOf(container, k))
+    if (const std::optional<ComparedParameter> result = resultOf(container, selected, others, k))
       comparison.parameters.push_back(*result);
   if (comparison.parameters.empty())
     return {State::noRunSelected, {}};
-  const bool others =
-      std::any_of(comparison.parameters.begin(), comparison.parameters.end(),
-                  [](const ComparedParameter& parameter) { return parameter.others > 0; });
-  if (!others)
+  if (others.runs == 0)
     return {State::noOthers, {}};
   adjust(comparison.parameters);
   return comparison;

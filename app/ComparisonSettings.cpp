@@ -1,7 +1,8 @@
 #include "app/ComparisonSettings.h"
 
+#include "app/ThresholdBox.h"
+
 #include <QCheckBox>
-#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -15,14 +16,11 @@ namespace Talmesh::app
 namespace
 {
 
-QDoubleSpinBox* makeThreshold(const char* name, const QString& toolTip, int decimals, double step)
+ThresholdBox* makeThreshold(const char* name, const QString& toolTip, ThresholdBox::Steps steps)
 {
-  auto* box = new QDoubleSpinBox;
+  auto* box = new ThresholdBox(steps);
   box->setObjectName(QLatin1String(name));
   box->setToolTip(toolTip);
-  box->setRange(0.0, 1.0);
-  box->setDecimals(decimals);
-  box->setSingleStep(step);
   return box;
 }
 
@@ -44,11 +42,10 @@ void addLabelled(QGridLayout* layout, const QString& text, QWidget* field)
   layout->addWidget(field, row, 1);
 }
 
-/// Shows a value that the spin box cannot write out without making it another one.
-void showValue(QDoubleSpinBox* box, double value)
+void showValue(ThresholdBox* box, double value)
 {
   const QSignalBlocker silent(box);
-  // A value that the user is typing would lose its last digits.
+  // Showing a value rewrites the text, which the user may be typing: 0.00 on the way to 0.001.
   if (box->value() != value)
     box->setValue(value);
 }
@@ -109,18 +106,26 @@ void ComparisonSettings::addPages(QGridLayout* layout)
 void ComparisonSettings::addThresholds(QGridLayout* layout)
 {
   pThreshold = makeThreshold(
-      "pThreshold", tr("Parameters with at most this p count as different and are shown first"), 4,
-      0.01);
-  pThreshold->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+      "pThreshold", tr("Parameters with at most this p count as different and are shown first"),
+      ThresholdBox::Steps::relative);
   ksThreshold = makeThreshold(
       "ksThreshold",
-      tr("Parameters with at least this Kolmogorov-Smirnov statistic D count as different"), 3,
-      0.05);
+      tr("Parameters with at least this Kolmogorov-Smirnov statistic D count as different"),
+      ThresholdBox::Steps::equal);
+  ksThreshold->setSingleStep(0.05);
   addLabelled(layout, tr("Largest p"), pThreshold);
   addLabelled(layout, tr("Smallest D"), ksThreshold);
-  for (QDoubleSpinBox* box : {pThreshold, ksThreshold})
-    connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-            &ComparisonSettings::choiceChanged);
+  const auto writeTo = [this](ThresholdBox* box, double ComparisonChoice::*value)
+  {
+    connect(box, QOverload<double>::of(&ThresholdBox::valueChanged), this,
+            [this, value](double entered)
+            {
+              chosen.*value = entered;
+              emit choiceChanged();
+            });
+  };
+  writeTo(pThreshold, &ComparisonChoice::pThreshold);
+  writeTo(ksThreshold, &ComparisonChoice::ksThreshold);
 }
 
 void ComparisonSettings::addSwitches(QGridLayout* layout)
@@ -139,13 +144,25 @@ void ComparisonSettings::addSwitches(QGridLayout* layout)
   layout->addWidget(commonDensityScale, row, 1);
   layout->addWidget(bands, row + 1, 0);
   layout->addWidget(logParameterAxes, row + 1, 1);
-  for (QCheckBox* box : {density, commonDensityScale, logParameterAxes, bands})
-    connect(box, &QCheckBox::toggled, this, &ComparisonSettings::choiceChanged);
+  const auto writeTo = [this](QCheckBox* box, bool ComparisonChoice::*value)
+  {
+    connect(box, &QCheckBox::toggled, this,
+            [this, value](bool on)
+            {
+              chosen.*value = on;
+              emit choiceChanged();
+            });
+  };
+  writeTo(density, &ComparisonChoice::density);
+  writeTo(commonDensityScale, &ComparisonChoice::commonDensityScale);
+  writeTo(logParameterAxes, &ComparisonChoice::logParameterAxes);
+  writeTo(bands, &ComparisonChoice::bands);
 }
 
 void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles style,
                                    bool parameters)
 {
+  chosen = choice;
   showValue(pThreshold, choice.pThreshold);
   showValue(ksThreshold, choice.ksThreshold);
   showState(density, choice.density);
@@ -155,18 +172,6 @@ void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles st
   shownStyle = style;
   hasParameters = parameters;
   enableControls();
-}
-
-ComparisonChoice ComparisonSettings::choice() const
-{
-  ComparisonChoice choice;
-  choice.pThreshold = pThreshold->value();
-  choice.ksThreshold = ksThreshold->value();
-  choice.density = density->isChecked();
-  choice.commonDensityScale = commonDensityScale->isChecked();
-  choice.logParameterAxes = logParameterAxes->isChecked();
-  choice.bands = bands->isChecked();
-  return choice;
 }
 
 void ComparisonSettings::enableControls()

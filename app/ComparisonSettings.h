@@ -7,12 +7,13 @@
 #include <QWidget>
 
 class QCheckBox;
-class QDoubleSpinBox;
 class QGridLayout;
 class QToolButton;
 
 namespace Talmesh::app
 {
+
+class ThresholdBox;
 
 /// The controls of a comparison of runs: which page shows it, what counts as a difference, and how
 /// it is drawn. A control is enabled where it has an effect.
@@ -26,8 +27,9 @@ public:
   /// Shows a choice, and enables what a plot of `style` with or without parameters reads of it.
   /// Emits nothing.
   void setChoice(const ComparisonChoice& choice, plotStyles style, bool parameters);
-  /// What the controls say.
-  ComparisonChoice choice() const;
+  /// The choice shown, with what the user has changed of it: what no control was used for is as it
+  /// was, also where a control cannot show it.
+  const ComparisonChoice& choice() const { return chosen; }
 
 signals:
   /// The user changed something.
@@ -44,12 +46,13 @@ private:
 
   QToolButton* distributions = nullptr;
   QToolButton* pairs = nullptr;
-  QDoubleSpinBox* pThreshold = nullptr;
-  QDoubleSpinBox* ksThreshold = nullptr;
+  ThresholdBox* pThreshold = nullptr;
+  ThresholdBox* ksThreshold = nullptr;
   QCheckBox* density = nullptr;
   QCheckBox* commonDensityScale = nullptr;
   QCheckBox* logParameterAxes = nullptr;
   QCheckBox* bands = nullptr;
+  ComparisonChoice chosen;
   plotStyles shownStyle = xyPlot;
   bool hasParameters = false;
 };

@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QSaveFile>
 #include <QSortFilterProxyModel>
@@ -66,6 +67,15 @@ QString textOf(const QAbstractItemModel& table, const QList<int>& rows, QChar se
   return text;
 }
 
+std::string writeText(const QString& path, const QString& text)
+{
+  const QByteArray bytes = text.toUtf8();
+  QSaveFile file(path);
+  const bool written =
+      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  return written ? std::string() : (path + QLatin1String(": ") + file.errorString()).toStdString();
+}
+
 QList<int> allRows(const QAbstractItemModel& table)
 {
   QList<int> rows;
@@ -73,6 +83,24 @@ QList<int> allRows(const QAbstractItemModel& table)
     rows.append(row);
   return rows;
 }
+
+/// Rows without a value come last, whichever way the others are ordered.
+class ValuesFirst : public QSortFilterProxyModel
+{
+public:
+  using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+  bool lessThan(const QModelIndex& left, const QModelIndex& right) const override
+  {
+    const bool leftMissing = !left.data(sortRole()).isValid();
+    const bool rightMissing = !right.data(sortRole()).isValid();
+    if (leftMissing == rightMissing)
+      return !leftMissing && QSortFilterProxyModel::lessThan(left, right);
+    // A descending order asks with the two exchanged.
+    return leftMissing == (sortOrder() == Qt::DescendingOrder);
+  }
+};
 
 QString explanationOf(Comparison::State state)
 {
@@ -99,7 +127,7 @@ QString explanationOf(Comparison::State state)
 ComparisonTable::ComparisonTable(QWidget* parent)
     : QWidget(parent)
     , model(new ComparisonModel(this))
-    , sorted(new QSortFilterProxyModel(this))
+    , sorted(new ValuesFirst(this))
     , pages(new QStackedWidget)
     , explanation(new QLabel)
     , view(makeView())
@@ -178,10 +206,39 @@ QWidget* ComparisonTable::makeButtons()
   return buttons;
 }
 
+/// The row of a parameter; -1 without it.
+int ComparisonTable::rowOf(const QVariant& name) const
+{
+  for (int row = 0; row < sorted->rowCount(); ++row)
+    if (sorted->index(row, ComparisonModel::Name).data() == name)
+      return row;
+  return -1;
+}
+
+/// The table forgets what the user has marked when its rows are replaced.
+void ComparisonTable::replaceRows(const std::vector<ComparedParameter>& parameters)
+{
+  QItemSelectionModel& marks = *view->selectionModel();
+  const auto nameIn = [this](int row) { return sorted->index(row, ComparisonModel::Name).data(); };
+  QVariantList marked;
+  for (const QModelIndex& index : marks.selectedRows())
+    marked.append(nameIn(index.row()));
+  const QModelIndex current = marks.currentIndex();
+  const int currentColumn = current.column();
+  const QVariant currentName = nameIn(current.row());
+  model->setParameters(parameters);
+  for (const QVariant& name : marked)
+    marks.select(sorted->index(rowOf(name), ComparisonModel::Name),
+                 QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  if (currentName.isValid())
+    marks.setCurrentIndex(sorted->index(rowOf(currentName), currentColumn),
+                          QItemSelectionModel::NoUpdate);
+}
+
 void ComparisonTable::setComparison(const Comparison& comparison)
 {
   const bool compared = comparison.state == Comparison::State::compared;
-  model->setParameters(comparison.parameters);
+  replaceRows(comparison.parameters);
   explanation->setText(explanationOf(comparison.state));
   pages->setCurrentIndex(compared ? 1 : 0);
   copyStep->setEnabled(compared);
@@ -210,13 +267,10 @@ void ComparisonTable::copy()
 
 std::string ComparisonTable::save(const QString& path) const
 {
-  const QByteArray text = commaText().toUtf8();
-  QSaveFile file(path);
-  const bool written =
-      file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-  return written ? std::string() : (path + QLatin1String(": ") + file.errorString()).toStdString();
+  return writeText(path, commaText());
 }
 
+/// The table may change while the user chooses a file; what was asked for is written.
 void ComparisonTable::chooseFileAndSave()
 {
   auto* dialog = new QFileDialog(this, tr("Save the comparison"), {}, tr("Table (*.csv)"));
@@ -225,10 +279,13 @@ void ComparisonTable::chooseFileAndSave()
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(QStringLiteral("csv"));
   connect(dialog, &QFileDialog::fileSelected, this,
-          [this](const QString& path)
+          [this, text = commaText()](const QString& path)
           {
-            const std::string error = save(path);
-            emit said(error.empty() ? tr("Wrote %1").arg(path) : QString::fromStdString(error));
+            const std::string error = writeText(path, text);
+            if (error.empty())
+              emit said(tr("Wrote %1").arg(path));
+            else
+              emit failed(QString::fromStdString(error));
           });
   dialog->open();
 }

@@ -25,6 +25,8 @@ class ComparisonTable : public QWidget
 public:
   explicit ComparisonTable(QWidget* parent = nullptr);
 
+  /// Shows a comparison. Parameters that were there before keep the marks that the user has given
+  /// their rows, and the current cell.
   void setComparison(const Comparison& comparison);
 
   /// The selected rows, or all without any, in the order shown, below a line of names: numbers in
@@ -41,14 +43,18 @@ public:
 public slots:
   /// Puts the tabbed text on the clipboard.
   void copy();
-  /// Asks for a file and writes the whole table.
+  /// Asks for a file and writes the whole table as it was when this was called.
   void chooseFileAndSave();
 
 signals:
   /// What has become of the last step, in one line.
   void said(const QString& message);
+  /// Why the last step could not be done, in one line.
+  void failed(const QString& message);
 
 private:
+  int rowOf(const QVariant& name) const;
+  void replaceRows(const std::vector<ComparedParameter>& parameters);
   QTableView* makeView();
   QWidget* makeButtons();
   QAction* addStep(const QString& text, const char* name, void (ComparisonTable::*slot)());

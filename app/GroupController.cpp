@@ -6,12 +6,13 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunLayout.h"
-#include "plot/TableColumns.h"
+#include "plot/RunSelection.h"
 
 #include <vtkIntArray.h>
 #include <vtkTable.h>
 
 #include <QApplication>
+#include <QSignalBlocker>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -27,15 +28,16 @@ namespace
 /// Clusters count runs by position, selections by the number that the table gives a run.
 std::set<int> numbersOfRuns(const PlotContainer& container, const std::set<int>& positions)
 {
-  vtkTable* table = container.getTable();
-  vtkDoubleArray* numbers = plot::doubleColumn(table, plot::columnIndex(table, ": Run Index"));
-  if (!numbers)
+  const std::vector<plot::PlacedRun> runs = plot::wholeRuns(container.state());
+  if (runs.empty())
     return positions;
-  const plot::RunLayout layout = {table->GetNumberOfRows(), container.getMetaData()->getStride()};
-  std::set<int> result;
-  for (const int position : positions)
-    result.insert(static_cast<int>(numbers->GetValue(layout.firstRow(position))));
-  return result;
+  const plot::RunLayout layout = {container.getTable()->GetNumberOfRows(),
+                                  container.getMetaData()->getStride()};
+  std::set<int> numbers;
+  for (const plot::PlacedRun& run : runs)
+    if (positions.count(static_cast<int>(layout.runOf(run.firstRow))) != 0)
+      numbers.insert(run.index);
+  return numbers;
 }
 
 std::vector<ParameterSelection> clusterSelections(PlotContainer& container,
@@ -62,19 +64,6 @@ std::vector<int> membershipOf(const PlotContainer& container)
   return {first, first + membership->GetNumberOfTuples()};
 }
 
-/// The columns over x, which is no run's own.
-std::vector<int> shownColumns(const PlotMetaData& settings)
-{
-  std::vector<int> columns = settings.yColumns;
-  const auto isX = [&](int column)
-  {
-    const std::vector<int>& x = settings.xColumns;
-    return std::find(x.begin(), x.end(), column) != x.end();
-  };
-  columns.erase(std::remove_if(columns.begin(), columns.end(), isX), columns.end());
-  return columns;
-}
-
 } // namespace
 
 GroupController::GroupController(ClusterDock& panel, QUndoStack& undoStack, QObject* parent)
@@ -86,7 +75,7 @@ GroupController::GroupController(ClusterDock& panel, QUndoStack& undoStack, QObj
   connect(&dock, &ClusterDock::groupChosen, this, &GroupController::select);
   connect(&dock, &ClusterDock::lookChanged, this, &GroupController::show);
   connect(&dock, &ClusterDock::normalisingRequested, this, &GroupController::normalise);
-  connect(&normaliser, &RunNormaliser::changed, this, &GroupController::changed);
+  connect(&normaliser, &RunNormaliser::changed, this, &GroupController::showNewValues);
 }
 
 void GroupController::leave()
@@ -142,11 +131,36 @@ void GroupController::select(int group)
     container->setSelection(&selections[static_cast<std::size_t>(group)], 0);
 }
 
+/// The columns over x that can be scaled.
+std::vector<int> GroupController::shownColumns() const
+{
+  const PlotMetaData& settings = *container->getMetaData();
+  std::vector<int> columns = normaliser.scalable(settings.yColumns);
+  const auto isX = [&x = settings.xColumns](int column)
+  { return std::find(x.begin(), x.end(), column) != x.end(); };
+  columns.erase(std::remove_if(columns.begin(), columns.end(), isX), columns.end());
+  return columns;
+}
+
+/// The tables of selected and of other runs are copies of the plot's and must be made anew.
+void GroupController::showNewValues()
+{
+  if (container)
+    container->annotationUpdate();
+  emit changed();
+}
+
+void GroupController::restoreNormalised(const std::vector<int>& columns)
+{
+  const QSignalBlocker silent(normaliser);
+  normaliser.setNormalised(columns, true);
+}
+
 void GroupController::normalise(bool on)
 {
   if (!container)
     return;
-  const std::vector<int> shown = shownColumns(*container->getMetaData());
+  const std::vector<int> shown = shownColumns();
   std::vector<int> others;
   std::copy_if(shown.begin(), shown.end(), std::back_inserter(others),
                [&](int column) { return normaliser.isNormalised({column}) != on; });
@@ -159,7 +173,7 @@ void GroupController::dress()
 {
   if (!container)
     return;
-  dock.setNormalised(normaliser.isNormalised(shownColumns(*container->getMetaData())));
+  dock.setNormalised(normaliser.isNormalised(shownColumns()));
   const RunLook look = dock.look();
   if (look.groupColours)
     colourGroups(*container, groups);

@@ -34,6 +34,10 @@ public:
   void follow(PlotContainer* container, const Study& study);
   /// Completes the chart that the container has just drawn.
   void dress();
+  /// Normalises columns that were normalised when their session was saved. Emits nothing, and the
+  /// user's history does not have it.
+  void restoreNormalised(const std::vector<int>& columns);
+  const RunNormaliser& runNormaliser() const { return normaliser; }
 
 signals:
   /// The chart must be drawn anew.
@@ -42,6 +46,8 @@ signals:
   void xyPlotWanted();
 
 private:
+  std::vector<int> shownColumns() const;
+  void showNewValues();
   void group();
   void show();
   void select(int group);

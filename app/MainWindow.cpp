@@ -76,6 +76,7 @@ MainWindow::MainWindow(QWidget* parent)
   connect(comparison, &ComparisonDock::styleChosen, this, &MainWindow::chooseStyle);
   connect(comparison, &ComparisonDock::said, this,
           [this](const QString& message) { statusBar()->showMessage(message, noteMilliseconds); });
+  connect(comparison, &ComparisonDock::failed, this, &MainWindow::showError);
   connect(loader, &StudyLoader::progressed, loadingBar, &LoadingBar::setPercent);
   connect(loader, &StudyLoader::finished, this, &MainWindow::finishLoading);
   connect(loadingBar, &LoadingBar::cancelled, this, &MainWindow::cancelLoading);

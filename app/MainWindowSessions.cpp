@@ -1,8 +1,10 @@
+#include "app/GroupController.h"
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
 #include "app/Session.h"
 #include "app/SessionFile.h"
+#include "app/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
 #include "widgets/WidgetSupport.h"
 
@@ -55,7 +57,8 @@ bool MainWindow::saveSessionTo(const QString& path)
 {
   if (!container)
     return false;
-  const std::string error = Talmesh::app::saveSession(path, study, *container);
+  const std::string error =
+      Talmesh::app::saveSession(path, study, *container, &groups->runNormaliser());
   if (!error.empty())
   {
     showError(QString::fromStdString(error));
@@ -69,6 +72,8 @@ bool MainWindow::saveSessionTo(const QString& path)
 void MainWindow::showSession(const RestoredSession& session)
 {
   restoreSettings(session, *container);
+  groups->restoreNormalised(session.settings.normalised);
+  timeCourses->refresh();
   dock->setColumns(container->getLabels());
   restoreSelection(session, *container);
   // The history begins with what is restored.

@@ -7,6 +7,7 @@
 #include "app/SelectionController.h"
 #include "app/StudyCatalogue.h"
 #include "app/StudyDock.h"
+#include "app/TimeCoursePage.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
@@ -32,6 +33,7 @@ void MainWindow::makeStudies()
   studyDock->hide();
   groups = new GroupController(*clusterDock, selection->undoStack(), this);
   connect(groups, &GroupController::changed, this, &MainWindow::applyDock);
+  connect(groups, &GroupController::changed, timeCourses, &TimeCoursePage::refresh);
   connect(groups, &GroupController::xyPlotWanted, this, [this] { chooseStyle(xyPlot); });
   connect(studyDock, &StudyDock::variantChanged, this,
           [this]

@@ -1,5 +1,6 @@
 #include "app/RunNormaliser.h"
 
+#include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
@@ -9,6 +10,7 @@
 #include <QUndoCommand>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Talmesh::app
 {
@@ -66,6 +68,47 @@ void RunNormaliser::follow(PlotContainer* followed)
   container = followed;
 }
 
+/// A column behind those of the items has been added to the runs.
+bool RunNormaliser::isScalable(int column) const
+{
+  // Without runs over time there would be nothing to compare a maximum with.
+  const bool runs = container && container->getMetaData()->getStride() > 1;
+  if (!runs || !plot::doubleColumn(container->getTable(), column) ||
+      plot::columnName(container->getTable(), column).empty())
+    return false;
+  const auto& items = container->getColumnItems();
+  const auto item = static_cast<std::size_t>(column);
+  return item >= items.size() ||
+         (items[item].first != TimeOrValue && items[item].first != Parameter);
+}
+
+std::vector<int> RunNormaliser::scalable(const std::vector<int>& columns) const
+{
+  std::vector<int> found;
+  std::copy_if(columns.begin(), columns.end(), std::back_inserter(found),
+               [this](int column) { return isScalable(column); });
+  return found;
+}
+
+std::vector<int> RunNormaliser::normalised() const
+{
+  std::vector<int> columns;
+  for (const auto& [column, original] : kept)
+    columns.push_back(column);
+  return columns;
+}
+
+vtkSmartPointer<vtkTable> RunNormaliser::originalTable() const
+{
+  auto table = vtkSmartPointer<vtkTable>::New();
+  if (container)
+    table->ShallowCopy(container->getTable());
+  // A column of the same name takes the place of the one that is there.
+  for (const auto& [column, original] : kept)
+    table->AddColumn(plot::makeColumn(plot::columnName(table, column), original.values));
+  return table;
+}
+
 bool RunNormaliser::isNormalised(const std::vector<int>& columns) const
 {
   return !columns.empty() && std::all_of(columns.begin(), columns.end(),
@@ -83,9 +126,9 @@ void RunNormaliser::setNormalised(const std::vector<int>& columns, bool on)
 
 bool RunNormaliser::scale(int column)
 {
-  vtkDoubleArray* values = container ? plot::doubleColumn(container->getTable(), column) : nullptr;
-  if (!values || kept.count(column) > 0)
+  if (!isScalable(column) || kept.count(column) > 0)
     return false;
+  vtkDoubleArray* values = plot::doubleColumn(container->getTable(), column);
   const double* first = values->GetPointer(0);
   kept[column] = {values, {first, first + values->GetNumberOfValues()}};
   container->scaleRelativeToMaxWithinTrajectory(column);

@@ -3,6 +3,7 @@
 
 #include <vtkDoubleArray.h>
 #include <vtkSmartPointer.h>
+#include <vtkTable.h>
 
 #include <QObject>
 #include <QPointer>
@@ -33,9 +34,16 @@ public:
   /// turns to none.
   void follow(PlotContainer* container);
 
+  /// Those of `columns` that can be scaled: numbers of the runs' own, which times, numbers of runs
+  /// and parameters are not.
+  std::vector<int> scalable(const std::vector<int>& columns) const;
   /// Whether every one of `columns`, of which there must be one, is scaled now.
   bool isNormalised(const std::vector<int>& columns) const;
-  /// Scales or reloads each of `columns` that is not yet so.
+  /// All columns that are scaled now, ascending.
+  std::vector<int> normalised() const;
+  /// The container's table with the values that scaled columns had before. Shares the others.
+  vtkSmartPointer<vtkTable> originalTable() const;
+  /// Scales or reloads each of `columns` that is not yet so. Leaves out what cannot be scaled.
   void setNormalised(const std::vector<int>& columns, bool on);
   /// A new command that does so, the caller's; without the normaliser it does nothing.
   QUndoCommand* makeCommand(const std::vector<int>& columns, bool on);
@@ -51,6 +59,7 @@ private:
     std::vector<double> values;
   };
 
+  bool isScalable(int column) const;
   bool scale(int column);
   bool reload(int column);
 

@@ -1,6 +1,7 @@
 #include "app/Session.h"
 
 #include "app/PlotChoice.h"
+#include "app/RunNormaliser.h"
 #include "app/SessionFile.h"
 #include "app/TranslatedText.h"
 #include "plot/PlotContainer.h"
@@ -67,10 +68,18 @@ vtkSmartPointer<vtkSelection> selectionOf(vtkIntArray* flags)
 
 } // namespace
 
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container)
+std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
+                        const RunNormaliser* normaliser)
 {
-  const SessionParts parts = {settingsText(settingsOf(study, container)),
-                              dumpStudy(study, container)};
+  SessionSettings settings = settingsOf(study, container);
+  vtkSmartPointer<vtkTable> table = container.getTable();
+  if (normaliser)
+  {
+    table = normaliser->originalTable();
+    for (const int column : normaliser->normalised())
+      settings.normalised.push_back(columnInDump(container.getTable(), column));
+  }
+  const SessionParts parts = {settingsText(settings), dumpStudy(study, container, table)};
   if (parts.dump.isEmpty())
     return withValues(translated("SessionFile", "%1: the table is too large for a session"),
                       {path.toStdString()});

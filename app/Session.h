@@ -13,6 +13,8 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
+class RunNormaliser;
+
 /// What a session restores beside its study.
 struct RestoredSession
 {
@@ -32,14 +34,17 @@ struct OpenedSession
 };
 
 /// Writes what a container shows of a study.
+/// @param normaliser what has normalised runs of the container, whose values are written as they
+/// were before; null for nothing
 /// @return why it could not be written, in one line of UTF-8; empty on success
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container);
+std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
+                        const RunNormaliser* normaliser = nullptr);
 
 /// Reads a session. May run in any thread.
 OpenedSession openSession(const QString& path);
 
 /// Restores further columns and settings in a container that shows the session's study. Does not
-/// draw.
+/// draw, and normalises nothing: that is for who keeps the values.
 void restoreSettings(const RestoredSession& session, PlotContainer& container);
 
 /// Selects what was selected, which the container's annotation link announces.

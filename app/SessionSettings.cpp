@@ -162,13 +162,6 @@ public:
     return std::floor(value) == value ? static_cast<int>(value) : fallback;
   }
 
-private:
-  double number(const char* name, double fallback, double lowest, double highest) const
-  {
-    const double value = object[QLatin1String(name)].toDouble(fallback);
-    return value >= lowest && value <= highest ? value : fallback;
-  }
-
   void readColumns(const char* name, std::vector<int>& list) const
   {
     const QJsonArray array = object[QLatin1String(name)].toArray();
@@ -183,6 +176,13 @@ private:
       if (list.size() == mostColumnsInAList)
         return;
     }
+  }
+
+private:
+  double number(const char* name, double fallback, double lowest, double highest) const
+  {
+    const double value = object[QLatin1String(name)].toDouble(fallback);
+    return value >= lowest && value <= highest ? value : fallback;
   }
 
   void readColor(std::array<int, 4>& color) const
@@ -228,6 +228,7 @@ QByteArray settingsText(const SessionSettings& settings)
   object["name"] = QString::fromStdString(settings.name);
   object["pointsPerRun"] = settings.pointsPerRun;
   object["parameterRanges"] = ranges;
+  object["normalised"] = arrayOf(settings.normalised);
   object["legend"] = settings.legend;
   object["logY"] = settings.logY;
   object["windowLogX"] = settings.windowScales.xLog;
@@ -251,6 +252,7 @@ ReadSessionSettings readSettings(const QByteArray& text, int columns)
   settings.pointsPerRun =
       SettingsReader(object, columns).whole("pointsPerRun", 0, 0, std::numeric_limits<int>::max());
   settings.parameterRanges = readRanges(object["parameterRanges"].toArray());
+  SettingsReader(object, columns).readColumns("normalised", settings.normalised);
   settings.legend = object["legend"].toBool();
   settings.logY = object["logY"].toBool();
   settings.windowScales = {object["windowLogX"].toBool(), object["windowLogY"].toBool()};

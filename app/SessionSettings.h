@@ -23,6 +23,8 @@ struct SessionSettings
   int pointsPerRun = 0;
   /// (lower, upper) of each parameter of the runs.
   std::vector<std::pair<double, double>> parameterRanges;
+  /// Columns whose runs are shown normalised, while the table has the values from before.
+  std::vector<int> normalised;
   bool legend = false;
   bool logY = false;
   /// The scales of the axis window that is stored with the plot's settings.

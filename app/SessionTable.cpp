@@ -108,13 +108,13 @@ boost::shared_ptr<LinePlotTable> takeRuns(const plot::PlotState& read, int point
 
 } // namespace
 
-QByteArray dumpStudy(const Study& study, PlotContainer& container)
+QByteArray dumpStudy(const Study& study, PlotContainer& container, vtkTable* shown)
 {
   plot::PlotState dumped;
   dumped.table = vtkSmartPointer<vtkTable>::New();
   if (study.runs)
-    addItems(dumped, study, container.getTable());
-  addFurtherColumns(dumped.table, container.getTable());
+    addItems(dumped, study, shown);
+  addFurtherColumns(dumped.table, shown);
   if (const auto flags = plot::selectionFlags(container.state()))
     plot::replaceFlagColumn(dumped.table, flags);
   return plot::writeDump(dumped);

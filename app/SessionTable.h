@@ -22,7 +22,8 @@ namespace Talmesh::app
 /// (also the constant parameters, which a container leaves out), further columns of the container's
 /// table, and last the flags of the selected rows. What the library marks rows with is left out.
 /// Empty when it would be too large.
-QByteArray dumpStudy(const Study& study, PlotContainer& container);
+/// @param shown the container's table, or one with the same columns and other values
+QByteArray dumpStudy(const Study& study, PlotContainer& container, vtkTable* shown);
 
 /// Where column `column` of the container's table will be found once its dump has been read and
 /// shown; -1 when it is left out.

@@ -1,14 +1,19 @@
 #include "app/TimeCoursePage.h"
 
+#include "app/RunNumberBox.h"
 #include "external/LinePlotData.h"
+#include "plot/TypedColumns.h"
 #include "widgets/LinePlotWidget.h"
 #include "widgets/PlotSelector.h"
 
 #include <QFormLayout>
 #include <QSignalBlocker>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
 #include <set>
 
 namespace Talmesh::app
@@ -17,14 +22,45 @@ namespace Talmesh::app
 namespace
 {
 
-/// The item that the courses run over; -1 without one.
-int timeItem(const LinePlotTable& runs)
+constexpr const char* runIndexName = "Run Index";
+
+bool isRunIndex(const TypedConcentrationName& item)
 {
-  int chosen = -1;
-  for (std::size_t i = 0; i < runs.items.size(); ++i)
-    if (runs.items[i].first == TimeOrValue && runs.items[i].second != "Run Index" && chosen < 0)
-      chosen = static_cast<int>(i);
-  return chosen;
+  return item.first == TimeOrValue && item.second == runIndexName;
+}
+
+/// The item that the courses run over, as in other charts of the runs but never the number of the
+/// run; -1 without one.
+int timeOfCourses(const LinePlotTable& runs)
+{
+  std::vector<TypedConcentrationName> items = runs.items;
+  for (TypedConcentrationName& item : items)
+    if (isRunIndex(item))
+      item.first = UndefinedType;
+  const int time = plot::timeItem(items);
+  return time >= 0 && runs.values[static_cast<std::size_t>(time)] ? time : -1;
+}
+
+/// The numbers that the runs have in the table, or those of their places when they cannot tell the
+/// runs apart.
+std::vector<int> shownRunNumbers(const LinePlotTable& runs)
+{
+  std::vector<int> places(runs.numberOfTrajectories);
+  std::iota(places.begin(), places.end(), 0);
+  const auto found = std::find_if(runs.items.begin(), runs.items.end(), isRunIndex);
+  const auto item = static_cast<std::size_t>(found - runs.items.begin());
+  if (found == runs.items.end() || !runs.values[item])
+    return places;
+  std::vector<int> numbers;
+  for (std::size_t run = 0; run < runs.numberOfTrajectories; ++run)
+  {
+    const double number = runs.values[item][run * runs.pointsPerTrajectory];
+    if (!(std::abs(number) <= std::numeric_limits<int>::max()) || std::floor(number) != number)
+      return places;
+    numbers.push_back(static_cast<int>(number));
+  }
+  const std::set<int> different(numbers.begin(), numbers.end());
+  return different.size() == numbers.size() ? numbers : places;
 }
 
 bool isCourse(const TypedConcentrationName& item)
@@ -116,7 +152,14 @@ void TimeCoursePage::setStudy(const Study& study)
   runs = study.runs;
   outdated = true;
   if (isVisible())
-    fill();
+    bringUpToDate();
+}
+
+void TimeCoursePage::refresh()
+{
+  stale = true;
+  if (isVisible())
+    bringUpToDate();
 }
 
 void TimeCoursePage::showEvent(QShowEvent* event)
@@ -124,13 +167,21 @@ void TimeCoursePage::showEvent(QShowEvent* event)
   QWidget::showEvent(event);
   if (!chart)
     build();
+  bringUpToDate();
+}
+
+void TimeCoursePage::bringUpToDate()
+{
   if (outdated)
     fill();
+  else if (stale && run->isEnabled())
+    showRun();
+  stale = false;
 }
 
 void TimeCoursePage::build()
 {
-  run = new QSpinBox;
+  run = new RunNumberBox;
   run->setObjectName(QStringLiteral("run"));
   run->setToolTip(tr("The run whose time courses are shown"));
   chart = new LinePlotWidget;
@@ -139,18 +190,14 @@ void TimeCoursePage::build()
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(choice);
   layout->addWidget(chart, 1);
-  connect(run, QOverload<int>::of(&QSpinBox::valueChanged), this, &TimeCoursePage::showRun);
+  connect(run, QOverload<int>::of(&RunNumberBox::valueChanged), this, &TimeCoursePage::showRun);
 }
 
 void TimeCoursePage::fill()
 {
   outdated = false;
-  const bool shown = runs && timeItem(*runs) >= 0 && runs->numberOfTrajectories > 0;
-  {
-    const QSignalBlocker silent(run);
-    run->setRange(0, shown ? static_cast<int>(runs->numberOfTrajectories) - 1 : 0);
-    run->setValue(0);
-  }
+  const bool shown = runs && timeOfCourses(*runs) >= 0 && runs->numberOfTrajectories > 0;
+  run->setNumbers(shown ? shownRunNumbers(*runs) : std::vector<int>());
   run->setEnabled(shown);
   if (!shown)
   {
@@ -167,7 +214,7 @@ void TimeCoursePage::showRun()
 {
   auto& selector = *chart->findChild<PlotSelector*>();
   const ItemNames chosen = selectedNames(selector);
-  RunCourses courses(*runs, timeItem(*runs), static_cast<std::size_t>(run->value()));
+  RunCourses courses(*runs, timeOfCourses(*runs), static_cast<std::size_t>(run->value()));
   chart->setData(&courses.record);
   selector.expandAll();
   select(selector, chosen);

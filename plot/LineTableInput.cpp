@@ -26,22 +26,6 @@ vtkIdType rowCount(const LinePlotTable& lines)
   return static_cast<vtkIdType>(lines.numberOfTrajectories * points);
 }
 
-/// Index of the item that gives the time; -1 when no item is of the time or value kind.
-int timeItem(const std::vector<Talmesh::TypedConcentrationName>& items)
-{
-  int chosen = -1;
-  for (std::size_t i = 0; i < items.size(); ++i)
-  {
-    if (items[i].first != Talmesh::TimeOrValue)
-      continue;
-    if (items[i].second == "Time [s]")
-      return static_cast<int>(i);
-    if (items[i].second == "Value" || chosen < 0)
-      chosen = static_cast<int>(i);
-  }
-  return chosen;
-}
-
 std::string itemName(const PlotState& state, int index)
 {
   const bool valid = index >= 0 && index < static_cast<int>(state.columnItems.size());

@@ -1,110 +1,20 @@
+#include "ComparisonInWindow.h"
+
 #include "app/ComparisonDock.h"
 #include "app/ComparisonModel.h"
 #include "app/ComparisonTable.h"
-#include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
-#include "external/ParameterSelection.h"
-#include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
+#include "app/StyleNames.h"
 #include "plot/PlotState.h"
-#include "widgets/VtkPlotWidget.h"
 
 #include <vtkAxis.h>
-#include <vtkChartMatrix.h>
-#include <vtkChartXY.h>
 #include <vtkPlot.h>
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QFile>
-#include <QLabel>
-#include <QRegularExpression>
-#include <QStatusBar>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include "SampleStudies.h"
+#include <QFileDialog>
+#include <QMessageBox>
 
 using namespace Talmesh::app;
-
-namespace
-{
-
-constexpr int patience = 60000;
-constexpr int runCount = 12;
-constexpr int pointsPerRun = 5;
-
-class ComparisonInWindow : public ::testing::Test
-{
-protected:
-  ComparisonInWindow()
-  {
-    window.resize(900, 700);
-    window.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-  }
-
-  QString write(const char* name, const std::string& text)
-  {
-    QFile file(folder.filePath(QString::fromUtf8(name)));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text.data(), static_cast<qint64>(text.size()));
-    return file.fileName();
-  }
-
-  void open(CommandLineOptions options = {},
-            const std::string& text = sampleRuns(runCount, pointsPerRun))
-  {
-    options.file = write("runs.csv", text).toStdString();
-    window.open(options);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, patience));
-  }
-
-  void select(const std::set<int>& runs)
-  {
-    ParameterSelection selection;
-    selection.runs = runs;
-    container().setSelection(&selection, 0);
-    QCoreApplication::processEvents();
-  }
-
-  void press(const char* name, Qt::Key key)
-  {
-    auto* control = window.findChild<QWidget*>(QLatin1String(name));
-    ASSERT_TRUE(control && control->isEnabled()) << name;
-    QTest::keyClick(control, key);
-  }
-
-  PlotContainer& container() { return *window.plotWidget()->plotContainer(); }
-  PlotMetaData& settings() { return *container().getMetaData(); }
-  plotStyles style() { return settings().getPlotStyle(); }
-  QAbstractItemModel& table()
-  {
-    return *window.findChild<QTableView*>(QStringLiteral("comparisonTable"))->model();
-  }
-  QLabel& explanation()
-  {
-    return *window.findChild<QLabel*>(QStringLiteral("comparisonExplanation"));
-  }
-  std::string parameterChartTitle()
-  {
-    auto* matrix = vtkChartMatrix::SafeDownCast(container().getItem());
-    return matrix ? matrix->GetChart(vtkVector2i(0, 0))->GetTitle() : "no page of charts";
-  }
-  bool saysHowLongItTook()
-  {
-    const QRegularExpression text(QStringLiteral("^Updated in \\d+ ms$"));
-    return text.match(window.statusBar()->currentMessage()).hasMatch();
-  }
-
-  QTemporaryDir folder;
-  MainWindow window;
-};
-
-} // namespace
 
 TEST_F(ComparisonInWindow, IsThePageOfRunsWithParameters)
 {
@@ -176,11 +86,21 @@ TEST_F(ComparisonInWindow, TakesThePValuesOffTheChartsWithTheSelection)
 
 TEST_F(ComparisonInWindow, FillsTheTableInEveryStyle)
 {
-  CommandLineOptions options;
-  options.style = xyPlot;
-  open(options);
-  select({0, 1, 2, 3});
-  EXPECT_EQ(table().rowCount(), 1);
+  open();
+  for (const StyleName& style : styleNames())
+  {
+    SCOPED_TRACE(style.name);
+    PlotChoice choice = window.plotDock()->choice();
+    choice.style = style.style;
+    window.plotDock()->setChoice(choice);
+    emit window.plotDock()->choiceChanged();
+    select({5});
+    select({0, 1, 2, 3});
+    ASSERT_EQ(table().rowCount(), 1);
+    EXPECT_EQ(table().index(0, ComparisonModel::Statistic).data().toString(), "1.000");
+    EXPECT_EQ(table().index(0, ComparisonModel::Selected).data().toString(), "4");
+    EXPECT_EQ(table().index(0, ComparisonModel::Others).data().toString(), "8");
+  }
 }
 
 TEST_F(ComparisonInWindow, SaysHowLongASelectionAndASettingTook)
@@ -278,4 +198,33 @@ TEST_F(ComparisonInWindow, BeginsAnewWithAnotherStudy)
   EXPECT_EQ(style(), selectionCdfPlot);
   EXPECT_TRUE(explanation().isVisible());
   EXPECT_FALSE(window.comparisonDock()->choice().density);
+}
+
+TEST_F(ComparisonInWindow, SaysInABoxWhyItsTableCannotBeSaved)
+{
+  open();
+  select({0, 1, 2, 3});
+  window.comparisonDock()->table()->chooseFileAndSave();
+  auto* dialog = window.findChild<QFileDialog*>();
+  ASSERT_NE(dialog, nullptr);
+  const QString path = folder.filePath(QStringLiteral("nowhere/comparison.csv"));
+  emit dialog->fileSelected(path);
+  auto* box = window.findChild<QMessageBox*>();
+  ASSERT_NE(box, nullptr);
+  EXPECT_TRUE(box->text().startsWith(path + ": ")) << box->text().toStdString();
+  dialog->close();
+}
+
+TEST_F(ComparisonInWindow, KeepsThresholdsThatNoControlWasUsedFor)
+{
+  open();
+  settings().blockSignals(true);
+  settings().setPThreshold(1.23456789e-7);
+  settings().setKsThreshold(0.123456789);
+  settings().blockSignals(false);
+  emit window.plotDock()->choiceChanged();
+  press("density", Qt::Key_Space);
+  EXPECT_TRUE(settings().getUseDensity());
+  EXPECT_EQ(settings().getPThreshold(), 1.23456789e-7);
+  EXPECT_EQ(settings().getKsThreshold(), 0.123456789);
 }

@@ -86,6 +86,74 @@ TEST_F(ComparisonControls, KeepTheThresholdsBetweenZeroAndOne)
   }
 }
 
+TEST_F(ComparisonControls, TakeThresholdsInScientificNotation)
+{
+  auto* box = settings.findChild<QDoubleSpinBox*>(QStringLiteral("pThreshold"));
+  box->selectAll();
+  QTest::keyClicks(box, QStringLiteral("5e-12"));
+  EXPECT_EQ(settings.choice().pThreshold, 5e-12);
+  QTest::keyClick(box, Qt::Key_Return);
+  EXPECT_EQ(settings.choice().pThreshold, 5e-12);
+  EXPECT_EQ(box->text(), "5e-12");
+  box->selectAll();
+  QTest::keyClicks(box, QStringLiteral("0.00001"));
+  EXPECT_EQ(settings.choice().pThreshold, 1e-5);
+  box->selectAll();
+  QTest::keyClicks(box, QStringLiteral("2"));
+  EXPECT_EQ(settings.choice().pThreshold, 1e-5) << "more than 1";
+  box->selectAll();
+  QTest::keyClicks(box, QStringLiteral("x"));
+  EXPECT_FALSE(box->text().contains('x'));
+}
+
+TEST_F(ComparisonControls, TakeThresholdsAsTheUsersLanguageWritesThem)
+{
+  auto* box = settings.findChild<QDoubleSpinBox*>(QStringLiteral("pThreshold"));
+  box->setLocale(QLocale(QLocale::German));
+  box->selectAll();
+  QTest::keyClicks(box, QStringLiteral("0,025"));
+  EXPECT_EQ(settings.choice().pThreshold, 0.025);
+  box->selectAll();
+  QTest::keyClicks(box, QStringLiteral("0.125"));
+  EXPECT_EQ(settings.choice().pThreshold, 0.125) << "as programs write it";
+  QTest::keyClick(box, Qt::Key_Up);
+  EXPECT_EQ(box->text(), "0,135");
+}
+
+TEST_F(ComparisonControls, StepInTheSecondDigitOfP)
+{
+  const auto after = [this](double before, Qt::Key key)
+  {
+    ComparisonChoice choice;
+    choice.pThreshold = before;
+    settings.setChoice(choice, selectionCdfPlot, true);
+    press("pThreshold", key);
+    return settings.choice().pThreshold;
+  };
+  EXPECT_EQ(after(0.05, Qt::Key_Up), 0.051);
+  EXPECT_EQ(after(0.05, Qt::Key_Down), 0.049);
+  EXPECT_EQ(after(1e-7, Qt::Key_Up), 1.1e-7);
+  EXPECT_EQ(after(1e-7, Qt::Key_Down), 9.9e-8);
+  EXPECT_EQ(after(0.0, Qt::Key_Up), 1e-4);
+  EXPECT_EQ(after(1.0, Qt::Key_Up), 1.0);
+}
+
+TEST_F(ComparisonControls, LeaveTheOtherSettingsAsTheyAre)
+{
+  ComparisonChoice choice;
+  choice.pThreshold = 1.23456789e-7;
+  // No control shows more than 1.
+  choice.ksThreshold = 1.5;
+  settings.setChoice(choice, selectionCdfPlot, true);
+  press("density", Qt::Key_Space);
+  EXPECT_TRUE(settings.choice().density);
+  EXPECT_EQ(settings.choice().pThreshold, 1.23456789e-7);
+  EXPECT_EQ(settings.choice().ksThreshold, 1.5);
+  press("pThreshold", Qt::Key_Up);
+  EXPECT_NE(settings.choice().pThreshold, 1.23456789e-7);
+  EXPECT_EQ(settings.choice().ksThreshold, 1.5);
+}
+
 TEST_F(ComparisonControls, AreEnabledWhereTheyAct)
 {
   for (const char* name : controlNames)

@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
@@ -26,6 +27,13 @@ ComparedParameter parameter(const char* name, double statistic, double p, double
                             bool significant)
 {
   return {name, statistic, p, adjusted, 8, 12, significant};
+}
+
+/// Without results, in any place of the comparison.
+ComparedParameter untested(const char* name, TestObstacle obstacle)
+{
+  const double none = std::nan("");
+  return {name, none, none, none, 8, 12, false, obstacle};
 }
 
 Comparison sampleComparison()
@@ -97,8 +105,76 @@ TEST_F(TableOfAComparison, PutsWhatIsNoNumberLast)
   comparison.parameters[1].pValue = std::nan("");
   table.setComparison(comparison);
   view().sortByColumn(ComparisonModel::PValue, Qt::AscendingOrder);
-  EXPECT_EQ(names().back(), "K10");
+  EXPECT_EQ(names(), (QStringList{"k, \"2\"", "k1", "K10"}));
   EXPECT_EQ(cell(2, ComparisonModel::PValue), "nan");
+  view().sortByColumn(ComparisonModel::PValue, Qt::DescendingOrder);
+  EXPECT_EQ(names(), (QStringList{"k1", "k, \"2\"", "K10"}));
+}
+
+TEST_F(TableOfAComparison, PutsWhatIsNotTestedLast)
+{
+  Comparison comparison = sampleComparison();
+  comparison.parameters.insert(comparison.parameters.begin(),
+                               untested("switch", TestObstacle::repeatedValues));
+  table.setComparison(comparison);
+  for (const int column : {ComparisonModel::Statistic, ComparisonModel::PValue,
+                           ComparisonModel::AdjustedPValue, ComparisonModel::Significant})
+    for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder})
+    {
+      view().sortByColumn(column, order);
+      EXPECT_EQ(names().back(), "switch") << column << ' ' << order;
+    }
+}
+
+TEST_F(TableOfAComparison, HasDashesAndTheReasonForWhatIsNotTested)
+{
+  const std::pair<TestObstacle, const char*> reasons[] = {
+      {TestObstacle::repeatedValues, "Values repeat"},
+      {TestObstacle::missingValues, "Values are missing"},
+      {TestObstacle::changingValues, "Values change within a run"},
+      {TestObstacle::otherParameter, "Another parameter"}};
+  for (const auto& [obstacle, words] : reasons)
+  {
+    table.setComparison({Comparison::State::compared, {untested("switch", obstacle)}});
+    for (const int column : {ComparisonModel::Statistic, ComparisonModel::PValue,
+                             ComparisonModel::AdjustedPValue, ComparisonModel::Significant})
+    {
+      EXPECT_EQ(cell(0, column), QString::fromUtf8("\xe2\x80\x93"));
+      const QVariant tip = view().model()->index(0, column).data(Qt::ToolTipRole);
+      EXPECT_TRUE(tip.toString().contains(QLatin1String(words))) << words;
+    }
+    EXPECT_EQ(cell(0, ComparisonModel::Name), "switch");
+    EXPECT_EQ(cell(0, ComparisonModel::Selected), "8");
+    EXPECT_EQ(cell(0, ComparisonModel::Others), "12");
+    EXPECT_TRUE(table.commaText().endsWith("\nswitch,,,,8,12,not tested\n"));
+    EXPECT_TRUE(table.tabbedText().endsWith("\nswitch\t\t\t\t8\t12\tnot tested\n"));
+  }
+}
+
+TEST_F(TableOfAComparison, KeepsTheMarksOfTheUserWhenTheComparisonChanges)
+{
+  view().selectRow(0);
+  view().selectionModel()->select(view().model()->index(2, 0),
+                                  QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  view().selectionModel()->setCurrentIndex(view().model()->index(2, ComparisonModel::PValue),
+                                           QItemSelectionModel::NoUpdate);
+  // K10, which was the first, becomes the last; k1 moves up.
+  Comparison comparison = sampleComparison();
+  comparison.parameters[1].statistic = 0.1;
+  table.setComparison(comparison);
+  ASSERT_EQ(names(), (QStringList{"k, \"2\"", "k1", "K10"}));
+  const auto isMarked = [this](int row)
+  { return view().selectionModel()->isRowSelected(row, QModelIndex()); };
+  EXPECT_FALSE(isMarked(0));
+  EXPECT_TRUE(isMarked(1));
+  EXPECT_TRUE(isMarked(2));
+  EXPECT_EQ(view().currentIndex(), view().model()->index(1, ComparisonModel::PValue));
+  comparison.parameters.erase(comparison.parameters.begin());
+  table.setComparison(comparison);
+  ASSERT_EQ(names(), (QStringList{"k, \"2\"", "K10"}));
+  EXPECT_FALSE(isMarked(0));
+  EXPECT_TRUE(isMarked(1));
+  EXPECT_FALSE(view().currentIndex().isValid()) << "its parameter has gone";
 }
 
 TEST_F(TableOfAComparison, KeepsItsOrderWhenTheComparisonChanges)
@@ -152,6 +228,40 @@ TEST_F(TableOfAComparison, IsSavedWithCommasAndQuotes)
             "K10,1,1e-10,3e-10,8,12,yes\n"
             "\"k, \"\"2\"\"\",0.5,0.03,0.045,8,12,yes\n"
             "k1,0.25,0.2,0.2,8,12,no\n");
+}
+
+TEST_F(TableOfAComparison, IsSavedAsItWasWhenTheUserAskedForIt)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("comparison.csv"));
+  const QString asked = table.commaText();
+  table.chooseFileAndSave();
+  auto* dialog = table.findChild<QFileDialog*>();
+  ASSERT_NE(dialog, nullptr);
+  table.setComparison({Comparison::State::nothingSelected, {}});
+  QSignalSpy said(&table, &ComparisonTable::said);
+  emit dialog->fileSelected(path);
+  dialog->close();
+  EXPECT_EQ(said.count(), 1);
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(QString::fromUtf8(file.readAll()), asked);
+}
+
+TEST_F(TableOfAComparison, ReportsThatItCannotBeSaved)
+{
+  const QTemporaryDir folder;
+  QSignalSpy said(&table, &ComparisonTable::said);
+  QSignalSpy failed(&table, &ComparisonTable::failed);
+  table.chooseFileAndSave();
+  auto* dialog = table.findChild<QFileDialog*>();
+  ASSERT_NE(dialog, nullptr);
+  const QString path = folder.filePath(QStringLiteral("nowhere/comparison.csv"));
+  emit dialog->fileSelected(path);
+  dialog->close();
+  EXPECT_EQ(said.count(), 0);
+  ASSERT_EQ(failed.count(), 1);
+  EXPECT_TRUE(failed[0][0].toString().startsWith(path + ": "));
 }
 
 TEST_F(TableOfAComparison, LeavesNothingWhereItCannotBeSaved)

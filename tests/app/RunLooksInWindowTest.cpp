@@ -1,4 +1,6 @@
 #include "app/SelectionController.h"
+#include "app/Session.h"
+#include "app/TimeCoursePage.h"
 #include "vtk/vtkPlotLineSet.h"
 
 #include <vtkPlotFunctionalBag.h>
@@ -6,8 +8,10 @@
 #include <vtkVariant.h>
 
 #include <QAction>
+#include <QTabWidget>
 
 #include "GroupsInWindow.h"
+#include "SampleStudies.h"
 
 namespace
 {
@@ -87,6 +91,97 @@ TEST_F(RunLooksInWindow, NormalisedValuesAreGivenBackWhenTheStudyIsLeft)
   EXPECT_EQ(value(0, pointsPerRun), 16.0);
   EXPECT_FALSE(find<QCheckBox>("normaliseRuns")->isChecked());
   EXPECT_FALSE(window.selectionController()->undoStack().canUndo());
+}
+
+TEST_F(RunLooksInWindow, NormalisingLeavesOutWhatIsNoNumberOfTheRunsOwn)
+{
+  PlotChoice choice = window.plotDock()->choice();
+  choice.y = {0, 1, 2, 3, 4};
+  choose(choice);
+  const QStringList labels = container().getLabels();
+  ASSERT_EQ(labels.mid(2, 3), QStringList({": time", ": Run Index", "Parameter: k"}));
+  tick("normaliseRuns");
+  EXPECT_TRUE(find<QCheckBox>("normaliseRuns")->isChecked());
+  EXPECT_EQ(value(0, pointsPerRun), 1.0);
+  for (vtkIdType row = 0; row < container().getTable()->GetNumberOfRows(); ++row)
+  {
+    EXPECT_EQ(value(2, row), static_cast<double>(row % pointsPerRun));
+    EXPECT_EQ(value(3, row), 10.0 * static_cast<double>(row / pointsPerRun + 1));
+    EXPECT_EQ(value(4, row), 0.5 * static_cast<double>(row / pointsPerRun));
+  }
+  choice.y = {3};
+  choose(choice);
+  tick("normaliseRuns");
+  EXPECT_FALSE(find<QCheckBox>("normaliseRuns")->isChecked());
+  EXPECT_EQ(value(3, 0), 10.0);
+}
+
+TEST_F(RunLooksInWindow, NormalisedValuesAreThoseOfTheRunsThatAreCompared)
+{
+  group(2);
+  clickGroup(1);
+  const auto largest = [this](std::size_t slot)
+  {
+    double range[2];
+    Talmesh::plot::doubleColumn(container().getDerivedTables()[slot], 0)->GetRange(range);
+    return range[1];
+  };
+  // The first points of runs 2, 4 and 6 and of runs 1, 3 and 5.
+  EXPECT_EQ(largest(2), 48.0);
+  EXPECT_EQ(largest(5), 5.0);
+  tick("normaliseRuns");
+  EXPECT_EQ(largest(2), 1.0);
+  EXPECT_EQ(largest(5), 1.0 / 8.0);
+  press(QKeySequence::Undo);
+  EXPECT_EQ(largest(2), 48.0);
+  EXPECT_EQ(runs(), (std::set<int>{20, 40, 60}));
+}
+
+TEST_F(RunLooksInWindow, NormalisedValuesAreOnThePageOfTimeCoursesToo)
+{
+  window.pages()->setCurrentIndex(1);
+  auto* page = window.findChild<TimeCoursePage*>();
+  const auto firstX = [page]
+  {
+    vtkTable* table = page->findChild<VtkPlotWidget*>()->plotContainer()->getTable();
+    return table->GetValueByName(0, "Molecule: X").ToDouble();
+  };
+  QTest::keyClick(page->findChild<QSpinBox*>(QStringLiteral("run")), Qt::Key_Up);
+  EXPECT_EQ(firstX(), 16.0);
+  tick("normaliseRuns");
+  EXPECT_EQ(firstX(), 1.0);
+  window.pages()->setCurrentIndex(0);
+  press(QKeySequence::Undo);
+  window.pages()->setCurrentIndex(1);
+  EXPECT_EQ(firstX(), 16.0);
+}
+
+TEST_F(RunLooksInWindow, NormalisedRunsAreSavedWithTheirValuesFromBefore)
+{
+  tick("normaliseRuns");
+  const QString path = folder.filePath(QStringLiteral("normalised.talmesh"));
+  ASSERT_TRUE(window.saveSessionTo(path));
+  EXPECT_EQ(value(0, pointsPerRun), 1.0) << "what is shown stays";
+  const OpenedSession saved = openSession(path);
+  ASSERT_EQ(saved.error, "");
+  EXPECT_EQ(saved.study.runs->values[0][pointsPerRun], 16.0);
+  EXPECT_EQ(saved.session->settings.normalised, std::vector<int>{0});
+
+  open("other.csv", sampleRuns());
+  window.pages()->setCurrentIndex(1);
+  window.openFile(path);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, 60000));
+  EXPECT_EQ(value(0, pointsPerRun), 1.0);
+  EXPECT_EQ(value(0, pointsPerRun + 1), 14.0 / 16.0);
+  EXPECT_TRUE(find<QCheckBox>("normaliseRuns")->isChecked());
+  EXPECT_FALSE(window.selectionController()->undoStack().canUndo());
+  vtkTable* courses =
+      window.findChild<TimeCoursePage*>()->findChild<VtkPlotWidget*>()->plotContainer()->getTable();
+  EXPECT_EQ(courses->GetValueByName(0, "Molecule: X").ToDouble(), 1.0 / 8.0);
+  window.pages()->setCurrentIndex(0);
+  tick("normaliseRuns");
+  EXPECT_EQ(value(0, pointsPerRun), 16.0);
+  EXPECT_EQ(value(0, pointsPerRun + 1), 14.0);
 }
 
 } // namespace

@@ -75,7 +75,7 @@ protected:
   {
     PlotContainer container(nullptr);
     showStudy(study, container);
-    return dumpStudy(study, container);
+    return dumpStudy(study, container, container.getTable());
   }
 
   QTemporaryDir folder;
@@ -314,7 +314,8 @@ TEST_F(Session, FindsBoundsThatAreMissing)
 
 TEST(SessionSettings, KeepFirstValuesInsteadOfWrongOnes)
 {
-  const QByteArray text = R"({"name": 3, "pointsPerRun": 1.5, "legend": "yes", "plot": {
+  const QByteArray text = R"({"name": 3, "pointsPerRun": 1.5, "legend": "yes",
+    "normalised": [2, 4, "1"], "plot": {
     "style": "no such style", "stride": 0, "x": [7, "1", 0.5, -3, 1], "y": [], "z": "2",
     "parameters": [1e300], "ksThreshold": 2, "pThreshold": -1, "lineWidth": 1e9, "pointSize": null,
     "marker": 99, "color": [300, -1, 5], "colorColumn": 4, "lines": 1,
@@ -324,6 +325,8 @@ TEST(SessionSettings, KeepFirstValuesInsteadOfWrongOnes)
   EXPECT_EQ(read.settings.name, "");
   EXPECT_EQ(read.settings.pointsPerRun, 0);
   EXPECT_FALSE(read.settings.legend);
+  EXPECT_EQ(read.settings.normalised, (std::vector<int>{2, -1, -1}));
+  EXPECT_TRUE(readSettings("{}", 4).settings.normalised.empty());
   const PlotMetaData& plot = *read.settings.plot;
   EXPECT_EQ(plot.getPlotStyle(), xyPlot);
   EXPECT_EQ(plot.getStride(), 1);

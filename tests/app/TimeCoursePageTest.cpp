@@ -19,6 +19,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <algorithm>
+
 #include "SampleStudies.h"
 
 using namespace Talmesh::app;
@@ -51,6 +53,11 @@ protected:
     selector().scrollToItem(found.front());
     QTest::mouseClick(selector().viewport(), Qt::LeftButton, modifiers,
                       selector().visualItemRect(found.front()).center());
+  }
+
+  double shownValue(const char* column, vtkIdType row)
+  {
+    return plotter().plotContainer()->getTable()->GetValueByName(row, column).ToDouble();
   }
 
   TimeCoursePage page;
@@ -106,6 +113,73 @@ TEST_F(TimeCourses, FollowTheRunAndKeepTheItems)
   ASSERT_NE(table->GetColumnByName("Molecule: Y"), nullptr);
   EXPECT_FLOAT_EQ(table->GetValueByName(0, "Molecule: Y").ToFloat(),
                   static_cast<float>(study.runs->values[1][4]));
+}
+
+TEST_F(TimeCourses, ShowTheNumbersThatTheTableGivesItsRuns)
+{
+  const Study study = sampleStudy("run,time,X\n7,0,1\n7,1,2\n12,0,3\n12,1,4\n30,0,5\n30,1,6\n");
+  show(study);
+  auto* run = page.findChild<QSpinBox*>("run");
+  EXPECT_EQ(run->text(), "7");
+  QTest::keyClick(run, Qt::Key_Up);
+  EXPECT_EQ(run->text(), "12");
+  run->selectAll();
+  QTest::keyClicks(run, "30");
+  EXPECT_EQ(run->value(), 2);
+  EXPECT_EQ(shownValue("Molecule: X", 0), 5.0);
+  run->selectAll();
+  QTest::keyClicks(run, "8");
+  EXPECT_EQ(run->value(), 2) << "there is no such run";
+  QTest::keyClick(run, Qt::Key_Return);
+  EXPECT_EQ(run->text(), "30");
+  page.setStudy(sampleStudy());
+  EXPECT_EQ(run->text(), "0");
+  EXPECT_EQ(run->maximum(), 2);
+}
+
+TEST_F(TimeCourses, CountTheirRunsWhenTheirNumbersCannotTellThemApart)
+{
+  const Study study = sampleStudy();
+  std::fill_n(study.runs->values[3], 12, 5.0);
+  ASSERT_EQ(study.runs->items[3].second, "Run Index");
+  show(study);
+  auto* run = page.findChild<QSpinBox*>("run");
+  QTest::keyClick(run, Qt::Key_Up);
+  QTest::keyClick(run, Qt::Key_Up);
+  EXPECT_EQ(run->value(), 2);
+  EXPECT_EQ(run->text(), "2");
+}
+
+TEST_F(TimeCourses, ShowValuesThatHaveChanged)
+{
+  const Study study = sampleStudy();
+  show(study);
+  click("Y");
+  auto* run = page.findChild<QSpinBox*>("run");
+  QTest::keyClick(run, Qt::Key_Up);
+  study.runs->values[1][4] = 17.0;
+  page.refresh();
+  EXPECT_EQ(shownValue("Molecule: Y", 0), 17.0);
+  EXPECT_EQ(run->value(), 1);
+  EXPECT_EQ(selector().selectedItems().front()->text(0), "Y");
+  page.hide();
+  study.runs->values[1][4] = 19.0;
+  page.refresh();
+  EXPECT_EQ(shownValue("Molecule: Y", 0), 17.0) << "not before anybody looks";
+  page.show();
+  EXPECT_EQ(shownValue("Molecule: Y", 0), 19.0);
+  EXPECT_EQ(run->value(), 1);
+}
+
+TEST_F(TimeCourses, RunOverTheTimeThatOtherChartsRunOver)
+{
+  const Study study = sampleStudy(
+      ": Run Index,: Dose,: Time [s],Molecule: A\n0,5,0,1\n0,5,1,2\n1,6,0,3\n1,6,1,4\n");
+  show(study);
+  EXPECT_STREQ(plotter().plotContainer()->getTable()->GetColumnName(0), "Time [s]");
+  page.setStudy(sampleStudy(": Run Index,: Hour,Molecule: A\n0,0,1\n0,1,2\n1,0,3\n1,1,4\n"));
+  EXPECT_STREQ(plotter().plotContainer()->getTable()->GetColumnName(0), "Hour")
+      << "the number of a run is no time";
 }
 
 TEST_F(TimeCourses, SayThatAPlainTableHasNone)
