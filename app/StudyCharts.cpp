@@ -81,8 +81,6 @@ vtkSmartPointer<vtkTable> indomethacinCurve()
 
 void addPuromycinCurve(PlotContainer& container)
 {
-  if (!container.getDerivedTables().empty())
-    return;
   const vtkSmartPointer<vtkTable> curve = puromycinCurve(curvePoints);
   std::vector<double> concentrations = valuesOf(curve, 0);
   std::vector<double> fit = valuesOf(curve, 1);
