@@ -49,7 +49,8 @@ struct FoundColumn
 /// Finds a column by its whole name, else by its name without the kind.
 FoundColumn findColumn(const PlotContainer& container, const std::string& name);
 
-/// Writes the style and the columns that the command line names into `choice`.
+/// Writes the style and the columns that the command line names into `choice`. Names of y columns
+/// that a comma has parted count as one where a column has that name.
 /// @return why a name cannot be found, in one line; empty on success
 std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,
                          PlotChoice& choice);

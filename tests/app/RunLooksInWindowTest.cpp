@@ -5,8 +5,6 @@
 #include <vtkTable.h>
 #include <vtkVariant.h>
 
-#include <QAction>
-
 #include "GroupsInWindow.h"
 
 namespace
@@ -76,17 +74,6 @@ TEST_F(RunLooksInWindow, NormalisingBelongsToTheColumnsShown)
   choice.y = {0};
   choose(choice);
   EXPECT_TRUE(find<QCheckBox>("normaliseRuns")->isChecked());
-}
-
-TEST_F(RunLooksInWindow, NormalisedValuesAreGivenBackWhenTheStudyIsLeft)
-{
-  tick("normaliseRuns");
-  window.findChild<QAction*>(QStringLiteral("priors"))->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, 60000));
-  window.returnToRuns();
-  EXPECT_EQ(value(0, pointsPerRun), 16.0);
-  EXPECT_FALSE(find<QCheckBox>("normaliseRuns")->isChecked());
-  EXPECT_FALSE(window.selectionController()->undoStack().canUndo());
 }
 
 } // namespace
