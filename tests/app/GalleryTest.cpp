@@ -122,6 +122,7 @@ TEST(Gallery, ShowsALogarithmicAxis)
 {
   DrawnView drawn("fittedCourse-logarithmic", sampleStudy());
   EXPECT_TRUE(drawn.chart().GetAxis(vtkAxis::LEFT)->GetLogScale());
+  EXPECT_TRUE(drawn.chart().GetAxis(vtkAxis::LEFT)->GetLogScaleActive()) << "in the first picture";
 }
 
 TEST(Gallery, SelectsLivelyRunsByTheirNumbers)

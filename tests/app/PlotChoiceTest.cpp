@@ -189,7 +189,7 @@ TEST(PlotChoice, JoinsNamesWithCommasThatTheCommandLineParted)
     EXPECT_EQ(chooseByName(container, options, choice), "");
     std::vector<std::string> found;
     for (const int column : choice.y)
-      found.push_back(shownName(container.getLabels()[column].toStdString()));
+      found.push_back(shownName(container.getLabels().value(column).toStdString()));
     return found;
   };
   using Names = std::vector<std::string>;
