@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cmath>
+#include <mutex>
 #include <stdexcept>
 
 namespace Talmesh::app
@@ -14,6 +15,7 @@ namespace
 {
 
 constexpr std::array<const char*, 4> parameterNames = {"alpha", "alpha0", "beta", "n"};
+constexpr std::size_t keptSamples = 4096;
 constexpr std::uint32_t seed = 2000335;
 constexpr std::size_t timePoints = 36;
 constexpr double hour = 3600.0; ///< seconds
@@ -109,6 +111,16 @@ std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
   result->total = std::make_shared<SobolPostProcessResult::Indices>(regroup(indices.total));
   appendTime(*result);
   return result;
+}
+
+std::shared_ptr<SobolPostProcessResult> keptCircuitSensitivity(const ImportProgress& progress)
+{
+  static std::mutex computing;
+  static std::shared_ptr<SobolPostProcessResult> kept;
+  const std::lock_guard<std::mutex> lock(computing);
+  if (!kept)
+    kept = circuitSensitivity(keptSamples, progress);
+  return kept;
 }
 
 std::vector<NamedDistribution> circuitPriors()

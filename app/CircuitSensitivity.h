@@ -1,7 +1,7 @@
 #ifndef CircuitSensitivity_h
 #define CircuitSensitivity_h
 
-#include "app/RunTableImport.h"
+#include "app/ImportProgress.h"
 #include "external/Distribution.h"
 #include "external/SobolPostProcessResult.h"
 
@@ -21,6 +21,13 @@ namespace Talmesh::app
 /// @throws std::runtime_error when the progress cancels
 std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
                                                            const ImportProgress& progress = {});
+
+/// The same from as many samples as the viewer's charts are drawn from, some seconds of work:
+/// first-order indices near zero still scatter around it. Computed once for all, as the numbers are
+/// always the same. May be called in any thread.
+/// @return shared, only to be read
+/// @throws std::runtime_error when the progress cancels
+std::shared_ptr<SobolPostProcessResult> keptCircuitSensitivity(const ImportProgress& progress = {});
 
 struct NamedDistribution
 {

@@ -97,7 +97,7 @@ RepressilatorState exampleStart()
   return {0.0, 0.0, 0.0, 10.0, 5.0, 0.0};
 }
 
-boost::shared_ptr<LinePlotTable> makeExampleStudy()
+boost::shared_ptr<LinePlotTable> makeExampleStudy(const ImportProgress& progress)
 {
   auto table = boost::make_shared<LinePlotTable>();
   table->items = exampleItems();
@@ -112,8 +112,13 @@ boost::shared_ptr<LinePlotTable> makeExampleStudy()
   const std::vector<double> times = timesInLifetimes();
   const std::vector<RepressilatorParameters> parameters = exampleParameters();
   for (std::size_t run = 0; run < parameters.size(); ++run)
+  {
     storeRun(*table, run, parameters[run],
              integrateRepressilator(parameters[run], exampleStart(), times));
+    const double done = static_cast<double>(run + 1) / static_cast<double>(parameters.size());
+    if (progress && !progress(done))
+      return nullptr;
+  }
   return table;
 }
 

@@ -1,6 +1,7 @@
 #ifndef ExampleStudy_h
 #define ExampleStudy_h
 
+#include "app/ImportProgress.h"
 #include "app/Repressilator.h"
 #include "external/LinePlotTable.h"
 
@@ -47,7 +48,9 @@ RepressilatorState exampleStart();
 /// Simulates all runs. Items in order: the proteins TetR, LacI and cI (molecules), their mRNAs
 /// (patterns), ": Time [s]", ": Run Index", and the parameters alpha, alpha0, beta and n with the
 /// ranges above.
-boost::shared_ptr<LinePlotTable> makeExampleStudy();
+/// @param progress told after each run
+/// @return null when the progress cancels
+boost::shared_ptr<LinePlotTable> makeExampleStudy(const ImportProgress& progress = {});
 
 } // namespace Talmesh::app
 

@@ -2,7 +2,9 @@
 
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
+#include "app/PublishedViews.h"
 #include "app/StatisticsViews.h"
+#include "app/TimeCoursePage.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
@@ -56,6 +58,15 @@ std::string drawSeveralSeries(const Study& study, PlotContainer& container)
       choice.y.push_back(column);
   choice.legend = true;
   return applyChoice(container, choice);
+}
+
+/// The page of single runs, with its legend.
+std::string drawCourses(const Study& study, PlotContainer& container)
+{
+  if (study.runs)
+    drawTimeCourses(*study.runs, 0, mostSeries, container);
+  container.setShowLegend(true);
+  return {};
 }
 
 /// The first plotted items and all parameters; without runs all columns.
@@ -128,6 +139,7 @@ const std::vector<GalleryView>& galleryViews()
               {"xyPlot-runs", drawRuns},
               {"xyPlot-series", drawSeveralSeries},
               {"xyPlot-points", drawPoints},
+              {"timeCourses", drawCourses},
               {"scatterPlotMatrix", lastPointsIn(scatterPlotMatrix)},
               {"xyzPlot", lastPointsIn(xyzPlot)},
               {"parallelCoordinates", lastPointsIn(parallelCoordinates)}});

@@ -14,14 +14,12 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
-#include <QStringList>
 #include <QTabWidget>
 
 namespace Talmesh::app
@@ -74,8 +72,7 @@ MainWindow::MainWindow(QWidget* parent)
   connect(dock, &PlotDock::choiceChanged, this, &MainWindow::applyDock);
   connect(comparison, &ComparisonDock::choiceChanged, this, &MainWindow::applyComparison);
   connect(comparison, &ComparisonDock::styleChosen, this, &MainWindow::chooseStyle);
-  connect(comparison, &ComparisonDock::said, this,
-          [this](const QString& message) { statusBar()->showMessage(message, noteMilliseconds); });
+  connect(comparison, &ComparisonDock::said, this, &MainWindow::say);
   connect(comparison, &ComparisonDock::failed, this, &MainWindow::showError);
   connect(loader, &StudyLoader::progressed, loadingBar, &LoadingBar::setPercent);
   connect(loader, &StudyLoader::finished, this, &MainWindow::finishLoading);
@@ -109,133 +106,15 @@ void MainWindow::makeStatusBar()
   statusBar()->addPermanentWidget(size);
 }
 
-void MainWindow::open(const CommandLineOptions& options)
-{
-  wishes = options;
-  if (options.width > 0)
-    // The window grows by as much as the plot must.
-    resize(QWidget::size() + QSize(options.width, options.height) - plot->size());
-  if (options.file.empty())
-    openExample();
-  else
-    openFile(QString::fromStdString(options.file));
-}
-
-void MainWindow::openFile(const QString& path)
-{
-  loadingPath = path;
-  load(QFileInfo(path).fileName(),
-       [path](const ImportProgress& progress) { return openStudyFile(path, progress); });
-}
-
-void MainWindow::openExample()
-{
-  loadingPath.clear();
-  load(tr("the example study"),
-       [](const ImportProgress&)
-       {
-         OpenedStudy example;
-         example.study = exampleStudyOfRepressilator();
-         return example;
-       });
-}
-
-bool MainWindow::isLoading() const
-{
-  return loader->isLoading();
-}
-
-void MainWindow::load(const QString& name, std::function<OpenedStudy(const ImportProgress&)> job)
-{
-  statusBar()->showMessage(tr("Opening %1 ...").arg(name));
-  loadingBar->begin();
-  loader->start(std::move(job));
-}
-
-void MainWindow::cancelLoading()
-{
-  loader->cancel();
-  loadingBar->end();
-  statusBar()->showMessage(tr("Cancelled"), noteMilliseconds);
-}
-
-void MainWindow::finishLoading(const OpenedStudy& result)
-{
-  loadingBar->end();
-  statusBar()->clearMessage();
-  if (!result.error.empty())
-  {
-    const QString message = QString::fromStdString(result.error);
-    if (!loadingPath.isEmpty())
-      recent.remove(loadingPath);
-    showError(message);
-    emit openFailed(message);
-    return;
-  }
-  showStudyInPlot(result.study);
-  if (result.session)
-    showSession(*result.session);
-  if (!loadingPath.isEmpty())
-    recent.add(loadingPath);
-  QStringList notes;
-  for (const std::string& note : result.notes)
-    notes.append(QString::fromStdString(note));
-  if (!notes.isEmpty())
-    statusBar()->showMessage(notes.join(QLatin1Char(' ')), noteMilliseconds);
-  if (applyWishes())
-    emit opened();
-  // What is restored is no update that the user waits for.
-  clock.end();
-}
-
-void MainWindow::showStudyInPlot(const Study& opened)
-{
-  leaveStudy();
-  // A container remembers much of what it showed before, so each study gets its own.
-  auto* fresh = new PlotContainer(this);
-  plot->setPlotContainer(fresh);
-  if (container && container->parent() == this)
-    container->deleteLater();
-  container = fresh;
-  study = opened;
-  showStudy(study, *container);
-  if (!study.chart)
-    chooseOpeningStyle(*container, wishes);
-  timeCourses->setStudy(study);
-  followStudy();
-  dock->setColumns(container->getLabels());
-  dock->setChoice(choiceOf(*container));
-  size->setText(QString::fromStdString(studySize(study, *container)));
-  selection->follow(container);
-  clock.follow(container->getAnnotationLink());
-  selected->setText(selection->summary());
-  setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
-}
-
-/// Shows what the command line asked for, once, or the study's own first choice.
-bool MainWindow::applyWishes()
-{
-  PlotChoice choice = choiceOf(*container);
-  const std::string error = chooseByName(*container, wishes, choice);
-  wishes = CommandLineOptions();
-  if (error.empty())
-    dock->setChoice(choice);
-  applyDock();
-  if (error.empty())
-    return true;
-  showError(QString::fromStdString(error));
-  emit openFailed(QString::fromStdString(error));
-  return false;
-}
-
-void MainWindow::applyDock()
+/// @return false when it could not be drawn, which the status bar then says
+bool MainWindow::applyDock()
 {
   if (!container)
-    return;
+    return true;
   if (study.chart)
   {
     drawOwnChart();
-    return;
+    return true;
   }
   dropOutdatedTests(*container);
   const std::string error = applyChoice(*container, dock->choice());
@@ -244,7 +123,8 @@ void MainWindow::applyDock()
   comparison->refresh(*container);
   plot->updatePlot(true);
   if (!error.empty())
-    statusBar()->showMessage(QString::fromStdString(error), noteMilliseconds);
+    say(QString::fromStdString(error));
+  return error.empty();
 }
 
 /// A changed selection has drawn the chart anew, without what the viewer adds to it.
@@ -256,8 +136,7 @@ void MainWindow::showSelection()
     plot->updatePlot(true);
     return;
   }
-  applyDock();
-  sayHowLongItTook();
+  sayHowLongItTook(applyDock());
 }
 
 void MainWindow::applyComparison()
@@ -266,8 +145,7 @@ void MainWindow::applyComparison()
     return;
   clock.begin();
   writeComparisonChoice(*container, comparison->choice());
-  applyDock();
-  sayHowLongItTook();
+  sayHowLongItTook(applyDock());
 }
 
 void MainWindow::chooseStyle(plotStyles style)
@@ -278,10 +156,12 @@ void MainWindow::chooseStyle(plotStyles style)
   applyDock();
 }
 
-void MainWindow::sayHowLongItTook()
+/// @param drawn what could not be drawn took no time worth a word
+void MainWindow::sayHowLongItTook(bool drawn)
 {
-  if (const std::optional<qint64> milliseconds = clock.end())
-    statusBar()->showMessage(tr("Updated in %1 ms").arg(*milliseconds), noteMilliseconds);
+  const std::optional<qint64> milliseconds = clock.end();
+  if (milliseconds && drawn)
+    say(tr("Updated in %1 ms").arg(*milliseconds));
 }
 
 QString MainWindow::selectionText() const
@@ -294,9 +174,14 @@ QString MainWindow::sizeText() const
   return size->text();
 }
 
-void MainWindow::showError(const QString& message)
+void MainWindow::say(const QString& message)
 {
   statusBar()->showMessage(message, noteMilliseconds);
+}
+
+void MainWindow::showError(const QString& message)
+{
+  say(message);
   if (!isVisible())
     return;
   // Opened, not executed: a nested event loop would let the window die under this call.
@@ -305,6 +190,12 @@ void MainWindow::showError(const QString& message)
   box->setAttribute(Qt::WA_DeleteOnClose);
   box->setTextFormat(Qt::PlainText);
   box->open();
+}
+
+void MainWindow::showErrorIfAny(const std::string& message)
+{
+  if (!message.empty())
+    showError(QString::fromStdString(message));
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

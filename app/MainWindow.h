@@ -11,6 +11,9 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QStringList>
+
+#include <functional>
 
 class PlotContainer;
 class QLabel;
@@ -41,7 +44,8 @@ public:
   ~MainWindow() override;
 
   /// Opens the file or example that the command line names and shows the columns it names. The
-  /// result is announced by `opened` or `openFailed`.
+  /// result is announced by `opened`, or by `openFailed` and `commandLineFailed`; by neither when
+  /// the user cancels or starts to open something else meanwhile.
   void open(const CommandLineOptions& options);
   /// Starts to open a file; the window stays alive meanwhile.
   void openFile(const QString& path);
@@ -77,6 +81,8 @@ signals:
   void opened();
   /// One line.
   void openFailed(const QString& message);
+  /// As `openFailed`, but only of what the command line names.
+  void commandLineFailed(const QString& message);
 
 protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -109,18 +115,22 @@ private:
   void load(const QString& name, std::function<OpenedStudy(const ImportProgress&)> job);
   void cancelLoading();
   void finishLoading(const OpenedStudy& result);
+  void sayThatItFailed(const QString& message);
+  void forgetCommandLine();
   void showStudyInPlot(const Study& study);
-  void leaveStudy();
+  void leaveStudy(bool forOwnChart);
   void followStudy();
+  void showWhatIsLoaded();
   void drawOwnChart();
   bool applyWishes();
-  void applyDock();
+  bool applyDock();
   void applyComparison();
   void chooseStyle(plotStyles style);
-  void sayHowLongItTook();
-  void updateRender();
+  void sayHowLongItTook(bool drawn);
   bool sayWhatWasWritten(const QString& path, const std::string& error);
+  void say(const QString& message);
   void showError(const QString& message);
+  void showErrorIfAny(const std::string& message);
 
   VtkPlotWidget* plot;
   TimeCoursePage* timeCourses;
@@ -141,16 +151,25 @@ private:
   StudyDock* studyDock = nullptr;
   GroupController* groups = nullptr;
   QMenu* studiesMenu = nullptr;
-  /// The runs or the table opened last, and what the user had chosen of them.
-  Study lastRuns;
-  PlotChoice lastChoice;
+  /// The runs or the table opened last. While a computed study takes their place, their container
+  /// is kept with all that the user has done to it.
+  struct LastRuns
+  {
+    Study study;
+    /// Null while it is the window's container.
+    QPointer<PlotContainer> container;
+    QStringList columns;
+    PlotChoice choice;
+  };
+  LastRuns lastRuns;
   /// The title that the study's own chart gave itself; another one is the user's.
   std::string ownTitle;
   bool drawingOwnChart = false;
   /// The file being opened; empty for the example.
   QString loadingPath;
-  /// What the command line wishes of the study that is being opened first.
+  /// What the command line wishes of the study that it names, while that is being opened.
   CommandLineOptions wishes;
+  bool openingNamed = false;
 };
 
 } // namespace Talmesh::app

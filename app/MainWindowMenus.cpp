@@ -1,14 +1,13 @@
 #include "app/ComparisonDock.h"
+#include "app/FileDialogs.h"
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
 #include "app/StyleNames.h"
-#include "widgets/WidgetSupport.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -69,8 +68,8 @@ void MainWindow::makeSelectionMenu()
     action->setShortcut(keys);
     menu->addAction(action);
   };
-  addStep(selection->undoStack().createUndoAction(this), QKeySequence::Undo);
-  addStep(selection->undoStack().createRedoAction(this), QKeySequence::Redo);
+  addStep(selection->undoGroup().createUndoAction(this), QKeySequence::Undo);
+  addStep(selection->undoGroup().createRedoAction(this), QKeySequence::Redo);
   menu->addSeparator();
   const auto add = [this, menu](const QString& text, const QKeySequence& keys,
                                 void (SelectionController::*slot)())
@@ -130,47 +129,21 @@ void MainWindow::makeHelpMenu()
 
 void MainWindow::chooseFile()
 {
-  auto* dialog =
-      new QFileDialog(this, tr("Open runs"), {},
-                      tr("Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setOptions(getFileDialogOption());
-  dialog->setFileMode(QFileDialog::ExistingFile);
-  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::openFile);
-  dialog->open();
+  askToOpen(this, tr("Open runs"),
+            tr("Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)"),
+            [this](const QString& path) { openFile(path); });
 }
 
 void MainWindow::saveSelection()
 {
-  auto* dialog = new QFileDialog(this, tr("Save selected runs"), {}, tr("Runs (*.json)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setOptions(getFileDialogOption());
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(QStringLiteral("json"));
-  connect(dialog, &QFileDialog::fileSelected, this,
-          [this](const QString& path)
-          {
-            const std::string error = selection->save(path);
-            if (!error.empty())
-              showError(QString::fromStdString(error));
-          });
-  dialog->open();
+  askToSave(this, tr("Save selected runs"), tr("Runs (*.json)"), QStringLiteral("json"),
+            [this](const QString& path) { showErrorIfAny(selection->save(path)); });
 }
 
 void MainWindow::loadSelection()
 {
-  auto* dialog = new QFileDialog(this, tr("Load selected runs"), {}, tr("Runs (*.json)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setOptions(getFileDialogOption());
-  dialog->setFileMode(QFileDialog::ExistingFile);
-  connect(dialog, &QFileDialog::fileSelected, this,
-          [this](const QString& path)
-          {
-            const std::string error = selection->load(path);
-            if (!error.empty())
-              showError(QString::fromStdString(error));
-          });
-  dialog->open();
+  askToOpen(this, tr("Load selected runs"), tr("Runs (*.json)"),
+            [this](const QString& path) { showErrorIfAny(selection->load(path)); });
 }
 
 void MainWindow::fillRecentMenu()
@@ -178,10 +151,22 @@ void MainWindow::fillRecentMenu()
   recentMenu->clear();
   const QStringList paths = recent.paths();
   for (const QString& path : paths)
-    connect(recentMenu->addAction(path), &QAction::triggered, this,
+  {
+    QString text = path;
+    // A single one marks a letter.
+    text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    connect(recentMenu->addAction(text), &QAction::triggered, this,
             [this, path] { openFile(path); });
+  }
   if (paths.isEmpty())
+  {
     recentMenu->addAction(tr("None yet"))->setEnabled(false);
+    return;
+  }
+  recentMenu->addSeparator();
+  QAction* clear = recentMenu->addAction(tr("&Clear list"));
+  clear->setObjectName(QStringLiteral("clearRecent"));
+  connect(clear, &QAction::triggered, this, [this] { recent.clear(); });
 }
 
 void MainWindow::showShortcuts()

@@ -1,3 +1,4 @@
+#include "app/FileDialogs.h"
 #include "app/GroupController.h"
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
@@ -6,22 +7,12 @@
 #include "app/SessionFile.h"
 #include "app/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
-#include "widgets/WidgetSupport.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QMenu>
-#include <QStatusBar>
 
 namespace Talmesh::app
 {
-
-namespace
-{
-
-constexpr int noteMilliseconds = 10000;
-
-} // namespace
 
 void MainWindow::addSessionActions(QMenu* menu)
 {
@@ -34,23 +25,14 @@ void MainWindow::addSessionActions(QMenu* menu)
 
 void MainWindow::chooseSession()
 {
-  auto* dialog = new QFileDialog(this, tr("Open session"), {}, tr("Sessions (*.talmesh)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setOptions(getFileDialogOption());
-  dialog->setFileMode(QFileDialog::ExistingFile);
-  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::openFile);
-  dialog->open();
+  askToOpen(this, tr("Open session"), tr("Sessions (*.talmesh)"),
+            [this](const QString& path) { openFile(path); });
 }
 
 void MainWindow::saveSession()
 {
-  auto* dialog = new QFileDialog(this, tr("Save session"), {}, tr("Sessions (*.talmesh)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setOptions(getFileDialogOption());
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(QLatin1String(sessionSuffix));
-  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::saveSessionTo);
-  dialog->open();
+  askToSave(this, tr("Save session"), tr("Sessions (*.talmesh)"), QLatin1String(sessionSuffix),
+            [this](const QString& path) { saveSessionTo(path); });
 }
 
 bool MainWindow::saveSessionTo(const QString& path)
@@ -59,14 +41,10 @@ bool MainWindow::saveSessionTo(const QString& path)
     return false;
   const std::string error =
       Talmesh::app::saveSession(path, study, *container, &groups->runNormaliser());
-  if (!error.empty())
-  {
-    showError(QString::fromStdString(error));
-    return false;
-  }
-  recent.add(path);
-  statusBar()->showMessage(tr("Wrote %1").arg(path), noteMilliseconds);
-  return true;
+  const bool written = sayWhatWasWritten(path, error);
+  if (written)
+    recent.add(path);
+  return written;
 }
 
 void MainWindow::showSession(const RestoredSession& session)

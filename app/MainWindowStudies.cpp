@@ -48,6 +48,7 @@ void MainWindow::makeStudies()
   studiesMenu->setToolTipsVisible(true);
   menuBar()->insertMenu(menuBar()->actions().last(), studiesMenu);
   fillStudiesMenu();
+  groups->follow(container, study);
   followStudy();
 }
 
@@ -88,19 +89,9 @@ void MainWindow::fillStudiesMenu()
   studiesMenu->addAction(clusterDock->toggleViewAction());
 }
 
-void MainWindow::leaveStudy()
-{
-  if (!study.chart && container && (study.runs || study.table))
-    lastChoice = dock->choice();
-  groups->leave();
-}
-
 /// Brings menus and panels into line with the study that is now shown.
 void MainWindow::followStudy()
 {
-  if (!study.chart)
-    lastRuns = study;
-  groups->follow(container, study);
   const std::string id = study.chart ? study.chart->id : std::string();
   for (QMenu* subject : studiesMenu->findChildren<QMenu*>())
   {
@@ -112,9 +103,14 @@ void MainWindow::followStudy()
   if (own)
     tabs->setCurrentWidget(plot);
   studiesMenu->findChild<QAction*>(QStringLiteral("returnToRuns"))
-      ->setEnabled(own && (lastRuns.runs || lastRuns.table));
-  dock->widget()->setEnabled(!own);
-  dock->widget()->setToolTip(own ? tr("The chart of this study is composed already.") : QString());
+      ->setEnabled(own && lastRuns.container);
+  for (const QDockWidget* panel :
+       {static_cast<QDockWidget*>(dock), static_cast<QDockWidget*>(clusterDock)})
+  {
+    panel->widget()->setEnabled(!own);
+    panel->widget()->setToolTip(own ? tr("The chart of this study is composed already.")
+                                    : QString());
+  }
   comparison->widget()->setEnabled(!own);
   studyDock->setVisible(own);
   if (!own)
@@ -144,18 +140,6 @@ void MainWindow::drawOwnChart()
   selected->setText(selection->summary());
   comparison->refresh(*container);
   plot->updatePlot(true);
-}
-
-void MainWindow::returnToRuns()
-{
-  if (!study.chart || (!lastRuns.runs && !lastRuns.table))
-    return;
-  if (isLoading())
-    cancelLoading();
-  const PlotChoice choice = lastChoice;
-  showStudyInPlot(lastRuns);
-  dock->setChoice(choice);
-  applyDock();
 }
 
 } // namespace Talmesh::app

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -151,6 +152,28 @@ FoundColumn findColumn(const PlotContainer& container, const std::string& name)
                           plot::columnName(table, matches[1])})};
 }
 
+namespace
+{
+
+/// Joins names again where a comma stood inside a column's name: the longest name that exists wins.
+/// @return the column, and how many of the names from `first` on are its name
+std::pair<FoundColumn, std::size_t>
+findJoined(const PlotContainer& container, const std::vector<std::string>& names, std::size_t first)
+{
+  for (std::size_t count = names.size() - first; count > 1; --count)
+  {
+    std::string joined = names[first];
+    for (std::size_t i = first + 1; i < first + count; ++i)
+      joined += ',' + names[i];
+    const FoundColumn found = findColumn(container, joined);
+    if (found.error.empty())
+      return {found, count};
+  }
+  return {findColumn(container, names[first]), 1};
+}
+
+} // namespace
+
 std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,
                          PlotChoice& choice)
 {
@@ -168,9 +191,14 @@ std::string chooseByName(const PlotContainer& container, const CommandLineOption
   choose(options.x, choice.x);
   choose(options.z, choice.z);
   if (!options.y.empty())
-    choice.y.assign(options.y.size(), -1);
-  for (std::size_t i = 0; i < options.y.size(); ++i)
-    choose(options.y[i], choice.y[i]);
+    choice.y.clear();
+  for (std::size_t i = 0; i < options.y.size() && error.empty();)
+  {
+    const auto [found, count] = findJoined(container, options.y, i);
+    error = found.error;
+    choice.y.push_back(found.column);
+    i += count;
+  }
   return error;
 }
 

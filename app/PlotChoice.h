@@ -50,7 +50,8 @@ struct FoundColumn
 /// header calls its time or its runs, which may have got another name in the import.
 FoundColumn findColumn(const PlotContainer& container, const std::string& name);
 
-/// Writes the style and the columns that the command line names into `choice`.
+/// Writes the style and the columns that the command line names into `choice`. Names of y columns
+/// that a comma has parted count as one where a column has that name.
 /// @return why a name cannot be found, in one line; empty on success
 std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,
                          PlotChoice& choice);

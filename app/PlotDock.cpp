@@ -10,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Talmesh::app
 {
 
@@ -106,6 +108,14 @@ void PlotDock::setColumns(const QStringList& names)
   }
 }
 
+QStringList PlotDock::columns() const
+{
+  QStringList names;
+  for (int row = 0; row < y->count(); ++row)
+    names.append(y->item(row)->toolTip());
+  return names;
+}
+
 void PlotDock::tickColumns(const std::vector<int>& columns)
 {
   const QSignalBlocker silent(y);
@@ -115,6 +125,22 @@ void PlotDock::tickColumns(const std::vector<int>& columns)
     if (QListWidgetItem* item = y->item(column))
       item->setCheckState(Qt::Checked);
   lastTicked = columns;
+}
+
+std::vector<int> PlotDock::tickedColumns() const
+{
+  std::vector<int> order = lastTicked;
+  for (int row = 0; row < y->count(); ++row)
+    order.push_back(row);
+  std::vector<int> ticked;
+  for (const int row : order)
+  {
+    const QListWidgetItem* item = y->item(row);
+    const bool known = std::find(ticked.begin(), ticked.end(), row) != ticked.end();
+    if (item && item->checkState() == Qt::Checked && !known)
+      ticked.push_back(row);
+  }
+  return ticked;
 }
 
 void PlotDock::setChoice(const PlotChoice& choice)
@@ -145,10 +171,7 @@ PlotChoice PlotDock::choice() const
                                            : static_cast<plotStyles>(style->currentData().toInt());
   choice.x = x->currentIndex();
   choice.z = z->currentIndex();
-  choice.y.clear();
-  for (int row = 0; row < y->count(); ++row)
-    if (y->item(row)->checkState() == Qt::Checked)
-      choice.y.push_back(row);
+  choice.y = tickedColumns();
   if (choice.y.empty())
     choice.y = lastTicked;
   choice.lines = lines->isChecked();
@@ -171,7 +194,9 @@ void PlotDock::enableControls()
   const bool xy = chosen == xyPlot;
   lines->setEnabled(xy || chosen == selectionCdfPlot);
   legend->setEnabled(xy);
-  logX->setEnabled(xy);
+  // The pages of runs draw their time courses with it too.
+  logX->setEnabled(xy || chosen == multiPlot || chosen == selectionCdfPlot ||
+                   chosen == scatterWithErrorBars);
   logY->setEnabled(xy);
   z->setEnabled(chosen == xyzPlot || chosen == scatterWithErrorBars);
   x->setEnabled(chosen != parallelCoordinates);

@@ -23,9 +23,12 @@ public:
 
   /// Offers the columns of a table, by their names in column order. Emits nothing.
   void setColumns(const QStringList& names);
+  /// The names given last.
+  QStringList columns() const;
   /// Shows a choice. Emits nothing.
   void setChoice(const PlotChoice& choice);
-  /// What the controls say. Without a ticked column the one ticked last stays.
+  /// What the controls say. The y columns stand in the order in which they were chosen, each once;
+  /// without a ticked column the one ticked last stays.
   PlotChoice choice() const;
 
 signals:
@@ -35,6 +38,7 @@ signals:
 private:
   QCheckBox* addSwitch(const QString& text, const QString& toolTip);
   void tickColumns(const std::vector<int>& columns);
+  std::vector<int> tickedColumns() const;
   void emitChoice();
   void enableControls();
 

@@ -1,5 +1,6 @@
+#include "app/PublishedViews.h"
+
 #include "app/CircuitSensitivity.h"
-#include "app/StatisticsViews.h"
 #include "app/StudyCharts.h"
 #include "plot/PlotContainer.h"
 
@@ -9,10 +10,10 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr std::size_t sensitivitySamples = 1024;
+using Draw = std::function<void(PlotContainer&)>;
 
 /// A view of a chart that needs no study.
-GalleryView viewOf(const char* name, std::function<void(PlotContainer&)> draw)
+GalleryView viewOf(const std::string& name, Draw draw)
 {
   return {name, [draw = std::move(draw)](const Study&, PlotContainer& container)
           {
@@ -21,34 +22,50 @@ GalleryView viewOf(const char* name, std::function<void(PlotContainer&)> draw)
           }};
 }
 
-void drawCircuitSensitivity(PlotContainer& container, bool atTimePoint)
+Draw residuals(bool scaled, bool sideBySide)
 {
-  const auto result = circuitSensitivity(sensitivitySamples);
-  const std::size_t last = result->timePoints->size() - 1;
-  drawSensitivity(container, *result, {atTimePoint, false, atTimePoint ? last : 0});
+  return [=](PlotContainer& container)
+  { drawIndomethacinResiduals(container, scaled, sideBySide); };
+}
+
+/// Of the first species over time, or of all species at the last time.
+Draw sensitivity(bool atTimePoint, bool total)
+{
+  return [=](PlotContainer& container)
+  {
+    const auto result = keptCircuitSensitivity();
+    const std::size_t last = result->timePoints->size() - 1;
+    drawSensitivity(container, *result, {atTimePoint, total, atTimePoint ? last : 0});
+  };
+}
+
+std::vector<GalleryView> withPriors(std::vector<GalleryView> views)
+{
+  const auto priors = std::make_shared<std::vector<NamedDistribution>>(circuitPriors());
+  for (const NamedDistribution& prior : *priors)
+    views.push_back(viewOf("distribution-" + prior.name, [priors, &prior](PlotContainer& container)
+                           { drawPrior(container, prior); }));
+  return views;
 }
 
 } // namespace
 
 const std::vector<GalleryView>& publishedViews()
 {
-  static const std::vector<GalleryView> views = {
-      viewOf("scatterWithErrorBars", drawPuromycinRates),
-      viewOf("fitParameterDistribution", drawIndomethacinFit),
-      viewOf("fittedCourse",
-             [](PlotContainer& container) { drawIndomethacinCourse(container, false); }),
-      viewOf("residuals",
-             [](PlotContainer& container) { drawIndomethacinResiduals(container, false, false); }),
-      viewOf("residuals-scaled",
-             [](PlotContainer& container) { drawIndomethacinResiduals(container, true, false); }),
-      viewOf("residuals-sideBySide",
-             [](PlotContainer& container) { drawIndomethacinResiduals(container, false, true); }),
-      viewOf("sensitivity-overTime",
-             [](PlotContainer& container) { drawCircuitSensitivity(container, false); }),
-      viewOf("sensitivity-atTimePoint",
-             [](PlotContainer& container) { drawCircuitSensitivity(container, true); }),
-      viewOf("distribution",
-             [](PlotContainer& container) { drawPrior(container, circuitPriors().front()); })};
+  static const std::vector<GalleryView> views =
+      withPriors({viewOf("scatterWithErrorBars", drawPuromycinRates),
+                  viewOf("fitParameterDistribution", drawIndomethacinFit),
+                  viewOf("fittedCourse", [](PlotContainer& container)
+                         { drawIndomethacinCourse(container, false); }),
+                  viewOf("fittedCourse-logarithmic",
+                         [](PlotContainer& container) { drawIndomethacinCourse(container, true); }),
+                  viewOf("residuals", residuals(false, false)),
+                  viewOf("residuals-scaled", residuals(true, false)),
+                  viewOf("residuals-sideBySide", residuals(false, true)),
+                  viewOf("sensitivity-overTime", sensitivity(false, false)),
+                  viewOf("sensitivity-total-overTime", sensitivity(false, true)),
+                  viewOf("sensitivity-atTimePoint", sensitivity(true, false)),
+                  viewOf("sensitivity-total-atTimePoint", sensitivity(true, true))});
   return views;
 }
 

@@ -1,6 +1,7 @@
 #ifndef RunTableImport_h
 #define RunTableImport_h
 
+#include "app/ImportProgress.h"
 #include "external/LinePlotTable.h"
 
 #include <vtkSmartPointer.h>
@@ -8,7 +9,6 @@
 
 #include <boost/shared_ptr.hpp>
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,9 +31,6 @@ struct ImportedTable
   std::vector<std::string> notes;
 };
 
-/// Told the part done, from 0 to 1, every few thousand rows; returning false cancels.
-using ImportProgress = std::function<bool(double)>;
-
 /// Reads a delimited table of runs: a line of headers, then one row per time point.
 ///
 /// Comma, semicolon and tab are recognised, as are decimal commas between tabs and semicolons.
@@ -48,6 +45,8 @@ using ImportProgress = std::function<bool(double)>;
 /// has none; names of runs that are not different whole numbers become 0, 1, 2, ... there. Columns
 /// of text, and a first column without a name that counts the rows, are left out with a note. That
 /// there is no time column is noted, too.
+///
+/// The progress is told every few thousand rows.
 ///
 /// Needs memory in proportion to the size of the text. Touches no object of other threads.
 ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress = {});

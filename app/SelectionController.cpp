@@ -79,8 +79,14 @@ std::string noteOnMissing(const QString& path, const std::set<int>& missing, std
 SelectionController::SelectionController(QObject* parent)
     : QObject(parent)
     , history(stack)
+    , visitHistory(visitStack)
 {
-  stack.setUndoLimit(mostSteps);
+  for (QUndoStack* steps : {&stack, &visitStack})
+  {
+    steps->setUndoLimit(mostSteps);
+    group.addStack(steps);
+  }
+  group.setActiveStack(&stack);
 }
 
 SelectionController::~SelectionController()
@@ -88,16 +94,36 @@ SelectionController::~SelectionController()
   stopObserving();
 }
 
-void SelectionController::follow(PlotContainer* followed)
+void SelectionController::follow(PlotContainer* another)
+{
+  visitHistory.follow(nullptr);
+  followed = another;
+  observe(another, stack);
+  history.follow(another);
+  history.restart();
+}
+
+void SelectionController::visit(PlotContainer* another)
+{
+  observe(another, visitStack);
+  visitHistory.follow(another);
+}
+
+void SelectionController::endVisit()
+{
+  visitHistory.follow(nullptr);
+  observe(followed, stack);
+}
+
+void SelectionController::observe(PlotContainer* observed, QUndoStack& itsStack)
 {
   stopObserving();
-  container = followed;
-  link = followed ? followed->getAnnotationLink() : nullptr;
+  container = observed;
+  link = observed ? observed->getAnnotationLink() : nullptr;
   if (link)
     observerTag = link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
                                     &SelectionController::announceLater);
-  history.follow(followed);
-  history.restart();
+  group.setActiveStack(&itsStack);
 }
 
 void SelectionController::restartHistory()

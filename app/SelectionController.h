@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QUndoGroup>
 #include <QUndoStack>
 
 #include <string>
@@ -30,6 +31,10 @@ public:
   /// Turns to the selection of another container, not owned; its history starts anew. Null turns to
   /// none.
   void follow(PlotContainer* container);
+  /// Turns to the selection of another container, not owned, until `endVisit` returns to the one
+  /// followed last and to its history.
+  void visit(PlotContainer* container);
+  void endVisit();
   /// For a table that has been replaced in the same container.
   void restartHistory();
 
@@ -50,8 +55,10 @@ public:
   /// What is selected, in one line: "12 of 400 runs selected", or rows for a table without runs. A
   /// partial last run does not count.
   QString summary() const;
-  /// Undo and redo of selections.
+  /// Undo and redo of selections in the container that is followed, not in one visited.
   QUndoStack& undoStack() { return stack; }
+  /// Undo and redo of what is selected in the plot now shown, for menus.
+  QUndoGroup& undoGroup() { return group; }
 
 signals:
   /// The selection is another one. Emitted from the event loop, after the chart's own handler, once
@@ -60,13 +67,19 @@ signals:
 
 private:
   void announceLater();
+  void observe(PlotContainer* observed, QUndoStack& itsStack);
   void stopObserving();
 
+  /// The container now shown.
   QPointer<PlotContainer> container;
+  QPointer<PlotContainer> followed;
   vtkWeakPointer<vtkAnnotationLink> link;
   unsigned long observerTag = 0;
+  QUndoGroup group;
   QUndoStack stack;
+  QUndoStack visitStack;
   SelectionHistory history;
+  SelectionHistory visitHistory;
   bool announcing = false;
 };
 

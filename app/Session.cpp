@@ -18,6 +18,10 @@ namespace Talmesh::app
 namespace
 {
 
+/// The parts of the progress after which the bytes are read, and the table is made of them.
+constexpr double bytesRead = 0.5;
+constexpr double tableMade = 0.9;
+
 SessionSettings settingsOf(const Study& study, PlotContainer& container)
 {
   SessionSettings settings;
@@ -86,18 +90,22 @@ std::string saveSession(const QString& path, const Study& study, PlotContainer& 
   return saveSessionFile(path, parts);
 }
 
-OpenedSession openSession(const QString& path)
+OpenedSession openSession(const QString& path, const ImportProgress& progress)
 {
+  const auto cancels = [&progress](double done) { return progress && !progress(done); };
   OpenedSession opened;
-  const ReadSessionParts file = loadSessionFile(path);
+  const ReadSessionParts file =
+      loadSessionFile(path, [&cancels](double done) { return !cancels(bytesRead * done); });
   opened.error = file.error;
-  if (!opened.error.empty())
+  opened.cancelled = file.cancelled;
+  if (!opened.error.empty() || opened.cancelled)
     return opened;
   // How many columns there are is known last: settings are read again for them.
   const SessionSettings first = readSettings(file.parts.settings, 0).settings;
   DumpedTable table = readStudyDump(file.parts.dump, first.pointsPerRun, first.parameterRanges);
   opened.error = table.error;
-  if (!opened.error.empty())
+  opened.cancelled = opened.error.empty() && cancels(tableMade);
+  if (!opened.error.empty() || opened.cancelled)
     return opened;
   const std::size_t further =
       table.further ? static_cast<std::size_t>(table.further->GetNumberOfColumns()) : 0;

@@ -1,6 +1,7 @@
 #ifndef Session_h
 #define Session_h
 
+#include "app/ImportProgress.h"
 #include "app/SessionSettings.h"
 #include "app/SessionTable.h"
 
@@ -31,6 +32,7 @@ struct OpenedSession
   std::shared_ptr<const RestoredSession> session;
   /// One line of UTF-8 without the file's name; empty on success.
   std::string error;
+  bool cancelled = false;
 };
 
 /// Writes what a container shows of a study.
@@ -41,7 +43,8 @@ std::string saveSession(const QString& path, const Study& study, PlotContainer& 
                         const RunNormaliser* normaliser = nullptr);
 
 /// Reads a session. May run in any thread.
-OpenedSession openSession(const QString& path);
+/// @param progress told while the bytes are read, and after each further step
+OpenedSession openSession(const QString& path, const ImportProgress& progress = {});
 
 /// Restores further columns and settings in a container that shows the session's study. Does not
 /// draw, and normalises nothing: that is for who keeps the values.

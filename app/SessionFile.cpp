@@ -9,6 +9,7 @@
 #include <QSaveFile>
 #include <QtEndian>
 
+#include <algorithm>
 #include <limits>
 
 namespace Talmesh::app
@@ -22,6 +23,7 @@ const QByteArray magic = QByteArrayLiteral("\x89TALMESH");
 constexpr quint32 formatVersion = 1;
 constexpr int headerSize = 24;
 constexpr int checksumSize = 32;
+constexpr qint64 chunk = 4 << 20; ///< bytes between two reports of progress
 constexpr quint64 largestSettings = 64 << 20;
 /// A QByteArray counts with int and has a header.
 constexpr quint64 largestDump = std::numeric_limits<int>::max() - 64;
@@ -84,6 +86,24 @@ QByteArray checksumOf(const QByteArray& header, const SessionParts& parts)
   return hash.result();
 }
 
+/// @return false when the progress cancels
+bool readDumpBytes(QIODevice& device, qint64 size, const ImportProgress& progress, QByteArray& dump)
+{
+  dump.resize(static_cast<int>(size));
+  qint64 filled = 0;
+  while (filled < size)
+  {
+    const qint64 got = device.read(dump.data() + filled, std::min(chunk, size - filled));
+    if (got <= 0)
+      break;
+    filled += got;
+    if (progress && !progress(static_cast<double>(filled) / static_cast<double>(size)))
+      return false;
+  }
+  dump.truncate(static_cast<int>(filled));
+  return true;
+}
+
 } // namespace
 
 bool isSessionFile(const QString& path)
@@ -111,7 +131,7 @@ bool writeSession(QIODevice& device, const SessionParts& parts)
   return true;
 }
 
-ReadSessionParts readSession(QIODevice& device)
+ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress)
 {
   ReadSessionParts read;
   const QByteArray bytes = device.read(headerSize);
@@ -120,7 +140,10 @@ ReadSessionParts readSession(QIODevice& device)
     return read;
   const Header header = headerOf(bytes);
   read.parts.settings = device.read(header.settingsSize);
-  read.parts.dump = device.read(static_cast<qint64>(header.dumpSize));
+  read.cancelled =
+      !readDumpBytes(device, static_cast<qint64>(header.dumpSize), progress, read.parts.dump);
+  if (read.cancelled)
+    return read;
   const QByteArray checksum = device.read(checksumSize);
   if (checksum == checksumOf(bytes, read.parts))
     return read;
@@ -138,7 +161,7 @@ std::string saveSessionFile(const QString& path, const SessionParts& parts)
                     {path.toStdString(), file.errorString().toStdString()});
 }
 
-ReadSessionParts loadSessionFile(const QString& path)
+ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress)
 {
   const QFileInfo info(path);
   QFile file(path);
@@ -150,7 +173,7 @@ ReadSessionParts loadSessionFile(const QString& path)
     return {{},
             withValues(translated("SessionFile", "cannot be read: %1"),
                        {file.errorString().toStdString()})};
-  return readSession(file);
+  return readSession(file, progress);
 }
 
 } // namespace Talmesh::app

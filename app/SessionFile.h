@@ -1,6 +1,8 @@
 #ifndef SessionFile_h
 #define SessionFile_h
 
+#include "app/ImportProgress.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -24,6 +26,7 @@ struct ReadSessionParts
   SessionParts parts;
   /// One line of UTF-8; empty on success.
   std::string error;
+  bool cancelled = false;
 };
 
 /// The ending of the names of session files, without the dot.
@@ -41,14 +44,15 @@ bool writeSession(QIODevice& device, const SessionParts& parts);
 /// Reads a session from a device that knows its size. Every byte counts: a file that is cut short,
 /// longer or changed anywhere is refused, before any memory is taken that its size does not
 /// justify.
-ReadSessionParts readSession(QIODevice& device);
+/// @param progress told the part of the bytes that is read
+ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress = {});
 
 /// Writes a file, which takes the place of an older one only when it is complete on the disk.
 /// @return why it could not be written, in one line of UTF-8; empty on success
 std::string saveSessionFile(const QString& path, const SessionParts& parts);
 
 /// Reads a regular file. Errors do not name it.
-ReadSessionParts loadSessionFile(const QString& path);
+ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress = {});
 
 } // namespace Talmesh::app
 

@@ -6,8 +6,11 @@
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
+#include "plot/RunSelection.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace Talmesh::app
 {
@@ -17,21 +20,29 @@ namespace
 
 constexpr int clusterCount = 3;
 
-/// How far the study's first item moves in the second half of a run.
-double liveliness(const LinePlotTable& runs, std::size_t run)
+/// How far the study's first item moves in the second half of the run that begins at `row`.
+double liveliness(const LinePlotTable& runs, std::size_t row)
 {
   const std::size_t points = runs.pointsPerTrajectory;
-  const double* first = runs.values.front() + run * points + points / 2;
-  const auto [least, most] = std::minmax_element(first, first + (points - points / 2));
-  return *most - *least;
+  const double* const begin = runs.values.front() + row;
+  double least = std::numeric_limits<double>::infinity();
+  double most = -least;
+  for (const double* value = begin + points / 2; value != begin + points; ++value)
+  {
+    if (!std::isfinite(*value))
+      continue;
+    least = std::min(least, *value);
+    most = std::max(most, *value);
+  }
+  return least <= most ? most - least : 0.0;
 }
 
 /// The fourth of the runs that move most at the end: in the example study those that oscillate.
-ParameterSelection livelyRuns(const LinePlotTable& runs)
+ParameterSelection livelyRuns(const LinePlotTable& runs, const PlotContainer& container)
 {
   std::vector<std::pair<double, int>> order;
-  for (std::size_t run = 0; run < runs.numberOfTrajectories; ++run)
-    order.emplace_back(-liveliness(runs, run), static_cast<int>(run));
+  for (const plot::PlacedRun& run : plot::wholeRuns(container.state()))
+    order.emplace_back(-liveliness(runs, static_cast<std::size_t>(run.firstRow)), run.index);
   std::sort(order.begin(), order.end());
   ParameterSelection selection;
   for (std::size_t i = 0; i < order.size() / 4; ++i)
@@ -50,12 +61,11 @@ std::string drawStyle(const Study& study, PlotContainer& container, plotStyles s
 std::string drawComparison(const Study& study, PlotContainer& container, plotStyles style)
 {
   const std::string error = drawStyle(study, container, style);
-  if (study.runs && error.empty())
-  {
-    ParameterSelection lively = livelyRuns(*study.runs);
-    container.setSelection(&lively, 0);
-  }
-  return error;
+  if (!study.runs || !error.empty())
+    return error;
+  ParameterSelection lively = livelyRuns(*study.runs, container);
+  container.setSelection(&lively, 0);
+  return applyChoice(container, choiceOf(container));
 }
 
 std::string drawDensities(const Study& study, PlotContainer& container)
@@ -65,11 +75,7 @@ std::string drawDensities(const Study& study, PlotContainer& container)
   settings.setUseDensity(true);
   settings.setShowQuantiles(true);
   settings.blockSignals(false);
-  container.generateQuartiles();
-  const std::string error = drawComparison(study, container, selectionCdfPlot);
-  container.generateQuartiles();
-  container.redraw();
-  return error;
+  return drawComparison(study, container, selectionCdfPlot);
 }
 
 std::string drawClusters(const Study& study, PlotContainer& container)

@@ -12,10 +12,6 @@ namespace Talmesh::app
 /// parameters and are empty without one.
 const std::vector<GalleryView>& statisticsViews();
 
-/// Views of published data and of the example circuit, whatever the study: a fit with its course
-/// and residuals, error bars, sensitivities, a distribution.
-const std::vector<GalleryView>& publishedViews();
-
 } // namespace Talmesh::app
 
 #endif

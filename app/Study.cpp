@@ -71,9 +71,9 @@ std::array<int, 4> seriesColour(std::size_t runs)
 
 } // namespace
 
-Study exampleStudyOfRepressilator()
+Study exampleStudyOfRepressilator(const ImportProgress& progress)
 {
-  return {"Repressilator", makeExampleStudy(), nullptr};
+  return {"Repressilator", makeExampleStudy(progress), nullptr};
 }
 
 void showStudy(const Study& study, PlotContainer& container)

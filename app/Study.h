@@ -1,6 +1,7 @@
 #ifndef Study_h
 #define Study_h
 
+#include "app/ImportProgress.h"
 #include "external/LinePlotTable.h"
 
 #include <vtkSmartPointer.h>
@@ -30,8 +31,8 @@ struct Study
   std::shared_ptr<const OwnChart> chart = nullptr;
 };
 
-/// The simulated example study.
-Study exampleStudyOfRepressilator();
+/// The simulated example study; without runs when the progress cancels.
+Study exampleStudyOfRepressilator(const ImportProgress& progress = {});
 
 /// Hands the study to a container that is in a scene, and chooses what to plot at first: the first
 /// plotted item over time, one line per run, or the second column of a plain table over its first.

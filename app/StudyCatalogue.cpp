@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <iomanip>
 #include <iterator>
-#include <mutex>
 #include <sstream>
 
 namespace Talmesh::app
@@ -17,9 +16,6 @@ namespace Talmesh::app
 namespace
 {
 
-/// Some seconds of work. First-order indices near zero still scatter around it, and the chart cuts
-/// what falls below.
-constexpr std::size_t sensitivitySamples = 1024;
 constexpr double secondsPerHour = 3600.0;
 
 std::string shortText(double value)
@@ -111,17 +107,6 @@ void addPuromycin(std::vector<CatalogueEntry>& entries)
               chart));
 }
 
-/// Computed once, as the numbers are always the same.
-std::shared_ptr<SobolPostProcessResult> keptSensitivity(const ImportProgress& progress)
-{
-  static std::mutex computing;
-  static std::shared_ptr<SobolPostProcessResult> kept;
-  const std::lock_guard<std::mutex> lock(computing);
-  if (!kept)
-    kept = circuitSensitivity(sensitivitySamples, progress);
-  return kept;
-}
-
 void describeVariants(OwnChart& chart, const SobolPostProcessResult& result, bool atTimePoint)
 {
   if (!atTimePoint)
@@ -142,7 +127,7 @@ void describeVariants(OwnChart& chart, const SobolPostProcessResult& result, boo
 OpenedStudy openSensitivity(const CatalogueEntry& entry, bool atTimePoint, bool total,
                             const ImportProgress& progress)
 {
-  const std::shared_ptr<SobolPostProcessResult> result = keptSensitivity(progress);
+  const std::shared_ptr<SobolPostProcessResult> result = keptCircuitSensitivity(progress);
   OwnChart chart;
   chart.description = translated(
       "StudyCatalogue", "Sobol indices of the example circuit: how much of the variance of "

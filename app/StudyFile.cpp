@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <exception>
 #include <new>
 
 namespace Talmesh::app
@@ -78,10 +79,11 @@ OpenedStudy openBytes(const FileBytes& read, const ImportProgress& progress)
   return opened;
 }
 
-OpenedStudy openFromSession(const QString& path)
+OpenedStudy openFromSession(const QString& path, const ImportProgress& progress)
 {
-  const OpenedSession session = openSession(path);
+  const OpenedSession session = openSession(path, progress);
   OpenedStudy opened;
+  opened.cancelled = session.cancelled;
   opened.study = session.study;
   opened.session = session.session;
   opened.error = session.error;
@@ -91,7 +93,7 @@ OpenedStudy openFromSession(const QString& path)
 OpenedStudy open(const QString& path, const ImportProgress& progress)
 {
   if (isSessionFile(path))
-    return openFromSession(path);
+    return openFromSession(path, progress);
   const FileBytes read = readBytes(path, progress);
   OpenedStudy opened;
   opened.error = read.error;
@@ -112,7 +114,13 @@ OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress)
   }
   catch (const std::bad_alloc&)
   {
+    opened = OpenedStudy();
     opened.error = translated("StudyFile", "the table does not fit into memory");
+  }
+  catch (const std::exception& failure)
+  {
+    opened = OpenedStudy();
+    opened.error = withValues(translated("StudyFile", "cannot be opened: %1"), {failure.what()});
   }
   if (!opened.error.empty())
     opened.error = path.toStdString() + ": " + opened.error;

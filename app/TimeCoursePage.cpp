@@ -2,6 +2,7 @@
 
 #include "app/RunNumberBox.h"
 #include "external/LinePlotData.h"
+#include "plot/PlotContainer.h"
 #include "plot/TypedColumns.h"
 #include "widgets/LinePlotWidget.h"
 #include "widgets/PlotSelector.h"
@@ -138,6 +139,21 @@ void select(PlotSelector& selector, const ItemNames& names)
 }
 
 } // namespace
+
+void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t items,
+                     PlotContainer& container)
+{
+  const int time = timeOfCourses(runs);
+  if (time < 0 || run >= runs.numberOfTrajectories)
+    return;
+  RunCourses courses(runs, time, run);
+  container.setLinePlotData(&courses.record);
+  std::vector<TypedConcentrationName> shown;
+  for (const auto& series : courses.record.series)
+    if (shown.size() < items)
+      shown.push_back(series.first);
+  container.setLinePlotItems(&shown);
+}
 
 TimeCoursePage::TimeCoursePage(QWidget* parent)
     : QWidget(parent)

@@ -1,11 +1,11 @@
 #include "app/Batch.h"
 #include "app/CommandLine.h"
+#include "app/LastResort.h"
 #include "app/MainWindow.h"
 #include "widgets/Translation.h"
 
 #include <QVTKOpenGLNativeWidget.h>
 
-#include <QApplication>
 #include <QFile>
 #include <QOpenGLContext>
 #include <QSurfaceFormat>
@@ -20,12 +20,6 @@ namespace
 {
 
 using namespace Talmesh::app;
-
-int fail(const std::string& message)
-{
-  std::cerr << "talmesh-plot: " << message << std::endl;
-  return EXIT_FAILURE;
-}
 
 /// Set when Qt has found a display. What it says before is summed up in one line.
 bool displayFound = false;
@@ -53,11 +47,9 @@ int showWindow(const CommandLineOptions& options)
 {
   MainWindow window;
   // What the command line names must be there; what is opened later may fail in the window.
-  const auto failed = QObject::connect(&window, &MainWindow::openFailed, &window,
-                                       [](const QString& message)
-                                       { QCoreApplication::exit(fail(message.toStdString())); });
-  QObject::connect(&window, &MainWindow::opened, &window,
-                   [&failed] { QObject::disconnect(failed); });
+  QObject::connect(&window, &MainWindow::commandLineFailed, &window,
+                   [](const QString& message)
+                   { QCoreApplication::exit(fail(message.toStdString())); });
   window.show();
   window.open(options);
   return QCoreApplication::exec();
@@ -69,9 +61,7 @@ int writeFiles(const CommandLineOptions& options)
   return error.empty() ? EXIT_SUCCESS : fail(error);
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int runProgram(int argc, char** argv)
 {
   const ParsedCommandLine line = parseCommandLine(argumentsOf(argc, argv));
   const CommandLineOptions& options = line.options;
@@ -94,7 +84,7 @@ int main(int argc, char** argv)
   QCoreApplication::setApplicationVersion(QStringLiteral(TALMESH_VERSION));
   // Qt has options of the same names as ours, so it sees none.
   int programNameOnly = 1;
-  QApplication application(programNameOnly, argv);
+  ClearlyEndingApplication application(programNameOnly, argv);
   displayFound = true;
   Talmesh::installTranslation(application, QLocale::system());
   // Qt takes over the user's locale, in which PDF and CSV would get decimal commas.
@@ -102,5 +92,13 @@ int main(int argc, char** argv)
   QOpenGLContext context;
   if (!context.create())
     return fail("OpenGL is not available on this display");
-  return options.writesOnly() ? writeFiles(options) : showWindow(options);
+  const int status = options.writesOnly() ? writeFiles(options) : showWindow(options);
+  return application.hasFailed() ? EXIT_FAILURE : status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+  return endingClearly([&] { return runProgram(argc, argv); });
 }

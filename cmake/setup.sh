@@ -9,7 +9,7 @@ packages=(
   libvtk9-dev libvtk9-qt-dev qtbase5-dev libeigen3-dev libboost-dev
   qttools5-dev qttools5-dev-tools qttranslations5-l10n
   libgtest-dev poppler-utils
-  xvfb xauth libgl1-mesa-dri fonts-dejavu-core
+  xvfb xauth libgl1-mesa-dri fonts-dejavu-core locales
 )
 
 say() { echo "$*" >&2; }
@@ -22,8 +22,10 @@ missing_packages() {
   done
 }
 
+is_root() { ((EUID == 0)); }
+
 as_root() {
-  if ((EUID == 0)); then
+  if is_root; then
     env "$@"
   else
     sudo env "$@"
@@ -38,6 +40,10 @@ install_packages() {
   local missing
   mapfile -t missing < <(missing_packages)
   ((${#missing[@]})) || return 0
+  if ! is_root && ! command -v sudo >/dev/null; then
+    say "Neither root nor sudo: let an administrator install ${missing[*]}"
+    exit 1
+  fi
   say "Installing ${missing[*]}"
   local apt=(DEBIAN_FRONTEND=noninteractive apt-get -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 -q -y)
   as_root "${apt[@]}" update >&2 </dev/null
@@ -59,6 +65,18 @@ build() {
     (cd "$root" && cmake --preset "$preset") >&2
   fi
   ninja -C "$tree" "$@" >&2
+}
+
+# wants_no_window ARGUMENT...: whether the viewer's arguments ask for files or for text. Those after "--" are names.
+wants_no_window() {
+  local argument
+  for argument in "$@"; do
+    case $argument in
+      --) return 1 ;;
+      --export | --export=* | --gallery | --gallery=* | --help | -h | --version) return 0 ;;
+    esac
+  done
+  return 1
 }
 
 has_display() { [[ -n ${DISPLAY:-} ]]; }

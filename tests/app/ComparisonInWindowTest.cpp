@@ -7,14 +7,33 @@
 #include "app/SelectionController.h"
 #include "app/StyleNames.h"
 #include "plot/PlotState.h"
+#include "support/CapturedOutput.h"
 
 #include <vtkAxis.h>
 #include <vtkPlot.h>
+#include <vtkTable.h>
 
 #include <QFileDialog>
 #include <QMessageBox>
 
 using namespace Talmesh::app;
+
+TEST_F(ComparisonInWindow, SaysThatItCannotBeDrawnRatherThanHowLongThatTook)
+{
+  open();
+  // The pages cut the kind off the names of parameters, and refuse names that are too short.
+  container().getTable()->GetColumnByName("Parameter: k")->SetName("k");
+  const auto saysThatItCannotBeDrawn = [this]
+  { return window.statusBar()->currentMessage().startsWith("cannot draw this: "); };
+  press("pThreshold", Qt::Key_Up);
+  EXPECT_TRUE(saysThatItCannotBeDrawn()) << window.statusBar()->currentMessage().toStdString();
+  window.statusBar()->clearMessage();
+  {
+    const CapturedOutput quiet(std::cerr);
+    select({1, 2});
+  }
+  EXPECT_TRUE(saysThatItCannotBeDrawn()) << window.statusBar()->currentMessage().toStdString();
+}
 
 TEST_F(ComparisonInWindow, IsThePageOfRunsWithParameters)
 {

@@ -174,6 +174,31 @@ TEST_F(PlotChoiceOfRuns, TakesWhatTheCommandLineNames)
   EXPECT_EQ(choice.z, 2);
 }
 
+TEST(PlotChoice, JoinsNamesWithCommasThatTheCommandLineParted)
+{
+  PlotScene view;
+  PlotContainer container(nullptr);
+  container.setScene(view.scene());
+  showStudy(sampleStudy("time,\"glucose, total\",glucose,\" total\"\n0,1,2,3\n1,4,5,7\n"),
+            container);
+  const auto chosen = [&container](const std::vector<std::string>& names)
+  {
+    CommandLineOptions options;
+    options.y = names;
+    PlotChoice choice = choiceOf(container);
+    EXPECT_EQ(chooseByName(container, options, choice), "");
+    std::vector<std::string> found;
+    for (const int column : choice.y)
+      found.push_back(shownName(container.getLabels().value(column).toStdString()));
+    return found;
+  };
+  using Names = std::vector<std::string>;
+  EXPECT_EQ(chosen({"glucose", " total"}), Names{"glucose, total"});
+  EXPECT_EQ(chosen({"time", "glucose", " total", "glucose"}),
+            (Names{"time", "glucose, total", "glucose"}));
+  EXPECT_EQ(chosen({"glucose", "time"}), (Names{"glucose", "time"}));
+}
+
 TEST_F(PlotChoiceOfRuns, KeepsWhatTheCommandLineDoesNotName)
 {
   const PlotChoice before = choice;

@@ -98,6 +98,26 @@ TEST_F(PlotDockOfFourColumns, AddsATickedColumn)
   EXPECT_EQ(dock.choice().y, (std::vector<int>{0, 3}));
 }
 
+TEST_F(PlotDockOfFourColumns, KeepsTheOrderInWhichColumnsAreChosen)
+{
+  PlotChoice choice = dock.choice();
+  choice.y = {3, 1, 3};
+  dock.setChoice(choice);
+  EXPECT_EQ(dock.choice().y, (std::vector<int>{3, 1}));
+  pressSpaceOn(0);
+  EXPECT_EQ(dock.choice().y, (std::vector<int>{3, 1, 0}));
+  pressSpaceOn(3);
+  EXPECT_EQ(dock.choice().y, (std::vector<int>{1, 0}));
+  pressSpaceOn(3);
+  EXPECT_EQ(dock.choice().y, (std::vector<int>{1, 0, 3}));
+}
+
+TEST_F(PlotDockOfFourColumns, TellsItsColumns)
+{
+  EXPECT_EQ(dock.columns(),
+            (QStringList{"Molecule: A", "Molecule: B", ": Time [s]", "Parameter: k"}));
+}
+
 TEST_F(PlotDockOfFourColumns, KeepsTheColumnTickedLastWhenNoneIsLeft)
 {
   pressSpaceOn(0);
@@ -114,6 +134,20 @@ TEST_F(PlotDockOfFourColumns, EnablesWhatTheStyleKnows)
   dock.setChoice(choice);
   EXPECT_FALSE(box("lines")->isEnabled());
   EXPECT_TRUE(combo("z")->isEnabled());
+}
+
+TEST_F(PlotDockOfFourColumns, EnablesTheLogarithmicXAxisWhereItActs)
+{
+  for (const plotStyles style : {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot,
+                                 scatterWithErrorBars, fitParameterDistribution})
+  {
+    PlotChoice choice = dock.choice();
+    choice.style = style;
+    dock.setChoice(choice);
+    const bool acts = style == xyPlot || style == multiPlot || style == selectionCdfPlot ||
+                      style == scatterWithErrorBars;
+    EXPECT_EQ(box("logX")->isEnabled(), acts) << style;
+  }
 }
 
 TEST_F(PlotDockOfFourColumns, OffersTheStylesThatDrawSomething)

@@ -7,9 +7,9 @@
 #include <QFile>
 #include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include <clocale>
 #include <string>
 
 #include "SampleStudies.h"
@@ -66,6 +66,26 @@ protected:
     EXPECT_EQ(ended.errors.toStdString(), "");
   }
 
+  /// Lets the program run in a German locale, which is made for it.
+  void makeLocaleWithDecimalCommas()
+  {
+    QProcess process;
+    process.start(QStringLiteral("localedef"), {"-i", "de_DE", "-f", "UTF-8", path("de_DE.UTF-8")});
+    ASSERT_TRUE(process.waitForFinished(120000));
+    ASSERT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    environment.insert(QStringLiteral("LOCPATH"), folder.path());
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+  }
+
+  QByteArray numberPrintedInTheLocale()
+  {
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral("/usr/bin/printf"), {"%.1f", "0,5"});
+    EXPECT_TRUE(process.waitForFinished(60000));
+    return process.readAllStandardOutput();
+  }
+
   QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
 
   QString write(const char* name, const std::string& text)
@@ -84,6 +104,13 @@ protected:
     return changed;
   }();
 };
+
+QByteArray withoutDates(const QByteArray& pdf)
+{
+  return QString::fromLatin1(pdf)
+      .remove(QRegularExpression(QStringLiteral("/CreationDate \\([^)]*\\)")))
+      .toLatin1();
+}
 
 } // namespace
 
@@ -153,16 +180,20 @@ TEST_F(Program, WritesTheGallery)
 
 TEST_F(Program, KeepsNumbersReadableWhateverTheLocale)
 {
-  constexpr const char* decimalCommas = "de_DE.UTF-8";
-  const std::string before = std::setlocale(LC_ALL, nullptr);
-  const bool installed = std::setlocale(LC_ALL, decimalCommas) != nullptr;
-  std::setlocale(LC_ALL, before.c_str());
-  if (!installed)
-    GTEST_SKIP() << "The locale " << decimalCommas << " is not installed.";
-  environment.insert(QStringLiteral("LC_ALL"), QLatin1String(decimalCommas));
+  if (!QFile::exists(QStringLiteral("/usr/share/i18n/locales/de_DE")))
+    GTEST_SKIP() << "The sources of locales are not installed.";
+  const QProcessEnvironment before = environment;
+  makeLocaleWithDecimalCommas();
+  // Otherwise the rest would show nothing.
+  ASSERT_EQ(numberPrintedInTheLocale(), "0,5");
   const QString csv = write("runs.csv", sampleRuns());
-  expectSuccess({csv, "--export", path("plot.csv")});
-  EXPECT_EQ(contentOf(path("plot.csv")).count(','), 12 * 4 + 4);
+  expectSuccess({csv, "--export", path("commas.csv"), "--export", path("commas.pdf")});
+  environment = before;
+  expectSuccess({csv, "--export", path("plot.csv"), "--export", path("plot.pdf")});
+  // Not EXPECT_EQ, which would print the files byte by byte.
+  EXPECT_TRUE(contentOf(path("commas.csv")) == contentOf(path("plot.csv")));
+  EXPECT_TRUE(withoutDates(contentOf(path("commas.pdf"))) ==
+              withoutDates(contentOf(path("plot.pdf"))));
 }
 
 TEST_F(Program, RefusesBadOptions)

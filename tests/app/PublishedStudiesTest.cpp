@@ -146,6 +146,14 @@ TEST(CircuitSensitivity, FindsTheRepressedTranscriptionRateToMatterFirst)
   EXPECT_GT(cI[0] + cI[2], cI[1]);
 }
 
+TEST(CircuitSensitivity, IsKeptForAllWhoShowIt)
+{
+  bool asked = false;
+  const auto first = keptCircuitSensitivity();
+  EXPECT_EQ(keptCircuitSensitivity([&asked](double) { return !(asked = true); }), first);
+  EXPECT_FALSE(asked) << "nothing is left to compute";
+}
+
 TEST(CircuitPriors, AreTheDistributionsOfTheStudy)
 {
   const std::vector<NamedDistribution> priors = circuitPriors();

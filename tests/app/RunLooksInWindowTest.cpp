@@ -82,17 +82,6 @@ TEST_F(RunLooksInWindow, NormalisingBelongsToTheColumnsShown)
   EXPECT_TRUE(find<QCheckBox>("normaliseRuns")->isChecked());
 }
 
-TEST_F(RunLooksInWindow, NormalisedValuesAreGivenBackWhenTheStudyIsLeft)
-{
-  tick("normaliseRuns");
-  window.findChild<QAction*>(QStringLiteral("priors"))->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, 60000));
-  window.returnToRuns();
-  EXPECT_EQ(value(0, pointsPerRun), 16.0);
-  EXPECT_FALSE(find<QCheckBox>("normaliseRuns")->isChecked());
-  EXPECT_FALSE(window.selectionController()->undoStack().canUndo());
-}
-
 TEST_F(RunLooksInWindow, NormalisingLeavesOutWhatIsNoNumberOfTheRunsOwn)
 {
   PlotChoice choice = window.plotDock()->choice();

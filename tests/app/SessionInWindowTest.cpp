@@ -90,7 +90,7 @@ protected:
   {
     const PlotChoice shown = window->plotDock()->choice();
     EXPECT_EQ(shown.style, choice.style);
-    EXPECT_EQ(shown.y, (std::vector<int>{0, 1}));
+    EXPECT_EQ(shown.y, choice.y);
     EXPECT_EQ(shown.legend, choice.legend);
     EXPECT_EQ(shown.logY, choice.logY);
     EXPECT_EQ(shown.lines, choice.lines);

@@ -13,6 +13,7 @@
 
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -86,6 +87,31 @@ protected:
 };
 
 } // namespace
+
+TEST_F(Session, TellsHowFarItIsReadAndCanBeCancelled)
+{
+  save(sampleStudy());
+  std::vector<double> told;
+  EXPECT_TRUE(openSession(path(),
+                          [&told](double done)
+                          {
+                            told.push_back(done);
+                            return true;
+                          })
+                  .session);
+  ASSERT_GE(told.size(), 2U);
+  EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+  EXPECT_LE(told.back(), 1.0);
+  for (std::size_t steps = 0; steps < told.size(); ++steps)
+  {
+    std::size_t calls = 0;
+    const OpenedSession given = openSession(path(), [&](double) { return calls++ < steps; });
+    EXPECT_TRUE(given.cancelled) << steps;
+    EXPECT_EQ(calls, steps + 1) << "nothing is done after it";
+    EXPECT_FALSE(given.session);
+    EXPECT_EQ(given.error, "");
+  }
+}
 
 TEST_F(Session, RestoresRunsAndParameters)
 {

@@ -8,6 +8,7 @@
 #include <QThread>
 
 #include <atomic>
+#include <new>
 #include <stdexcept>
 
 #include "SampleStudies.h"
@@ -80,6 +81,19 @@ TEST(StudyFile, CanBeCancelledWhileItReads)
   const OpenedStudy opened = openStudyFile(path, [](double) { return false; });
   EXPECT_TRUE(opened.cancelled);
   EXPECT_FALSE(opened.study.runs);
+}
+
+TEST(StudyFile, TellsWhateverGoesWrongInOneLine)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("runs.csv"));
+  write(path, QByteArray::fromStdString(sampleRuns()));
+  const OpenedStudy broken =
+      openStudyFile(path, [](double) -> bool { throw std::runtime_error("broken"); });
+  EXPECT_EQ(broken.error, path.toStdString() + ": cannot be opened: broken");
+  EXPECT_FALSE(broken.study.runs);
+  const OpenedStudy large = openStudyFile(path, [](double) -> bool { throw std::bad_alloc(); });
+  EXPECT_EQ(large.error, path.toStdString() + ": the table does not fit into memory");
 }
 
 TEST(StudyLoader, DeliversInTheThreadThatOwnsIt)

@@ -4,6 +4,7 @@
 #include "support/CapturedOutput.h"
 #include "support/ParameterStudy.h"
 #include "support/PlotScene.h"
+#include "support/PlotStyleCount.h"
 #include "support/SampleTables.h"
 
 #include <vtkIntArray.h>
@@ -153,7 +154,8 @@ TEST_P(ColumnReductionWhileShown, KeepsThePictureAlive)
   scene.render(container);
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryStyle, ColumnReductionWhileShown, ::testing::Range(0, 10));
+INSTANTIATE_TEST_SUITE_P(EveryStyle, ColumnReductionWhileShown,
+                         ::testing::Range(0, plotStyleCount));
 
 TEST_F(ColumnReduction, IsPartOfSavingTheUsedColumns)
 {

@@ -3,6 +3,7 @@
 #include "support/CapturedOutput.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
 
 #include <vtkCommand.h>
 
@@ -230,7 +231,7 @@ TEST_F(ContainerCopy, DrawsNoParallelCoordinatesAndSaysSoOnce)
 
 TEST_F(ContainerCopy, CanBeTakenInEveryStyleAndOfACopy)
 {
-  for (int style = 0; style <= 10; ++style)
+  for (int style = 0; style <= plotStyleCount; ++style)
   {
     drawStyle(style);
     std::unique_ptr<PlotContainer> first;

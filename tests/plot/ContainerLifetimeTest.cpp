@@ -3,6 +3,7 @@
 #include "plot/vtkShiftScaleCallback.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
 #include "support/RecordingDevice.h"
 #include "widgets/VtkPlotWidget.h"
 
@@ -149,11 +150,11 @@ TEST_P(Destruction, WorksInEveryOrder)
   } while (std::next_permutation(order.begin(), order.end()));
 }
 
-INSTANTIATE_TEST_SUITE_P(InEveryStyle, Destruction, ::testing::Range(0, 11));
+INSTANTIATE_TEST_SUITE_P(InEveryStyle, Destruction, ::testing::Range(0, plotStyleCount + 1));
 
 TEST(DestructionAfterARendering, WorksWithTheSceneFirstOrLast)
 {
-  for (int style = 0; style <= 10; ++style)
+  for (int style = 0; style <= plotStyleCount; ++style)
   {
     for (const bool sceneFirst : {true, false})
     {

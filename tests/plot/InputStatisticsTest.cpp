@@ -1,5 +1,6 @@
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +28,7 @@ TEST_F(InputStatistics, RankTheParametersOfANewTableInTheSelectionStyleAlone)
 {
   container.state().columnItems = {{Complex, "A"}, {Parameter, "b"}};
   container.state().parameterBounds = {{0.0, 100.0}};
-  for (int style = 0; style <= 10; ++style)
+  for (int style = 0; style <= plotStyleCount; ++style)
   {
     storeStyle(style);
     container.setPlotData(plainTable());

@@ -1,6 +1,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
 #include "support/SampleTables.h"
 
 #include <gtest/gtest.h>
@@ -99,6 +100,6 @@ TEST_P(RedrawOfOddData, SurvivesATableOfOneRow)
   scene.render(container);
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryStyle, RedrawOfOddData, ::testing::Range(0, 11));
+INSTANTIATE_TEST_SUITE_P(EveryStyle, RedrawOfOddData, ::testing::Range(0, plotStyleCount + 1));
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
 
 #include <vtkAxis.h>
 #include <vtkPlotParallelCoordinates.h>
@@ -127,9 +128,9 @@ TEST_F(RedrawStyles, ColorsParallelCoordinatesByTheColorColumn)
 
 TEST_F(RedrawStyles, SwitchesThroughAllStylesInAnyOrder)
 {
-  for (int from = 0; from <= 11; ++from)
+  for (int from = 0; from <= plotStyleCount + 1; ++from)
   {
-    for (int to = 0; to <= 11; ++to)
+    for (int to = 0; to <= plotStyleCount + 1; ++to)
     {
       setStyle(from);
       container.redraw();

@@ -1,5 +1,6 @@
 #include "plot/SelectionNodes.h"
 #include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
 #include "support/SampleRuns.h"
 
 #include <vtkCommand.h>
@@ -48,7 +49,7 @@ public:
 
 TEST_F(ReplacedCharts, SurviveARedrawFromTheirOwnHandler)
 {
-  for (int style = 0; style <= 10; ++style)
+  for (int style = 0; style <= plotStyleCount; ++style)
   {
     drawStyle(0);
     vtkNew<Intruder> intruder;
@@ -98,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(Styles, ReplacedChartsOfRuns,
 TEST_P(ReplacedChartsOfRuns, SurviveARedrawFromTheirOwnHandler)
 {
   const std::size_t charts = chartsOf(GetParam()).size();
-  for (int style = 0; style <= 10; ++style)
+  for (int style = 0; style <= plotStyleCount; ++style)
   {
     for (std::size_t i = 0; i < charts; ++i)
     {

@@ -1,5 +1,6 @@
 #include "support/CapturedOutput.h"
 #include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
 
 #include <vtkFloatArray.h>
 #include <vtkPlotPoints.h>
@@ -183,7 +184,7 @@ TEST_F(SimplePlots, EmptyTheTableForDifferentSizesWhileNoXYChartIsShown)
 
 TEST_F(SimplePlots, AppearAfterAnyStyle)
 {
-  for (int style = 0; style <= 10; ++style)
+  for (int style = 0; style <= plotStyleCount; ++style)
   {
     drawStyle(style);
     container.setSimpleXYPlot(x, y, none);

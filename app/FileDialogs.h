@@ -1,0 +1,32 @@
+#ifndef FileDialogs_h
+#define FileDialogs_h
+
+#include <QString>
+
+#include <functional>
+
+class QFileDialog;
+class QWidget;
+
+namespace Talmesh::app
+{
+
+/// What is done with the path that the user has chosen.
+using FileChosen = std::function<void(const QString&)>;
+
+/// Asks for a file that exists. The call returns at once, as a nested event loop would let the
+/// parent die under it.
+/// @param parent also the context of `chosen`, which is not called without it
+/// @param filter name filters as of QFileDialog
+/// @return the open dialog, which deletes itself when it is closed
+QFileDialog* askToOpen(QWidget* parent, const QString& title, const QString& filter,
+                       FileChosen chosen);
+
+/// The same for a file to write.
+/// @param suffix appended to names without one, given without its dot
+QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& filter,
+                       const QString& suffix, FileChosen chosen);
+
+} // namespace Talmesh::app
+
+#endif
