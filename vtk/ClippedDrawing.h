@@ -164,7 +164,7 @@ private:
 
   void DrawCutDisc(const float* centre, double radius, const unsigned char* color, int components)
   {
-    this->Brush->SetColor(this->Pen->GetColor());
+    this->Brush->SetColor(this->Pen->GetColorObject());
     if (color && components >= 3)
       this->Brush->SetColor(color[0], color[1], color[2], components > 3 ? color[3] : 255);
     vtkNew<vtkMatrix3x3> matrix;
