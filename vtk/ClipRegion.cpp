@@ -11,6 +11,7 @@ namespace Talmesh
 namespace
 {
 constexpr int edges = 4;
+constexpr double tolerance = 0.01;
 
 template <std::size_t Size>
 std::array<double, Size> mix(const std::array<double, Size>& a, const std::array<double, Size>& b,
@@ -23,8 +24,9 @@ std::array<double, Size> mix(const std::array<double, Size>& a, const std::array
 }
 } // namespace
 
-ClipRegion::ClipRegion(const ClipRectangle& rectangle_, vtkMatrix3x3* matrix)
-    : rectangle(rectangle_)
+ClipRegion::ClipRegion(const ClipRectangle& exact, vtkMatrix3x3* matrix)
+    : rectangle{exact.left - tolerance, exact.bottom - tolerance, exact.right + tolerance,
+                exact.top + tolerance}
 {
   std::copy_n(matrix->GetData(), toPixels.size(), toPixels.begin());
 }
@@ -73,26 +75,12 @@ double ClipRegion::inside(const Vertex& vertex, int edge) const
   }
 }
 
-bool ClipRegion::holds(const Vertex& vertex) const
+bool ClipRegion::holds(const Vertex& vertex, double reach) const
 {
   for (int edge = 0; edge < edges; ++edge)
-    if (!(inside(vertex, edge) >= 0.0))
+    if (!(inside(vertex, edge) >= -reach))
       return false;
   return true;
-}
-
-bool ClipRegion::holds(const float* point, double reach) const
-{
-  const Vertex centre = vertex(point, nullptr, 0, 0);
-  for (int edge = 0; edge < edges; ++edge)
-    if (!(inside(centre, edge) >= reach))
-      return false;
-  return true;
-}
-
-bool ClipRegion::touches(const float* point, double reach) const
-{
-  return holds(point, -reach);
 }
 
 bool ClipRegion::cutSegment(Vertex& from, Vertex& to) const
@@ -192,8 +180,11 @@ ClippedPoints ClipRegion::points(const float* points, int n, const unsigned char
 {
   ClippedPoints left;
   for (int i = 0; i < n; ++i)
-    if (touches(points + 2 * i, reach))
-      add(left, vertex(points, colors, components, i), colors ? components : 0);
+  {
+    const Vertex point = vertex(points, colors, components, i);
+    if (holds(point, reach))
+      add(left, point, colors ? components : 0);
+  }
   return left;
 }
 

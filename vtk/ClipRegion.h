@@ -32,17 +32,13 @@ struct ClippedPoints
 
 /// A rectangle seen from an item that draws in coordinates of its own. What is cut keeps its
 /// colours; new corners get the colour between those of their neighbours. Shapes with a coordinate
-/// that is no finite number are left out.
+/// that is no finite number are left out. What passes an edge by less than a hundredth of a pixel,
+/// as rounding makes it, counts as inside.
 class ClipRegion
 {
 public:
   /// @param matrix maps the item's coordinates to pixels without perspective
-  ClipRegion(const ClipRectangle& rectangle, vtkMatrix3x3* matrix);
-
-  /// Whether the square of 2 * @p reach pixels a side around a point lies wholly inside.
-  bool holds(const float* point, double reach = 0.0) const;
-  /// Whether that square and the rectangle have a point in common.
-  bool touches(const float* point, double reach = 0.0) const;
+  ClipRegion(const ClipRectangle& exact, vtkMatrix3x3* matrix);
 
   /// The pieces of a line through @p n points.
   std::vector<ClippedPoints> polyLine(const float* points, int n, const unsigned char* colors,
@@ -67,8 +63,9 @@ private:
   };
 
   Vertex vertex(const float* points, const unsigned char* colors, int components, int index) const;
-  bool holds(const Vertex& vertex) const;
-  /// How far inside of an edge a vertex lies; negative outside.
+  /// Whether a square of 2 * @p reach a side around a vertex touches the rectangle.
+  bool holds(const Vertex& vertex, double reach = 0.0) const;
+  /// How far inside of an edge a vertex lies in pixels; negative outside.
   double inside(const Vertex& vertex, int edge) const;
   bool cutSegment(Vertex& from, Vertex& to) const;
   std::vector<Vertex> cutPolygon(std::vector<Vertex> corners) const;

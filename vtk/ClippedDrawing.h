@@ -4,14 +4,12 @@
 #include "vtk/ClipRegion.h"
 #include "vtk/VtkCompat.h"
 
-#include <vtkBrush.h>
 #include <vtkMatrix3x3.h>
 #include <vtkNew.h>
 #include <vtkPen.h>
 #include <vtkRenderingCoreEnums.h>
 
-#include <array>
-#include <cmath>
+class vtkImageData;
 
 /// A context device that itself cuts what it draws at the rectangle of SetClipping, for devices
 /// whose drawings outlive the pixels of the screen, on which that rectangle alone works. Text,
@@ -73,17 +71,15 @@ public:
                                components);
   }
 
-  /// The device draws markers with the operations above and so cuts them too, all but discs.
+  /// Discs are drawn whole if their centre is inside. Of the other shapes those are left that reach
+  /// inside: a device draws them with the operations above, which cut them.
   void DrawMarkers(int shape, bool highlight, float* points, int n, unsigned char* colors = nullptr,
                    int components = 0) override
   {
     if (!this->Clips)
       return Device::DrawMarkers(shape, highlight, points, n, colors, components);
-    const Talmesh::ClipRegion region = this->Region();
-    const double reach = 0.5 * this->Pen->GetWidth();
-    Talmesh::ClippedPoints left = region.points(points, n, colors, components, reach);
-    if (shape == VTK_MARKER_CIRCLE)
-      left = this->WithoutCutDiscs(region, left, components);
+    const double reach = shape == VTK_MARKER_CIRCLE ? 0.0 : 0.5 * this->Pen->GetWidth();
+    Talmesh::ClippedPoints left = this->Region().points(points, n, colors, components, reach);
     if (!left.empty())
       Device::DrawMarkers(shape, highlight, left.points.data(), left.size(), left.colorData(),
                           components);
@@ -133,54 +129,6 @@ private:
     vtkNew<vtkMatrix3x3> matrix;
     this->GetMatrix(matrix);
     return {this->Rectangle, matrix};
-  }
-
-  /// Draws those discs that an edge cuts, in the pen's colour or their own, and gives the others.
-  Talmesh::ClippedPoints WithoutCutDiscs(const Talmesh::ClipRegion& region,
-                                         Talmesh::ClippedPoints& discs, int components)
-  {
-    const double radius = 0.5 * this->Pen->GetWidth();
-    vtkNew<vtkBrush> before;
-    before->DeepCopy(this->Brush);
-    Talmesh::ClippedPoints whole;
-    for (int i = 0; i < discs.size(); ++i)
-    {
-      const float* centre = discs.points.data() + 2 * i;
-      const unsigned char* color = discs.colorData();
-      if (color)
-        color += i * components;
-      if (!region.holds(centre, radius))
-      {
-        this->DrawCutDisc(centre, radius, color, components);
-        continue;
-      }
-      whole.points.insert(whole.points.end(), centre, centre + 2);
-      if (color)
-        whole.colors.insert(whole.colors.end(), color, color + components);
-    }
-    this->Brush->DeepCopy(before);
-    return whole;
-  }
-
-  void DrawCutDisc(const float* centre, double radius, const unsigned char* color, int components)
-  {
-    this->Brush->SetColor(this->Pen->GetColorObject());
-    if (color && components >= 3)
-      this->Brush->SetColor(color[0], color[1], color[2], components > 3 ? color[3] : 255);
-    vtkNew<vtkMatrix3x3> matrix;
-    this->GetMatrix(matrix);
-    constexpr int corners = 24;
-    constexpr double step = 2.0 * 3.14159265358979323846 / corners;
-    std::array<float, 2 * corners> outline;
-    for (int i = 0; i < corners; ++i)
-    {
-      const auto x = static_cast<std::size_t>(2 * i);
-      outline[x] =
-          static_cast<float>(centre[0] + radius * std::cos(i * step) / matrix->GetElement(0, 0));
-      outline[x + 1] =
-          static_cast<float>(centre[1] + radius * std::sin(i * step) / matrix->GetElement(1, 1));
-    }
-    this->DrawPolygon(outline.data(), corners);
   }
 
   Talmesh::ClipRectangle Rectangle;
