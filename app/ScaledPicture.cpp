@@ -7,7 +7,9 @@
 #include <vtkNew.h>
 #include <vtkRenderWindow.h>
 
+#include <QCoreApplication>
 #include <QPainter>
+#include <QResizeEvent>
 
 #include <cmath>
 
@@ -19,6 +21,16 @@ namespace
 
 constexpr int pointsPerInch = 72;
 
+/// A hidden widget, for example one under another tab, would hear of its size only when it is
+/// shown, and paint with the old one until then.
+void resizeAtOnce(VtkPlotWidget& widget, const QSize& size)
+{
+  QResizeEvent resized(size, widget.size());
+  widget.resize(size);
+  if (!widget.isVisible())
+    QCoreApplication::sendEvent(&widget, &resized);
+}
+
 } // namespace
 
 TemporarySize::TemporarySize(VtkPlotWidget& widget_, const QSize& pixels)
@@ -28,13 +40,13 @@ TemporarySize::TemporarySize(VtkPlotWidget& widget_, const QSize& pixels)
     , updates(widget_.updatesEnabled())
 {
   widget.setUpdatesEnabled(false);
-  widget.resize(pixels / widget.devicePixelRatioF());
+  resizeAtOnce(widget, pixels / widget.devicePixelRatioF());
   widget.renderWindow()->SetDPI(pointsPerInch);
 }
 
 TemporarySize::~TemporarySize()
 {
-  widget.resize(size);
+  resizeAtOnce(widget, size);
   widget.renderWindow()->SetDPI(dotsPerInch);
   widget.setUpdatesEnabled(updates);
   widget.updatePlot(true);
