@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 
+#include "app/PictureFile.h"
 #include "app/StyleNames.h"
 
 #include <algorithm>
@@ -14,15 +15,6 @@ namespace
 
 constexpr int smallestSide = 16;
 constexpr int largestSide = 16384;
-constexpr double smallestPaperSide = 20.0; ///< millimetres
-constexpr double largestPaperSide = 1200.0;
-constexpr int smallestResolution = 72; ///< dots per inch
-constexpr int largestResolution = 1200;
-
-bool endsWith(std::string_view text, std::string_view ending)
-{
-  return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
-}
 
 std::vector<std::string> splitAtCommas(std::string_view text)
 {
@@ -69,6 +61,8 @@ public:
       return parsed;
     while (next < arguments.size() && parsed.error.empty())
       readArgument(arguments[next++]);
+    if (parsed.error.empty())
+      checkPixels();
     if (!parsed.error.empty())
       parsed.options = CommandLineOptions();
     return parsed;
@@ -180,7 +174,7 @@ private:
   {
     const std::size_t nameStart = value.find_last_of('/') + 1;
     const std::string_view name = std::string_view(value).substr(nameStart);
-    const bool known = endsWith(name, ".png") || endsWith(name, ".pdf") || endsWith(name, ".csv");
+    const bool known = exportKindOf(QString::fromStdString(value)) != ExportKind::None;
     if (known && name.size() > 4)
       options().exports.push_back(value);
     else
@@ -199,17 +193,34 @@ private:
 
   void readPaper(const std::string& value)
   {
-    if (!readSize(value, smallestPaperSide, largestPaperSide, options().paperWidth,
-                  options().paperHeight))
-      parsed.error =
-          "--paper takes WIDTHxHEIGHT in millimetres, each from 20 to 1200, not " + value;
+    if (!readSize<double>(value, PaperSize::smallestSide, PaperSize::largestSide,
+                          options().paperWidth, options().paperHeight))
+      parsed.error = "--paper takes WIDTHxHEIGHT in millimetres, each from " +
+                     std::to_string(PaperSize::smallestSide) + " to " +
+                     std::to_string(PaperSize::largestSide) + ", not " + value;
   }
 
   void readResolution(const std::string& value)
   {
-    if (!readNumber(std::string_view(value), smallestResolution, largestResolution,
-                    options().dotsPerInch))
-      parsed.error = "--dpi takes a number from 72 to 1200, not " + value;
+    if (!readNumber(std::string_view(value), int{PaperSize::smallestResolution},
+                    int{PaperSize::largestResolution}, options().dotsPerInch))
+      parsed.error = "--dpi takes a number from " + std::to_string(PaperSize::smallestResolution) +
+                     " to " + std::to_string(PaperSize::largestResolution) + ", not " + value;
+  }
+
+  /// Size and resolution may each be right and ask for too much together.
+  void checkPixels()
+  {
+    const auto isOfPixels = [](const std::string& file)
+    { return exportKindOf(QString::fromStdString(file)) == ExportKind::Pixels; };
+    const std::vector<std::string>& files = options().exports;
+    if (options().paperWidth <= 0.0 || std::none_of(files.begin(), files.end(), isOfPixels))
+      return;
+    const PaperSize paper = {QSizeF(options().paperWidth, options().paperHeight),
+                             options().dotsPerInch};
+    const std::string error = errorOf(paper, mostPixels);
+    if (!error.empty())
+      parsed.error = "--paper and --dpi: " + error;
   }
 
   const std::vector<std::string>& arguments;

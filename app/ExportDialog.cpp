@@ -20,46 +20,48 @@ namespace
 
 /// A page of most journals is so wide between its margins.
 constexpr double usualWidth = 180.0;
-constexpr double smallestSide = 20.0;
-constexpr double largestSide = 1200.0;
-/// A picture with more pixels on a side takes more memory than a figure is worth.
-constexpr int mostPixels = 20000;
 
 const QString settingsGroup = QStringLiteral("export");
 
-QDoubleSpinBox* makeSide(const char* name, QWidget* switchedBy)
+QDoubleSpinBox* makeSide(const char* name)
 {
   auto* box = new QDoubleSpinBox;
   box->setObjectName(QLatin1String(name));
-  box->setRange(smallestSide, largestSide);
+  box->setRange(PaperSize::smallestSide, PaperSize::largestSide);
   box->setDecimals(1);
   box->setSuffix(QStringLiteral(" mm"));
-  QObject::connect(static_cast<QRadioButton*>(switchedBy), &QRadioButton::toggled, box,
-                   &QWidget::setEnabled);
   return box;
 }
 
 } // namespace
 
-ExportDialog::ExportDialog(bool pixels, const QSize& screen, QWidget* parent)
+ExportDialog::ExportDialog(std::optional<int> most, const QSize& screen, QWidget* parent)
     : QDialog(parent)
-    , inPixels(pixels)
+    , mostOnASide(most)
     , asOnScreen(new QRadioButton(tr("As on the &screen")))
     , onPaper(new QRadioButton(tr("Of a size on &paper, with text of 12 points")))
-    , width(makeSide("exportWidth", onPaper))
-    , height(makeSide("exportHeight", onPaper))
+    , width(makeSide("exportWidth"))
+    , height(makeSide("exportHeight"))
     , resolution(new QSpinBox)
     , pixelSize(new QLabel)
+    , buttons(new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel))
 {
   setWindowTitle(tr("Size of the picture"));
   setObjectName(QStringLiteral("exportDialog"));
   asOnScreen->setObjectName(QStringLiteral("asOnScreen"));
   onPaper->setObjectName(QStringLiteral("onPaper"));
+  buttons->setObjectName(QStringLiteral("exportButtons"));
+  pixelSize->setObjectName(QStringLiteral("exportPixels"));
   resolution->setObjectName(QStringLiteral("exportResolution"));
-  resolution->setRange(72, 1200);
+  resolution->setRange(PaperSize::smallestResolution, PaperSize::largestResolution);
   resolution->setSuffix(tr(" dpi"));
-  connect(onPaper, &QRadioButton::toggled, resolution, &QWidget::setEnabled);
+  layOut();
+  connectFields();
+  restore(screen);
+}
 
+void ExportDialog::layOut()
+{
   auto* layout = new QFormLayout(this);
   layout->addRow(asOnScreen);
   layout->addRow(onPaper);
@@ -69,20 +71,23 @@ ExportDialog::ExportDialog(bool pixels, const QSize& screen, QWidget* parent)
   layout->addRow(tr("Pixels"), pixelSize);
   for (QWidget* field : std::initializer_list<QWidget*>{resolution, pixelSize})
   {
-    field->setVisible(inPixels);
-    layout->labelForField(field)->setVisible(inPixels);
+    field->setVisible(mostOnASide.has_value());
+    layout->labelForField(field)->setVisible(mostOnASide.has_value());
   }
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
-  buttons->setObjectName(QStringLiteral("exportButtons"));
   layout->addRow(buttons);
+}
+
+void ExportDialog::connectFields()
+{
   connect(buttons, &QDialogButtonBox::accepted, this, &ExportDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &ExportDialog::reject);
   for (QDoubleSpinBox* side : {width, height})
     connect(side, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             &ExportDialog::showPixels);
   connect(resolution, QOverload<int>::of(&QSpinBox::valueChanged), this, &ExportDialog::showPixels);
+  for (QWidget* field : std::initializer_list<QWidget*>{width, height, resolution})
+    connect(onPaper, &QRadioButton::toggled, field, &QWidget::setEnabled);
   connect(onPaper, &QRadioButton::toggled, this, &ExportDialog::showPixels);
-  restore(screen);
 }
 
 void ExportDialog::restore(const QSize& screen)
@@ -106,11 +111,10 @@ void ExportDialog::showPixels()
   const QSize pixels = chosen ? pixelsOn(*chosen) : QSize();
   pixelSize->setText(
       chosen ? QStringLiteral("%1 \u00d7 %2").arg(pixels.width()).arg(pixels.height()) : QString());
-  const bool tooLarge = inPixels && std::max(pixels.width(), pixels.height()) > mostPixels;
-  if (tooLarge)
-    pixelSize->setText(tr("more than %1 on a side").arg(mostPixels));
-  if (auto* buttons = findChild<QDialogButtonBox*>())
-    buttons->button(QDialogButtonBox::Save)->setEnabled(!tooLarge);
+  const std::string error = chosen ? errorOf(*chosen, mostOnASide) : std::string();
+  if (!error.empty())
+    pixelSize->setText(QString::fromStdString(error));
+  buttons->button(QDialogButtonBox::Save)->setEnabled(error.empty());
 }
 
 std::optional<PaperSize> ExportDialog::paper() const
@@ -127,7 +131,7 @@ void ExportDialog::accept()
   settings.setValue(QStringLiteral("onPaper"), onPaper->isChecked());
   settings.setValue(QStringLiteral("width"), width->value());
   settings.setValue(QStringLiteral("height"), height->value());
-  if (inPixels)
+  if (mostOnASide)
     settings.setValue(QStringLiteral("resolution"), resolution->value());
   QDialog::accept();
 }

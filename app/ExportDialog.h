@@ -7,6 +7,7 @@
 
 #include <optional>
 
+class QDialogButtonBox;
 class QDoubleSpinBox;
 class QLabel;
 class QRadioButton;
@@ -22,9 +23,10 @@ class ExportDialog : public QDialog
   Q_OBJECT
 
 public:
-  /// @param pixels made of pixels, so that it has a resolution, rather than of vectors
+  /// @param most pixels that a side may have; none for a picture that is not made of pixels and so
+  /// has no resolution
   /// @param screen the size of the plot on the screen
-  ExportDialog(bool pixels, const QSize& screen, QWidget* parent = nullptr);
+  ExportDialog(std::optional<int> most, const QSize& screen, QWidget* parent = nullptr);
 
   /// The size on paper; none for the size on the screen.
   std::optional<PaperSize> paper() const;
@@ -32,16 +34,19 @@ public:
   void accept() override;
 
 private:
+  void layOut();
+  void connectFields();
   void restore(const QSize& screen);
   void showPixels();
 
-  bool inPixels;
+  std::optional<int> mostOnASide;
   QRadioButton* asOnScreen;
   QRadioButton* onPaper;
   QDoubleSpinBox* width;
   QDoubleSpinBox* height;
   QSpinBox* resolution;
   QLabel* pixelSize;
+  QDialogButtonBox* buttons;
 };
 
 } // namespace Talmesh::app

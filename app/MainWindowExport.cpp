@@ -43,13 +43,15 @@ bool MainWindow::exportTo(const QString& path, const PaperSize& paper)
 
 void MainWindow::askForSizeAndExport(const QString& path)
 {
-  const bool pixels = path.endsWith(QLatin1String(".png"));
-  if (!pixels && !path.endsWith(QLatin1String(".pdf")))
+  const ExportKind kind = exportKindOf(path);
+  if (kind != ExportKind::Pixels && kind != ExportKind::Vectors)
   {
     exportTo(path);
     return;
   }
-  auto* dialog = new ExportDialog(pixels, plot->size(), this);
+  const std::optional<int> most =
+      kind == ExportKind::Pixels ? mostPixelsOf(*plot) : std::optional<int>();
+  auto* dialog = new ExportDialog(most, plot->size(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &QDialog::accepted, this,
           [this, dialog, path]

@@ -16,8 +16,11 @@
 #include <QTemporaryDir>
 #include <QtMath>
 
+#include <algorithm>
+#include <cstring>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace Talmesh::app
 {
@@ -25,11 +28,18 @@ namespace Talmesh::app
 namespace
 {
 
-/// Content of an export, or why there is none.
+/// Content of an export, or why there is none. A table may have more bytes than a QByteArray holds.
 struct Content
 {
   QByteArray bytes;
+  std::unique_ptr<char[]> table;
   std::string error;
+
+  const char* data() const { return table ? table.get() : bytes.constData(); }
+  qint64 size() const
+  {
+    return table ? static_cast<qint64>(std::strlen(table.get())) : bytes.size();
+  }
 };
 
 constexpr double millimetresPerInch = 25.4;
@@ -45,6 +55,11 @@ QSize rounded(const QSizeF& size)
 QSizeF pointsOf(const PaperSize& paper)
 {
   return paper.millimetres * (pointsPerInch / millimetresPerInch);
+}
+
+bool isIn3D(const VtkPlotWidget& widget)
+{
+  return widget.plotContainer()->getMetaData()->getPlotStyle() == xyzPlot;
 }
 
 Content pngFile(const QImage& picture)
@@ -66,7 +81,7 @@ Content pngOf(VtkPlotWidget& widget)
 Content pngOf(VtkPlotWidget& widget, const PaperSize& paper)
 {
   QImage picture;
-  if (widget.plotContainer()->getMetaData()->getPlotStyle() == xyzPlot)
+  if (isIn3D(widget))
   {
     // The painter of three dimensions cannot be scaled.
     const TemporarySize inPixels(widget, pixelsOn(paper));
@@ -82,7 +97,7 @@ Content pngOf(VtkPlotWidget& widget, const PaperSize& paper)
         widget, {qCeil(points.width() - rounding), qCeil(points.height() - rounding)});
     picture = paintScaled(widget, paper.dotsPerInch / pointsPerInch);
   }
-  if (!picture.isNull())
+  if (!picture.isNull() && picture.size() != pixelsOn(paper))
     picture = picture.copy(QRect(QPoint(0, 0), pixelsOn(paper)));
   const int dotsPerMetre = qRound(paper.dotsPerInch * 1000.0 / millimetresPerInch);
   picture.setDotsPerMeterX(dotsPerMetre);
@@ -104,7 +119,7 @@ Content pdfOf(VtkPlotWidget& widget)
   QFile file(path);
   if (file.open(QIODevice::ReadOnly))
     content.bytes = file.readAll();
-  if (!content.bytes.startsWith("%PDF"))
+  if (!isWholePdf(content.bytes))
     content.error = translated("PictureFile", "the plot could not be painted");
   return content;
 }
@@ -118,40 +133,100 @@ Content pdfOf(VtkPlotWidget& widget, const PaperSize& paper)
 Content csvOf(VtkPlotWidget& widget)
 {
   Content content;
-  const std::unique_ptr<char[]> text(widget.plotContainer()->saveData({}, true));
-  if (text)
-    content.bytes = QByteArray(text.get());
-  else
+  content.table.reset(widget.plotContainer()->saveData({}, true));
+  if (!content.table)
     content.error = translated("PictureFile", "the table could not be written");
   return content;
 }
 
-std::string writeWhole(const QString& path, const QByteArray& bytes)
+std::string writeWhole(const QString& path, const Content& content)
 {
   QSaveFile file(path);
-  const bool written =
-      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  const qint64 size = content.size();
+  // Committing alone would not notice that the last bytes, still in a buffer, found no room.
+  const bool written = file.open(QIODevice::WriteOnly) &&
+                       file.write(content.data(), size) == size && file.flush() && file.commit();
   return written ? std::string() : file.errorString().toStdString();
+}
+
+Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<PaperSize>& paper)
+{
+  switch (kind)
+  {
+  case ExportKind::Pixels:
+    return paper ? pngOf(widget, *paper) : pngOf(widget);
+  case ExportKind::Vectors:
+    return paper ? pdfOf(widget, *paper) : pdfOf(widget);
+  case ExportKind::Table:
+    return csvOf(widget);
+  default:
+    return {{}, {}, translated("PictureFile", "the name must end with .png, .pdf or .csv")};
+  }
 }
 
 std::string writeExport(VtkPlotWidget& widget, const QString& path,
                         const std::optional<PaperSize>& paper)
 {
-  Content content;
-  if (path.endsWith(QLatin1String(".png")))
-    content = paper ? pngOf(widget, *paper) : pngOf(widget);
-  else if (path.endsWith(QLatin1String(".pdf")))
-    content = paper ? pdfOf(widget, *paper) : pdfOf(widget);
-  else if (path.endsWith(QLatin1String(".csv")))
-    content = csvOf(widget);
-  else
-    content.error = translated("PictureFile", "the name must end with .png, .pdf or .csv");
-  if (content.error.empty())
-    content.error = writeWhole(path, content.bytes);
-  return content.error.empty() ? content.error : path.toStdString() + ": " + content.error;
+  const ExportKind kind = exportKindOf(path);
+  std::string error;
+  if (paper && kind == ExportKind::Pixels)
+    error = errorOf(*paper, mostPixelsOf(widget));
+  else if (paper && kind == ExportKind::Vectors)
+    error = errorOf(*paper, {});
+  if (error.empty())
+  {
+    const Content content = contentOf(widget, kind, paper);
+    error = content.error.empty() ? writeWhole(path, content) : content.error;
+  }
+  return error.empty() ? error : path.toStdString() + ": " + error;
+}
+
+bool isWithin(double number, int least, int most)
+{
+  return number >= least && number <= most;
 }
 
 } // namespace
+
+ExportKind exportKindOf(const QString& path)
+{
+  const auto hasSuffix = [&path](const char* suffix)
+  { return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive); };
+  if (hasSuffix(".png"))
+    return ExportKind::Pixels;
+  if (hasSuffix(".pdf"))
+    return ExportKind::Vectors;
+  return hasSuffix(".csv") ? ExportKind::Table : ExportKind::None;
+}
+
+int mostPixelsOf(const VtkPlotWidget& widget)
+{
+  return isIn3D(widget) ? mostPixelsIn3D : mostPixels;
+}
+
+std::string errorOf(const PaperSize& paper, std::optional<int> most)
+{
+  for (const double side : {paper.millimetres.width(), paper.millimetres.height()})
+    if (!isWithin(side, PaperSize::smallestSide, PaperSize::largestSide))
+      return withValues(
+          translated("PictureFile", "a side on paper must have from %1 to %2 millimetres"),
+          {std::to_string(PaperSize::smallestSide), std::to_string(PaperSize::largestSide)});
+  if (!isWithin(paper.dotsPerInch, PaperSize::smallestResolution, PaperSize::largestResolution))
+    return withValues(translated("PictureFile", "the resolution must be from %1 to %2 dpi"),
+                      {std::to_string(PaperSize::smallestResolution),
+                       std::to_string(PaperSize::largestResolution)});
+  const QSize pixels = pixelsOn(paper);
+  if (most && std::max(pixels.width(), pixels.height()) > *most)
+    return withValues(
+        translated("PictureFile", "%1 x %2 pixels are too many: a side may have %3"),
+        {std::to_string(pixels.width()), std::to_string(pixels.height()), std::to_string(*most)});
+  return {};
+}
+
+bool isWholePdf(const QByteArray& pdf)
+{
+  return pdf.startsWith("%PDF") && pdf.right(16).trimmed().endsWith("%%EOF");
+}
 
 QSize pixelsOn(const PaperSize& paper)
 {

@@ -1,17 +1,30 @@
 #ifndef PictureFile_h
 #define PictureFile_h
 
+#include <QByteArray>
 #include <QSize>
 #include <QSizeF>
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 class VtkPlotWidget;
 
 namespace Talmesh::app
 {
+
+/// What a file of a name holds; capitals in the suffix make no difference.
+enum class ExportKind
+{
+  None,
+  Pixels,  ///< ".png"
+  Vectors, ///< ".pdf"
+  Table    ///< ".csv"
+};
+
+ExportKind exportKindOf(const QString& path);
 
 /// Writes what a plot widget shows: ".png" the picture in the widget's pixels, ".pdf" the same as
 /// vectors, ".csv" the whole table. The file appears complete or not at all; an old one of the name
@@ -23,9 +36,26 @@ std::string exportPlot(VtkPlotWidget& widget, const QString& path);
 /// A size on paper, and how finely a picture made of pixels fills it.
 struct PaperSize
 {
+  static constexpr int smallestSide = 20; ///< millimetres
+  static constexpr int largestSide = 1200;
+  static constexpr int smallestResolution = 72; ///< dots per inch
+  static constexpr int largestResolution = 1200;
+
   QSizeF millimetres{180.0, 120.0};
   int dotsPerInch = 300;
 };
+
+/// A picture with more pixels on a side takes more memory than a figure is worth.
+constexpr int mostPixels = 20000;
+/// The 3-D chart is painted in one piece, for which graphics cards have less room.
+constexpr int mostPixelsIn3D = 8192;
+
+/// The most pixels on a side of a picture for print of what a widget shows.
+int mostPixelsOf(const VtkPlotWidget& widget);
+
+/// Why there is no picture of a size, in one line; empty if there is.
+/// @param most pixels on a side; none for a picture that is not made of them
+std::string errorOf(const PaperSize& paper, std::optional<int> most);
 
 /// The pixels of a picture of that size.
 QSize pixelsOn(const PaperSize& paper);
@@ -34,6 +64,9 @@ QSize pixelsOn(const PaperSize& paper);
 /// points of 1/72 inch. ".png" has the pixels that the resolution gives, and says so; ".pdf" has a
 /// page of the size, to the next point. ".csv" is the table.
 std::string exportPlot(VtkPlotWidget& widget, const QString& path, const PaperSize& paper);
+
+/// Whether a PDF has its end, which one that a full disk cut off lacks.
+bool isWholePdf(const QByteArray& pdf);
 
 /// A plot widget that can draw pictures of the given size but is never seen.
 std::unique_ptr<VtkPlotWidget> makeHiddenPlot(const QSize& pixels);

@@ -1,10 +1,14 @@
 #include "app/ScaledContextDevice.h"
 
+#include "app/ScaledMarker.h"
+
+#include <vtkBrush.h>
 #include <vtkMatrix3x3.h>
 #include <vtkNew.h>
 #include <vtkObjectFactory.h>
 #include <vtkOpenGLRenderWindow.h>
 #include <vtkPen.h>
+#include <vtkRenderingCoreEnums.h>
 #include <vtkUnicodeString.h>
 
 #include <algorithm>
@@ -31,6 +35,49 @@ struct PixelScale
   double Unit;
 };
 
+/// While it lives, a pen draws enlarged.
+class EnlargedPen
+{
+public:
+  EnlargedPen(vtkPen* pen_, double scale)
+      : pen(pen_)
+      , width(pen_->GetWidth())
+  {
+    pen->SetWidth(static_cast<float>(width * scale));
+  }
+
+  ~EnlargedPen() { pen->SetWidth(width); }
+
+  EnlargedPen(const EnlargedPen&) = delete;
+  EnlargedPen& operator=(const EnlargedPen&) = delete;
+
+private:
+  vtkPen* pen;
+  float width;
+};
+
+/// While it lives, areas have a pen's colour.
+class BrushLikePen
+{
+public:
+  BrushLikePen(vtkBrush* brush_, vtkPen* pen)
+      : brush(brush_)
+  {
+    before->DeepCopy(brush);
+    brush->SetTexture(nullptr);
+    brush->SetColor(pen->GetColorObject());
+  }
+
+  ~BrushLikePen() { brush->DeepCopy(before); }
+
+  BrushLikePen(const BrushLikePen&) = delete;
+  BrushLikePen& operator=(const BrushLikePen&) = delete;
+
+private:
+  vtkBrush* brush;
+  vtkNew<vtkBrush> before;
+};
+
 } // namespace
 
 void ScaledContextDevice::SetOffset(int x, int y)
@@ -52,12 +99,6 @@ void ScaledContextDevice::SetMatrix(vtkMatrix3x3* matrix)
   this->Superclass::SetMatrix(enlarged);
 }
 
-void ScaledContextDevice::ApplyPen(vtkPen* pen)
-{
-  this->Superclass::ApplyPen(pen);
-  this->Pen->SetWidth(static_cast<float>(this->Pen->GetWidth() * this->Scale));
-}
-
 void ScaledContextDevice::SetClipping(int* rectangle)
 {
   int part[4];
@@ -70,6 +111,78 @@ void ScaledContextDevice::SetClipping(int* rectangle)
     part[axis + 2] = std::max(static_cast<int>(std::ceil(high)) - part[axis], 0);
   }
   this->Superclass::SetClipping(part);
+}
+
+void ScaledContextDevice::DrawPoly(float* points, int n, unsigned char* colors, int components)
+{
+  const EnlargedPen pen(this->Pen, this->Scale);
+  this->Superclass::DrawPoly(points, n, colors, components);
+}
+
+void ScaledContextDevice::DrawLines(float* points, int n, unsigned char* colors, int components)
+{
+  const EnlargedPen pen(this->Pen, this->Scale);
+  this->Superclass::DrawLines(points, n, colors, components);
+}
+
+void ScaledContextDevice::DrawPointSprites(vtkImageData* sprite, float* points, int n,
+                                           unsigned char* colors, int components)
+{
+  const EnlargedPen pen(this->Pen, this->Scale);
+  this->Superclass::DrawPointSprites(sprite, points, n, colors, components);
+}
+
+void ScaledContextDevice::DrawPoints(float* points, int n, unsigned char* colors, int components)
+{
+  this->DrawMarkers(VTK_MARKER_SQUARE, false, points, n, colors, components);
+}
+
+void ScaledContextDevice::DrawMarkers(int shape, bool highlight, float* points, int n,
+                                      unsigned char* colors, int components)
+{
+  const double size = this->Pen->GetWidth() * this->Scale;
+  this->DrawShapes(Talmesh::app::markerTriangles(shape, highlight, size, this->Scale), points, n,
+                   colors, components);
+}
+
+/// OpenGL leaves out a whole point when its centre is not in the window, that is in the part of the
+/// picture, it limits their size, and markers made for it would be pixels enlarged.
+void ScaledContextDevice::DrawShapes(const std::vector<double>& triangles, const float* points,
+                                     int n, const unsigned char* colors, int components)
+{
+  vtkNew<vtkMatrix3x3> matrix;
+  this->GetMatrix(matrix);
+  const int* size = this->RenderWindow->GetSize();
+  const double unit[] = {PixelScale(size[0]).Unit, PixelScale(size[1]).Unit};
+  const double reach = *std::max_element(triangles.begin(), triangles.end());
+  std::vector<float> corners;
+  std::vector<unsigned char> cornerColors;
+  for (int i = 0; i < n; ++i)
+  {
+    const double point[] = {points[2 * i], points[2 * i + 1], 1.0};
+    double centre[3];
+    matrix->MultiplyPoint(point, centre);
+    const auto isSeen = [&](int axis)
+    { return centre[axis] > -reach && centre[axis] < size[axis] + reach; };
+    if (!isSeen(0) || !isSeen(1))
+      continue;
+    for (std::size_t corner = 0; corner < triangles.size(); corner += 2)
+    {
+      corners.push_back(static_cast<float>(centre[0] + unit[0] * triangles[corner]));
+      corners.push_back(static_cast<float>(centre[1] + unit[1] * triangles[corner + 1]));
+      if (colors)
+        cornerColors.insert(cornerColors.end(), colors + i * components,
+                            colors + (i + 1) * components);
+    }
+  }
+  if (corners.empty())
+    return;
+  const BrushLikePen brush(this->Brush, this->Pen);
+  vtkNew<vtkMatrix3x3> none;
+  this->PushMatrix();
+  this->Superclass::SetMatrix(none);
+  this->CoreDrawTriangles(corners, colors ? cornerColors.data() : nullptr, components);
+  this->PopMatrix();
 }
 
 void ScaledContextDevice::DrawString(float* point, const vtkUnicodeString& text)

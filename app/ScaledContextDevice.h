@@ -5,8 +5,11 @@
 
 #include <vtkOpenGLContextDevice2D.h>
 
-/// Paints a scene enlarged, and of that the part that begins at an offset. Text is not enlarged:
-/// it follows the render window's dots per inch.
+#include <vector>
+
+/// Paints a scene enlarged, and of that the part that begins at an offset. Lines, points and
+/// markers are enlarged by as much as their places, while the pen keeps the width that the scene
+/// gave it. Text is not enlarged: it follows the render window's dots per inch.
 class ScaledContextDevice : public vtkOpenGLContextDevice2D
 {
 public:
@@ -18,8 +21,16 @@ public:
   void SetOffset(int x, int y);
 
   void SetMatrix(vtkMatrix3x3* matrix) override;
-  void ApplyPen(vtkPen* pen) override;
   void SetClipping(int* rectangle) override;
+  void DrawPoly(float* points, int n, unsigned char* colors = nullptr, int components = 0) override;
+  void DrawLines(float* points, int n, unsigned char* colors = nullptr,
+                 int components = 0) override;
+  void DrawPoints(float* points, int n, unsigned char* colors = nullptr,
+                  int components = 0) override;
+  void DrawPointSprites(vtkImageData* sprite, float* points, int n, unsigned char* colors = nullptr,
+                        int components = 0) override;
+  void DrawMarkers(int shape, bool highlight, float* points, int n, unsigned char* colors = nullptr,
+                   int components = 0) override;
   using vtkOpenGLContextDevice2D::DrawString;
   void DrawString(float* point, const vtkUnicodeString& text) override;
 
@@ -28,6 +39,9 @@ protected:
   ~ScaledContextDevice() override = default;
 
 private:
+  void DrawShapes(const std::vector<double>& triangles, const float* points, int n,
+                  const unsigned char* colors, int components);
+
   double Scale = 1.0;
   int Offset[2] = {0, 0};
 };

@@ -1,18 +1,15 @@
 #include "app/ScaledPicture.h"
 
 #include "app/ScaledContextDevice.h"
+#include "widgets/TemporaryContextDevice.h"
 #include "widgets/VtkPlotWidget.h"
 
-#include <vtkContext2D.h>
-#include <vtkContextActor.h>
-#include <vtkContextView.h>
 #include <vtkNew.h>
-#include <vtkPropCollection.h>
 #include <vtkRenderWindow.h>
-#include <vtkRenderer.h>
-#include <vtkSmartPointer.h>
 
+#include <QCoreApplication>
 #include <QPainter>
+#include <QResizeEvent>
 
 #include <cmath>
 
@@ -24,44 +21,15 @@ namespace
 
 constexpr int pointsPerInch = 72;
 
-vtkContext2D* contextOf(VtkPlotWidget& widget)
+/// A hidden widget, for example one under another tab, would hear of its size only when it is
+/// shown, and paint with the old one until then.
+void resizeAtOnce(VtkPlotWidget& widget, const QSize& size)
 {
-  vtkPropCollection* props = widget.contextView()->GetRenderer()->GetViewProps();
-  for (int i = 0; i < props->GetNumberOfItems(); ++i)
-    if (auto* actor = vtkContextActor::SafeDownCast(props->GetItemAsObject(i)))
-      return actor->GetContext();
-  return nullptr;
+  QResizeEvent resized(size, widget.size());
+  widget.resize(size);
+  if (!widget.isVisible())
+    QCoreApplication::sendEvent(&widget, &resized);
 }
-
-/// Exchanges the device of a painter while it lives.
-class TemporaryDevice
-{
-public:
-  TemporaryDevice(VtkPlotWidget& widget_, vtkContext2D* context_, ScaledContextDevice* device_)
-      : widget(widget_)
-      , context(context_)
-      , device(device_)
-      , before(context_->GetDevice())
-  {
-    context->Begin(device);
-  }
-
-  ~TemporaryDevice()
-  {
-    widget.makeCurrent();
-    device->ReleaseGraphicsResources(widget.renderWindow());
-    context->Begin(before);
-  }
-
-  TemporaryDevice(const TemporaryDevice&) = delete;
-  TemporaryDevice& operator=(const TemporaryDevice&) = delete;
-
-private:
-  VtkPlotWidget& widget;
-  vtkContext2D* context;
-  ScaledContextDevice* device;
-  vtkSmartPointer<vtkContextDevice2D> before;
-};
 
 } // namespace
 
@@ -72,13 +40,13 @@ TemporarySize::TemporarySize(VtkPlotWidget& widget_, const QSize& pixels)
     , updates(widget_.updatesEnabled())
 {
   widget.setUpdatesEnabled(false);
-  widget.resize(pixels / widget.devicePixelRatioF());
+  resizeAtOnce(widget, pixels / widget.devicePixelRatioF());
   widget.renderWindow()->SetDPI(pointsPerInch);
 }
 
 TemporarySize::~TemporarySize()
 {
-  widget.resize(size);
+  resizeAtOnce(widget, size);
   widget.renderWindow()->SetDPI(dotsPerInch);
   widget.setUpdatesEnabled(updates);
   widget.updatePlot(true);
@@ -88,8 +56,10 @@ QImage paintScaled(VtkPlotWidget& widget, double scale)
 {
   widget.updatePlot(true);
   const QImage whole = widget.grabFramebuffer();
-  vtkContext2D* context = contextOf(widget);
-  if (whole.isNull() || !context || !context->GetDevice())
+  vtkNew<ScaledContextDevice> device;
+  device->SetScale(scale);
+  const TemporaryContextDevice exchanged(widget, device);
+  if (whole.isNull() || !exchanged.exchanged())
     return {};
   const QSize part = whole.size();
   const int width = static_cast<int>(std::lround(part.width() * scale));
@@ -97,9 +67,6 @@ QImage paintScaled(VtkPlotWidget& widget, double scale)
   QImage picture(width, height, QImage::Format_RGB32);
   picture.fill(Qt::white);
 
-  vtkNew<ScaledContextDevice> device;
-  device->SetScale(scale);
-  const TemporaryDevice exchanged(widget, context, device);
   const int dotsPerInch = widget.renderWindow()->GetDPI();
   widget.renderWindow()->SetDPI(static_cast<int>(std::lround(dotsPerInch * scale)));
   QPainter painter(&picture);

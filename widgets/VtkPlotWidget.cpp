@@ -2,6 +2,8 @@
 
 #include "plot/PlotContainer.h"
 #include "widgets/ExportName.h"
+#include "widgets/PdfContextDevice.h"
+#include "widgets/TemporaryContextDevice.h"
 
 #include <vtkContextScene.h>
 #include <vtkContextView.h>
@@ -63,6 +65,8 @@ void VtkPlotWidget::updatePlot(bool clear)
 void VtkPlotWidget::printPlot(QString fileName)
 {
   makeFramebufferReady();
+  vtkNew<PdfContextDevice> device;
+  const TemporaryContextDevice exchanged(*this, device);
   vtkNew<vtkGL2PSExporter> exporter;
   exporter->SetRenderWindow(renderWindow());
   exporter->SetFileFormatToPDF();

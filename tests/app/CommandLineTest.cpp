@@ -133,9 +133,15 @@ TEST(CommandLine, RefusesAnEmptyNameAmongTheYColumns)
 
 TEST(CommandLine, RefusesAnExportOfAnotherKind)
 {
-  for (const char* name : {"plot.svg", "plot", "png", ".png", "dir/.pdf", "plot.PNG"})
+  for (const char* name : {"plot.svg", "plot", "png", ".png", "dir/.pdf", "plot.jpg"})
     EXPECT_EQ(errorOf({"--export", name}), std::string("cannot export to ") + name +
                                                ": the name must end with .png, .pdf or .csv");
+}
+
+TEST(CommandLine, TakesSuffixesInCapitals)
+{
+  EXPECT_EQ(parsed({"--export", "A.PNG", "--export", "b.Pdf", "--export", "C.CSV"}).exports,
+            (std::vector<std::string>{"A.PNG", "b.Pdf", "C.CSV"}));
 }
 
 TEST(CommandLine, RefusesASizeThatIsNone)
@@ -162,6 +168,19 @@ TEST(CommandLine, TakesASizeOnPaperAndAResolution)
   for (const char* dpi : {"71", "1201", "300.5", "high"})
     EXPECT_EQ(errorOf({"--dpi", dpi}),
               std::string("--dpi takes a number from 72 to 1200, not ") + dpi);
+}
+
+TEST(CommandLine, RefusesMorePixelsThanMemoryShouldHold)
+{
+  // 1200 mm at 1200 dpi are 1200 / 25.4 * 1200 = 56692.9 pixels.
+  const std::string error =
+      "--paper and --dpi: 56693 x 56693 pixels are too many: a side may have 20000";
+  EXPECT_EQ(errorOf({"--paper", "1200x1200", "--dpi", "1200", "--export", "a.png"}), error);
+  EXPECT_EQ(errorOf({"--export", "a.PNG", "--dpi", "1200", "--paper", "1200x1200"}), error);
+  // A side of 423.3 mm has 19999 pixels at 1200 dpi.
+  EXPECT_EQ(errorOf({"--paper", "423.3x20", "--dpi", "1200", "--export", "a.png"}), "");
+  EXPECT_NE(errorOf({"--paper", "423.4x20", "--dpi", "1200", "--export", "a.png"}), "");
+  EXPECT_EQ(errorOf({"--paper", "1200x1200", "--dpi", "1200", "--export", "a.pdf"}), "");
 }
 
 TEST(CommandLine, LeavesNoOptionsBesideAnError)

@@ -1,27 +1,19 @@
-#include "app/ExportDialog.h"
-#include "app/MainWindow.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
 #include "app/ScaledPicture.h"
 #include "app/Study.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
+#include "support/PdfPages.h"
+#include "support/Pictures.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <gtest/gtest.h>
 
-#include <QDialogButtonBox>
-#include <QDoubleSpinBox>
+#include <QDir>
 #include <QImage>
-#include <QLabel>
-#include <QProcess>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QRegularExpression>
-#include <QSettings>
-#include <QSpinBox>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <cmath>
 
@@ -31,15 +23,6 @@ using namespace Talmesh::app;
 
 namespace
 {
-
-/// Standard output of a program, which must be installed.
-QString outputOf(const QString& program, const QStringList& arguments)
-{
-  QProcess process;
-  process.start(program, arguments);
-  EXPECT_TRUE(process.waitForFinished(30000) && process.exitCode() == 0) << program.toStdString();
-  return QString::fromUtf8(process.readAllStandardOutput());
-}
 
 /// How much two pictures of one size differ, 0 to 255, on average of the pixels.
 double differenceOf(const QImage& a, const QImage& b)
@@ -142,8 +125,44 @@ TEST_F(PaperSizeOfAPicture, IsRefusedNowhereInAnyStyle)
   {
     draw(style);
     EXPECT_EQ(exportPlot(*widget, path("plot.png"), {QSizeF(90.0, 70.0), 150}), "") << style;
-    EXPECT_EQ(QImage(path("plot.png")).size(), QSize(531, 413)) << style;
+    const QImage picture(path("plot.png"));
+    EXPECT_EQ(picture.size(), QSize(531, 413)) << style;
+    EXPECT_GT(paintedPixels(picture), 1000) << style;
+    EXPECT_EQ(exportPlot(*widget, path("plot.pdf"), {QSizeF(90.0, 70.0), 150}), "") << style;
+    // 90 by 70 mm are 255.1 by 198.4 points, of two pixels each at 144 dpi.
+    const QImage page = pageOf(path("plot.pdf"), 144);
+    EXPECT_EQ(page.size(), QSize(510, 396)) << style;
+    EXPECT_GT(paintedPixels(page), 1000) << style;
   }
+}
+
+TEST_F(PaperSizeOfAPicture, IsRefusedBeyondItsLimits)
+{
+  const auto error = [this](const char* name, double side, int dpi) {
+    return exportPlot(*widget, path(name), {QSizeF(side, 30.0), dpi});
+  };
+  const std::string png = path("plot.png").toStdString() + ": ";
+  EXPECT_EQ(error("plot.png", 1200.0, 1200),
+            png + "56693 x 1417 pixels are too many: a side may have 20000");
+  EXPECT_EQ(error("plot.png", 19.9, 300),
+            png + "a side on paper must have from 20 to 1200 millimetres");
+  EXPECT_EQ(error("plot.png", 1200.1, 72),
+            png + "a side on paper must have from 20 to 1200 millimetres");
+  EXPECT_EQ(error("plot.png", 30.0, 71), png + "the resolution must be from 72 to 1200 dpi");
+  EXPECT_EQ(error("plot.pdf", 19.0, 300),
+            path("plot.pdf").toStdString() +
+                ": a side on paper must have from 20 to 1200 millimetres");
+  EXPECT_EQ(error("plot.csv", 1.0, 1), "");
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"plot.csv"});
+}
+
+TEST_F(PaperSizeOfAPicture, IsSmallerForTheChartOfThreeDimensions)
+{
+  // 180 mm at 1200 dpi are 8504 pixels.
+  draw(xyzPlot);
+  EXPECT_EQ(exportPlot(*widget, path("cube.png"), {QSizeF(180.0, 20.0), 1200}),
+            path("cube.png").toStdString() +
+                ": 8504 x 945 pixels are too many: a side may have 8192");
 }
 
 TEST_F(PaperSizeOfAPicture, ScalesEverythingAlike)
@@ -167,105 +186,4 @@ TEST_F(PaperSizeOfAPicture, ScalesEverythingAlike)
                 0.25 * differenceOf(small, paper))
         << scale;
   }
-}
-
-namespace
-{
-
-class ExportDialogOfAWindow : public ::testing::Test
-{
-protected:
-  ExportDialogOfAWindow()
-  {
-    QCoreApplication::setOrganizationName(QStringLiteral("TalmeshTest"));
-    QCoreApplication::setApplicationName(QStringLiteral("export"));
-    QSettings().clear();
-  }
-
-  ~ExportDialogOfAWindow() override { QSettings().clear(); }
-
-  template <typename Widget>
-  static Widget& child(QWidget& of, const char* name)
-  {
-    return *of.findChild<Widget*>(QLatin1String(name));
-  }
-};
-
-} // namespace
-
-TEST_F(ExportDialogOfAWindow, OffersTheShapeOfTheScreenOnAPageOfAJournal)
-{
-  ExportDialog dialog(true, QSize(900, 600));
-  ASSERT_TRUE(dialog.paper());
-  EXPECT_EQ(dialog.paper()->millimetres, QSizeF(180.0, 120.0));
-  EXPECT_EQ(dialog.paper()->dotsPerInch, 300);
-}
-
-TEST_F(ExportDialogOfAWindow, AsksForAResolutionOnlyForPixels)
-{
-  for (const bool pixels : {true, false})
-  {
-    ExportDialog dialog(pixels, QSize(900, 600));
-    dialog.show();
-    EXPECT_EQ(child<QSpinBox>(dialog, "exportResolution").isVisible(), pixels);
-  }
-}
-
-TEST_F(ExportDialogOfAWindow, RemembersWhatWasAccepted)
-{
-  {
-    ExportDialog dialog(true, QSize(900, 600));
-    child<QDoubleSpinBox>(dialog, "exportWidth").setValue(85.0);
-    child<QDoubleSpinBox>(dialog, "exportHeight").setValue(60.0);
-    child<QSpinBox>(dialog, "exportResolution").setValue(600);
-    dialog.accept();
-  }
-  {
-    ExportDialog dialog(true, QSize(900, 600));
-    EXPECT_EQ(dialog.paper()->millimetres, QSizeF(85.0, 60.0));
-    EXPECT_EQ(dialog.paper()->dotsPerInch, 600);
-    child<QDoubleSpinBox>(dialog, "exportWidth").setValue(100.0);
-    dialog.reject();
-  }
-  ExportDialog dialog(true, QSize(900, 600));
-  EXPECT_EQ(dialog.paper()->millimetres.width(), 85.0);
-}
-
-TEST_F(ExportDialogOfAWindow, CanTakeTheSizeOfTheScreen)
-{
-  ExportDialog dialog(true, QSize(900, 600));
-  child<QRadioButton>(dialog, "asOnScreen").click();
-  EXPECT_FALSE(dialog.paper());
-  EXPECT_FALSE(child<QDoubleSpinBox>(dialog, "exportWidth").isEnabled());
-}
-
-TEST_F(ExportDialogOfAWindow, RefusesMorePixelsThanMemoryShouldHold)
-{
-  ExportDialog dialog(true, QSize(900, 600));
-  const QPushButton* save =
-      child<QDialogButtonBox>(dialog, "exportButtons").button(QDialogButtonBox::Save);
-  EXPECT_TRUE(save->isEnabled());
-  child<QDoubleSpinBox>(dialog, "exportWidth").setValue(1000.0);
-  child<QSpinBox>(dialog, "exportResolution").setValue(1200);
-  EXPECT_FALSE(save->isEnabled());
-}
-
-TEST_F(ExportDialogOfAWindow, WritesTheFileOfTheSizeAccepted)
-{
-  const QTemporaryDir folder;
-  MainWindow window;
-  window.resize(500, 400);
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-  const QSize before = window.plotWidget()->size();
-  const QString path = folder.filePath(QStringLiteral("plot.png"));
-  window.askForSizeAndExport(path);
-  auto* dialog = window.findChild<ExportDialog*>();
-  ASSERT_TRUE(dialog);
-  child<QDoubleSpinBox>(*dialog, "exportWidth").setValue(90.0);
-  child<QDoubleSpinBox>(*dialog, "exportHeight").setValue(60.0);
-  child<QSpinBox>(*dialog, "exportResolution").setValue(200);
-  dialog->accept();
-  EXPECT_EQ(QImage(path).size(), QSize(709, 472));
-  EXPECT_EQ(window.plotWidget()->size(), before);
 }

@@ -84,6 +84,26 @@ TEST_F(PictureFile, WritesAWholePdf)
   EXPECT_TRUE(pdf.contains("/MediaBox"));
 }
 
+TEST_F(PictureFile, KnowsAPdfWithoutItsEnd)
+{
+  EXPECT_EQ(exportPlot(*widget, path("plot.pdf")), "");
+  const QByteArray pdf = contentOf(path("plot.pdf"));
+  EXPECT_TRUE(isWholePdf(pdf));
+  EXPECT_FALSE(isWholePdf(pdf.left(pdf.size() / 2)));
+  EXPECT_FALSE(isWholePdf(pdf.trimmed().chopped(1)));
+  EXPECT_FALSE(isWholePdf("%%EOF"));
+  EXPECT_FALSE(isWholePdf({}));
+}
+
+TEST_F(PictureFile, TakesSuffixesInCapitals)
+{
+  for (const char* name : {"A.PNG", "B.Pdf", "C.CSV"})
+    EXPECT_EQ(exportPlot(*widget, path(name)), "") << name;
+  EXPECT_EQ(QImage(path("A.PNG")).size(), QSize(500, 300));
+  EXPECT_TRUE(isWholePdf(contentOf(path("B.Pdf"))));
+  EXPECT_TRUE(contentOf(path("C.CSV")).startsWith("\"Molecule: X\""));
+}
+
 TEST_F(PictureFile, WritesNamesThatTheFileSystemTakesAsTheyAre)
 {
   EXPECT_EQ(exportPlot(*widget, path("a.pdf.pdf")), "");

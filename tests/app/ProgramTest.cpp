@@ -10,7 +10,9 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <string>
+#include <sys/resource.h>
 
 #include "SampleStudies.h"
 
@@ -27,12 +29,33 @@ struct Ended
   QByteArray errors;
 };
 
+/// A program whose files must stay small.
+class LimitedProcess : public QProcess
+{
+public:
+  explicit LimitedProcess(rlim_t bytes)
+      : limit{bytes, bytes}
+  {
+  }
+
+protected:
+  void setupChildProcess() override
+  {
+    // Writing more shall fail rather than end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+
+private:
+  rlimit limit;
+};
+
 class Program : public ::testing::Test
 {
 protected:
-  Ended run(const QStringList& arguments)
+  Ended run(const QStringList& arguments, rlim_t largestFile = RLIM_INFINITY)
   {
-    QProcess process;
+    LimitedProcess process(largestFile);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TALMESH_PLOT_PROGRAM), arguments);
     Ended ended;
@@ -148,6 +171,18 @@ TEST_F(Program, ExportsForPrint)
   const QString csv = write("runs.csv", sampleRuns());
   expectSuccess({csv, "--paper", "90x60", "--dpi", "200", "--export", path("plot.png")});
   EXPECT_EQ(QImage(path("plot.png")).size(), QSize(709, 472));
+  EXPECT_GT(paintedPixels(QImage(path("plot.png"))), 1000);
+}
+
+TEST_F(Program, RefusesMorePixelsThanItCanPaint)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  expectError({csv, "--paper", "1200x1200", "--dpi", "1200", "--export", path("plot.png")},
+              "--paper and --dpi: 56693 x 56693 pixels are too many: a side may have 20000");
+  expectError({csv, "--style", "xyzPlot", "--paper", "200x100", "--dpi", "1200", "--export",
+               path("plot.png")},
+              path("plot.png") + ": 9449 x 4724 pixels are too many: a side may have 8192");
+  EXPECT_FALSE(QFile::exists(path("plot.png")));
 }
 
 TEST_F(Program, ExportsInEveryStyle)
@@ -158,7 +193,10 @@ TEST_F(Program, ExportsInEveryStyle)
                             "fitParameterDistribution", "parallelCoordinates"})
   {
     expectSuccess({csv, "--style", style, "--size", "300x200", "--export", path("plot.png")});
-    EXPECT_EQ(QImage(path("plot.png")).size(), QSize(300, 200)) << style;
+    const QImage picture(path("plot.png"));
+    EXPECT_EQ(picture.size(), QSize(300, 200)) << style;
+    // The reserved styles show a line of text alone.
+    EXPECT_GT(paintedPixels(picture), 100) << style;
     QFile::remove(path("plot.png"));
   }
 }
@@ -247,7 +285,7 @@ TEST_F(Program, NamesTheRunOfAnotherLength)
               csv + ": run \"2\" has 1 point, other runs have 2");
 }
 
-TEST_F(Program, LeavesAnOldFileWholeWhenItCannotWrite)
+TEST_F(Program, SaysWhereItCannotWrite)
 {
   const QString csv = write("runs.csv", sampleRuns());
   const Ended ended = run({csv, "--export", path("nowhere/plot.png")});
@@ -255,6 +293,22 @@ TEST_F(Program, LeavesAnOldFileWholeWhenItCannotWrite)
   EXPECT_TRUE(
       ended.errors.startsWith(("talmesh-plot: " + path("nowhere/plot.png") + ": ").toUtf8()));
   EXPECT_EQ(ended.errors.count('\n'), 1);
+}
+
+TEST_F(Program, LeavesAnOldFileWholeWhenItCannotWrite)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  for (const char* name : {"old.png", "old.pdf", "old.csv"})
+  {
+    const QString old = write(name, "an old file");
+    // The new one would be larger than any file may be, as on a full disk.
+    const Ended ended = run({csv, "--export", old}, 100);
+    EXPECT_FALSE(ended.crashed) << name;
+    EXPECT_EQ(ended.status, 1) << name;
+    EXPECT_TRUE(ended.errors.startsWith(("talmesh-plot: " + old + ": ").toUtf8()))
+        << ended.errors.toStdString();
+    EXPECT_EQ(contentOf(old), "an old file") << name;
+  }
 }
 
 TEST_F(Program, SaysThatThereIsNoDisplay)
