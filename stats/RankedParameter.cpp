@@ -16,6 +16,12 @@ bool lessWithNanLast(double a, double b)
   return std::isnan(b) ? !std::isnan(a) : a < b;
 }
 
+/// Equality that goes with that order.
+bool equalWithNan(double a, double b)
+{
+  return a == b || (std::isnan(a) && std::isnan(b));
+}
+
 void rankDegenerate(const ParameterSupport& support, RankedParameter& result)
 {
   const std::size_t positions = result.ranks.size();
@@ -76,7 +82,7 @@ std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValu
 std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt)
 {
   std::vector<double> values = thinnedValues(rows, 1, valueAt);
-  values.erase(std::unique(values.begin(), values.end()), values.end());
+  values.erase(std::unique(values.begin(), values.end(), equalWithNan), values.end());
   return values;
 }
 
