@@ -46,6 +46,17 @@ vtkSmartPointer<vtkDoubleArray> makeColumn(const std::string& name,
   return column;
 }
 
+vtkSmartPointer<vtkFloatArray> makeFloatColumn(const std::string& name,
+                                               const std::vector<double>& values)
+{
+  auto column = vtkSmartPointer<vtkFloatArray>::New();
+  column->SetName(name.c_str());
+  column->SetNumberOfValues(static_cast<vtkIdType>(values.size()));
+  std::transform(values.begin(), values.end(), column->GetPointer(0),
+                 [](double value) { return static_cast<float>(value); });
+  return column;
+}
+
 vtkDataArray* plottableColumn(vtkTable* table, int index)
 {
   return columnName(table, index).empty() ? nullptr
