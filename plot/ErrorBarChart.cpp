@@ -14,7 +14,6 @@
 #include <vtkAxis.h>
 #include <vtkFloatArray.h>
 #include <vtkObjectFactory.h>
-#include <vtkPen.h>
 
 namespace Talmesh::plot
 {

@@ -10,6 +10,14 @@
 namespace Talmesh::plot
 {
 
+namespace
+{
+
+/// Length of the type word and separator that head a parameter's column name, "Parameter: ".
+constexpr std::size_t parameterPrefixLength = 11;
+
+} // namespace
+
 vtkAbstractArray* columnAt(vtkTable* table, int index)
 {
   if (!table || index < 0 || index >= table->GetNumberOfColumns())

@@ -13,9 +13,6 @@ class vtkTable;
 namespace Talmesh::plot
 {
 
-/// Length of the type word and separator that head a parameter's column name, "Parameter: ".
-constexpr std::size_t parameterPrefixLength = 11;
-
 /// Column `index` of `table`; null for a null table or an index outside it.
 vtkAbstractArray* columnAt(vtkTable* table, int index);
 
