@@ -1,6 +1,7 @@
 #include "app/IndomethacinStudy.h"
 
-#include <vtkDoubleArray.h>
+#include "plot/TableColumns.h"
+
 #include <vtkTable.h>
 
 #include <cmath>
@@ -27,15 +28,6 @@ std::vector<double> decayResiduals(const std::vector<double>& parameters)
       residuals.push_back(subject[i] - prediction[i]);
   }
   return residuals;
-}
-
-void addColumn(vtkTable* table, const std::string& name, const std::vector<double>& values)
-{
-  vtkNew<vtkDoubleArray> column;
-  column->SetName(name.c_str());
-  for (const double value : values)
-    column->InsertNextValue(value);
-  table->AddColumn(column);
 }
 
 /// Standard deviation of the subjects at time `i`.
@@ -103,10 +95,10 @@ vtkSmartPointer<vtkTable> indomethacinFitTable()
       courses[i].push_back(step.parameters[i]);
   }
   auto table = vtkSmartPointer<vtkTable>::New();
-  addColumn(table, "Sum of squares", scores);
-  addColumn(table, "Iteration", iterations);
+  table->AddColumn(plot::makeColumn("Sum of squares", scores));
+  table->AddColumn(plot::makeColumn("Iteration", iterations));
   for (std::size_t i = 0; i < courses.size(); ++i)
-    addColumn(table, std::string("Parameter: ") + parameterNames[i], courses[i]);
+    table->AddColumn(plot::makeColumn(std::string("Parameter: ") + parameterNames[i], courses[i]));
   return table;
 }
 

@@ -1,6 +1,7 @@
 #include "app/PuromycinStudy.h"
 
 #include "app/LeastSquaresFit.h"
+#include "plot/TableColumns.h"
 
 #include <vtkFloatArray.h>
 #include <vtkTable.h>
@@ -36,11 +37,7 @@ vtkSmartPointer<vtkTable> floatTable(const std::vector<const char*>& names)
 {
   auto table = vtkSmartPointer<vtkTable>::New();
   for (const char* name : names)
-  {
-    vtkNew<vtkFloatArray> column;
-    column->SetName(name);
-    table->AddColumn(column);
-  }
+    table->AddColumn(plot::makeFloatColumn(name, {}));
   return table;
 }
 

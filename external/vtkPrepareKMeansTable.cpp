@@ -1,5 +1,7 @@
 #include "external/vtkPrepareKMeansTable.h"
 
+#include "external/PaddedName.h"
+
 #include <vtkDataArray.h>
 #include <vtkDoubleArray.h>
 #include <vtkInformation.h>
@@ -8,21 +10,7 @@
 #include <vtkObjectFactory.h>
 #include <vtkTable.h>
 
-#include <string>
-
 vtkStandardNewMacro(vtkPrepareKMeansTable);
-
-namespace
-{
-
-std::string paddedName(int position, int positions)
-{
-  const std::size_t width = std::to_string(positions - 1).size();
-  const std::string digits = std::to_string(position);
-  return std::string(width - digits.size(), '0') + digits;
-}
-
-} // namespace
 
 void vtkPrepareKMeansTable::PrintSelf(ostream& os, vtkIndent indent)
 {
@@ -48,7 +36,7 @@ int vtkPrepareKMeansTable::RequestData(vtkInformation*, vtkInformationVector** i
   for (int position = 0; position < this->Stride; ++position)
   {
     vtkNew<vtkDoubleArray> column;
-    column->SetName(paddedName(position, this->Stride).c_str());
+    column->SetName(Talmesh::paddedName(position, this->Stride).c_str());
     column->SetNumberOfValues(runs);
     for (vtkIdType run = 0; run < runs; ++run)
       column->SetValue(run, values->GetComponent(run * this->Stride + position, 0));

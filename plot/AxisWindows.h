@@ -11,6 +11,9 @@ namespace Talmesh::plot
 
 struct PlotState;
 
+/// Part of the x range that stays empty beyond either end of the data.
+constexpr double rangePadding = 0.05;
+
 /// Whether the axes of a remembered window were logarithmic. The limits of such an axis are
 /// recorded as decimal logarithms.
 struct WindowScales

@@ -31,7 +31,6 @@ constexpr vtkIdType longestEmptyList = 4096;
 
 constexpr double fullBrightness = 255.0;
 constexpr unsigned char curveAlpha = 180;
-constexpr float curveWidth = 4.0F;
 
 /// What is compared, in both layouts.
 struct Observations
@@ -110,13 +109,9 @@ void drawCurves(PlotState& state, vtkTable* curves)
   const int runs = static_cast<int>(state.clusterMembership->GetNumberOfTuples());
   for (int run = 0; run < runs; ++run)
   {
-    const PaletteColor& color =
-        paletteColor(static_cast<std::size_t>(state.clusterMembership->GetValue(run)));
-    const auto component = [&](std::size_t i)
-    { return static_cast<unsigned char>(color[i] * fullBrightness); };
+    const auto cluster = static_cast<std::size_t>(state.clusterMembership->GetValue(run));
     vtkPlot* plot = state.chartXY->AddPlot(vtkChart::LINE);
-    plot->SetColor(component(0), component(1), component(2), curveAlpha);
-    plot->SetWidth(curveWidth);
+    dressPaletteLine(plot, cluster, fullBrightness, curveAlpha);
     feedPlot(plot, curves, runs, run);
     makeUnselectable(plot);
   }

@@ -27,16 +27,12 @@ constexpr std::array<PaletteColor, 12> palette = {{{0.6, 0.9, 0.9, 1.0},
 /// Below 255, so that the lines stand out darker than the palette.
 constexpr double decorationBrightness = 200.0;
 constexpr unsigned char decorationAlpha = 230;
-constexpr float decorationWidth = 4.0F;
+constexpr float lineWidth = 4.0F;
 
 void addDecoration(PlotState& state, int line, int xColumn)
 {
-  const PaletteColor& color = paletteColor(static_cast<std::size_t>(line));
-  const auto component = [&](std::size_t i)
-  { return static_cast<unsigned char>(color[i] * decorationBrightness); };
   vtkPlot* plot = state.chartXY->AddPlot(vtkChart::LINE);
-  plot->SetColor(component(0), component(1), component(2), decorationAlpha);
-  plot->SetWidth(decorationWidth);
+  dressPaletteLine(plot, static_cast<std::size_t>(line), decorationBrightness, decorationAlpha);
   feedPlot(plot, state.decorationTable, xColumn, line);
   makeUnselectable(plot);
   state.decorationPlots.emplace_back(plot);
@@ -47,6 +43,15 @@ void addDecoration(PlotState& state, int line, int xColumn)
 const PaletteColor& paletteColor(std::size_t index)
 {
   return palette[index % palette.size()];
+}
+
+void dressPaletteLine(vtkPlot* plot, std::size_t index, double brightness, unsigned char alpha)
+{
+  const PaletteColor& color = paletteColor(index);
+  const auto component = [&](std::size_t i)
+  { return static_cast<unsigned char>(color[i] * brightness); };
+  plot->SetColor(component(0), component(1), component(2), alpha);
+  plot->SetWidth(lineWidth);
 }
 
 void removeDecorations(PlotState& state)

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+class vtkPlot;
+
 namespace Talmesh::plot
 {
 
@@ -14,6 +16,10 @@ using PaletteColor = std::array<double, 4>;
 
 /// Entry `index` modulo 12 of the palette of decorations and clusters.
 const PaletteColor& paletteColor(std::size_t index);
+
+/// Gives `plot` the colour of that entry, with `brightness`, up to 255, for a component of 1 and
+/// with `alpha` instead of the entry's own, and the width of the lines of decorations and clusters.
+void dressPaletteLine(vtkPlot* plot, std::size_t index, double brightness, unsigned char alpha);
 
 /// Removes the decoration lines drawn so far: not every drawing clears the chart that they went
 /// into.

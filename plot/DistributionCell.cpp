@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
+#include "plot/DerivedTables.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
@@ -30,29 +31,15 @@ using Color = std::array<double, 3>;
 constexpr std::array<Color, 3> dataSetColors = {
     {{1.0, 0.2, 0.0}, {0.05, 0.6, 0.9}, {0.05, 0.9, 0.6}}};
 
-/// A data set's rank table is followed by its density table.
-constexpr std::size_t ownRankSlot = 0;
-
-/// Rank-table slot of further data set k = 1, 2, ...: the data itself comes before it.
-std::size_t rankSlot(std::size_t dataSet)
-{
-  return 3 * dataSet;
-}
-
-vtkTable* tableInSlot(const PlotState& state, std::size_t slot)
-{
-  return slot < state.derivedTables.size() ? state.derivedTables[slot].Get() : nullptr;
-}
-
-/// Adds the curve of one data set. Without its columns, for example for a parameter that came after
-/// the last ranking, the curve is empty.
-vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t slot,
+/// Adds the curve of the data set with the ranks in slot `ranks`. Without its columns, for example
+/// for a parameter that came after the last ranking, the curve is empty.
+vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t ranks,
                   const std::string& label)
 {
   const bool density = state.metaData->getUseDensity();
-  vtkTable* table = tableInSlot(state, density ? slot + 1 : slot);
-  const std::string x = (density ? "Locations of " : "Sorted ") + label;
-  const std::string y = (density ? "Density of " : "Rank of ") + label;
+  vtkTable* table = tableInSlot(state.derivedTables, density ? densitySlotOf(ranks) : ranks);
+  const std::string x = (density ? locationsPrefix : sortedPrefix) + label;
+  const std::string y = (density ? densityPrefix : rankPrefix) + label;
   vtkSmartPointer<vtkPlot> plot;
   if (density)
     plot = vtkSmartPointer<vtkPlotLine>::New();
@@ -67,7 +54,8 @@ vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t slot,
 void addCurves(const PlotState& state, vtkChart* chart, const std::string& label)
 {
   addCurve(state, chart, ownRankSlot, label)->SetColor(0, 0, 0, 255);
-  for (std::size_t dataSet = 1; rankSlot(dataSet) + 1 < state.derivedTables.size(); ++dataSet)
+  const std::size_t slotCount = state.derivedTables.size();
+  for (std::size_t dataSet = 1; densitySlotOf(rankSlot(dataSet)) < slotCount; ++dataSet)
   {
     const Color& color = dataSetColors[(dataSet - 1) % dataSetColors.size()];
     addCurve(state, chart, rankSlot(dataSet), label)->SetColor(color[0], color[1], color[2]);

@@ -13,10 +13,10 @@
 #include "plot/Titles.h"
 
 #include <vtkAxis.h>
-#include <vtkFloatArray.h>
 #include <vtkPlot.h>
 
 #include <cmath>
+#include <vector>
 
 namespace Talmesh::plot
 {
@@ -28,43 +28,18 @@ constexpr int curvePoints = 50;
 /// Part of the density range that stays empty above the curve.
 constexpr double headroom = 1.05;
 
-class CurveWriter
+vtkSmartPointer<vtkTable> curveTable(const std::vector<double>& x, const std::vector<double>& pdf)
 {
-public:
-  CurveWriter()
-  {
-    x->SetName("x");
-    pdf->SetName("pdf");
-  }
-
-  void add(double position, double density)
-  {
-    x->InsertNextValue(static_cast<float>(position));
-    pdf->InsertNextValue(static_cast<float>(density));
-  }
-
-  vtkSmartPointer<vtkTable> table() const
-  {
-    auto result = vtkSmartPointer<vtkTable>::New();
-    result->AddColumn(x);
-    result->AddColumn(pdf);
-    return result;
-  }
-
-private:
-  vtkNew<vtkFloatArray> x;
-  vtkNew<vtkFloatArray> pdf;
-};
+  auto table = vtkSmartPointer<vtkTable>::New();
+  table->AddColumn(makeFloatColumn("x", x));
+  table->AddColumn(makeFloatColumn("pdf", pdf));
+  return table;
+}
 
 vtkSmartPointer<vtkTable> spike(double value)
 {
-  CurveWriter writer;
-  writer.add(0.5 * value, 0.0);
-  writer.add(0.98 * value, 0.0);
-  writer.add(value, 1.0);
-  writer.add(value / 0.98, 0.0);
-  writer.add(2.0 * value, 0.0);
-  return writer.table();
+  return curveTable({0.5 * value, 0.98 * value, value, value / 0.98, 2.0 * value},
+                    {0.0, 0.0, 1.0, 0.0, 0.0});
 }
 
 int labelDecimals(double width)
@@ -107,17 +82,19 @@ DensityCurve densityCurve(const Distribution& distribution)
     curve.table = spike(low);
     return curve;
   }
-  CurveWriter writer;
+  std::vector<double> xs;
+  std::vector<double> densities;
   const double step = (high - low) / (curvePoints - 1);
   for (int i = 0; i < curvePoints; ++i)
   {
     const double x = i * step + low;
     const double density = distribution.density(x);
-    writer.add(x, density);
+    xs.push_back(x);
+    densities.push_back(density);
     if (std::isfinite(density) && density > curve.maximum)
       curve.maximum = density;
   }
-  curve.table = writer.table();
+  curve.table = curveTable(xs, densities);
   return curve;
 }
 

@@ -14,16 +14,12 @@
 #include <vtkAxis.h>
 #include <vtkFloatArray.h>
 #include <vtkObjectFactory.h>
-#include <vtkPen.h>
 
 namespace Talmesh::plot
 {
 
 namespace
 {
-
-/// Part of the x range that stays empty beyond either end of the data.
-constexpr float rangePadding = 0.05F;
 
 /// Donates the reference that the base's destructor releases. It does so at the last moment, when
 /// it is known which column, if any, the item ended with.
@@ -71,7 +67,7 @@ void padBottomAxis(PlotState& state)
     return;
   const float low = static_cast<float>(range[0]);
   const float high = static_cast<float>(range[1]);
-  const float padding = rangePadding * (high - low);
+  const float padding = static_cast<float>(rangePadding) * (high - low);
   setDataRange(state.chartXY->GetAxis(vtkAxis::BOTTOM), low - padding, high + padding);
 }
 

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/Margins.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
@@ -48,26 +49,17 @@ vtkSmartPointer<vtkScalarsToColors> scoreColors(const PlotState& state)
 void addPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
 {
   auto* points = vtkPlotPoints::SafeDownCast(chart->AddPlot(vtkChart::POINTS));
-  const bool fed = feedPlot(points, state.table, xColumn, yColumn);
-  if (!fed || !state.pointColors)
-    return;
-  points->SetScalarVisibility(true);
-  points->SetLookupTable(state.pointColors);
-  points->SelectColorArray(columnName(state.table, scoreColumn));
+  if (feedPlot(points, state.table, xColumn, yColumn) && state.pointColors)
+    colorPoints(points, columnName(state.table, scoreColumn), state.pointColors);
 }
 
-void drawPair(PlotState& state, const std::vector<std::string>& titles, int i, int j)
+void drawPair(PlotState& state, const std::vector<std::string>& titles, const ParameterPair& pair)
 {
   const std::vector<int>& columns = state.metaData->parameterColumns;
-  const auto x = static_cast<std::size_t>(i);
-  const auto y = columns.size() - 1 - static_cast<std::size_t>(j);
-  vtkChart* chart = state.chartMatrix->GetChart(vtkVector2i(i, j));
-  state.chartMatrix->SetChartSpan(vtkVector2i(i, j), vtkVector2i(1, 1));
-  enableSelection(state, chart);
+  vtkChart* chart = pairCell(state, pair);
   disablePanAndZoom(chart);
-  addPoints(state, chart, columns[x], columns[y]);
-  dressParameterAxis(state, chart, vtkAxis::BOTTOM, titles[x], j == 0);
-  dressParameterAxis(state, chart, vtkAxis::LEFT, titles[y], i == 0);
+  addPoints(state, chart, columns[pair.x], columns[pair.y]);
+  dressPairAxes(state, chart, pair, titles);
 }
 
 /// The axes of a diagonal chart are labelled, but only the first and last have a margin for that.
@@ -100,16 +92,9 @@ void drawFitParameterPage(PlotState& state, vtkContextScene* scene)
   const int parameters = static_cast<int>(titles.size());
   showChart(state, state.chartMatrix, scene);
   resetChartMatrix(state, parameters, parameters);
-  state.chartMatrix->SetGutter(vtkVector2f(static_cast<float>(state.verticalGutter),
-                                           static_cast<float>(state.horizontalGutter)));
-  state.chartMatrix->SetBorders(state.leftMargin, state.bottomMargin, state.rightMargin,
-                                state.topMargin);
+  applyTurnedBorders(state, state.chartMatrix);
   state.pointColors = scoreColors(state);
-  for (int i = 0; i < parameters - 1; ++i)
-  {
-    for (int j = 0; j < parameters - 1 - i; ++j)
-      drawPair(state, titles, i, j);
-  }
+  forEachPair(titles.size(), [&](const ParameterPair& pair) { drawPair(state, titles, pair); });
   for (int m = 0; m < parameters; ++m)
     drawCourse(state, titles, m);
   addToSceneItems(state);

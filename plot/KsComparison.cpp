@@ -1,6 +1,7 @@
 #include "plot/KsComparison.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/DerivedTables.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
@@ -11,11 +12,6 @@ namespace Talmesh::plot
 
 namespace
 {
-
-vtkTable* slotTable(const PlotState& state, std::size_t slot)
-{
-  return slot < state.derivedTables.size() ? state.derivedTables[slot].Get() : nullptr;
-}
 
 struct Sample
 {
@@ -45,8 +41,8 @@ constexpr KsStatistics resultOfEmptySamples = {1.0, 0.0};
 void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t second)
 {
   state.ksResults.clear();
-  vtkTable* selected = slotTable(state, first);
-  vtkTable* others = slotTable(state, second);
+  vtkTable* selected = tableInSlot(state.derivedTables, first);
+  vtkTable* others = tableInSlot(state.derivedTables, second);
   if (!selected || !others)
     return;
   const int parameters = static_cast<int>(selected->GetNumberOfColumns()) / 2;
@@ -59,8 +55,8 @@ void alignResults(PlotState& state, std::size_t first)
   std::vector<KsStatistics> aligned;
   for (std::size_t k = 0; k < state.metaData->parameterColumns.size(); ++k)
   {
-    const std::string sorted = "Sorted " + parameterLabel(state, k);
-    const int column = columnIndex(slotTable(state, first), sorted);
+    const std::string sorted = sortedPrefix + parameterLabel(state, k);
+    const int column = columnIndex(tableInSlot(state.derivedTables, first), sorted);
     const auto pair = static_cast<std::size_t>(column / 2);
     const bool tested = column >= 0 && pair < state.ksResults.size();
     aligned.push_back(tested ? state.ksResults[pair] : resultOfEmptySamples);

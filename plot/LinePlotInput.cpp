@@ -2,6 +2,7 @@
 
 #include "external/LinePlotData.h"
 #include "external/PlotMetaData.h"
+#include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
 #include "plot/SelectionBounds.h"
@@ -11,8 +12,6 @@
 
 #include <vtkColorSeries.h>
 #include <vtkPlot.h>
-
-#include <string>
 
 namespace Talmesh::plot
 {
@@ -61,14 +60,13 @@ void drawLinePlotItems(PlotState& state, const std::vector<Talmesh::TypedConcent
   state.chartXY->ClearPlots();
   vtkNew<vtkColorSeries> colors;
   colors->SetColorScheme(vtkColorSeries::WILD_FLOWER);
-  const std::string xName = columnName(state.table, firstOf(state.metaData->xColumns));
+  const int x =
+      columnIndex(state.table, columnName(state.table, firstOf(state.metaData->xColumns)));
   for (std::size_t i = 0; i < items.size(); ++i)
   {
-    const std::string yName = Talmesh::selectionPairToString(items[i]);
+    const int y = columnIndex(state.table, Talmesh::selectionPairToString(items[i]));
     vtkPlot* plot = state.chartXY->AddPlot(vtkChart::LINE);
-    if (vtkDataArray::SafeDownCast(columnNamed(state.table, xName)) &&
-        vtkDataArray::SafeDownCast(columnNamed(state.table, yName)))
-      plot->SetInputData(state.table, xName, yName);
+    feedPlot(plot, state.table, x, y);
     const vtkColor3ub color = colors->GetColorRepeating(static_cast<int>(i));
     plot->SetColor(color[0], color[1], color[2], 255);
   }

@@ -11,12 +11,16 @@ namespace
 
 constexpr int headingHeight = 25; ///< pixels
 
-void applyMatrixBorders(PlotState& state, int heading)
+/// @param betweenColumns width of the gutter between columns
+/// @param betweenRows height of the gutter between rows
+/// @param heading height that every chart needs above it besides
+void applyMatrixBorders(const PlotState& state, vtkChartMatrix* matrix, int betweenColumns,
+                        int betweenRows, int heading)
 {
-  state.chartMatrix->SetGutter(vtkVector2f(static_cast<float>(state.horizontalGutter),
-                                           static_cast<float>(state.verticalGutter + heading)));
-  state.chartMatrix->SetBorders(state.leftMargin, state.bottomMargin, state.rightMargin,
-                                state.topMargin + heading);
+  matrix->SetGutter(
+      vtkVector2f(static_cast<float>(betweenColumns), static_cast<float>(betweenRows + heading)));
+  matrix->SetBorders(state.leftMargin, state.bottomMargin, state.rightMargin,
+                     state.topMargin + heading);
 }
 
 } // namespace
@@ -48,12 +52,18 @@ void applyXYBorders(PlotState& state)
 
 void applyMultiPlotBorders(PlotState& state)
 {
-  applyMatrixBorders(state, 0);
+  applyMatrixBorders(state, state.chartMatrix, state.horizontalGutter, state.verticalGutter, 0);
 }
 
 void applySelectionPageBorders(PlotState& state)
 {
-  applyMatrixBorders(state, headingHeight);
+  applyMatrixBorders(state, state.chartMatrix, state.horizontalGutter, state.verticalGutter,
+                     headingHeight);
+}
+
+void applyTurnedBorders(const PlotState& state, vtkChartMatrix* matrix)
+{
+  applyMatrixBorders(state, matrix, state.verticalGutter, state.horizontalGutter, 0);
 }
 
 } // namespace Talmesh::plot

@@ -1,6 +1,8 @@
 #ifndef Margins_h
 #define Margins_h
 
+class vtkChartMatrix;
+
 namespace Talmesh::plot
 {
 
@@ -19,6 +21,11 @@ void applyMultiPlotBorders(PlotState& state);
 /// Applies gutter and borders to the chart matrix of the selection page, with room for the heading
 /// of every chart.
 void applySelectionPageBorders(PlotState& state);
+
+/// Applies gutter and borders to the matrix of every column against every other or of the fit's
+/// parameters, which take the gutters the other way round than the pages above. Clients that gave
+/// the two different widths would find their charts moved if they agreed.
+void applyTurnedBorders(const PlotState& state, vtkChartMatrix* matrix);
 
 } // namespace Talmesh::plot
 

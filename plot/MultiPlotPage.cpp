@@ -1,6 +1,7 @@
 #include "plot/MultiPlotPage.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
 #include "plot/Margins.h"
 #include "plot/ParameterCells.h"
@@ -22,8 +23,6 @@ namespace
 
 using Titles = std::vector<std::string>;
 
-constexpr double rangePadding = 0.05;
-
 void addBlackPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
 {
   vtkPlot* plot = chart->AddPlot(vtkChart::POINTS);
@@ -31,19 +30,12 @@ void addBlackPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
   feedPlot(plot, state.table, xColumn, yColumn);
 }
 
-/// Rows count from the bottom and run through the parameters backwards.
-void drawPair(PlotState& state, const Titles& titles, int column, int row)
+void drawPair(PlotState& state, const Titles& titles, const ParameterPair& pair)
 {
-  const std::vector<int>& parameters = state.metaData->parameterColumns;
-  const auto x = static_cast<std::size_t>(column);
-  const auto y = parameters.size() - 1 - static_cast<std::size_t>(row);
-  const vtkVector2i cell(column, row);
-  state.chartMatrix->SetChartSpan(cell, vtkVector2i(1, 1));
-  vtkChart* chart = state.chartMatrix->GetChart(cell);
-  enableSelection(state, chart);
-  addBlackPoints(state, chart, parameters[x], parameters[y]);
-  dressParameterAxis(state, chart, vtkAxis::BOTTOM, titles[x], row == 0);
-  dressParameterAxis(state, chart, vtkAxis::LEFT, titles[y], column == 0);
+  const std::vector<int>& columns = state.metaData->parameterColumns;
+  vtkChart* chart = pairCell(state, pair);
+  addBlackPoints(state, chart, columns[pair.x], columns[pair.y]);
+  dressPairAxes(state, chart, pair, titles);
 }
 
 /// The axis stays automatic, so that the range ends at the first paint. Limits that are not finite
@@ -93,11 +85,7 @@ void drawMultiPlotPage(PlotState& state, vtkContextScene* scene)
   showChart(state, state.chartMatrix, scene);
   resetChartMatrix(state, n, n);
   applyMultiPlotBorders(state);
-  for (int column = 0; column < n - 1; ++column)
-  {
-    for (int row = 0; row < n - 1 - column; ++row)
-      drawPair(state, titles, column, row);
-  }
+  forEachPair(titles.size(), [&](const ParameterPair& pair) { drawPair(state, titles, pair); });
   if (n > 0)
     drawMainChart(state, n);
 }

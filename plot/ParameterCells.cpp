@@ -34,6 +34,31 @@ std::vector<std::string> parameterTitles(const PlotState& state)
   return titles;
 }
 
+void forEachPair(std::size_t parameters, const std::function<void(const ParameterPair&)>& visit)
+{
+  for (std::size_t column = 0; column + 1 < parameters; ++column)
+  {
+    for (std::size_t row = 0; row + column + 1 < parameters; ++row)
+      visit({static_cast<int>(column), static_cast<int>(row), column, parameters - 1 - row});
+  }
+}
+
+vtkChart* pairCell(PlotState& state, const ParameterPair& pair)
+{
+  const vtkVector2i cell(pair.column, pair.row);
+  state.chartMatrix->SetChartSpan(cell, vtkVector2i(1, 1));
+  vtkChart* chart = state.chartMatrix->GetChart(cell);
+  enableSelection(state, chart);
+  return chart;
+}
+
+void dressPairAxes(const PlotState& state, vtkChart* chart, const ParameterPair& pair,
+                   const std::vector<std::string>& titles)
+{
+  dressParameterAxis(state, chart, vtkAxis::BOTTOM, titles[pair.x], pair.row == 0);
+  dressParameterAxis(state, chart, vtkAxis::LEFT, titles[pair.y], pair.column == 0);
+}
+
 void disablePanAndZoom(vtkChart* chart)
 {
   chart->SetActionToButton(vtkChart::PAN, neverPressed);

@@ -2,6 +2,7 @@
 #define ParameterCells_h
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,28 @@ std::string parameterTitle(const PlotState& state, std::size_t parameter);
 /// The titles of all parameters.
 /// @throws std::out_of_range as above
 std::vector<std::string> parameterTitles(const PlotState& state);
+
+/// Two parameters and the cell in which a page that shows every pair once shows them: one of the
+/// triangle below the diagonal, where rows count from the bottom and run through the parameters
+/// backwards.
+struct ParameterPair
+{
+  int column;
+  int row;
+  std::size_t x; ///< positions in the settings' list
+  std::size_t y;
+};
+
+/// Visits the pairs of `parameters` parameters, column by column from the bottom.
+void forEachPair(std::size_t parameters, const std::function<void(const ParameterPair&)>& visit);
+
+/// The chart of a pair in the chart matrix, which spans its cell only and shares the selection.
+vtkChart* pairCell(PlotState& state, const ParameterPair& pair);
+
+/// Dresses both axes of a pair's chart. The page's lower and left edge have the titles, one per
+/// parameter.
+void dressPairAxes(const PlotState& state, vtkChart* chart, const ParameterPair& pair,
+                   const std::vector<std::string>& titles);
 
 /// Takes panning and zooming off the chart's mouse buttons.
 void disablePanAndZoom(vtkChart* chart);

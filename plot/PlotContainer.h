@@ -57,7 +57,8 @@ public:
   explicit PlotContainer(QObject* parent);
   /// An independent container with a deep copy of the data, the settings, the remembered axis
   /// windows and the selection; derived results are not copied. It has no parallel-coordinates
-  /// chart and cannot draw style 9.
+  /// chart and cannot draw style 9. The copy draws itself once without a scene, with what that
+  /// means for redraw().
   PlotContainer(const PlotContainer& other);
   PlotContainer& operator=(const PlotContainer&) = delete;
   ~PlotContainer() override;
@@ -269,7 +270,8 @@ public:
   void readDump(QByteArray* data);
   /// @}
 
-  /// The whole state, for builders and callbacks. Not part of the stable interface.
+  /// All that the container knows. The builders, the callbacks and the viewer write it as well as
+  /// read it; its fields may change from one version to the next.
   Talmesh::plot::PlotState& state() { return *d; }
   const Talmesh::plot::PlotState& state() const { return *d; }
 
@@ -290,6 +292,8 @@ public slots:
   void setShowLegend(bool legend);
   /// Builds the chart of the current style. Started by the settings' signal it reports an exception
   /// in one line on standard error; called directly it throws what the style's builder throws.
+  /// Without a scene it writes one line to standard output and leaves the settings silenced, so
+  /// that they announce nothing until a redraw within a scene.
   void redraw();
   /// Asks the scene, if any, to paint again.
   void dirty();

@@ -1,8 +1,6 @@
-#include "plot/ColumnReduction.h"
+#include "plot/FitParameterPage.h"
 #include "plot/MultiPlotPage.h"
 #include "plot/PlotContainer.h"
-#include "plot/PlotState.h"
-#include "plot/SelectionFlags.h"
 #include "plot/SelectionPage.h"
 
 void PlotContainer::drawMulitPlot(vtkContextScene* scene)
@@ -15,9 +13,7 @@ void PlotContainer::drawSelectionCdfPlot(vtkContextScene* scene)
   Talmesh::plot::drawSelectionPage(*d, scene);
 }
 
-void PlotContainer::shrinkToColumnSelection()
+void PlotContainer::drawFitParameterDistributionPlot(vtkContextScene* scene)
 {
-  Talmesh::plot::reduceToUsedColumns(*d);
-  if (vtkSmartPointer<vtkIntArray> flags = Talmesh::plot::selectionFlags(*d))
-    Talmesh::plot::appendFlagColumn(*d, flags);
+  Talmesh::plot::drawFitParameterPage(*d, scene);
 }

@@ -1,11 +1,12 @@
 #include "plot/Clustering.h"
+#include "plot/ColumnReduction.h"
 #include "plot/ColumnScaling.h"
-#include "plot/FitParameterPage.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/Quartiles.h"
 #include "plot/RankedTables.h"
+#include "plot/SelectionFlags.h"
 
 void PlotContainer::generateRankedParameters(vtkSmartPointer<vtkTable> source,
                                              std::size_t tableIndex)
@@ -49,7 +50,9 @@ void PlotContainer::scaleColumnByColumn(int column, int byColumn, bool divide)
   Talmesh::plot::scaleColumnByColumn(*d, column, byColumn, divide);
 }
 
-void PlotContainer::drawFitParameterDistributionPlot(vtkContextScene* scene)
+void PlotContainer::shrinkToColumnSelection()
 {
-  Talmesh::plot::drawFitParameterPage(*d, scene);
+  Talmesh::plot::reduceToUsedColumns(*d);
+  if (vtkSmartPointer<vtkIntArray> flags = Talmesh::plot::selectionFlags(*d))
+    Talmesh::plot::appendFlagColumn(*d, flags);
 }

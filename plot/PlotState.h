@@ -31,7 +31,6 @@
 #include <boost/unordered_map.hpp>
 
 #include <optional>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -89,6 +88,7 @@ struct PlotState
   /// Custom labels of the bottom axis and, in units of x, where they stand.
   vtkSmartPointer<vtkStringArray> xTickLabels;
   vtkSmartPointer<vtkDoubleArray> xTickPositions;
+  /// The row filter that a container makes for itself, a copy too. No operation reads it.
   vtkSmartPointer<vtkExtractSelectedRows> extractSelectedRows;
   /// The selection of table rows that all charts share, never null.
   vtkSmartPointer<vtkAnnotationLink> annotationLink;

@@ -1,6 +1,7 @@
 #include "plot/PointAppearance.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
@@ -54,15 +55,12 @@ void colorByColumn(PlotState& state, vtkPlotPoints* points)
 /// The pair plots below the anti-diagonal, then the main chart.
 void setMultiPlotMarkerSize(PlotState& state, double size)
 {
-  const int n = static_cast<int>(state.metaData->parameterColumns.size());
+  const std::size_t parameters = state.metaData->parameterColumns.size();
   const auto resize = [&](int column, int row)
   { setMarkerSize(firstPlot(state.chartMatrix->GetChart(vtkVector2i(column, row))), size); };
-  for (int i = 0; i < n - 1; ++i)
-  {
-    for (int j = 0; j < n - 1 - i; ++j)
-      resize(i, j);
-  }
-  resize(n / 2, n / 2);
+  forEachPair(parameters, [&](const ParameterPair& pair) { resize(pair.column, pair.row); });
+  const int middle = static_cast<int>(parameters / 2);
+  resize(middle, middle);
 }
 
 } // namespace

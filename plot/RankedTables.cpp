@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "external/UnivariateDensityDerivative.h"
+#include "plot/DerivedTables.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
@@ -143,19 +144,20 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
                               std::size_t tableIndex)
 {
   const Names labels = parameterLabels(state);
-  Lists lists = parameterValues(state, source, tableIndex == 0, labels);
+  Lists lists = parameterValues(state, source, tableIndex == ownRankSlot, labels);
   const bool anyList =
       std::any_of(lists.begin(), lists.end(), [](const auto& list) { return list.has_value(); });
 
-  if (state.derivedTables.size() < tableIndex + 2)
-    state.derivedTables.resize(tableIndex + 2);
+  const std::size_t densityIndex = densitySlotOf(tableIndex);
+  if (state.derivedTables.size() <= densityIndex)
+    state.derivedTables.resize(densityIndex + 1);
   vtkSmartPointer<vtkTable>& ranks = state.derivedTables[tableIndex];
-  vtkSmartPointer<vtkTable>& densities = state.derivedTables[tableIndex + 1];
-  Names rankNames = prefixed("Rank of ", labels);
-  const Names sortedNames = prefixed("Sorted ", labels);
+  vtkSmartPointer<vtkTable>& densities = state.derivedTables[densityIndex];
+  Names rankNames = prefixed(rankPrefix, labels);
+  const Names sortedNames = prefixed(sortedPrefix, labels);
   rankNames.insert(rankNames.end(), sortedNames.begin(), sortedNames.end());
   emptySlot(ranks, rankNames, {});
-  emptySlot(densities, prefixed("Density of ", labels), prefixed("Locations of ", labels));
+  emptySlot(densities, prefixed(densityPrefix, labels), prefixed(locationsPrefix, labels));
 
   stats::RankedParameters ranked =
       stats::rankParameters(std::move(lists), state.parameterBounds, estimateKernelDensity);
@@ -168,10 +170,10 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
     stats::RankedParameter& parameter = *ranked.parameters[k];
     if (parameter.valueCount != ranked.positions)
       reportLength(parameter.valueCount, ranked.positions);
-    addColumn(ranks, "Rank of " + labels[k], parameter.ranks);
-    addColumn(ranks, "Sorted " + labels[k], parameter.sortedValues);
-    addColumn(densities, "Density of " + labels[k], parameter.densities);
-    addColumn(densities, "Locations of " + labels[k], parameter.locations);
+    addColumn(ranks, rankPrefix + labels[k], parameter.ranks);
+    addColumn(ranks, sortedPrefix + labels[k], parameter.sortedValues);
+    addColumn(densities, densityPrefix + labels[k], parameter.densities);
+    addColumn(densities, locationsPrefix + labels[k], parameter.locations);
   }
   if (source == state.table)
   {
@@ -183,8 +185,9 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
 bool hasOwnRanks(const PlotState& state)
 {
   const auto& tables = state.derivedTables;
-  return tables.size() > 1 && holdsOnlyPrefixed(tables[0], "Rank of ", "Sorted ") &&
-         holdsOnlyPrefixed(tables[1], "Density of ", "Locations of ");
+  return holdsOnlyPrefixed(tableInSlot(tables, ownRankSlot), rankPrefix, sortedPrefix) &&
+         holdsOnlyPrefixed(tableInSlot(tables, densitySlotOf(ownRankSlot)), densityPrefix,
+                           locationsPrefix);
 }
 
 void dropOutdatedRanks(PlotState& state)

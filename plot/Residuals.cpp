@@ -9,10 +9,10 @@
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/SelectionBounds.h"
+#include "plot/TableColumns.h"
 #include "plot/Titles.h"
 
 #include <vtkAxis.h>
-#include <vtkFloatArray.h>
 #include <vtkPlotPoints.h>
 
 #include <algorithm>
@@ -50,11 +50,9 @@ public:
 
   void add(const std::string& name, const std::vector<double>& values) const
   {
-    vtkNew<vtkFloatArray> column;
-    column->SetName(name.c_str());
-    for (std::size_t i = 0; i < rows; ++i)
-      column->InsertNextValue(static_cast<float>(valueAt(values, i)));
-    table->AddColumn(column);
+    std::vector<double> filled = values;
+    filled.resize(rows, std::numeric_limits<double>::quiet_NaN());
+    table->AddColumn(makeFloatColumn(name, filled));
   }
 
 private:

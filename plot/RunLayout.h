@@ -16,8 +16,6 @@ struct RunLayout
   vtkIdType runs() const { return stride < 1 ? 0 : rows / stride; }
   /// First row of run `run`.
   vtkIdType firstRow(vtkIdType run) const { return run * stride; }
-  /// Run of row `row`; the stride must be at least 1.
-  vtkIdType runOf(vtkIdType row) const { return row / stride; }
 };
 
 } // namespace Talmesh::plot

@@ -1,13 +1,13 @@
 #include "plot/RunSelection.h"
 
 #include "external/PlotMetaData.h"
-#include "external/TypedConcentrationName.h"
 #include "plot/PlotState.h"
 #include "plot/RunCursor.h"
 #include "plot/RunLayout.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
+#include "plot/TypedColumns.h"
 #include "vtk/CombinedSelection.h"
 #include "vtk/SelectionColumns.h"
 
@@ -37,8 +37,7 @@ int indexColumn(vtkTable* table)
 
 vtkDoubleArray* runsOfRows(vtkTable* table)
 {
-  const std::string name = Talmesh::selectionPairToString({Talmesh::TimeOrValue, "Run Index"});
-  return vtkDoubleArray::SafeDownCast(columnNamed(table, name));
+  return vtkDoubleArray::SafeDownCast(columnNamed(table, runIndexLabel));
 }
 
 vtkIdTypeArray* acceptedRows(const PlotState& state)

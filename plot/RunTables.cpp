@@ -1,5 +1,6 @@
 #include "plot/RunTables.h"
 
+#include "external/PaddedName.h"
 #include "external/PlotMetaData.h"
 #include "external/vtkPrepareKMeansTable.h"
 #include "plot/PlotState.h"
@@ -11,17 +12,6 @@
 
 namespace Talmesh::plot
 {
-
-namespace
-{
-
-std::string paddedName(vtkIdType position, vtkIdType positions)
-{
-  const std::string digits = std::to_string(position);
-  return std::string(std::to_string(positions - 1).size() - digits.size(), '0') + digits;
-}
-
-} // namespace
 
 vtkSmartPointer<vtkTable> runsByRow(const PlotState& state)
 {

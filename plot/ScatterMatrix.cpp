@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/Margins.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 
@@ -98,10 +99,7 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   if (state.metaData->getLimitColumVisibility())
     activatePair(state, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
 
-  state.scatterPlotMatrix->SetGutter(vtkVector2f(static_cast<float>(state.verticalGutter),
-                                                 static_cast<float>(state.horizontalGutter)));
-  state.scatterPlotMatrix->SetBorders(state.leftMargin, state.bottomMargin, state.rightMargin,
-                                      state.topMargin);
+  applyTurnedBorders(state, state.scatterPlotMatrix);
 }
 
 void feedScatterMatrixFrom(PlotState& state, vtkTable* copy)

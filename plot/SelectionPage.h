@@ -20,8 +20,7 @@ struct PlotState;
 /// in them, for example additional data that came before the first ranking, is replaced.
 /// @param scene may be null: the page is then built without becoming an item
 /// @throws std::out_of_range for a parameter that would be shown and whose column has a name
-/// shorter
-///   than 11 characters, before any chart or item changes
+///   shorter than 11 characters, before any chart or item changes
 void drawSelectionPage(PlotState& state, vtkContextScene* scene);
 
 } // namespace Talmesh::plot

@@ -5,7 +5,6 @@
 #include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
 
-#include <vtkFloatArray.h>
 #include <vtkMath.h>
 
 #include <cmath>
@@ -17,15 +16,6 @@ namespace
 {
 
 constexpr int exampleRows = 400;
-
-void addColumn(vtkTable* table, const char* name, const std::vector<double>& values)
-{
-  vtkNew<vtkFloatArray> column;
-  column->SetName(name);
-  for (const double value : values)
-    column->InsertNextValue(static_cast<float>(value));
-  table->AddColumn(column);
-}
 
 } // namespace
 
@@ -46,9 +36,9 @@ vtkSmartPointer<vtkTable> exampleTable()
     zs.push_back(z);
   }
   auto table = vtkSmartPointer<vtkTable>::New();
-  addColumn(table, "x", xs);
-  addColumn(table, "y", ys);
-  addColumn(table, "z", zs);
+  table->AddColumn(makeFloatColumn("x", xs));
+  table->AddColumn(makeFloatColumn("y", ys));
+  table->AddColumn(makeFloatColumn("z", zs));
   return table;
 }
 
@@ -63,10 +53,10 @@ bool setSimpleTable(PlotState& state, const std::vector<double>& x, const std::v
     return false;
   }
   const bool withError = error.size() == x.size();
-  addColumn(state.table, "x", x);
-  addColumn(state.table, "y", y);
+  state.table->AddColumn(makeFloatColumn("x", x));
+  state.table->AddColumn(makeFloatColumn("y", y));
   if (withError)
-    addColumn(state.table, "error", error);
+    state.table->AddColumn(makeFloatColumn("error", error));
   state.metaData->setPlotStyle(withError ? scatterWithErrorBars : xyPlot);
   setFirst(state.metaData->zColumns, withError ? 2 : 0);
   setFirst(state.metaData->xColumns, 0);

@@ -1,8 +1,8 @@
 #include "plot/SobolTables.h"
 
 #include "external/SobolPostProcessResult.h"
+#include "plot/TableColumns.h"
 
-#include <vtkFloatArray.h>
 #include <vtkStringArray.h>
 #include <vtkTable.h>
 
@@ -29,10 +29,9 @@ std::vector<Value> contents(const std::shared_ptr<std::vector<Value>>& values)
 }
 
 /// Estimates of indices may fall below 0, which an index cannot. The comparison keeps NaN.
-float clamped(double value)
+double clamped(double value)
 {
-  const float single = static_cast<float>(value);
-  return single < 0.0F ? 0.0F : single;
+  return value < 0.0 ? 0.0 : value;
 }
 
 class Slice
@@ -43,24 +42,17 @@ public:
   {
   }
 
-  float at(std::size_t output, std::size_t timePoint, std::size_t parameter) const
+  double at(std::size_t output, std::size_t timePoint, std::size_t parameter) const
   {
     constexpr double missing = std::numeric_limits<double>::quiet_NaN();
     if (!indices || output >= indices->size() || timePoint >= (*indices)[output].size())
-      return static_cast<float>(missing);
+      return missing;
     return clamped(entry((*indices)[output][timePoint], parameter, missing));
   }
 
 private:
   const SobolPostProcessResult::Indices* indices;
 };
-
-vtkSmartPointer<vtkFloatArray> floatColumn(const std::string& name)
-{
-  auto column = vtkSmartPointer<vtkFloatArray>::New();
-  column->SetName(name.c_str());
-  return column;
-}
 
 std::vector<std::size_t> shownOutputs(const SobolPostProcessResult& result)
 {
@@ -89,15 +81,12 @@ vtkSmartPointer<vtkTable> sobolTimeSeriesTable(const SobolPostProcessResult& res
   const std::vector<double> times = contents(result.timePoints);
   for (std::size_t p = 0; p < result.parameterValues.size(); ++p)
   {
-    const auto column = floatColumn(entry(result.parameterNames, p));
+    std::vector<double> values;
     for (std::size_t t = 0; t < times.size(); ++t)
-      column->InsertNextValue(slice.at(output, t, p));
-    table->AddColumn(column);
+      values.push_back(slice.at(output, t, p));
+    table->AddColumn(makeFloatColumn(entry(result.parameterNames, p), values));
   }
-  const auto time = floatColumn("Time");
-  for (const double value : times)
-    time->InsertNextValue(static_cast<float>(value));
-  table->AddColumn(time);
+  table->AddColumn(makeFloatColumn("Time", times));
   return table;
 }
 
@@ -109,10 +98,10 @@ vtkSmartPointer<vtkTable> sobolTimePointTable(const SobolPostProcessResult& resu
   const std::vector<std::size_t> outputs = shownOutputs(result);
   for (std::size_t p = 0; p < result.parameterValues.size(); ++p)
   {
-    const auto column = floatColumn(entry(result.parameterNames, p));
+    std::vector<double> values;
     for (const std::size_t output : outputs)
-      column->InsertNextValue(slice.at(output, timePoint, p));
-    table->AddColumn(column);
+      values.push_back(slice.at(output, timePoint, p));
+    table->AddColumn(makeFloatColumn(entry(result.parameterNames, p), values));
   }
   vtkNew<vtkStringArray> names;
   names->SetName("Name");

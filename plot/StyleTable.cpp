@@ -10,8 +10,6 @@
 #include "plot/SelectionPage.h"
 #include "plot/XYChart.h"
 
-#include <cstddef>
-
 namespace Talmesh::plot
 {
 

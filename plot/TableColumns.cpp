@@ -10,6 +10,14 @@
 namespace Talmesh::plot
 {
 
+namespace
+{
+
+/// Length of the type word and separator that head a parameter's column name, "Parameter: ".
+constexpr std::size_t parameterPrefixLength = 11;
+
+} // namespace
+
 vtkAbstractArray* columnAt(vtkTable* table, int index)
 {
   if (!table || index < 0 || index >= table->GetNumberOfColumns())
@@ -43,6 +51,17 @@ vtkSmartPointer<vtkDoubleArray> makeColumn(const std::string& name,
   column->SetName(name.c_str());
   column->SetNumberOfValues(static_cast<vtkIdType>(values.size()));
   std::copy(values.begin(), values.end(), column->GetPointer(0));
+  return column;
+}
+
+vtkSmartPointer<vtkFloatArray> makeFloatColumn(const std::string& name,
+                                               const std::vector<double>& values)
+{
+  auto column = vtkSmartPointer<vtkFloatArray>::New();
+  column->SetName(name.c_str());
+  column->SetNumberOfValues(static_cast<vtkIdType>(values.size()));
+  std::transform(values.begin(), values.end(), column->GetPointer(0),
+                 [](double value) { return static_cast<float>(value); });
   return column;
 }
 

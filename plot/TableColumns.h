@@ -2,6 +2,7 @@
 #define TableColumns_h
 
 #include <vtkDoubleArray.h>
+#include <vtkFloatArray.h>
 #include <vtkSmartPointer.h>
 
 #include <string>
@@ -11,9 +12,6 @@ class vtkTable;
 
 namespace Talmesh::plot
 {
-
-/// Length of the type word and separator that head a parameter's column name, "Parameter: ".
-constexpr std::size_t parameterPrefixLength = 11;
 
 /// Column `index` of `table`; null for a null table or an index outside it.
 vtkAbstractArray* columnAt(vtkTable* table, int index);
@@ -30,6 +28,10 @@ int columnIndex(vtkTable* table, const std::string& name);
 /// A double column that holds `values`.
 vtkSmartPointer<vtkDoubleArray> makeColumn(const std::string& name,
                                            const std::vector<double>& values);
+
+/// A single-precision column that holds `values`.
+vtkSmartPointer<vtkFloatArray> makeFloatColumn(const std::string& name,
+                                               const std::vector<double>& values);
 
 /// Column `index` if a chart can draw it: numeric and named. Null otherwise.
 vtkDataArray* plottableColumn(vtkTable* table, int index);

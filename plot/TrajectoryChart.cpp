@@ -5,6 +5,7 @@
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "vtk/SelectionColumns.h"
 #include "vtk/vtkPlotInvisiblePoints.h"
 #include "vtk/vtkPlotLineSet.h"
 
@@ -74,7 +75,7 @@ void colorBySelection(vtkPlotPoints* plot)
   colors->SetNumberOfTableValues(2);
   colors->SetTableValue(0, 0.0, 0.0, 0.0, 1.0);
   colors->SetTableValue(1, 0.05, 0.6, 0.9, 1.0);
-  colorPoints(plot, "vtkComplementSelection", colors);
+  colorPoints(plot, ComplementSelectionColumn, colors);
 }
 
 void dressAxes(PlotState& state)

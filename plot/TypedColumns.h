@@ -12,6 +12,9 @@ namespace Talmesh::plot
 
 struct PlotState;
 
+/// Name of the column that numbers the runs: the label of the item (TimeOrValue, "Run Index").
+inline constexpr char runIndexLabel[] = ": Run Index";
+
 /// Rebuilds the settings' parameter-column list: the positions in `columnItems` of the items of
 /// kind Parameter, in order.
 void findParameterColumns(PlotState& state);

@@ -23,9 +23,6 @@ namespace Talmesh::plot
 namespace
 {
 
-/// Part of the x range that stays empty beyond either end of the data.
-constexpr double rangePadding = 0.05;
-
 vtkPlot* addRuns(PlotState& state)
 {
   vtkNew<vtkPlotLineSet> runs;

@@ -2,7 +2,6 @@
 
 #include <vtkChartXY.h>
 #include <vtkObjectFactory.h>
-#include <vtkPlot.h>
 
 vtkStandardNewMacro(vtkSelectableScatterPlotMatrix);
 

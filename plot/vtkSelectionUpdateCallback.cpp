@@ -1,6 +1,7 @@
 #include "plot/vtkSelectionUpdateCallback.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/DerivedTables.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
@@ -19,9 +20,6 @@ vtkStandardNewMacro(vtkSelectionUpdateCallback);
 
 namespace
 {
-
-/// Tables that belong to the container's own data: ranks and densities.
-constexpr std::size_t ownTables = 2;
 
 /// Appends a further data set and ranks its parameters.
 /// @return the slot of its rank table
@@ -73,7 +71,7 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
     Talmesh::plot::cutSelectionToTable(container.state());
   if (container.getMetaData()->parameterColumns.empty())
     return;
-  container.state().derivedTables.resize(ownTables);
+  container.state().derivedTables.resize(Talmesh::plot::ownSlots);
   reportFailure(container, [&] { compareRuns(container, link); });
   reportFailure(container, [&] { container.redraw(); });
 }

@@ -1,6 +1,8 @@
 #ifndef vtkSelectionUpdateCallback_h
 #define vtkSelectionUpdateCallback_h
 
+#include "vtk/VtkCompat.h"
+
 #include <vtkCommand.h>
 
 class PlotContainer;
@@ -9,7 +11,7 @@ class PlotContainer;
 class vtkSelectionUpdateCallback : public vtkCommand
 {
 public:
-  vtkTypeMacro(vtkSelectionUpdateCallback, vtkCommand);
+  TALMESH_VTK_TYPE(vtkSelectionUpdateCallback, vtkCommand);
   static vtkSelectionUpdateCallback* New();
 
   /// @param caller the annotation link; anything else is ignored, as are the other arguments

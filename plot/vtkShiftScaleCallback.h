@@ -1,6 +1,8 @@
 #ifndef vtkShiftScaleCallback_h
 #define vtkShiftScaleCallback_h
 
+#include "vtk/VtkCompat.h"
+
 #include <vtkCommand.h>
 
 class PlotContainer;
@@ -9,7 +11,7 @@ class PlotContainer;
 class vtkShiftScaleCallback : public vtkCommand
 {
 public:
-  vtkTypeMacro(vtkShiftScaleCallback, vtkCommand);
+  TALMESH_VTK_TYPE(vtkShiftScaleCallback, vtkCommand);
   static vtkShiftScaleCallback* New();
 
   /// @param caller the chart that was panned or zoomed; anything but a chart with a bottom and a

@@ -12,9 +12,7 @@ std::vector<double> benjaminiHochberg(const std::vector<double>& pValues)
   for (std::size_t i = 0; i < pValues.size(); ++i)
   {
     if (!std::isnan(pValues[i]))
-    {
       order.push_back(i);
-    }
   }
   std::sort(order.begin(), order.end(),
             [&pValues](std::size_t a, std::size_t b) { return pValues[a] < pValues[b]; });

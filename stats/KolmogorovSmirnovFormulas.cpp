@@ -21,9 +21,7 @@ Eigen::MatrixXd durbinMatrix(Eigen::Index order, double h)
   for (Eigen::Index i = 0; i < order; ++i)
   {
     for (Eigen::Index j = 0; j < order; ++j)
-    {
       matrix(i, j) = j <= i + 1 ? 1.0 : 0.0;
-    }
   }
   for (Eigen::Index i = 0; i < order; ++i)
   {
@@ -31,17 +29,13 @@ Eigen::MatrixXd durbinMatrix(Eigen::Index order, double h)
     matrix(order - 1, i) -= std::pow(h, static_cast<double>(order - i));
   }
   if (2.0 * h - 1.0 > 0.0)
-  {
     matrix(order - 1, 0) += 2.0 * h - 1.0;
-  }
   for (Eigen::Index i = 0; i < order; ++i)
   {
     for (Eigen::Index j = 0; j <= i; ++j)
     {
       for (Eigen::Index divisor = 1; divisor <= i - j + 1; ++divisor)
-      {
         matrix(i, j) /= static_cast<double>(divisor);
-      }
     }
   }
   return matrix;
@@ -62,9 +56,7 @@ double oddSeries(double z)
     sum += term;
     // A vanished or undefined term cannot pass the relative test when the sum is 0 or NaN as well.
     if (term == 0.0 || !std::isfinite(term) || term / sum <= seriesTolerance)
-    {
       return sum;
-    }
   }
 }
 
@@ -87,9 +79,7 @@ double halfIntegerSeries(double z)
     const bool converged =
         std::abs(below / sum) <= seriesTolerance && std::abs(above / sum) <= seriesTolerance;
     if (vanished || converged || !std::isfinite(sum))
-    {
       return sum;
-    }
   }
 }
 
@@ -98,17 +88,11 @@ double unclampedPValue(double d, unsigned long n)
   const double size = static_cast<double>(n);
   const double scaledSquare = size * (d * d);
   if (d > 1.0 - 1.0 / size && d < 1.0)
-  {
     return 2.0 * std::pow(1.0 - d, size);
-  }
   if (n <= 140)
-  {
     return scaledSquare < 4.0 ? 1.0 - durbin(d, n) : miller(d, n);
-  }
   if (scaledSquare > 370.0)
-  {
     return 0.0;
-  }
   return scaledSquare > 2.2 ? miller(d, n) : 1.0 - pelzGood(d, n);
 }
 } // namespace
@@ -116,15 +100,11 @@ double unclampedPValue(double d, unsigned long n)
 double durbin(double d, unsigned long n)
 {
   if (!(d >= 0.0 && d <= 1.0))
-  {
     return std::isnan(d) ? d : (d < 0.0 ? 0.0 : 1.0);
-  }
   const double size = static_cast<double>(n);
   const double s = d * d * size;
   if (s > 3.76 && n > 99)
-  {
     return 1.0 - 2.0 * std::exp(-(2.000071 + 0.331 / std::sqrt(size) + 1.409 / size) * s);
-  }
   const auto k = static_cast<Eigen::Index>(std::floor(size * d + 1.0));
   const double h = static_cast<double>(k) - size * d;
   // The power is taken through the call operator, which sizes its result also for a 1 x 1 matrix.
@@ -133,18 +113,14 @@ double durbin(double d, unsigned long n)
   const Eigen::MatrixXd result = power(size);
   double probability = result(k - 1, k - 1);
   for (unsigned long i = 1; i <= n; ++i)
-  {
     probability *= static_cast<double>(i) / size;
-  }
   return probability;
 }
 
 double miller(double d, unsigned long n)
 {
   if (!(d >= 0.0 && d <= 1.0))
-  {
     return std::isnan(d) ? d : (d < 0.0 ? 1.0 : 0.0);
-  }
   const double size = static_cast<double>(n);
   const double lastTerm = std::floor(size * (1.0 - d));
   const unsigned long last = lastTerm < size ? static_cast<unsigned long>(lastTerm) : n;
@@ -158,18 +134,14 @@ double miller(double d, unsigned long n)
     sum += std::exp(logChoose + static_cast<double>(j - 1) * std::log(d + fraction) +
                     static_cast<double>(n - j) * std::log(1.0 - d - fraction));
     if (j == last)
-    {
       return 2.0 * d * sum;
-    }
   }
 }
 
 double pelzGood(double d, unsigned long n)
 {
   if (d < 0.0)
-  {
     return 0.0;
-  }
   const double z = d * std::sqrt(static_cast<double>(n));
   const double odd = oddSeries(z);
   if (odd == 0.0)
@@ -186,13 +158,9 @@ double pelzGood(double d, unsigned long n)
 double kolmogorovSmirnovPValue(double d, unsigned long n)
 {
   if (std::isnan(d))
-  {
     return d;
-  }
   if (d <= 2.0 / static_cast<double>(n))
-  {
     return 1.0;
-  }
   const double p = unclampedPValue(d, n);
   return p > 1.0 ? 1.0 : p;
 }

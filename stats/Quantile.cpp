@@ -9,17 +9,11 @@ namespace Talmesh::stats
 double averagedQuantile(const std::vector<double>& sorted, double p)
 {
   if (sorted.empty() || std::isnan(p))
-  {
     return std::numeric_limits<double>::quiet_NaN();
-  }
   if (p <= 0.0)
-  {
     return sorted.front();
-  }
   if (p >= 1.0)
-  {
     return sorted.back();
-  }
   const double position = static_cast<double>(sorted.size()) * p;
   const double below = std::floor(position);
   const auto k = static_cast<std::size_t>(below);

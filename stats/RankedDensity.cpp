@@ -10,6 +10,32 @@ namespace
 {
 constexpr double lastLocation = static_cast<double>(densityLocations - 1);
 
+/// The 200 evenly spaced points of the estimate, from start to start + 1 / blocks.
+std::vector<double> densityGrid(const ReflectedReferences& references)
+{
+  std::vector<double> grid(densityLocations);
+  for (std::size_t i = 0; i < densityLocations; ++i)
+    grid[i] = (static_cast<double>(i) / lastLocation) / static_cast<double>(references.blocks) +
+              references.start;
+  return grid;
+}
+
+/// Normal reference rule with the smaller of standard deviation and interquartile range / 1.34 of
+/// the values' own block, at least a fifth of the grid's step. Needs at least one reference.
+double kernelBandwidth(const ReflectedReferences& references, const std::vector<double>& grid)
+{
+  const std::size_t count = references.count;
+  const auto size = static_cast<double>(count);
+  const double* middle = references.points.data() + count;
+  double squares = 0.0;
+  for (std::size_t i = 0; i < count; ++i)
+    squares += (middle[i] - references.mean) * (middle[i] - references.mean);
+  const double deviation = std::sqrt(squares / size);
+  const double spread = (middle[3 * count / 4] - middle[count / 4]) / 1.34;
+  const double smallest = 0.2 * std::abs(grid[1] - grid[0]);
+  return std::max(smallest, 1.06 * std::min(deviation, spread) * std::pow(size, -0.2));
+}
+
 void estimateWithKernel(const ReflectedReferences& references, const ParameterSupport& support,
                         const KernelDensity& kernelDensity, DoubleBuffer& densities,
                         DoubleBuffer& locations)
@@ -29,9 +55,7 @@ void estimateWithKernel(const ReflectedReferences& references, const ParameterSu
 void placeLocations(const ParameterSupport& support, DoubleBuffer& locations)
 {
   for (std::size_t i = 0; i < densityLocations; ++i)
-  {
     locations[i] = static_cast<double>(i) * support.range / lastLocation + support.lower;
-  }
 }
 
 void markValues(const std::vector<double>& sorted, double halfStep, const DoubleBuffer& locations,
@@ -53,9 +77,7 @@ void markConstant(const std::vector<double>& sorted, double halfStep, const Doub
                   DoubleBuffer& densities)
 {
   for (std::size_t i = 0; i < densityLocations && !sorted.empty(); ++i)
-  {
     densities[i] = std::abs(locations[i] - sorted.front()) <= halfStep ? 1.0 : 0.0;
-  }
 }
 } // namespace
 
@@ -83,41 +105,12 @@ ReflectedReferences reflectedReferences(const std::vector<double>& sorted,
       result.points[count - 1 - taken] = (1.0 - z) / blocks;
       result.points[count + taken] = (1.0 + z) / blocks;
       if (result.blocks == 3)
-      {
         result.points[3 * count - 1 - taken] = (3.0 - z) / 3.0;
-      }
       ++taken;
     }
   }
   result.mean = sum / static_cast<double>(sorted.size());
   return result;
-}
-
-std::vector<double> densityGrid(const ReflectedReferences& references)
-{
-  std::vector<double> grid(densityLocations);
-  for (std::size_t i = 0; i < densityLocations; ++i)
-  {
-    grid[i] = (static_cast<double>(i) / lastLocation) / static_cast<double>(references.blocks) +
-              references.start;
-  }
-  return grid;
-}
-
-double kernelBandwidth(const ReflectedReferences& references, const std::vector<double>& grid)
-{
-  const std::size_t count = references.count;
-  const auto size = static_cast<double>(count);
-  const double* middle = references.points.data() + count;
-  double squares = 0.0;
-  for (std::size_t i = 0; i < count; ++i)
-  {
-    squares += (middle[i] - references.mean) * (middle[i] - references.mean);
-  }
-  const double deviation = std::sqrt(squares / size);
-  const double spread = (middle[3 * count / 4] - middle[count / 4]) / 1.34;
-  const double smallest = 0.2 * std::abs(grid[1] - grid[0]);
-  return std::max(smallest, 1.06 * std::min(deviation, spread) * std::pow(size, -0.2));
 }
 
 void estimateDensity(const std::vector<double>& sorted, const ParameterSupport& support,

@@ -36,13 +36,6 @@ struct ReflectedReferences
 ReflectedReferences reflectedReferences(const std::vector<double>& sorted,
                                         const ParameterSupport& support);
 
-/// The 200 evenly spaced points of the estimate, from start to start + 1 / blocks.
-std::vector<double> densityGrid(const ReflectedReferences& references);
-
-/// Normal reference rule with the smaller of standard deviation and interquartile range / 1.34 of
-/// the values' own block, at least a fifth of the grid's step. Needs at least one reference.
-double kernelBandwidth(const ReflectedReferences& references, const std::vector<double>& grid);
-
 /// Fills `densities` and `locations`, both of length `densityLocations`, for ascending values (NaN
 /// last). A degenerate support gives 1 within half a step of the smallest value and 0 elsewhere;
 /// fewer than `smallestKernelSample` references give a 0/1 pattern of the values' places.

@@ -16,6 +16,12 @@ bool lessWithNanLast(double a, double b)
   return std::isnan(b) ? !std::isnan(a) : a < b;
 }
 
+/// Equality that goes with that order.
+bool equalWithNan(double a, double b)
+{
+  return a == b || (std::isnan(a) && std::isnan(b));
+}
+
 void rankDegenerate(const ParameterSupport& support, RankedParameter& result)
 {
   const std::size_t positions = result.ranks.size();
@@ -46,13 +52,9 @@ RankedParameter rankParameter(std::vector<double> values, const ParameterSupport
   result.ranks = DoubleBuffer(positions);
   result.sortedValues = DoubleBuffer(positions);
   if (support.degenerate)
-  {
     rankDegenerate(support, result);
-  }
   else
-  {
     rankValues(values, result);
-  }
   result.densities = DoubleBuffer(densityLocations);
   result.locations = DoubleBuffer(densityLocations);
   estimateDensity(values, support, kernelDensity, result.densities, result.locations);
@@ -66,9 +68,7 @@ std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValu
   std::vector<double> values;
   values.reserve(rows / step + 1);
   for (std::size_t row = 0; row < rows; row += step)
-  {
     values.push_back(valueAt(row));
-  }
   std::sort(values.begin(), values.end(), lessWithNanLast);
   return values;
 }
@@ -76,7 +76,7 @@ std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValu
 std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt)
 {
   std::vector<double> values = thinnedValues(rows, 1, valueAt);
-  values.erase(std::unique(values.begin(), values.end()), values.end());
+  values.erase(std::unique(values.begin(), values.end(), equalWithNan), values.end());
   return values;
 }
 
@@ -112,9 +112,7 @@ RankedParameters rankParameters(std::vector<std::optional<std::vector<double>>> 
   RankedParameters result;
   result.boundsIgnored = lists.size() != bounds.size();
   for (const auto& list : lists)
-  {
     result.positions = std::max(result.positions, list ? list->size() : 0);
-  }
   for (std::size_t k = 0; k < lists.size(); ++k)
   {
     result.parameters.emplace_back();

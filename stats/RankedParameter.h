@@ -22,7 +22,9 @@ using ColumnValue = std::function<double(std::size_t)>;
 /// kept. A stride below 1 counts as 1.
 std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValue& valueAt);
 
-/// Values of all rows, ascending, NaN last, each once. NaN equals nothing, so every NaN stays.
+/// Values of all rows, ascending, each once. All NaN together are one value, the last one: a value
+/// that is missing in many rows would otherwise make the list longer than those of other
+/// parameters.
 std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt);
 
 /// Support of a parameter's density. `upper` may be infinite while `range` is finite.

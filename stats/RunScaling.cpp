@@ -22,9 +22,7 @@ void scaleRuns(double* values, std::size_t rows, int stride, const double* facto
   const std::size_t runs = wholeRuns(rows, stride);
   const auto length = static_cast<std::size_t>(stride);
   for (std::size_t run = 0; run < runs; ++run)
-  {
     scaleRun(values + run * length, length, factors[run]);
-  }
 }
 
 void normaliseRunsToMaximum(double* values, std::size_t rows, int stride)
@@ -36,9 +34,7 @@ void normaliseRunsToMaximum(double* values, std::size_t rows, int stride)
     double* first = values + run * length;
     double maximum = 0.0;
     for (std::size_t row = 0; row < length; ++row)
-    {
       maximum = first[row] > maximum ? first[row] : maximum;
-    }
     // Multiplying by the reciprocal differs from dividing in the last bit; the former is the
     // contract.
     scaleRun(first, length, 1.0 / maximum);
@@ -48,16 +44,12 @@ void normaliseRunsToMaximum(double* values, std::size_t rows, int stride)
 void multiplyElementwise(double* values, const double* by, std::size_t rows)
 {
   for (std::size_t row = 0; row < rows; ++row)
-  {
     values[row] *= by[row];
-  }
 }
 
 void divideElementwise(double* values, const double* by, std::size_t rows)
 {
   for (std::size_t row = 0; row < rows; ++row)
-  {
     values[row] /= by[row];
-  }
 }
 } // namespace Talmesh::stats

@@ -1,6 +1,7 @@
 #ifndef SobolIndices_h
 #define SobolIndices_h
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>

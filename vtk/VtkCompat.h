@@ -14,4 +14,11 @@
   vtkAbstractTypeMacro(thisClass, superclass)                                                      \
   static_assert(true, "ended by the user's semicolon")
 
+/// Whether VTK has a second class of text, which every painting device must take as well.
+#if __has_include(<vtkUnicodeString.h>)
+#define TALMESH_VTK_HAS_UNICODE_STRING 1
+#else
+#define TALMESH_VTK_HAS_UNICODE_STRING 0
+#endif
+
 #endif

@@ -6,6 +6,8 @@
 #include "support/PlotScene.h"
 #include "support/PlotStyleCount.h"
 #include "support/SampleTables.h"
+#include "support/SoundPicture.h"
+#include "support/VtkErrors.h"
 
 #include <vtkIntArray.h>
 
@@ -139,19 +141,21 @@ class ColumnReductionWhileShown : public ColumnReduction, public ::testing::With
 
 TEST_P(ColumnReductionWhileShown, KeepsThePictureAlive)
 {
+  const VtkErrors errors;
   container.setScene(scene.scene());
   container.setLinePlotTable(parameterStudy(6, 4, 3), false);
   settings().solidColor = false;
   container.setPlotStyle(static_cast<plotStyles>(GetParam()));
   container.redraw();
-  scene.render(container);
+  expectSoundPicture(scene, container);
   settings().parameterColumns = {4};
   settings().zColumns = {};
   settings().colorColumn = 0;
   container.shrinkToColumnSelection();
-  scene.render(container);
+  expectSoundPicture(scene, container);
   container.redraw();
-  scene.render(container);
+  expectSoundPicture(scene, container);
+  EXPECT_EQ(errors.text(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryStyle, ColumnReductionWhileShown,

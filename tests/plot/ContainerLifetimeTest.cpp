@@ -5,12 +5,15 @@
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
 #include "support/RecordingDevice.h"
+#include "support/VtkErrors.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkCommand.h>
 #include <vtkContext2D.h>
 
 #include <gtest/gtest.h>
+
+#include <QPointer>
 
 #include <algorithm>
 #include <memory>
@@ -182,6 +185,7 @@ TEST(DestructionAfterARendering, WorksWithTheSceneFirstOrLast)
 
 TEST(DestructionWithAWidget, WorksInEveryOrder)
 {
+  const VtkErrors errors;
   std::vector<int> order{0, 1, 2, 3};
   do
   {
@@ -209,23 +213,39 @@ TEST(DestructionWithAWidget, WorksInEveryOrder)
       if (chart)
         chart->InvokeEvent(vtkCommand::InteractionEvent);
       if (container && widget)
+      {
         container->redraw();
+        EXPECT_FALSE(container->getMetaData()->signalsBlocked());
+        EXPECT_EQ(container->getItem()->GetScene(), widget->contextView()->GetScene());
+      }
+      else if (container)
+      {
+        EXPECT_EQ(container->getItem()->GetScene(), nullptr) << "it went with the widget";
+      }
       if (container)
         container->dirty();
       if (widget)
         widget->updatePlot(true);
     }
   } while (std::next_permutation(order.begin(), order.end()));
+  EXPECT_EQ(errors.text(), "");
 }
 
 TEST(DestructionWithAWidget, LeavesTheOwnContainerToTheWidget)
 {
+  const VtkErrors errors;
   auto widget = std::make_unique<VtkPlotWidget>();
-  vtkSmartPointer<vtkChartXY> chart = widget->plotContainer()->getChartXY();
-  vtkSmartPointer<vtkAnnotationLink> link = widget->plotContainer()->getAnnotationLink();
+  const QPointer<PlotContainer> own = widget->plotContainer();
+  vtkSmartPointer<vtkChartXY> chart = own->getChartXY();
+  vtkSmartPointer<vtkAnnotationLink> link = own->getAnnotationLink();
+  const vtkSmartPointer<vtkSelectionUpdateCallback> callback = own->state().selectionUpdateCallback;
   widget.reset();
+  EXPECT_EQ(own, nullptr);
+  EXPECT_EQ(callback->Container, nullptr);
+  EXPECT_EQ(chart->GetScene(), nullptr);
   link->InvokeEvent(vtkCommand::AnnotationChangedEvent);
   chart->InvokeEvent(vtkCommand::InteractionEvent);
+  EXPECT_EQ(errors.text(), "");
 }
 
 TEST(Callbacks, ForgetTheContainerThatIsGone)

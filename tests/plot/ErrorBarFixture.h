@@ -9,6 +9,7 @@
 #include "support/PlotScene.h"
 #include "support/SampleRuns.h"
 #include "support/SampleTables.h"
+#include "support/SilentSettings.h"
 #include "vtk/vtkPlotErrorPoints.h"
 
 #include <vtkAxis.h>
@@ -45,9 +46,7 @@ protected:
   ErrorBarFixture()
   {
     container.setScene(scene.scene());
-    container.getMetaData()->blockSignals(true);
-    container.getMetaData()->setPlotStyle(scatterWithErrorBars);
-    container.getMetaData()->blockSignals(false);
+    storeStyle(container, scatterWithErrorBars);
     container.setPlotData(measurements());
   }
 

@@ -190,8 +190,11 @@ TEST_F(LinePlotItems, DrawIntoTheCellThatIsTheXYChartOfAPage)
 
 TEST_F(LinePlotItems, IgnoreANullChoice)
 {
+  container.setLinePlotItems(&items);
+  const vtkSmartPointer<vtkPlot> line = chart()->GetPlot(1);
   container.setLinePlotItems(nullptr);
-  EXPECT_NE(chart(), nullptr);
+  ASSERT_EQ(chart()->GetNumberOfPlots(), 2);
+  EXPECT_EQ(chart()->GetPlot(1), line);
 }
 
 } // namespace

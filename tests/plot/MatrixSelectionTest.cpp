@@ -1,6 +1,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
+#include "support/Reaction.h"
 #include "support/SampleRuns.h"
 
 #include <vtkCommand.h>
@@ -16,7 +17,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <set>
 #include <vector>
@@ -31,15 +31,6 @@ namespace
 using Rows = std::set<vtkIdType>;
 using Values = std::vector<double>;
 
-/// Calls a function at every event.
-class Listener : public vtkCommand
-{
-public:
-  static Listener* New() { return new Listener; }
-  void Execute(vtkObject*, unsigned long, void*) override { heard(); }
-  std::function<void()> heard;
-};
-
 vtkAnnotationLink* matrixLink(const PlotContainer& container)
 {
   return container.state().scatterPlotMatrix->GetAnnotationLink();
@@ -53,7 +44,7 @@ protected:
   {
     plot.container.setPlotStyle(scatterPlotMatrix);
     link()->AddObserver(vtkCommand::AnnotationChangedEvent, listener);
-    listener->heard = [this] { ++announcements; };
+    listener->react = [this] { ++announcements; };
   }
 
   vtkAnnotationLink* link() { return plot.container.getAnnotationLink(); }
@@ -64,7 +55,7 @@ protected:
   }
 
   SampleRuns::Plot plot{SampleRuns::runs(3, 3)};
-  vtkNew<Listener> listener;
+  vtkNew<Reaction> listener;
   int announcements = 0;
 };
 
@@ -177,8 +168,8 @@ TEST(MatrixSelectionLifetime, MayEndTheContainer)
   SampleRuns::load(*container, SampleRuns::runs(3, 3));
   container->setPlotStyle(scatterPlotMatrix);
   const vtkSmartPointer<vtkAnnotationLink> ofMatrix = matrixLink(*container);
-  vtkNew<Listener> listener;
-  listener->heard = [&] { container.reset(); };
+  vtkNew<Reaction> listener;
+  listener->react = [&] { container.reset(); };
   container->getAnnotationLink()->AddObserver(vtkCommand::AnnotationChangedEvent, listener, 1.0F);
   ofMatrix->SetCurrentSelection(makeRowSelection({1}));
   EXPECT_EQ(container, nullptr);

@@ -68,6 +68,24 @@ TEST_F(RankedTables, OfOtherDataTakeEveryRowWithoutDuplicates)
                            "expected 3\n");
 }
 
+TEST_F(RankedTables, OfOtherDataKeepTheirLengthWhenARunLacksAParameter)
+{
+  CapturedOutput output(std::cout);
+  const double missing = std::numeric_limits<double>::quiet_NaN();
+  container.generateRankedParameters(
+      tableOf({{"Time", {0, 1, 2, 0, 1, 2, 0, 1, 2}},
+               {"Parameter: k1", {4, 4, 4, missing, missing, missing, 2, 2, 2}},
+               {"Parameter: k2", {10, 10, 10, 30, 30, 30, 20, 20, 20}}}),
+      3);
+  EXPECT_EQ(values(3, "Sorted Parameter: k2"), (Values{10, 20, 30}));
+  EXPECT_EQ(values(3, "Rank of Parameter: k2"), (Values{1.0 / 3.0, 2.0 / 3.0, 1.0}));
+  const Values incomplete = values(3, "Sorted Parameter: k1");
+  ASSERT_EQ(incomplete.size(), 3U);
+  EXPECT_EQ(incomplete[1], 4.0);
+  EXPECT_TRUE(std::isnan(incomplete[2]));
+  EXPECT_EQ(output.text(), "");
+}
+
 TEST_F(RankedTables, GrowTheListWithoutTouchingItsEntries)
 {
   auto kept = plainTable();

@@ -3,6 +3,8 @@
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
 #include "support/SampleTables.h"
+#include "support/SoundPicture.h"
+#include "support/VtkErrors.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +15,11 @@ namespace
 
 class RedrawOfOddData : public UndrawnPlotFixture, public ::testing::WithParamInterface<int>
 {
+protected:
+  void TearDown() override { EXPECT_EQ(errors.text(), ""); }
+
+private:
+  VtkErrors errors;
 };
 
 TEST_P(RedrawOfOddData, SurvivesColumnsThatDoNotExist)
@@ -26,13 +33,13 @@ TEST_P(RedrawOfOddData, SurvivesColumnsThatDoNotExist)
     settings().solidColor = false;
     setStyle(GetParam());
     container.redraw();
-    scene.render(container);
+    expectSoundPicture(scene, container);
   }
   settings().xColumns.clear();
   settings().yColumns.clear();
   settings().zColumns.clear();
   container.redraw();
-  scene.render(container);
+  expectSoundPicture(scene, container);
 }
 
 TEST_P(RedrawOfOddData, SurvivesTextAndUnnamedColumns)
@@ -51,7 +58,7 @@ TEST_P(RedrawOfOddData, SurvivesTextAndUnnamedColumns)
     settings().colorColumn = index;
     settings().solidColor = false;
     container.redraw();
-    scene.render(container);
+    expectSoundPicture(scene, container);
   }
 }
 
@@ -59,13 +66,13 @@ TEST_P(RedrawOfOddData, SurvivesAnEmptyTable)
 {
   setStyle(GetParam());
   container.redraw();
-  scene.render(container);
+  expectSoundPicture(scene, container);
   container.setPlotData(vtkSmartPointer<vtkTable>::New());
   container.redraw();
-  scene.render(container);
+  expectSoundPicture(scene, container);
   container.setPlotData(tableOf({{"a", {}}, {"b", {}}, {"c", {}}}));
   container.redraw();
-  scene.render(container);
+  expectSoundPicture(scene, container);
 }
 
 TEST_P(RedrawOfOddData, SurvivesValuesThatAreNotFinite)
@@ -87,7 +94,7 @@ TEST_P(RedrawOfOddData, SurvivesValuesThatAreNotFinite)
       settings().colorColumn = x;
       settings().solidColor = false;
       container.redraw();
-      scene.render(container);
+      expectSoundPicture(scene, container);
     }
   }
 }
@@ -97,7 +104,7 @@ TEST_P(RedrawOfOddData, SurvivesATableOfOneRow)
   container.setPlotData(tableOf({{"a", {1}}, {"b", {2}}, {"c", {3}}}));
   setStyle(GetParam());
   container.redraw();
-  scene.render(container);
+  expectSoundPicture(scene, container);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryStyle, RedrawOfOddData, ::testing::Range(0, plotStyleCount + 1));

@@ -1,7 +1,10 @@
 #include "plot/SelectionNodes.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
+#include "support/Reaction.h"
 #include "support/SampleRuns.h"
+#include "support/SoundPicture.h"
+#include "support/VtkErrors.h"
 
 #include <vtkCommand.h>
 #include <vtkNew.h>
@@ -11,7 +14,6 @@
 
 #include <QApplication>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -38,30 +40,27 @@ TEST_F(ReplacedCharts, LiveUntilControlReturnsToTheEventLoop)
   }
 }
 
-/// Draws another style from inside the chart's own event, or ends the container.
-class Intruder : public vtkCommand
-{
-public:
-  static Intruder* New() { return new Intruder; }
-  void Execute(vtkObject*, unsigned long, void*) override { act(); }
-  std::function<void()> act;
-};
-
 TEST_F(ReplacedCharts, SurviveARedrawFromTheirOwnHandler)
 {
+  const VtkErrors errors;
   for (int style = 0; style <= plotStyleCount; ++style)
   {
+    SCOPED_TRACE(style);
     drawStyle(0);
-    vtkNew<Intruder> intruder;
-    intruder->act = [&] { drawStyle(style); };
+    vtkNew<Reaction> intruder;
+    intruder->react = [&] { drawStyle(style); };
     vtkChartXY* bare = chart();
-    bare->AddObserver(vtkCommand::LeftButtonPressEvent, intruder);
+    newDrawings();
+    const unsigned long tag = bare->AddObserver(vtkCommand::LeftButtonPressEvent, intruder);
     bare->InvokeEvent(vtkCommand::LeftButtonPressEvent);
-    bare->GetNumberOfPlots();
-    bare->RemoveObserver(intruder);
+    EXPECT_GE(newDrawings(), 1U);
+    // What the handler does at its end.
+    EXPECT_GE(bare->GetNumberOfPlots(), 0);
+    bare->RemoveObserver(tag);
     QApplication::processEvents();
-    scene.render(container);
+    expectSoundPicture(scene, container);
   }
+  EXPECT_EQ(errors.text(), "");
 }
 
 /// A plot of runs with parameters, whose pages have charts in every cell.
@@ -107,9 +106,9 @@ TEST_P(ReplacedChartsOfRuns, SurviveARedrawFromTheirOwnHandler)
       // Bare, as the handler of a chart knows itself.
       vtkAbstractContextItem* bare = chartsOf(GetParam())[i];
       ASSERT_NE(bare, nullptr);
-      vtkNew<Intruder> intruder;
+      vtkNew<Reaction> intruder;
       int calls = 0;
-      intruder->act = [&]
+      intruder->react = [&]
       {
         ++calls;
         drawStyle(style);
@@ -135,8 +134,8 @@ TEST_P(ReplacedChartsOfRuns, SurviveASelectionFromTheirOwnHandler)
   for (std::size_t i = 0; i < charts; ++i)
   {
     vtkAbstractContextItem* bare = chartsOf(GetParam())[i];
-    vtkNew<Intruder> intruder;
-    intruder->act = [&]
+    vtkNew<Reaction> intruder;
+    intruder->react = [&]
     {
       const auto row = static_cast<vtkIdType>(i);
       container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({row}));
@@ -163,8 +162,8 @@ TEST_P(ReplacedChartsOfRuns, SurviveTheEndOfTheContainerInTheirOwnHandler)
   other->setPlotStyle(static_cast<plotStyles>(GetParam()));
   view.render(*other);
   vtkAbstractContextItem* bare = other->getItem();
-  vtkNew<Intruder> intruder;
-  intruder->act = [&] { other.reset(); };
+  vtkNew<Reaction> intruder;
+  intruder->react = [&] { other.reset(); };
   const unsigned long tag = bare->AddObserver(vtkCommand::SelectionChangedEvent, intruder);
   bare->InvokeEvent(vtkCommand::SelectionChangedEvent);
   EXPECT_EQ(other, nullptr);
@@ -182,8 +181,8 @@ TEST(SelectionHandler, MayEndTheContainer)
   container->setScene(scene.scene());
   container->redraw();
   const vtkSmartPointer<vtkAnnotationLink> link = container->getAnnotationLink();
-  vtkNew<Intruder> intruder;
-  intruder->act = [&] { container.reset(); };
+  vtkNew<Reaction> intruder;
+  intruder->react = [&] { container.reset(); };
   link->AddObserver(vtkCommand::AnnotationChangedEvent, intruder, 1.0F);
   link->InvokeEvent(vtkCommand::AnnotationChangedEvent);
   EXPECT_EQ(container, nullptr);

@@ -2,6 +2,7 @@
 #include "plot/DistributionCell.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "support/SampleRuns.h"
 #include "support/SampleTables.h"
 
 #include <vtkAxis.h>
@@ -15,8 +16,25 @@
 namespace
 {
 
+constexpr double singlePrecision = 1e-6;
+
 class SelectionCells : public SelectionPageFixture
 {
+protected:
+  /// The largest density of parameter `k`, counted from 0, in the tables of these slots.
+  double highestDensity(int k, const std::vector<std::size_t>& slotNumbers)
+  {
+    double highest = 0.0;
+    for (const std::size_t slot : slotNumbers)
+    {
+      const auto densities = SampleRuns::valuesOf(
+          container.getDerivedTables().at(slot), "Density of Parameter: k" + std::to_string(k + 1));
+      highest = std::max(highest, *std::max_element(densities.begin(), densities.end()));
+    }
+    return highest;
+  }
+
+  double leftMaximum(int column) { return cell(column, 0)->GetAxis(vtkAxis::LEFT)->GetMaximum(); }
 };
 
 TEST_F(SelectionCells, DrawsStepLinesOfTheRanksFromZeroToOne)
@@ -47,8 +65,18 @@ TEST_F(SelectionCells, DrawsDensitiesEachOnItsOwnScale)
     EXPECT_EQ(left->GetTitle(), "Density");
     scene.render(container);
     EXPECT_EQ(left->GetMinimum(), 0.0);
-    EXPECT_NEAR(left->GetMaximum(), Talmesh::plot::highestBound(cell(i, 0)), 1e-6);
+    EXPECT_NEAR(left->GetMaximum(), highestDensity(i, {1}), singlePrecision);
   }
+}
+
+TEST_F(SelectionCells, DrawsDensitiesOfASelectionUpToTheHighestOfTheirChart)
+{
+  draw(3);
+  settings().setUseDensity(true);
+  selectFirstRuns(5);
+  scene.render(container);
+  for (int i = 0; i < 3; ++i)
+    EXPECT_NEAR(leftMaximum(i), highestDensity(i, {1, 4, 7}), singlePrecision) << i;
 }
 
 TEST_F(SelectionCells, DrawsDensitiesOnOneScaleWithRoomAbove)
@@ -56,13 +84,61 @@ TEST_F(SelectionCells, DrawsDensitiesOnOneScaleWithRoomAbove)
   draw(3);
   settings().setUseDensity(true);
   settings().setCommonDensityScale(true);
-  double highest = 0.0;
-  for (int i = 0; i < 3; ++i)
-    highest = std::max(highest, Talmesh::plot::highestBound(cell(i, 0)));
-  ASSERT_GT(highest, 0.0);
   scene.render(container);
+  const double highest =
+      std::max({highestDensity(0, {1}), highestDensity(1, {1}), highestDensity(2, {1})});
   for (int i = 0; i < 3; ++i)
-    EXPECT_NEAR(cell(i, 0)->GetAxis(vtkAxis::LEFT)->GetMaximum(), 1.05 * highest, 1e-6);
+    EXPECT_NEAR(leftMaximum(i), 1.05 * highest, singlePrecision) << i;
+}
+
+TEST_F(SelectionCells, DrawsAllDensitiesOfASelectionOnOneScale)
+{
+  draw(3);
+  settings().setUseDensity(true);
+  settings().setCommonDensityScale(true);
+  selectFirstRuns(5);
+  scene.render(container);
+  double highest = 0.0;
+  double highestOfAllRuns = 0.0;
+  for (int i = 0; i < 3; ++i)
+  {
+    highest = std::max(highest, highestDensity(i, {1, 4, 7}));
+    highestOfAllRuns = std::max(highestOfAllRuns, highestDensity(i, {1}));
+  }
+  ASSERT_GT(highest, 1.01 * highestOfAllRuns) << "the curve of a further data set decides";
+  for (int i = 0; i < 3; ++i)
+    EXPECT_NEAR(leftMaximum(i), 1.05 * highest, singlePrecision) << i;
+}
+
+TEST_F(SelectionCells, ShowsAParameterTwiceWhenResultsAreMissing)
+{
+  draw(6);
+  container.state().ksResults = {{0.5, 0.2}, {0.001, 0.7}};
+  container.redraw();
+  // k2 differs, k1 does not, and the row is filled from the first parameter on.
+  const char* order[] = {"k2", "k1", "k1", "k2"};
+  for (int i = 0; i < 4; ++i)
+  {
+    EXPECT_EQ(cell(i, 0)->GetAxis(vtkAxis::BOTTOM)->GetTitle(), order[i]);
+    ASSERT_EQ(cell(i, 0)->GetNumberOfPlots(), 1);
+    EXPECT_EQ(plottedName(cell(i, 0)->GetPlot(0), 0), std::string("Sorted Parameter: ") + order[i]);
+    EXPECT_EQ(cell(i, 0)->GetTitle(), i == 0 || i == 3 ? "p = 1.00e-03" : "p = 0.50");
+  }
+  scene.render(container);
+}
+
+TEST_F(SelectionCells, HasNoButtonForPanAndZoomInAnyChart)
+{
+  draw(6);
+  container.state().ksResults.assign(6, {0.001, 0.7});
+  container.redraw();
+  ASSERT_EQ(matrix()->GetSize(), vtkVector2i(4, 4));
+  for (int i = 0; i < 6; ++i)
+  {
+    // Button 0 would match every move of the mouse without a button.
+    EXPECT_LT(cell(i % 4, i / 4)->GetActionToButton(vtkChart::PAN), 0) << i;
+    EXPECT_LT(cell(i % 4, i / 4)->GetActionToButton(vtkChart::ZOOM), 0) << i;
+  }
 }
 
 TEST_F(SelectionCells, SplitsTheRunsOfASelectionIntoTwoCurves)

@@ -23,14 +23,6 @@ namespace
 
 using Values = std::vector<double>;
 
-SampleRuns::Shape shapeOf(std::vector<int> runIndices, int stride)
-{
-  SampleRuns::Shape shape;
-  shape.runIndices = std::move(runIndices);
-  shape.stride = stride;
-  return shape;
-}
-
 void setExternal(PlotContainer& container, const std::set<int>& runs)
 {
   ParameterSelection selection;
@@ -68,7 +60,7 @@ vtkStandardNewMacro(UnreadableColumn);
 
 TEST(ExternalRuns, BecomeATableOfTheirFirstRows)
 {
-  SampleRuns::Plot plot(shapeOf({2, 3, 5, 7}, 4));
+  SampleRuns::Plot plot(SampleRuns::indexedRuns({2, 3, 5, 7}, 4));
   setExternal(plot.container, {3, 7});
   vtkTable* runs = plot.container.getDerivedTables().at(0);
   vtkTable* all = plot.container.getTable();
@@ -109,13 +101,13 @@ TEST(ExternalRuns, AreAppendedToAListOfAnyLength)
 
 TEST(ExternalRuns, EndWithTheFirstOneThatTheTableDoesNotHave)
 {
-  EXPECT_EQ(firstRowsOf(shapeOf({0, 1, 3, 4}, 2), {0, 2, 3, 4}), Values({0}));
-  EXPECT_EQ(firstRowsOf(shapeOf({0, 1, 3, 4}, 2), {-1, 0}), Values());
+  EXPECT_EQ(firstRowsOf(SampleRuns::indexedRuns({0, 1, 3, 4}, 2), {0, 2, 3, 4}), Values({0}));
+  EXPECT_EQ(firstRowsOf(SampleRuns::indexedRuns({0, 1, 3, 4}, 2), {-1, 0}), Values());
 }
 
 TEST(ExternalRuns, AreSoughtDownwardsOnly)
 {
-  EXPECT_EQ(firstRowsOf(shapeOf({5, 1, 2}, 1), {1, 2, 5}), Values({10, 20}));
+  EXPECT_EQ(firstRowsOf(SampleRuns::indexedRuns({5, 1, 2}, 1), {1, 2, 5}), Values({10, 20}));
 }
 
 TEST(ExternalRuns, MayBeNone)
@@ -128,7 +120,7 @@ TEST(ExternalRuns, MayBeNone)
 
 TEST(ExternalRuns, AreFoundInFrontOfTheParametersWithoutAnIndex)
 {
-  SampleRuns::Plot plot(shapeOf({2, 3, 5}, 2));
+  SampleRuns::Plot plot(SampleRuns::indexedRuns({2, 3, 5}, 2));
   plot.container.getTable()->GetColumn(SampleRuns::runIndexColumn)->SetName("run");
   setExternal(plot.container, {5});
   EXPECT_EQ(valuesOf(plot.container.getDerivedTables().at(0), "Complex: A"), Values({20}));

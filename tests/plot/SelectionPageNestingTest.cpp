@@ -1,9 +1,11 @@
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "support/CapturedOutput.h"
+#include "support/Reaction.h"
+
+#include <vtkCommand.h>
 
 #include <gtest/gtest.h>
 
-#include "PageProbes.h"
 #include "SelectionPageFixture.h"
 
 namespace

@@ -3,6 +3,7 @@
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
+#include "support/SilentSettings.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkFloatArray.h>
@@ -26,15 +27,6 @@ namespace
 using Rows = std::set<vtkIdType>;
 using Runs = std::set<int>;
 
-SampleRuns::Shape shapeOf(std::vector<int> runIndices, int stride)
-{
-  SampleRuns::Shape shape;
-  shape.runIndices = std::move(runIndices);
-  shape.stride = stride;
-  shape.parameters = 0;
-  return shape;
-}
-
 void select(PlotContainer& container, const Runs& runs, int offset)
 {
   ParameterSelection selection;
@@ -52,20 +44,6 @@ Rows rowsOf(const SampleRuns::Shape& shape, const Runs& runs, int offset)
 std::unique_ptr<ParameterSelection> selectionOf(PlotContainer& container)
 {
   return std::unique_ptr<ParameterSelection>(container.getSelection());
-}
-
-void setStrideSilently(PlotContainer& container, int stride)
-{
-  container.getMetaData()->blockSignals(true);
-  container.getMetaData()->setStride(stride);
-  container.getMetaData()->blockSignals(false);
-}
-
-void setStyleSilently(PlotContainer& container, plotStyles style)
-{
-  container.getMetaData()->blockSignals(true);
-  container.getMetaData()->setPlotStyle(style);
-  container.getMetaData()->blockSignals(false);
 }
 
 void addIdColumn(vtkTable* table, const char* name, const std::vector<vtkIdType>& values)
@@ -108,23 +86,23 @@ TEST(SelectionOfRuns, IsOneNodeOfRowIndices)
 
 TEST(SelectionOfRuns, SkipsRunsThatTheTableDoesNotHave)
 {
-  EXPECT_EQ(rowsOf(shapeOf({0, 2, 5}, 2), {-4, 1, 2, 3, 5, 9}, 0), Rows({2, 4}));
+  EXPECT_EQ(rowsOf(SampleRuns::indexedRuns({0, 2, 5}, 2, 0), {-4, 1, 2, 3, 5, 9}, 0), Rows({2, 4}));
 }
 
 TEST(SelectionOfRuns, NeverMovesBackInTheTable)
 {
   // Run 2 is passed on the way to run 4; 5 still lies further down.
-  EXPECT_EQ(rowsOf(shapeOf({0, 4, 2, 5}, 1), {2, 4, 5}, 0), Rows({1, 3}));
+  EXPECT_EQ(rowsOf(SampleRuns::indexedRuns({0, 4, 2, 5}, 1, 0), {2, 4, 5}, 0), Rows({1, 3}));
 }
 
 TEST(SelectionOfRuns, GivesUpOnAllRunsBehindTheEnd)
 {
-  EXPECT_EQ(rowsOf(shapeOf({3, 1, 2}, 1), {1, 2, 3, 4, 5}, 0), Rows({0}));
+  EXPECT_EQ(rowsOf(SampleRuns::indexedRuns({3, 1, 2}, 1, 0), {1, 2, 3, 4, 5}, 0), Rows({0}));
 }
 
 TEST(SelectionOfRuns, StaysAtARowWithoutARunIndex)
 {
-  SampleRuns::Plot plot(shapeOf({0, 1, 2}, 1));
+  SampleRuns::Plot plot(SampleRuns::indexedRuns({0, 1, 2}, 1, 0));
   plot.container.getTable()->SetValueByName(1, ": Run Index", std::nan(""));
   select(plot.container, {0, 1, 2}, 0);
   EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0}));
@@ -188,7 +166,7 @@ TEST(SelectionOfRuns, DoesNothingWithoutRowsPerRun)
   plot.container.getAnnotationLink()->SetCurrentSelection(before);
   for (const int stride : {0, -1, std::numeric_limits<int>::min()})
   {
-    setStrideSilently(plot.container, stride);
+    storeStride(plot.container, stride);
     select(plot.container, {0, 1}, 0);
     EXPECT_EQ(plot.container.getAnnotationLink()->GetCurrentSelection(), before) << stride;
   }
@@ -212,7 +190,7 @@ TEST(SelectionOfRuns, LeavesOutARowThatAPartialRunDoesNotHave)
 {
   SampleRuns::Plot plot(SampleRuns::runs(2, 4, 0));
   // Runs of five rows: the second one ends after three.
-  setStrideSilently(plot.container, 5);
+  storeStride(plot.container, 5);
   for (vtkIdType row = 5; row < 8; ++row)
     plot.container.getTable()->SetValueByName(row, ": Run Index", 1.0);
   plot.container.getTable()->SetValueByName(4, ": Run Index", 0.0);
@@ -232,7 +210,7 @@ TEST(SelectionOfRuns, AsksForNoDrawing)
 
 TEST(SelectedRuns, AreTheRunsOfTheSelectedRowsWithTheirSource)
 {
-  SampleRuns::Plot plot(shapeOf({4, 7, 9}, 3));
+  SampleRuns::Plot plot(SampleRuns::indexedRuns({4, 7, 9}, 3, 0));
   plot.container.getMetaData()->sourceName = "scan";
   plot.container.getMetaData()->sourceId = 42;
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0, 2, 7}));
@@ -286,26 +264,26 @@ TEST(SelectedRuns, SkipIndicesThatAreNoInteger)
 
 TEST(SelectedRuns, ComeBackAsTheyWereSet)
 {
-  SampleRuns::Plot plot(shapeOf({1, 2, 4, 8, 16}, 3));
+  SampleRuns::Plot plot(SampleRuns::indexedRuns({1, 2, 4, 8, 16}, 3, 0));
   select(plot.container, {2, 3, 16}, 1);
   EXPECT_EQ(selectionOf(plot.container)->runs, Runs({2, 16}));
 }
 
 TEST(SelectedRuns, AreTheAcceptedOnesInTheSelectionPage)
 {
-  SampleRuns::Plot plot(shapeOf({4, 7, 9}, 2));
+  SampleRuns::Plot plot(SampleRuns::indexedRuns({4, 7, 9}, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0}));
   addIdColumn(plot.container.getTable(), "vtkRemainderSelection", {0, 0, 1, 0, 0, 5});
   EXPECT_EQ(selectionOf(plot.container)->runs, Runs({4}));
-  setStyleSilently(plot.container, selectionCdfPlot);
+  storeStyle(plot.container, selectionCdfPlot);
   EXPECT_EQ(selectionOf(plot.container)->runs, Runs({7, 9}));
 }
 
 TEST(SelectedRuns, ComeFromTheLinkInASelectionPageWithoutAcceptedRows)
 {
-  SampleRuns::Plot plot(shapeOf({4, 7, 9}, 2));
+  SampleRuns::Plot plot(SampleRuns::indexedRuns({4, 7, 9}, 2, 0));
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({0}));
-  setStyleSilently(plot.container, selectionCdfPlot);
+  storeStyle(plot.container, selectionCdfPlot);
   EXPECT_EQ(selectionOf(plot.container)->runs, Runs({4}));
   // The accepted rows are ids; a column of another type is not theirs.
   plot.container.addColumn({1, 1, 1, 1, 1, 1}, "vtkRemainderSelection");

@@ -5,6 +5,7 @@
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "support/CapturedOutput.h"
 #include "support/SampleRuns.h"
+#include "support/SilentSettings.h"
 
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
@@ -165,9 +166,7 @@ TEST(SelectionUpdate, DoesNotChangeTheSelection)
 TEST(SelectionUpdate, SplitsRowsAloneWithAStrideBelowOne)
 {
   SampleRuns::Plot plot(SampleRuns::runs(2, 2));
-  plot.container.getMetaData()->blockSignals(true);
-  plot.container.getMetaData()->setStride(0);
-  plot.container.getMetaData()->blockSignals(false);
+  storeStride(plot.container, 0);
   select(plot.container, {0, 2});
   EXPECT_EQ(valuesOf(plot.container.getDerivedTables().at(selectedSlot), "Complex: A"),
             Values({0, 10}));

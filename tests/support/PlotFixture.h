@@ -7,6 +7,7 @@
 #include "plot/PlotState.h"
 #include "support/PlotScene.h"
 #include "support/SampleTables.h"
+#include "support/SilentSettings.h"
 
 #include <vtkAxis.h>
 #include <vtkContextMapper2D.h>
@@ -56,12 +57,7 @@ protected:
   }
 
   /// Sets the style without drawing it.
-  void storeStyle(int style)
-  {
-    settings().blockSignals(true);
-    settings().setPlotStyle(static_cast<plotStyles>(style));
-    settings().blockSignals(false);
-  }
+  void storeStyle(int style) { ::storeStyle(container, style); }
 
   /// Drawings completed since the last call.
   unsigned long newDrawings()

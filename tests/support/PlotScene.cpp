@@ -4,9 +4,7 @@
 
 #include <vtkAbstractContextItem.h>
 #include <vtkNew.h>
-#include <vtkPNGWriter.h>
 #include <vtkUnsignedCharArray.h>
-#include <vtkWindowToImageFilter.h>
 
 PlotScene::PlotScene(int width, int height)
     : view(vtkSmartPointer<vtkContextView>::New())
@@ -36,14 +34,4 @@ int PlotScene::paintedPixels()
       ++painted;
   }
   return painted;
-}
-
-void PlotScene::writePng(const std::string& fileName)
-{
-  vtkNew<vtkWindowToImageFilter> image;
-  image->SetInput(view->GetRenderWindow());
-  vtkNew<vtkPNGWriter> writer;
-  writer->SetInputConnection(image->GetOutputPort());
-  writer->SetFileName(fileName.c_str());
-  writer->Write();
 }

@@ -24,8 +24,6 @@ public:
   void renderItems() { view->Render(); }
   /// Number of pixels of the last rendering that are not background white.
   int paintedPixels();
-  /// Writes the last rendering as PNG, for a person to look at.
-  void writePng(const std::string& fileName);
 
 private:
   vtkSmartPointer<vtkContextView> view;

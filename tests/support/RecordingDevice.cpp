@@ -9,7 +9,10 @@
 #include <vtkObjectFactory.h>
 #include <vtkPen.h>
 #include <vtkStdString.h>
+
+#if TALMESH_VTK_HAS_UNICODE_STRING
 #include <vtkUnicodeString.h>
+#endif
 
 #include <algorithm>
 #include <iterator>
@@ -123,11 +126,6 @@ void RecordingDevice::DrawString(float* point, const vtkStdString& string)
   record(Kind::String, point, 1).text = string;
 }
 
-void RecordingDevice::DrawString(float* point, const vtkUnicodeString& string)
-{
-  record(Kind::String, point, 1).text = string.utf8_str();
-}
-
 void RecordingDevice::DrawMathTextString(float* point, const vtkStdString& string)
 {
   record(Kind::MathText, point, 1).text = string;
@@ -148,10 +146,17 @@ void RecordingDevice::ComputeStringBounds(const vtkStdString& string, float boun
   ComputeJustifiedStringBounds(string.c_str(), bounds);
 }
 
+#if TALMESH_VTK_HAS_UNICODE_STRING
+void RecordingDevice::DrawString(float* point, const vtkUnicodeString& string)
+{
+  record(Kind::String, point, 1).text = string.utf8_str();
+}
+
 void RecordingDevice::ComputeStringBounds(const vtkUnicodeString& string, float bounds[4])
 {
   ComputeJustifiedStringBounds(string.utf8_str(), bounds);
 }
+#endif
 
 void RecordingDevice::ComputeJustifiedStringBounds(const char* string, float bounds[4])
 {

@@ -82,7 +82,6 @@ public:
   void DrawEllipticArc(float x, float y, float rX, float rY, float startAngle,
                        float stopAngle) override;
   void DrawString(float* point, const vtkStdString& string) override;
-  void DrawString(float* point, const vtkUnicodeString& string) override;
   void DrawMathTextString(float* point, const vtkStdString& string) override;
   void DrawImage(float p[2], float scale, vtkImageData* image) override;
   void DrawImage(const vtkRectf& pos, vtkImageData* image) override;
@@ -90,9 +89,13 @@ public:
   ///@{
   /// Every character is 6 wide and every line 12 high.
   void ComputeStringBounds(const vtkStdString& string, float bounds[4]) override;
-  void ComputeStringBounds(const vtkUnicodeString& string, float bounds[4]) override;
   void ComputeJustifiedStringBounds(const char* string, float bounds[4]) override;
   ///@}
+
+#if TALMESH_VTK_HAS_UNICODE_STRING
+  void DrawString(float* point, const vtkUnicodeString& string) override;
+  void ComputeStringBounds(const vtkUnicodeString& string, float bounds[4]) override;
+#endif
 
   void SetColor4(unsigned char color[4]) override;
   void SetTexture(vtkImageData* image, int properties) override;

@@ -33,9 +33,15 @@ std::vector<double> columnValues(const Shape& shape, int column)
 
 Shape runs(int count, int stride, int parameters)
 {
+  std::vector<int> indices(static_cast<std::size_t>(count));
+  std::iota(indices.begin(), indices.end(), 0);
+  return indexedRuns(std::move(indices), stride, parameters);
+}
+
+Shape indexedRuns(std::vector<int> runIndices, int stride, int parameters)
+{
   Shape shape;
-  shape.runIndices.resize(static_cast<std::size_t>(count));
-  std::iota(shape.runIndices.begin(), shape.runIndices.end(), 0);
+  shape.runIndices = std::move(runIndices);
   shape.stride = stride;
   shape.parameters = parameters;
   return shape;

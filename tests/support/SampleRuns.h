@@ -42,6 +42,9 @@ constexpr int firstParameterColumn = 4;
 /// `count` runs numbered from 0.
 Shape runs(int count, int stride, int parameters = 2);
 
+/// One run for each of `runIndices`, the values of the run-index column.
+Shape indexedRuns(std::vector<int> runIndices, int stride, int parameters = 2);
+
 /// Typed names of the columns.
 std::vector<Talmesh::TypedConcentrationName> items(const Shape& shape);
 

@@ -42,7 +42,7 @@ protected:
 
   vtkNew<vtkCombinedFilterAndSelectedRows> filter;
   vtkSmartPointer<vtkTable> table = makeThreeRuns();
-  CapturedVtkOutput vtkOutput;
+  VtkErrors vtkOutput;
 };
 } // namespace
 

@@ -51,7 +51,7 @@ protected:
   vtkSmartPointer<ExposedErrorPoints> item = makeExposed<ExposedErrorPoints>();
   vtkSmartPointer<vtkTable> table;
   RecordingPainter recording;
-  CapturedVtkOutput vtkOutput;
+  VtkErrors vtkOutput;
 };
 
 inline const std::vector<Points> ThreeBars{

@@ -75,7 +75,7 @@ protected:
   vtkSmartPointer<ExposedLineSet> item = makeExposed<ExposedLineSet>();
   vtkSmartPointer<vtkTable> table;
   RecordingPainter recording;
-  CapturedVtkOutput vtkOutput;
+  VtkErrors vtkOutput;
 };
 
 #endif

@@ -117,7 +117,7 @@ TEST_F(OrFilter, ReportsAMissingTimeColumnIndex)
   filter->SetTimeColumnIndex(-1);
   filter->SetInputData(1, makeRowSelection({0}));
   const ErrorLog errors(filter);
-  CapturedVtkOutput vtkOutput;
+  VtkErrors vtkOutput;
   EXPECT_FALSE(filter->GetExecutive()->Update());
   const auto message = onlyMessage(errors);
   EXPECT_NE(message.find("): TimeColumnIndex not set.\n\n"), std::string::npos) << message;

@@ -66,7 +66,7 @@ protected:
 
   vtkNew<Filter> filter;
   vtkSmartPointer<vtkTable> table = makeThreeRuns();
-  CapturedVtkOutput vtkOutput;
+  VtkErrors vtkOutput;
 };
 
 using Filters = ::testing::Types<vtkCombinedFilterOrSelectedRows, vtkCombinedFilterAndSelectedRows>;

@@ -42,7 +42,7 @@ protected:
   vtkSmartPointer<ExposedStepLine> item = makeExposed<ExposedStepLine>();
   vtkSmartPointer<vtkTable> table;
   RecordingPainter recording;
-  CapturedVtkOutput vtkOutput;
+  VtkErrors vtkOutput;
 };
 } // namespace
 

@@ -3,7 +3,6 @@
 #include <vtkDataArray.h>
 #include <vtkDoubleArray.h>
 #include <vtkIndent.h>
-#include <vtkOutputWindow.h>
 
 #include <cstring>
 #include <sstream>
@@ -43,17 +42,6 @@ std::string expectedMessage(vtkObject* object, int line, const std::string& text
   message << object->GetClassName() << ", line " << line << "\n"
           << object->GetClassName() << " (" << object << "): " << text << "\n\n";
   return message.str();
-}
-
-CapturedVtkOutput::CapturedVtkOutput()
-    : previous(vtkOutputWindow::GetInstance())
-{
-  vtkOutputWindow::SetInstance(window);
-}
-
-CapturedVtkOutput::~CapturedVtkOutput()
-{
-  vtkOutputWindow::SetInstance(previous);
 }
 
 vtkSmartPointer<vtkTable> makeTable(const std::vector<NamedColumn>& columns)

@@ -3,6 +3,7 @@
 
 #include "support/ArrayColumns.h"
 #include "support/RecordingDevice.h"
+#include "support/VtkErrors.h"
 
 #include <vtkCommand.h>
 #include <vtkIdTypeArray.h>
@@ -10,7 +11,6 @@
 #include <vtkObject.h>
 #include <vtkPlotPoints.h>
 #include <vtkSmartPointer.h>
-#include <vtkStringOutputWindow.h>
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
@@ -44,22 +44,6 @@ std::string onlyMessage(const ErrorLog& log);
 
 /// What onlyMessage() must give for a message of @p object.
 std::string expectedMessage(vtkObject* object, int line, const std::string& text);
-
-/// Takes the place of VTK's output window while it lives.
-class CapturedVtkOutput
-{
-public:
-  CapturedVtkOutput();
-  ~CapturedVtkOutput();
-  CapturedVtkOutput(const CapturedVtkOutput&) = delete;
-  CapturedVtkOutput& operator=(const CapturedVtkOutput&) = delete;
-
-  std::string text() const { return window->GetOutput(); }
-
-private:
-  vtkNew<vtkStringOutputWindow> window;
-  vtkSmartPointer<vtkOutputWindow> previous;
-};
 
 /// A new object of a class made for tests, which has no New() of its own.
 template <class Item>
