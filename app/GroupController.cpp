@@ -6,8 +6,9 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunLayout.h"
-#include "plot/RunSelection.h"
+#include "plot/SelectionNodes.h"
 
+#include <vtkAnnotationLink.h>
 #include <vtkIntArray.h>
 #include <vtkTable.h>
 
@@ -17,7 +18,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
+#include <vector>
 
 namespace Talmesh::app
 {
@@ -25,20 +26,14 @@ namespace Talmesh::app
 namespace
 {
 
-/// Clusters count runs by position, selections by the number that the table gives a run.
-std::set<int> numbersOfRuns(const PlotContainer& container, const std::set<int>& positions)
+class WaitCursor
 {
-  const std::vector<plot::PlacedRun> runs = plot::wholeRuns(container.state());
-  if (runs.empty())
-    return positions;
-  const plot::RunLayout layout = {container.getTable()->GetNumberOfRows(),
-                                  container.getMetaData()->getStride()};
-  std::set<int> numbers;
-  for (const plot::PlacedRun& run : runs)
-    if (positions.count(static_cast<int>(layout.runOf(run.firstRow))) != 0)
-      numbers.insert(run.index);
-  return numbers;
-}
+public:
+  WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+};
 
 std::vector<ParameterSelection> clusterSelections(PlotContainer& container,
                                                   const std::string& prefix)
@@ -49,7 +44,6 @@ std::vector<ParameterSelection> clusterSelections(PlotContainer& container,
   for (ParameterSelection* selection : owned)
   {
     selections.push_back(*selection);
-    selections.back().runs = numbersOfRuns(container, selection->runs);
     delete selection;
   }
   return selections;
@@ -98,9 +92,10 @@ void GroupController::group()
 {
   if (!container)
     return;
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  container->clusterTimeSeries(dock.groupCount(), dock.mode());
-  QApplication::restoreOverrideCursor();
+  {
+    const WaitCursor waiting;
+    container->clusterTimeSeries(dock.groupCount(), dock.mode());
+  }
   selections = clusterSelections(*container, tr("Group").toStdString());
   groups.groupOfRun = membershipOf(*container);
   groups.names.clear();
@@ -127,8 +122,16 @@ void GroupController::show()
 
 void GroupController::select(int group)
 {
-  if (container && group >= 0 && group < static_cast<int>(selections.size()))
-    container->setSelection(&selections[static_cast<std::size_t>(group)], 0);
+  if (!container || group < 0 || group >= static_cast<int>(selections.size()))
+    return;
+  const plot::RunLayout layout = {container->getTable()->GetNumberOfRows(),
+                                  container->getMetaData()->getStride()};
+  // A group counts its runs by position, whatever their numbers in the table.
+  std::vector<vtkIdType> rows;
+  for (const int run : selections[static_cast<std::size_t>(group)].runs)
+    if (run < layout.runs())
+      rows.push_back(layout.firstRow(run));
+  container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
 }
 
 /// The columns over x that can be scaled.
