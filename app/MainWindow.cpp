@@ -214,7 +214,7 @@ void MainWindow::showStudyInPlot(const Study& opened)
 /// Shows what the command line asked for, once, or the study's own first choice.
 bool MainWindow::applyWishes()
 {
-  PlotChoice choice = choiceOf(*container);
+  PlotChoice choice = dock->choice();
   const std::string error = chooseByName(*container, wishes, choice);
   wishes = CommandLineOptions();
   if (error.empty())

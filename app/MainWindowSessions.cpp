@@ -40,22 +40,31 @@ void MainWindow::chooseSession()
   dialog->open();
 }
 
+bool MainWindow::canSaveSession() const
+{
+  return container && !study.chart && (study.runs || study.table);
+}
+
 void MainWindow::saveSession()
 {
+  if (!canSaveSession())
+    return;
   auto* dialog = new QFileDialog(this, tr("Save session"), {}, tr("Sessions (*.talmesh)"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setOptions(getFileDialogOption());
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(QLatin1String(sessionSuffix));
   connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::saveSessionTo);
+  // Another study has another container: this one is no longer there to be saved.
+  connect(container, &QObject::destroyed, dialog, &QDialog::reject);
   dialog->open();
 }
 
 bool MainWindow::saveSessionTo(const QString& path)
 {
-  if (!container)
+  if (!canSaveSession())
     return false;
-  const std::string error = Talmesh::app::saveSession(path, study, *container);
+  const std::string error = Talmesh::app::saveSession(path, study, *container, dock->choice());
   if (!error.empty())
   {
     showError(QString::fromStdString(error));
@@ -71,6 +80,7 @@ void MainWindow::showSession(const RestoredSession& session)
   restoreSettings(session, *container);
   dock->setColumns(container->getLabels());
   restoreSelection(session, *container);
+  dock->setChoice(restoredChoice(session, *container));
   // The history begins with what is restored.
   selection->restartHistory();
 }

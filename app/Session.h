@@ -1,6 +1,8 @@
 #ifndef Session_h
 #define Session_h
 
+#include "app/PlotChoice.h"
+#include "app/RunTableImport.h"
 #include "app/SessionSettings.h"
 #include "app/SessionTable.h"
 
@@ -29,18 +31,28 @@ struct OpenedSession
   std::shared_ptr<const RestoredSession> session;
   /// One line of UTF-8 without the file's name; empty on success.
   std::string error;
+  bool cancelled = false;
 };
 
 /// Writes what a container shows of a study.
+/// @param choice what the user chose; only the XY plot shows all of it
 /// @return why it could not be written, in one line of UTF-8; empty on success
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container);
+std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
+                        const PlotChoice& choice);
 
 /// Reads a session. May run in any thread.
-OpenedSession openSession(const QString& path);
+OpenedSession openSession(const QString& path, const ImportProgress& progress = {});
 
-/// Restores further columns and settings in a container that shows the session's study. Does not
-/// draw.
+/// Charts of one page that a session brings back; a page of more opens as an XY plot.
+inline constexpr int mostRestoredCharts = 60 * 60;
+
+/// Restores further columns and settings in a container that shows the session's study. The
+/// parameters are those that the container has found, or as many of them as the session names. Does
+/// not draw.
 void restoreSettings(const RestoredSession& session, PlotContainer& container);
+
+/// What the user had chosen, in a container whose settings are restored.
+PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container);
 
 /// Selects what was selected, which the container's annotation link announces.
 void restoreSelection(const RestoredSession& session, PlotContainer& container);

@@ -22,7 +22,6 @@ const QByteArray magic = QByteArrayLiteral("\x89TALMESH");
 constexpr quint32 formatVersion = 1;
 constexpr int headerSize = 24;
 constexpr int checksumSize = 32;
-constexpr quint64 largestSettings = 64 << 20;
 /// A QByteArray counts with int and has a header.
 constexpr quint64 largestDump = std::numeric_limits<int>::max() - 64;
 
@@ -131,6 +130,9 @@ ReadSessionParts readSession(QIODevice& device)
 
 std::string saveSessionFile(const QString& path, const SessionParts& parts)
 {
+  if (parts.dump.isEmpty() || parts.settings.size() > largestSettings)
+    return withValues(translated("SessionFile", "%1: the table is too large for a session"),
+                      {path.toStdString()});
   QSaveFile file(path);
   if (file.open(QIODevice::WriteOnly) && writeSession(file, parts) && file.commit())
     return {};

@@ -78,20 +78,21 @@ OpenedStudy openBytes(const FileBytes& read, const ImportProgress& progress)
   return opened;
 }
 
-OpenedStudy openFromSession(const QString& path)
+OpenedStudy openFromSession(const QString& path, const ImportProgress& progress)
 {
-  const OpenedSession session = openSession(path);
+  const OpenedSession session = openSession(path, progress);
   OpenedStudy opened;
   opened.study = session.study;
   opened.session = session.session;
   opened.error = session.error;
+  opened.cancelled = session.cancelled;
   return opened;
 }
 
 OpenedStudy open(const QString& path, const ImportProgress& progress)
 {
   if (isSessionFile(path))
-    return openFromSession(path);
+    return openFromSession(path, progress);
   const FileBytes read = readBytes(path, progress);
   OpenedStudy opened;
   opened.error = read.error;

@@ -14,7 +14,6 @@ namespace
 {
 
 constexpr std::string_view blanks = " \t";
-constexpr std::size_t mostColumns = 20000;
 constexpr std::size_t rowsBetweenReports = 2000;
 
 bool isContinuationByte(char c)

@@ -13,6 +13,9 @@
 namespace Talmesh::app
 {
 
+/// More columns are refused.
+inline constexpr std::size_t mostColumns = 20000;
+
 /// The values of one column as read.
 struct ColumnValues
 {
