@@ -134,7 +134,8 @@ std::string saveSessionFile(const QString& path, const SessionParts& parts)
     return withValues(translated("SessionFile", "%1: the table is too large for a session"),
                       {path.toStdString()});
   QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly) && writeSession(file, parts) && file.commit())
+  // What is still in Qt's buffer when it commits may be lost without a word.
+  if (file.open(QIODevice::WriteOnly) && writeSession(file, parts) && file.flush() && file.commit())
     return {};
   return withValues(translated("SessionFile", "%1: cannot be written: %2"),
                     {path.toStdString(), file.errorString().toStdString()});

@@ -25,7 +25,9 @@ bool replace(const QString& fileName, const char* text, qint64 size)
   QSaveFile file(fileName);
   // A folder that takes no new file may hold one that can be written.
   file.setDirectWriteFallback(true);
-  return file.open(QIODevice::WriteOnly) && file.write(text, size) == size && file.commit();
+  // What is still in Qt's buffer when it commits may be lost without a word.
+  return file.open(QIODevice::WriteOnly) && file.write(text, size) == size && file.flush() &&
+         file.commit();
 }
 
 } // namespace

@@ -260,7 +260,7 @@ TEST_F(Program, ShowsTheLegendOfASessionInTheXYPlot)
   const Study study = sampleStudy();
   PlotContainer container(nullptr);
   showStudy(study, container);
-  container.setPlotStyle(parallelCoordinates);
+  container.setPlotStyle(scatterPlotMatrix);
   const auto exported = [&](bool shown)
   {
     PlotChoice choice = choiceOf(container);

@@ -241,15 +241,19 @@ TEST_F(SessionFile, SaysThatAFolderIsMissing)
 TEST_F(SessionFile, LeavesTheOldFileWholeWhenTheDiskIsFull)
 {
   EXPECT_EQ(saveSessionFile(path(), small), "");
-  std::string error;
+  const SessionParts little = {"{}", QByteArray(5000, 'd')};
+  for (const SessionParts& parts : {large(), little})
   {
-    const FullDisk full(4096);
-    error = saveSessionFile(path(), large());
+    std::string error;
+    {
+      const FullDisk full(4096);
+      error = saveSessionFile(path(), parts);
+    }
+    const std::string start = path().toStdString() + ": cannot be written: ";
+    EXPECT_EQ(error.substr(0, start.size()), start);
+    EXPECT_EQ(content(), smallBytes());
+    EXPECT_EQ(files(), QStringList{"study.talmesh"});
   }
-  const std::string start = path().toStdString() + ": cannot be written: ";
-  EXPECT_EQ(error.substr(0, start.size()), start);
-  EXPECT_EQ(content(), smallBytes());
-  EXPECT_EQ(files(), QStringList{"study.talmesh"});
 }
 
 TEST_F(SessionFile, LeavesTheOldFileWholeWhenTheProgramDiesWhileWriting)

@@ -153,7 +153,7 @@ TEST_F(SessionInWindow, KeepsTheLegendBehindAnotherStyle)
 {
   openSample();
   PlotChoice choice = change();
-  choice.style = parallelCoordinates;
+  choice.style = scatterPlotMatrix;
   window->plotDock()->setChoice(choice);
   emit window->plotDock()->choiceChanged();
   ASSERT_TRUE(window->saveSessionTo(path("a.talmesh")));
@@ -163,7 +163,7 @@ TEST_F(SessionInWindow, KeepsTheLegendBehindAnotherStyle)
   // The selection is announced later.
   QTest::qWait(50);
   PlotChoice shown = window->plotDock()->choice();
-  EXPECT_EQ(shown.style, parallelCoordinates);
+  EXPECT_EQ(shown.style, scatterPlotMatrix);
   EXPECT_TRUE(shown.legend);
   EXPECT_TRUE(shown.logY);
   auto* style = window->plotDock()->findChild<QComboBox*>(QStringLiteral("style"));

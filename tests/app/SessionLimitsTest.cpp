@@ -208,7 +208,7 @@ TEST_F(SessionLimits, OpeningCanBeCancelledAtEveryStep)
                                             parts.push_back(part);
                                             return true;
                                           });
-  EXPECT_TRUE(whole.session);
+  ASSERT_TRUE(whole.session);
   EXPECT_FALSE(whole.cancelled);
   ASSERT_GE(parts.size(), 2 + whole.study.runs->items.size());
   EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
