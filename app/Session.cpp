@@ -1,6 +1,8 @@
 #include "app/Session.h"
 
+#include "app/DumpedTable.h"
 #include "app/SessionFile.h"
+#include "app/SessionTable.h"
 #include "app/TableText.h"
 #include "app/TranslatedText.h"
 #include "plot/PlotContainer.h"

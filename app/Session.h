@@ -4,7 +4,11 @@
 #include "app/PlotChoice.h"
 #include "app/RunTableImport.h"
 #include "app/SessionSettings.h"
-#include "app/SessionTable.h"
+#include "app/Study.h"
+
+#include <vtkIntArray.h>
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
 
 #include <QString>
 

@@ -94,12 +94,12 @@ QJsonValue boundValue(double bound)
   return std::isfinite(bound) ? QJsonValue(bound) : QJsonValue();
 }
 
-QString cut(const std::string& text)
+QString shortText(const std::string& text)
 {
   return QString::fromStdString(text).left(mostCharacters);
 }
 
-std::string textOf(const QJsonValue& value)
+std::string readText(const QJsonValue& value)
 {
   return value.toString().left(mostCharacters).toStdString();
 }
@@ -122,7 +122,7 @@ QJsonObject objectOf(const PlotMetaData& plot)
   for (const ColumnListName& entry : columnLists)
     object[QLatin1String(entry.name)] = arrayOf(plot.*entry.list);
   for (const TextName& entry : texts)
-    object[QLatin1String(entry.name)] = cut(plot.*entry.text);
+    object[QLatin1String(entry.name)] = shortText(plot.*entry.text);
   object["stride"] = plot.getStride();
   object["sourceId"] = plot.sourceId;
   object["colorColumn"] = plot.colorColumn;
@@ -162,7 +162,7 @@ public:
     for (const ColumnListName& entry : columnLists)
       readColumns(entry.name, plot.*entry.list);
     for (const TextName& entry : texts)
-      plot.*entry.text = textOf(object[QLatin1String(entry.name)]);
+      plot.*entry.text = readText(object[QLatin1String(entry.name)]);
     plot.setStride(whole("stride", plot.getStride(), 1, std::numeric_limits<int>::max()));
     plot.sourceId =
         whole("sourceId", 0, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
@@ -247,7 +247,7 @@ QByteArray settingsText(const SessionSettings& settings)
   for (const auto& [lower, upper] : settings.parameterRanges)
     ranges.append(QJsonArray{boundValue(lower), boundValue(upper)});
   QJsonObject object;
-  object["name"] = cut(settings.name);
+  object["name"] = shortText(settings.name);
   object["pointsPerRun"] = settings.pointsPerRun;
   object["parameterRanges"] = ranges;
   object["legend"] = settings.legend;
@@ -269,7 +269,7 @@ ReadSessionSettings readSettings(const QByteArray& text, int columns)
   }
   const QJsonObject object = document.object();
   SessionSettings& settings = read.settings;
-  settings.name = textOf(object["name"]);
+  settings.name = readText(object["name"]);
   settings.pointsPerRun =
       SettingsReader(object, columns).whole("pointsPerRun", 0, 0, std::numeric_limits<int>::max());
   settings.parameterRanges = readRanges(object["parameterRanges"].toArray(), columns);

@@ -1,5 +1,7 @@
+#include "app/DumpedTable.h"
 #include "app/Session.h"
 #include "app/SessionFile.h"
+#include "app/SessionTable.h"
 #include "app/StudyFile.h"
 #include "external/PlotMetaData.h"
 #include "plot/BinaryDump.h"

@@ -1,6 +1,7 @@
 #include "app/Session.h"
 
 #include "app/SessionFile.h"
+#include "app/SessionTable.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
