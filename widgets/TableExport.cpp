@@ -20,7 +20,7 @@ bool writeInto(const QString& fileName, const char* text, qint64 size)
   return file.open(QIODevice::WriteOnly) && file.write(text, size) == size && file.flush();
 }
 
-bool replace(const QString& fileName, const char* text, qint64 size)
+bool replaceFile(const QString& fileName, const char* text, qint64 size)
 {
   QSaveFile file(fileName);
   // A folder that takes no new file may hold one that can be written.
@@ -40,5 +40,5 @@ bool exportTable(PlotContainer& container, const QString& fileName)
   const auto size = static_cast<qint64>(std::strlen(text));
   const QFileInfo old(fileName);
   const bool replaceable = !old.exists() || old.isFile();
-  return replaceable ? replace(fileName, text, size) : writeInto(fileName, text, size);
+  return replaceable ? replaceFile(fileName, text, size) : writeInto(fileName, text, size);
 }
