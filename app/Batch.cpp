@@ -42,7 +42,8 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
     restoreSettings(*opened.session, container);
     restoreSelection(*opened.session, container);
   }
-  PlotChoice choice = choiceOf(container);
+  PlotChoice choice =
+      opened.session ? restoredChoice(*opened.session, container) : choiceOf(container);
   std::string error = chooseByName(container, options, choice);
   if (error.empty())
     error = applyChoice(container, choice);

@@ -46,7 +46,7 @@ ClusterDock::ClusterDock(QWidget* parent)
     , reasonLabel(new QLabel)
     , count(new QSpinBox)
     , modes(new QComboBox)
-    , start(new QPushButton(tr("&Group the runs")))
+    , start(new QPushButton(tr("G&roup the runs")))
     , list(new QListWidget)
 {
   setObjectName(QStringLiteral("clusterDock"));
@@ -93,7 +93,7 @@ void ClusterDock::makeForm()
                        "runs only the selected ones unless they have the colours of groups"));
   for (const QCheckBox* box : {colours, means, bands})
     connect(box, &QCheckBox::toggled, this, &ClusterDock::lookChanged);
-  normalise = addSwitch(QStringLiteral("normaliseRuns"), tr("Normalise each run to its ma&ximum"),
+  normalise = addSwitch(QStringLiteral("normaliseRuns"), tr("Normalise each run to its m&aximum"),
                         tr("Scale each run of the chosen y columns so that its largest value is 1; "
                            "unticked, the values are loaded again. Times, numbers of runs and "
                            "parameters are left out"));

@@ -71,8 +71,8 @@ std::string writeText(const QString& path, const QString& text)
 {
   const QByteArray bytes = text.toUtf8();
   QSaveFile file(path);
-  const bool written =
-      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+                       file.flush() && file.commit();
   return written ? std::string() : (path + QLatin1String(": ") + file.errorString()).toStdString();
 }
 

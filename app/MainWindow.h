@@ -104,6 +104,7 @@ private:
   void chooseExport();
   void chooseSession();
   void saveSession();
+  bool canSaveSession() const;
   void addSessionActions(QMenu* menu);
   void showSession(const RestoredSession& session);
   void saveSelection();

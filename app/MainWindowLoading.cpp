@@ -132,7 +132,7 @@ void MainWindow::sayThatItFailed(const QString& message)
 /// Shows what the command line asked for, once, or the study's own first choice.
 bool MainWindow::applyWishes()
 {
-  PlotChoice choice = choiceOf(*container);
+  PlotChoice choice = dock->choice();
   const std::string error = chooseByName(*container, wishes, choice);
   if (error.empty())
     dock->setChoice(choice);

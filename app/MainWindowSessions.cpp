@@ -9,6 +9,7 @@
 #include "plot/PlotContainer.h"
 
 #include <QAction>
+#include <QFileDialog>
 #include <QMenu>
 
 namespace Talmesh::app
@@ -29,18 +30,28 @@ void MainWindow::chooseSession()
             [this](const QString& path) { openFile(path); });
 }
 
+bool MainWindow::canSaveSession() const
+{
+  return container && !study.chart && (study.runs || study.table);
+}
+
 void MainWindow::saveSession()
 {
-  askToSave(this, tr("Save session"), tr("Sessions (*.talmesh)"), QLatin1String(sessionSuffix),
-            [this](const QString& path) { saveSessionTo(path); });
+  if (!canSaveSession())
+    return;
+  QFileDialog* dialog =
+      askToSave(this, tr("Save session"), tr("Sessions (*.talmesh)"), QLatin1String(sessionSuffix),
+                [this](const QString& path) { saveSessionTo(path); });
+  // Another study has another container: this one is no longer there to be saved.
+  connect(container, &QObject::destroyed, dialog, &QDialog::reject);
 }
 
 bool MainWindow::saveSessionTo(const QString& path)
 {
-  if (!container)
+  if (!canSaveSession())
     return false;
   const std::string error =
-      Talmesh::app::saveSession(path, study, *container, &groups->runNormaliser());
+      Talmesh::app::saveSession(path, study, *container, dock->choice(), &groups->runNormaliser());
   const bool written = sayWhatWasWritten(path, error);
   if (written)
     recent.add(path);
@@ -54,6 +65,7 @@ void MainWindow::showSession(const RestoredSession& session)
   timeCourses->refresh();
   dock->setColumns(container->getLabels());
   restoreSelection(session, *container);
+  dock->setChoice(restoredChoice(session, *container));
   // The history begins with what is restored.
   selection->restartHistory();
 }

@@ -99,7 +99,7 @@ void MainWindow::followStudy()
       action->setChecked(action->objectName().toStdString() == id);
   }
   const bool own = study.chart != nullptr;
-  findChild<QAction*>(QStringLiteral("saveSession"))->setEnabled(!own);
+  findChild<QAction*>(QStringLiteral("saveSession"))->setEnabled(canSaveSession());
   if (own)
     tabs->setCurrentWidget(plot);
   studiesMenu->findChild<QAction*>(QStringLiteral("returnToRuns"))

@@ -61,7 +61,7 @@ PlotDock::PlotDock(QWidget* parent)
   auto* panel = new QWidget;
   auto* layout = new QFormLayout(panel);
   layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
-  layout->addRow(tr("St&yle"), style);
+  layout->addRow(tr("Sty&le"), style);
   layout->addRow(tr("&X"), x);
   layout->addRow(tr("&Y"), y);
   layout->addRow(tr("&Z"), z);

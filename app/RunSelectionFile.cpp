@@ -88,7 +88,8 @@ std::string saveRunSelection(const QString& path, const ParameterSelection& sele
 {
   QSaveFile file(path);
   const QByteArray text = textOf(selection);
-  if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+  if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() &&
+      file.commit())
     return {};
   return QCoreApplication::translate("RunSelectionFile", "%1: cannot be written: %2")
       .arg(path, file.errorString())

@@ -1,9 +1,11 @@
 #include "app/Session.h"
 
-#include "app/PlotChoice.h"
+#include "app/DumpedTable.h"
 #include "app/RunNormaliser.h"
 #include "app/SessionFile.h"
+#include "app/SessionTable.h"
 #include "app/TranslatedText.h"
+#include "app/Utf8Text.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
@@ -11,6 +13,10 @@
 #include <vtkAbstractArray.h>
 
 #include <QFileInfo>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <new>
 
 namespace Talmesh::app
 {
@@ -18,11 +24,12 @@ namespace Talmesh::app
 namespace
 {
 
-/// The parts of the progress after which the bytes are read, and the table is made of them.
-constexpr double bytesRead = 0.5;
-constexpr double tableMade = 0.9;
+/// The part of the progress that reading the bytes takes; the rest is what is made of them.
+constexpr double readingPart = 0.3;
+/// With fewer y columns parallel coordinates show all columns.
+constexpr double fewestChosenAxes = 3.0;
 
-SessionSettings settingsOf(const Study& study, PlotContainer& container)
+SessionSettings settingsOf(const Study& study, PlotContainer& container, const PlotChoice& choice)
 {
   SessionSettings settings;
   settings.name = study.name;
@@ -31,15 +38,15 @@ SessionSettings settingsOf(const Study& study, PlotContainer& container)
     settings.pointsPerRun = static_cast<int>(study.runs->pointsPerTrajectory);
     settings.parameterRanges = study.runs->parameterRanges;
   }
-  const PlotChoice choice = choiceOf(container);
   settings.legend = choice.legend;
   settings.logY = choice.logY;
   copySettings(*container.getMetaData(), *settings.plot);
+  const DumpedPlaces places(container.getTable());
   for (std::vector<int>* columns : {&settings.plot->xColumns, &settings.plot->yColumns,
                                     &settings.plot->zColumns, &settings.plot->parameterColumns})
     for (int& column : *columns)
-      column = columnInDump(container.getTable(), column);
-  settings.plot->colorColumn = columnInDump(container.getTable(), settings.plot->colorColumn);
+      column = places.of(column);
+  settings.plot->colorColumn = places.of(settings.plot->colorColumn);
   settings.plot->storedCoordinateWindow = CoordinateWindow();
   const plot::PlotState& state = container.state();
   if (const CoordinateWindow* window = plot::rememberedWindow(state))
@@ -52,6 +59,21 @@ SessionSettings settingsOf(const Study& study, PlotContainer& container)
   return settings;
 }
 
+SessionParts partsOf(const Study& study, PlotContainer& container, const PlotChoice& choice,
+                     const RunNormaliser* normaliser)
+{
+  SessionSettings settings = settingsOf(study, container, choice);
+  vtkSmartPointer<vtkTable> table = container.getTable();
+  if (normaliser)
+  {
+    table = normaliser->originalTable();
+    const DumpedPlaces places(container.getTable());
+    for (const int column : normaliser->normalised())
+      settings.normalised.push_back(places.of(column));
+  }
+  return {settingsText(settings), dumpStudy(study, container, table)};
+}
+
 void restoreWindow(plot::PlotState& state, const SessionSettings& settings)
 {
   state.metaData->storedCoordinateWindow = CoordinateWindow();
@@ -59,6 +81,42 @@ void restoreWindow(plot::PlotState& state, const SessionSettings& settings)
     return;
   state.coordinateWindows[plot::currentKey(state)] = settings.plot->storedCoordinateWindow;
   state.windowScales[plot::currentKey(state)] = settings.windowScales;
+}
+
+/// The columns that a session names as parameters come from a file.
+bool areSomeOf(const std::vector<int>& named, std::vector<int> found)
+{
+  std::vector<int> sorted = named;
+  std::sort(sorted.begin(), sorted.end());
+  std::sort(found.begin(), found.end());
+  return !sorted.empty() && std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end() &&
+         std::includes(found.begin(), found.end(), sorted.begin(), sorted.end());
+}
+
+/// Charts of the page that the container's settings call for, or axes of parallel coordinates.
+double chartCount(const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  const auto parameters = static_cast<double>(settings.parameterColumns.size());
+  const auto columns = static_cast<double>(container.getTable()->GetNumberOfColumns());
+  const auto chosen = static_cast<double>(settings.yColumns.size());
+  switch (settings.getPlotStyle())
+  {
+  case scatterPlotMatrix:
+  {
+    const double shown = settings.getLimitColumVisibility() ? parameters + 2.0 : columns;
+    return shown * shown;
+  }
+  case multiPlot:
+  case fitParameterDistribution:
+    return parameters * parameters;
+  case selectionCdfPlot:
+    return parameters;
+  case parallelCoordinates:
+    return chosen < fewestChosenAxes ? columns : chosen;
+  default:
+    return 1.0;
+  }
 }
 
 vtkSmartPointer<vtkSelection> selectionOf(vtkIntArray* flags)
@@ -70,58 +128,78 @@ vtkSmartPointer<vtkSelection> selectionOf(vtkIntArray* flags)
   return plot::makeRowSelection(rows);
 }
 
+int columnCount(const DumpedTable& table)
+{
+  if (!table.study.runs)
+    return static_cast<int>(table.study.table->GetNumberOfColumns());
+  return static_cast<int>(table.study.runs->items.size()) +
+         static_cast<int>(table.further->GetNumberOfColumns());
+}
+
+/// Writes the session into `opened`, whose study is read.
+void readRest(OpenedSession& opened, const SessionParts& parts, const DumpedTable& table)
+{
+  ReadSessionSettings read = readSettings(parts.settings, columnCount(table));
+  opened.error = read.error;
+  if (!opened.error.empty())
+    return;
+  if (opened.study.runs)
+    read.settings.plot->setStride(read.settings.pointsPerRun);
+  opened.study.name = read.settings.name;
+  opened.session = std::make_shared<RestoredSession>(
+      RestoredSession{read.settings, table.further, table.selected});
+}
+
 } // namespace
 
 std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
-                        const RunNormaliser* normaliser)
+                        const PlotChoice& choice, const RunNormaliser* normaliser)
 {
-  SessionSettings settings = settingsOf(study, container);
-  vtkSmartPointer<vtkTable> table = container.getTable();
-  if (normaliser)
+  const std::string repeated = repeatedItem(study);
+  if (!repeated.empty())
+    return withValues(
+        translated("SessionFile",
+                   "%1: two columns have the name %2; a session needs a name for each"),
+        {path.toStdString(), quotedForMessage(repeated)});
+  try
   {
-    table = normaliser->originalTable();
-    for (const int column : normaliser->normalised())
-      settings.normalised.push_back(columnInDump(container.getTable(), column));
+    return saveSessionFile(path, partsOf(study, container, choice, normaliser));
   }
-  const SessionParts parts = {settingsText(settings), dumpStudy(study, container, table)};
-  if (parts.dump.isEmpty())
-    return withValues(translated("SessionFile", "%1: the table is too large for a session"),
-                      {path.toStdString()});
-  return saveSessionFile(path, parts);
+  catch (const std::bad_alloc&)
+  {
+    return withValues(
+        translated("SessionFile", "%1: there is not enough memory to save the session"),
+        {path.toStdString()});
+  }
 }
 
 OpenedSession openSession(const QString& path, const ImportProgress& progress)
 {
-  const auto cancels = [&progress](double done) { return progress && !progress(done); };
   OpenedSession opened;
-  const ReadSessionParts file =
-      loadSessionFile(path, [&cancels](double done) { return !cancels(bytesRead * done); });
+  const auto reading = [&progress](double done)
+  { return !progress || progress(readingPart * done); };
+  const ReadSessionParts file = loadSessionFile(path, reading);
   opened.error = file.error;
   opened.cancelled = file.cancelled;
   if (!opened.error.empty() || opened.cancelled)
     return opened;
+  const auto parsing = [&progress](double done)
+  { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
+  opened.cancelled = !parsing(0.0);
+  if (opened.cancelled)
+    return opened;
   // How many columns there are is known last: settings are read again for them.
-  const SessionSettings first = readSettings(file.parts.settings, 0).settings;
-  DumpedTable table = readStudyDump(file.parts.dump, first.pointsPerRun, first.parameterRanges);
+  const SessionSettings first = readSettings(file.parts.settings, mostSessionColumns).settings;
+  const DumpedTable table =
+      readStudyDump(file.parts.dump, first.pointsPerRun, first.parameterRanges, parsing);
   opened.error = table.error;
-  opened.cancelled = opened.error.empty() && cancels(tableMade);
+  opened.cancelled = table.cancelled;
   if (!opened.error.empty() || opened.cancelled)
     return opened;
-  const std::size_t further =
-      table.further ? static_cast<std::size_t>(table.further->GetNumberOfColumns()) : 0;
-  const std::size_t columns =
-      table.study.runs ? table.study.runs->items.size() + further
-                       : static_cast<std::size_t>(table.study.table->GetNumberOfColumns());
-  ReadSessionSettings settings = readSettings(file.parts.settings, static_cast<int>(columns));
-  opened.error = settings.error;
-  if (!opened.error.empty())
-    return opened;
-  if (settings.settings.name.empty())
-    settings.settings.name = QFileInfo(path).fileName().toStdString();
   opened.study = table.study;
-  opened.study.name = settings.settings.name;
-  opened.session = std::make_shared<RestoredSession>(
-      RestoredSession{settings.settings, table.further, table.selected});
+  readRest(opened, file.parts, table);
+  if (opened.session && opened.study.name.empty())
+    opened.study.name = QFileInfo(path).fileName().toStdString();
   return opened;
 }
 
@@ -130,10 +208,26 @@ void restoreSettings(const RestoredSession& session, PlotContainer& container)
   const int columns = session.further ? static_cast<int>(session.further->GetNumberOfColumns()) : 0;
   for (int i = 0; i < columns; ++i)
     container.getTable()->AddColumn(session.further->GetColumn(i));
-  copySettings(*session.settings.plot, *container.getMetaData());
+  PlotMetaData& settings = *container.getMetaData();
+  const std::vector<int> found = settings.parameterColumns;
+  copySettings(*session.settings.plot, settings);
+  const QSignalBlocker silent(&settings);
+  if (!areSomeOf(settings.parameterColumns, found))
+    settings.parameterColumns = found;
+  if (chartCount(container) > mostRestoredCharts)
+    settings.setPlotStyle(xyPlot);
   restoreWindow(container.state(), session.settings);
   container.setLogScaleY(session.settings.logY);
   container.setShowLegend(session.settings.legend);
+}
+
+PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container)
+{
+  PlotChoice choice = choiceOf(container);
+  // Only an XY chart would know them.
+  choice.legend = session.settings.legend;
+  choice.logY = session.settings.logY;
+  return choice;
 }
 
 void restoreSelection(const RestoredSession& session, PlotContainer& container)

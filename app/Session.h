@@ -2,8 +2,13 @@
 #define Session_h
 
 #include "app/ImportProgress.h"
+#include "app/PlotChoice.h"
 #include "app/SessionSettings.h"
-#include "app/SessionTable.h"
+#include "app/Study.h"
+
+#include <vtkIntArray.h>
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
 
 #include <QString>
 
@@ -36,19 +41,27 @@ struct OpenedSession
 };
 
 /// Writes what a container shows of a study.
+/// @param choice what the user chose; only the XY plot shows all of it
 /// @param normaliser what has normalised runs of the container, whose values are written as they
 /// were before; null for nothing
 /// @return why it could not be written, in one line of UTF-8; empty on success
 std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
-                        const RunNormaliser* normaliser = nullptr);
+                        const PlotChoice& choice, const RunNormaliser* normaliser = nullptr);
 
 /// Reads a session. May run in any thread.
 /// @param progress told while the bytes are read, and after each further step
 OpenedSession openSession(const QString& path, const ImportProgress& progress = {});
 
-/// Restores further columns and settings in a container that shows the session's study. Does not
-/// draw, and normalises nothing: that is for who keeps the values.
+/// Charts of one page that a session brings back; a page of more opens as an XY plot.
+inline constexpr int mostRestoredCharts = 60 * 60;
+
+/// Restores further columns and settings in a container that shows the session's study. The
+/// parameters are those that the container has found, or as many of them as the session names. Does
+/// not draw, and normalises nothing: that is for who keeps the values.
 void restoreSettings(const RestoredSession& session, PlotContainer& container);
+
+/// What the user had chosen, in a container whose settings are restored.
+PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container);
 
 /// Selects what was selected, which the container's annotation link announces.
 void restoreSelection(const RestoredSession& session, PlotContainer& container);

@@ -24,7 +24,6 @@ constexpr quint32 formatVersion = 1;
 constexpr int headerSize = 24;
 constexpr int checksumSize = 32;
 constexpr qint64 chunk = 4 << 20; ///< bytes between two reports of progress
-constexpr quint64 largestSettings = 64 << 20;
 /// A QByteArray counts with int and has a header.
 constexpr quint64 largestDump = std::numeric_limits<int>::max() - 64;
 
@@ -154,8 +153,12 @@ ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress)
 
 std::string saveSessionFile(const QString& path, const SessionParts& parts)
 {
+  if (parts.dump.isEmpty() || parts.settings.size() > largestSettings)
+    return withValues(translated("SessionFile", "%1: the table is too large for a session"),
+                      {path.toStdString()});
   QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly) && writeSession(file, parts) && file.commit())
+  // What is still in Qt's buffer when it commits may be lost without a word.
+  if (file.open(QIODevice::WriteOnly) && writeSession(file, parts) && file.flush() && file.commit())
     return {};
   return withValues(translated("SessionFile", "%1: cannot be written: %2"),
                     {path.toStdString(), file.errorString().toStdString()});

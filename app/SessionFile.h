@@ -29,6 +29,9 @@ struct ReadSessionParts
   bool cancelled = false;
 };
 
+/// More bytes of settings are neither written nor read.
+inline constexpr int largestSettings = 4 << 20;
+
 /// The ending of the names of session files, without the dot.
 inline constexpr char sessionSuffix[] = "talmesh";
 
@@ -47,7 +50,8 @@ bool writeSession(QIODevice& device, const SessionParts& parts);
 /// @param progress told the part of the bytes that is read
 ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress = {});
 
-/// Writes a file, which takes the place of an older one only when it is complete on the disk.
+/// Writes a file, which takes the place of an older one only when it is complete on the disk. An
+/// empty dump stands for a table that is too large.
 /// @return why it could not be written, in one line of UTF-8; empty on success
 std::string saveSessionFile(const QString& path, const SessionParts& parts);
 

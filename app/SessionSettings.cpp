@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <set>
 
 namespace Talmesh::app
 {
@@ -21,7 +22,8 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 /// Markers and lines of any larger size would cover the chart.
 constexpr double largestSize = 100.0;
 constexpr int lastMarker = 5;
-constexpr int mostColumnsInAList = 20000;
+/// No title or label of a readable plot is longer.
+constexpr int mostCharacters = 1000;
 
 struct Switch
 {
@@ -92,6 +94,16 @@ QJsonValue boundValue(double bound)
   return std::isfinite(bound) ? QJsonValue(bound) : QJsonValue();
 }
 
+QString shortText(const std::string& text)
+{
+  return QString::fromStdString(text).left(mostCharacters);
+}
+
+std::string readText(const QJsonValue& value)
+{
+  return value.toString().left(mostCharacters).toStdString();
+}
+
 QJsonObject objectOf(const CoordinateWindow& window)
 {
   return {
@@ -110,7 +122,7 @@ QJsonObject objectOf(const PlotMetaData& plot)
   for (const ColumnListName& entry : columnLists)
     object[QLatin1String(entry.name)] = arrayOf(plot.*entry.list);
   for (const TextName& entry : texts)
-    object[QLatin1String(entry.name)] = QString::fromStdString(plot.*entry.text);
+    object[QLatin1String(entry.name)] = shortText(plot.*entry.text);
   object["stride"] = plot.getStride();
   object["sourceId"] = plot.sourceId;
   object["colorColumn"] = plot.colorColumn;
@@ -121,6 +133,12 @@ QJsonObject objectOf(const PlotMetaData& plot)
   if (plot.storedCoordinateWindow.valid)
     object["window"] = objectOf(plot.storedCoordinateWindow);
   return object;
+}
+
+/// Whether an axis can show a range: its length must be a number too.
+bool isExtent(double lower, double upper)
+{
+  return lower < upper && std::isfinite(upper - lower);
 }
 
 /// Reads single values of one JSON object.
@@ -144,7 +162,7 @@ public:
     for (const ColumnListName& entry : columnLists)
       readColumns(entry.name, plot.*entry.list);
     for (const TextName& entry : texts)
-      plot.*entry.text = object[QLatin1String(entry.name)].toString().toStdString();
+      plot.*entry.text = readText(object[QLatin1String(entry.name)]);
     plot.setStride(whole("stride", plot.getStride(), 1, std::numeric_limits<int>::max()));
     plot.sourceId =
         whole("sourceId", 0, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
@@ -168,13 +186,15 @@ public:
     if (array.isEmpty() && !list.empty())
       return;
     list.clear();
+    std::set<int> listed;
     for (const QJsonValue value : array)
     {
-      const double column = value.toDouble(-1.0);
-      const bool exists = column >= 0.0 && column < columns && std::floor(column) == column;
-      list.push_back(exists ? static_cast<int>(column) : -1);
-      if (list.size() == mostColumnsInAList)
-        return;
+      const double number = value.toDouble(-1.0);
+      const bool exists = number >= 0.0 && number < columns && std::floor(number) == number;
+      const int column = exists ? static_cast<int>(number) : -1;
+      // A chart for each repetition would make much of a small file.
+      if (listed.insert(column).second)
+        list.push_back(column);
     }
   }
 
@@ -198,7 +218,7 @@ private:
     const auto limit = [&stored](const char* name)
     { return stored[QLatin1String(name)].toDouble(std::numeric_limits<double>::quiet_NaN()); };
     const CoordinateWindow read{limit("xMin"), limit("yMin"), limit("xMax"), limit("yMax"), true};
-    if (read.xMin < read.xMax && read.yMin < read.yMax)
+    if (isExtent(read.xMin, read.xMax) && isExtent(read.yMin, read.yMax))
       window = read;
   }
 
@@ -206,11 +226,13 @@ private:
   int columns;
 };
 
-std::vector<std::pair<double, double>> readRanges(const QJsonArray& array)
+std::vector<std::pair<double, double>> readRanges(const QJsonArray& array, int columns)
 {
   std::vector<std::pair<double, double>> ranges;
   for (const QJsonValue range : array)
   {
+    if (static_cast<int>(ranges.size()) >= columns)
+      break;
     const QJsonArray bounds = range.toArray();
     ranges.emplace_back(bounds.at(0).toDouble(-infinity), bounds.at(1).toDouble(infinity));
   }
@@ -225,7 +247,7 @@ QByteArray settingsText(const SessionSettings& settings)
   for (const auto& [lower, upper] : settings.parameterRanges)
     ranges.append(QJsonArray{boundValue(lower), boundValue(upper)});
   QJsonObject object;
-  object["name"] = QString::fromStdString(settings.name);
+  object["name"] = shortText(settings.name);
   object["pointsPerRun"] = settings.pointsPerRun;
   object["parameterRanges"] = ranges;
   object["normalised"] = arrayOf(settings.normalised);
@@ -248,10 +270,10 @@ ReadSessionSettings readSettings(const QByteArray& text, int columns)
   }
   const QJsonObject object = document.object();
   SessionSettings& settings = read.settings;
-  settings.name = object["name"].toString().toStdString();
+  settings.name = readText(object["name"]);
   settings.pointsPerRun =
       SettingsReader(object, columns).whole("pointsPerRun", 0, 0, std::numeric_limits<int>::max());
-  settings.parameterRanges = readRanges(object["parameterRanges"].toArray());
+  settings.parameterRanges = readRanges(object["parameterRanges"].toArray(), columns);
   SettingsReader(object, columns).readColumns("normalised", settings.normalised);
   settings.legend = object["legend"].toBool();
   settings.logY = object["logY"].toBool();

@@ -45,7 +45,9 @@ struct ReadSessionSettings
 };
 
 /// Reads settings for a table of `columns` columns. What is missing, mistyped or out of bounds
-/// keeps its first value, and columns that the table does not have become -1: no column.
+/// keeps its first value, columns that the table does not have become -1: no column, and of a
+/// column that a list repeats the first entry counts. Texts are cut at 1000 characters, and there
+/// are at most as many ranges as columns.
 ReadSessionSettings readSettings(const QByteArray& text, int columns);
 
 /// Copies all values and options without announcing them.

@@ -178,7 +178,7 @@ void addPriors(std::vector<CatalogueEntry>& entries)
   chart.draw = [priors](PlotContainer& container, int variant)
   { drawPrior(container, priors->at(static_cast<std::size_t>(variant))); };
   entries.push_back(entryOf({"priors",
-                             translated("StudyCatalogue", "Circuit &parameters"),
+                             translated("StudyCatalogue", "Circuit p&arameters"),
                              translated("StudyCatalogue", "&Prior distributions"),
                              translated("StudyCatalogue", "The density of one parameter"),
                              {}},

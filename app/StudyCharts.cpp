@@ -3,6 +3,7 @@
 #include "app/CircuitSensitivity.h"
 #include "app/IndomethacinStudy.h"
 #include "app/PuromycinStudy.h"
+#include "app/TranslatedText.h"
 #include "external/LinePlotData.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
@@ -218,7 +219,8 @@ void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
 void drawPrior(PlotContainer& container, const NamedDistribution& prior)
 {
   container.setDistribution(prior.distribution.get());
-  container.setPlotTitle("Prior density of " + prior.name);
+  container.setPlotTitle(
+      withValues(translated("StudyCharts", "Prior density of %1"), {prior.name}));
   container.setXLabel(prior.name);
 }
 

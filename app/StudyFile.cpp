@@ -87,6 +87,7 @@ OpenedStudy openFromSession(const QString& path, const ImportProgress& progress)
   opened.study = session.study;
   opened.session = session.session;
   opened.error = session.error;
+  opened.cancelled = session.cancelled;
   return opened;
 }
 

@@ -1,11 +1,14 @@
 #include "app/StudyLoader.h"
 
+#include "app/TranslatedText.h"
+
 #include <QMetaObject>
 #include <QThread>
 
 #include <algorithm>
 #include <atomic>
 #include <exception>
+#include <new>
 
 namespace Talmesh::app
 {
@@ -52,10 +55,16 @@ void StudyLoader::start(Job job)
     {
       shared->opened = job(progress);
     }
+    catch (const std::bad_alloc&)
+    {
+      shared->opened = OpenedStudy();
+      shared->opened.error = translated("StudyLoader", "there is not enough memory for this");
+    }
     catch (const std::exception& failure)
     {
       shared->opened = OpenedStudy();
-      shared->opened.error = failure.what();
+      shared->opened.error =
+          withValues(translated("StudyLoader", "this cannot be opened: %1"), {failure.what()});
     }
   };
   task->thread.reset(QThread::create(work));

@@ -15,7 +15,6 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr std::size_t mostColumns = 20000;
 constexpr std::size_t rowsBetweenReports = 2000;
 constexpr std::size_t longestNote = 80;
 

@@ -13,6 +13,9 @@
 namespace Talmesh::app
 {
 
+/// More columns are refused.
+inline constexpr std::size_t mostColumns = 20000;
+
 /// A cell that a message may have to name.
 struct NotedCell
 {

@@ -23,6 +23,9 @@ constexpr qint64 intSize = 4;
 constexpr qint64 doubleSize = 8;
 constexpr qint64 smallestItem = 2 * intSize;
 constexpr qint64 smallestHeader = intSize + 1;
+/// A column of no rows in memory, which takes as little as `smallestHeader` in a dump.
+constexpr qint64 columnMemory = 512;
+constexpr qint64 mostMemoryPerByte = 16;
 
 QString latin1(const std::string& text)
 {
@@ -157,9 +160,11 @@ public:
   {
   }
 
-  /// Null when the dump calls for too many zeros.
+  /// Null when the dump calls for too many columns or zeros.
   vtkSmartPointer<vtkTable> readTable()
   {
+    if (count * columnMemory > std::max(mostColumnBytes, mostMemoryPerByte * size))
+      return nullptr;
     ColumnList columns;
     for (qint32 left = count; left > 0; --left)
     {
@@ -246,8 +251,8 @@ void readDump(PlotState& state, const QByteArray& bytes, double zeroBytes)
   replaceTable(state, table ? table : vtkSmartPointer<vtkTable>::New());
   if (table)
     return;
-  std::cerr << "void PlotContainer::readDump(QByteArray*): the data end too early, the table stays "
-               "empty"
+  std::cerr << "void PlotContainer::readDump(QByteArray*): the data end too early or name too many "
+               "columns, the table stays empty"
             << std::endl;
 }
 

@@ -23,10 +23,15 @@ QByteArray writeDump(const PlotState& state);
 /// Largest memory that a dump cut short gets for values that it does not hold.
 inline constexpr double mostZeroBytes = 256.0 * 1024 * 1024;
 
+/// Memory that the columns of any dump may take beside their values. A dump of more than a
+/// sixteenth of it may take 16 times its size.
+inline constexpr qint64 mostColumnBytes = 64 * 1024 * 1024;
+
 /// Replaces items and table by those of a dump. From the first byte that is missing on everything
 /// reads as zero. A negative count is 0, and no count makes more than the bytes can hold, except
-/// for the zeros that a dump cut short calls for, up to `zeroBytes`; beyond them there is one line
-/// on standard error and the table stays empty.
+/// for the zeros that a dump cut short calls for, up to `zeroBytes`; beyond them, and with more
+/// columns than `mostColumnBytes` allows, there is one line on standard error and the table stays
+/// empty.
 void readDump(PlotState& state, const QByteArray& bytes, double zeroBytes = mostZeroBytes);
 
 } // namespace Talmesh::plot

@@ -93,11 +93,11 @@ p, li { white-space: pre-wrap; }
     <name>RunGrouping</name>
     <message>
         <source>1 point</source>
-        <translation>1 Zeitpunkt</translation>
+        <translation>1 Punkt</translation>
     </message>
     <message>
         <source>%1 points</source>
-        <translation>%1 Zeitpunkte</translation>
+        <translation>%1 Punkte</translation>
     </message>
     <message>
         <source>run %1 has %2, other runs have %3</source>
@@ -244,11 +244,11 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>point</source>
-        <translation>Zeitpunkt</translation>
+        <translation>Punkt</translation>
     </message>
     <message>
         <source>points</source>
-        <translation>Zeitpunkte</translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>parameter</source>
@@ -410,8 +410,8 @@ p, li { white-space: pre-wrap; }
         <translation>Parameter</translation>
     </message>
     <message>
-        <source>Circuit &amp;parameters</source>
-        <translation>&amp;Parameter des Schaltkreises</translation>
+        <source>Circuit p&amp;arameters</source>
+        <translation>P&amp;arameter des Schaltkreises</translation>
     </message>
     <message>
         <source>&amp;Prior distributions</source>
@@ -420,6 +420,13 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>The density of one parameter</source>
         <translation>Die Dichte eines Parameters</translation>
+    </message>
+</context>
+<context>
+    <name>StudyCharts</name>
+    <message>
+        <source>Prior density of %1</source>
+        <translation>A-priori-Dichte von %1</translation>
     </message>
 </context>
 <context>
@@ -439,6 +446,17 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>the table does not fit into memory</source>
         <translation>die Tabelle passt nicht in den Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>StudyLoader</name>
+    <message>
+        <source>there is not enough memory for this</source>
+        <translation>dafür reicht der Speicher nicht</translation>
+    </message>
+    <message>
+        <source>this cannot be opened: %1</source>
+        <translation>das lässt sich nicht öffnen: %1</translation>
     </message>
 </context>
 <context>
@@ -542,8 +560,8 @@ p, li { white-space: pre-wrap; }
         <translation>Gruppen von Läufen</translation>
     </message>
     <message>
-        <source>&amp;Group the runs</source>
-        <translation>Läufe &amp;gruppieren</translation>
+        <source>G&amp;roup the runs</source>
+        <translation>Läufe g&amp;ruppieren</translation>
     </message>
     <message>
         <source>Into how many groups the runs are sorted</source>
@@ -575,7 +593,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>&amp;Number of groups</source>
-        <translation>A&amp;nzahl der Gruppen</translation>
+        <translation>Anzah&amp;l der Gruppen</translation>
     </message>
     <message>
         <source>Alike &amp;by</source>
@@ -606,8 +624,8 @@ p, li { white-space: pre-wrap; }
         <translation>Im XY-Diagramm Spannweite, Quartile und Median aller Läufe zeichnen und von den Läufen nur die ausgewählten, wenn sie nicht die Farben von Gruppen haben</translation>
     </message>
     <message>
-        <source>Normalise each run to its ma&amp;ximum</source>
-        <translation>Jeden Lauf auf sein Ma&amp;ximum normieren</translation>
+        <source>Normalise each run to its m&amp;aximum</source>
+        <translation>Jeden Lauf auf sein Maximum n&amp;ormieren</translation>
     </message>
     <message>
         <source>Scale each run of the chosen y columns so that its largest value is 1; unticked, the values are loaded again</source>
@@ -923,7 +941,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation>&amp;Exportieren …</translation>
+        <translation>E&amp;xportieren …</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
@@ -1123,8 +1141,8 @@ Grafiken simulierter Läufe.</translation>
         <translation>Diagramm</translation>
     </message>
     <message>
-        <source>St&amp;yle</source>
-        <translation>&amp;Darstellung</translation>
+        <source>Sty&amp;le</source>
+        <translation>Dar&amp;stellung</translation>
     </message>
     <message>
         <source>&amp;X</source>

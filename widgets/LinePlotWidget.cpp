@@ -108,9 +108,14 @@ void LinePlotWidget::exportPlot()
       getFileDialogOption());
   if (fileName.isEmpty())
     return;
-  if (!exportTable(*form->plotter->plotContainer(), fileName))
-    QMessageBox::warning(
-        this, formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Export Plot")),
-        formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "The table could not be written to %1."))
-            .arg(fileName));
+  if (exportTable(*form->plotter->plotContainer(), fileName))
+    return;
+  QMessageBox message(
+      QMessageBox::Warning, formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Export Plot")),
+      formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "The table could not be written to %1."))
+          .arg(fileName),
+      QMessageBox::Ok, this);
+  // A file name may look like markup.
+  message.setTextFormat(Qt::PlainText);
+  message.exec();
 }

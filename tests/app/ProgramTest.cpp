@@ -1,4 +1,6 @@
 #include "app/Gallery.h"
+#include "app/Session.h"
+#include "plot/PlotContainer.h"
 #include "support/Pictures.h"
 
 #include <gtest/gtest.h>
@@ -336,4 +338,25 @@ TEST_F(Program, ExportsASession)
                           "df4738");
   expectSuccess({write("a.talmesh", session.toStdString()), "--export", path("a.csv")});
   EXPECT_EQ(contentOf(path("a.csv")).toStdString(), "\"Time\"\n1\n2\n");
+}
+
+TEST_F(Program, ShowsTheLegendOfASessionInTheXYPlot)
+{
+  const Study study = sampleStudy();
+  PlotContainer container(nullptr);
+  showStudy(study, container);
+  container.setPlotStyle(scatterPlotMatrix);
+  const auto exported = [&](bool shown)
+  {
+    PlotChoice choice = choiceOf(container);
+    choice.legend = shown;
+    EXPECT_EQ(saveSession(path("a.talmesh"), study, container, choice), "");
+    expectSuccess({path("a.talmesh"), "--style", "xyPlot", "--size", "300x200", "--export",
+                   path("plot.png")});
+    return QImage(path("plot.png"));
+  };
+  const QImage plain = exported(false);
+  EXPECT_EQ(plain.size(), QSize(300, 200));
+  EXPECT_NE(exported(true), plain);
+  EXPECT_EQ(exported(false), plain);
 }

@@ -1,5 +1,7 @@
 #include "app/SessionFile.h"
 
+#include "support/FullDisk.h"
+
 #include <gtest/gtest.h>
 
 #include <QBuffer>
@@ -32,6 +34,26 @@ QByteArray smallBytes()
                              "45935019b7db7f099c8fbeb45458d526"
                              "f9db62b078491ea79a39e383415d43b8");
 }
+
+/// Counts the bytes that are asked of it.
+class CountingDevice : public QBuffer
+{
+public:
+  explicit CountingDevice(QByteArray* bytes)
+      : QBuffer(bytes)
+  {
+    open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+  }
+
+  qint64 asked = 0;
+
+protected:
+  qint64 readData(char* data, qint64 most) override
+  {
+    asked += most;
+    return QBuffer::readData(data, most);
+  }
+};
 
 class SessionFile : public ::testing::Test
 {
@@ -67,29 +89,6 @@ protected:
   QStringList files() const { return QDir(folder.path()).entryList(QDir::Files); }
 
   QTemporaryDir folder;
-};
-
-/// While it lives no file can grow beyond a few bytes, as on a full disk.
-class FullDisk
-{
-public:
-  explicit FullDisk(rlim_t bytes)
-  {
-    getrlimit(RLIMIT_FSIZE, &before);
-    handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit tight = {bytes, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &tight);
-  }
-
-  ~FullDisk()
-  {
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-  }
-
-private:
-  rlimit before = {};
-  void (*handler)(int) = nullptr;
 };
 
 SessionParts large()
@@ -165,13 +164,23 @@ TEST_F(SessionFile, RefusesOtherFiles)
 
 TEST_F(SessionFile, TakesNoMemoryForSizesThatAreOnlyStated)
 {
-  for (const char* sizes : {"00000002000000007fffff00", "04000000000000007fffff00"})
-    EXPECT_EQ(errorOf(QByteArray::fromHex("8954414c4d45534800000001") + QByteArray::fromHex(sizes)),
-              "the session is cut short");
-  for (const char* sizes : {"000000020000000080000000", "ffffffff0000000000000004",
-                            "00000002ffffffffffffffff", "000000028000000000000000"})
-    EXPECT_EQ(errorOf(QByteArray::fromHex("8954414c4d45534800000001") + QByteArray::fromHex(sizes)),
-              "the session is damaged");
+  const std::pair<const char*, const char*> files[] = {
+      {"00000002000000007fffff00", "the session is cut short"},
+      {"00400000000000007fffff00", "the session is cut short"},
+      {"004000010000000000000004", "the session is damaged"},
+      {"000000020000000080000000", "the session is damaged"},
+      {"ffffffff0000000000000004", "the session is damaged"},
+      {"00000002ffffffffffffffff", "the session is damaged"},
+      {"000000028000000000000000", "the session is damaged"}};
+  for (const auto& [sizes, error] : files)
+  {
+    QByteArray bytes = QByteArray::fromHex("8954414c4d45534800000001") + QByteArray::fromHex(sizes);
+    EXPECT_EQ(errorOf(bytes), error) << sizes;
+    // A device is asked for as much as there is memory for.
+    CountingDevice device(&bytes);
+    EXPECT_EQ(readSession(device).error, error) << sizes;
+    EXPECT_EQ(device.asked, 24) << sizes;
+  }
 }
 
 TEST_F(SessionFile, SaysWhatIsNoFile)
@@ -204,6 +213,23 @@ TEST_F(SessionFile, ReplacesAnOlderFile)
   EXPECT_EQ(content(), smallBytes());
 }
 
+TEST_F(SessionFile, WritesNoMoreSettingsThanItReads)
+{
+  const QByteArray most(4 * 1024 * 1024, ' ');
+  EXPECT_EQ(saveSessionFile(path(), {most, "dump"}), "");
+  EXPECT_EQ(loadSessionFile(path()).parts.settings, most);
+  EXPECT_EQ(saveSessionFile(path(), {most + ' ', "dump"}),
+            path().toStdString() + ": the table is too large for a session");
+  EXPECT_EQ(loadSessionFile(path()).parts.settings, most);
+}
+
+TEST_F(SessionFile, WritesNoTableThatCouldNotBeDumped)
+{
+  EXPECT_EQ(saveSessionFile(path(), {"{}", {}}),
+            path().toStdString() + ": the table is too large for a session");
+  EXPECT_EQ(files(), QStringList());
+}
+
 TEST_F(SessionFile, SaysThatAFolderIsMissing)
 {
   const std::string start = path("no/study.talmesh").toStdString() + ": cannot be written: ";
@@ -215,15 +241,19 @@ TEST_F(SessionFile, SaysThatAFolderIsMissing)
 TEST_F(SessionFile, LeavesTheOldFileWholeWhenTheDiskIsFull)
 {
   EXPECT_EQ(saveSessionFile(path(), small), "");
-  std::string error;
+  const SessionParts little = {"{}", QByteArray(5000, 'd')};
+  for (const SessionParts& parts : {large(), little})
   {
-    const FullDisk full(4096);
-    error = saveSessionFile(path(), large());
+    std::string error;
+    {
+      const FullDisk full(4096);
+      error = saveSessionFile(path(), parts);
+    }
+    const std::string start = path().toStdString() + ": cannot be written: ";
+    EXPECT_EQ(error.substr(0, start.size()), start);
+    EXPECT_EQ(content(), smallBytes());
+    EXPECT_EQ(files(), QStringList{"study.talmesh"});
   }
-  const std::string start = path().toStdString() + ": cannot be written: ";
-  EXPECT_EQ(error.substr(0, start.size()), start);
-  EXPECT_EQ(content(), smallBytes());
-  EXPECT_EQ(files(), QStringList{"study.talmesh"});
 }
 
 TEST_F(SessionFile, LeavesTheOldFileWholeWhenTheProgramDiesWhileWriting)

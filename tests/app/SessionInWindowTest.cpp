@@ -6,17 +6,22 @@
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <vtkAxis.h>
 #include <vtkChartXY.h>
 
 #include <gtest/gtest.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -101,6 +106,29 @@ protected:
     EXPECT_EQ(container().getChartXY()->GetNumberOfPlots(), 2);
   }
 
+  /// Waits for the one file dialog that is open.
+  QFileDialog* fileDialog()
+  {
+    QFileDialog* dialog = nullptr;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&]
+        {
+          dialog = window->findChild<QFileDialog*>();
+          return dialog && dialog->isVisible();
+        },
+        patience));
+    return dialog;
+  }
+
+  /// The entry of the menu bar's first menu that holds a text in any place.
+  QAction* fileEntry(const QString& text)
+  {
+    for (QAction* entry : window->menuBar()->actions().first()->menu()->actions())
+      if (entry->text().remove(QLatin1Char('&')).contains(text))
+        return entry;
+    return nullptr;
+  }
+
   PlotContainer& container() { return *window->plotWidget()->plotContainer(); }
 
   QTemporaryDir folder;
@@ -119,6 +147,88 @@ TEST_F(SessionInWindow, ComesBackInAnotherWindow)
   ASSERT_TRUE(loaded());
   expectChanged(choice);
   EXPECT_FALSE(window->selectionController()->undoStack().canUndo());
+}
+
+TEST_F(SessionInWindow, KeepsTheLegendBehindAnotherStyle)
+{
+  openSample();
+  PlotChoice choice = change();
+  choice.style = scatterPlotMatrix;
+  window->plotDock()->setChoice(choice);
+  emit window->plotDock()->choiceChanged();
+  ASSERT_TRUE(window->saveSessionTo(path("a.talmesh")));
+  makeWindow();
+  window->openFile(path("a.talmesh"));
+  ASSERT_TRUE(loaded());
+  // The selection is announced later.
+  QTest::qWait(50);
+  PlotChoice shown = window->plotDock()->choice();
+  EXPECT_EQ(shown.style, scatterPlotMatrix);
+  EXPECT_TRUE(shown.legend);
+  EXPECT_TRUE(shown.logY);
+  auto* style = window->plotDock()->findChild<QComboBox*>(QStringLiteral("style"));
+  style->setCurrentIndex(style->findData(static_cast<int>(xyPlot)));
+  EXPECT_TRUE(container().getChartXY()->GetShowLegend());
+  EXPECT_TRUE(container().getChartXY()->GetAxis(vtkAxis::LEFT)->GetLogScale());
+}
+
+TEST_F(SessionInWindow, OpensThroughTheMenuAndItsDialog)
+{
+  openSample();
+  const PlotChoice choice = change();
+  ASSERT_TRUE(window->saveSessionTo(path("a.talmesh")));
+  makeWindow();
+  QAction* entry = fileEntry(QStringLiteral("Open session"));
+  ASSERT_NE(entry, nullptr);
+  entry->trigger();
+  QFileDialog* dialog = fileDialog();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(dialog->windowTitle(), "Open session");
+  EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptOpen);
+  EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFile);
+  EXPECT_EQ(dialog->nameFilters(), QStringList("Sessions (*.talmesh)"));
+  dialog->setDirectory(folder.path());
+  dialog->selectFile(path("a.talmesh"));
+  QMetaObject::invokeMethod(dialog, "accept");
+  ASSERT_TRUE(
+      QTest::qWaitFor([this] { return window->windowTitle() != "Talmesh Plot"; }, patience));
+  ASSERT_TRUE(loaded());
+  expectChanged(choice);
+}
+
+TEST_F(SessionInWindow, CannotBeSavedBeforeAnythingIsOpen)
+{
+  QAction* save = fileEntry(QStringLiteral("Save session"));
+  ASSERT_NE(save, nullptr);
+  EXPECT_FALSE(save->isEnabled());
+  EXPECT_FALSE(window->saveSessionTo(path("a.talmesh")));
+  EXPECT_FALSE(QFile::exists(path("a.talmesh")));
+  openSample();
+  EXPECT_TRUE(save->isEnabled());
+}
+
+TEST_F(SessionInWindow, CannotBeSavedOverAChartOfItsOwn)
+{
+  openSample();
+  window->findChild<QAction*>(QStringLiteral("indomethacin-fit"))->trigger();
+  ASSERT_TRUE(loaded());
+  EXPECT_FALSE(fileEntry(QStringLiteral("Save session"))->isEnabled());
+  EXPECT_FALSE(window->saveSessionTo(path("a.talmesh")));
+  EXPECT_FALSE(QFile::exists(path("a.talmesh")));
+  window->returnToRuns();
+  EXPECT_TRUE(fileEntry(QStringLiteral("Save session"))->isEnabled());
+  EXPECT_TRUE(window->saveSessionTo(path("a.talmesh")));
+}
+
+TEST_F(SessionInWindow, SavesNoOtherStudyThanTheOneThatItsDialogWasOpenedFor)
+{
+  openSample();
+  fileEntry(QStringLiteral("Save session"))->trigger();
+  const QPointer<QFileDialog> dialog = fileDialog();
+  ASSERT_TRUE(dialog);
+  openSample();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isNull(); }, patience));
+  EXPECT_EQ(window->windowTitle(), "runs.csv - Talmesh Plot");
 }
 
 TEST_F(SessionInWindow, OpensFromTheCommandLine)
@@ -158,14 +268,8 @@ TEST_F(SessionInWindow, IsSavedThroughTheDialog)
   openSample();
   QApplication::setActiveWindow(window.get());
   QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
-  QFileDialog* dialog = nullptr;
-  ASSERT_TRUE(QTest::qWaitFor(
-      [&]
-      {
-        dialog = window->findChild<QFileDialog*>();
-        return dialog && dialog->isVisible();
-      },
-      patience));
+  QFileDialog* dialog = fileDialog();
+  ASSERT_NE(dialog, nullptr);
   dialog->selectFile(path("chosen"));
   QMetaObject::invokeMethod(dialog, "accept");
   EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(path("chosen.talmesh")); }, patience));

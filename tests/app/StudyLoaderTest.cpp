@@ -192,5 +192,9 @@ TEST(StudyLoader, ReportsWhatAJobThrows)
                    [&](const OpenedStudy& opened) { error = opened.error; });
   loader.start([](const ImportProgress&) -> OpenedStudy { throw std::runtime_error("broken"); });
   ASSERT_TRUE(QTest::qWaitFor([&] { return !error.empty(); }, patience));
-  EXPECT_EQ(error, "broken");
+  EXPECT_EQ(error, "this cannot be opened: broken");
+  error.clear();
+  loader.start([](const ImportProgress&) -> OpenedStudy { throw std::bad_alloc(); });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !error.empty(); }, patience));
+  EXPECT_EQ(error, "there is not enough memory for this");
 }

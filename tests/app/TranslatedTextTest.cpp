@@ -1,8 +1,12 @@
 #include "app/TranslatedText.h"
 
+#include "app/CircuitSensitivity.h"
 #include "app/PlotDock.h"
 #include "app/RunTableImport.h"
 #include "app/Study.h"
+#include "app/StudyCharts.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
 #include "support/German.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +39,17 @@ TEST(TranslatedText, IsGermanInMessages)
   const German german;
   ASSERT_TRUE(german.installed);
   EXPECT_EQ(importRunTable("time,A\n0,1\n1\n").error, "Zeile 3 hat 1 Feld, die erste Zeile hat 2");
-  EXPECT_EQ(studySize(sampleStudy()), "3 L\xc3\xa4ufe, je 4 Zeitpunkte, 1 Parameter");
+  EXPECT_EQ(studySize(sampleStudy()), "3 L\xc3\xa4ufe, je 4 Punkte, 1 Parameter");
+}
+
+TEST(TranslatedText, IsGermanInTheTitleOfADistribution)
+{
+  PlotContainer container(nullptr);
+  drawPrior(container, circuitPriors().front());
+  EXPECT_EQ(container.getMetaData()->title, "Prior density of alpha");
+  const German german;
+  drawPrior(container, circuitPriors().front());
+  EXPECT_EQ(container.getMetaData()->title, "A-priori-Dichte von alpha");
 }
 
 TEST(TranslatedText, IsGermanInTheStyles)

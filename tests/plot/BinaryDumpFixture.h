@@ -20,8 +20,8 @@ namespace DumpBytes
 {
 
 inline const std::string endsTooEarly =
-    "void PlotContainer::readDump(QByteArray*): the data end too "
-    "early, the table stays empty\n";
+    "void PlotContainer::readDump(QByteArray*): the data end too early or name too many columns, "
+    "the table stays empty\n";
 
 /// Two items, a double column, an int column, a column whose name is Latin-1 and an unnamed one;
 /// two rows. Written by hand from the format, byte by byte.

@@ -133,8 +133,8 @@ TEST_F(DumpLastSteps, RunAfterTheComplaintToo)
   bytes[8] = 0x7F; // rows
   read(container, bytes);
   EXPECT_EQ(medians(container), Values());
-  EXPECT_EQ(complained, "void PlotContainer::readDump(QByteArray*): the data end too early, the "
-                        "table stays empty\n");
+  EXPECT_EQ(complained, "void PlotContainer::readDump(QByteArray*): the data end too early or name "
+                        "too many columns, the table stays empty\n");
 }
 
 TEST_F(DumpLastSteps, NeitherDrawNorSilenceWithoutASelection)

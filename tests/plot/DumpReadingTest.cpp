@@ -175,23 +175,58 @@ TEST_F(DumpReading, HugeCountsGiveAnEmptyTable)
   }
 }
 
-TEST_F(DumpReading, ManyColumnsTakeNoTimeToSpeakOf)
+/// Columns of different names of six digits: 12 bytes, and 5 more of their headers.
+QByteArray manyColumns(int count, int rows)
 {
-  // Names of their own, so that a search among all would show: 10^10 comparisons.
-  const int count = 100000;
-  QByteArray bytes = ints({0, count, 0});
+  QByteArray bytes = ints({0, count, rows});
   for (int i = 0; i < count; ++i)
   {
     bytes += ints({12});
     for (const char digit : QByteArray::number(100000 + i))
       bytes += QByteArray(1, '\0') + digit;
-    bytes += '\0';
+    bytes += QByteArray(1 + 4 * rows, '\0');
   }
+  return bytes;
+}
+
+TEST_F(DumpReading, ManyColumnsTakeNoTimeToSpeakOf)
+{
+  // A search among all names would show: 10^10 comparisons.
+  const int count = 100000;
+  const QByteArray bytes = manyColumns(count, 0);
   QElapsedTimer timer;
   timer.start();
   read(bytes);
   EXPECT_EQ(table()->GetNumberOfColumns(), count);
   EXPECT_LT(timer.elapsed(), 20000);
+}
+
+TEST_F(DumpReading, ColumnsOfNoRowsTakeAtMost64MiB)
+{
+  // 512 bytes each.
+  const int most = 64 * 1024 * 1024 / 512;
+  CapturedOutput errors(std::cerr);
+  read(ints({0, most, 0}) + QByteArray(5 * most, '\0'));
+  EXPECT_EQ(errors.text(), "");
+  read(ints({0, most + 1, 0}) + QByteArray(5 * most + 5, '\0'));
+  EXPECT_EQ(table()->GetNumberOfColumns(), 0);
+  EXPECT_EQ(errors.text(), endsTooEarly);
+}
+
+TEST_F(DumpReading, ColumnsTakeAtMost16TimesALargeDump)
+{
+  // Columns of 4 + 12 + 1 + 4 R bytes: 512 are at most 16 times that from R = 4 on.
+  const int count = 150000;
+  {
+    const CapturedOutput errors(std::cerr);
+    read(manyColumns(count, 4));
+    EXPECT_EQ(table()->GetNumberOfColumns(), count);
+    EXPECT_EQ(errors.text(), "");
+  }
+  const CapturedOutput errors(std::cerr);
+  read(manyColumns(count, 3));
+  EXPECT_EQ(table()->GetNumberOfColumns(), 0);
+  EXPECT_EQ(errors.text(), endsTooEarly);
 }
 
 } // namespace

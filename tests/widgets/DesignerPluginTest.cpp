@@ -3,11 +3,14 @@
 #include "widgets/PlotSelector.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <QVTKOpenGLNativeWidget.h>
+
 #include <gtest/gtest.h>
 
 #include <QFile>
 #include <QIcon>
 #include <QPluginLoader>
+#include <QSurfaceFormat>
 #include <QXmlStreamReader>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
@@ -16,14 +19,28 @@
 namespace
 {
 
+/// The plugin is loaded once, and goes before the application as it does in Designer.
 class DesignerPlugin : public ::testing::Test
 {
 protected:
-  DesignerPlugin()
-      : loader(QStringLiteral(TALMESH_DESIGNER_PLUGIN))
+  static void SetUpTestSuite()
   {
-    auto* collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(loader.instance());
-    EXPECT_NE(collection, nullptr) << loader.errorString().toStdString();
+    loader = new QPluginLoader(QStringLiteral(TALMESH_DESIGNER_PLUGIN));
+    ASSERT_TRUE(loader->load()) << loader->errorString().toStdString();
+  }
+
+  static void TearDownTestSuite()
+  {
+    EXPECT_TRUE(loader->unload()) << loader->errorString().toStdString();
+    EXPECT_FALSE(loader->isLoaded());
+    delete loader;
+    loader = nullptr;
+  }
+
+  DesignerPlugin()
+  {
+    auto* collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(loader->instance());
+    EXPECT_NE(collection, nullptr) << loader->errorString().toStdString();
     if (collection)
       entries = collection->customWidgets();
   }
@@ -44,10 +61,33 @@ protected:
     const std::unique_ptr<QWidget> made(entry(name)->createWidget(&parent));
     EXPECT_NE(qobject_cast<Widget*>(made.get()), nullptr);
     EXPECT_EQ(made->parentWidget(), &parent);
+    for (const auto* chart : parent.findChildren<QVTKOpenGLNativeWidget*>())
+      EXPECT_EQ(chart->format(), QVTKOpenGLNativeWidget::defaultFormat()) << name;
   }
 
-  QPluginLoader loader;
+  static QPluginLoader* loader;
   QList<QDesignerCustomWidgetInterface*> entries;
+};
+
+QPluginLoader* DesignerPlugin::loader = nullptr;
+
+/// While it lives, windows get another surface than VTK needs, as in Designer.
+class ForeignFormat
+{
+public:
+  ForeignFormat()
+  {
+    QSurfaceFormat foreign;
+    foreign.setVersion(2, 0);
+    foreign.setProfile(QSurfaceFormat::NoProfile);
+    QSurfaceFormat::setDefaultFormat(foreign);
+  }
+  ~ForeignFormat() { QSurfaceFormat::setDefaultFormat(before); }
+  ForeignFormat(const ForeignFormat&) = delete;
+  ForeignFormat& operator=(const ForeignFormat&) = delete;
+
+private:
+  QSurfaceFormat before = QSurfaceFormat::defaultFormat();
 };
 
 /// The class and the name of the first widget of a form.
@@ -76,6 +116,7 @@ TEST_F(DesignerPlugin, OffersTheThreeWidgets)
 
 TEST_F(DesignerPlugin, MakesTheThreeWidgets)
 {
+  const ForeignFormat inDesigner;
   expectMade<VtkPlotWidget>("VtkPlotWidget");
   expectMade<PlotSelector>("PlotSelector");
   expectMade<LinePlotWidget>("LinePlotWidget");

@@ -1,59 +1,17 @@
 #include <vtkTable.h>
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 
-#include <functional>
-
+#include "DialogAnswers.h"
 #include "LinePlotFixture.h"
 
 namespace
 {
-
-/// Answers the modal dialogs that open while it lives, one after another; those beyond are
-/// rejected.
-class DialogAnswers
-{
-public:
-  using Answer = std::function<void(QDialog&)>;
-
-  explicit DialogAnswers(std::vector<Answer> inOrder)
-      : answers(std::move(inOrder))
-  {
-    QObject::connect(&timer, &QTimer::timeout, [this] { answerNext(); });
-    timer.start(10);
-  }
-
-  std::size_t given() const { return next; }
-
-private:
-  void answerNext()
-  {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog)
-      return;
-    if (next < answers.size())
-      answers[next](*dialog);
-    else
-      dialog->reject();
-    ++next;
-  }
-
-  std::vector<Answer> answers;
-  std::size_t next = 0;
-  QTimer timer;
-};
-
-void cancel(QDialog& dialog)
-{
-  dialog.reject();
-}
 
 /// Types a file name and presses "Save".
 DialogAnswers::Answer saveAs(const QString& fileName)
@@ -150,7 +108,10 @@ TEST_F(LinePlotExport, TellsThatTheFileCouldNotBeWritten)
   DialogAnswers answers({saveAs(fileName), [&](QDialog& dialog)
                          {
                            if (auto* box = qobject_cast<QMessageBox*>(&dialog))
+                           {
                              message = box->text();
+                             EXPECT_EQ(box->textFormat(), Qt::PlainText);
+                           }
                            owner = dialog.parentWidget();
                            dialog.accept();
                          }});
@@ -164,7 +125,7 @@ TEST_F(LinePlotExport, TellsThatTheFileCouldNotBeWritten)
 TEST_F(LinePlotExport, StartsWhenTheButtonGoesDown)
 {
   show();
-  DialogAnswers answers({cancel});
+  DialogAnswers answers({cancelDialog});
   QTest::mousePress(find<QPushButton>("exportButton"), Qt::LeftButton);
   EXPECT_EQ(answers.given(), 1U);
   QTest::mouseRelease(find<QPushButton>("exportButton"), Qt::LeftButton);

@@ -1,5 +1,3 @@
-#include "widgets/TableExport.h"
-
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
 #include <vtkContextScene.h>
@@ -7,11 +5,9 @@
 #include <vtkPlot.h>
 #include <vtkTable.h>
 
-#include <QFile>
 #include <QLabel>
 #include <QMetaMethod>
 #include <QSplitter>
-#include <QTemporaryDir>
 
 #include "LinePlotFixture.h"
 
@@ -132,28 +128,23 @@ TEST_F(LinePlot, TogglesTheLegend)
   EXPECT_TRUE(container().getChartXY()->GetShowLegend()) << "data do not reset it";
 }
 
-TEST_F(LinePlot, ExportsTheWholeTable)
+TEST_F(LinePlot, HandsTheContainerAnEmptyListWhenTheDataGo)
 {
-  QTemporaryDir folder;
   widget.setData(&data);
-  ASSERT_TRUE(exportTable(container(), folder.filePath("table.csv")));
-  QFile file(folder.filePath("table.csv"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll().count('\n'), 4);
-}
-
-TEST_F(LinePlot, ExportsTheEmptyTableWithoutData)
-{
-  QTemporaryDir folder;
-  EXPECT_TRUE(exportTable(container(), folder.filePath("empty.csv")));
-  EXPECT_TRUE(QFile::exists(folder.filePath("empty.csv")));
-}
-
-TEST_F(LinePlot, NoticesThatAnExportFailed)
-{
-  QTemporaryDir folder;
-  widget.setData(&data);
-  EXPECT_FALSE(exportTable(container(), folder.filePath("missing/table.csv")));
+  selector().expandAll();
+  selector().selectAll();
+  std::vector<std::size_t> counts;
+  std::vector<vtkIdType> plots;
+  // Told after the container, which was connected first.
+  QObject::connect(&selector(), &PlotSelector::notifySelectionChanged,
+                   [&](std::vector<Talmesh::TypedConcentrationName>* items)
+                   {
+                     counts.push_back(items->size());
+                     plots.push_back(container().getChartXY()->GetNumberOfPlots());
+                   });
+  widget.removeData();
+  EXPECT_EQ(counts, std::vector<std::size_t>{0});
+  EXPECT_EQ(plots, std::vector<vtkIdType>{0});
 }
 
 } // namespace
