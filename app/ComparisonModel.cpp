@@ -57,8 +57,8 @@ QString reasonOf(TestObstacle obstacle)
     return ComparisonModel::tr("Not tested. Values change within a run: the test needs one value "
                                "for every run.");
   case TestObstacle::otherParameter:
-    return ComparisonModel::tr("Not tested. Another parameter has missing values or changes within "
-                               "a run, which distorts this test.");
+    return ComparisonModel::tr("Not tested. Another parameter changes within a run, which "
+                               "distorts this test.");
   case TestObstacle::none:
     break;
   }

@@ -2,6 +2,7 @@
 
 #include "app/PlotChoice.h"
 #include "external/PlotMetaData.h"
+#include "plot/DerivedTables.h"
 #include "plot/PlotContainer.h"
 #include "plot/ShownParameters.h"
 #include "plot/TableColumns.h"
@@ -29,11 +30,10 @@ namespace
 
 /// Where the reaction to a selection puts the rows of the two groups of runs and, behind them,
 /// their rank tables.
-constexpr std::size_t selectedRows = 2;
-constexpr std::size_t selectedRanks = 3;
-constexpr std::size_t otherRows = 5;
-constexpr std::size_t otherRanks = 6;
-constexpr const char* valuesPrefix = "Sorted ";
+constexpr std::size_t selectedRanks = plot::rankSlot(1);
+constexpr std::size_t selectedRows = selectedRanks - 1;
+constexpr std::size_t otherRanks = plot::rankSlot(2);
+constexpr std::size_t otherRows = otherRanks - 1;
 
 bool isAnyRowSelected(const PlotContainer& container)
 {
@@ -47,14 +47,13 @@ bool isAnyRowSelected(const PlotContainer& container)
 
 vtkTable* derivedTable(const PlotContainer& container, std::size_t slot)
 {
-  const auto& tables = container.getDerivedTables();
-  return slot < tables.size() ? tables[slot].Get() : nullptr;
+  return plot::tableInSlot(container.getDerivedTables(), slot);
 }
 
 /// Whether one parameter's values were ranked.
 bool isRanked(const PlotContainer& container, vtkTable* ranks, std::size_t k)
 {
-  return plot::columnNamed(ranks, valuesPrefix + plot::parameterLabel(container.state(), k));
+  return plot::columnNamed(ranks, plot::sortedPrefix + plot::parameterLabel(container.state(), k));
 }
 
 /// The number of runs with a row that one of the columns marks. A selection covers some rows of

@@ -66,6 +66,18 @@ p, li { white-space: pre-wrap; }
         <source>the name must end with .png, .pdf or .csv</source>
         <translation>der Name muss auf .png, .pdf oder .csv enden</translation>
     </message>
+    <message>
+        <source>a side on paper must have from %1 to %2 millimetres</source>
+        <translation>eine Seite auf dem Papier muss %1 bis %2 Millimeter haben</translation>
+    </message>
+    <message>
+        <source>the resolution must be from %1 to %2 dpi</source>
+        <translation>die Auflösung muss %1 bis %2 dpi sein</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels are too many: a side may have %3</source>
+        <translation>%1 x %2 Bildpunkte sind zu viele: eine Seite darf %3 haben</translation>
+    </message>
 </context>
 <context>
     <name>PlotChoice</name>
@@ -169,6 +181,18 @@ p, li { white-space: pre-wrap; }
         <source>The parameter %1 is the same in all runs and is left out.</source>
         <translation>Der Parameter %1 ist in allen Läufen gleich und wird ausgelassen.</translation>
     </message>
+    <message>
+        <source>The first column has no name and counts the rows; it is left out.</source>
+        <translation>Die erste Spalte hat keinen Namen und zählt die Zeilen; sie wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>There is no time column, so the points of a run are in the order of the file.</source>
+        <translation>Es gibt keine Zeitspalte, also stehen die Punkte eines Laufs in der Reihenfolge der Datei.</translation>
+    </message>
+    <message>
+        <source>There is no time column, so the rows are not taken for runs.</source>
+        <translation>Es gibt keine Zeitspalte, also gelten die Zeilen nicht als Läufe.</translation>
+    </message>
 </context>
 <context>
     <name>SelectionHistory</name>
@@ -226,6 +250,14 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>the session&apos;s table is damaged</source>
         <translation>die Tabelle der Sitzung ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1: two columns have the name %2; a session needs a name for each</source>
+        <translation>%1: zwei Spalten heißen %2; eine Sitzung braucht für jede einen eigenen Namen</translation>
+    </message>
+    <message>
+        <source>%1: there is not enough memory to save the session</source>
+        <translation>%1: der Speicher reicht nicht, um die Sitzung zu speichern</translation>
     </message>
 </context>
 <context>
@@ -447,6 +479,10 @@ p, li { white-space: pre-wrap; }
         <source>the table does not fit into memory</source>
         <translation>die Tabelle passt nicht in den Speicher</translation>
     </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation>lässt sich nicht öffnen: %1</translation>
+    </message>
 </context>
 <context>
     <name>StudyLoader</name>
@@ -628,8 +664,8 @@ p, li { white-space: pre-wrap; }
         <translation>Jeden Lauf auf sein Maximum n&amp;ormieren</translation>
     </message>
     <message>
-        <source>Scale each run of the chosen y columns so that its largest value is 1; unticked, the values are loaded again</source>
-        <translation>Jeden Lauf der gewählten y-Spalten so skalieren, dass sein größter Wert 1 ist; ohne Häkchen werden die Werte neu geladen</translation>
+        <source>Scale each run of the chosen y columns so that its largest value is 1; unticked, the values are loaded again. Times, numbers of runs and parameters are left out</source>
+        <translation>Jeden Lauf der gewählten y-Spalten so skalieren, dass sein größter Wert 1 ist; ohne Haken werden die Werte wieder geladen. Zeiten, Nummern der Läufe und Parameter bleiben außen vor</translation>
     </message>
 </context>
 <context>
@@ -682,16 +718,8 @@ p, li { white-space: pre-wrap; }
         <translation>Korrigiertes p</translation>
     </message>
     <message>
-        <source>Number of values of the selected runs</source>
-        <translation>Anzahl der Werte der ausgewählten Läufe</translation>
-    </message>
-    <message>
         <source>Selected</source>
         <translation>Ausgewählt</translation>
-    </message>
-    <message>
-        <source>Number of values of the runs that are not selected</source>
-        <translation>Anzahl der Werte der nicht ausgewählten Läufe</translation>
     </message>
     <message>
         <source>Not selected</source>
@@ -704,6 +732,34 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Significant</source>
         <translation>Signifikant</translation>
+    </message>
+    <message>
+        <source>Not tested. Values repeat: the test needs a value of its own for every run.</source>
+        <translation>Nicht getestet. Werte wiederholen sich: der Test braucht für jeden Lauf einen eigenen Wert.</translation>
+    </message>
+    <message>
+        <source>Not tested. Values are missing: the test needs a number for every run.</source>
+        <translation>Nicht getestet. Werte fehlen: der Test braucht für jeden Lauf eine Zahl.</translation>
+    </message>
+    <message>
+        <source>Not tested. Values change within a run: the test needs one value for every run.</source>
+        <translation>Nicht getestet. Werte ändern sich innerhalb eines Laufs: der Test braucht einen Wert für jeden Lauf.</translation>
+    </message>
+    <message>
+        <source>Not tested. Another parameter changes within a run, which distorts this test.</source>
+        <translation>Nicht getestet. Ein anderer Parameter ändert sich innerhalb eines Laufs, was diesen Test verfälscht.</translation>
+    </message>
+    <message>
+        <source>not tested</source>
+        <translation>nicht getestet</translation>
+    </message>
+    <message>
+        <source>Number of selected runs</source>
+        <translation>Anzahl der gewählten Läufe</translation>
+    </message>
+    <message>
+        <source>Number of runs that are not selected</source>
+        <translation>Anzahl der nicht gewählten Läufe</translation>
     </message>
 </context>
 <context>
@@ -857,10 +913,6 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Pixels</source>
         <translation>Pixel</translation>
-    </message>
-    <message>
-        <source>more than %1 on a side</source>
-        <translation>mehr als %1 auf einer Seite</translation>
     </message>
 </context>
 <context>
@@ -1132,6 +1184,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Updated in %1 ms</source>
         <translation>In %1 ms aktualisiert</translation>
+    </message>
+    <message>
+        <source>&amp;Clear list</source>
+        <translation>Liste &amp;leeren</translation>
     </message>
 </context>
 <context>
