@@ -229,7 +229,7 @@ TEST_F(SelectionMouseInStyles, SelectsPairsOfFitParametersButNotAlongTheirCourse
   const int before = announcements();
   vtkChart* course = container().getChartMatrix()->GetChart(vtkVector2i(0, 1));
   ASSERT_EQ(course->GetNumberOfPlots(), 1);
-  dragIn(course, {-5.0, 0.5}, {0.5, 3.5});
+  dragIn(course, {-2.5, 1.2}, {0.5, 0.8});
   EXPECT_EQ(announcements(), before);
   // Nor does it look as if something were selected.
   vtkIdTypeArray* marked = course->GetPlot(0)->GetSelection();
