@@ -4,6 +4,7 @@
 #include "app/Gallery.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
+#include "app/RunNormaliser.h"
 #include "app/Session.h"
 #include "app/StudyFile.h"
 #include "plot/PlotContainer.h"
@@ -37,9 +38,13 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
   PlotContainer& container = *widget->plotContainer();
   showStudy(opened.study, container);
   chooseOpeningStyle(container, options);
+  RunNormaliser normaliser;
   if (opened.session)
   {
     restoreSettings(*opened.session, container);
+    normaliser.follow(&container);
+    normaliser.setNormalised(opened.session->settings.normalised, true);
+    restoreWindow(*opened.session, container);
     restoreSelection(*opened.session, container);
   }
   PlotChoice choice =

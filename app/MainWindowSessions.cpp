@@ -62,6 +62,7 @@ void MainWindow::showSession(const RestoredSession& session)
 {
   restoreSettings(session, *container);
   groups->restoreNormalised(session.settings.normalised);
+  restoreWindow(session, *container);
   timeCourses->refresh();
   dock->setColumns(container->getLabels());
   restoreSelection(session, *container);

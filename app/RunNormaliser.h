@@ -43,7 +43,8 @@ public:
   std::vector<int> normalised() const;
   /// The container's table with the values that scaled columns had before. Shares the others.
   vtkSmartPointer<vtkTable> originalTable() const;
-  /// Scales or reloads each of `columns` that is not yet so. Leaves out what cannot be scaled.
+  /// Scales or reloads each of `columns` that is not yet so, and forgets the axis windows that were
+  /// chosen for their former values. Leaves out what cannot be scaled.
   void setNormalised(const std::vector<int>& columns, bool on);
   /// A new command that does so, the caller's; without the normaliser it does nothing.
   QUndoCommand* makeCommand(const std::vector<int>& columns, bool on);

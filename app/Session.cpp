@@ -74,15 +74,6 @@ SessionParts partsOf(const Study& study, PlotContainer& container, const PlotCho
   return {settingsText(settings), dumpStudy(study, container, table)};
 }
 
-void restoreWindow(plot::PlotState& state, const SessionSettings& settings)
-{
-  state.metaData->storedCoordinateWindow = CoordinateWindow();
-  if (!settings.plot->storedCoordinateWindow.valid)
-    return;
-  state.coordinateWindows[plot::currentKey(state)] = settings.plot->storedCoordinateWindow;
-  state.windowScales[plot::currentKey(state)] = settings.windowScales;
-}
-
 /// The columns that a session names as parameters come from a file.
 bool areSomeOf(const std::vector<int>& named, std::vector<int> found)
 {
@@ -216,9 +207,19 @@ void restoreSettings(const RestoredSession& session, PlotContainer& container)
     settings.parameterColumns = found;
   if (chartCount(container) > mostRestoredCharts)
     settings.setPlotStyle(xyPlot);
-  restoreWindow(container.state(), session.settings);
   container.setLogScaleY(session.settings.logY);
   container.setShowLegend(session.settings.legend);
+}
+
+void restoreWindow(const RestoredSession& session, PlotContainer& container)
+{
+  const SessionSettings& settings = session.settings;
+  plot::PlotState& state = container.state();
+  state.metaData->storedCoordinateWindow = CoordinateWindow();
+  if (!settings.plot->storedCoordinateWindow.valid)
+    return;
+  state.coordinateWindows[plot::currentKey(state)] = settings.plot->storedCoordinateWindow;
+  state.windowScales[plot::currentKey(state)] = settings.windowScales;
 }
 
 PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container)

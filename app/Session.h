@@ -60,6 +60,10 @@ inline constexpr int mostRestoredCharts = 60 * 60;
 /// not draw, and normalises nothing: that is for who keeps the values.
 void restoreSettings(const RestoredSession& session, PlotContainer& container);
 
+/// Restores the part of the plane that was shown, in a container whose settings are restored. Comes
+/// after normalising, which forgets it.
+void restoreWindow(const RestoredSession& session, PlotContainer& container);
+
 /// What the user had chosen, in a container whose settings are restored.
 PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container);
 

@@ -8,7 +8,11 @@
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkAxis.h>
+#include <vtkChartParallelCoordinates.h>
 #include <vtkChartXY.h>
+#include <vtkIdTypeArray.h>
+#include <vtkIntArray.h>
+#include <vtkPlot.h>
 
 #include <gtest/gtest.h>
 
@@ -16,6 +20,7 @@
 #include <QColor>
 #include <QFile>
 #include <QImage>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -30,10 +35,19 @@ namespace
 
 using namespace Talmesh::app;
 using Runs = std::set<int>;
+using Rows = std::set<vtkIdType>;
 
 constexpr int patience = 60000;
 constexpr int runCount = 3;
 constexpr int pointsPerRun = 4;
+constexpr plotStyles drawnStyles[] = {xyPlot,
+                                      scatterPlotMatrix,
+                                      xyzPlot,
+                                      multiPlot,
+                                      selectionCdfPlot,
+                                      scatterWithErrorBars,
+                                      fitParameterDistribution,
+                                      parallelCoordinates};
 
 /// The window with three runs of "X", drawn as lines.
 class SelectionInWindow : public ::testing::Test
@@ -66,6 +80,12 @@ protected:
     window.plotDock()->setChoice(choice);
     emit window.plotDock()->choiceChanged();
     plot().updatePlot(true);
+  }
+
+  /// Where the point of `run` at `point` is shown.
+  QPoint pixelOfPoint(int run, int point)
+  {
+    return pixelOf(point, 2.0 + std::sin(point * 0.3 + run));
   }
 
   QPoint pixelOf(double x, double y)
@@ -123,6 +143,26 @@ protected:
     QFile file(folder.filePath(name));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QByteArray(R"({"format": "talmesh-runs", "version": 1, "runs": )") + runs + "}");
+  }
+
+  /// The rows that the link's selection names.
+  Rows flags()
+  {
+    const auto marks = vtkSmartPointer<vtkIntArray>::Take(container().getCurrentSelection());
+    Rows rows;
+    for (vtkIdType row = 0; row < marks->GetNumberOfValues(); ++row)
+      if (marks->GetValue(row) == 1)
+        rows.insert(row);
+    return rows;
+  }
+
+  /// The rows highlighted in the parallel coordinates.
+  Rows highlightedLines()
+  {
+    auto* chart = vtkChartParallelCoordinates::SafeDownCast(container().getItem());
+    vtkIdTypeArray* list = chart->GetPlot(0)->GetSelection();
+    const vtkIdType* first = list->GetPointer(0);
+    return {first, first + list->GetNumberOfValues()};
   }
 
   Runs runs() { return std::unique_ptr<ParameterSelection>(container().getSelection())->runs; }
@@ -183,11 +223,21 @@ TEST_F(SelectionInWindow, IsEverythingOrNothingFromTheKeyboard)
 TEST_F(SelectionInWindow, SurvivesAChangeOfStyleAndColumns)
 {
   dragAround(1, 1);
-  for (const plotStyles style :
-       {scatterPlotMatrix, selectionCdfPlot, multiPlot, parallelCoordinates, xyPlot})
+  for (const plotStyles style : drawnStyles)
   {
     choose(style);
     EXPECT_EQ(runs(), Runs{1}) << style;
+    EXPECT_EQ(flags(), Rows{5}) << style;
+    EXPECT_EQ(window.selectionText(), "1 of 3 runs selected") << style;
+    if (style == parallelCoordinates)
+    {
+      EXPECT_EQ(highlightedLines(), Rows{5});
+    }
+    // Style 4 shows no selection; 3, 6 and 8 have something red without one.
+    else if (style == xyPlot || style == multiPlot || style == scatterWithErrorBars)
+    {
+      EXPECT_GT(redPixels(), 10) << style;
+    }
   }
   PlotChoice choice = window.plotDock()->choice();
   choice.y = {1};
@@ -248,15 +298,101 @@ TEST_F(SelectionInWindow, SplitsTheRunsForTheStatistics)
 
 TEST_F(SelectionInWindow, IsClearedInEveryStyle)
 {
-  for (const plotStyles style : {xyPlot, selectionCdfPlot})
+  for (const plotStyles style : drawnStyles)
   {
     choose(xyPlot);
     dragAround(1, 1);
     choose(style);
     press(QKeySequence(Qt::Key_Escape));
     EXPECT_EQ(runs(), Runs{}) << style;
+    EXPECT_EQ(flags(), Rows{}) << style;
     EXPECT_EQ(window.selectionText(), "0 of 3 runs selected") << style;
+    if (style == parallelCoordinates)
+    {
+      EXPECT_EQ(highlightedLines(), Rows{});
+    }
+    else if (style == xyPlot || style == multiPlot || style == scatterWithErrorBars)
+    {
+      EXPECT_EQ(redPixels(), 0) << style;
+    }
   }
+}
+
+TEST_F(SelectionInWindow, IsUndoneAndRedoneInEveryStyle)
+{
+  for (const plotStyles style : drawnStyles)
+  {
+    choose(xyPlot);
+    dragAround(1, 1);
+    dragAround(2, 1);
+    choose(style);
+    press(QKeySequence::Undo);
+    EXPECT_EQ(runs(), Runs{1}) << style;
+    EXPECT_EQ(window.selectionText(), "1 of 3 runs selected") << style;
+    press(QKeySequence::Redo);
+    EXPECT_EQ(runs(), Runs{2}) << style;
+    press(QKeySequence::Undo);
+    press(QKeySequence::Undo);
+    EXPECT_EQ(flags(), Rows{}) << style;
+  }
+}
+
+TEST_F(SelectionInWindow, FollowsAClickOnAPoint)
+{
+  QTest::mouseClick(&plot(), Qt::RightButton, Qt::NoModifier, pixelOfPoint(1, 1));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(runs(), Runs{1});
+  EXPECT_EQ(window.selectionText(), "1 of 3 runs selected");
+  QTest::mouseClick(&plot(), Qt::RightButton, Qt::ControlModifier, pixelOfPoint(2, 1));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(runs(), (Runs{1, 2}));
+  EXPECT_GT(redPixels(), 100);
+  press(QKeySequence::Undo);
+  EXPECT_EQ(runs(), Runs{1});
+  press(QKeySequence::Undo);
+  EXPECT_EQ(runs(), Runs{});
+}
+
+TEST_F(SelectionInWindow, IsToggledWhereSeveralColumnsAreDrawn)
+{
+  PlotChoice choice = window.plotDock()->choice();
+  choice.y = {0, 1};
+  window.plotDock()->setChoice(choice);
+  emit window.plotDock()->choiceChanged();
+  ASSERT_EQ(container().getChartXY()->GetNumberOfPlots(), 2);
+  dragAround(1, 1);
+  EXPECT_EQ(runs(), Runs{1});
+  dragAround(0, 1, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(runs(), (Runs{0, 1}));
+  dragAround(1, 1, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(runs(), Runs{0});
+}
+
+TEST_F(SelectionInWindow, HasItsKeysOnThePageOfRunsOnly)
+{
+  auto* tabs = window.findChild<QTabWidget*>();
+  dragAround(1, 1);
+  tabs->setCurrentIndex(1);
+  press(QKeySequence::SelectAll);
+  EXPECT_EQ(runs(), Runs{1});
+  press(QKeySequence(Qt::Key_Escape));
+  EXPECT_EQ(runs(), Runs{1});
+  tabs->setCurrentIndex(0);
+  press(QKeySequence::SelectAll);
+  EXPECT_EQ(runs(), (Runs{0, 1, 2}));
+  press(QKeySequence(Qt::Key_Escape));
+  EXPECT_EQ(runs(), Runs{});
+}
+
+TEST_F(SelectionInWindow, SurvivesAButtonHeldWhileAnotherStudyOpens)
+{
+  const QPoint start = pixelOfPoint(1, 1);
+  QTest::mousePress(&plot(), Qt::RightButton, Qt::NoModifier, start);
+  window.openFile(folder.filePath("runs.csv"));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, patience));
+  QTest::mouseRelease(&plot(), Qt::RightButton, Qt::NoModifier, start + QPoint(50, 50));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window.selectionText(), "0 of 3 runs selected");
 }
 
 TEST_F(SelectionInWindow, StartsAnewWithAnotherStudy)

@@ -130,6 +130,7 @@ protected:
     {
       showStudy(opened.study, *restored);
       restoreSettings(*opened.session, *restored);
+      restoreWindow(*opened.session, *restored);
     }
     return *restored;
   }

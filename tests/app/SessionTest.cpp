@@ -62,6 +62,7 @@ protected:
     {
       showStudy(opened.study, *restored);
       restoreSettings(*opened.session, *restored);
+      restoreWindow(*opened.session, *restored);
       restoreSelection(*opened.session, *restored);
     }
     return *restored;
