@@ -2,6 +2,7 @@
 
 #include "plot/PlotState.h"
 #include "plot/SelectionBounds.h"
+#include "plot/vtkSelectableChartXY.h"
 
 #include <vtkContextScene.h>
 
@@ -23,7 +24,7 @@ bool isMatrixCell(const PlotState& state)
 
 vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state)
 {
-  auto chart = vtkSmartPointer<vtkChartXY>::New();
+  auto chart = vtkSmartPointer<vtkSelectableChartXY>::New();
   chart->SetRenderEmpty(true);
   chart->SetAnnotationLink(state.annotationLink);
   return chart;

@@ -4,10 +4,10 @@
 #include "plot/ChartLifetime.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotState.h"
+#include "plot/SelectionModes.h"
 #include "plot/TableColumns.h"
 
 #include <vtkAxis.h>
-#include <vtkIdTypeArray.h>
 #include <vtkPlotParallelCoordinates.h>
 #include <vtkTextProperty.h>
 
@@ -62,8 +62,7 @@ void colorLines(PlotState& state)
 void feedLines(PlotState& state)
 {
   vtkNew<vtkPlotParallelCoordinates> plot;
-  vtkNew<vtkIdTypeArray> brushed;
-  plot->SetSelection(brushed);
+  plot->SetSelection(listSelectedRows(state.annotationLink, state.table));
   state.parallelCoordinates->SetPlot(plot);
   state.parallelCoordinates->GetVisibleColumns()->SetNumberOfTuples(0);
   plot->vtkPlot::SetInputData(state.table);

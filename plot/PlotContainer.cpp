@@ -8,6 +8,8 @@
 #include "plot/Redraw.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SettingsSignals.h"
+#include "plot/vtkSelectableChartMatrix.h"
+#include "plot/vtkSelectableParallelCoordinates.h"
 #include "plot/vtkSelectableScatterPlotMatrix.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
@@ -28,7 +30,7 @@ void makeCharts(PlotState& state)
   state.chartXY = Talmesh::plot::makeXYChart(state);
   state.scatterPlotMatrix = vtkSmartPointer<vtkSelectableScatterPlotMatrix>::New();
   state.chartXYZ = vtkSmartPointer<vtkChartXYZ>::New();
-  state.chartMatrix = vtkSmartPointer<vtkChartMatrix>::New();
+  state.chartMatrix = vtkSmartPointer<vtkSelectableChartMatrix>::New();
   state.extractSelectedRows = vtkSmartPointer<vtkExtractSelectedRows>::New();
   state.currentChart = state.chartXY;
   state.chartXY->AddPlot(vtkChart::POINTS);
@@ -60,7 +62,7 @@ PlotContainer::PlotContainer(QObject* parent)
   d->coordinateWindows.max_load_factor(1.0F);
   d->table = vtkSmartPointer<vtkTable>::New();
   makeCharts(*d);
-  d->parallelCoordinates = vtkSmartPointer<vtkChartParallelCoordinates>::New();
+  d->parallelCoordinates = vtkSmartPointer<vtkSelectableParallelCoordinates>::New();
   d->parallelCoordinates->SetAnnotationLink(d->annotationLink);
   connectParts();
 }

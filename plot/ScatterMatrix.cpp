@@ -69,6 +69,22 @@ void activatePair(PlotState& state, int xColumn, int yColumn)
   matrix->SetActivePlot(vtkVector2i(static_cast<int>(left), static_cast<int>(last - right)));
 }
 
+bool sameNames(vtkStringArray* a, vtkStringArray* b)
+{
+  bool same = a->GetNumberOfValues() == b->GetNumberOfValues();
+  for (vtkIdType i = 0; same && i < a->GetNumberOfValues(); ++i)
+    same = a->GetValue(i) == b->GetValue(i);
+  return same;
+}
+
+/// A matrix that goes on showing the same columns goes on showing the pair that the user chose.
+void activateAgain(vtkScatterPlotMatrix* matrix, const vtkVector2i& pair)
+{
+  matrix->Update();
+  if (pair.GetY() >= 0)
+    matrix->SetActivePlot(pair);
+}
+
 bool hasColumns(vtkTable* table, vtkStringArray* names)
 {
   for (vtkIdType i = 0; i < names->GetNumberOfValues(); ++i)
@@ -83,6 +99,10 @@ bool hasColumns(vtkTable* table, vtkStringArray* names)
 
 void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
 {
+  const bool shown = state.currentChart == state.scatterPlotMatrix;
+  vtkNew<vtkStringArray> namesBefore;
+  namesBefore->DeepCopy(state.scatterPlotMatrix->GetVisibleColumns());
+  const vtkVector2i pairBefore = state.scatterPlotMatrix->GetActivePlot();
   showChart(state, state.scatterPlotMatrix, scene);
   const ChartCells dropped = cellsOf(state.scatterPlotMatrix);
   // The matrix ignores an empty table and would go on showing the one before.
@@ -95,7 +115,9 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
 
   showColumns(state, columnsToShow(state));
   retireCells(dropped, scene);
-  if (state.metaData->getLimitColumVisibility())
+  if (shown && sameNames(namesBefore, state.scatterPlotMatrix->GetVisibleColumns()))
+    activateAgain(state.scatterPlotMatrix, pairBefore);
+  else if (state.metaData->getLimitColumVisibility())
     activatePair(state, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
 
   state.scatterPlotMatrix->SetGutter(vtkVector2f(static_cast<float>(state.verticalGutter),

@@ -10,8 +10,9 @@ namespace Talmesh::plot
 struct PlotState;
 
 /// Style 3: every column against every other. When the settings limit the columns, only the first x
-/// column, the first y column and the parameter columns, with (x, y) as the active plot.
-/// Columns that are not numeric, have no name or no finite range are left out.
+/// column, the first y column and the parameter columns, with (x, y) as the active plot. A matrix
+/// that is shown already, with the same columns, keeps its active plot. Columns that are not
+/// numeric, have no name or no finite range are left out.
 void drawScatterMatrix(PlotState& state, vtkContextScene* scene);
 
 /// Lets the matrix, if it is the chart now shown, go on showing what it shows from `copy`: it looks

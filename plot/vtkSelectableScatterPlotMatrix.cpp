@@ -1,16 +1,20 @@
 #include "plot/vtkSelectableScatterPlotMatrix.h"
 
-#include <vtkChartXY.h>
+#include "plot/vtkSelectableChartXY.h"
+
 #include <vtkObjectFactory.h>
-#include <vtkPlot.h>
 
 vtkStandardNewMacro(vtkSelectableScatterPlotMatrix);
 
-void vtkSelectableScatterPlotMatrix::AddSupplementaryPlot(vtkChart* chart, int plotType,
-                                                          vtkStdString, vtkStdString, int)
+vtkSelectableScatterPlotMatrix::vtkSelectableScatterPlotMatrix()
 {
-  // The axes at either side have the same fixed range, so the picture stays the same.
-  auto* large = vtkChartXY::SafeDownCast(chart);
-  if (plotType == ACTIVEPLOT && large)
-    large->SetPlotCorner(large->GetPlot(0), 0);
+  NumberOfFrames = 0;
+}
+
+vtkChart* vtkSelectableScatterPlotMatrix::GetChart(const vtkVector2i& position)
+{
+  const vtkIdType before = GetNumberOfItems();
+  vtkChart* cell = Superclass::GetChart(position);
+  // A cell that VTK has just filled has a chart of VTK's.
+  return GetNumberOfItems() == before ? cell : vtkSelectableChartXY::PlaceIn(this, position);
 }

@@ -5,21 +5,20 @@
 
 #include <vtkScatterPlotMatrix.h>
 
-/// A scatter-plot matrix in whose large chart selections can be added to, subtracted from and
-/// toggled. VTK's chart takes the selection so far from plots in its first corner only, while its
-/// matrix puts the plot into the opposite one.
+/// A scatter-plot matrix whose charts are vtkSelectableChartXY, and which shows another pair at
+/// once: VTK's turn of the large chart goes on in a timer that outlives the matrix's place in the
+/// scene and the matrix itself.
 class vtkSelectableScatterPlotMatrix : public vtkScatterPlotMatrix
 {
 public:
   static vtkSelectableScatterPlotMatrix* New();
   TALMESH_VTK_TYPE(vtkSelectableScatterPlotMatrix, vtkScatterPlotMatrix);
 
-protected:
-  vtkSelectableScatterPlotMatrix() = default;
-  ~vtkSelectableScatterPlotMatrix() override = default;
+  vtkChart* GetChart(const vtkVector2i& position) override;
 
-  void AddSupplementaryPlot(vtkChart* chart, int plotType, vtkStdString row, vtkStdString column,
-                            int plotCorner) override;
+protected:
+  vtkSelectableScatterPlotMatrix();
+  ~vtkSelectableScatterPlotMatrix() override = default;
 
 private:
   vtkSelectableScatterPlotMatrix(const vtkSelectableScatterPlotMatrix&) = delete;

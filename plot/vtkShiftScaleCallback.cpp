@@ -10,8 +10,11 @@
 
 vtkStandardNewMacro(vtkShiftScaleCallback);
 
-void vtkShiftScaleCallback::Execute(vtkObject* caller, unsigned long, void*)
+void vtkShiftScaleCallback::Execute(vtkObject* caller, unsigned long, void* callData)
 {
+  // A click on a point comes with that point, a pan or zoom with nothing.
+  if (callData)
+    return;
   auto* chart = vtkChart::SafeDownCast(caller);
   if (!chart || !this->Container)
     return;

@@ -13,8 +13,10 @@ public:
   static vtkShiftScaleCallback* New();
 
   /// @param caller the chart that was panned or zoomed; anything but a chart with a bottom and a
-  ///   left axis is ignored, as are the other arguments. Settings without a first x or y column
-  ///   name no configuration to remember a window for.
+  ///   left axis is ignored. Settings without a first x or y column name no configuration to
+  ///   remember a window for.
+  /// @param eventId ignored
+  /// @param callData null for a pan or zoom; VTK reports clicks on points with the same event
   void Execute(vtkObject* caller, unsigned long eventId, void* callData) override;
 
   /// Not owned. Null until a container sets it and again once that container is gone.

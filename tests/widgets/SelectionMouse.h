@@ -7,12 +7,15 @@
 #include "support/SampleRuns.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <vtkAnnotationLink.h>
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
+#include <vtkCommand.h>
 #include <vtkIntArray.h>
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPoint>
 #include <QTest>
@@ -43,6 +46,8 @@ protected:
     widget.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&widget));
     widget.updatePlot(true);
+    container().getAnnotationLink()->AddObserver(vtkCommand::AnnotationChangedEvent, this,
+                                                 &SelectionMouse::count);
   }
 
   PlotContainer& container() { return *widget.plotContainer(); }
@@ -87,6 +92,29 @@ protected:
     widget.updatePlot(true);
   }
 
+  /// Presses and releases a button at one place of the XY chart.
+  void click(const DataPoint& point, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+             Qt::MouseButton button = Qt::RightButton)
+  {
+    vtkChart* chart = container().getChartXY();
+    clickPixel(pixelOf(point, chart->GetAxis(vtkAxis::BOTTOM), chart->GetAxis(vtkAxis::LEFT)),
+               modifiers, button);
+  }
+
+  void clickPixel(const QPoint& pixel, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+                  Qt::MouseButton button = Qt::RightButton)
+  {
+    QTest::mouseClick(&widget, button, modifiers, pixel);
+    widget.updatePlot(true);
+  }
+
+  void move(const QPoint& to, Qt::MouseButton pressed)
+  {
+    QMouseEvent event(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, pressed,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+  }
+
   /// Drags a rectangle around the point of `run` at `point`.
   void dragAround(int run, int point, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
   {
@@ -98,6 +126,9 @@ protected:
   {
     return SampleRuns::valuesOf(vtk::TakeSmartPointer(container().getCurrentSelection()));
   }
+
+  /// How often the selection has been announced.
+  int announcements() const { return announced; }
 
   std::set<int> runs()
   {
@@ -112,6 +143,11 @@ protected:
   }
 
   VtkPlotWidget widget;
+
+private:
+  void count() { ++announced; }
+
+  int announced = 0;
 };
 
 #endif

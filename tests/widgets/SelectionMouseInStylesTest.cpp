@@ -1,6 +1,7 @@
 #include "plot/PlotState.h"
 
 #include <vtkAnnotationLink.h>
+#include <vtkIdTypeArray.h>
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
@@ -65,6 +66,67 @@ TEST_F(SelectionMouseInStyles, AddsAndSubtractsInTheScatterPlotMatrix)
   EXPECT_EQ(marked(), Values(9, 0.0));
 }
 
+TEST_F(SelectionMouseInStyles, TogglesInTheScatterPlotMatrix)
+{
+  showMatrix();
+  dragInMatrix({0.7, 9.0}, {1.3, 13.0});
+  dragInMatrix({0.7, 0.5}, {1.3, 23.0}, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(flags(), Values({0, 1, 0, 0, 0, 0, 0, 1, 0}));
+}
+
+TEST_F(SelectionMouseInStyles, PansTheLargeChartOfTheMatrixWithItsAxes)
+{
+  showMatrix();
+  vtkChart* chart = matrix()->GetMainChart();
+  vtkAxis* x = chart->GetAxis(vtkAxis::TOP);
+  vtkAxis* y = chart->GetAxis(vtkAxis::RIGHT);
+  const QPoint point = pixelOf({1.0, 11.0}, x, y);
+  const double width = x->GetMaximum() - x->GetMinimum();
+  const double left = x->GetMinimum();
+  const QPoint by(24, -18);
+  QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, point);
+  move(point + by, Qt::LeftButton);
+  QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, point + by);
+  widget.updatePlot(true);
+  const double pixels = x->GetPoint2()[0] - x->GetPoint1()[0];
+  EXPECT_NEAR(x->GetMinimum(), left - 24.0 / pixels * width, 1e-6 * width);
+  EXPECT_NEAR(x->GetMaximum() - x->GetMinimum(), width, 1e-6 * width);
+  EXPECT_LE((pixelOf({1.0, 11.0}, x, y) - (point + by)).manhattanLength(), 2);
+  // The points are where the axes say.
+  dragPixels(point + by - QPoint(5, 5), point + by + QPoint(5, 5));
+  EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 0, 0, 0, 0}));
+}
+
+TEST_F(SelectionMouseInStyles, KeepsThePairOfTheMatrixThroughASelection)
+{
+  showMatrix();
+  const vtkVector2i chosen(0, 0);
+  ASSERT_NE(matrix()->GetActivePlot(), chosen);
+  ASSERT_TRUE(matrix()->SetActivePlot(chosen));
+  widget.updatePlot(true);
+  // The time and the second parameter, which is 2, 4 and 6.
+  dragInMatrix({0.7, 3.5}, {1.3, 4.5});
+  EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 0, 0, 0, 0}));
+  EXPECT_EQ(matrix()->GetActivePlot(), chosen);
+  EXPECT_EQ(matrix()->GetMainChart()->GetNumberOfPlots(), 1);
+  dragInMatrix({0.7, 5.5}, {1.3, 6.5}, Qt::ControlModifier);
+  EXPECT_EQ(runs(), Runs({1, 2}));
+  // Drawn afresh, the columns to plot are the pair.
+  showStyle(xyPlot);
+  showStyle(scatterPlotMatrix);
+  EXPECT_NE(matrix()->GetActivePlot(), chosen);
+}
+
+TEST_F(SelectionMouseInStyles, KeepsThePairAmongAllColumns)
+{
+  showStyle(scatterPlotMatrix);
+  const vtkVector2i chosen(2, 0);
+  ASSERT_TRUE(matrix()->SetActivePlot(chosen));
+  container().redraw();
+  widget.updatePlot(true);
+  EXPECT_EQ(matrix()->GetActivePlot(), chosen);
+}
+
 TEST_F(SelectionMouseInStyles, ShowsASelectionOfTheMatrixInOtherStyles)
 {
   showMatrix();
@@ -86,6 +148,10 @@ TEST_F(SelectionMouseInStyles, SelectsInTheMainChartOfTheMultiPlotPage)
   EXPECT_EQ(container().getDerivedTables().size(), 8U);
   drag({0.7, 19.0}, {1.3, 21.5}, Qt::ControlModifier);
   EXPECT_EQ(runs(), Runs({1, 2}));
+  drag({0.7, 9.0}, {1.3, 11.5}, Qt::ShiftModifier);
+  EXPECT_EQ(flags(), Values({0, 0, 0, 0, 0, 1, 0, 1, 0}));
+  drag({0.7, 9.0}, {2.3, 13.0}, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 0, 0, 1, 0}));
 }
 
 TEST_F(SelectionMouseInStyles, SelectsRunsByTheirParametersInTheMultiPlotPage)
@@ -109,6 +175,13 @@ TEST_F(SelectionMouseInStyles, SelectsAmongTheTrajectoriesOfTheSelectionPage)
     EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 1, 0, 0, 0})) << lines;
     EXPECT_EQ(runs(), Runs{1}) << lines;
     EXPECT_EQ(container().getKsResults().size(), 2U) << lines;
+    drag({0.7, 19.0}, {1.3, 21.5}, Qt::ControlModifier);
+    EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 1, 0, 1, 0})) << lines;
+    drag({1.7, 9.0}, {2.3, 13.0}, Qt::ShiftModifier);
+    EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 0, 0, 1, 0})) << lines;
+    EXPECT_EQ(runs(), Runs({1, 2})) << lines;
+    drag({0.7, 0.5}, {1.3, 13.0}, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(flags(), Values({0, 1, 0, 0, 0, 0, 0, 1, 0})) << lines;
     drag({0.3, 4.0}, {0.7, 7.0});
     EXPECT_EQ(flags(), Values(9, 0.0)) << lines;
     EXPECT_EQ(container().getDerivedTables().size(), 2U) << lines;
@@ -132,13 +205,33 @@ TEST_F(SelectionMouseInStyles, SelectsAlongAnAxisOfTheParallelCoordinates)
   EXPECT_EQ(container().getDerivedTables().size(), 8U);
 }
 
-TEST_F(SelectionMouseInStyles, LeavesParallelCoordinatesAloneBesideTheirAxes)
+TEST_F(SelectionMouseInStyles, SelectsAmongPointsWithErrorBars)
 {
-  showStyle(parallelCoordinates);
-  vtkChartParallelCoordinates* chart = container().state().parallelCoordinates;
-  const QPoint between(
-      qRound((chart->GetAxis(0)->GetPoint1()[0] + chart->GetAxis(1)->GetPoint1()[0]) / 2.0F),
-      widget.height() / 2);
-  dragPixels(between, between + QPoint(3, 40));
-  EXPECT_EQ(flags(), Values(9, 0.0));
+  showStyle(scatterWithErrorBars);
+  drag({0.7, 9.0}, {2.3, 13.0});
+  EXPECT_EQ(flags(), Values({0, 0, 0, 0, 1, 1, 0, 0, 0}));
+  drag({0.7, 19.0}, {1.3, 21.5}, Qt::ControlModifier);
+  drag({1.7, 9.0}, {2.3, 13.0}, Qt::ShiftModifier);
+  EXPECT_EQ(runs(), Runs({1, 2}));
+  drag({0.7, 0.5}, {1.3, 23.0}, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(flags(), Values({0, 1, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+TEST_F(SelectionMouseInStyles, SelectsPairsOfFitParametersButNotAlongTheirCourses)
+{
+  showStyle(fitParameterDistribution);
+  vtkChart* pair = container().getChartMatrix()->GetChart(vtkVector2i(0, 0));
+  dragIn(pair, {1.7, 3.5}, {2.3, 4.5});
+  EXPECT_EQ(flags(), Values({0, 0, 0, 1, 1, 1, 0, 0, 0}));
+  pair = container().getChartMatrix()->GetChart(vtkVector2i(0, 0));
+  dragIn(pair, {2.7, 5.5}, {3.3, 6.5}, Qt::ControlModifier);
+  EXPECT_EQ(runs(), Runs({1, 2}));
+  const int before = announcements();
+  vtkChart* course = container().getChartMatrix()->GetChart(vtkVector2i(0, 1));
+  ASSERT_EQ(course->GetNumberOfPlots(), 1);
+  dragIn(course, {-2.5, 1.2}, {0.5, 0.8});
+  EXPECT_EQ(announcements(), before);
+  // Nor does it look as if something were selected.
+  vtkIdTypeArray* marked = course->GetPlot(0)->GetSelection();
+  EXPECT_TRUE(!marked || marked->GetNumberOfValues() == 0);
 }

@@ -1,7 +1,11 @@
 #include "SelectionMouse.h"
 
+#include "plot/PlotFeed.h"
+#include "plot/SelectionNodes.h"
+
 #include <vtkAnnotationLink.h>
 #include <vtkIdTypeArray.h>
+#include <vtkPlot.h>
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
 
@@ -78,4 +82,49 @@ TEST_P(SelectionMouseOverRuns, SelectsNothingInAnEmptyPlace)
   drag({0.3, 5.0}, {0.7, 7.0});
   EXPECT_EQ(flags(), Values(9, 0.0));
   EXPECT_EQ(container().getDerivedTables().size(), 2U);
+}
+
+TEST_P(SelectionMouseOverRuns, TogglesWhereSeveralColumnsAreDrawn)
+{
+  // The second plot shows the same rows elsewhere: "Molecule: B" is minus "Complex: A".
+  const auto addSecond = [this]
+  {
+    vtkChartXY* chart = container().getChartXY();
+    vtkPlot* second = chart->AddPlot(vtkChart::POINTS);
+    Talmesh::plot::feedPlot(second, container().getTable(), SampleRuns::timeColumn,
+                            SampleRuns::moleculeColumn);
+    widget.updatePlot(true);
+  };
+  addSecond();
+  dragAround(1, 1);
+  EXPECT_EQ(runs(), std::set<int>({1}));
+  addSecond();
+  dragAround(0, 1, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(runs(), std::set<int>({0, 1}));
+  addSecond();
+  drag({0.7, -23.0}, {1.3, -9.0}, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(runs(), std::set<int>({0, 2}));
+  addSecond();
+  drag({0.7, -23.0}, {1.3, 23.0}, Qt::ShiftModifier);
+  EXPECT_EQ(flags(), Values(9, 0.0));
+}
+
+TEST_P(SelectionMouseOverRuns, LeavesTheListsOfOthersAlone)
+{
+  vtkNew<vtkIdTypeArray> rows;
+  rows->InsertNextValue(0);
+  container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::wrapRowSelection(rows));
+  widget.updatePlot(true);
+  dragAround(1, 1);
+  EXPECT_EQ(valuesOf(rows), Values({0}));
+}
+
+TEST_P(SelectionMouseOverRuns, AddsToRowsInAnyOrderAndForm)
+{
+  const auto two = Talmesh::plot::makeRowSelection({7, 1, 1});
+  two->AddNode(Talmesh::plot::makeRowSelection({4})->GetNode(0));
+  container().getAnnotationLink()->SetCurrentSelection(two);
+  widget.updatePlot(true);
+  dragAround(0, 0, Qt::ControlModifier);
+  EXPECT_EQ(flags(), Values({1, 1, 0, 0, 1, 0, 0, 1, 0}));
 }

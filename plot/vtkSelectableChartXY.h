@@ -1,0 +1,62 @@
+#ifndef vtkSelectableChartXY_h
+#define vtkSelectableChartXY_h
+
+#include "vtk/VtkCompat.h"
+
+#include <vtkChartXY.h>
+
+#include <vector>
+
+class vtkChartMatrix;
+class vtkTable;
+
+/// An XY chart in which the select button selects table rows.
+///
+/// A rectangle hits the points in it, a click the topmost point near it, both in every plot that is
+/// visible and selectable; selectable plots must be fed from one table. Control adds the rows hit
+/// to those selected, shift subtracts and both toggle them. The annotation link gets one new
+/// selection, which it announces; then the chart invokes SelectionChangedEvent. A click beside all
+/// points changes nothing. VTK's own chart writes a click into the link's current selection
+/// without telling anybody, rewrites row lists that others hold, knows the rows selected so far in
+/// its first corner only and toggles wrongly with several plots.
+///
+/// A chart without a link takes no selection, and other selection methods than by rows are VTK's.
+class vtkSelectableChartXY : public vtkChartXY
+{
+public:
+  static vtkSelectableChartXY* New();
+  TALMESH_VTK_TYPE(vtkSelectableChartXY, vtkChartXY);
+
+  bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
+  /// Does nothing once the chart has lost its place in the scene since the button was pressed.
+  bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
+
+  /// Puts a new chart of this kind into the cell of `matrix` at `position` instead of the one
+  /// there.
+  /// @return the chart, which the matrix owns
+  static vtkSelectableChartXY* PlaceIn(vtkChartMatrix* matrix, const vtkVector2i& position);
+
+protected:
+  vtkSelectableChartXY() = default;
+  ~vtkSelectableChartXY() override = default;
+
+private:
+  vtkSelectableChartXY(const vtkSelectableChartXY&) = delete;
+  void operator=(const vtkSelectableChartXY&) = delete;
+
+  /// Rows of a table; no table where nothing could be hit.
+  struct Hits
+  {
+    vtkSmartPointer<vtkTable> table;
+    std::vector<bool> rows;
+
+    void Add(vtkTable* of, vtkIdType row);
+  };
+
+  bool SelectsRows(const vtkContextMouseEvent& mouse);
+  void EndDrag();
+  Hits HitsBetween(const vtkVector2f& from, const vtkVector2f& to) const;
+  Hits HitsAt(const vtkVector2f& position) const;
+};
+
+#endif

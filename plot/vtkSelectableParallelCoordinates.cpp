@@ -1,0 +1,106 @@
+#include "plot/vtkSelectableParallelCoordinates.h"
+
+#include "plot/SelectionModes.h"
+
+#include <vtkAnnotationLink.h>
+#include <vtkAxis.h>
+#include <vtkChartXY.h>
+#include <vtkContextMouseEvent.h>
+#include <vtkContextScene.h>
+#include <vtkIdTypeArray.h>
+#include <vtkObjectFactory.h>
+#include <vtkPlot.h>
+#include <vtkTable.h>
+
+#include <cmath>
+
+vtkStandardNewMacro(vtkSelectableParallelCoordinates);
+
+namespace
+{
+
+/// Pixels; as near to an axis as VTK's own chart wants the mouse.
+constexpr float reach = 10.0F;
+
+std::vector<bool> rowsShown(vtkPlot* plot)
+{
+  std::vector<bool> rows(static_cast<std::size_t>(plot->GetInput()->GetNumberOfRows()), false);
+  vtkIdTypeArray* shown = plot->GetSelection();
+  for (vtkIdType i = 0; shown && i < shown->GetNumberOfValues(); ++i)
+    rows.at(static_cast<std::size_t>(shown->GetValue(i))) = true;
+  return rows;
+}
+
+} // namespace
+
+bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
+{
+  if (AnnotationLink && AnnotationLink->GetMTime() > Shown)
+  {
+    if (!KeepsBrush)
+      ResetAxesSelection();
+    KeepsBrush = false;
+    ShowSelection();
+  }
+  return Superclass::Paint(painter);
+}
+
+void vtkSelectableParallelCoordinates::ShowSelection()
+{
+  vtkPlot* plot = GetPlot(0);
+  if (AnnotationLink && plot->GetInput())
+    plot->SetSelection(Talmesh::plot::listSelectedRows(AnnotationLink, plot->GetInput()));
+  // VTK takes the link's own list, unchecked, when the link is younger than the plot.
+  plot->Modified();
+  Shown.Modified();
+}
+
+bool vtkSelectableParallelCoordinates::IsOverAxis(const vtkContextMouseEvent& mouse)
+{
+  const vtkVector2f position = mouse.GetScenePos();
+  if (position.GetY() <= static_cast<float>(Point1[1]) ||
+      position.GetY() >= static_cast<float>(Point2[1]))
+    return false;
+  for (int i = 0; i < static_cast<int>(GetNumberOfAxes()); ++i)
+  {
+    if (std::fabs(GetAxis(i)->GetPoint1()[0] - position.GetX()) < reach)
+      return true;
+  }
+  return false;
+}
+
+bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)
+{
+  const bool selects = mouse.GetButton() == Actions.Select();
+  Brushing = selects && IsOverAxis(mouse);
+  if (Brushing)
+    ResetAxesSelection();
+  const bool handled = Superclass::MouseButtonPressEvent(mouse);
+  // VTK's chart takes the rows of the former brush off the plot.
+  if (Brushing)
+    ShowSelection();
+  return handled;
+}
+
+bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
+{
+  if (!Scene)
+    return true;
+  vtkPlot* plot = GetPlot(0);
+  const bool selects = mouse.GetButton() == Actions.Select();
+  if (!selects || !Brushing || !AnnotationLink || !plot->GetInput())
+    return Superclass::MouseButtonReleaseEvent(mouse);
+  Brushing = false;
+  const vtkSmartPointer<vtkObject> kept = this;
+  const vtkSmartPointer<vtkAnnotationLink> link = AnnotationLink;
+  // Without a link the rows brushed stay in the plot.
+  SetAnnotationLink(nullptr);
+  plot->SetSelection(vtkNew<vtkIdTypeArray>());
+  const bool handled = Superclass::MouseButtonReleaseEvent(mouse);
+  SetAnnotationLink(link);
+  KeepsBrush = true;
+  Talmesh::plot::selectRows(
+      link, plot->GetInput(), rowsShown(plot),
+      vtkChartXY::GetMouseSelectionMode(mouse, vtkContextScene::SELECTION_DEFAULT));
+  return handled;
+}

@@ -1,0 +1,43 @@
+#ifndef vtkSelectableParallelCoordinates_h
+#define vtkSelectableParallelCoordinates_h
+
+#include "vtk/VtkCompat.h"
+
+#include <vtkChartParallelCoordinates.h>
+#include <vtkTimeStamp.h>
+
+/// A parallel-coordinates chart in which brushing an axis selects table rows as a rectangle in an
+/// XY chart does: control adds the rows brushed to those selected, shift subtracts and both toggle
+/// them, and the annotation link gets one new selection. VTK's own chart reads no modifiers. Each
+/// brush stands alone, and what is highlighted are the rows that the link's selection names.
+class vtkSelectableParallelCoordinates : public vtkChartParallelCoordinates
+{
+public:
+  static vtkSelectableParallelCoordinates* New();
+  TALMESH_VTK_TYPE(vtkSelectableParallelCoordinates, vtkChartParallelCoordinates);
+
+  bool Paint(vtkContext2D* painter) override;
+  bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
+  /// Does nothing once the chart has lost its place in the scene since the button was pressed.
+  bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
+
+  /// Highlights the rows that the link's selection names.
+  void ShowSelection();
+
+protected:
+  vtkSelectableParallelCoordinates() = default;
+  ~vtkSelectableParallelCoordinates() override = default;
+
+private:
+  vtkSelectableParallelCoordinates(const vtkSelectableParallelCoordinates&) = delete;
+  void operator=(const vtkSelectableParallelCoordinates&) = delete;
+
+  bool IsOverAxis(const vtkContextMouseEvent& mouse);
+
+  vtkTimeStamp Shown;
+  bool Brushing = false;
+  /// The brush still to be seen is that of the selection to be shown next.
+  bool KeepsBrush = false;
+};
+
+#endif
