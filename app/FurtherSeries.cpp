@@ -2,11 +2,13 @@
 
 #include "app/PlotChoice.h"
 #include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotFeed.h"
 #include "plot/TableColumns.h"
 #include "vtk/vtkPlotLineSet.h"
 
+#include <vtkAxis.h>
 #include <vtkChartXY.h>
 #include <vtkColorSeries.h>
 #include <vtkNew.h>
@@ -46,6 +48,13 @@ void colour(vtkPlot* plot, vtkColorSeries* colours, std::size_t series, unsigned
   plot->SetColor(c.GetRed(), c.GetGreen(), c.GetBlue(), alpha);
 }
 
+/// A drawing leaves the left axis where the window of the columns before had it.
+void freeLeftAxis(const PlotContainer& container, vtkChartXY* chart)
+{
+  if (!plot::rememberedWindow(container.state()))
+    chart->GetAxis(vtkAxis::LEFT)->SetBehavior(vtkAxis::AUTO);
+}
+
 } // namespace
 
 void addFurtherSeries(PlotContainer& container)
@@ -54,6 +63,7 @@ void addFurtherSeries(PlotContainer& container)
   const PlotMetaData& settings = *container.getMetaData();
   if (!chart || settings.getPlotStyle() != xyPlot || chart->GetNumberOfPlots() != 1)
     return;
+  freeLeftAxis(container, chart);
   vtkNew<vtkColorSeries> colours;
   colours->SetColorScheme(vtkColorSeries::BREWER_QUALITATIVE_DARK2);
   const std::vector<int>& columns = settings.yColumns;

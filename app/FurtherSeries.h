@@ -8,7 +8,8 @@ namespace Talmesh::app
 
 /// Completes the XY chart that a container has just drawn: a redraw plots the first y column only.
 /// Adds one plot of the same kind for every further y column, each in a colour of its own, and
-/// names all of them in the legend without their kind. Does nothing where the container shows no XY
+/// names all of them in the legend without their kind. Without a remembered window the left axis
+/// fits all of them. Does nothing where the container shows no XY
 /// chart.
 void addFurtherSeries(PlotContainer& container);
 

@@ -1,5 +1,6 @@
 #include "app/RunNormaliser.h"
 
+#include "plot/AxisWindows.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
@@ -77,8 +78,10 @@ void RunNormaliser::setNormalised(const std::vector<int>& columns, bool on)
   bool any = false;
   for (const int column : columns)
     any = (on ? scale(column) : reload(column)) || any;
-  if (any)
-    emit changed();
+  if (!any)
+    return;
+  plot::forgetWindows(container->state(), columns);
+  emit changed();
 }
 
 bool RunNormaliser::scale(int column)

@@ -35,7 +35,8 @@ public:
 
   /// Whether every one of `columns`, of which there must be one, is scaled now.
   bool isNormalised(const std::vector<int>& columns) const;
-  /// Scales or reloads each of `columns` that is not yet so.
+  /// Scales or reloads each of `columns` that is not yet so, and forgets the axis windows that were
+  /// chosen for their former values.
   void setNormalised(const std::vector<int>& columns, bool on);
   /// A new command that does so, the caller's; without the normaliser it does nothing.
   QUndoCommand* makeCommand(const std::vector<int>& columns, bool on);

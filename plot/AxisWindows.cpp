@@ -6,7 +6,9 @@
 
 #include <vtkAxis.h>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace Talmesh::plot
 {
@@ -43,6 +45,22 @@ bool wouldBeLogarithmic(const PlotState& state, int column, bool logarithmic)
   double range[2];
   return logarithmic && finiteRange(plottableColumn(state.table, column), range) &&
          range[0] * range[1] > 0.0;
+}
+
+bool isAmong(const std::vector<int>& columns, int column)
+{
+  return std::find(columns.begin(), columns.end(), column) != columns.end();
+}
+
+template <typename Map>
+void forgetKeys(Map& map, const std::vector<int>& columns)
+{
+  for (auto entry = map.begin(); entry != map.end();)
+  {
+    const ReducedMetaData& key = entry->first;
+    const bool drawn = isAmong(columns, key.xColumn) || isAmong(columns, key.yColumn);
+    entry = drawn ? map.erase(entry) : std::next(entry);
+  }
 }
 
 } // namespace
@@ -107,6 +125,12 @@ void rememberWindow(PlotState& state, vtkAxis* bottom, vtkAxis* left)
   state.coordinateWindows[key] = {bottom->GetMinimum(), left->GetMinimum(), bottom->GetMaximum(),
                                   left->GetMaximum(), true};
   state.windowScales[key] = {bottom->GetLogScaleActive(), left->GetLogScaleActive()};
+}
+
+void forgetWindows(PlotState& state, const std::vector<int>& columns)
+{
+  forgetKeys(state.coordinateWindows, columns);
+  forgetKeys(state.windowScales, columns);
 }
 
 } // namespace Talmesh::plot

@@ -4,6 +4,8 @@
 #include "external/CoordinateWindow.h"
 #include "external/ReducedMetaData.h"
 
+#include <vector>
+
 class vtkAxis;
 
 namespace Talmesh::plot
@@ -45,6 +47,10 @@ void restoreLeftAxis(const PlotState& state, vtkAxis* axis, const CoordinateWind
 /// Remembers, with the scales of the axes, the window that `bottom` and `left` show for the
 /// configuration now plotted.
 void rememberWindow(PlotState& state, vtkAxis* bottom, vtkAxis* left);
+
+/// Forgets the windows, in every style, of configurations with one of `columns` as first x or y
+/// column: for columns whose values have changed.
+void forgetWindows(PlotState& state, const std::vector<int>& columns);
 
 } // namespace Talmesh::plot
 

@@ -8,6 +8,7 @@
 #include <QAction>
 
 #include "GroupsInWindow.h"
+#include "PlotMouse.h"
 
 namespace
 {
@@ -76,6 +77,56 @@ TEST_F(RunLooksInWindow, NormalisingBelongsToTheColumnsShown)
   choice.y = {0};
   choose(choice);
   EXPECT_TRUE(find<QCheckBox>("normaliseRuns")->isChecked());
+}
+
+TEST_F(RunLooksInWindow, NormalisingShowsAllOfTheNewValues)
+{
+  VtkPlotWidget& plot = *window.plotWidget();
+  plot.updatePlot(true);
+  const auto shown = [this]
+  {
+    vtkAxis* left = chart().GetAxis(vtkAxis::LEFT);
+    return std::make_pair(left->GetMinimum(), left->GetMaximum());
+  };
+  const QPoint middle(plot.width() / 2, plot.height() / 2);
+  drag(plot, Qt::LeftButton, middle, middle + QPoint(0, 60));
+  tick("runBands");
+  plot.updatePlot(true);
+  const auto panned = shown();
+  // X runs from 1 to 48.
+  EXPECT_GT(panned.second, 20.0);
+  tick("normaliseRuns");
+  plot.updatePlot(true);
+  EXPECT_LE(shown().first, 0.125);
+  EXPECT_GE(shown().second, 1.0);
+  EXPECT_LT(shown().second, 2.0);
+  drag(plot, Qt::LeftButton, middle, middle + QPoint(0, 60));
+  press(QKeySequence::Undo);
+  plot.updatePlot(true);
+  EXPECT_LE(shown().first, 1.0);
+  EXPECT_GE(shown().second, 48.0);
+}
+
+TEST_F(RunLooksInWindow, AnotherColumnIsShownWhole)
+{
+  VtkPlotWidget& plot = *window.plotWidget();
+  plot.updatePlot(true);
+  const QPoint middle(plot.width() / 2, plot.height() / 2);
+  drag(plot, Qt::LeftButton, middle, middle + QPoint(0, 60));
+  tick("runBands");
+  vtkAxis* left = chart().GetAxis(vtkAxis::LEFT);
+  ASSERT_EQ(left->GetBehavior(), vtkAxis::FIXED);
+  PlotChoice choice = window.plotDock()->choice();
+  choice.y = {1};
+  choose(choice);
+  plot.updatePlot(true);
+  // Y runs from 1 to 8.
+  EXPECT_LE(left->GetMinimum(), 1.0);
+  EXPECT_GE(left->GetMaximum(), 8.0);
+  EXPECT_LT(left->GetMaximum(), 12.0);
+  choice.y = {0};
+  choose(choice);
+  EXPECT_EQ(left->GetBehavior(), vtkAxis::FIXED) << "the window of X is remembered";
 }
 
 TEST_F(RunLooksInWindow, NormalisedValuesAreGivenBackWhenTheStudyIsLeft)

@@ -180,6 +180,27 @@ TEST_F(AxisWindows, SurviveAnotherStyleInBetween)
   expectWindow(0.5, 1.5, 10, 20);
 }
 
+TEST_F(AxisWindows, OfColumnsThatHaveChangedAreForgotten)
+{
+  using Key = ReducedMetaData;
+  auto& windows = state().coordinateWindows;
+  for (const Key& key : {Key{0, 1, 0}, Key{0, 2, 0}, Key{0, 2, 6}, Key{1, 0, 0}, Key{3, 4, 0}})
+  {
+    windows[key] = {1, 2, 3, 4, true};
+    state().windowScales[key] = {};
+  }
+  Talmesh::plot::forgetWindows(state(), {2, 5});
+  EXPECT_EQ(windows.size(), 3U);
+  EXPECT_EQ(state().windowScales.size(), 3U);
+  EXPECT_EQ(windows.count({0, 2, 0}) + windows.count({0, 2, 6}), 0U);
+  Talmesh::plot::forgetWindows(state(), {1});
+  EXPECT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows.count({3, 4, 0}), 1U);
+  EXPECT_EQ(state().windowScales.count({3, 4, 0}), 1U);
+  Talmesh::plot::forgetWindows(state(), {});
+  EXPECT_EQ(windows.size(), 1U);
+}
+
 TEST_F(AxisWindows, ThatAreNotFiniteAreIgnored)
 {
   const double infinity = std::numeric_limits<double>::infinity();
@@ -214,6 +235,13 @@ TEST_F(ShiftScaleCallback, IgnoresChartsWithoutAxes)
   vtkNew<vtkChartParallelCoordinates> lines;
   ASSERT_EQ(lines->GetAxis(vtkAxis::BOTTOM), nullptr);
   execute(lines);
+  EXPECT_TRUE(state().coordinateWindows.empty());
+}
+
+TEST_F(ShiftScaleCallback, IgnoresClicksOnPoints)
+{
+  vtkChartPlotData clicked;
+  container.getChartXY()->InvokeEvent(vtkCommand::InteractionEvent, &clicked);
   EXPECT_TRUE(state().coordinateWindows.empty());
 }
 
