@@ -25,9 +25,11 @@ vtkDoubleArray* plainColumn(const PlotState& state, int index)
   return plain ? column : nullptr;
 }
 
-std::size_t length(const vtkDoubleArray* column)
+/// The rows of a column that are rows of the table, which other columns may be longer than.
+std::size_t tableRows(const PlotState& state, const vtkDoubleArray* column)
 {
-  return static_cast<std::size_t>(column->GetNumberOfTuples());
+  return static_cast<std::size_t>(
+      std::min(column->GetNumberOfTuples(), state.table->GetNumberOfRows()));
 }
 
 /// Values written through the storage are invisible to VTK's cached ranges until it is told.
@@ -50,7 +52,8 @@ void scaleColumn(PlotState& state, const double* factors, int column)
 {
   if (vtkDoubleArray* values = plainColumn(state, column))
   {
-    stats::scaleRuns(values->GetPointer(0), length(values), state.metaData->getStride(), factors);
+    stats::scaleRuns(values->GetPointer(0), tableRows(state, values), state.metaData->getStride(),
+                     factors);
     announce(state, values);
   }
   finish(state);
@@ -60,7 +63,7 @@ void scaleToRunMaximum(PlotState& state, int column)
 {
   if (vtkDoubleArray* values = plainColumn(state, column))
   {
-    stats::normaliseRunsToMaximum(values->GetPointer(0), length(values),
+    stats::normaliseRunsToMaximum(values->GetPointer(0), tableRows(state, values),
                                   state.metaData->getStride());
     announce(state, values);
   }
@@ -73,7 +76,7 @@ void scaleColumnByColumn(PlotState& state, int column, int byColumn, bool divide
   vtkDoubleArray* by = plainColumn(state, byColumn);
   if (!values || !by)
     return;
-  const std::size_t rows = std::min(length(values), length(by));
+  const std::size_t rows = std::min(tableRows(state, values), tableRows(state, by));
   if (divide)
     stats::divideElementwise(values->GetPointer(0), by->GetPointer(0), rows);
   else

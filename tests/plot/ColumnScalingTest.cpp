@@ -5,6 +5,7 @@
 #include "support/SampleRuns.h"
 #include "support/SampleTables.h"
 
+#include <vtkDataSetAttributes.h>
 #include <vtkFloatArray.h>
 
 #include <gtest/gtest.h>
@@ -67,6 +68,22 @@ TEST_F(ColumnScaling, LeavesAnIncompleteLastRun)
   EXPECT_EQ(values(), (Values{2, 4, 6, 8, 8}));
   container.scaleRelativeToMaxWithinTrajectory(1);
   EXPECT_EQ(values(), (Values{0.5, 1, 0.75, 1, 8}));
+}
+
+TEST_F(ColumnScaling, TakesTheRunsOfTheTableWhereAColumnIsLonger)
+{
+  vtkSmartPointer<vtkTable> table = tableOf({{"Time", {0, 1, 0, 1}}});
+  table->GetRowData()->AddArray(Talmesh::plot::makeColumn("value", {1, 2, 3, 4, 5, 6}));
+  container.getMetaData()->blockSignals(true);
+  container.setPlotData(table);
+  container.getMetaData()->setStride(2);
+  // The caller has a factor for either run; a third would be beyond them.
+  scale({10, 100, infinity});
+  EXPECT_EQ(values(), (Values{10, 20, 300, 400, 5, 6}));
+  container.scaleRelativeToMaxWithinTrajectory(1);
+  EXPECT_EQ(values(), (Values{0.5, 1, 0.75, 1, 5, 6}));
+  container.scaleColumnByColumn(1, 1, false);
+  EXPECT_EQ(values(), (Values{0.25, 1, 0.5625, 1, 5, 6}));
 }
 
 TEST_F(ColumnScaling, OfATableShorterThanARunChangesNothingButTheQuartiles)
