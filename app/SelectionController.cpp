@@ -5,7 +5,9 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
+#include "plot/RunSplit.h"
 #include "plot/SelectionNodes.h"
+#include "plot/TableColumns.h"
 
 #include <vtkCommand.h>
 #include <vtkIntArray.h>
@@ -27,7 +29,7 @@ namespace Talmesh::app
 namespace
 {
 
-/// Each step keeps copies of the selected rows.
+/// Each step keeps a bit per row.
 constexpr int mostSteps = 100;
 
 /// More run indices do not fit into a line.
@@ -47,6 +49,39 @@ vtkIdType selectedRows(const PlotContainer& container)
     return 0;
   const int* first = flags->GetPointer(0);
   return std::accumulate(first, first + flags->GetNumberOfValues(), vtkIdType(0));
+}
+
+/// Whether the first rows of all runs have the same time: only then does the comparison of runs
+/// count all of them as selected where nothing but these rows is.
+bool startTogether(const PlotContainer& container, const Runs& runs)
+{
+  vtkDoubleArray* times =
+      plot::doubleColumn(container.getTable(), plot::timeColumnOf(container.state()));
+  return times && std::all_of(runs.begin(), runs.end(),
+                              [&](const plot::PlacedRun& run) {
+                                return times->GetValue(run.firstRow) ==
+                                       times->GetValue(runs.front().firstRow);
+                              });
+}
+
+/// The rows to select for everything to be selected. One row stands for its run where lines are
+/// drawn, because a run is highlighted once for each of its selected rows.
+std::vector<vtkIdType> rowsOfEverything(const PlotContainer& container)
+{
+  const vtkIdType count = container.getTable()->GetNumberOfRows();
+  const PlotMetaData& settings = *container.getMetaData();
+  const Runs runs = plot::wholeRuns(container.state());
+  const bool nothingElse = static_cast<vtkIdType>(runs.size()) * settings.getStride() == count;
+  std::vector<vtkIdType> rows;
+  if (settings.getPlotLine() && !runs.empty() && nothingElse && startTogether(container, runs))
+  {
+    for (const plot::PlacedRun& run : runs)
+      rows.push_back(run.firstRow);
+    return rows;
+  }
+  rows.resize(static_cast<std::size_t>(count));
+  std::iota(rows.begin(), rows.end(), 0);
+  return rows;
 }
 
 /// One line that says which of the runs of a file are not in the table.
@@ -129,11 +164,9 @@ void SelectionController::announceLater()
 
 void SelectionController::selectAll()
 {
-  if (!container)
-    return;
-  std::vector<vtkIdType> rows(static_cast<std::size_t>(container->getTable()->GetNumberOfRows()));
-  std::iota(rows.begin(), rows.end(), 0);
-  container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+  if (container)
+    container->getAnnotationLink()->SetCurrentSelection(
+        plot::makeRowSelection(rowsOfEverything(*container)));
 }
 
 void SelectionController::clear()

@@ -33,7 +33,8 @@ public:
   /// For a table that has been replaced in the same container.
   void restartHistory();
 
-  /// Selects every row.
+  /// Selects everything: every row, or, where runs are drawn as lines, the first row of each run if
+  /// that counts as all runs everywhere.
   void selectAll();
   /// Selects nothing.
   void clear();

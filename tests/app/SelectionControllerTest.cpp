@@ -1,7 +1,9 @@
 #include "app/SelectionController.h"
 
+#include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
 #include "plot/SelectionNodes.h"
+#include "plot/TableColumns.h"
 #include "support/SampleRuns.h"
 
 #include <vtkAbstractArray.h>
@@ -13,6 +15,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <cmath>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -42,6 +46,8 @@ protected:
   {
     plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
   }
+
+  PlotMetaData& settings() { return *plot.container.getMetaData(); }
 
   void setStride(int stride)
   {
@@ -92,6 +98,49 @@ TEST_F(SelectionControllerTest, DoesNotCountAPartialLastRun)
   EXPECT_EQ(controller.summary(), "1 of 2 runs selected");
   controller.selectAll();
   EXPECT_EQ(controller.summary(), "2 of 2 runs selected");
+}
+
+TEST_F(SelectionControllerTest, SelectsOneRowOfEachRunWhereRunsAreDrawnAsLines)
+{
+  settings().setPlotLine(true);
+  controller.selectAll();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 3, 6}));
+  EXPECT_EQ(controller.summary(), "3 of 3 runs selected");
+  // The comparison of runs counts those that are selected at every selected time.
+  plot.container.setPlotStyle(selectionCdfPlot);
+  EXPECT_EQ(controller.summary(), "3 of 3 runs selected");
+  EXPECT_EQ(std::unique_ptr<ParameterSelection>(plot.container.getSelection())->runs,
+            std::set<int>({1, 5, 7}));
+  settings().setPlotLine(false);
+  controller.selectAll();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 9U);
+}
+
+TEST_F(SelectionControllerTest, SelectsEveryRowOfRunsThatStartAtDifferentTimes)
+{
+  settings().setPlotLine(true);
+  auto* times = Talmesh::plot::doubleColumn(plot.container.getTable(), SampleRuns::timeColumn);
+  // Run 2 counts down: 2, 1, 0.
+  times->SetValue(6, 2.0);
+  times->SetValue(8, 0.0);
+  controller.selectAll();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 9U);
+  plot.container.setPlotStyle(selectionCdfPlot);
+  EXPECT_EQ(controller.summary(), "3 of 3 runs selected");
+  times->SetValue(6, std::nan(""));
+  controller.selectAll();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 9U);
+}
+
+TEST_F(SelectionControllerTest, SelectsEveryRowWhereThereAreOtherRowsThanThoseOfRuns)
+{
+  settings().setPlotLine(true);
+  cutLastRun();
+  controller.selectAll();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 8U);
+  setStride(0);
+  controller.selectAll();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 8U);
 }
 
 TEST_F(SelectionControllerTest, CountsRowsWhereThereAreNoRuns)
