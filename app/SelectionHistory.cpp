@@ -29,7 +29,20 @@ namespace
 /// Priority of the history's observer: others may still replace the selection in reaction to it.
 constexpr float afterAllOthers = -1.0F;
 
-using Snapshot = vtkSmartPointer<vtkSelection>;
+/// Whether each row is selected. A bit per row, so that a long history of large selections takes
+/// less room than the table; neighbouring commands share the one between them.
+using Snapshot = std::shared_ptr<const std::vector<bool>>;
+
+vtkSmartPointer<vtkSelection> selectionOf(const std::vector<bool>& rows)
+{
+  std::vector<vtkIdType> list;
+  for (std::size_t row = 0; row < rows.size(); ++row)
+  {
+    if (rows[row])
+      list.push_back(static_cast<vtkIdType>(row));
+  }
+  return plot::makeRowSelection(list);
+}
 
 } // namespace
 
@@ -44,21 +57,19 @@ struct FollowedContainer
 
   Snapshot selected() const
   {
-    return plot::copySelection(link ? link->GetCurrentSelection() : nullptr);
+    if (!container || !link)
+      return std::make_shared<const std::vector<bool>>();
+    return std::make_shared<const std::vector<bool>>(
+        plot::markedRows(link->GetCurrentSelection(), container->getTable()));
   }
 
-  std::vector<bool> rowsOf(vtkSelection* selection) const
-  {
-    return plot::markedRows(selection, container->getTable());
-  }
-
-  /// Makes a copy of `selection` current without recording that.
-  void restore(vtkSelection* selection)
+  /// Selects `rows` without recording that.
+  void restore(const std::vector<bool>& rows)
   {
     if (!container || !link)
       return;
     restoring = true;
-    link->SetCurrentSelection(plot::copySelection(selection));
+    link->SetCurrentSelection(selectionOf(rows));
     restoring = false;
     current = selected();
   }
@@ -80,13 +91,13 @@ public:
                    : QCoreApplication::translate("SelectionHistory", "Select"));
   }
 
-  void undo() override { followed->restore(before); }
+  void undo() override { followed->restore(*before); }
 
   void redo() override
   {
     // The stack redoes a command when it is pushed, but the selection is already made.
     if (pushed)
-      followed->restore(after);
+      followed->restore(*after);
     pushed = true;
   }
 
@@ -134,11 +145,10 @@ void SelectionHistory::record()
     return;
   const Snapshot before = followed->current;
   const Snapshot after = followed->selected();
-  const std::vector<bool> rows = followed->rowsOf(after);
-  if (followed->rowsOf(before) == rows)
+  if (*before == *after)
     return;
   followed->current = after;
-  const bool clears = std::find(rows.begin(), rows.end(), true) == rows.end();
+  const bool clears = std::find(after->begin(), after->end(), true) == after->end();
   stack.push(new SelectCommand(followed, before, after, clears));
 }
 

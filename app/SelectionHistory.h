@@ -16,8 +16,9 @@ struct FollowedContainer;
 /// Every announced change of what is selected becomes one command on the undo stack, whoever made
 /// it; changes that leave the same table rows selected, however they name them, and changes made by
 /// undo and redo, become none.
-/// The commands keep copies, so nobody who changes a selection in place changes the history, and no
-/// plots. They may outlive the history and the container; without the container they do nothing.
+/// The commands keep which rows were selected, a bit per row, so nobody who changes a selection in
+/// place changes the history, and no plots. They may outlive the history and the container; without
+/// the container they do nothing.
 class SelectionHistory
 {
 public:
