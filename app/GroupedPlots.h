@@ -25,7 +25,7 @@ QColor groupColour(int group);
 
 /// The following complete the XY chart that a container has just drawn, with the first y column
 /// over the x axis, and do nothing where it shows another chart. The runs themselves stay
-/// selectable, and their highlight stays on top.
+/// selectable, and their highlight stays above everything but the means.
 
 /// Draws the runs in the colours of their groups instead of the one colour of all.
 void colourGroups(PlotContainer& container, const RunGroups& groups);

@@ -3,6 +3,7 @@
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
 #include "app/StyleNames.h"
+#include "widgets/VtkPlotWidget.h"
 #include "widgets/WidgetSupport.h"
 
 #include <QAction>
@@ -12,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QTabWidget>
 
 namespace Talmesh::app
 {
@@ -78,6 +80,9 @@ void MainWindow::makeSelectionMenu()
     QAction* action = menu->addAction(text);
     action->setShortcut(keys);
     connect(action, &QAction::triggered, selection, slot);
+    // On the other page the keys belong to the list of items.
+    connect(tabs, &QTabWidget::currentChanged, action,
+            [this, action] { action->setEnabled(tabs->currentWidget() == plot); });
   };
   add(tr("Select &all"), QKeySequence::SelectAll, &SelectionController::selectAll);
   add(tr("Select &nothing"), QKeySequence(Qt::Key_Escape), &SelectionController::clear);
