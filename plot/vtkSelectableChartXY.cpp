@@ -70,10 +70,9 @@ vtkSelectableChartXY* vtkSelectableChartXY::PlaceIn(vtkChartMatrix* matrix,
   return matrix->SetChart(position, chart) ? chart.Get() : nullptr;
 }
 
-bool vtkSelectableChartXY::SelectsRows(const vtkContextMouseEvent& mouse) const
+bool vtkSelectableChartXY::SelectsRows(const vtkContextMouseEvent& mouse)
 {
-  return mouse.GetButton() == const_cast<vtkSelectableChartXY*>(this)->Actions.Select() &&
-         SelectionMethod == SELECTION_ROWS;
+  return mouse.GetButton() == Actions.Select() && SelectionMethod == SELECTION_ROWS;
 }
 
 void vtkSelectableChartXY::EndDrag()

@@ -53,7 +53,7 @@ private:
     void Add(vtkTable* of, vtkIdType row);
   };
 
-  bool SelectsRows(const vtkContextMouseEvent& mouse) const;
+  bool SelectsRows(const vtkContextMouseEvent& mouse);
   void EndDrag();
   Hits HitsBetween(const vtkVector2f& from, const vtkVector2f& to) const;
   Hits HitsAt(const vtkVector2f& position) const;
