@@ -1,4 +1,7 @@
 #include "app/Gallery.h"
+#include "app/PlotChoice.h"
+#include "app/RunNormaliser.h"
+#include "app/RunTableImport.h"
 #include "app/Session.h"
 #include "plot/PlotContainer.h"
 #include "support/Pictures.h"
@@ -12,6 +15,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <csignal>
 #include <string>
 #include <sys/resource.h>
@@ -338,6 +342,31 @@ TEST_F(Program, ExportsASession)
                           "df4738");
   expectSuccess({write("a.talmesh", session.toStdString()), "--export", path("a.csv")});
   EXPECT_EQ(contentOf(path("a.csv")).toStdString(), "\"Time\"\n1\n2\n");
+}
+
+TEST_F(Program, ExportsTheRunsOfASessionAsNormalisedAsTheyWereShown)
+{
+  const Study study = sampleStudy();
+  PlotContainer container(nullptr);
+  showStudy(study, container);
+  const auto largestExported = [&](const RunNormaliser& normaliser)
+  {
+    EXPECT_EQ(saveSession(path("a.talmesh"), study, container, choiceOf(container), &normaliser),
+              "");
+    expectSuccess({path("a.talmesh"), "--export", path("a.csv")});
+    const ImportedTable table = importRunTable(contentOf(path("a.csv")).toStdString());
+    const double* values = table.runs->values.front();
+    return *std::max_element(values, values + table.runs->numberOfTrajectories *
+                                                  table.runs->pointsPerTrajectory);
+  };
+  RunNormaliser normaliser;
+  normaliser.follow(&container);
+  const double largest = largestExported(normaliser);
+  EXPECT_GT(largest, 1.0);
+  normaliser.setNormalised({0}, true);
+  EXPECT_EQ(largestExported(normaliser), 1.0);
+  normaliser.setNormalised({0}, false);
+  EXPECT_EQ(largestExported(normaliser), largest);
 }
 
 TEST_F(Program, ShowsTheLegendOfASessionInTheXYPlot)

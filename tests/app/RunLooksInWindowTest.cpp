@@ -111,6 +111,23 @@ TEST_F(RunLooksInWindow, NormalisingShowsAllOfTheNewValues)
   EXPECT_GE(shown().second, 48.0);
 }
 
+TEST_F(RunLooksInWindow, NormalisedRunsComeBackInTheWindowThatWasShown)
+{
+  VtkPlotWidget& plot = *window.plotWidget();
+  tick("normaliseRuns");
+  plot.updatePlot(true);
+  const QPoint middle(plot.width() / 2, plot.height() / 2);
+  drag(plot, Qt::LeftButton, middle, middle + QPoint(0, 60));
+  const double shown = chart().GetAxis(vtkAxis::LEFT)->GetMaximum();
+  const QString path = folder.filePath(QStringLiteral("panned.talmesh"));
+  ASSERT_TRUE(window.saveSessionTo(path));
+  window.openFile(path);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, 60000));
+  EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetBehavior(), vtkAxis::FIXED);
+  EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetMaximum(), shown);
+  EXPECT_TRUE(find<QCheckBox>("normaliseRuns")->isChecked());
+}
+
 TEST_F(RunLooksInWindow, AnotherColumnIsShownWhole)
 {
   VtkPlotWidget& plot = *window.plotWidget();
