@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QImage>
+#include <QPainter>
 #include <QSaveFile>
 #include <QTemporaryDir>
 #include <QtMath>
@@ -78,6 +79,16 @@ Content pngOf(VtkPlotWidget& widget)
   return pngFile(widget.grabFramebuffer());
 }
 
+/// A picture cut to a size, white where it is a pixel short.
+QImage onPaper(const QImage& picture, const QSize& size)
+{
+  QImage paper(size, QImage::Format_RGB32);
+  paper.fill(Qt::white);
+  QPainter painter(&paper);
+  painter.drawImage(QRect(QPoint(0, 0), picture.size()), picture);
+  return paper;
+}
+
 Content pngOf(VtkPlotWidget& widget, const PaperSize& paper)
 {
   QImage picture;
@@ -98,7 +109,7 @@ Content pngOf(VtkPlotWidget& widget, const PaperSize& paper)
     picture = paintScaled(widget, paper.dotsPerInch / pointsPerInch);
   }
   if (!picture.isNull() && picture.size() != pixelsOn(paper))
-    picture = picture.copy(QRect(QPoint(0, 0), pixelsOn(paper)));
+    picture = onPaper(picture, pixelsOn(paper));
   const int dotsPerMetre = qRound(paper.dotsPerInch * 1000.0 / millimetresPerInch);
   picture.setDotsPerMeterX(dotsPerMetre);
   picture.setDotsPerMeterY(dotsPerMetre);

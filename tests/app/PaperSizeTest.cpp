@@ -107,6 +107,16 @@ TEST_F(PaperSizeOfAPicture, IsThatOfThePngInPixelsAndInMillimetres)
   }
 }
 
+TEST_F(PaperSizeOfAPicture, IsWhiteWhereItIsAPixelShort)
+{
+  // 31.4 mm are 89.008 points, of which 89 are painted: 358 pixels of 359.
+  ASSERT_EQ(exportPlot(*widget, path("plot.png"), {QSizeF(31.4, 60.0), 290}), "");
+  const QImage picture(path("plot.png"));
+  ASSERT_EQ(picture.width(), 359);
+  for (int y = 0; y < picture.height(); ++y)
+    ASSERT_EQ(picture.pixelColor(358, y), QColor(Qt::white)) << y;
+}
+
 TEST_F(PaperSizeOfAPicture, LeavesTheWidgetAsItWas)
 {
   const QImage before = widget->grabFramebuffer();
