@@ -91,6 +91,17 @@ std::size_t leadingTimeWord(const std::string& name)
   return 0;
 }
 
+constexpr std::array<std::string_view, 9> timeWords = {
+    "time",        "t",       "times",          "timepoint", "timepoints",
+    "elapsedtime", "simtime", "simulationtime", "zeit"};
+
+/// A name of time that needs no unit, or has it in brackets.
+bool isWholeTimeName(std::string_view name)
+{
+  const std::string lower = lowerCase(bare(name));
+  return isTimeName(name) && isOneOf(withoutSeparators(bracketedName(lower).name), timeWords);
+}
+
 /// The place of a typed column among those that could be the time, the smallest being the time. The
 /// plots put "Time [s]" on the x axis before any other.
 int rankOfTime(const ColumnHeader& header)
@@ -113,9 +124,14 @@ int timeColumnAmong(const std::vector<ColumnHeader>& headers)
                                       [](const ColumnHeader& a, const ColumnHeader& b)
                                       { return rankOfTime(a) < rankOfTime(b); });
   const bool none = typed == headers.end() || rankOfTime(*typed) == rankOfTime(ColumnHeader());
-  const auto plain = std::find_if(headers.begin(), headers.end(),
-                                  [](const ColumnHeader& header)
-                                  { return !header.typed && isTimeName(header.name); });
+  auto plain = std::find_if(headers.begin(), headers.end(),
+                            [](const ColumnHeader& header)
+                            { return !header.typed && isWholeTimeName(header.name); });
+  // What a unit makes of other names may be a parameter: t_min.
+  if (plain == headers.end())
+    plain = std::find_if(headers.begin(), headers.end(),
+                         [](const ColumnHeader& header)
+                         { return !header.typed && isTimeName(header.name); });
   const auto found = none ? plain : typed;
   return found == headers.end() ? -1 : static_cast<int>(found - headers.begin());
 }
@@ -176,17 +192,14 @@ std::string_view withoutCommentMark(std::string_view name)
 
 bool isTimeName(std::string_view name)
 {
-  constexpr std::array<std::string_view, 9> words = {
-      "time",        "t",       "times",          "timepoint", "timepoints",
-      "elapsedtime", "simtime", "simulationtime", "zeit"};
   const std::string_view given = bare(name);
   const std::string lower = lowerCase(given);
   const BracketedName cut = bracketedName(lower);
   // A capital T is a temperature unless its unit says otherwise.
   if (given.substr(0, 1) == "T" && leadingTimeWord(lower) == 1)
     return cut.name == "t" && isTimeUnit(cut.inside);
-  return isOneOf(withoutSeparators(cut.name), words) ||
-         isOneOf(withoutSeparators(withoutTimeUnit(cut.name)), words);
+  return isOneOf(withoutSeparators(cut.name), timeWords) ||
+         isOneOf(withoutSeparators(withoutTimeUnit(cut.name)), timeWords);
 }
 
 bool plotsTakeForTime(std::string_view label)

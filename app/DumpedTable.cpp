@@ -1,13 +1,12 @@
 #include "app/DumpedTable.h"
 
+#include "app/SelectionMarks.h"
 #include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/BinaryDump.h"
 #include "plot/ColumnList.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
-#include "vtk/SelectionColumns.h"
 
 #include <boost/make_shared.hpp>
 
@@ -170,13 +169,6 @@ std::string objectionTo(const ReadColumns& columns)
 }
 
 } // namespace
-
-bool isSelectionMark(const std::string& name)
-{
-  return name == plot::selectionFlagColumn || name == ComplementSelectionColumn ||
-         name == ReducedSelectionColumn || name == RemainderSelectionColumn ||
-         name == OriginalRowIdsColumn;
-}
 
 DumpedTable readStudyDump(const QByteArray& dump, int pointsPerRun,
                           const std::vector<std::pair<double, double>>& ranges,

@@ -21,9 +21,6 @@ namespace Talmesh::app
 /// The columns of an imported table and room for those that are added to it later.
 inline constexpr int mostSessionColumns = static_cast<int>(mostColumns) + 100;
 
-/// Whether a column is one in which the library marks rows for the selection of the moment.
-bool isSelectionMark(const std::string& name);
-
 /// A table that was dumped with its study.
 struct DumpedTable
 {

@@ -52,10 +52,17 @@ std::size_t oddRun(const std::vector<std::size_t>& lengths, std::size_t usual)
 std::vector<std::size_t> startsByTime(const RunColumns& columns)
 {
   std::vector<std::size_t> starts{0};
-  if (columns.time)
-    for (std::size_t row = 1; row < columns.rows; ++row)
-      if ((*columns.time)[row] < (*columns.time)[row - 1])
-        starts.push_back(row);
+  if (!columns.time)
+    return starts;
+  double latest = -std::numeric_limits<double>::infinity();
+  for (std::size_t row = 0; row < columns.rows; ++row)
+  {
+    const double time = (*columns.time)[row];
+    if (time < latest)
+      starts.push_back(row);
+    if (!std::isnan(time))
+      latest = time;
+  }
   return starts;
 }
 

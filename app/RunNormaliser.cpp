@@ -123,7 +123,12 @@ void RunNormaliser::setNormalised(const std::vector<int>& columns, bool on)
     any = (on ? scale(column) : reload(column)) || any;
   if (!any)
     return;
-  plot::forgetWindows(container->state(), columns);
+  // A window belongs to the first y column, but shows all of them.
+  const std::vector<int>& shown = container->getMetaData()->yColumns;
+  std::vector<int> changedColumns = columns;
+  if (std::find_first_of(shown.begin(), shown.end(), columns.begin(), columns.end()) != shown.end())
+    changedColumns.push_back(shown.front());
+  plot::forgetWindows(container->state(), changedColumns);
   emit changed();
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/RunGrouping.h"
 #include "app/RunTableBuilder.h"
+#include "app/SelectionMarks.h"
 #include "app/TableText.h"
 #include "app/TranslatedText.h"
 #include "app/Utf8Text.h"
@@ -52,11 +53,17 @@ LeftOutColumns leftOutOf(const TableText& text)
   LeftOutColumns leftOut;
   for (std::size_t i = 0; i < text.columns.size(); ++i)
   {
-    leftOut.flags.push_back(isTextColumn(text.columns[i]));
-    if (leftOut.flags.back())
+    const ColumnHeader& header = text.roles.headers[i];
+    const bool marks = !header.typed && isSelectionMark(header.name);
+    leftOut.flags.push_back(marks || isTextColumn(text.columns[i]));
+    if (marks)
+      leftOut.notes.push_back(withValues(
+          translated("RunTableImport", "The column %1 marks a former selection and is left out."),
+          {quotedForMessage(header.name)}));
+    else if (leftOut.flags.back())
       leftOut.notes.push_back(
           withValues(translated("RunTableImport", "The column %1 holds text and is left out."),
-                     {quotedForMessage(text.roles.headers[i].name)}));
+                     {quotedForMessage(header.name)}));
   }
   if (firstColumnCountsRows(text))
   {
@@ -135,6 +142,11 @@ RunGrouping groupingOf(const TableText& text)
   return groupRuns(columns);
 }
 
+std::string noNumbers()
+{
+  return translated("RunTableImport", "not a table: no column holds numbers");
+}
+
 bool hasNumbers(const TableText& text)
 {
   return std::any_of(text.columns.begin(), text.columns.end(),
@@ -151,12 +163,14 @@ ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progr
   imported.error = std::move(text.error);
   if (imported.cancelled || !imported.error.empty())
     return imported;
-  imported.error = hasNumbers(text)
-                       ? mistypedCell(text)
-                       : translated("RunTableImport", "not a table: no column holds numbers");
+  imported.error = hasNumbers(text) ? mistypedCell(text) : noNumbers();
   if (!imported.error.empty())
     return imported;
   LeftOutColumns leftOut = leftOutOf(text);
+  if (std::find(leftOut.flags.begin(), leftOut.flags.end(), false) == leftOut.flags.end())
+    imported.error = noNumbers();
+  if (!imported.error.empty())
+    return imported;
   imported.notes = std::move(leftOut.notes);
   const auto addNote = [&imported](const std::string& note)
   {

@@ -57,11 +57,11 @@ bool startTogether(const PlotContainer& container, const Runs& runs)
 {
   vtkDoubleArray* times =
       plot::doubleColumn(container.getTable(), plot::timeColumnOf(container.state()));
-  return times && std::all_of(runs.begin(), runs.end(),
-                              [&](const plot::PlacedRun& run) {
-                                return times->GetValue(run.firstRow) ==
-                                       times->GetValue(runs.front().firstRow);
-                              });
+  return times && !runs.empty() && runs.back().firstRow < times->GetNumberOfValues() &&
+         std::all_of(
+             runs.begin(), runs.end(),
+             [&](const plot::PlacedRun& run)
+             { return times->GetValue(run.firstRow) == times->GetValue(runs.front().firstRow); });
 }
 
 /// The rows to select for everything to be selected. One row stands for its run where lines are

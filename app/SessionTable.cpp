@@ -1,6 +1,7 @@
 #include "app/SessionTable.h"
 
 #include "app/DumpedTable.h"
+#include "app/SelectionMarks.h"
 #include "plot/BinaryDump.h"
 #include "plot/BorrowedColumn.h"
 #include "plot/PlotContainer.h"

@@ -98,7 +98,14 @@ void arrangePlainColumns(std::vector<StackedColumn>& columns)
 
 void arrangeTypedColumns(std::vector<StackedColumn>& columns)
 {
-  if (hasTime(columns) && !plotsPutTimeOnX(columns))
+  const auto isPlainTime = [](const StackedColumn& column)
+  { return column.role == Role::Time && !column.typed; };
+  const auto time = std::find_if(columns.begin(), columns.end(), isPlainTime);
+  // Only typed headers are kept as written.
+  if (time != columns.end() && !plotsFindTimeAndRuns(columns))
+    time->item.second = plottedTimeName(time->item.second);
+  const bool found = time == columns.end() || plotsFindTimeAndRuns(columns);
+  if (!found || (hasTime(columns) && !plotsPutTimeOnX(columns)))
     sortBy(columns, placeWithTimeFirst);
 }
 

@@ -38,7 +38,8 @@ struct StackedColumn
 void arrangePlainColumns(std::vector<StackedColumn>& columns);
 
 /// Leaves columns of typed headers in their order, unless the plots would put another one than the
-/// time on the x axis; then time, run index, parameters and items follow each other.
+/// time on the x axis; then time, run index, parameters and items follow each other. A plain time
+/// among them is named and placed so that comparisons find it.
 void arrangeTypedColumns(std::vector<StackedColumn>& columns);
 
 /// Gives every column a label of its own. Columns with typed headers keep theirs.

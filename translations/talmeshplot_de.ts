@@ -193,6 +193,10 @@ p, li { white-space: pre-wrap; }
         <source>There is no time column, so the rows are not taken for runs.</source>
         <translation>Es gibt keine Zeitspalte, also gelten die Zeilen nicht als Läufe.</translation>
     </message>
+    <message>
+        <source>The column %1 marks a former selection and is left out.</source>
+        <translation>Die Spalte %1 markiert eine frühere Auswahl und wird ausgelassen.</translation>
+    </message>
 </context>
 <context>
     <name>SelectionHistory</name>

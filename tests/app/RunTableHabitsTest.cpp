@@ -53,6 +53,35 @@ TEST(RunTableHabits, FindsTheTimeUnderNamesThatPeopleGiveIt)
   EXPECT_TRUE(imported("T,X\n0,1\n1,2\n").table);
 }
 
+TEST(RunTableHabits, PrefersANameOfTimeToOneThatOnlyAUnitMakes)
+{
+  // t_min is a parameter here, and the only time there.
+  const ImportedTable table = imported("k,t_min,time,X\n1,5,0,1\n1,5,1,2\n2,7,0,3\n2,7,1,4\n");
+  expectShape(table, 2, 2);
+  EXPECT_EQ(labels(table),
+            (Labels{"Molecule: X", ": time", ": Run Index", "Parameter: k", "Parameter: t_min"}));
+  expectShape(imported("t_min,X\n0,1\n1,2\n0,3\n1,4\n"), 2, 2);
+}
+
+TEST(RunTableHabits, FindsTheStartOfARunBehindAMissingTime)
+{
+  expectShape(imported("time,X\n0,1\n1,2\n,3\n0,4\n1,5\n,6\n"), 2, 3);
+  EXPECT_EQ(errorOf("time,X\n,0\n0,1\n1,2\n0,4\n1,5\n"),
+            "run 1 (from line 5, where time falls back) has 2 points, other runs have 3");
+}
+
+TEST(RunTableHabits, LeavesOutTheMarksOfAFormerSelection)
+{
+  const ImportedTable table = imported(
+      "\": Time [s]\",\": Run Index\",\"Molecule: A\",\"Parameter: k\",\"selected points\"\n"
+      "0,0,1,5,1\n1,0,2,5,1\n0,1,3,6,0\n1,1,4,6,0\n");
+  EXPECT_EQ(labels(table), (Labels{": Time [s]", ": Run Index", "Molecule: A", "Parameter: k"}));
+  EXPECT_EQ(table.notes,
+            Notes{"The column \"selected points\" marks a former selection and is left out."});
+  EXPECT_EQ(imported("x,y,vtkRemainderSelection\n1,2,0\n2,1,1\n").table->GetNumberOfColumns(), 2);
+  EXPECT_EQ(errorOf("selected points\n0\n1\n"), "not a table: no column holds numbers");
+}
+
 TEST(RunTableHabits, SaysThatThereIsNoTime)
 {
   EXPECT_EQ(imported("T,X\n0,1\n1,2\n").notes, Notes{noRuns});

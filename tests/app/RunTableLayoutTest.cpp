@@ -104,7 +104,8 @@ TEST(RunTableLayout, LetsASelectionCompareTheRightRuns)
   for (const char* headers :
        {"run,time,k,X", "run,time,k,Value", "run,time,k,Period", "run,Time [s],k,Value",
         "run,time,Period,X", "run,time,k,Index", "run,time,k,Mitotic Index", "run,time,Index,Value",
-        "run,timepoint,k,Value", "Rep,Zeit,k,Value"})
+        "run,timepoint,k,Value", "Rep,Zeit,k,Value", "run,time,Parameter: k,Molecule: A",
+        "run,t,k,Molecule: Value"})
     expectTheRightRuns(threeRuns(headers));
 }
 
