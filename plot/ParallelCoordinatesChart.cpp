@@ -8,6 +8,7 @@
 #include "plot/TableColumns.h"
 
 #include <vtkAxis.h>
+#include <vtkLookupTable.h>
 #include <vtkPlotParallelCoordinates.h>
 #include <vtkTextProperty.h>
 
@@ -22,6 +23,8 @@ namespace
 /// Fewer y columns than this are no choice of axes.
 constexpr std::size_t fewestChosenAxes = 3;
 constexpr double labelRotation = -45.0; ///< degrees
+constexpr double blueHue = 2.0 / 3.0;
+constexpr double redHue = 0.0;
 
 void showColumn(PlotState& state, int column)
 {
@@ -52,9 +55,16 @@ void colorLines(PlotState& state)
   double range[2];
   const bool usable = finiteRange(plottableColumn(state.table, state.metaData->colorColumn), range);
   plot->SetScalarVisibility(usable);
+  if (!usable)
+    return;
+  // VTK's own colours span bounds that this plot never sets.
+  vtkNew<vtkLookupTable> blueToRed;
+  blueToRed->SetHueRange(blueHue, redHue);
+  blueToRed->SetRange(range);
+  blueToRed->Build();
+  plot->SetLookupTable(blueToRed);
   // By index: the search by name reads every name on its way and crashes on a column without one.
-  if (usable)
-    plot->SelectColorArray(static_cast<vtkIdType>(state.metaData->colorColumn));
+  plot->SelectColorArray(static_cast<vtkIdType>(state.metaData->colorColumn));
 }
 
 /// A plot that keeps an input keeps the columns that it last saw visible, so the chart gets a new
