@@ -18,3 +18,4 @@ set_target_properties(talmeshplot PROPERTIES
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR})
 vtk_module_autoinit(TARGETS talmeshplot MODULES ${VTK_LIBRARIES})
+talmesh_precompile(talmeshplot)
