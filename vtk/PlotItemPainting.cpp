@@ -1,8 +1,12 @@
 #include "vtk/PlotItemPainting.h"
 
 #include <vtkContext2D.h>
+#include <vtkDataArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkPen.h>
+#include <vtkPoints2D.h>
+#include <vtkTable.h>
+#include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
 
@@ -26,16 +30,18 @@ float effectiveMarkerSize(float markerSize, vtkPen* pen)
   return markerSize < 0.0f ? std::max(8.0f, static_cast<float>(pen->GetWidth() * 2.3)) : markerSize;
 }
 
-SelectionWithin::SelectionWithin(vtkIdTypeArray*& itemSelection, vtkIdType pointCount)
+SelectionWithin::SelectionWithin(vtkIdTypeArray*& itemSelection, vtkPoints2D* points,
+                                 vtkObject* selectedPoints)
     : selection(itemSelection)
     , original(itemSelection)
 {
   if (!original)
     return;
+  const vtkIdType pointCount = points->GetNumberOfPoints();
   const auto isInside = [pointCount](vtkIdType id) { return id >= 0 && id < pointCount; };
   const vtkIdType* const begin = original->GetPointer(0);
   const vtkIdType* const end = begin + original->GetNumberOfValues();
-  if (std::all_of(begin, end, isInside))
+  if (points->GetMTime() < selectedPoints->GetMTime() && std::all_of(begin, end, isInside))
     return;
   inside = vtkSmartPointer<vtkIdTypeArray>::New();
   for (const vtkIdType* id = begin; id != end; ++id)
@@ -49,5 +55,26 @@ SelectionWithin::SelectionWithin(vtkIdTypeArray*& itemSelection, vtkIdType point
 SelectionWithin::~SelectionWithin()
 {
   selection = original;
+}
+
+ColorsWithin::ColorsWithin(vtkTable* table, const vtkStdString& column, vtkTypeBool& itemVisibility,
+                           vtkUnsignedCharArray*& colors)
+    : visibility(itemVisibility)
+    , original(itemVisibility)
+{
+  auto* values = table && !column.empty()
+                     ? vtkDataArray::SafeDownCast(table->GetColumnByName(column.c_str()))
+                     : nullptr;
+  if (values && values->GetNumberOfTuples() >= table->GetNumberOfRows())
+    return;
+  visibility = 0;
+  if (colors)
+    colors->UnRegister(nullptr);
+  colors = nullptr;
+}
+
+ColorsWithin::~ColorsWithin()
+{
+  visibility = original;
 }
 } // namespace Talmesh

@@ -3,11 +3,16 @@
 
 #include <vtkRect.h>
 #include <vtkSmartPointer.h>
+#include <vtkStdString.h>
 #include <vtkType.h>
 
 class vtkContext2D;
 class vtkIdTypeArray;
+class vtkObject;
 class vtkPen;
+class vtkPoints2D;
+class vtkTable;
+class vtkUnsignedCharArray;
 
 /// What the plot items of this library have in common when they paint.
 namespace Talmesh
@@ -24,13 +29,15 @@ void paintLegendLine(vtkContext2D* painter, vtkPen* pen, const vtkRectf& rect);
 float effectiveMarkerSize(float markerSize, vtkPen* pen);
 
 /// Replaces a plot item's selection, while this object lives, by its ids inside
-/// [0, pointCount): the painting of vtkPlotPoints reads coordinates for every id it is given. A
-/// selection that has no other ids, and a null one, stays as it is.
+/// [0, pointCount): the painting of vtkPlotPoints reads coordinates for every id it is given. If
+/// the points have changed since the selected ones were gathered, a copy, which counts as new,
+/// makes the painting gather them again. Otherwise a selection that has no other ids, and a null
+/// one, stays as it is.
 class SelectionWithin
 {
 public:
   /// @param selection the item's selection pointer; it must outlive this object.
-  SelectionWithin(vtkIdTypeArray*& selection, vtkIdType pointCount);
+  SelectionWithin(vtkIdTypeArray*& selection, vtkPoints2D* points, vtkObject* selectedPoints);
   ~SelectionWithin();
   SelectionWithin(const SelectionWithin&) = delete;
   SelectionWithin& operator=(const SelectionWithin&) = delete;
@@ -39,6 +46,24 @@ private:
   vtkIdTypeArray*& selection;
   vtkIdTypeArray* original;
   vtkSmartPointer<vtkIdTypeArray> inside;
+};
+
+/// Keeps vtkPlotPoints from colouring by a column that @p table does not have (any more) or that
+/// has too few rows: its reading of the table would call a null pointer and its painting read past
+/// the colours. The item's colours are released and its visibility of scalars is off while this
+/// object lives.
+class ColorsWithin
+{
+public:
+  ColorsWithin(vtkTable* table, const vtkStdString& column, vtkTypeBool& visibility,
+               vtkUnsignedCharArray*& colors);
+  ~ColorsWithin();
+  ColorsWithin(const ColorsWithin&) = delete;
+  ColorsWithin& operator=(const ColorsWithin&) = delete;
+
+private:
+  vtkTypeBool& visibility;
+  vtkTypeBool original;
 };
 } // namespace Talmesh
 

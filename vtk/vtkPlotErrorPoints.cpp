@@ -35,6 +35,8 @@ void vtkPlotErrorPoints::Update()
   if (!this->Visible || !table)
     return;
   this->UpdateErrorCache(table);
+  const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
+                                     this->Colors);
   this->Superclass::Update();
 }
 
@@ -93,7 +95,7 @@ bool vtkPlotErrorPoints::Paint(vtkContext2D* painter)
   painter->ApplyBrush(this->Brush);
   if (!this->HasBadPoints())
     this->PaintErrorBars(painter);
-  const Talmesh::SelectionWithin inside(this->Selection, this->Points->GetNumberOfPoints());
+  const Talmesh::SelectionWithin inside(this->Selection, this->Points, this->SelectedPoints);
   return this->Superclass::Paint(painter);
 }
 
@@ -102,11 +104,13 @@ void vtkPlotErrorPoints::PaintErrorBars(vtkContext2D* painter)
   const vtkIdType errors = this->ErrorArray ? this->ErrorArray->GetNumberOfTuples() : 0;
   const vtkIdType bars = std::min(errors, this->Points->GetNumberOfPoints());
   const float* const points = static_cast<float*>(this->Points->GetVoidPointer(0));
+  // The cached points are scaled for the chart where its ranges are extreme.
+  const double scale = this->GetShiftScale().GetHeight();
   for (vtkIdType i = 0; i < bars; ++i)
   {
     const float x = points[2 * i];
     const float y = points[2 * i + 1];
-    const float error = this->ErrorArray->GetTypedComponent(i, 0);
+    const auto error = static_cast<float>(this->ErrorArray->GetTypedComponent(i, 0) * scale);
     painter->DrawLine(x, y - error, x, y + error);
   }
 }

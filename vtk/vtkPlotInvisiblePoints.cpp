@@ -3,6 +3,7 @@
 #include "vtk/PlotItemPainting.h"
 
 #include <vtkContext2D.h>
+#include <vtkContextMapper2D.h>
 #include <vtkFloatArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkObjectFactory.h>
@@ -16,20 +17,28 @@ void vtkPlotInvisiblePoints::PrintSelf(ostream& os, vtkIndent indent)
   this->Superclass::PrintSelf(os, indent);
 }
 
+void vtkPlotInvisiblePoints::Update()
+{
+  const Talmesh::ColorsWithin colors(this->Data->GetInput(), this->ColorArrayName,
+                                     this->ScalarVisibility, this->Colors);
+  this->Superclass::Update();
+}
+
 bool vtkPlotInvisiblePoints::Paint(vtkContext2D* painter)
 {
   if (!this->Visible || !this->Points || this->Points->GetNumberOfPoints() == 0)
     return false;
   if (!this->OnlyShowSelected)
   {
-    const Talmesh::SelectionWithin inside(this->Selection, this->Points->GetNumberOfPoints());
+    const Talmesh::SelectionWithin inside(this->Selection, this->Points, this->SelectedPoints);
     return this->Superclass::Paint(painter);
   }
   if (!this->Selection || this->Selection->GetNumberOfValues() == 0)
     return true;
 
   const vtkMTimeType built = this->SelectedPoints->GetMTime();
-  if (this->Selection->GetMTime() > built || this->GetMTime() > built)
+  if (this->Selection->GetMTime() > built || this->GetMTime() > built ||
+      this->Points->GetMTime() > built)
     this->UpdateSelectedPoints();
   const auto selectedCount = static_cast<int>(this->SelectedPoints->GetNumberOfTuples());
   Talmesh::applyHighlightPen(painter, Talmesh::effectiveMarkerSize(this->MarkerSize, this->Pen));

@@ -14,6 +14,9 @@ public:
   TALMESH_VTK_TYPE(vtkPlotInvisiblePoints, vtkPlotPoints);
   void PrintSelf(ostream& os, vtkIndent indent) override;
 
+  /// Updates the cached points as vtkPlotPoints does, without colours if their column is missing.
+  void Update() override;
+
   /// @return false if the item is invisible or has no points.
   bool Paint(vtkContext2D* painter) override;
 

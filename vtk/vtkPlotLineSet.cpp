@@ -48,6 +48,8 @@ void vtkPlotLineSet::Update()
   vtkTable* table = this->Data->GetInput();
   if (!this->Visible || !table)
     return;
+  const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
+                                     this->Colors);
   this->Superclass::Update();
   this->UpdateSelectionCache(table);
   this->Modified();
@@ -140,7 +142,9 @@ void vtkPlotLineSet::FindMarkedRuns()
 void vtkPlotLineSet::FindSelectedRuns()
 {
   const vtkMTimeType built = this->SelectedLineIds->GetMTime();
-  if (this->Selection->GetMTime() <= built && this->GetMTime() <= built)
+  // The runs found last may be marked ones of a column that has lost its rows since.
+  if (this->Selection->GetMTime() <= built && this->GetMTime() <= built &&
+      this->RemainderSelection->GetMTime() <= built)
     return;
   const vtkIdType count = this->Selection->GetNumberOfValues();
   this->SelectedLineIds->SetNumberOfValues(count);

@@ -9,12 +9,20 @@
 #include <vtkObjectFactory.h>
 #include <vtkPen.h>
 #include <vtkPoints2D.h>
+#include <vtkRect.h>
 #include <vtkTable.h>
 
 vtkStandardNewMacro(vtkPlotStepLine);
 
 namespace
 {
+// Heights of the staircase's ends, as the cached points have them.
+struct Ends
+{
+  float bottom;
+  float top;
+};
+
 struct Staircase
 {
   float* next;
@@ -26,10 +34,10 @@ struct Staircase
   }
 };
 
-void fillStaircase(const float* points, vtkIdType count, float* steps)
+void fillStaircase(const float* points, vtkIdType count, const Ends& ends, float* steps)
 {
   Staircase staircase{steps};
-  staircase.to(points[0], 0.0f);
+  staircase.to(points[0], ends.bottom);
   staircase.to(points[0], points[1]);
   for (vtkIdType i = 1; i < count; ++i)
   {
@@ -38,7 +46,7 @@ void fillStaircase(const float* points, vtkIdType count, float* steps)
   }
   const float lastX = points[2 * count - 2];
   staircase.to(lastX, points[2 * count - 1]);
-  staircase.to(lastX, 1.0f);
+  staircase.to(lastX, ends.top);
 }
 } // namespace
 
@@ -50,8 +58,10 @@ vtkPlotStepLine::~vtkPlotStepLine()
 
 void vtkPlotStepLine::Update()
 {
-  this->Superclass::Update();
   vtkTable* table = this->Data->GetInput();
+  const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
+                                     this->Colors);
+  this->Superclass::Update();
   if (this->Visible && table)
     this->UpdateStepPointsCache(table);
 }
@@ -59,7 +69,11 @@ void vtkPlotStepLine::Update()
 bool vtkPlotStepLine::UpdateStepPointsCache(vtkTable* table)
 {
   if (!this->Points)
+  {
+    const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
+                                       this->Colors);
     this->UpdateTableCache(table);
+  }
   if (!this->StepPoints)
     this->StepPoints = vtkPoints2D::New();
   this->StepPoints->GetData()->SetNumberOfComponents(2);
@@ -68,9 +82,16 @@ bool vtkPlotStepLine::UpdateStepPointsCache(vtkTable* table)
   const vtkIdType count = this->Points ? this->Points->GetNumberOfPoints() : 0;
   this->StepPoints->SetNumberOfPoints(count < 1 ? 0 : 2 * count + 2);
   auto* points = this->Points ? vtkFloatArray::SafeDownCast(this->Points->GetData()) : nullptr;
-  if (count >= 1 && points)
-    fillStaircase(points->GetPointer(0), count,
+  this->IsFilled = count >= 1 && points;
+  if (this->IsFilled)
+  {
+    // A chart with extreme ranges shifts and scales the points that it shows.
+    const vtkRectd shift = this->LogY ? vtkRectd(0, 0, 1, 1) : this->GetShiftScale();
+    const Ends ends{static_cast<float>(shift.GetY() * shift.GetHeight()),
+                    static_cast<float>((1.0 + shift.GetY()) * shift.GetHeight())};
+    fillStaircase(points->GetPointer(0), count, ends,
                   static_cast<float*>(this->StepPoints->GetVoidPointer(0)));
+  }
   this->StepPoints->Modified();
   this->BuildTime.Modified();
   return true;
@@ -82,7 +103,7 @@ bool vtkPlotStepLine::Paint(vtkContext2D* painter)
     return false;
   painter->ApplyPen(this->Pen);
   const bool hasBadPoints = this->BadPoints && this->BadPoints->GetNumberOfTuples() > 0;
-  if (!hasBadPoints && this->StepPoints && this->StepPoints->GetNumberOfPoints() >= 2)
+  if (!hasBadPoints && this->IsFilled)
     painter->DrawPoly(this->StepPoints);
   return true;
 }

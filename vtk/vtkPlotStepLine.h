@@ -45,6 +45,8 @@ protected:
 private:
   vtkPlotStepLine(const vtkPlotStepLine&) = delete;
   void operator=(const vtkPlotStepLine&) = delete;
+
+  bool IsFilled = false; ///< whether StepPoints holds a staircase
 };
 
 #endif

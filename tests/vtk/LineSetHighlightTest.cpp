@@ -79,6 +79,19 @@ TEST_F(LineSet, FallsBackToItsSelectionWhenTheMarkerColumnHasNoRows)
   EXPECT_EQ(highlights(), (Lines{{10, 10}}));
 }
 
+TEST_F(LineSet, ForgetsTheMarkedRunsWhenOnlyTheMarkersAreReadAgain)
+{
+  setRows(30);
+  mark({3});
+  item->SetStride(10);
+  item->SetSelection(makeIds({15}));
+  item->Update();
+  EXPECT_EQ(highlights(), (Lines{{0, 10}}));
+  table->GetColumnByName(Remainder)->SetNumberOfTuples(0);
+  item->UpdateSelectionCache(table);
+  EXPECT_EQ(highlights(), (Lines{{10, 10}}));
+}
+
 TEST_F(LineSet, ReadsMarkersOfAnyNumericType)
 {
   setRows(20);

@@ -206,13 +206,15 @@ TEST_F(StepLine, SurvivesAMissingColumn)
   EXPECT_FALSE(item->Paint(recording.painter));
 }
 
-TEST_F(StepLine, LeavesTheStaircaseUnfilledForPointsThatAreNoFloats)
+TEST_F(StepLine, NeitherFillsNorPaintsTheStaircaseOfPointsThatAreNoFloats)
 {
   update({1, 2}, {0.25, 0.75});
   item->Points->SetDataType(VTK_DOUBLE);
   item->Points->SetNumberOfPoints(1);
   EXPECT_TRUE(item->UpdateStepPointsCache(table));
   EXPECT_EQ(item->StepPoints->GetNumberOfPoints(), 4);
+  EXPECT_TRUE(item->Paint(recording.painter));
+  EXPECT_TRUE(recording.device->calls().empty());
 }
 
 TEST_F(StepLine, PaintsALineAndAMarkerIntoTheLegendWhateverTheIndex)
