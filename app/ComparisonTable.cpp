@@ -1,6 +1,7 @@
 #include "app/ComparisonTable.h"
 
 #include "app/ComparisonModel.h"
+#include "widgets/FileWriter.h"
 #include "widgets/WidgetSupport.h"
 
 #include <QAction>
@@ -10,7 +11,6 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
-#include <QSaveFile>
 #include <QSortFilterProxyModel>
 #include <QStackedWidget>
 #include <QTableView>
@@ -70,10 +70,8 @@ QString textOf(const QAbstractItemModel& table, const QList<int>& rows, QChar se
 std::string writeText(const QString& path, const QString& text)
 {
   const QByteArray bytes = text.toUtf8();
-  QSaveFile file(path);
-  const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-                       file.flush() && file.commit();
-  return written ? std::string() : (path + QLatin1String(": ") + file.errorString()).toStdString();
+  const QString reason = writeFile(path, bytes.constData(), bytes.size());
+  return reason.isEmpty() ? std::string() : (path + QLatin1String(": ") + reason).toStdString();
 }
 
 QList<int> allRows(const QAbstractItemModel& table)

@@ -4,6 +4,7 @@
 #include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
+#include "widgets/FileWriter.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkRenderWindow.h>
@@ -13,7 +14,6 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <QtMath>
 
@@ -150,16 +150,6 @@ Content csvOf(VtkPlotWidget& widget)
   return content;
 }
 
-std::string writeWhole(const QString& path, const Content& content)
-{
-  QSaveFile file(path);
-  const qint64 size = content.size();
-  // Committing alone would not notice that the last bytes, still in a buffer, found no room.
-  const bool written = file.open(QIODevice::WriteOnly) &&
-                       file.write(content.data(), size) == size && file.flush() && file.commit();
-  return written ? std::string() : file.errorString().toStdString();
-}
-
 Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<PaperSize>& paper)
 {
   switch (kind)
@@ -187,7 +177,8 @@ std::string writeExport(VtkPlotWidget& widget, const QString& path,
   if (error.empty())
   {
     const Content content = contentOf(widget, kind, paper);
-    error = content.error.empty() ? writeWhole(path, content) : content.error;
+    error = content.error.empty() ? writeFile(path, content.data(), content.size()).toStdString()
+                                  : content.error;
   }
   return error.empty() ? error : path.toStdString() + ": " + error;
 }

@@ -1,12 +1,13 @@
 #include "app/RunSelectionFile.h"
 
+#include "widgets/FileWriter.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <cmath>
 #include <limits>
@@ -86,13 +87,12 @@ QString readText(const QByteArray& text, ParameterSelection& selection)
 
 std::string saveRunSelection(const QString& path, const ParameterSelection& selection)
 {
-  QSaveFile file(path);
   const QByteArray text = textOf(selection);
-  if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() &&
-      file.commit())
+  const QString reason = writeFile(path, text.constData(), text.size());
+  if (reason.isEmpty())
     return {};
   return QCoreApplication::translate("RunSelectionFile", "%1: cannot be written: %2")
-      .arg(path, file.errorString())
+      .arg(path, reason)
       .toStdString();
 }
 

@@ -1,12 +1,12 @@
 #include "app/SessionFile.h"
 
 #include "app/TranslatedText.h"
+#include "widgets/FileWriter.h"
 
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <QIODevice>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -156,12 +156,12 @@ std::string saveSessionFile(const QString& path, const SessionParts& parts)
   if (parts.dump.isEmpty() || parts.settings.size() > largestSettings)
     return withValues(translated("SessionFile", "%1: the table is too large for a session"),
                       {path.toStdString()});
-  QSaveFile file(path);
-  // What is still in Qt's buffer when it commits may be lost without a word.
-  if (file.open(QIODevice::WriteOnly) && writeSession(file, parts) && file.flush() && file.commit())
+  const QString reason =
+      writeFile(path, [&parts](QIODevice& device) { return writeSession(device, parts); });
+  if (reason.isEmpty())
     return {};
   return withValues(translated("SessionFile", "%1: cannot be written: %2"),
-                    {path.toStdString(), file.errorString().toStdString()});
+                    {path.toStdString(), reason.toStdString()});
 }
 
 ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress)

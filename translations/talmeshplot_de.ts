@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>FileWriter</name>
+    <message>
+        <source>not all of it could be written</source>
+        <translation>nicht alles konnte geschrieben werden</translation>
+    </message>
+    <message>
+        <source>no program reads from this pipe</source>
+        <translation>kein Programm liest aus dieser Pipe</translation>
+    </message>
+</context>
+<context>
     <name>LinePlotWidgetClass</name>
     <message>
         <source>Form</source>

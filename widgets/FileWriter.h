@@ -1,0 +1,28 @@
+#ifndef FileWriter_h
+#define FileWriter_h
+
+#include <QString>
+
+#include <functional>
+
+class QIODevice;
+
+namespace Talmesh
+{
+
+/// Writes into a device, which takes bytes in order and cannot be read.
+/// @return whether the device took all of it
+using FileContent = std::function<bool(QIODevice&)>;
+
+/// Writes a file. An older one of the name stays whole until the new one is on the disk, where its
+/// folder takes new files. Links are followed. Into what is no regular file, as a device or a pipe,
+/// the bytes are written; a pipe must have a reader within five seconds.
+/// @return why not all of it was written, in one line; empty on success
+QString writeFile(const QString& path, const FileContent& content);
+
+/// The same for bytes.
+QString writeFile(const QString& path, const char* bytes, qint64 size);
+
+} // namespace Talmesh
+
+#endif
