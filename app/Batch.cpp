@@ -10,6 +10,7 @@
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <QFile>
 #include <QString>
 
 #include <iostream>
@@ -54,7 +55,7 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
     error = applyChoice(container, choice);
   for (const std::string& path : options.exports)
     if (error.empty())
-      error = writeExport(options, *widget, QString::fromStdString(path));
+      error = writeExport(options, *widget, QFile::decodeName(path.c_str()));
   return error;
 }
 
@@ -66,7 +67,7 @@ std::string runBatch(const CommandLineOptions& options)
   if (options.file.empty())
     opened.study = exampleStudyOfRepressilator();
   else
-    opened = openStudyFile(QString::fromStdString(options.file));
+    opened = openStudyFile(QFile::decodeName(options.file.c_str()));
   if (!opened.error.empty())
     return opened.error;
   for (const std::string& note : opened.notes)
@@ -74,7 +75,7 @@ std::string runBatch(const CommandLineOptions& options)
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
   std::string error = writeExports(options, opened, size);
   if (error.empty() && !options.gallery.empty())
-    error = writeGallery(opened.study, QString::fromStdString(options.gallery), size);
+    error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size);
   return error;
 }
 

@@ -47,6 +47,12 @@ bool readSize(std::string_view text, Number smallest, Number largest, Number& wi
          readNumber(text.substr(cross + 1), smallest, largest, height);
 }
 
+/// A name in the encoding of the user's terminal as UTF-8.
+std::string columnName(const std::string& typed)
+{
+  return QString::fromLocal8Bit(typed.c_str()).toStdString();
+}
+
 class CommandLineParser
 {
 public:
@@ -158,16 +164,16 @@ private:
       parsed.error += std::string(known.style == xyPlot ? " " : ", ") + known.name;
   }
 
-  void readX(const std::string& value) { options().x = value; }
-  void readZ(const std::string& value) { options().z = value; }
+  void readX(const std::string& value) { options().x = columnName(value); }
+  void readZ(const std::string& value) { options().z = columnName(value); }
 
   void readY(const std::string& value)
   {
-    for (std::string& name : splitAtCommas(value))
+    for (const std::string& name : splitAtCommas(value))
       if (name.empty())
         parsed.error = "--y has an empty name in " + value;
       else
-        options().y.push_back(std::move(name));
+        options().y.push_back(columnName(name));
   }
 
   void readExport(const std::string& value)

@@ -10,7 +10,8 @@
 namespace Talmesh::app
 {
 
-/// What the user asked for on the command line. Texts are UTF-8, as typed.
+/// What the user asked for on the command line. Names of columns are UTF-8; names of files are the
+/// bytes that the system knows them by.
 struct CommandLineOptions
 {
   /// The table to open; empty for the example study.
@@ -47,9 +48,10 @@ struct ParsedCommandLine
   std::string error;
 };
 
-/// Reads the arguments after the program's name. A value follows its option as the next argument or
-/// behind "=". After "--" every argument is a file. `--y` may be repeated; a comma separates names.
-/// Nothing is checked against the disk. With `--help` or `--version` nothing else matters.
+/// Reads the arguments after the program's name, as the system hands them over. A value follows its
+/// option as the next argument or behind "=". After "--" every argument is a file. `--y` may be
+/// repeated; a comma separates names. Nothing is checked against the disk. With `--help` or
+/// `--version` nothing else matters.
 ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments);
 
 /// The text of `--help`, several lines, the last one ended.

@@ -2,6 +2,7 @@
 
 #include "app/ComparisonDock.h"
 #include "app/ComparisonResults.h"
+#include "app/FileNameCodec.h"
 #include "app/GroupController.h"
 #include "app/LoadingBar.h"
 #include "app/PlotChoice.h"
@@ -35,10 +36,10 @@ constexpr int firstLines = 54;
 constexpr int comparisonLines = 12;
 constexpr int noteMilliseconds = 10000;
 
-QString localFileOf(const QMimeData* data)
+QString droppedFile(const QMimeData* data)
 {
   const QList<QUrl> urls = data->urls();
-  return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
+  return urls.size() == 1 ? localFileOf(urls.front()) : QString();
 }
 
 } // namespace
@@ -200,13 +201,13 @@ void MainWindow::showErrorIfAny(const std::string& message)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-  if (!localFileOf(event->mimeData()).isEmpty())
+  if (!droppedFile(event->mimeData()).isEmpty())
     event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-  const QString path = localFileOf(event->mimeData());
+  const QString path = droppedFile(event->mimeData());
   if (path.isEmpty())
     return;
   event->acceptProposedAction();

@@ -9,6 +9,7 @@
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLabel>
 #include <QStatusBar>
@@ -39,7 +40,7 @@ void MainWindow::open(const CommandLineOptions& options)
   if (options.file.empty())
     openExample();
   else
-    openFile(QString::fromStdString(options.file));
+    openFile(QFile::decodeName(options.file.c_str()));
   wishes = options;
   openingNamed = true;
 }

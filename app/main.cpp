@@ -1,20 +1,22 @@
 #include "app/Batch.h"
 #include "app/CommandLine.h"
+#include "app/FileNameCodec.h"
 #include "app/LastResort.h"
 #include "app/MainWindow.h"
 #include "widgets/Translation.h"
 
 #include <QVTKOpenGLNativeWidget.h>
 
-#include <QFile>
 #include <QOpenGLContext>
 #include <QSurfaceFormat>
 
+#include <algorithm>
+#include <cerrno>
 #include <clocale>
 #include <cstdlib>
+#include <cstring>
 #include <iostream>
 #include <string>
-#include <vector>
 
 namespace
 {
@@ -35,12 +37,14 @@ void reportQtMessage(QtMsgType type, const QMessageLogContext&, const QString& m
     std::cerr << message.toStdString() << std::endl;
 }
 
-std::vector<std::string> argumentsOf(int argc, char** argv)
+/// A program that prints into a full disk has not done what was asked.
+int print(const std::string& text)
 {
-  std::vector<std::string> arguments;
-  for (int i = 1; i < argc; ++i)
-    arguments.push_back(QFile::decodeName(argv[i]).toStdString());
-  return arguments;
+  errno = 0;
+  std::cout << text << std::flush;
+  if (std::cout)
+    return EXIT_SUCCESS;
+  return fail(std::string("cannot write the output: ") + std::strerror(errno != 0 ? errno : EIO));
 }
 
 int showWindow(const CommandLineOptions& options)
@@ -63,16 +67,17 @@ int writeFiles(const CommandLineOptions& options)
 
 int runProgram(int argc, char** argv)
 {
-  const ParsedCommandLine line = parseCommandLine(argumentsOf(argc, argv));
+  // Qt asks for the encoding of names when it first meets one.
+  std::setlocale(LC_CTYPE, "");
+  installFileNameCodec();
+  const ParsedCommandLine line = parseCommandLine({argv + std::min(argc, 1), argv + argc});
   const CommandLineOptions& options = line.options;
   if (!line.error.empty())
     return fail(line.error);
   if (options.help)
-    std::cout << commandLineHelp();
+    return print(commandLineHelp());
   if (options.version)
-    std::cout << "talmesh-plot " << TALMESH_VERSION << std::endl;
-  if (options.help || options.version)
-    return EXIT_SUCCESS;
+    return print("talmesh-plot " TALMESH_VERSION "\n");
 
   qInstallMessageHandler(reportQtMessage);
   QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());

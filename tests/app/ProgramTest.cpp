@@ -13,13 +13,11 @@
 #include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <csignal>
 #include <string>
-#include <sys/resource.h>
 
+#include "RunningProgram.h"
 #include "SampleStudies.h"
 
 using namespace Talmesh::app;
@@ -27,111 +25,8 @@ using namespace Talmesh::app;
 namespace
 {
 
-struct Ended
+class Program : public RunningProgram
 {
-  int status = -1;
-  bool crashed = true;
-  QByteArray output;
-  QByteArray errors;
-};
-
-/// A program whose files must stay small.
-class LimitedProcess : public QProcess
-{
-public:
-  explicit LimitedProcess(rlim_t bytes)
-      : limit{bytes, bytes}
-  {
-  }
-
-protected:
-  void setupChildProcess() override
-  {
-    // Writing more shall fail rather than end the program.
-    std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-
-private:
-  rlimit limit;
-};
-
-class Program : public ::testing::Test
-{
-protected:
-  Ended run(const QStringList& arguments, rlim_t largestFile = RLIM_INFINITY)
-  {
-    LimitedProcess process(largestFile);
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(TALMESH_PLOT_PROGRAM), arguments);
-    Ended ended;
-    if (!process.waitForFinished(120000))
-    {
-      ADD_FAILURE() << "did not end: " << arguments.join(' ').toStdString();
-      process.kill();
-      process.waitForFinished();
-    }
-    ended.crashed = process.exitStatus() != QProcess::NormalExit;
-    ended.status = process.exitCode();
-    ended.output = process.readAllStandardOutput();
-    ended.errors = process.readAllStandardError();
-    return ended;
-  }
-
-  void expectError(const QStringList& arguments, const QString& message)
-  {
-    const Ended ended = run(arguments);
-    EXPECT_FALSE(ended.crashed);
-    EXPECT_EQ(ended.status, 1);
-    EXPECT_EQ(ended.errors.toStdString(), ("talmesh-plot: " + message + "\n").toStdString());
-    EXPECT_EQ(ended.output.toStdString(), "");
-  }
-
-  void expectSuccess(const QStringList& arguments)
-  {
-    const Ended ended = run(arguments);
-    EXPECT_FALSE(ended.crashed);
-    EXPECT_EQ(ended.status, 0);
-    EXPECT_EQ(ended.errors.toStdString(), "");
-  }
-
-  /// Lets the program run in a German locale, which is made for it.
-  void makeLocaleWithDecimalCommas()
-  {
-    QProcess process;
-    process.start(QStringLiteral("localedef"), {"-i", "de_DE", "-f", "UTF-8", path("de_DE.UTF-8")});
-    ASSERT_TRUE(process.waitForFinished(120000));
-    ASSERT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-    environment.insert(QStringLiteral("LOCPATH"), folder.path());
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
-  }
-
-  QByteArray numberPrintedInTheLocale()
-  {
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral("/usr/bin/printf"), {"%.1f", "0,5"});
-    EXPECT_TRUE(process.waitForFinished(60000));
-    return process.readAllStandardOutput();
-  }
-
-  QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
-
-  QString write(const char* name, const std::string& text)
-  {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text.data(), static_cast<qint64>(text.size()));
-    return path(name);
-  }
-
-  QTemporaryDir folder;
-  QProcessEnvironment environment = []
-  {
-    QProcessEnvironment changed = QProcessEnvironment::systemEnvironment();
-    changed.remove(QStringLiteral("XDG_RUNTIME_DIR"));
-    return changed;
-  }();
 };
 
 QByteArray withoutDates(const QByteArray& pdf)
@@ -289,40 +184,6 @@ TEST_F(Program, NamesTheRunOfAnotherLength)
   const QString csv = write("runs.csv", "run,time,X\n1,0,1\n1,1,2\n2,0,1\n");
   expectError({csv, "--export", path("plot.png")},
               csv + ": run \"2\" has 1 point, other runs have 2");
-}
-
-TEST_F(Program, SaysWhereItCannotWrite)
-{
-  const QString csv = write("runs.csv", sampleRuns());
-  const Ended ended = run({csv, "--export", path("nowhere/plot.png")});
-  EXPECT_EQ(ended.status, 1);
-  EXPECT_TRUE(
-      ended.errors.startsWith(("talmesh-plot: " + path("nowhere/plot.png") + ": ").toUtf8()));
-  EXPECT_EQ(ended.errors.count('\n'), 1);
-}
-
-TEST_F(Program, LeavesAnOldFileWholeWhenItCannotWrite)
-{
-  const QString csv = write("runs.csv", sampleRuns());
-  for (const char* name : {"old.png", "old.pdf", "old.csv"})
-  {
-    const QString old = write(name, "an old file");
-    // The new one would be larger than any file may be, as on a full disk.
-    const Ended ended = run({csv, "--export", old}, 100);
-    EXPECT_FALSE(ended.crashed) << name;
-    EXPECT_EQ(ended.status, 1) << name;
-    EXPECT_TRUE(ended.errors.startsWith(("talmesh-plot: " + old + ": ").toUtf8()))
-        << ended.errors.toStdString();
-    EXPECT_EQ(contentOf(old), "an old file") << name;
-  }
-}
-
-TEST_F(Program, SaysThatThereIsNoDisplay)
-{
-  environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":99999"));
-  environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
-  environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-  expectError({"--export", path("plot.png")}, "the display cannot be opened");
 }
 
 TEST_F(Program, SpeaksGermanInAGermanEnvironment)
