@@ -85,7 +85,6 @@ public:
         name = column->GetName();
       if (!column || (name && isSelectionMark(*name)))
         continue;
-      column->SetName(nullptr);
       left.add(name, column);
     }
     return left.makeTable();

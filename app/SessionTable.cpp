@@ -69,7 +69,7 @@ QByteArray dumpStudy(const Study& study, PlotContainer& container, vtkTable* sho
     addItems(dumped, study, shown);
   addFurtherColumns(dumped.table, shown);
   if (const auto flags = plot::selectionFlags(container.state()))
-    plot::replaceFlagColumn(dumped.table, flags);
+    dumped.table->AddColumn(flags);
   if (dumped.table->GetNumberOfColumns() > mostSessionColumns)
     return {};
   return plot::writeDump(dumped);

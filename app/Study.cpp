@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <vector>
 
 namespace Talmesh::app
@@ -23,14 +24,31 @@ std::string counted(std::size_t count, const std::string& one, const std::string
   return std::to_string(count) + ' ' + (count == 1 ? one : many);
 }
 
+/// The parameter values, one per run, that are blank or no number.
+std::size_t missingValues(const LinePlotTable& runs)
+{
+  std::size_t missing = 0;
+  for (std::size_t i = 0; i < runs.items.size() && i < runs.values.size(); ++i)
+    for (std::size_t run = 0; runs.items[i].first == Parameter && run < runs.numberOfTrajectories;
+         ++run)
+      missing += std::isnan(runs.values[i][run * runs.pointsPerTrajectory]) ? 1 : 0;
+  return missing;
+}
+
 std::string runSize(const LinePlotTable& runs, std::size_t parameters)
 {
-  return withValues(
+  const std::string size = withValues(
       translated("Study", "%1, %2 each, %3"),
       {counted(runs.numberOfTrajectories, translated("Study", "run"), translated("Study", "runs")),
        counted(runs.pointsPerTrajectory, translated("Study", "point"),
                translated("Study", "points")),
        counted(parameters, translated("Study", "parameter"), translated("Study", "parameters"))});
+  const std::size_t missing = missingValues(runs);
+  if (missing == 0)
+    return size;
+  return withValues(translated("Study", "%1, %2"),
+                    {size, counted(missing, translated("Study", "parameter value missing"),
+                                   translated("Study", "parameter values missing"))});
 }
 
 std::string tableSize(vtkTable& table)

@@ -44,7 +44,7 @@ void showStudy(const Study& study, PlotContainer& container);
 Study lastPoints(const Study& study);
 
 /// How much is loaded, in one line: "400 runs, 200 points each, 4 parameters". Parameters that are
-/// the same in all runs do not count.
+/// the same in all runs do not count; parameter values that are missing are named if there are any.
 std::string studySize(const Study& study);
 /// As above, and for a chart of its own how much the container shows of it.
 std::string studySize(const Study& study, const PlotContainer& container);

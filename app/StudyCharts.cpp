@@ -148,6 +148,7 @@ void markEverySeries(vtkChartXY* chart)
 
 void drawIndomethacinFit(PlotContainer& container)
 {
+  container.setDecorations(nullptr, false);
   container.setPlotData(indomethacinFitTable());
   container.getMetaData()->parameterColumns = {2, 3, 4, 5};
   storeStyle(container, fitParameterDistribution);
@@ -175,6 +176,7 @@ void drawIndomethacinCourse(PlotContainer& container, bool logarithmic)
 
 void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideBySide)
 {
+  container.setDecorations(nullptr, false);
   IndomethacinResiduals study = indomethacinResiduals();
   container.setXLabel("Time [h]");
   if (sideBySide)
@@ -191,6 +193,7 @@ void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideB
 
 void drawPuromycinRates(PlotContainer& container)
 {
+  container.setDecorations(nullptr, false);
   container.setPlotData(puromycinMeans());
   addPuromycinCurve(container);
   PlotMetaData& settings = *container.getMetaData();
@@ -209,6 +212,7 @@ void drawPuromycinRates(PlotContainer& container)
 void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
                      const SensitivityView& view)
 {
+  container.setDecorations(nullptr, false);
   storeStyle(container, view.atTimePoint ? reservedStyle1 : reservedStyle2);
   container.setSobolPostprocessResult(&result, view.atTimePoint, view.total, view.position,
                                       view.position);
@@ -218,6 +222,7 @@ void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
 
 void drawPrior(PlotContainer& container, const NamedDistribution& prior)
 {
+  container.setDecorations(nullptr, false);
   container.setDistribution(prior.distribution.get());
   container.setPlotTitle(
       withValues(translated("StudyCharts", "Prior density of %1"), {prior.name}));

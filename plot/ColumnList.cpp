@@ -7,6 +7,8 @@ namespace Talmesh::plot
 
 void ColumnList::add(const Name& name, vtkSmartPointer<vtkDataArray> column)
 {
+  // A table appends unnamed columns without a search.
+  column->SetName(nullptr);
   const std::size_t end = columns.size();
   const std::size_t position = name ? positions.emplace(*name, end).first->second : end;
   if (position == end)
@@ -19,7 +21,6 @@ vtkSmartPointer<vtkTable> ColumnList::makeTable() const
   auto table = vtkSmartPointer<vtkTable>::New();
   vtkDataSetAttributes* rowData = table->GetRowData();
   rowData->AllocateArrays(static_cast<int>(columns.size()));
-  // Unnamed arrays are appended without a search.
   for (const auto& entry : columns)
     rowData->AddArray(entry.second);
   for (const auto& [name, column] : columns)

@@ -24,7 +24,7 @@ class ColumnList
 public:
   using Name = std::optional<std::string>;
 
-  /// @param column an unnamed column; all must have one length
+  /// @param column all must have one length; a name that it has is taken from it until makeTable()
   /// @param name none leaves it unnamed; such columns do not replace each other
   void add(const Name& name, vtkSmartPointer<vtkDataArray> column);
 

@@ -8,6 +8,7 @@
 #include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 
+#include <vtkDataSetAttributes.h>
 #include <vtkPlot.h>
 
 #include <algorithm>
@@ -87,8 +88,9 @@ void removeUnused(PlotState& state, const std::set<int>& used)
   std::vector<Talmesh::TypedConcentrationName> items;
   for (int column = static_cast<int>(state.table->GetNumberOfColumns()) - 1; column >= 0; --column)
   {
+    // The table's own removal goes by name and takes the first column of that name.
     if (used.count(column) == 0)
-      state.table->RemoveColumn(column);
+      state.table->GetRowData()->RemoveArray(column);
     else if (static_cast<std::size_t>(column) < state.columnItems.size())
       items.push_back(state.columnItems[static_cast<std::size_t>(column)]);
   }
@@ -123,8 +125,23 @@ void detachPlots(PlotState& state)
     state.parallelCoordinates->GetPlot(0)->vtkPlot::SetInputData(before);
 }
 
-/// Takes what the settings and the typed items say of column `from` to the end of the table and
-/// lets the columns behind it move up.
+/// The windows of the columns as they are numbered once `move` has changed each number.
+template <typename Windows, typename Move>
+Windows renumbered(const Windows& windows, const Move& move)
+{
+  Windows moved;
+  for (const auto& [key, window] : windows)
+  {
+    ReducedMetaData place = key;
+    move(place.xColumn);
+    move(place.yColumn);
+    moved.emplace(place, window);
+  }
+  return moved;
+}
+
+/// Takes what the settings, the remembered windows and the typed items say of column `from` to the
+/// end of the table and lets the columns behind it move up.
 void moveToEnd(PlotState& state, int from)
 {
   const int last = static_cast<int>(state.table->GetNumberOfColumns()) - 1;
@@ -140,6 +157,8 @@ void moveToEnd(PlotState& state, int from)
        {&settings.xColumns, &settings.yColumns, &settings.zColumns, &settings.parameterColumns})
     std::for_each(list->begin(), list->end(), move);
   move(settings.colorColumn);
+  state.coordinateWindows = renumbered(state.coordinateWindows, move);
+  state.windowScales = renumbered(state.windowScales, move);
   auto& items = state.columnItems;
   if (static_cast<std::size_t>(from) >= items.size())
     return;
@@ -154,10 +173,13 @@ void moveToEnd(PlotState& state, int from)
 
 void appendFlagColumn(PlotState& state, vtkIntArray* flags)
 {
-  const int older = columnIndex(state.table, selectionFlagColumn);
-  if (older >= 0)
+  for (int older = columnIndex(state.table, selectionFlagColumn); older >= 0;
+       older = columnIndex(state.table, selectionFlagColumn))
+  {
     moveToEnd(state, older);
-  replaceFlagColumn(state.table, flags);
+    state.table->GetRowData()->RemoveArray(older);
+  }
+  state.table->AddColumn(flags);
 }
 
 void reduceToUsedColumns(PlotState& state)

@@ -17,9 +17,9 @@ struct PlotState;
 /// fed from the table go on showing the columns that they were fed from.
 void reduceToUsedColumns(PlotState& state);
 
-/// Makes `flags` the last column of the plot table, in the place of an older column of flags. The
-/// settings and the typed items follow the columns that move: entries that named the older column
-/// name the new one.
+/// Makes `flags`, one value per row, the last column of the plot table under the name of selection
+/// flags; older columns of flags go. The settings, the remembered windows and the typed items
+/// follow the columns that move: entries that named an older column of flags name the new one.
 void appendFlagColumn(PlotState& state, vtkIntArray* flags);
 
 } // namespace Talmesh::plot

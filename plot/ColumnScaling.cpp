@@ -50,7 +50,8 @@ void finish(PlotState& state)
 
 void scaleColumn(PlotState& state, const double* factors, int column)
 {
-  if (vtkDoubleArray* values = plainColumn(state, column))
+  vtkDoubleArray* values = plainColumn(state, column);
+  if (values && factors)
   {
     stats::scaleRuns(values->GetPointer(0), tableRows(state, values), state.metaData->getStride(),
                      factors);

@@ -1,17 +1,163 @@
 #include "plot/DelimitedFiles.h"
 
+#include <vtkDataArray.h>
+#include <vtkDataSetAttributes.h>
 #include <vtkDelimitedTextReader.h>
 #include <vtkDelimitedTextWriter.h>
 #include <vtkNew.h>
+#include <vtkStringArray.h>
 #include <vtkTable.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <limits>
+#include <system_error>
 
 namespace Talmesh::plot
 {
 
+namespace
+{
+
+constexpr char quote = '"';
+constexpr char escape = '\\';
+
+/// Whether the text of a file says something else to VTK's reader than to everybody else: VTK takes
+/// a quote that is doubled within quotes for two strings, and a backslash for an escape.
+bool needsTranslation(std::istream& file)
+{
+  char before = '\0';
+  for (std::istreambuf_iterator<char> next(file), end; next != end; before = *next++)
+  {
+    if (*next == escape || (*next == quote && before == quote))
+      return true;
+  }
+  return false;
+}
+
+/// Escapes backslashes and the quotes that are doubled within quotes, as VTK's reader wants it.
+std::string translated(std::istream& file)
+{
+  std::string text;
+  bool quoted = false;
+  bool maybeEnd = false;
+  for (std::istreambuf_iterator<char> next(file), end; next != end; ++next)
+  {
+    const bool doubled = maybeEnd && *next == quote;
+    if (maybeEnd && !doubled)
+      text += quote;
+    quoted = quoted && (!maybeEnd || doubled);
+    maybeEnd = *next == quote && quoted && !doubled;
+    if (doubled || *next == escape)
+      text += escape;
+    if (!maybeEnd)
+      text += *next;
+    quoted = quoted || *next == quote;
+  }
+  if (maybeEnd)
+    text += quote;
+  return text;
+}
+
+/// @return whether there was something to translate
+bool readTranslated(vtkDelimitedTextReader* reader, const std::string& fileName)
+{
+  // A pipe could be read only once.
+  std::error_code unknown;
+  if (!std::filesystem::is_regular_file(fileName, unknown))
+    return false;
+  std::ifstream file(fileName, std::ios::binary);
+  if (!file || !needsTranslation(file))
+    return false;
+  file.clear();
+  file.seekg(0);
+  const std::string text = translated(file);
+  // The reader counts in int.
+  if (text.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
+    return false;
+  reader->SetInputString(text);
+  reader->ReadFromInputStringOn();
+  return true;
+}
+
+bool hasQuote(const std::string& text)
+{
+  return text.find(quote) != std::string::npos;
+}
+
+std::string withDoubledQuotes(const std::string& text)
+{
+  std::string doubled;
+  for (const char character : text)
+    doubled.append(character == quote ? 2 : 1, character);
+  return doubled;
+}
+
+bool hasQuote(vtkAbstractArray* column)
+{
+  if (column->GetName() && hasQuote(column->GetName()))
+    return true;
+  auto* texts = vtkStringArray::SafeDownCast(column);
+  const vtkIdType count = texts ? texts->GetNumberOfValues() : 0;
+  for (vtkIdType i = 0; i < count; ++i)
+  {
+    if (hasQuote(texts->GetValue(i)))
+      return true;
+  }
+  return false;
+}
+
+/// Shares the values of numbers. Without a name.
+vtkSmartPointer<vtkAbstractArray> copyOf(vtkAbstractArray* column)
+{
+  auto copy = vtkSmartPointer<vtkAbstractArray>::Take(column->NewInstance());
+  if (auto* numbers = vtkDataArray::SafeDownCast(copy))
+    numbers->ShallowCopy(vtkDataArray::SafeDownCast(column));
+  else
+    copy->DeepCopy(column);
+  copy->SetName(nullptr);
+  return copy;
+}
+
+void doubleQuotes(vtkStringArray* texts)
+{
+  for (vtkIdType i = 0; i < texts->GetNumberOfValues(); ++i)
+    texts->SetValue(i, withDoubledQuotes(texts->GetValue(i)));
+}
+
+/// `table`, or a copy, as VTK's writer needs it, which puts texts between quotes as they are.
+vtkSmartPointer<vtkTable> withDoubledQuotes(vtkTable* table)
+{
+  const int columns = static_cast<int>(table->GetNumberOfColumns());
+  bool asItIs = true;
+  for (int i = 0; i < columns; ++i)
+    asItIs = asItIs && !hasQuote(table->GetColumn(i));
+  if (asItIs)
+    return table;
+  auto doubled = vtkSmartPointer<vtkTable>::New();
+  // Named only afterwards, because arrays of one name would replace each other.
+  for (int i = 0; i < columns; ++i)
+    doubled->GetRowData()->AddArray(copyOf(table->GetColumn(i)));
+  for (int i = 0; i < columns; ++i)
+  {
+    if (table->GetColumnName(i))
+      doubled->GetColumn(i)->SetName(
+          withDoubledQuotes(std::string(table->GetColumnName(i))).c_str());
+    if (auto* texts = vtkStringArray::SafeDownCast(doubled->GetColumn(i)))
+      doubleQuotes(texts);
+  }
+  return doubled;
+}
+
+} // namespace
+
 vtkSmartPointer<vtkTable> readDelimited(const std::string& fileName)
 {
   vtkNew<vtkDelimitedTextReader> reader;
-  reader->SetFileName(fileName.c_str());
+  if (!readTranslated(reader, fileName))
+    reader->SetFileName(fileName.c_str());
   reader->SetHaveHeaders(true);
   reader->SetDetectNumericColumns(true);
   reader->SetForceDouble(true);
@@ -22,7 +168,7 @@ vtkSmartPointer<vtkTable> readDelimited(const std::string& fileName)
 char* writeDelimited(vtkTable* table, const std::string& fileName)
 {
   vtkNew<vtkDelimitedTextWriter> writer;
-  writer->SetInputData(table);
+  writer->SetInputData(withDoubledQuotes(table));
   if (!fileName.empty())
   {
     writer->SetFileName(fileName.c_str());

@@ -10,11 +10,13 @@ class vtkTable;
 namespace Talmesh::plot
 {
 
-/// Reads a comma-separated file: names in the first line, numeric columns as doubles.
+/// Reads a comma-separated file: names in the first line, numeric columns as doubles. A quote
+/// doubled within quotes is one quote, a backslash is a backslash.
 /// @return what the reader delivers, for an unreadable file an empty table
 vtkSmartPointer<vtkTable> readDelimited(const std::string& fileName);
 
-/// Writes `table` comma-separated to `fileName`, or, when it is empty, into a string.
+/// Writes `table` comma-separated to `fileName`, or, when it is empty, into a string. Names and
+/// texts stand between quotes, quotes in them are doubled.
 /// @return that string, allocated with new[] and the caller's to free; null when a file was written
 char* writeDelimited(vtkTable* table, const std::string& fileName);
 

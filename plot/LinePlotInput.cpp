@@ -2,6 +2,7 @@
 
 #include "external/LinePlotData.h"
 #include "external/PlotMetaData.h"
+#include "plot/ColumnList.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
@@ -21,22 +22,23 @@ namespace
 
 vtkSmartPointer<vtkTable> tableOf(const LinePlotData& data)
 {
-  auto table = vtkSmartPointer<vtkTable>::New();
-  table->AddColumn(makeColumn(data.xName, data.xValues ? *data.xValues : std::vector<double>()));
-  const vtkIdType rows = table->GetNumberOfRows();
+  const std::vector<double> x = data.xValues ? *data.xValues : std::vector<double>();
+  ColumnList columns;
+  columns.add(data.xName, makeColumn(data.xName, x));
   for (const auto& [item, values] : data.series)
   {
-    if (values && static_cast<vtkIdType>(values->size()) == rows)
-      table->AddColumn(makeColumn(Talmesh::selectionPairToString(item), *values));
+    const std::string label = Talmesh::selectionPairToString(item);
+    if (values && values->size() == x.size())
+      columns.add(label, makeColumn(label, *values));
   }
-  return table;
+  return columns.makeTable();
 }
 
 } // namespace
 
 void setLinePlotData(PlotState& state, const LinePlotData& data)
 {
-  blockSettings(state);
+  const SettingsSilence silence(state);
   setPlotTitle(state, "");
   replaceTable(state, tableOf(data));
   setFirst(state.metaData->xColumns, 0);
@@ -44,7 +46,6 @@ void setLinePlotData(PlotState& state, const LinePlotData& data)
   setYLabel(state, data.yName);
   for (const auto& series : data.series)
     state.columnItems.push_back(series.first);
-  unblockSettings(state);
 }
 
 void addLinePlotData(PlotState& state, const LinePlotData& data)

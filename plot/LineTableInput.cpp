@@ -3,6 +3,7 @@
 #include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
 #include "plot/BorrowedColumn.h"
+#include "plot/ColumnList.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
@@ -36,7 +37,7 @@ std::string itemName(const PlotState& state, int index)
 
 void fillFromLinePlotTable(PlotState& state, const boost::shared_ptr<LinePlotTable>& lines)
 {
-  replaceTable(state, vtkSmartPointer<vtkTable>::New());
+  ColumnList columns;
   state.columnItems.clear();
   std::size_t parameter = 0;
   for (std::size_t i = 0; i < lines->items.size() && i < lines->values.size(); ++i)
@@ -50,9 +51,10 @@ void fillFromLinePlotTable(PlotState& state, const boost::shared_ptr<LinePlotTab
       state.parameterBounds.push_back(range);
     }
     const std::string label = Talmesh::selectionPairToString(item);
-    state.table->AddColumn(borrowColumn(label, lines->values[i], rowCount(*lines), lines));
+    columns.add(label, borrowColumn(label, lines->values[i], rowCount(*lines), lines));
     state.columnItems.push_back(item);
   }
+  replaceTable(state, columns.makeTable());
   findParameterColumns(state);
 }
 
@@ -75,12 +77,14 @@ void chooseLineTableColumns(PlotState& state)
 
 void addLinePlotTable(PlotState& state, const LinePlotTable& lines)
 {
-  auto table = vtkSmartPointer<vtkTable>::New();
+  ColumnList columns;
   state.columnItems.clear();
   for (std::size_t i = 0; i < lines.values.size() && i < lines.items.size(); ++i)
-    table->AddColumn(borrowColumn(Talmesh::selectionPairToString(lines.items[i]), lines.values[i],
-                                  rowCount(lines)));
-  state.derivedTables.push_back(table);
+  {
+    const std::string label = Talmesh::selectionPairToString(lines.items[i]);
+    columns.add(label, borrowColumn(label, lines.values[i], rowCount(lines)));
+  }
+  state.derivedTables.push_back(columns.makeTable());
 }
 
 } // namespace Talmesh::plot

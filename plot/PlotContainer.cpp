@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/ColumnReduction.h"
 #include "plot/MatrixSelection.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
@@ -75,12 +76,11 @@ PlotContainer::PlotContainer(const PlotContainer& other)
   d->selectionUpdatePending = true;
   d->metaData = new PlotMetaData(*other.d->metaData);
   d->metaData->setParent(this);
-  Talmesh::plot::replaceTable(*d, vtkSmartPointer<vtkTable>::New());
-  d->table->DeepCopy(other.d->table);
+  Talmesh::plot::replaceTable(*d, Talmesh::plot::deepCopyOf(other.d->table));
   makeCharts(*d);
   connectParts();
   if (vtkSmartPointer<vtkIntArray> selected = vtk::TakeSmartPointer(other.getCurrentSelection()))
-    Talmesh::plot::replaceFlagColumn(d->table, selected);
+    Talmesh::plot::appendFlagColumn(*d, selected);
   selectionFromFlagColumn();
   redraw();
 }
@@ -127,7 +127,24 @@ void PlotContainer::setScene(vtkContextScene* scene)
 
 void PlotContainer::redraw()
 {
-  const bool startedBySignal = sender() != nullptr;
+  if (sender())
+  {
+    drawOrReport();
+    return;
+  }
+  try
+  {
+    Talmesh::plot::redraw(*d);
+  }
+  catch (...)
+  {
+    Talmesh::plot::unblockSettings(*d);
+    throw;
+  }
+}
+
+void PlotContainer::drawOrReport()
+{
   try
   {
     Talmesh::plot::redraw(*d);
@@ -135,8 +152,6 @@ void PlotContainer::redraw()
   catch (const std::exception& problem)
   {
     Talmesh::plot::unblockSettings(*d);
-    if (!startedBySignal)
-      throw;
     std::cerr << "void PlotContainer::redraw(): " << problem.what() << std::endl;
   }
 }

@@ -46,7 +46,9 @@ struct PlotState;
 /// The container draws into the scene of the widget that shows it and never renders. Every settings
 /// change that the settings object announces draws the plot again. Records passed in as pointers
 /// stay the caller's. All calls belong to the GUI thread. Nothing here throws and nothing returns
-/// an error code unless an operation says so; missing or mistyped columns give empty plots.
+/// an error code unless an operation says so; missing or mistyped columns give empty plots. What
+/// keeps a chart from being drawn, operations that draw among other things report in one line on
+/// standard error.
 class PlotContainer : public QObject
 {
   Q_OBJECT
@@ -217,7 +219,8 @@ public:
 
   /// @name Changes of the data in place
   /// @{
-  /// Multiplies run t of a double column by factors[t], one per whole run, the caller's.
+  /// Multiplies run t of a double column by factors[t], one per whole run, the caller's; null
+  /// scales nothing.
   void scaleColumn(double* factors, int column);
   /// Divides each run of a double column by its own maximum, which counts as at least 0.
   void scaleRelativeToMaxWithinTrajectory(int column);
@@ -251,7 +254,8 @@ public:
   /// normalised in place as the settings say. Null records are ignored.
   void setResidualPlot(FitRun* run, FitSettings* settings,
                        std::vector<std::vector<double>>& predictions, bool scaled, bool sideBySide);
-  /// Shows the density of a distribution, whose values become the table. Null is ignored.
+  /// Shows the density of a distribution, whose values become the table. Null is ignored. An
+  /// exception from the distribution leaves everything as it was.
   void setDistribution(Distribution* distribution);
   /// @}
 
@@ -302,6 +306,7 @@ public slots:
 
 private:
   void connectParts();
+  void drawOrReport();
 
   std::unique_ptr<Talmesh::plot::PlotState> d;
 };

@@ -54,15 +54,14 @@ void PlotContainer::setLinePlotTable(boost::shared_ptr<LinePlotTable> table, boo
 {
   if (!table)
     return;
-  Talmesh::plot::blockSettings(*d);
+  const Talmesh::plot::SettingsSilence silence(*d);
   // The table in use still points into the one held so far.
   table.swap(d->linePlotTable);
   updateFromLinePlotTable(false);
   Talmesh::plot::chooseLineTableColumns(*d);
   if (quartiles)
     generateQuartiles();
-  redraw();
-  Talmesh::plot::unblockSettings(*d);
+  drawOrReport();
 }
 
 void PlotContainer::updateFromLinePlotTable(bool quartiles)
@@ -94,7 +93,7 @@ void PlotContainer::setPlotCols(int x, int y, int index, bool quartiles)
     return;
   if (quartiles)
     generateQuartiles();
-  redraw();
+  drawOrReport();
 }
 
 void PlotContainer::setPlotCols(const std::string& x, const std::string& y, int index,
@@ -125,7 +124,7 @@ void PlotContainer::setSimpleXYPlot(std::vector<double>& x, std::vector<double>&
   setLineWidth(1.0);
   setPointSize(2.0);
   setMarkerStyle(3);
-  redraw();
+  drawOrReport();
   Talmesh::plot::unblockSettings(*d);
 }
 

@@ -47,5 +47,5 @@ void PlotContainer::setExternalSelection(ParameterSelection* runs)
     throw;
   }
   dirty();
-  redraw();
+  drawOrReport();
 }

@@ -25,7 +25,7 @@ void PlotContainer::setSobolPostprocessResult(SobolPostProcessResult* result, bo
   using namespace Talmesh::plot;
   if (!result)
     return;
-  blockSettings(*d);
+  const SettingsSilence silence(*d);
   const SobolIndex index = total ? SobolIndex::Total : SobolIndex::FirstOrder;
   if (atTimePoint)
   {
@@ -38,14 +38,12 @@ void PlotContainer::setSobolPostprocessResult(SobolPostProcessResult* result, bo
     d->metaData->title = sobolTimeSeriesTitle(*result, index, outputIndex);
   }
   setupStackedSobol(total);
-  unblockSettings(*d);
 }
 
 void PlotContainer::setupStackedSobol(bool total)
 {
-  Talmesh::plot::blockSettings(*d);
+  const Talmesh::plot::SettingsSilence silence(*d);
   Talmesh::plot::buildSobolChart(*d, total);
-  Talmesh::plot::unblockSettings(*d);
 }
 
 void PlotContainer::setResidualPlot(FitRun* run, FitSettings* settings,
@@ -55,19 +53,17 @@ void PlotContainer::setResidualPlot(FitRun* run, FitSettings* settings,
   using namespace Talmesh::plot;
   if (!run || !settings)
     return;
-  blockSettings(*d);
+  const SettingsSilence silence(*d);
   const ResidualOptions options{scaled, sideBySide};
   normalizePredictions(*settings, predictions);
   replaceTable(*d, residualTable(*run, *settings, predictions, options));
   drawResiduals(*d, predictions.size(), settings->dataKind() == FitSettings::timeCourse, options);
-  unblockSettings(*d);
 }
 
 void PlotContainer::setDistribution(Distribution* distribution)
 {
   if (!distribution)
     return;
-  Talmesh::plot::blockSettings(*d);
+  const Talmesh::plot::SettingsSilence silence(*d);
   Talmesh::plot::drawDensityCurve(*d, Talmesh::plot::densityCurve(*distribution));
-  Talmesh::plot::unblockSettings(*d);
 }

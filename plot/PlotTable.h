@@ -13,6 +13,9 @@ struct PlotState;
 /// Makes `table`, which is shared and must not be null, the plot table and calls tableChanged().
 void replaceTable(PlotState& state, vtkSmartPointer<vtkTable> table);
 
+/// A copy of every column of `table` with its name, also of columns of one name.
+vtkSmartPointer<vtkTable> deepCopyOf(vtkTable* table);
+
 /// To be called after every change of the plot table's values or columns: what was derived from
 /// them is out of date.
 void tableChanged(PlotState& state);

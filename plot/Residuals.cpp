@@ -2,6 +2,7 @@
 
 #include "external/FitRun.h"
 #include "external/FitSettings.h"
+#include "external/PlotMetaData.h"
 #include "external/Standardize.h"
 #include "plot/ChartLifetime.h"
 #include "plot/ChartReuse.h"
@@ -192,6 +193,9 @@ void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, Resid
 {
   cutSelectionToTable(state);
   reuseChartXY(state, currentScene(state));
+  // The chart may be a new one, which knows nothing of the titles set so far.
+  state.chartXY->GetAxis(vtkAxis::BOTTOM)->SetTitle(state.metaData->xLabel);
+  state.chartXY->GetAxis(vtkAxis::LEFT)->SetTitle(state.metaData->yLabel);
   addAllSeries(state, outputs, timeCourse, options.sideBySide);
   // The axis measures its labels in the scene; without one VTK warns, and scales when painting.
   if (state.chartXY->GetScene())

@@ -58,11 +58,4 @@ void selectFlaggedRows(PlotState& state)
   state.annotationLink->SetCurrentSelection(wrapRowSelection(flagged));
 }
 
-void replaceFlagColumn(vtkTable* table, vtkIntArray* flags)
-{
-  // AddColumn() would put the new flags where the old ones stand.
-  table->RemoveColumnByName(selectionFlagColumn);
-  table->AddColumn(flags);
-}
-
 } // namespace Talmesh::plot

@@ -31,11 +31,6 @@ vtkSmartPointer<vtkIntArray> selectionFlags(const PlotState& state);
 /// the link announces. Does nothing if that column is not a vtkIntArray.
 void selectFlaggedRows(PlotState& state);
 
-/// Appends `flags` under its own name, so that it is the last column: an older column of flags
-/// goes, and the columns behind that one move down by one place.
-/// @param flags one value per row of `table`
-void replaceFlagColumn(vtkTable* table, vtkIntArray* flags);
-
 } // namespace Talmesh::plot
 
 #endif

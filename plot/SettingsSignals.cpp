@@ -16,4 +16,15 @@ void unblockSettings(PlotState& state)
   state.metaData->blockSignals(false);
 }
 
+SettingsSilence::SettingsSilence(PlotState& silenced)
+    : state(silenced)
+{
+  blockSettings(state);
+}
+
+SettingsSilence::~SettingsSilence()
+{
+  unblockSettings(state);
+}
+
 } // namespace Talmesh::plot

@@ -10,18 +10,6 @@ namespace Talmesh::stats
 {
 namespace
 {
-/// A strict weak order also with NaN, which plain "less" is not.
-bool lessWithNanLast(double a, double b)
-{
-  return std::isnan(b) ? !std::isnan(a) : a < b;
-}
-
-/// Equality that goes with that order.
-bool equalWithNan(double a, double b)
-{
-  return a == b || (std::isnan(a) && std::isnan(b));
-}
-
 void rankDegenerate(const ParameterSupport& support, RankedParameter& result)
 {
   const std::size_t positions = result.ranks.size();
@@ -42,6 +30,20 @@ void rankValues(const std::vector<double>& filled, RankedParameter& result)
   }
 }
 
+/// The same distribution in `positions` values. Repeating only the last value, as the ranks do,
+/// would pile up density at the upper end. Few values give a pattern in which a repeated value
+/// hides those behind it.
+std::vector<double> spreadOver(const std::vector<double>& filled, std::size_t valueCount)
+{
+  const std::size_t positions = filled.size();
+  if (valueCount == 0 || positions < smallestKernelSample)
+    return filled;
+  std::vector<double> spread(positions);
+  for (std::size_t i = 0; i < positions; ++i)
+    spread[i] = filled[i * valueCount / positions];
+  return spread;
+}
+
 RankedParameter rankParameter(std::vector<double> values, const ParameterSupport& support,
                               std::size_t positions, const KernelDensity& kernelDensity)
 {
@@ -57,7 +59,8 @@ RankedParameter rankParameter(std::vector<double> values, const ParameterSupport
     rankValues(values, result);
   result.densities = DoubleBuffer(densityLocations);
   result.locations = DoubleBuffer(densityLocations);
-  estimateDensity(values, support, kernelDensity, result.densities, result.locations);
+  estimateDensity(spreadOver(values, result.valueCount), support, kernelDensity, result.densities,
+                  result.locations);
   return result;
 }
 } // namespace
@@ -68,15 +71,19 @@ std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValu
   std::vector<double> values;
   values.reserve(rows / step + 1);
   for (std::size_t row = 0; row < rows; row += step)
-    values.push_back(valueAt(row));
-  std::sort(values.begin(), values.end(), lessWithNanLast);
+  {
+    const double value = valueAt(row);
+    if (!std::isnan(value))
+      values.push_back(value);
+  }
+  std::sort(values.begin(), values.end());
   return values;
 }
 
 std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt)
 {
   std::vector<double> values = thinnedValues(rows, 1, valueAt);
-  values.erase(std::unique(values.begin(), values.end(), equalWithNan), values.end());
+  values.erase(std::unique(values.begin(), values.end()), values.end());
   return values;
 }
 

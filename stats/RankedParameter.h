@@ -18,13 +18,11 @@ constexpr std::size_t densityLocations = 200;
 /// Value of a row of a column.
 using ColumnValue = std::function<double(std::size_t)>;
 
-/// Values of the rows 0, stride, 2 stride, ... below `rows`, ascending, NaN last; duplicates are
-/// kept. A stride below 1 counts as 1.
+/// Values of the rows 0, stride, 2 stride, ... below `rows`, ascending; duplicates are kept, NaN is
+/// no value. A stride below 1 counts as 1.
 std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValue& valueAt);
 
-/// Values of all rows, ascending, each once. All NaN together are one value, the last one: a value
-/// that is missing in many rows would otherwise make the list longer than those of other
-/// parameters.
+/// Values of all rows, ascending, each once; NaN is no value.
 std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt);
 
 /// Support of a parameter's density. `upper` may be infinite while `range` is finite.
@@ -69,7 +67,7 @@ struct RankedParameter
 struct RankedParameters
 {
   /// Length of the longest list; shorter lists are filled with their last value, empty ones with
-  /// NaN.
+  /// NaN. The kernel estimate of a shorter list repeats all its values evenly instead.
   std::size_t positions = 0;
   /// The numbers of lists and bounds differed, so that the extents of the values were used.
   bool boundsIgnored = false;

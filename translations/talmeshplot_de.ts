@@ -310,6 +310,14 @@ p, li { white-space: pre-wrap; }
         <translation>%1, %2</translation>
     </message>
     <message>
+        <source>parameter value missing</source>
+        <translation>Parameterwert fehlt</translation>
+    </message>
+    <message>
+        <source>parameter values missing</source>
+        <translation>Parameterwerte fehlen</translation>
+    </message>
+    <message>
         <source>row</source>
         <translation>Zeile</translation>
     </message>

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 #include "SampleStudies.h"
@@ -50,6 +51,36 @@ TEST_F(StudyInAContainer, ShowsPlainColumnsThatAreTheSameInAllRuns)
             (QStringList{"Molecule: X", "Molecule: c", ": time", ": Run Index", "Parameter: k"}));
   EXPECT_EQ(settings().yColumns, std::vector<int>{0});
   EXPECT_EQ(settings().parameterColumns, std::vector<int>{4});
+}
+
+TEST(StudySize, SaysHowManyParameterValuesAreMissing)
+{
+  const std::string head = "run,time,X,k,m\n";
+  const std::string rest = "1,0,3,4,5\n1,1,4,4,5\n2,0,5,6,7\n2,1,6,6,7\n";
+  EXPECT_EQ(studySize(sampleStudy(head + "0,0,1,2,3\n0,1,2,2,3\n" + rest)),
+            "3 runs, 2 points each, 2 parameters");
+  EXPECT_EQ(studySize(sampleStudy(head + "0,0,1,,3\n0,1,2,,3\n" + rest)),
+            "3 runs, 2 points each, 2 parameters, 1 parameter value missing");
+  EXPECT_EQ(studySize(sampleStudy(head + "0,0,1,,\n0,1,2,,\n" + rest)),
+            "3 runs, 2 points each, 2 parameters, 2 parameter values missing");
+}
+
+TEST_F(StudyInAContainer, DrawsTheCurvesOfAParameterThatOneRunLacks)
+{
+  std::string text = "run,time,X,k,m\n0,0,1,,3\n0,1,2,,3\n";
+  for (int run = 1; run < 20; ++run)
+    for (int point = 0; point < 2; ++point)
+      text += std::to_string(run) + ',' + std::to_string(point) + ",1," + std::to_string(run % 7) +
+              ".5," + std::to_string(run) + '\n';
+  showStudy(sampleStudy(text), container);
+  container.setPlotStyle(selectionCdfPlot);
+  container.redraw();
+  for (vtkTable* table :
+       {container.getDerivedTables()[0].Get(), container.getDerivedTables()[1].Get()})
+    for (int column = 0; column < table->GetNumberOfColumns(); ++column)
+      for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
+        EXPECT_TRUE(std::isfinite(table->GetValue(row, column).ToDouble()))
+            << table->GetColumnName(column) << ", row " << row;
 }
 
 TEST_F(StudyInAContainer, ShowsEveryColumnOfASingleRun)

@@ -61,6 +61,15 @@ TEST_F(ColumnScaling, MultipliesEveryRunByItsFactor)
   EXPECT_TRUE(isDirty());
 }
 
+TEST_F(ColumnScaling, ScalesNothingWithoutFactors)
+{
+  setRuns({1, 2, 3, 4}, 2);
+  container.scaleColumn(nullptr, 1);
+  EXPECT_EQ(values(), (Values{1, 2, 3, 4}));
+  EXPECT_EQ(median(0), 2.0);
+  EXPECT_TRUE(isDirty());
+}
+
 TEST_F(ColumnScaling, LeavesAnIncompleteLastRun)
 {
   setRuns({1, 2, 3, 4, 8}, 2);

@@ -1,3 +1,4 @@
+#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
 #include "support/CapturedOutput.h"
@@ -6,6 +7,7 @@
 #include "support/PlotStyleCount.h"
 
 #include <vtkCommand.h>
+#include <vtkIntArray.h>
 
 #include <gtest/gtest.h>
 
@@ -155,6 +157,48 @@ TEST_F(ContainerCopy, HasATableOfItsOwnWithEqualValues)
   }
   own->SetValue(2, 1, 77.0);
   EXPECT_EQ(container.getTable()->GetValue(2, 1).ToDouble(), 9.0);
+}
+
+TEST_F(ContainerCopy, HasColumnsOfOneNameAndOfNoneInTheirPlaces)
+{
+  for (const int same : {0, 2})
+    container.getTable()->GetColumn(same)->SetName("same");
+  container.getTable()->GetColumn(1)->SetName(nullptr);
+  const auto copy = copied();
+  ASSERT_GE(copy->getTable()->GetNumberOfColumns(), 4);
+  for (int column = 0; column < 4; ++column)
+    EXPECT_EQ(copy->getTable()->GetValue(0, column), container.getTable()->GetValue(0, column));
+  EXPECT_STREQ(copy->getTable()->GetColumnName(2), "same");
+}
+
+TEST_F(ContainerCopy, LetsSettingsItemsAndWindowsFollowTheColumnsBehindOldFlags)
+{
+  auto& state = container.state();
+  vtkNew<vtkIntArray> flags;
+  flags->SetName("selected points");
+  for (const int flag : {0, 1, 0})
+    flags->InsertNextValue(flag);
+  const auto table = tableOf({{"a", {1, 2, 3}}});
+  table->AddColumn(flags);
+  table->AddColumn(Talmesh::plot::makeColumn("b", {4, 5, 6}));
+  table->AddColumn(Talmesh::plot::makeColumn("c", {7, 8, 9}));
+  container.setPlotData(table);
+  state.columnItems = {{Complex, "a"}, {Complex, "flags"}, {Complex, "b"}, {Complex, "c"}};
+  settings().xColumns = {2};
+  settings().yColumns = {3, 0};
+  settings().colorColumn = 2;
+  state.coordinateWindows[{2, 3, 0}] = {1, 2, 3, 4, true};
+  state.windowScales[{2, 3, 0}] = {true, false};
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2}));
+  const auto copy = copied();
+  EXPECT_EQ(copy->getLabels(), (QStringList{"a", "b", "c", "selected points"}));
+  EXPECT_EQ(copy->getMetaData()->xColumns, std::vector<int>{1});
+  EXPECT_EQ(copy->getMetaData()->yColumns, (std::vector<int>{2, 0}));
+  EXPECT_EQ(copy->getMetaData()->colorColumn, 1);
+  EXPECT_EQ(copy->getColumnItems()[1].second, "b");
+  ASSERT_EQ(copy->state().coordinateWindows.count({1, 2, 0}), 1U);
+  EXPECT_TRUE(copy->state().windowScales.at({1, 2, 0}).xLog);
+  EXPECT_EQ(settings().xColumns, std::vector<int>{2}) << "the original stays as it is";
 }
 
 TEST_F(ContainerCopy, OutlivesTheOriginalAndItsBorrowedValues)

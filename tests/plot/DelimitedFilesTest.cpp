@@ -185,6 +185,36 @@ TEST_F(DelimitedFiles, ComeBackAsTheyWereWritten)
   EXPECT_EQ(savedText(), text);
 }
 
+TEST_F(DelimitedFiles, BringBackQuotesAndBackslashesOfNamesAndTexts)
+{
+  const std::vector<std::string> names = {"k \"fast\"", "\"", "\"\"x", "a\\b\\", "c:\\new, \"\\\""};
+  NamedValues columns;
+  for (const std::string& name : names)
+    columns.emplace_back(name, std::vector<double>{1, 2});
+  const vtkSmartPointer<vtkTable> table = tableOf(columns);
+  vtkNew<vtkStringArray> words;
+  words->SetName("words");
+  words->InsertNextValue("say \"no\"");
+  words->InsertNextValue("\\n");
+  table->AddColumn(words);
+  container.setPlotData(table);
+  const std::string fileName = path("quotes.csv");
+  container.saveData(fileName, true);
+  EXPECT_EQ(table->GetColumnName(0), names[0]) << "the table itself stays as it is";
+  const std::string text = savedText();
+  EXPECT_EQ(text.rfind("\"k \"\"fast\"\"\",\"\"\"\",", 0), 0U) << "as all other readers expect it";
+
+  container.loadData(fileName);
+  ASSERT_EQ(container.getTable()->GetNumberOfColumns(), 6);
+  ASSERT_EQ(container.getTable()->GetNumberOfRows(), 2);
+  for (std::size_t i = 0; i < names.size(); ++i)
+    EXPECT_EQ(container.getTable()->GetColumnName(static_cast<vtkIdType>(i)), names[i]);
+  EXPECT_EQ(container.getTable()->GetValue(0, 5).ToString(), "say \"no\"");
+  EXPECT_EQ(container.getTable()->GetValue(1, 5).ToString(), "\\n");
+  EXPECT_EQ(doubles(4)->GetValue(1), 2.0);
+  EXPECT_EQ(savedText(), text);
+}
+
 TEST_F(DelimitedFiles, KeepSixDigits)
 {
   container.setPlotData(tableOf({{"a", {1.0 / 3.0, -1234567.0, 9.87654321e-20}}}));

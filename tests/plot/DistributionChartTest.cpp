@@ -236,6 +236,17 @@ TEST_F(DistributionChart, AMissingXYChartIsMadeAndShown)
   EXPECT_EQ(container.getItem(), chart());
 }
 
+TEST_F(DistributionChart, AnExceptionOfTheDistributionLeavesEverythingAsItWas)
+{
+  UniformDistribution uniform(0.0, 1.0);
+  container.setDistribution(&uniform);
+  vtkTable* before = table();
+  Curve curve(0.0, 1.0, [](double) -> double { throw std::runtime_error("no density"); });
+  EXPECT_THROW(container.setDistribution(&curve), std::runtime_error);
+  EXPECT_EQ(table(), before);
+  EXPECT_FALSE(container.getMetaData()->signalsBlocked());
+}
+
 TEST_F(DistributionChart, SettingsSpeakAgainAndNullIsIgnored)
 {
   container.getMetaData()->blockSignals(true);

@@ -169,6 +169,25 @@ TEST_F(MultiPlot, RefusesAShortParameterNameBeforeAnythingChanges)
   EXPECT_FALSE(container.getMetaData()->signalsBlocked());
 }
 
+TEST_F(MultiPlot, ThrowsNothingWhereDataAreShownThatItRefuses)
+{
+  draw(3);
+  container.getMetaData()->parameterColumns = {0, 1};
+  const std::string message = "void PlotContainer::redraw(): ";
+  {
+    const CapturedOutput errors(std::cerr);
+    EXPECT_NO_THROW(container.example());
+    EXPECT_EQ(errors.text().rfind(message, 0), 0U) << errors.text();
+  }
+  EXPECT_EQ(container.getMetaData()->title, "Example Plot");
+  EXPECT_FALSE(container.getMetaData()->signalsBlocked());
+  const CapturedOutput errors(std::cerr);
+  EXPECT_NO_THROW(container.setPlotCols("x", "z", 0, false));
+  EXPECT_EQ(errors.text().rfind(message, 0), 0U) << errors.text();
+  EXPECT_EQ(container.getMetaData()->yColumns.front(), 2);
+  EXPECT_FALSE(container.getMetaData()->signalsBlocked());
+}
+
 TEST_F(MultiPlot, GivesEveryPointPlotTheSettingsMarkerSize)
 {
   draw(4);

@@ -68,7 +68,7 @@ TEST_F(RankedTables, OfOtherDataTakeEveryRowWithoutDuplicates)
                            "expected 3\n");
 }
 
-TEST_F(RankedTables, OfOtherDataKeepTheirLengthWhenARunLacksAParameter)
+TEST_F(RankedTables, OfOtherDataTakeTheNumbersOnlyWhenARunLacksAParameter)
 {
   CapturedOutput output(std::cout);
   const double missing = std::numeric_limits<double>::quiet_NaN();
@@ -79,11 +79,22 @@ TEST_F(RankedTables, OfOtherDataKeepTheirLengthWhenARunLacksAParameter)
       3);
   EXPECT_EQ(values(3, "Sorted Parameter: k2"), (Values{10, 20, 30}));
   EXPECT_EQ(values(3, "Rank of Parameter: k2"), (Values{1.0 / 3.0, 2.0 / 3.0, 1.0}));
-  const Values incomplete = values(3, "Sorted Parameter: k1");
-  ASSERT_EQ(incomplete.size(), 3U);
-  EXPECT_EQ(incomplete[1], 4.0);
-  EXPECT_TRUE(std::isnan(incomplete[2]));
-  EXPECT_EQ(output.text(), "");
+  EXPECT_EQ(values(3, "Sorted Parameter: k1"), (Values{2, 4, 4}));
+  EXPECT_EQ(output.text(), "Huston we have a problem. Encountered a parameter list with size 2, "
+                           "expected 3\n");
+}
+
+TEST_F(RankedTables, OfTheOwnRunsTakeTheNumbersOnlyWhenARunLacksAParameter)
+{
+  CapturedOutput output(std::cout);
+  container.getTable()->SetValueByName(0, "Parameter: k2",
+                                       std::numeric_limits<double>::quiet_NaN());
+  rank();
+  EXPECT_EQ(values(0, "Sorted Parameter: k2"), (Values{20, 30, 30}));
+  const Values densities = values(1, "Density of Parameter: k2");
+  EXPECT_EQ(std::count(densities.begin(), densities.end(), 1.0), 2);
+  EXPECT_EQ(output.text(), "Huston we have a problem. Encountered a parameter list with size 2, "
+                           "expected 3\n");
 }
 
 TEST_F(RankedTables, GrowTheListWithoutTouchingItsEntries)

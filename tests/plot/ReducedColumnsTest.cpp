@@ -163,6 +163,34 @@ TEST_F(ReducedColumns, ForgetOldFlagsThatNobodyUses)
             (std::vector<double>{1, 0, 0}));
 }
 
+TEST_F(ReducedColumns, AreFoundByTheirPlaceAmongColumnsOfOneNameOrNone)
+{
+  vtkTable* table = container.getTable();
+  for (const int same : {2, 3, 4})
+    table->GetColumn(same)->SetName("same");
+  for (const int nameless : {5, 6})
+    table->GetColumn(nameless)->SetName(nullptr);
+  container.shrinkToColumnSelection();
+  ASSERT_EQ(table->GetNumberOfColumns(), 6);
+  for (const auto& [place, value] :
+       std::vector<std::pair<int, double>>{{0, 2}, {1, 3}, {2, 5}, {3, 7}, {4, 8}})
+    EXPECT_EQ(table->GetValue(0, place).ToDouble(), value);
+  EXPECT_EQ(itemNames(), (std::vector<std::string>{"2", "3", "5", "7", "8"}));
+}
+
+TEST_F(ReducedColumns, LoseAllOlderColumnsOfFlags)
+{
+  keepOldFlags(4);
+  container.getTable()->GetColumn(3)->SetName("selected points");
+  select({2});
+  container.shrinkToColumnSelection();
+  EXPECT_EQ(labels(),
+            (QStringList{"column 2", "column 5", "column 7", "column 8", "selected points"}));
+  EXPECT_EQ(settings().parameterColumns, Columns({4, 2}));
+  EXPECT_EQ(SampleRuns::valuesOf(container.getTable(), "selected points"),
+            (std::vector<double>{0, 0, 1}));
+}
+
 TEST_F(ReducedColumns, KeepTheItemsInTheOrderOfTheColumns)
 {
   container.setLinePlotTable(parameterStudy(4, 3, 5), false);

@@ -1,6 +1,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "support/PlotStyleCount.h"
 #include "support/VtkErrors.h"
 
 #include <vtkAxis.h>
@@ -53,6 +54,19 @@ TEST_F(ResidualChart, TimeCoursesArePlottedOverTime)
   EXPECT_EQ(plotAt(1), (Plot{"points", "Time", "Observation M 0"}));
   EXPECT_EQ(plotAt(2), (Plot{"line", "Time", "Prediction P 1"}));
   EXPECT_EQ(plotAt(3), (Plot{"points", "Time", "Observation P 1"}));
+}
+
+TEST_F(ResidualChart, AxisTitlesSetBeforeStayWhateverChartWasShown)
+{
+  for (int style = 0; style < plotStyleCount; ++style)
+  {
+    container.setPlotStyle(static_cast<plotStyles>(style));
+    container.setXLabel("Time [h]");
+    container.setYLabel("Residual");
+    show(course, false, false);
+    EXPECT_EQ(chart()->GetAxis(vtkAxis::BOTTOM)->GetTitle(), "Time [h]") << "style " << style;
+    EXPECT_EQ(chart()->GetAxis(vtkAxis::LEFT)->GetTitle(), "Residual") << "style " << style;
+  }
 }
 
 TEST_F(ResidualChart, AllSeriesAreRed)

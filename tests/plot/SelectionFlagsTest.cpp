@@ -1,5 +1,6 @@
 #include "plot/SelectionFlags.h"
 
+#include "plot/ColumnReduction.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
@@ -296,7 +297,7 @@ TEST(FlagColumn, GoesBackAndForthUnchanged)
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1, 4, 5}));
   const Flags flags = currentFlags(plot.container);
   const auto column = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
-  Talmesh::plot::replaceFlagColumn(plot.container.getTable(), column);
+  Talmesh::plot::appendFlagColumn(plot.container.state(), column);
   plot.container.getAnnotationLink()->SetCurrentSelection(nullptr);
   plot.container.selectionFromFlagColumn();
   EXPECT_EQ(currentFlags(plot.container), flags);
@@ -309,7 +310,7 @@ TEST(FlagColumn, IsPutLastInPlaceOfAnOlderOne)
   vtkTable* table = plot.container.getTable();
   const vtkIdType columns = table->GetNumberOfColumns();
   const auto flags = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
-  Talmesh::plot::replaceFlagColumn(table, flags);
+  Talmesh::plot::appendFlagColumn(plot.container.state(), flags);
   EXPECT_EQ(table->GetNumberOfColumns(), columns);
   EXPECT_STREQ(table->GetColumn(columns - 2)->GetName(), "behind");
   EXPECT_EQ(table->GetColumn(columns - 1), flags);
