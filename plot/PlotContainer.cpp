@@ -51,6 +51,7 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.horizontalGutter = from.horizontalGutter;
   to.verticalGutter = from.verticalGutter;
   to.useIndexForXSeries = from.useIndexForXSeries;
+  to.keepsScatterPair = from.keepsScatterPair;
 }
 
 } // namespace
@@ -94,7 +95,7 @@ PlotContainer::~PlotContainer()
     d->chartXY->RemoveObserver(d->shiftScaleCallback);
   // A container can die inside a mouse handler of its own charts.
   if (d->currentChart)
-    Talmesh::plot::keepUntilEventLoop(d->currentChart);
+    Talmesh::plot::setAside(*d, d->currentChart);
   delete d->metaData;
 }
 
@@ -235,4 +236,9 @@ void PlotContainer::setUseIndexForXSeries(bool use)
 {
   d->useIndexForXSeries = use;
   dirty();
+}
+
+void PlotContainer::setKeepsScatterPair(bool keep)
+{
+  d->keepsScatterPair = keep;
 }

@@ -21,12 +21,24 @@ class vtkTable;
 /// its first corner only and toggles wrongly with several plots.
 ///
 /// A chart without a link takes no selection, and other selection methods than by rows are VTK's.
+///
+/// Every plot shows those of the link's rows that its own table has, also while the container has
+/// another table that is not drawn yet. VTK's chart hands the ids of the first list on unchecked,
+/// whatever they stand for. While a handler runs or the chart paints, a HandlerScope is open.
 class vtkSelectableChartXY : public vtkChartXY
 {
 public:
   static vtkSelectableChartXY* New();
   TALMESH_VTK_TYPE(vtkSelectableChartXY, vtkChartXY);
 
+  void Update() override;
+  bool Paint(vtkContext2D* painter) override;
+  bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseLeaveEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseDoubleClickEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseWheelEvent(const vtkContextMouseEvent& mouse, int delta) override;
+  bool KeyPressEvent(const vtkContextKeyEvent& key) override;
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
   /// Does nothing once the chart has lost its place in the scene since the button was pressed.
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
