@@ -43,6 +43,8 @@ void redraw(PlotState& state)
     return;
   }
   dropOutdatedRanks(state);
+  if (!showsXYChart(state.metaData->getPlotStyle()))
+    forgetChartLooks(state);
   const unsigned long before = state.drawings;
   builderOf(state.metaData->getPlotStyle())(state, scene);
   // A drawing that ran inside this one has dressed the chart that is now shown.

@@ -21,12 +21,19 @@ class vtkTable;
 /// its first corner only and toggles wrongly with several plots.
 ///
 /// A chart without a link takes no selection, and other selection methods than by rows are VTK's.
+///
+/// Its axes are vtkGuardedAxis. Those that are to be logarithmic are so exactly when the data allow
+/// it, which is settled whenever plots have changed.
 class vtkSelectableChartXY : public vtkChartXY
 {
 public:
   static vtkSelectableChartXY* New();
   TALMESH_VTK_TYPE(vtkSelectableChartXY, vtkChartXY);
 
+  void Update() override;
+  using vtkChartXY::AddPlot;
+  /// A line is a vtkPlotSafeLine.
+  vtkPlot* AddPlot(int type, unsigned int blockIndex) override;
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
   /// Does nothing once the chart has lost its place in the scene since the button was pressed.
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
@@ -37,7 +44,7 @@ public:
   static vtkSelectableChartXY* PlaceIn(vtkChartMatrix* matrix, const vtkVector2i& position);
 
 protected:
-  vtkSelectableChartXY() = default;
+  vtkSelectableChartXY();
   ~vtkSelectableChartXY() override = default;
 
 private:
