@@ -248,6 +248,18 @@ TEST_F(ChartLooks, EndWithAStyleThatHasNoXYChart)
   }
 }
 
+TEST_F(ChartLooks, PaintDecaysToNothingOnThePagesOfRuns)
+{
+  Talmesh::plot::doubleColumn(container.getTable(), 3)->SetValue(3, 1e-306);
+  container.getTable()->GetColumn(3)->Modified();
+  for (const plotStyles style : {multiPlot, selectionCdfPlot})
+  {
+    drawStyle(style);
+    expectLooks(true, true);
+    EXPECT_LE(left()->GetMinimum(), -306.0);
+  }
+}
+
 TEST_F(ChartLooks, KeepAWindowOnALogarithmicAxisOfAPage)
 {
   drawStyle(selectionCdfPlot);
