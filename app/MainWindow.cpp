@@ -125,7 +125,20 @@ bool MainWindow::applyDock()
   plot->updatePlot(true);
   if (!error.empty())
     say(QString::fromStdString(error));
-  return error.empty();
+  return error.empty() && !sayWhatIsLinear();
+}
+
+/// @return whether an axis that is to be logarithmic is not
+bool MainWindow::sayWhatIsLinear()
+{
+  const PlotChoice choice = choiceOf(*container);
+  if (!hasLegend(choice.style))
+    return false;
+  const bool linear = (choice.logX && !container->showsLogScaleX()) ||
+                      (choice.logY && !container->showsLogScaleY());
+  if (linear)
+    say(tr("Linear scale: a logarithmic one needs positive values"));
+  return linear;
 }
 
 /// A changed selection has drawn the chart anew, without what the viewer adds to it.

@@ -125,6 +125,7 @@ private:
   void drawOwnChart();
   bool applyWishes();
   bool applyDock();
+  bool sayWhatIsLinear();
   void applyComparison();
   void chooseStyle(plotStyles style);
   void sayHowLongItTook(bool drawn);

@@ -81,6 +81,16 @@ std::vector<int> columnsOfRole(vtkTable* table, const std::string& name)
 
 } // namespace
 
+bool hasLegend(plotStyles style)
+{
+  return hasLogarithmicY(style) || style == scatterWithErrorBars;
+}
+
+bool hasLogarithmicY(plotStyles style)
+{
+  return style == xyPlot || style == multiPlot || style == selectionCdfPlot;
+}
+
 PlotChoice choiceOf(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
@@ -114,11 +124,11 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
     return withValues(translated("PlotChoice", "cannot draw this: %1"), {failure.what()});
   }
   dressChart(container);
-  if (choice.style != xyPlot)
-    return {};
   addFurtherSeries(container);
-  container.setLogScaleY(choice.logY);
-  container.setShowLegend(choice.legend);
+  if (hasLogarithmicY(choice.style))
+    container.setLogScaleY(choice.logY);
+  if (hasLegend(choice.style))
+    container.setShowLegend(choice.legend);
   return {};
 }
 

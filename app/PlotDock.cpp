@@ -149,19 +149,26 @@ void PlotDock::setChoice(const PlotChoice& choice)
   const QSignalBlocker silentX(x);
   const QSignalBlocker silentZ(z);
   const QSignalBlocker silentLines(lines);
-  const QSignalBlocker silentLegend(legend);
   const QSignalBlocker silentLogX(logX);
-  const QSignalBlocker silentLogY(logY);
   style->setCurrentIndex(style->findData(static_cast<int>(choice.style)));
   unofferedStyle = choice.style;
   x->setCurrentIndex(choice.x);
   z->setCurrentIndex(choice.z);
   tickColumns(choice.y);
   lines->setChecked(choice.lines);
-  legend->setChecked(choice.legend);
   logX->setChecked(choice.logX);
-  logY->setChecked(choice.logY);
+  wishedLegend = choice.legend;
+  wishedLogY = choice.logY;
   enableControls();
+}
+
+/// Disabled switches show what the style does and not what the user wants.
+void PlotDock::readWishes()
+{
+  if (legend->isEnabled())
+    wishedLegend = legend->isChecked();
+  if (logY->isEnabled())
+    wishedLogY = logY->isChecked();
 }
 
 PlotChoice PlotDock::choice() const
@@ -175,14 +182,15 @@ PlotChoice PlotDock::choice() const
   if (choice.y.empty())
     choice.y = lastTicked;
   choice.lines = lines->isChecked();
-  choice.legend = legend->isChecked();
+  choice.legend = wishedLegend;
   choice.logX = logX->isChecked();
-  choice.logY = logY->isChecked();
+  choice.logY = wishedLogY;
   return choice;
 }
 
 void PlotDock::emitChoice()
 {
+  readWishes();
   lastTicked = choice().y;
   enableControls();
   emit choiceChanged();
@@ -190,14 +198,20 @@ void PlotDock::emitChoice()
 
 void PlotDock::enableControls()
 {
+  const auto offer = [](QCheckBox* box, bool offered, bool wished)
+  {
+    const QSignalBlocker silent(box);
+    box->setEnabled(offered);
+    box->setChecked(offered && wished);
+  };
   const plotStyles chosen = choice().style;
   const bool xy = chosen == xyPlot;
   lines->setEnabled(xy || chosen == selectionCdfPlot);
-  legend->setEnabled(xy);
+  offer(legend, hasLegend(chosen), wishedLegend);
   // The pages of runs draw their time courses with it too.
   logX->setEnabled(xy || chosen == multiPlot || chosen == selectionCdfPlot ||
                    chosen == scatterWithErrorBars);
-  logY->setEnabled(xy);
+  offer(logY, hasLogarithmicY(chosen), wishedLogY);
   z->setEnabled(chosen == xyzPlot || chosen == scatterWithErrorBars);
   x->setEnabled(chosen != parallelCoordinates);
 }

@@ -27,8 +27,9 @@ public:
   QStringList columns() const;
   /// Shows a choice. Emits nothing.
   void setChoice(const PlotChoice& choice);
-  /// What the controls say. The y columns stand in the order in which they were chosen, each once;
-  /// without a ticked column the one ticked last stays.
+  /// What the controls say. Legend and logarithmic y axis are those that the user wishes for the
+  /// styles that have them; their switches are off in the others. The y columns stand in the order
+  /// in which they were chosen, each once; without a ticked column the one ticked last stays.
   PlotChoice choice() const;
 
 signals:
@@ -40,6 +41,7 @@ private:
   void tickColumns(const std::vector<int>& columns);
   std::vector<int> tickedColumns() const;
   void emitChoice();
+  void readWishes();
   void enableControls();
 
   QComboBox* style;
@@ -51,6 +53,8 @@ private:
   QCheckBox* logX;
   QCheckBox* logY;
   std::vector<int> lastTicked{1};
+  bool wishedLegend = false;
+  bool wishedLogY = false;
   /// A style that is shown but not offered.
   plotStyles unofferedStyle = xyPlot;
 };

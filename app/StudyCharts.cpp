@@ -122,15 +122,6 @@ void padValueAxis(vtkChartXY* chart, vtkTable* table)
   padAxis(chart->GetAxis(vtkAxis::LEFT), low, high);
 }
 
-/// An axis that still reaches down to zero becomes logarithmic only while it is painted, and the
-/// first picture has the points where they are on a linear one.
-void showPositiveRange(vtkChartXY* chart, vtkTable* table)
-{
-  double range[2];
-  if (plot::finiteRange(plot::plottableColumn(table, 1), range))
-    chart->GetAxis(vtkAxis::LEFT)->SetUnscaledRange(range[0], range[1]);
-}
-
 /// The container marks the points of the first series only.
 void markEverySeries(vtkChartXY* chart)
 {
@@ -169,7 +160,6 @@ void drawIndomethacinCourse(PlotContainer& container, bool logarithmic)
   settings.color = {31, 84, 150, 255};
   storeStyle(container, xyPlot);
   container.redraw();
-  showPositiveRange(container.getChartXY(), container.getTable());
   container.setLogScaleY(logarithmic);
   padTimeAxis(container.getChartXY());
 }

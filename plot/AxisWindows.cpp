@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "vtk/LogScales.h"
 
 #include <vtkAxis.h>
 
@@ -44,7 +45,7 @@ bool wouldBeLogarithmic(const PlotState& state, int column, bool logarithmic)
 {
   double range[2];
   return logarithmic && finiteRange(plottableColumn(state.table, column), range) &&
-         range[0] * range[1] > 0.0;
+         hasLogarithms(range);
 }
 
 bool isAmong(const std::vector<int>& columns, int column)

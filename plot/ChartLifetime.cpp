@@ -1,5 +1,6 @@
 #include "plot/ChartLifetime.h"
 
+#include "plot/AxisScales.h"
 #include "plot/HandlerScope.h"
 #include "plot/PlotState.h"
 #include "plot/vtkSelectableChartXY.h"
@@ -36,6 +37,7 @@ void ensureStandaloneChart(PlotState& state)
     return;
   releaseChartXY(state);
   state.chartXY = makeXYChart(state);
+  applyChartLooks(state);
 }
 
 void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene)
@@ -129,6 +131,7 @@ void adoptCell(PlotState& state, int column, int row)
 {
   releaseChartXY(state);
   state.chartXY = vtkChartXY::SafeDownCast(state.chartMatrix->GetChart(vtkVector2i(column, row)));
+  applyChartLooks(state);
 }
 
 void setAside(PlotState& state, vtkSmartPointer<vtkObjectBase> object)

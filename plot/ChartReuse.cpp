@@ -1,5 +1,6 @@
 #include "plot/ChartReuse.h"
 
+#include "plot/AxisScales.h"
 #include "plot/ChartLifetime.h"
 #include "plot/PlotState.h"
 
@@ -35,6 +36,8 @@ vtkChartXY* reuseChartXY(PlotState& state, vtkContextScene* scene)
   state.chartXY->SetInteractive(true);
   restoreAxis(state.chartXY->GetAxis(vtkAxis::BOTTOM));
   restoreAxis(state.chartXY->GetAxis(vtkAxis::LEFT));
+  // Densities and residuals reach zero, and error bars are lengths on a linear axis.
+  forgetLogScaleY(state);
   return state.chartXY;
 }
 

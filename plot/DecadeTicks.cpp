@@ -1,14 +1,13 @@
 #include "plot/DecadeTicks.h"
 
+#include "vtk/LogScales.h"
+
 #include <vtkAxis.h>
 #include <vtkChart.h>
 #include <vtkDoubleArray.h>
-#include <vtkPlot.h>
 #include <vtkStringArray.h>
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string>
 
 namespace Talmesh::plot
@@ -28,33 +27,13 @@ std::string powerOfTen(int exponent)
   return "1" + std::string(static_cast<std::size_t>(exponent), '0');
 }
 
-/// @return whether the plots show anything finite along the axis
-bool shownRange(vtkChart* chart, int position, double range[2])
-{
-  range[0] = std::numeric_limits<double>::infinity();
-  range[1] = -range[0];
-  const int offset = position == vtkAxis::BOTTOM ? 0 : 2;
-  for (vtkIdType i = 0; i < chart->GetNumberOfPlots(); ++i)
-  {
-    vtkPlot* plot = chart->GetPlot(i);
-    if (!plot->GetInput())
-      continue;
-    plot->Update();
-    double bounds[4];
-    plot->GetUnscaledInputBounds(bounds);
-    range[0] = std::min(range[0], bounds[offset]);
-    range[1] = std::max(range[1], bounds[offset + 1]);
-  }
-  return std::isfinite(range[0]) && std::isfinite(range[1]) && range[0] <= range[1];
-}
-
 } // namespace
 
 void useDecadeTicks(vtkChart* chart, int position)
 {
   vtkAxis* axis = chart->GetAxis(position);
   double range[2];
-  if (!axis->GetLogScale() || !shownRange(chart, position, range) || range[0] <= 0.0)
+  if (!axis->GetLogScale() || !shownRange(chart, axis, range) || range[0] <= 0.0)
     return;
   const int first = static_cast<int>(std::floor(std::log10(range[0])));
   const int last = static_cast<int>(std::ceil(std::log10(range[1])));

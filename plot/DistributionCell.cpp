@@ -8,10 +8,10 @@
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
+#include "vtk/vtkPlotSafeLine.h"
 #include "vtk/vtkPlotStepLine.h"
 
 #include <vtkAxis.h>
-#include <vtkPlotLine.h>
 
 #include <algorithm>
 #include <array>
@@ -42,7 +42,7 @@ vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t ranks,
   const std::string y = (density ? densityPrefix : rankPrefix) + label;
   vtkSmartPointer<vtkPlot> plot;
   if (density)
-    plot = vtkSmartPointer<vtkPlotLine>::New();
+    plot = vtkSmartPointer<vtkPlotSafeLine>::New();
   else
     plot = vtkSmartPointer<vtkPlotStepLine>::New();
   feedPlot(plot, table, columnIndex(table, x), columnIndex(table, y));

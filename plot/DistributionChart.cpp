@@ -14,7 +14,9 @@
 #include <vtkAxis.h>
 #include <vtkPlot.h>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 namespace Talmesh::plot
@@ -57,7 +59,7 @@ std::string scientific(double value)
 void dressAxes(vtkChartXY* chart, const DensityCurve& curve)
 {
   vtkAxis* left = chart->GetAxis(vtkAxis::LEFT);
-  fixRange(left, 0.0, headroom * curve.maximum);
+  fixRange(left, 0.0, std::min(headroom * curve.maximum, std::numeric_limits<double>::max()));
   left->SetTicksVisible(false);
   left->SetLabelsVisible(false);
   left->SetTitle("");
@@ -104,8 +106,7 @@ RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve)
   vtkChartXY* chart = reuseChartXY(state, currentScene(state));
   vtkPlot* area = chart->AddPlot(vtkChart::STACKED);
   // VTK sorts the points by x and does not finish painting an infinite axis.
-  double drawn[2];
-  if (finiteRange(plottableColumn(state.table, 0), drawn))
+  if (isBounded(plottableColumn(state.table, 0)))
     feedPlot(area, state.table, 0, 1);
   area->SetColor(30, 30, 230, 255);
   dressAxes(chart, curve);

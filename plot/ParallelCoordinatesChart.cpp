@@ -28,8 +28,7 @@ constexpr double redHue = 0.0;
 
 void showColumn(PlotState& state, int column)
 {
-  double range[2];
-  if (finiteRange(plottableColumn(state.table, column), range))
+  if (isBounded(plottableColumn(state.table, column)))
     state.parallelCoordinates->SetColumnVisibility(columnName(state.table, column), true);
 }
 

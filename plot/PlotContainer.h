@@ -166,6 +166,10 @@ public:
   void setXTickPosition(const std::vector<double>& positions);
   /// Makes the bottom axis logarithmic exactly when the settings say so.
   void LogScaleX();
+  /// Whether the picture has that axis logarithmic: it is asked for, and nothing plotted along it
+  /// is 0 or below. Otherwise it is linear.
+  bool showsLogScaleX() const;
+  bool showsLogScaleY() const;
   /// Adds the decoration lines to the XY chart; `scene` is ignored.
   void drawDecorations(vtkContextScene* scene);
   /// Margins and gutters are in pixels; setting one calls updateMargins().
@@ -294,9 +298,12 @@ public slots:
   void setLinePlotItems(std::vector<Talmesh::TypedConcentrationName>*);
   /// Hands the style to the settings, whose announcement draws.
   void setPlotStyle(plotStyles plotStyle);
-  /// Logarithmic left axis of the XY chart, which the settings do not keep.
+  /// Logarithmic left axis of the XY chart, which the settings do not keep. Styles with an XY chart
+  /// keep it through redraws; error bars, distributions, residuals and styles without an XY chart
+  /// end it. Data with values of 0 or below are drawn on a linear axis all the same.
   void setLogScaleY(bool log);
-  /// Legend of the XY chart, which the settings do not keep.
+  /// Legend of the XY chart, which the settings do not keep. Styles with an XY chart keep it
+  /// through redraws, the others end it.
   void setShowLegend(bool legend);
   /// Builds the chart of the current style. Started by the settings' signal it reports an exception
   /// in one line on standard error; called directly it throws what the style's builder throws.

@@ -8,6 +8,8 @@
 #include "plot/TickLabels.h"
 #include "plot/Titles.h"
 
+#include <vtkAxis.h>
+
 void PlotContainer::setColor(int r, int g, int b, int a)
 {
   d->metaData->color = {r, g, b, a};
@@ -72,6 +74,16 @@ void PlotContainer::setLogScaleY(bool log)
 void PlotContainer::LogScaleX()
 {
   Talmesh::plot::applyLogScaleX(*d);
+}
+
+bool PlotContainer::showsLogScaleX() const
+{
+  return Talmesh::plot::showsLogScale(*d, vtkAxis::BOTTOM);
+}
+
+bool PlotContainer::showsLogScaleY() const
+{
+  return Talmesh::plot::showsLogScale(*d, vtkAxis::LEFT);
 }
 
 void PlotContainer::setShowLegend(bool legend)

@@ -4,6 +4,7 @@
 #include "external/CoordinateWindow.h"
 #include "external/ReducedMetaData.h"
 #include "external/TypedConcentrationName.h"
+#include "plot/AxisScales.h"
 #include "plot/AxisWindows.h"
 #include "plot/KsStatistics.h"
 #include "plot/MatrixSelection.h"
@@ -75,6 +76,8 @@ struct PlotState
   vtkSmartPointer<vtkScalarsToColors> pointColors;
   /// The settings, never null while the container lives, which owns them.
   PlotMetaData* metaData = nullptr;
+  /// What the next XY chart takes over from the one before it.
+  ChartLooks looks;
   /// The axis window that the user last gave each configuration of columns and style.
   CoordinateWindows coordinateWindows;
   /// Null while the scatter-plot matrix or the 3-D chart is shown; a cell of `chartMatrix` while

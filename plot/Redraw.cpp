@@ -60,6 +60,8 @@ void redraw(PlotState& state)
     return;
   }
   dropOutdatedRanks(state);
+  if (!showsXYChart(state.metaData->getPlotStyle()))
+    forgetChartLooks(state);
   builderOf(state.metaData->getPlotStyle())(state, scene);
   dress(state);
   ++state.drawings;

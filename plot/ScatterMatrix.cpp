@@ -45,9 +45,8 @@ void showColumns(PlotState& state, const std::vector<int>& columns)
   vtkNew<vtkStringArray> names;
   for (const int column : columns)
   {
-    double range[2];
     const std::string name = columnName(state.table, column);
-    if (finiteRange(plottableColumn(state.table, column), range) && names->LookupValue(name) < 0)
+    if (isBounded(plottableColumn(state.table, column)) && names->LookupValue(name) < 0)
       names->InsertNextValue(name);
   }
   showColumns(state.scatterPlotMatrix, names);

@@ -20,29 +20,45 @@ struct StyleEntry
 {
   plotStyles style;
   StyleBuilder builder;
+  bool hasXYChart;
 };
 
 constexpr StyleEntry styleTable[] = {
-    {xyPlot, drawXYChart},
-    {scatterPlotMatrix, drawScatterMatrix},
-    {xyzPlot, drawPointChart3D},
-    {multiPlot, drawMultiPlotPage},
-    {selectionCdfPlot, drawSelectionPage},
-    {scatterWithErrorBars, drawErrorBarChart},
-    {fitParameterDistribution, drawFitParameterPage},
-    {parallelCoordinates, drawParallelCoordinates},
+    {xyPlot, drawXYChart, true},
+    {scatterPlotMatrix, drawScatterMatrix, false},
+    {xyzPlot, drawPointChart3D, false},
+    {multiPlot, drawMultiPlotPage, true},
+    {selectionCdfPlot, drawSelectionPage, true},
+    {scatterWithErrorBars, drawErrorBarChart, true},
+    {fitParameterDistribution, drawFitParameterPage, false},
+    {parallelCoordinates, drawParallelCoordinates, false},
 };
+
+/// The other styles show a title on the XY chart.
+constexpr StyleBuilder otherBuilder = drawReservedStyle;
+
+const StyleEntry* entryOf(plotStyles style)
+{
+  for (const StyleEntry& entry : styleTable)
+  {
+    if (entry.style == style)
+      return &entry;
+  }
+  return nullptr;
+}
 
 } // namespace
 
 StyleBuilder builderOf(plotStyles style)
 {
-  for (const StyleEntry& entry : styleTable)
-  {
-    if (entry.style == style)
-      return entry.builder;
-  }
-  return drawReservedStyle;
+  const StyleEntry* entry = entryOf(style);
+  return entry ? entry->builder : otherBuilder;
+}
+
+bool showsXYChart(plotStyles style)
+{
+  const StyleEntry* entry = entryOf(style);
+  return !entry || entry->hasXYChart;
 }
 
 } // namespace Talmesh::plot

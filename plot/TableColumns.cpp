@@ -98,8 +98,17 @@ bool finiteRange(vtkDataArray* column, double range[2])
 {
   if (!column || column->GetNumberOfTuples() == 0)
     return false;
-  column->GetRange(range);
+  column->GetFiniteRange(range, 0);
   return std::isfinite(range[0]) && std::isfinite(range[1]) && range[0] <= range[1];
+}
+
+bool isBounded(vtkDataArray* column)
+{
+  double range[2];
+  if (!finiteRange(column, range))
+    return false;
+  column->GetRange(range, 0);
+  return std::isfinite(range[0]) && std::isfinite(range[1]);
 }
 
 } // namespace Talmesh::plot

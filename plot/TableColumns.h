@@ -50,8 +50,12 @@ int firstOf(const std::vector<int>& columns);
 void setFirst(std::vector<int>& columns, int value);
 
 /// Range of the finite part of component 0.
-/// @return false when the range is not finite or there is no value; `range` is then unspecified
+/// @return false when there is no finite value; `range` is then unspecified
 bool finiteRange(vtkDataArray* column, double range[2]);
+
+/// Whether component 0 holds a finite value and no infinity. NaN does no harm. For charts that
+/// compute the range of an axis from the column by themselves and would not finish an infinite one.
+bool isBounded(vtkDataArray* column);
 
 } // namespace Talmesh::plot
 

@@ -47,7 +47,9 @@ void addBand(PlotState& state, const Band& band)
   vtkNew<vtkPen> selectionPen;
   selectionPen->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
   plot->SetSelectionPen(selectionPen);
-  feedPlot(plot, state.quartileTable, time, value);
+  // One point in time spans no band, and VTK reports one as an error.
+  if (state.quartileTable->GetNumberOfRows() > 1)
+    feedPlot(plot, state.quartileTable, time, value);
   makeUnselectable(plot);
   state.chartXY->AddPlot(plot);
 }

@@ -3,8 +3,12 @@
 #include "plot/HandlerScope.h"
 #include "plot/PlottedRows.h"
 #include "plot/SelectionModes.h"
+#include "vtk/LogScales.h"
+#include "vtk/vtkGuardedAxis.h"
+#include "vtk/vtkPlotSafeLine.h"
 
 #include <vtkAnnotationLink.h>
+#include <vtkChartLegend.h>
 #include <vtkChartMatrix.h>
 #include <vtkCommand.h>
 #include <vtkContextMouseEvent.h>
@@ -13,8 +17,10 @@
 #include <vtkIdTypeArray.h>
 #include <vtkMatrix3x3.h>
 #include <vtkObjectFactory.h>
+#include <vtkPen.h>
 #include <vtkPlot.h>
 #include <vtkTable.h>
+#include <vtkTooltipItem.h>
 #include <vtkTransform2D.h>
 #include <vtkVectorOperators.h>
 
@@ -53,6 +59,45 @@ vtkVector2f reachIn(vtkContextTransform* corner)
 }
 
 } // namespace
+
+vtkSelectableChartXY::vtkSelectableChartXY()
+{
+  for (int position = 0; position < static_cast<int>(GetNumberOfAxes()); ++position)
+  {
+    vtkAxis* replaced = GetAxis(position);
+    vtkGuardedAxis* axis = vtkGuardedAxis::New();
+    axis->SetTitle(replaced->GetTitle());
+    SetAxis(position, axis);
+    // The chart owned it, and now owns the other one.
+    replaced->Delete();
+  }
+  // In front of the axes again.
+  const vtkSmartPointer<vtkAbstractContextItem> front[] = {Legend, Tooltip};
+  for (const auto& item : front)
+  {
+    RemoveItem(item);
+    AddItem(item);
+  }
+}
+
+vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
+{
+  vtkPlot* plot = Superclass::AddPlot(type, blockIndex);
+  if (type != LINE)
+    return plot;
+  vtkNew<vtkPlotSafeLine> line;
+  line->GetPen()->DeepCopy(plot->GetPen());
+  RemovePlot(GetNumberOfPlots() - 1);
+  AddPlot(line, blockIndex);
+  return line;
+}
+
+void vtkSelectableChartXY::Update()
+{
+  if (!PlotTransformValid)
+    Talmesh::settleLogScales(this);
+  Superclass::Update();
+}
 
 void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
 {

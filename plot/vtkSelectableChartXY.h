@@ -25,6 +25,9 @@ class vtkTable;
 /// Every plot shows those of the link's rows that its own table has, also while the container has
 /// another table that is not drawn yet. VTK's chart hands the ids of the first list on unchecked,
 /// whatever they stand for. While a handler runs or the chart paints, a HandlerScope is open.
+///
+/// Its axes are vtkGuardedAxis. Those that are to be logarithmic are so exactly when the data allow
+/// it, which is settled whenever plots have changed.
 class vtkSelectableChartXY : public vtkChartXY
 {
 public:
@@ -32,6 +35,9 @@ public:
   TALMESH_VTK_TYPE(vtkSelectableChartXY, vtkChartXY);
 
   void Update() override;
+  using vtkChartXY::AddPlot;
+  /// A line is a vtkPlotSafeLine.
+  vtkPlot* AddPlot(int type, unsigned int blockIndex) override;
   bool Paint(vtkContext2D* painter) override;
   bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
@@ -49,7 +55,7 @@ public:
   static vtkSelectableChartXY* PlaceIn(vtkChartMatrix* matrix, const vtkVector2i& position);
 
 protected:
-  vtkSelectableChartXY() = default;
+  vtkSelectableChartXY();
   ~vtkSelectableChartXY() override = default;
 
 private:

@@ -51,6 +51,10 @@ p, li { white-space: pre-wrap; }
         <translation>Logarithmische Skala</translation>
     </message>
     <message>
+        <source>Linear scale: a logarithmic one needs positive values</source>
+        <translation>Lineare Skala: eine logarithmische braucht positive Werte</translation>
+    </message>
+    <message>
         <source>Save Plot data as</source>
         <translation>Daten speichern unter</translation>
     </message>
@@ -1207,6 +1211,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Updated in %1 ms</source>
         <translation>In %1 ms aktualisiert</translation>
+    </message>
+    <message>
+        <source>Linear scale: a logarithmic one needs positive values</source>
+        <translation>Lineare Skala: eine logarithmische braucht positive Werte</translation>
     </message>
     <message>
         <source>&amp;Clear list</source>

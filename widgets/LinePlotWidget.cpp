@@ -9,6 +9,7 @@
 #include <vtkTable.h>
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "ui_LinePlotWidget.h"
@@ -41,6 +42,7 @@ LinePlotWidget::LinePlotWidget(QWidget* parent)
   connect(form->selector,
           SIGNAL(notifySelectionChanged(std::vector<Talmesh::TypedConcentrationName>*)),
           form->plotter, SLOT(updatePlot()));
+  connect(form->selector, &PlotSelector::notifySelectionChanged, this, &LinePlotWidget::showScale);
 
   const QSizePolicy policy = form->stackedWidget->sizePolicy();
   form->splitter->setStretchFactor(0, chartStretch);
@@ -77,7 +79,11 @@ void LinePlotWidget::removeData()
 
 void LinePlotWidget::emptyTable()
 {
-  form->plotter->plotContainer()->setPlotData(vtkSmartPointer<vtkTable>::New());
+  PlotContainer* container = form->plotter->plotContainer();
+  container->setPlotData(vtkSmartPointer<vtkTable>::New());
+  // The chart lets go of what it plotted before.
+  std::vector<Talmesh::TypedConcentrationName> none;
+  container->setLinePlotItems(&none);
 }
 
 void LinePlotWidget::toggleLegend()
@@ -95,9 +101,31 @@ void LinePlotWidget::toggleLogScale()
   logScale = !logScale;
   form->plotter->plotContainer()->setLogScaleY(logScale);
   form->plotter->updatePlot(true);
+  showScale();
+}
+
+void LinePlotWidget::showScale()
+{
+  const bool shown = form->plotter->plotContainer()->showsLogScaleY();
   form->logSButton->setText(
-      logScale ? formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Use Linear Scale"))
-               : formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Use Log Scale")));
+      shown ? formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Use Linear Scale"))
+            : formText(QT_TRANSLATE_NOOP("LinePlotWidgetClass", "Use Log Scale")));
+  setScaleNotice(logScale && !shown);
+}
+
+void LinePlotWidget::setScaleNotice(bool shown)
+{
+  if (shown && !scaleNotice)
+  {
+    scaleNotice = new QLabel(formText(QT_TRANSLATE_NOOP(
+        "LinePlotWidgetClass", "Linear scale: a logarithmic one needs positive values")));
+    scaleNotice->setObjectName(QStringLiteral("scaleNotice"));
+    scaleNotice->setAlignment(Qt::AlignRight);
+    scaleNotice->setWordWrap(true);
+    form->gridLayout->addWidget(scaleNotice, 2, 0);
+  }
+  if (scaleNotice)
+    scaleNotice->setVisible(shown);
 }
 
 void LinePlotWidget::exportPlot()

@@ -6,6 +6,7 @@
 #include <memory>
 
 struct LinePlotData;
+class QLabel;
 class Ui_LinePlotWidgetClass;
 
 /// The panel for time series: a chart, the list from which the user picks what it shows, and
@@ -28,7 +29,9 @@ public:
 public slots:
   /// Shows or hides the legend.
   void toggleLegend();
-  /// Switches the left axis between logarithmic and linear scale.
+  /// Asks for a logarithmic or for a linear left axis, in turn. Data with values of 0 or below are
+  /// shown on a linear one all the same, which a line below the buttons tells; the button reads
+  /// what is shown.
   void toggleLogScale();
   /// Asks for a file and writes the whole table to it as comma-separated text. A message tells when
   /// that fails.
@@ -36,8 +39,11 @@ public slots:
 
 private:
   void emptyTable();
+  void showScale();
+  void setScaleNotice(bool shown);
 
   std::unique_ptr<Ui_LinePlotWidgetClass> form;
+  QLabel* scaleNotice = nullptr;
   bool logScale = true;
   bool legendShown = true;
 };

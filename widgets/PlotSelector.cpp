@@ -106,8 +106,7 @@ void PlotSelector::setMultipleSelections(bool multiple)
 QSize PlotSelector::sizeHint() const
 {
   const QFontMetrics metrics = fontMetrics();
-  return {hintColumns * metrics.horizontalAdvance(QLatin1Char('m')),
-          hintLines * metrics.lineSpacing()};
+  return {hintColumns * metrics.horizontalAdvance(QLatin1Char('m')), hintLines * metrics.height()};
 }
 
 void PlotSelector::processNewSelection()

@@ -10,6 +10,8 @@
 #include <vtkChartXY.h>
 #include <vtkPlot.h>
 #include <vtkScatterPlotMatrix.h>
+#include <vtkTable.h>
+#include <vtkVariant.h>
 
 #include <gtest/gtest.h>
 
@@ -312,6 +314,38 @@ TEST_F(MainWindowWithRuns, KeepsLegendAndLogarithmicAxesThroughOtherStyles)
   EXPECT_EQ(choice.style, xyPlot);
   EXPECT_TRUE(choice.legend);
   EXPECT_TRUE(choice.logY);
+}
+
+TEST_F(MainWindowWithRuns, HasALogarithmicYAxisOnThePagesOfRunsButNotWithErrorBars)
+{
+  openSample();
+  auto* logY = window->plotDock()->findChild<QCheckBox*>(QStringLiteral("logY"));
+  QTest::keyClick(logY, Qt::Key_Space);
+  auto* style = window->plotDock()->findChild<QComboBox*>(QStringLiteral("style"));
+  for (const plotStyles shown : {multiPlot, scatterWithErrorBars, selectionCdfPlot, xyPlot})
+  {
+    style->setCurrentIndex(style->findData(static_cast<int>(shown)));
+    const bool log = container().getChartXY()->GetAxis(vtkAxis::LEFT)->GetLogScale();
+    EXPECT_EQ(log, shown != scatterWithErrorBars) << shown;
+    EXPECT_EQ(logY->isChecked(), log) << shown;
+  }
+}
+
+TEST_F(MainWindowWithRuns, SaysThatAnAxisIsLinearForValuesWithoutLogarithms)
+{
+  openSample();
+  PlotChoice choice = window->plotDock()->choice();
+  choice.x = 1;
+  window->plotDock()->setChoice(choice);
+  auto* logX = window->plotDock()->findChild<QCheckBox*>(QStringLiteral("logX"));
+  const auto saysSo = [this]
+  { return window->statusBar()->currentMessage().contains(QLatin1String("positive")); };
+  container().getTable()->GetColumn(1)->SetVariantValue(0, -1.0);
+  container().getTable()->GetColumn(1)->Modified();
+  EXPECT_FALSE(saysSo());
+  QTest::keyClick(logX, Qt::Key_Space);
+  EXPECT_TRUE(saysSo());
+  EXPECT_FALSE(container().showsLogScaleX());
 }
 
 TEST_F(MainWindowWithRuns, CanSwitchALogarithmicXAxisOffOnThePagesOfRuns)

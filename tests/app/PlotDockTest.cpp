@@ -150,6 +150,30 @@ TEST_F(PlotDockOfFourColumns, EnablesTheLogarithmicXAxisWhereItActs)
   }
 }
 
+TEST_F(PlotDockOfFourColumns, ShowsLegendAndLogarithmicYAxisWhereTheyAct)
+{
+  PlotChoice choice = dock.choice();
+  choice.legend = true;
+  choice.logY = true;
+  for (const plotStyles style :
+       {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot, scatterWithErrorBars,
+        fitParameterDistribution, parallelCoordinates, xyPlot})
+  {
+    SCOPED_TRACE(style);
+    combo("style")->setCurrentIndex(combo("style")->findData(static_cast<int>(style)));
+    if (style == xyPlot)
+      dock.setChoice(choice);
+    const bool logarithmic = style == xyPlot || style == multiPlot || style == selectionCdfPlot;
+    EXPECT_EQ(box("logY")->isEnabled(), logarithmic);
+    EXPECT_EQ(box("logY")->isChecked(), logarithmic);
+    const bool hasLegend = logarithmic || style == scatterWithErrorBars;
+    EXPECT_EQ(box("legend")->isEnabled(), hasLegend);
+    EXPECT_EQ(box("legend")->isChecked(), hasLegend);
+    EXPECT_TRUE(dock.choice().legend) << "as wished";
+    EXPECT_TRUE(dock.choice().logY);
+  }
+}
+
 TEST_F(PlotDockOfFourColumns, OffersTheStylesThatDrawSomething)
 {
   EXPECT_EQ(combo("style")->count(), 8);

@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -94,6 +95,19 @@ TEST_F(DistributionChart, PointsRunFromEndToEndOfTheRange)
   EXPECT_EQ(x().front(), -3.0);
   EXPECT_FLOAT_EQ(static_cast<float>(x().back()), 11.0F);
   EXPECT_EQ(left()->GetMaximum(), 1.05 * (49 * (14.0 / 49) - 3.0));
+}
+
+TEST_F(DistributionChart, OfTheLargestDensitiesIsPainted)
+{
+  for (const double density : {1e308, 1.7e308, std::numeric_limits<double>::max()})
+  {
+    Curve curve(0.0, 1.0, [density](double) { return density; });
+    container.setDistribution(&curve);
+    EXPECT_EQ(left()->GetMaximum(), std::min(1.05 * density, std::numeric_limits<double>::max()));
+    scene.render(container);
+    EXPECT_EQ(left()->GetMinimum(), 0.0);
+    EXPECT_GE(left()->GetMaximum(), density);
+  }
 }
 
 TEST_F(DistributionChart, APointMassIsASpike)

@@ -8,10 +8,9 @@ namespace
 class DistributionScale : public PlotFixture
 {
 protected:
-  void showDecades(double sign)
+  void showDecades()
   {
-    container.setPlotData(
-        tableOf({{"x", {1.0, 10.0, 100.0}}, {"y", {sign, 10.0 * sign, 1000.0 * sign}}}));
+    container.setPlotData(tableOf({{"x", {1.0, 10.0, 100.0}}, {"y", {1.0, 10.0, 1000.0}}}));
     container.redraw();
     container.setLogScaleY(true);
     scene.render(container);
@@ -37,29 +36,23 @@ protected:
 
 TEST_F(DistributionScale, OfTheDensityIsPlain)
 {
-  for (const double sign : {1.0, -1.0})
-  {
-    showDecades(sign);
-    container.setDistribution(&uniform);
-    expectPlainLeftAxis(1.05);
-  }
+  showDecades();
+  container.setDistribution(&uniform);
+  expectPlainLeftAxis(1.05);
 }
 
 TEST_F(DistributionScale, OfAFixedValueIsPlain)
 {
   PointMassDistribution fixed(4.0);
-  for (const double sign : {1.0, -1.0})
-  {
-    showDecades(sign);
-    container.setDistribution(&fixed);
-    expectPlainLeftAxis(0.0);
-  }
+  showDecades();
+  container.setDistribution(&fixed);
+  expectPlainLeftAxis(0.0);
 }
 
 /// The chart of a density takes no mouse, so other data get a new chart.
 TEST_F(DistributionScale, IsThatOfANewChartForOtherData)
 {
-  showDecades(1.0);
+  showDecades();
   container.setDistribution(&uniform);
   scene.render(container);
   container.setPlotData(tableOf({{"x", {1.0, 10.0, 100.0}}, {"y", {1.0, 10.0, 1000.0}}}));

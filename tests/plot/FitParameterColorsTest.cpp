@@ -67,9 +67,7 @@ TEST_F(FitParameterColors, ColoursNothingByAnUnusableColumn)
   };
   const double infinity = std::numeric_limits<double>::infinity();
   const double nan = std::numeric_limits<double>::quiet_NaN();
-  Values infinite(21, 1.0);
-  infinite[3] = infinity;
-  replaceScore(Talmesh::plot::makeColumn("Score", infinite));
+  replaceScore(Talmesh::plot::makeColumn("Score", Values(21, infinity)));
   replaceScore(Talmesh::plot::makeColumn("Score", Values(21, nan)));
   vtkNew<vtkStringArray> text;
   text->SetName("Score");
@@ -80,6 +78,22 @@ TEST_F(FitParameterColors, ColoursNothingByAnUnusableColumn)
   integers->SetNumberOfValues(21);
   integers->FillValue(3);
   replaceScore(integers);
+}
+
+TEST_F(FitParameterColors, ColoursByTheFiniteScores)
+{
+  for (const double odd : {std::numeric_limits<double>::infinity(),
+                           -std::numeric_limits<double>::infinity(), std::nan("")})
+  {
+    Talmesh::plot::doubleColumn(container.getTable(), 0)->SetValue(10, odd);
+    container.getTable()->GetColumn(0)->Modified();
+    draw();
+    scene.render(container);
+    ASSERT_TRUE(points(0, 0)->GetScalarVisibility()) << odd;
+    expectColor(1.0, 0.1, 0.1, 0.8);
+    expectColor(10.0, 0.1, 0.1, 0.1);
+    expectColor(100.0, 0.8, 0.1, 0.1);
+  }
 }
 
 TEST_F(FitParameterColors, ColoursAConstantScore)

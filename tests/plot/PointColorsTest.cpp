@@ -81,6 +81,19 @@ TEST_F(PointColors, ColorsByAColumnThroughALookupTable)
   scene.render(container);
 }
 
+TEST_F(PointColors, SpanTheFiniteValuesOfTheColumn)
+{
+  Talmesh::plot::doubleColumn(container.getTable(), 2)
+      ->SetValue(1, std::numeric_limits<double>::infinity());
+  Talmesh::plot::doubleColumn(container.getTable(), 2)
+      ->SetValue(3, -std::numeric_limits<double>::infinity());
+  container.setColorScheme("c", false);
+  ASSERT_EQ(points()->GetScalarVisibility(), 1);
+  EXPECT_EQ(points()->GetLookupTable()->GetRange()[0], 1.0);
+  EXPECT_EQ(points()->GetLookupTable()->GetRange()[1], 5.0);
+  scene.render(container);
+}
+
 TEST_F(PointColors, KeepsTheColorsOfAColumnInARedraw)
 {
   container.setColorScheme("b", false);

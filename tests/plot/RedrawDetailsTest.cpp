@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -54,6 +56,18 @@ TEST_F(RedrawDetails, ApplyLabelsTitleMarkersAndLogarithmWithoutAnnouncement)
   EXPECT_TRUE(bottom()->GetLogScale());
   EXPECT_EQ(vtkPlotPoints::SafeDownCast(chart()->GetPlot(0))->GetMarkerStyle(),
             vtkPlotPoints::CROSS);
+}
+
+TEST_F(RedrawDetails, PadTheFinitePartOfTheBottomAxis)
+{
+  const double infinity = std::numeric_limits<double>::infinity();
+  container.setPlotData(tableOf({{"a", {0, -infinity, 10, infinity}}, {"b", {1, 2, 3, 4}}}));
+  container.redraw();
+  EXPECT_EQ(bottom()->GetMinimum(), -0.5);
+  EXPECT_EQ(bottom()->GetMaximum(), 10.5);
+  scene.render(container);
+  EXPECT_EQ(bottom()->GetMinimum(), 0.0);
+  EXPECT_EQ(bottom()->GetMaximum(), 10.0);
 }
 
 TEST_F(RedrawDetails, FeedTheScatterPlotMatrixFromTheTable)

@@ -6,9 +6,13 @@
 
 #include <vtkAxis.h>
 #include <vtkPlotParallelCoordinates.h>
+#include <vtkScalarsToColors.h>
 #include <vtkTextProperty.h>
 
 #include <gtest/gtest.h>
+
+#include <limits>
+#include <vector>
 
 namespace
 {
@@ -124,6 +128,33 @@ TEST_F(RedrawStyles, ColorsParallelCoordinatesByTheColorColumn)
       vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0))
           ->GetScalarVisibility(),
       0);
+}
+
+TEST_F(RedrawStyles, ColorsParallelCoordinatesFromBlueToRedOverTheirColumn)
+{
+  container.setPlotData(tableOf({{"a", {0, 1, 2, 3}},
+                                 {"b", {100, 250, 400, std::numeric_limits<double>::infinity()}},
+                                 {"c", {3, 1, 2, 0}}}));
+  settings().colorColumn = 1;
+  setStyle(9);
+  auto* plot =
+      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0));
+  ASSERT_EQ(plot->GetScalarVisibility(), 1);
+  vtkScalarsToColors* colors = plot->GetLookupTable();
+  EXPECT_EQ(colors->GetRange()[0], 100.0);
+  EXPECT_EQ(colors->GetRange()[1], 400.0);
+  const auto colorOf = [colors](double value)
+  {
+    double rgb[3];
+    colors->GetColor(value, rgb);
+    return std::vector<double>(rgb, rgb + 3);
+  };
+  EXPECT_EQ(colorOf(100.0), (std::vector<double>{0, 0, 1}));
+  EXPECT_EQ(colorOf(400.0), (std::vector<double>{1, 0, 0}));
+  const std::vector<double> middle = colorOf(250.0);
+  EXPECT_GT(middle[1], 0.9) << "green";
+  EXPECT_LT(middle[0], 0.1);
+  scene.render(container);
 }
 
 TEST_F(RedrawStyles, SwitchesThroughAllStylesInAnyOrder)

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontDatabase>
+#include <QFontMetrics>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -192,11 +194,27 @@ TEST_F(Selector, SwitchesItsSelectionMode)
   EXPECT_EQ(selector.selectionMode(), QAbstractItemView::SingleSelection);
 }
 
-TEST_F(Selector, AsksForFifteenLettersByTwentyLines)
+/// A font whose lines stand apart, if there is one; otherwise the one at hand.
+QFont spacedFont()
 {
-  const QFontMetrics metrics = selector.fontMetrics();
-  EXPECT_EQ(selector.sizeHint(),
-            QSize(15 * metrics.horizontalAdvance('m'), 20 * metrics.lineSpacing()));
+  for (const QString& family : QFontDatabase().families())
+  {
+    const QFont font(family, 60);
+    if (QFontMetrics(font).leading() != 0)
+      return font;
+  }
+  return {};
+}
+
+TEST_F(Selector, AsksForFifteenLettersByTwentyHeights)
+{
+  for (const QFont& font : {selector.font(), spacedFont()})
+  {
+    selector.setFont(font);
+    const QFontMetrics metrics = selector.fontMetrics();
+    EXPECT_EQ(selector.sizeHint(),
+              QSize(15 * metrics.horizontalAdvance('m'), 20 * metrics.height()));
+  }
 }
 
 TEST_F(Selector, AnnouncesListsByPointer)

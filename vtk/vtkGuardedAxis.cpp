@@ -1,0 +1,168 @@
+#include "vtk/vtkGuardedAxis.h"
+
+#include <vtkDoubleArray.h>
+#include <vtkObjectFactory.h>
+#include <vtkStringArray.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+vtkStandardNewMacro(vtkGuardedAxis);
+
+namespace
+{
+
+constexpr double largest = std::numeric_limits<double>::max();
+/// The decades of the normal doubles; the product of a logarithmic axis' ends in plain units must
+/// not underflow either, or VTK takes the axis for one that reaches zero.
+constexpr double lowestDecade = -307.0;
+constexpr double highestDecade = 308.0;
+/// Beyond this a step past the end of a linear axis may overflow.
+constexpr double largestWalked = 4e307;
+/// Spans smaller than these parts (linear: of the ends, logarithmic: of a decade) are stepped
+/// through in steps that rounding swallows.
+constexpr double narrowestSpan = 1e-12;
+constexpr double narrowestLogSpan = 1e-8;
+/// VTK labels every decade, and nine ticks each are a grey bar.
+constexpr double mostDecadesTickedByVtk = 20.0;
+constexpr int mostDecadeTicks = 10;
+
+using Ends = std::pair<double, double>;
+
+Ends cutLinear(double minimum, double maximum)
+{
+  if (std::isfinite(maximum - minimum))
+    return {minimum, maximum};
+  const double half = largest / 2;
+  return {std::clamp(minimum, -half, half), std::clamp(maximum, -half, half)};
+}
+
+Ends cutDecades(double minimum, double maximum)
+{
+  const double high = std::clamp(maximum, lowestDecade, highestDecade);
+  const double lowest = std::max(lowestDecade, lowestDecade - high);
+  return {std::clamp(minimum, std::min(lowest, high), highestDecade), high};
+}
+
+/// 1, 2, 5, 10, 20, 50, ...: the smallest of these in which `span` has few enough steps.
+int decadeStep(double span)
+{
+  int step = 1;
+  for (int factor = 1;; factor *= 10)
+  {
+    for (const int digit : {1, 2, 5})
+    {
+      step = digit * factor;
+      if (span / step <= mostDecadeTicks)
+        return step;
+    }
+  }
+}
+
+} // namespace
+
+void vtkGuardedAxis::SetRange(double minimum, double maximum)
+{
+  if (!std::isfinite(minimum) || !std::isfinite(maximum))
+    return;
+  const Ends ends = LogScaleActive ? cutDecades(minimum, maximum) : cutLinear(minimum, maximum);
+  // A window below what the product of its ends can tell from zero.
+  if (minimum < maximum && !(ends.first < ends.second))
+    return;
+  Superclass::SetRange(ends.first, ends.second);
+}
+
+void vtkGuardedAxis::SetMinimum(double minimum)
+{
+  if (std::isfinite(minimum))
+    Superclass::SetMinimum(LogScaleActive ? cutDecades(minimum, Maximum).first
+                                          : cutLinear(minimum, Maximum).first);
+}
+
+void vtkGuardedAxis::SetMaximum(double maximum)
+{
+  if (std::isfinite(maximum))
+    Superclass::SetMaximum(LogScaleActive ? cutDecades(Minimum, maximum).second
+                                          : cutLinear(Minimum, maximum).second);
+}
+
+void vtkGuardedAxis::SetLogScale(bool logScale)
+{
+  if (LogScaleWanted != logScale)
+    Modified();
+  LogScaleWanted = logScale;
+  Superclass::SetLogScale(LogScaleWanted && LogScaleAllowed);
+}
+
+void vtkGuardedAxis::SetLogScaleAllowed(bool allowed)
+{
+  LogScaleAllowed = allowed;
+  SetLogScale(LogScaleWanted);
+}
+
+bool vtkGuardedAxis::Walkable() const
+{
+  const double span = std::fabs(Maximum - Minimum);
+  if (LogScaleActive)
+    return span >= narrowestLogSpan;
+  const double size = std::max(std::fabs(Minimum), std::fabs(Maximum));
+  return size <= largestWalked && (span == 0.0 || span >= narrowestSpan * size);
+}
+
+bool vtkGuardedAxis::SpansManyDecades() const
+{
+  return LogScaleActive && std::fabs(Maximum - Minimum) > mostDecadesTickedByVtk;
+}
+
+void vtkGuardedAxis::RecalculateTickSpacing()
+{
+  if (Behavior == CUSTOM)
+    return;
+  if (Walkable() && !SpansManyDecades())
+    Superclass::RecalculateTickSpacing();
+  else
+    GenerateTickLabels(Minimum, Maximum);
+}
+
+void vtkGuardedAxis::GenerateTickLabels(double min, double max)
+{
+  if (CustomTickLabels)
+    return;
+  if (SpansManyDecades())
+    TickDecades();
+  else if (!Walkable())
+    TickEnds();
+  else
+    Superclass::GenerateTickLabels(min, max);
+}
+
+void vtkGuardedAxis::TickDecades()
+{
+  TickPositions->SetNumberOfTuples(0);
+  TickLabels->SetNumberOfTuples(0);
+  const auto [low, high] = std::minmax(Minimum, Maximum);
+  const int step = decadeStep(high - low);
+  TickInterval = step;
+  const int last = static_cast<int>(std::floor(high / step));
+  for (int tick = static_cast<int>(std::ceil(low / step)); tick <= last; ++tick)
+  {
+    TickPositions->InsertNextValue(tick * step);
+    TickLabels->InsertNextValue(GenerateSimpleLabel(std::pow(10.0, tick * step)));
+  }
+  TickMarksDirty = false;
+}
+
+void vtkGuardedAxis::TickEnds()
+{
+  TickPositions->SetNumberOfTuples(0);
+  TickLabels->SetNumberOfTuples(0);
+  TickInterval = Maximum - Minimum;
+  for (const double end : {Minimum, Maximum})
+  {
+    TickPositions->InsertNextValue(end);
+    TickLabels->InsertNextValue(GenerateSimpleLabel(LogScaleActive ? std::pow(10.0, end) : end));
+  }
+  TickMarksDirty = false;
+}

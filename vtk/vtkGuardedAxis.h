@@ -1,0 +1,56 @@
+#ifndef vtkGuardedAxis_h
+#define vtkGuardedAxis_h
+
+#include "vtk/VtkCompat.h"
+
+#include <vtkAxis.h>
+
+/// An axis that VTK finishes painting whatever the data are.
+///
+/// - Ends that are not finite are ignored. Ends so far apart that their distance overflows, and
+///   decades of which a double has no power of ten, are cut.
+/// - Ticks are found without VTK's stepping where a step is lost to rounding or the last one
+///   overflows, and a logarithmic axis over many decades is ticked at powers of ten only.
+/// - Whether the axis is to be logarithmic and whether the data allow it are two things:
+///   GetLogScale() tells the first, GetLogScaleActive() whether both hold. VTK's own axis goes by
+///   its present range alone, which is not that of data that have just come.
+class vtkGuardedAxis : public vtkAxis
+{
+public:
+  static vtkGuardedAxis* New();
+  TALMESH_VTK_TYPE(vtkGuardedAxis, vtkAxis);
+
+  using vtkAxis::SetRange;
+  void SetRange(double minimum, double maximum) override;
+  void SetMinimum(double minimum) override;
+  void SetMaximum(double maximum) override;
+
+  bool GetLogScale() override { return LogScaleWanted; }
+  void SetLogScale(bool logScale) override;
+  /// Whether the data along the axis have logarithms; they have until somebody denies it.
+  void SetLogScaleAllowed(bool allowed);
+  bool GetLogScaleAllowed() const { return LogScaleAllowed; }
+
+  void RecalculateTickSpacing() override;
+
+protected:
+  vtkGuardedAxis() = default;
+  ~vtkGuardedAxis() override = default;
+
+  using vtkAxis::GenerateTickLabels;
+  void GenerateTickLabels(double min, double max) override;
+
+private:
+  vtkGuardedAxis(const vtkGuardedAxis&) = delete;
+  void operator=(const vtkGuardedAxis&) = delete;
+
+  bool Walkable() const;
+  bool SpansManyDecades() const;
+  void TickDecades();
+  void TickEnds();
+
+  bool LogScaleWanted = false;
+  bool LogScaleAllowed = true;
+};
+
+#endif
