@@ -52,6 +52,7 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.verticalGutter = from.verticalGutter;
   to.useIndexForXSeries = from.useIndexForXSeries;
   to.keepsScatterPair = from.keepsScatterPair;
+  to.diagnosticsShown = from.diagnosticsShown;
 }
 
 } // namespace
