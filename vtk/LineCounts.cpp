@@ -131,6 +131,8 @@ OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width
   if (width < 1 || height < 1)
     return image;
   image.values.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
+  if (pen.opacity <= 0.0)
+    return image;
 
   const std::int64_t most = CoverageScale(pen.opacity, 1).mostRepeats();
   const CoverageScale scale(pen.opacity, totalWeight(lines.runs, most));

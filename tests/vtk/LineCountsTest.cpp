@@ -187,11 +187,14 @@ TEST(LineCounts, LeavesOutWhatLiesOutside)
   EXPECT_EQ(inked(runs.draw(20, 10, {4.0, 1.0, 6.0})), 0);
 }
 
-TEST(LineCounts, IsEmptyWithoutRunsOrPixels)
+TEST(LineCounts, IsEmptyWithoutRunsPixelsOrOpacity)
 {
   Runs runs;
   EXPECT_EQ(inked(runs.draw(20, 10, {1.0, 1.0, 0})), 0);
   runs.add({0, 5, 20, 5});
+  for (int i = 0; i < 5000; ++i)
+    runs.add({0, 5, 20, 5});
+  EXPECT_EQ(inked(runs.draw(20, 10, {1.0, 0.0, 0})), 0);
   EXPECT_TRUE(runs.draw(0, 10, {1.0, 1.0, 0}).values.empty());
   EXPECT_TRUE(runs.draw(10, 0, {1.0, 1.0, 0}).values.empty());
 }
