@@ -97,6 +97,7 @@ Study exampleStudyOfRepressilator(const ImportProgress& progress)
 void showStudy(const Study& study, PlotContainer& container)
 {
   PlotMetaData& settings = *container.getMetaData();
+  container.setBreakLinesAtGaps(true);
   if (study.chart)
   {
     study.chart->draw(container, study.chart->firstVariant);

@@ -51,6 +51,7 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.horizontalGutter = from.horizontalGutter;
   to.verticalGutter = from.verticalGutter;
   to.useIndexForXSeries = from.useIndexForXSeries;
+  to.breakLinesAtGaps = from.breakLinesAtGaps;
 }
 
 } // namespace
@@ -235,4 +236,14 @@ void PlotContainer::setUseIndexForXSeries(bool use)
 {
   d->useIndexForXSeries = use;
   dirty();
+}
+
+bool PlotContainer::getBreakLinesAtGaps() const
+{
+  return d->breakLinesAtGaps;
+}
+
+void PlotContainer::setBreakLinesAtGaps(bool breaks)
+{
+  d->breakLinesAtGaps = breaks;
 }

@@ -97,6 +97,12 @@ public:
   /// Uses the row index as x series where a style knows that, and marks the scene for painting.
   void setUseIndexForXSeries(bool use);
 
+  /// Whether lines of runs end at missing values, see vtkPlotLineSet::SetBreakAtGaps; false at
+  /// first.
+  bool getBreakLinesAtGaps() const;
+  /// Takes effect with the next redraw.
+  void setBreakLinesAtGaps(bool breaks);
+
   /// Draws the decoration lines with the next redraw. Its last column is their common x.
   /// Null draws none. `show` switches them on or off.
   void setDecorations(vtkSmartPointer<vtkTable> decorations, bool show);
