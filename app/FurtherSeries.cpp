@@ -23,13 +23,15 @@ namespace Talmesh::app
 namespace
 {
 
-vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotMetaData& settings)
+vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotContainer& container)
 {
+  const PlotMetaData& settings = *container.getMetaData();
   if (settings.getPlotLine())
   {
     vtkNew<vtkPlotLineSet> runs;
     runs->SetStride(settings.getStride());
     runs->SetOnlyShowSelected(0);
+    runs->SetBreakAtGaps(container.getBreakLinesAtGaps());
     chart->AddPlot(runs);
     return runs;
   }
@@ -73,7 +75,7 @@ void addFurtherSeries(PlotContainer& container)
     vtkSmartPointer<vtkPlot> plot = chart->GetPlot(static_cast<vtkIdType>(series));
     if (series > 0)
     {
-      plot = addSeries(chart, settings);
+      plot = addSeries(chart, container);
       plot::feedPlot(plot, container.getTable(), plot::firstOf(settings.xColumns), columns[series]);
     }
     if (columns.size() > 1)

@@ -87,10 +87,11 @@ vtkSmartPointer<vtkTable> tableOfGroup(const DrawnRuns& drawn, const std::vector
 
 vtkSmartPointer<vtkPlotPoints> makePlotLike(const DrawnRuns& drawn)
 {
-  if (vtkPlotLineSet::SafeDownCast(drawn.plot))
+  if (auto* allRuns = vtkPlotLineSet::SafeDownCast(drawn.plot))
   {
     auto lines = vtkSmartPointer<vtkPlotLineSet>::New();
     lines->SetStride(static_cast<int>(drawn.stride));
+    lines->SetBreakAtGaps(allRuns->GetBreakAtGaps());
     lines->OnlyShowSelectedOff();
     return lines;
   }

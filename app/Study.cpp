@@ -99,6 +99,7 @@ void showStudy(const Study& study, PlotContainer& container)
   PlotMetaData& settings = *container.getMetaData();
   // Each selection draws, and would take the pair that the user looks at away.
   container.setKeepsScatterPair(true);
+  container.setBreakLinesAtGaps(true);
   if (study.chart)
   {
     study.chart->draw(container, study.chart->firstVariant);

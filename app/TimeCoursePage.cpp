@@ -147,6 +147,7 @@ void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t ite
   if (time < 0 || run >= runs.numberOfTrajectories)
     return;
   RunCourses courses(runs, time, run);
+  container.setBreakLinesAtGaps(true);
   container.setLinePlotData(&courses.record);
   std::vector<TypedConcentrationName> shown;
   for (const auto& series : courses.record.series)

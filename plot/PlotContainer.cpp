@@ -53,6 +53,7 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.useIndexForXSeries = from.useIndexForXSeries;
   to.keepsScatterPair = from.keepsScatterPair;
   to.diagnosticsShown = from.diagnosticsShown;
+  to.breakLinesAtGaps = from.breakLinesAtGaps;
 }
 
 } // namespace
@@ -242,4 +243,14 @@ void PlotContainer::setUseIndexForXSeries(bool use)
 void PlotContainer::setKeepsScatterPair(bool keep)
 {
   d->keepsScatterPair = keep;
+}
+
+bool PlotContainer::getBreakLinesAtGaps() const
+{
+  return d->breakLinesAtGaps;
+}
+
+void PlotContainer::setBreakLinesAtGaps(bool breaks)
+{
+  d->breakLinesAtGaps = breaks;
 }

@@ -101,6 +101,12 @@ public:
   /// columns. Otherwise each redraw with limited columns makes it the first x and y column.
   void setKeepsScatterPair(bool keep);
 
+  /// Whether lines of runs end at missing values, see vtkPlotLineSet::SetBreakAtGaps; false at
+  /// first.
+  bool getBreakLinesAtGaps() const;
+  /// Takes effect with the next redraw.
+  void setBreakLinesAtGaps(bool breaks);
+
   /// Draws the decoration lines with the next redraw. Its last column is their common x.
   /// Null draws none. `show` switches them on or off.
   void setDecorations(vtkSmartPointer<vtkTable> decorations, bool show);

@@ -110,6 +110,8 @@ struct PlotState
   bool selectionUpdatePending = false;
   /// The row index stands in for the x series.
   bool useIndexForXSeries = false;
+  /// Lines of runs end at missing values instead of leading on into the next run.
+  bool breakLinesAtGaps = false;
   /// One test result per ranked parameter; empty before a test.
   std::vector<KsStatistics> ksResults;
   /// Whether remarks on computed tables go to standard output.

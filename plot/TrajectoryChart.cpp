@@ -62,6 +62,7 @@ vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
     auto lines = vtkSmartPointer<vtkPlotLineSet>::New();
     lines->SetStride(state.metaData->getStride());
     lines->SetOnlyShowSelected(onlyShowSelected);
+    lines->SetBreakAtGaps(state.breakLinesAtGaps);
     return lines;
   }
   auto points = vtkSmartPointer<vtkPlotInvisiblePoints>::New();

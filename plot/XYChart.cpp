@@ -28,6 +28,7 @@ vtkPlot* addRuns(PlotState& state)
   vtkNew<vtkPlotLineSet> runs;
   runs->SetStride(state.metaData->getStride());
   runs->SetOnlyShowSelected(0);
+  runs->SetBreakAtGaps(state.breakLinesAtGaps);
   state.chartXY->AddPlot(runs);
   return runs;
 }

@@ -19,7 +19,7 @@ struct PixelGrid
 
 /// What a vtkContextDevice2D is besides if an item that would draw thousands of like shapes may
 /// hand it the picture of them instead. Any other device gets every shape in the items' documented
-/// order. The screen's own device counts as one, see aggregationOf().
+/// order. The screen's own device counts as one, see AggregateTarget.
 ///
 /// A picture arrives as one DrawImage(const vtkRectf&, vtkImageData*), after a SetMatrix under
 /// which one unit is one pixel of the grid: four components, red, green, blue and opacity, colours

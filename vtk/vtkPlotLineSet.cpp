@@ -1,6 +1,9 @@
 #include "vtk/vtkPlotLineSet.h"
 
+#include "vtk/AggregateTarget.h"
+#include "vtk/MarkerCopy.h"
 #include "vtk/PlotItemPainting.h"
+#include "vtk/RunPieces.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkContext2D.h>
@@ -19,10 +22,12 @@ vtkStandardNewMacro(vtkPlotLineSet);
 
 namespace
 {
-// Markers in floating-point columns are cut to integers; what no integer can hold marks nothing.
-vtkIdType toMarker(double value)
+using Shapes = Talmesh::AggregateDevice::Shapes;
+
+// Across a point that has no line, so that it shows beside lines.
+float dotSize(float penWidth)
 {
-  return std::abs(value) < 9.0e18 ? static_cast<vtkIdType>(value) : 0;
+  return penWidth + 3.0f;
 }
 } // namespace
 
@@ -48,9 +53,17 @@ void vtkPlotLineSet::Update()
   vtkTable* table = this->Data->GetInput();
   if (!this->Visible || !table)
     return;
-  const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
-                                     this->Colors);
+  // Lines do not have the colours of their points.
+  const Talmesh::ColorsWithin noColors(nullptr, "", this->ScalarVisibility, this->Colors);
+  const Talmesh::PointInputs inputs = Talmesh::pointInputs(
+      this->Data, this->XAxis, this->YAxis, this->UseIndexForXSeries, this->ShiftScale,
+      this->ValidPointMaskName.empty() ? nullptr
+                                       : table->GetColumnByName(this->ValidPointMaskName.c_str()));
+  // The item is newer than its points since this last marked it so, which says nothing of them.
+  if (this->Points && inputs == this->CachedInputs)
+    this->BuildTime.Modified();
   this->Superclass::Update();
+  this->CachedInputs = inputs;
   this->UpdateSelectionCache(table);
   this->Modified();
 }
@@ -62,15 +75,12 @@ bool vtkPlotLineSet::UpdateSelectionCache(vtkTable* table)
       table ? table->GetColumnByName(Talmesh::RemainderSelectionColumn) : nullptr);
   if (markers)
   {
-    const vtkIdType rowCount = markers->GetNumberOfTuples();
-    this->RemainderSelection->SetNumberOfValues(rowCount);
-    for (vtkIdType row = 0; row < rowCount; ++row)
-    {
-      const vtkIdType marker = toMarker(markers->GetComponent(row, 0));
-      this->RemainderSelection->SetValue(row, marker);
-      if (marker != 0)
-        ++this->NumberOfRemainderRows;
-    }
+    std::vector<double> identity;
+    Talmesh::addColumn(identity, markers);
+    if (identity != this->CopiedMarkers)
+      this->CopiedMarks = Talmesh::copyMarkers(markers, this->RemainderSelection);
+    this->CopiedMarkers = identity;
+    this->NumberOfRemainderRows = this->CopiedMarks;
   }
   this->RemainderSelection->Modified();
   return true;
@@ -81,46 +91,114 @@ bool vtkPlotLineSet::Paint(vtkContext2D* painter)
   if (!this->Visible || !this->Points || this->Stride < 1)
     return false;
   painter->ApplyPen(this->Pen);
+  const auto target = Talmesh::AggregateTarget::of(painter, this);
   if (!this->OnlyShowSelected)
-    this->PaintRuns(painter);
+    this->PaintRuns(painter, target ? &*target : nullptr);
 
   vtkTable* table = this->Data->GetInput();
   if (this->Selection && table &&
       this->Selection->GetMTime() > this->RemainderSelection->GetMTime())
     this->UpdateSelectionCache(table);
 
-  if (this->RemainderSelection->GetNumberOfValues() > 0)
-    this->FindMarkedRuns();
-  else if (this->Selection && this->Selection->GetNumberOfValues() > 0)
-    this->FindSelectedRuns();
-  else
+  const bool marked = this->RemainderSelection->GetNumberOfValues() > 0;
+  if (!marked && !(this->Selection && this->Selection->GetNumberOfValues() > 0))
     return true;
-  this->PaintHighlights(painter);
+  Talmesh::applyHighlightPen(painter, this->Pen->GetWidth());
+  if (target)
+  {
+    this->CountHighlights(marked);
+    this->PaintHighlights(painter, *target);
+  }
+  else
+  {
+    this->FindHighlights(marked);
+    this->PaintHighlights(painter);
+  }
   return true;
 }
 
-void vtkPlotLineSet::PaintPolyLine(vtkContext2D* painter, vtkIdType first, vtkIdType count)
-{
-  // VTK reports an error for lines of fewer than two points.
-  if (count < 2)
-    return;
-  float* points = static_cast<float*>(this->Points->GetVoidPointer(0));
-  painter->DrawPoly(points + 2 * first, static_cast<int>(count));
-}
-
-void vtkPlotLineSet::PaintRuns(vtkContext2D* painter)
+std::vector<Talmesh::CountedRun> vtkPlotLineSet::LinesOfRuns() const
 {
   const vtkIdType count = this->Points->GetNumberOfPoints();
-  if (this->BadPoints && this->BadPoints->GetNumberOfTuples() > 0)
+  if (this->BreakAtGaps || !this->BadPoints)
+    return Talmesh::wholeRuns(count, this->Stride);
+  return Talmesh::linesOfRuns(count, this->Stride, this->BadPoints->GetPointer(0),
+                              this->BadPoints->GetNumberOfValues());
+}
+
+std::vector<unsigned char> vtkPlotLineSet::MaskOfGaps() const
+{
+  if (!this->BreakAtGaps || !this->BadPoints)
+    return {};
+  return Talmesh::maskOf(this->Points->GetNumberOfPoints(), this->BadPoints->GetPointer(0),
+                         this->BadPoints->GetNumberOfValues());
+}
+
+Talmesh::OpacityImage vtkPlotLineSet::CountLines(const std::vector<Talmesh::CountedRun>& lines,
+                                                 vtkPen* pen,
+                                                 const Talmesh::AggregateTarget& target) const
+{
+  const std::vector<unsigned char> mask = this->MaskOfGaps();
+  Talmesh::LinePen used;
+  used.width = std::max(1.0, pen->GetWidth() * target.penScale());
+  used.opacity = pen->GetOpacity() / 255.0;
+  used.dotSize = this->BreakAtGaps ? dotSize(pen->GetWidth()) * target.penScale() : 0.0;
+  return Talmesh::drawLines({static_cast<float*>(this->Points->GetVoidPointer(0)),
+                             mask.empty() ? nullptr : mask.data(), lines},
+                            target.map(), target.width(), target.height(), used);
+}
+
+void vtkPlotLineSet::PaintLine(vtkContext2D* painter, const Talmesh::CountedRun& line)
+{
+  // VTK reports an error for lines of fewer than two points.
+  if (line.count < 2)
+    return;
+  float* points = static_cast<float*>(this->Points->GetVoidPointer(0));
+  painter->DrawPoly(points + 2 * line.first, static_cast<int>(line.count));
+}
+
+void vtkPlotLineSet::PaintPieces(vtkContext2D* painter,
+                                 const std::vector<Talmesh::CountedRun>& runs)
+{
+  const std::vector<unsigned char> mask = this->MaskOfGaps();
+  const float* points = static_cast<float*>(this->Points->GetVoidPointer(0));
+  std::vector<float> dots;
+  for (const Talmesh::CountedRun& run : runs)
   {
-    const vtkIdType lastBad = this->BadPoints->GetValue(this->BadPoints->GetNumberOfTuples() - 1);
-    if (count - lastBad <= 2)
-      return;
-    this->PaintPolyLine(painter, lastBad + 1,
-                        std::min<vtkIdType>(this->Stride, count - 1 - lastBad));
+    for (const auto& piece : Talmesh::piecesOf(run, points, mask.empty() ? nullptr : mask.data()))
+    {
+      this->PaintLine(painter, piece);
+      if (piece.count == 1)
+        dots.insert(dots.end(), points + 2 * piece.first, points + 2 * piece.first + 2);
+    }
   }
-  for (vtkIdType first = 0; first <= count - this->Stride; first += this->Stride)
-    this->PaintPolyLine(painter, first, this->Stride);
+  if (dots.empty())
+    return;
+  const float width = painter->GetPen()->GetWidth();
+  painter->GetPen()->SetWidth(dotSize(width));
+  painter->DrawMarkers(VTK_MARKER_CIRCLE, false, dots.data(), static_cast<int>(dots.size() / 2));
+  painter->GetPen()->SetWidth(width);
+}
+
+void vtkPlotLineSet::PaintLines(vtkContext2D* painter,
+                                const std::vector<Talmesh::CountedRun>& lines)
+{
+  if (this->BreakAtGaps)
+    return this->PaintPieces(painter, lines);
+  for (const Talmesh::CountedRun& line : lines)
+    this->PaintLine(painter, line);
+}
+
+void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target)
+{
+  const vtkIdType runCount = this->Points->GetNumberOfPoints() / this->Stride;
+  if (!target || this->Pen->GetLineType() != vtkPen::SOLID_LINE ||
+      target->wantsShapes(Shapes::Bundle, runCount))
+    return this->PaintLines(painter, this->LinesOfRuns());
+  this->RunPicture.paint(
+      painter, *target, this->Pen,
+      {double(this->Points->GetMTime()), double(this->Stride), double(this->BreakAtGaps)},
+      [&] { return this->CountLines(this->LinesOfRuns(), this->Pen, *target); });
 }
 
 void vtkPlotLineSet::FindMarkedRuns()
@@ -157,15 +235,66 @@ void vtkPlotLineSet::FindSelectedRuns()
   this->SelectedLineIds->Modified();
 }
 
+void vtkPlotLineSet::FindHighlights(bool marked)
+{
+  if (marked)
+    this->FindMarkedRuns();
+  else
+    this->FindSelectedRuns();
+}
+
+void vtkPlotLineSet::CountHighlights(bool marked)
+{
+  std::vector<double> source;
+  if (marked)
+    source = this->CopiedMarkers;
+  else
+    Talmesh::addColumn(source, this->Selection);
+  const vtkIdType pointCount = this->Points->GetNumberOfPoints();
+  source.insert(source.end(), {double(marked), double(this->NumberOfRemainderRows),
+                               double(this->Stride), double(pointCount)});
+  if (source == this->CountedFor)
+    return;
+  this->FindHighlights(marked);
+  this->Highlights = Talmesh::countRuns(this->SelectedLineIds->GetPointer(0),
+                                        this->SelectedLineIds->GetNumberOfValues(),
+                                        pointCount / this->Stride, this->Stride);
+  this->CountedFor = source;
+}
+
 void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter)
 {
-  Talmesh::applyHighlightPen(painter, this->Pen->GetWidth());
-  const vtkIdType wholeRuns = this->Points->GetNumberOfPoints() / this->Stride;
+  const vtkIdType runCount = this->Points->GetNumberOfPoints() / this->Stride;
+  std::vector<Talmesh::CountedRun> lines;
   for (vtkIdType i = 0; i < this->SelectedLineIds->GetNumberOfValues(); ++i)
   {
     const vtkIdType run = this->SelectedLineIds->GetValue(i);
-    if (run >= 0 && run < wholeRuns)
-      this->PaintPolyLine(painter, run * this->Stride, this->Stride);
+    if (run >= 0 && run < runCount)
+      lines.push_back({run * this->Stride, this->Stride, 1});
+  }
+  this->PaintLines(painter, lines);
+}
+
+void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target)
+{
+  vtkPen* const pen = painter->GetPen();
+  const auto count = static_cast<vtkIdType>(this->Highlights.size());
+  if (count == 0)
+    return;
+  if (pen->GetLineType() == vtkPen::SOLID_LINE && !target.wantsShapes(Shapes::Highlights, count))
+  {
+    Talmesh::CachedPicture::Key key = this->CountedFor;
+    key.insert(key.end(), {double(this->Points->GetMTime()), double(this->BreakAtGaps)});
+    this->HighlightPicture.paint(painter, target, pen, key,
+                                 [&] { return this->CountLines(this->Highlights, pen, target); });
+    return;
+  }
+  const double once = pen->GetOpacity() / 255.0;
+  for (const Talmesh::CountedRun& run : this->Highlights)
+  {
+    const double sum = 1.0 - std::pow(1.0 - once, static_cast<double>(run.weight));
+    pen->SetOpacity(static_cast<unsigned char>(std::lround(255.0 * sum)));
+    this->PaintLines(painter, {run});
   }
 }
 

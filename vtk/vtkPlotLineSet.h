@@ -1,11 +1,20 @@
 #ifndef vtkPlotLineSet_h
 #define vtkPlotLineSet_h
 
+#include "vtk/CachedPicture.h"
+#include "vtk/PointInputs.h"
 #include "vtk/VtkCompat.h"
 
 #include <vtkPlotPoints.h>
 
+#include <vector>
+
 class vtkIdTypeArray;
+
+namespace Talmesh
+{
+class AggregateTarget;
+}
 
 /// Many runs in one plot item. The rows of the input table are runs of Stride rows, one after
 /// another; every whole run is drawn as a polyline of its own and the selected runs are drawn
@@ -16,6 +25,11 @@ class vtkIdTypeArray;
 /// from the point ids of the item's own selection. A run is highlighted once per marked row; ids
 /// outside the points and runs that are not whole are passed over. Runs of a single point have no
 /// line.
+///
+/// A device that takes pictures of many shapes, as the screen does (vtk/AggregateDevice.h), gets
+/// one for the runs and one for the highlighted ones, which shows what drawing them one by one
+/// would add up to. They are made again only if points, pen, place or highlighted runs change.
+/// Dashed lines are drawn one by one everywhere.
 class vtkPlotLineSet : public vtkPlotPoints
 {
 public:
@@ -23,8 +37,8 @@ public:
   TALMESH_VTK_TYPE(vtkPlotLineSet, vtkPlotPoints);
   void PrintSelf(ostream& os, vtkIndent indent) override;
 
-  /// Updates the cached points and the copy of the marker column, and marks the item modified.
-  /// Does nothing when the item is invisible or has no input table.
+  /// Updates the cached points and the copy of the marker column where their columns have changed,
+  /// and marks the item modified. Does nothing when the item is invisible or has no input table.
   void Update() override;
 
   /// @return false if the item is invisible, has no cached points or a stride below 1.
@@ -57,6 +71,16 @@ public:
   vtkBooleanMacro(OnlyShowSelected, int);
   ///@}
 
+  ///@{
+  /// Whether a line ends before a bad point, or one whose logarithm is no number, and begins again
+  /// behind it, run by run, with a round marker for a point between two gaps and for a run of one
+  /// point. If 0, the line behind the last bad point leads on into the next run, and with fewer
+  /// than two points behind the last bad one no run is drawn. Default 0.
+  vtkSetMacro(BreakAtGaps, int);
+  vtkGetMacro(BreakAtGaps, int);
+  vtkBooleanMacro(BreakAtGaps, int);
+  ///@}
+
 protected:
   vtkPlotLineSet();
   ~vtkPlotLineSet() override;
@@ -72,11 +96,29 @@ private:
   vtkPlotLineSet(const vtkPlotLineSet&) = delete;
   void operator=(const vtkPlotLineSet&) = delete;
 
-  void PaintPolyLine(vtkContext2D* painter, vtkIdType first, vtkIdType count);
-  void PaintRuns(vtkContext2D* painter);
-  void PaintHighlights(vtkContext2D* painter);
+  std::vector<Talmesh::CountedRun> LinesOfRuns() const;
+  std::vector<unsigned char> MaskOfGaps() const;
+  Talmesh::OpacityImage CountLines(const std::vector<Talmesh::CountedRun>& lines, vtkPen* pen,
+                                   const Talmesh::AggregateTarget& target) const;
+  void PaintLine(vtkContext2D* painter, const Talmesh::CountedRun& line);
+  void PaintPieces(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& runs);
+  void PaintLines(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& lines);
+  void PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target);
   void FindMarkedRuns();
   void FindSelectedRuns();
+  void FindHighlights(bool marked);
+  void CountHighlights(bool marked);
+  void PaintHighlights(vtkContext2D* painter);
+  void PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target);
+
+  int BreakAtGaps = 0;
+  Talmesh::PointInputs CachedInputs;           ///< of the cached points
+  std::vector<double> CopiedMarkers;           ///< tells the marker column that was copied
+  vtkIdType CopiedMarks = 0;                   ///< non-zero values of that copy
+  std::vector<double> CountedFor;              ///< tells what the counted highlights are
+  std::vector<Talmesh::CountedRun> Highlights; ///< each highlighted run once
+  Talmesh::CachedPicture RunPicture;
+  Talmesh::CachedPicture HighlightPicture;
 };
 
 #endif

@@ -61,6 +61,7 @@ TEST_F(GroupsInWindow, ColourTheRunsBehindTheirHighlight)
     EXPECT_EQ(colourOf(members).rgb(), groupColour(i).rgb());
     EXPECT_EQ(members->GetInput()->GetNumberOfRows(), 3 * pointsPerRun);
     EXPECT_EQ(members->GetStride(), pointsPerRun);
+    EXPECT_TRUE(members->GetBreakAtGaps());
     EXPECT_FALSE(members->GetSelectable());
     EXPECT_LT(chart().GetPlotIndex(members), chart().GetPlotIndex(lines[0]));
   }

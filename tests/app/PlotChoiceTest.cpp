@@ -97,6 +97,16 @@ TEST_F(PlotChoiceOfRuns, DrawsEveryYColumnAsLines)
   EXPECT_EQ(labelOf(1), "Y");
 }
 
+TEST_F(PlotChoiceOfRuns, BreaksTheLinesOfEveryYColumnAtGaps)
+{
+  choice.y = {0, 1};
+  applyChoice(container, choice);
+  ASSERT_EQ(container.getChartXY()->GetNumberOfPlots(), 2);
+  for (int plot = 0; plot < 2; ++plot)
+    EXPECT_TRUE(
+        vtkPlotLineSet::SafeDownCast(container.getChartXY()->GetPlot(plot))->GetBreakAtGaps());
+}
+
 TEST_F(PlotChoiceOfRuns, GivesEverySeriesAColourOfItsOwn)
 {
   choice.y = {0, 1, 2};

@@ -35,6 +35,18 @@ TEST_F(RedrawDetails, GiveLinesTheStrideAndShowAllOfThem)
   EXPECT_EQ(chart()->GetNumberOfPlots(), 1);
 }
 
+TEST_F(RedrawDetails, BreakLinesAtGapsWhereAsked)
+{
+  settings().setPlotLine(true);
+  const auto breaks = [this]
+  { return vtkPlotLineSet::SafeDownCast(chart()->GetPlot(0))->GetBreakAtGaps(); };
+  EXPECT_FALSE(breaks());
+  container.setBreakLinesAtGaps(true);
+  container.redraw();
+  EXPECT_TRUE(breaks());
+  EXPECT_TRUE(PlotContainer(container).getBreakLinesAtGaps());
+}
+
 TEST_F(RedrawDetails, ReturnToPointsWhenLinesAreSwitchedOff)
 {
   settings().setPlotLine(true);

@@ -1,6 +1,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "vtk/vtkPlotLineSet.h"
 
 #include <vtkAxis.h>
 #include <vtkCommand.h>
@@ -77,6 +78,16 @@ TEST_F(SelectionTrajectories, DrawsRunsAsALineSetOrAsPoints)
   EXPECT_STREQ(container.getChartXY()->GetPlot(0)->GetClassName(), "vtkPlotInvisiblePoints");
   settings().setPlotLine(true);
   EXPECT_STREQ(container.getChartXY()->GetPlot(0)->GetClassName(), "vtkPlotLineSet");
+}
+
+TEST_F(SelectionTrajectories, BreaksLinesAtGapsWhereAsked)
+{
+  draw(3);
+  container.setBreakLinesAtGaps(true);
+  settings().setPlotLine(true);
+  auto* lines = vtkPlotLineSet::SafeDownCast(container.getChartXY()->GetPlot(0));
+  ASSERT_NE(lines, nullptr);
+  EXPECT_TRUE(lines->GetBreakAtGaps());
 }
 
 TEST_F(SelectionTrajectories, TitlesTheTrajectories)

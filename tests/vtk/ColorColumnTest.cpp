@@ -1,6 +1,5 @@
 #include "vtk/vtkPlotErrorPoints.h"
 #include "vtk/vtkPlotInvisiblePoints.h"
-#include "vtk/vtkPlotLineSet.h"
 #include "vtk/vtkPlotStepLine.h"
 
 #include <vtkUnsignedCharArray.h>
@@ -44,8 +43,8 @@ protected:
   RecordingPainter recording;
 };
 
-using Items =
-    ::testing::Types<vtkPlotStepLine, vtkPlotErrorPoints, vtkPlotLineSet, vtkPlotInvisiblePoints>;
+// Line sets have no colours of points.
+using Items = ::testing::Types<vtkPlotStepLine, vtkPlotErrorPoints, vtkPlotInvisiblePoints>;
 TYPED_TEST_SUITE(ColorColumn, Items);
 } // namespace
 

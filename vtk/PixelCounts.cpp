@@ -1,0 +1,41 @@
+#include "vtk/PixelCounts.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Talmesh
+{
+namespace
+{
+/// What is left to see through where shapes pass for opaque: less than half of one of 255 levels.
+constexpr double unseen = 1.0 / 1024.0;
+constexpr double largestTable = 1 << 17;
+constexpr double largestSum = 1 << 30;
+constexpr double finestUnits = 1024.0;
+} // namespace
+
+CoverageScale::CoverageScale(double opacity, std::int64_t totalWeight)
+{
+  const double a = std::clamp(opacity, 1.0 / 4096.0, 1.0 - unseen);
+  const double saturation = std::log(unseen) / std::log1p(-a);
+  repeats = static_cast<std::int64_t>(std::ceil(saturation));
+  const double weight = static_cast<double>(std::max<std::int64_t>(totalWeight, 1));
+  const double whole = std::floor(
+      std::clamp(std::min(largestTable / saturation, largestSum / weight), 1.0, finestUnits));
+  for (int step = 0; step <= steps; ++step)
+    perCoverage[static_cast<std::size_t>(step)] = static_cast<std::int32_t>(
+        std::lround(whole * std::log1p(-a * step / steps) / std::log1p(-a)));
+  opacities.resize(static_cast<std::size_t>(std::ceil(saturation * whole)) + 1);
+  for (std::size_t count = 0; count < opacities.size(); ++count)
+    opacities[count] = static_cast<std::uint16_t>(
+        std::lround(-65535.0 * std::expm1(static_cast<double>(count) / whole * std::log1p(-a))));
+}
+
+PixelCounts::PixelCounts(int columns, int rows, const CoverageScale& coverage)
+    : pitch(static_cast<std::size_t>(rows) + 2)
+    , top(static_cast<float>(rows))
+    , scale(&coverage)
+    , differences(pitch * static_cast<std::size_t>(columns), 0)
+{
+}
+} // namespace Talmesh

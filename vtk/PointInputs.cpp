@@ -1,0 +1,45 @@
+#include "vtk/PointInputs.h"
+
+#include <vtkAxis.h>
+#include <vtkContextMapper2D.h>
+#include <vtkDataArray.h>
+#include <vtkTable.h>
+
+#include <cstdint>
+
+namespace Talmesh
+{
+namespace
+{
+/// Points on a logarithmic axis are logarithms, of magnitudes if the axis has negative values.
+void addScale(PointInputs& inputs, vtkAxis* axis)
+{
+  const bool logarithmic = axis && axis->GetLogScaleActive();
+  inputs.push_back(logarithmic);
+  inputs.push_back(logarithmic && axis->GetUnscaledMinimum() < 0.0);
+}
+} // namespace
+
+void addColumn(std::vector<double>& key, vtkAbstractArray* column)
+{
+  key.push_back(static_cast<double>(reinterpret_cast<std::uintptr_t>(column)));
+  key.push_back(column ? static_cast<double>(column->GetMTime()) : 0.0);
+  key.push_back(column ? static_cast<double>(column->GetNumberOfTuples()) : 0.0);
+}
+
+PointInputs pointInputs(vtkContextMapper2D* data, vtkAxis* x, vtkAxis* y, bool useIndexForX,
+                        const vtkRectd& shiftScale, vtkAbstractArray* validPointMask)
+{
+  PointInputs inputs;
+  vtkTable* const table = data->GetInput();
+  inputs.push_back(static_cast<double>(table->GetMTime()));
+  addColumn(inputs, useIndexForX ? nullptr : data->GetInputArrayToProcess(0, table));
+  addColumn(inputs, data->GetInputArrayToProcess(1, table));
+  addColumn(inputs, validPointMask);
+  addScale(inputs, x);
+  addScale(inputs, y);
+  inputs.insert(inputs.end(), {shiftScale.GetX(), shiftScale.GetY(), shiftScale.GetWidth(),
+                               shiftScale.GetHeight(), double(useIndexForX)});
+  return inputs;
+}
+} // namespace Talmesh

@@ -1,0 +1,272 @@
+#include "vtk/RunTracer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Talmesh
+{
+namespace
+{
+constexpr float infinity = std::numeric_limits<float>::infinity();
+constexpr float none = std::numeric_limits<float>::quiet_NaN();
+/// Pixels beyond which a height makes no difference; floats are exact to a sixteenth here.
+constexpr double farAway = 1.0e6;
+
+float greater(float candidate, float best)
+{
+  return candidate > best ? candidate : best;
+}
+
+float smaller(float candidate, float best)
+{
+  return candidate < best ? candidate : best;
+}
+} // namespace
+
+RunTracer::RunTracer(PixelCounts& target, int columnCount, int rowCount, const Pen& used)
+    : counts(target)
+    , columns(columnCount)
+    , rows(rowCount)
+    , pen(used)
+    , taps(std::max(1, static_cast<int>(std::lround(used.width * used.columnsPerPixel))))
+    , padding(taps / 2 + 1)
+    // The middle of an even number of columns is a border between two of them.
+    , shift(padding + (taps % 2 == 0 ? 0.5 : 0.0))
+{
+  const auto elements = static_cast<std::size_t>(columns + 2 * padding + 1);
+  border.assign(elements + 1, none);
+  lowest.assign(elements, infinity);
+  highest.assign(elements, -infinity);
+  firstElement = static_cast<int>(elements);
+  low.resize(static_cast<std::size_t>(columns));
+  high.resize(static_cast<std::size_t>(columns));
+  if (taps > 1)
+    layTaps();
+}
+
+// Seen from the middle of a column. Samples count as lying in the middle of their elements.
+void RunTracer::layTaps()
+{
+  const bool even = taps % 2 == 0;
+  const int half = taps / 2;
+  for (int step = -half; step <= (even ? half : half + 1); ++step)
+    borderTaps.push_back({padding + step + (even ? 1 : 0), penHeight(even ? step : step - 0.5)});
+  for (int step = -half; step <= (even ? half - 1 : half); ++step)
+    sampleTaps.push_back({padding + step + (even ? 1 : 0), penHeight(even ? step + 0.5 : step)});
+}
+
+// The pen is an ellipse as high as its width says and a whole number of columns wide.
+float RunTracer::penHeight(double distance) const
+{
+  const double part = 2.0 * distance / taps;
+  return static_cast<float>(0.5 * pen.width * std::sqrt(std::max(0.0, 1.0 - part * part)));
+}
+
+void RunTracer::trace(const float* points, const unsigned char* broken, const CountedRun& run,
+                      const PixelMap& map)
+{
+  const double scaleX = map.scaleX * pen.columnsPerPixel;
+  const double shiftX = map.shiftX * pen.columnsPerPixel + shift;
+  for (std::int64_t i = run.first; i < run.first + run.count; ++i)
+  {
+    const Position point{points[2 * i] * scaleX + shiftX,
+                         points[2 * i + 1] * map.scaleY + map.shiftY};
+    if ((broken && broken[i]) || !std::isfinite(point.x) || !std::isfinite(point.y))
+      endPiece();
+    else
+      addPoint(point);
+  }
+  endPiece();
+  finish(static_cast<std::int32_t>(std::min(run.weight, counts.mostRepeats())));
+}
+
+void RunTracer::addPoint(const Position& point)
+{
+  if (pieceLength > 0)
+  {
+    const int step = (point.x > previous.x) - (point.x < previous.x);
+    if (pieceLength == 1 || step * direction < 0)
+    {
+      flushToBits();
+      include(previous);
+    }
+    if (step != 0)
+      direction = step;
+    if (step < 0)
+      segment(point, previous);
+    else
+      segment(previous, point);
+    include(point);
+  }
+  previous = point;
+  ++pieceLength;
+}
+
+void RunTracer::endPiece()
+{
+  if (pieceLength == 1 && pen.dotSize > 0.0)
+    dot(previous);
+  pieceLength = 0;
+  direction = 0;
+}
+
+void RunTracer::segment(const Position& from, const Position& to)
+{
+  const auto end = static_cast<double>(lowest.size());
+  if (to.x < 0.0 || from.x >= end)
+    return;
+  const int first = from.x > 0.0 ? static_cast<int>(from.x) : -1;
+  const int last = to.x < end ? static_cast<int>(to.x) : static_cast<int>(lowest.size());
+  firstElement = std::min(firstElement, std::max(first, 0));
+  lastElement = std::max(lastElement, std::min(last, static_cast<int>(lowest.size()) - 1));
+  if (first == last)
+    return;
+  const double slope = (to.y - from.y) / (to.x - from.x);
+  const double start = from.y - slope * from.x;
+  float* const borders = border.data();
+  for (int element = first + 1; element <= last; ++element)
+    borders[element] = static_cast<float>(std::clamp(start + slope * element, -farAway, farAway));
+}
+
+void RunTracer::include(const Position& point)
+{
+  if (!(point.x >= 0.0 && point.x < static_cast<double>(lowest.size())))
+    return;
+  const auto i = static_cast<std::size_t>(point.x);
+  const auto y = static_cast<float>(std::clamp(point.y, -farAway, farAway));
+  lowest[i] = smaller(y, lowest[i]);
+  highest[i] = greater(y, highest[i]);
+}
+
+void RunTracer::dot(const Position& center)
+{
+  if (!bits)
+    bits.emplace(columns, rows);
+  usesBits = true;
+  const double radius = 0.5 * pen.dotSize;
+  const double middle = center.x - shift;
+  const double reachX = radius * pen.columnsPerPixel;
+  if (middle + reachX < 0.0 || middle - reachX > columns)
+    return;
+  const int end = std::min(columns, static_cast<int>(std::lround(middle + reachX)));
+  for (int column = std::max(0, static_cast<int>(std::lround(middle - reachX))); column < end;
+       ++column)
+  {
+    const double distance = (column + 0.5 - middle) / pen.columnsPerPixel;
+    const double height = std::sqrt(std::max(0.0, radius * radius - distance * distance));
+    const double y = std::clamp(center.y, -farAway, farAway);
+    bits->set(column, static_cast<float>(y - height), static_cast<float>(y + height));
+  }
+}
+
+// Runs come back to a column or break there: what they cover twice must count once.
+void RunTracer::flushToBits()
+{
+  if (lastElement < firstElement)
+    return;
+  if (!bits)
+    bits.emplace(columns, rows);
+  usesBits = true;
+  takeIntervals([this](int column, float from, float to) { bits->set(column, from, to); });
+}
+
+void RunTracer::finish(std::int32_t weight)
+{
+  const auto count = [this, weight](int column, float from, float to)
+  { counts.add(column, from, to, weight); };
+  if (!usesBits)
+    return takeIntervals(count);
+  flushToBits();
+  bits->take(count);
+  usesBits = false;
+}
+
+template <typename Sink>
+void RunTracer::takeIntervals(Sink&& sink)
+{
+  if (lastElement < firstElement)
+    return;
+  const int first = std::max(0, firstElement - padding - taps / 2 - 1);
+  const int end = std::min(columns, lastElement - padding + taps / 2 + 2);
+  if (taps == 1)
+    reachThin(first, end);
+  else
+    reachWide(first, end);
+  for (int column = first; column < end; ++column)
+  {
+    const auto i = static_cast<std::size_t>(column);
+    if (low[i] < high[i])
+      sink(column, low[i], high[i]);
+  }
+  std::fill(border.begin() + firstElement, border.begin() + lastElement + 2, none);
+  std::fill(lowest.begin() + firstElement, lowest.begin() + lastElement + 1, infinity);
+  std::fill(highest.begin() + firstElement, highest.begin() + lastElement + 1, -infinity);
+  firstElement = static_cast<int>(lowest.size());
+  lastElement = -1;
+}
+
+// A line of slope s that crosses a column covers a height of width * sqrt(1 + s^2) there.
+void RunTracer::reachThin(int first, int end)
+{
+  const auto radius = static_cast<float>(0.5 * pen.width);
+  const float* const left = border.data() + padding;
+  const float* const bottom = lowest.data() + padding;
+  const float* const top = highest.data() + padding;
+  float* const lows = low.data();
+  float* const highs = high.data();
+  for (int column = first; column < end; ++column)
+  {
+    const float least = smaller(left[column], smaller(left[column + 1], bottom[column]));
+    const float most = greater(left[column], greater(left[column + 1], top[column]));
+    const float middle = 0.5f * (least + most);
+    const float half = 0.5f * (most - least);
+    const float reach = std::sqrt(radius * radius + half * half);
+    lows[column] = middle - reach;
+    highs[column] = middle + reach;
+  }
+}
+
+void RunTracer::reachWide(int first, int end)
+{
+  float* const lows = low.data();
+  float* const highs = high.data();
+  std::fill(lows + first, lows + end, infinity);
+  std::fill(highs + first, highs + end, -infinity);
+  for (const Tap& tap : borderTaps)
+  {
+    const float* const y = border.data() + tap.offset;
+    for (int column = first; column < end; ++column)
+    {
+      lows[column] = smaller(y[column] - tap.height, lows[column]);
+      highs[column] = greater(y[column] + tap.height, highs[column]);
+    }
+  }
+  for (const Tap& tap : sampleTaps)
+  {
+    const float* const bottom = lowest.data() + tap.offset;
+    const float* const top = highest.data() + tap.offset;
+    for (int column = first; column < end; ++column)
+    {
+      lows[column] = smaller(bottom[column] - tap.height, lows[column]);
+      highs[column] = greater(top[column] + tap.height, highs[column]);
+    }
+  }
+  if (taps % 2 != 0)
+    reachMiddle(first, end);
+}
+
+/// Between two borders, without a sample, a line is as thick as the pen.
+void RunTracer::reachMiddle(int first, int end)
+{
+  const auto radius = static_cast<float>(0.5 * pen.width);
+  const float* const left = border.data() + padding;
+  for (int column = first; column < end; ++column)
+  {
+    const auto i = static_cast<std::size_t>(column);
+    const float middle = 0.5f * (left[column] + left[column + 1]);
+    low[i] = smaller(middle - radius, low[i]);
+    high[i] = greater(middle + radius, high[i]);
+  }
+}
+} // namespace Talmesh

@@ -1,0 +1,107 @@
+#ifndef RunTracer_h
+#define RunTracer_h
+
+#include "vtk/PixelCounts.h"
+#include "vtk/RunBits.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace Talmesh
+{
+/// Where an item's coordinates lie among pixels: pixel = coordinate * scale + shift.
+struct PixelMap
+{
+  double scaleX = 1.0;
+  double shiftX = 0.0;
+  double scaleY = 1.0;
+  double shiftY = 0.0;
+};
+
+/// A polyline of consecutive points, and how often it counts.
+struct CountedRun
+{
+  std::int64_t first = 0;
+  std::int64_t count = 0;
+  std::int64_t weight = 1;
+};
+
+/// Turns polylines into the intervals that they cover in each column of a grid and adds those to
+/// counts. A column may be a part of a pixel's width.
+class RunTracer
+{
+public:
+  struct Pen
+  {
+    double width = 1.0;      ///< pixels
+    double dotSize = 0.0;    ///< pixels across a point that has no line, 0 for none
+    int columnsPerPixel = 1; ///< across; the counts have as many columns
+  };
+
+  /// @param target gets the intervals; it has @p columns columns of @p rows pixels
+  RunTracer(PixelCounts& target, int columns, int rows, const Pen& pen);
+
+  /// Adds a run, every column of it once. Lines break at coordinates that are no finite numbers and
+  /// at points whose entry of @p broken, if there is such a list, is not 0.
+  void trace(const float* points, const unsigned char* broken, const CountedRun& run,
+             const PixelMap& map);
+
+private:
+  /// What reaches a column from beside it, as high as the pen is at that distance.
+  struct Tap
+  {
+    int offset; ///< from the column
+    float height;
+  };
+  struct Position
+  {
+    double x; ///< in elements
+    double y; ///< pixels
+  };
+
+  void layTaps();
+  float penHeight(double distance) const;
+  void addPoint(const Position& point);
+  void endPiece();
+  void segment(const Position& from, const Position& to);
+  void include(const Position& point);
+  void dot(const Position& center);
+  void flushToBits();
+  void finish(std::int32_t weight);
+  template <typename Sink>
+  void takeIntervals(Sink&& sink);
+  void reachThin(int first, int end);
+  void reachWide(int first, int end);
+  void reachMiddle(int first, int end);
+
+  PixelCounts& counts;
+  int columns;
+  int rows;
+  Pen pen;
+  int taps;    ///< columns that the pen's width takes
+  int padding; ///< elements before column 0 and behind the last one
+  double shift;
+  std::vector<Tap> borderTaps;
+  std::vector<Tap> sampleTaps;
+
+  /// Where the present stretch, in which x goes one way, enters each element from the left, and
+  /// what its samples reach within. Elements are columns, or lie half a column beside them.
+  std::vector<float> border;
+  std::vector<float> lowest;
+  std::vector<float> highest;
+  int firstElement;
+  int lastElement = -1;
+
+  std::vector<float> low; ///< of the columns, with the pen's width
+  std::vector<float> high;
+
+  std::optional<RunBits> bits;
+  bool usesBits = false;
+  Position previous{};
+  int pieceLength = 0;
+  int direction = 0;
+};
+} // namespace Talmesh
+
+#endif
