@@ -92,13 +92,6 @@ vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
   return line;
 }
 
-void vtkSelectableChartXY::Update()
-{
-  if (!PlotTransformValid)
-    Talmesh::settleLogScales(this);
-  Superclass::Update();
-}
-
 void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
 {
   if (!table)
@@ -131,6 +124,8 @@ void vtkSelectableChartXY::EndDrag()
 
 void vtkSelectableChartXY::Update()
 {
+  if (!PlotTransformValid)
+    Talmesh::settleLogScales(this);
   Superclass::Update();
   if (!AnnotationLink || SelectionMethod != SELECTION_ROWS)
     return;
