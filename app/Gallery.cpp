@@ -107,6 +107,7 @@ std::string write(const GalleryView& view, const Study& study, const QDir& folde
                   VtkPlotWidget& widget)
 {
   PlotContainer container(nullptr);
+  container.setDiagnosticsShown(false);
   PlotContainer* const own = widget.plotContainer();
   widget.setPlotContainer(&container);
   std::string error = view.draw(study, container);

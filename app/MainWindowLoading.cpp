@@ -150,6 +150,7 @@ void MainWindow::showStudyInPlot(const Study& opened)
   leaveStudy(opened.chart != nullptr);
   // A container remembers much of what it showed before, so each study gets its own.
   container = new PlotContainer(this);
+  container->setDiagnosticsShown(false);
   plot->setPlotContainer(container);
   study = opened;
   showStudy(study, *container);

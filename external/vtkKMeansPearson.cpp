@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <vector>
 
 vtkStandardNewMacro(vtkKMeansPearson);
@@ -28,9 +27,15 @@ bool allFinite(const Values& values)
   return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
 }
 
+// Finite values. Halves, for the difference of two large ones overflows.
 bool isConstant(const Values& values)
 {
-  return std::adjacent_find(values.begin(), values.end(), std::not_equal_to<>()) == values.end();
+  constexpr double roundingNoise = 1e-12;
+  if (values.empty())
+    return true;
+  const auto [low, high] = std::minmax_element(values.begin(), values.end());
+  const double largest = std::max(std::fabs(*low), std::fabs(*high));
+  return *high / 2.0 - *low / 2.0 <= roundingNoise * (largest / 2.0);
 }
 
 // Scaling first keeps the squares of very large and very small values within range.

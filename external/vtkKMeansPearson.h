@@ -9,6 +9,8 @@
 /// opposite ones, whatever their level and amplitude. Where r does not exist: two constant
 /// observations have distance 0, exactly one constant gives 1, and any value that is not finite
 /// gives 2. Observations of different lengths have distance 2; empty ones count as constant.
+/// Values that differ by no more than 1e-12 of the largest magnitude are constant: rounding noise
+/// is no shape.
 class vtkKMeansPearson : public vtkKMeansDistanceFunctor
 {
 public:

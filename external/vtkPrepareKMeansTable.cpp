@@ -3,6 +3,7 @@
 #include "external/PaddedName.h"
 
 #include <vtkDataArray.h>
+#include <vtkDataSetAttributes.h>
 #include <vtkDoubleArray.h>
 #include <vtkInformation.h>
 #include <vtkInformationVector.h>
@@ -33,14 +34,17 @@ int vtkPrepareKMeansTable::RequestData(vtkInformation*, vtkInformationVector** i
     return 1;
 
   const vtkIdType runs = values->GetNumberOfTuples() / this->Stride;
+  vtkDataSetAttributes* rowData = output->GetRowData();
+  rowData->AllocateArrays(this->Stride);
   for (int position = 0; position < this->Stride; ++position)
   {
     vtkNew<vtkDoubleArray> column;
-    column->SetName(Talmesh::paddedName(position, this->Stride).c_str());
     column->SetNumberOfValues(runs);
     for (vtkIdType run = 0; run < runs; ++run)
       column->SetValue(run, values->GetComponent(run * this->Stride + position, 0));
-    output->AddColumn(column);
+    // A table looks for a name among all its columns before it adds a column.
+    rowData->AddArray(column);
+    column->SetName(Talmesh::paddedName(position, this->Stride).c_str());
   }
   return 1;
 }

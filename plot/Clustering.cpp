@@ -3,14 +3,15 @@
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
 #include "external/vtkKMeansPearson.h"
+#include "plot/ColumnList.h"
 #include "plot/Decorations.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/RunTables.h"
 #include "plot/SpectralFeatures.h"
 #include "plot/TableColumns.h"
+#include "vtk/vtkShapeKMeansStatistics.h"
 
-#include <vtkKMeansStatistics.h>
 #include <vtkPlot.h>
 
 #include <algorithm>
@@ -33,43 +34,59 @@ constexpr double fullBrightness = 255.0;
 constexpr unsigned char curveAlpha = 180;
 
 /// What is compared, in both layouts.
-struct Observations
+struct ComparedRuns
 {
-  vtkSmartPointer<vtkTable> byRow;    ///< one row per run
-  vtkSmartPointer<vtkTable> byColumn; ///< one column per run
+  RunMatrix runs;
+  vtkSmartPointer<vtkTable> byColumn; ///< one column per run; null without a run
 };
 
-Observations observe(const PlotState& state, int mode)
+ComparedRuns comparedRuns(const PlotState& state, int mode)
 {
-  Observations result;
-  result.byRow = runsByRow(state);
-  if (result.byRow->GetNumberOfRows() == 0)
-    return result;
-  result.byColumn = transposed(result.byRow);
+  ComparedRuns compared;
+  compared.runs = runsOf(state);
+  if (compared.runs.runs == 0)
+    return compared;
+  compared.byColumn = columnsOfRuns(compared.runs);
   if (mode == phaseMode || mode == magnitudeMode)
   {
     const SpectralFeature feature =
         mode == phaseMode ? SpectralFeature::phase : SpectralFeature::magnitude;
-    result.byColumn = spectralFeatures(result.byColumn, feature);
-    result.byRow = transposed(result.byColumn);
+    compared.byColumn = spectralFeatures(compared.byColumn, feature);
+    compared.runs = runsOfColumns(compared.byColumn);
   }
-  return result;
+  return compared;
 }
 
-/// The observations with two more columns: distance and number of the closest centre.
-vtkSmartPointer<vtkTable> assess(vtkTable* observations, int clusters)
+/// One row per run. A column per position would take a time that grows with its square.
+vtkSmartPointer<vtkTable> observationTable(const RunMatrix& runs)
 {
-  vtkNew<vtkKMeansStatistics> statistics;
+  vtkNew<vtkDoubleArray> column;
+  column->SetName("Run");
+  column->SetNumberOfComponents(runs.positions);
+  // The caller's, for as long as the table.
+  const int keep = 1;
+  column->SetArray(runs.values->GetPointer(0), runs.runs * runs.positions, keep);
+  auto table = vtkSmartPointer<vtkTable>::New();
+  table->AddColumn(column);
+  return table;
+}
+
+/// The cluster of every run; null where the assessment has none.
+vtkSmartPointer<vtkIntArray> closestClusters(const RunMatrix& runs, int clusters)
+{
+  const auto observations = observationTable(runs);
+  vtkNew<vtkShapeKMeansStatistics> statistics;
   vtkNew<vtkKMeansPearson> distance;
   statistics->SetDistanceFunctor(distance);
   statistics->SetInputData(vtkStatisticsAlgorithm::INPUT_DATA, observations);
-  for (int i = 0; i < observations->GetNumberOfColumns(); ++i)
-    statistics->SetColumnStatus(observations->GetColumnName(i), 1);
+  statistics->SetColumnStatus(observations->GetColumnName(0), 1);
   statistics->RequestSelectedColumns();
   statistics->SetAssessOption(true);
   statistics->SetDefaultNumberOfClusters(clusters);
   statistics->Update();
-  return statistics->GetOutput(vtkStatisticsAlgorithm::OUTPUT_DATA);
+  vtkTable* assessed = statistics->GetOutput(vtkStatisticsAlgorithm::OUTPUT_DATA);
+  const int last = static_cast<int>(assessed->GetNumberOfColumns()) - 1;
+  return vtkIntArray::SafeDownCast(columnAt(assessed, last));
 }
 
 /// Runs per cluster. The counts of the clustering itself are those before the last assignment.
@@ -81,25 +98,28 @@ std::vector<double> cardinalities(vtkIntArray* membership, vtkIdType clusters)
   return counts;
 }
 
-vtkSmartPointer<vtkTable> meanCurves(vtkTable* assessed, vtkIntArray* membership, int clusters)
+vtkSmartPointer<vtkTable> meanCurves(const RunMatrix& runs, vtkIntArray* membership, int clusters)
 {
-  const vtkIdType runs = membership->GetNumberOfTuples();
-  const vtkIdType count = std::min<vtkIdType>(clusters, std::max(runs, longestEmptyList));
-  const int positions = static_cast<int>(assessed->GetNumberOfColumns()) - 2;
+  const vtkIdType count = std::min<vtkIdType>(clusters, std::max(runs.runs, longestEmptyList));
   const std::vector<double> members = cardinalities(membership, count);
-  auto curves = vtkSmartPointer<vtkTable>::New();
+  ColumnList curves;
+  std::vector<double*> sums;
   for (vtkIdType cluster = 0; cluster < count; ++cluster)
-    curves->AddColumn(makeColumn(std::to_string(cluster),
-                                 std::vector<double>(static_cast<std::size_t>(positions), 0.0)));
-  for (vtkIdType run = 0; run < runs; ++run)
   {
-    const int cluster = membership->GetValue(run);
-    double* curve = doubleColumn(curves, cluster)->GetPointer(0);
-    for (int position = 0; position < positions; ++position)
-      curve[position] += doubleColumn(assessed, position)->GetValue(run) /
-                         members[static_cast<std::size_t>(cluster)];
+    auto curve = vtkSmartPointer<vtkDoubleArray>::New();
+    curve->SetNumberOfValues(runs.positions);
+    curve->Fill(0.0);
+    sums.push_back(curve->GetPointer(0));
+    curves.add(std::to_string(cluster), curve);
   }
-  return curves;
+  for (vtkIdType run = 0; run < runs.runs; ++run)
+  {
+    const auto cluster = static_cast<std::size_t>(membership->GetValue(run));
+    const double* values = runs.run(run);
+    for (int position = 0; position < runs.positions; ++position)
+      sums[cluster][position] += values[position] / members[cluster];
+  }
+  return curves.makeTable();
 }
 
 void drawCurves(PlotState& state, vtkTable* curves)
@@ -124,32 +144,32 @@ void reportNoMembership()
             << std::endl;
 }
 
+void reportSizes(vtkIntArray* membership, vtkTable* curves)
+{
+  std::cout << membership->GetNumberOfTuples() << std::endl;
+  std::cout << curves->GetNumberOfColumns() << "  " << curves->GetNumberOfRows() << std::endl;
+}
+
 } // namespace
 
 void clusterTimeSeries(PlotState& state, int clusters, int mode)
 {
   state.clusterMembership = nullptr;
-  const Observations observed = observe(state, mode);
-  vtkSmartPointer<vtkTable> assessed;
-  if (clusters > 0 && observed.byColumn)
-  {
-    assessed = assess(observed.byRow, clusters);
-    const int last = static_cast<int>(assessed->GetNumberOfColumns()) - 1;
-    state.clusterMembership = vtkIntArray::SafeDownCast(columnAt(assessed, last));
-  }
+  const ComparedRuns compared = comparedRuns(state, mode);
+  if (clusters > 0 && compared.byColumn)
+    state.clusterMembership = closestClusters(compared.runs, clusters);
   if (!state.clusterMembership)
   {
     reportNoMembership();
     return;
   }
-  state.decorationTable = meanCurves(assessed, state.clusterMembership, clusters);
-  const auto time = copiedTime(state, observed.byColumn->GetNumberOfRows());
+  state.decorationTable = meanCurves(compared.runs, state.clusterMembership, clusters);
+  const auto time = copiedTime(state, compared.runs.positions);
   state.decorationTable->AddColumn(time);
-  observed.byColumn->AddColumn(time);
-  std::cout << state.clusterMembership->GetNumberOfTuples() << std::endl;
-  std::cout << observed.byColumn->GetNumberOfColumns() << "  "
-            << observed.byColumn->GetNumberOfRows() << std::endl;
-  drawCurves(state, observed.byColumn);
+  compared.byColumn->AddColumn(time);
+  if (state.diagnosticsShown)
+    reportSizes(state.clusterMembership, compared.byColumn);
+  drawCurves(state, compared.byColumn);
 }
 
 void appendClusterSelections(const PlotState& state, const std::string& prefix,

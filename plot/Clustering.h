@@ -12,7 +12,7 @@ namespace Talmesh::plot
 struct PlotState;
 
 /// Sorts the runs into clusters by the shape of the first y column: k-means with the distance of
-/// vtkKMeansPearson, the first runs as first centres, one run per observation. `mode` 2 compares
+/// vtkKMeansPearson, the first runs of different shape as first centres. `mode` 2 compares
 /// phase spectra, 3 magnitude spectra, any other value the time series. Equal data give equal
 /// clusters.
 ///
@@ -22,7 +22,7 @@ struct PlotState;
 /// listed, or one per run if that is more: the others are empty, and a mistyped number of clusters
 /// must not exhaust the memory. The compared curves are added to the XY chart, when there is one,
 /// in the colours of their clusters. Two lines on standard output tell the number of runs and the
-/// size of the table of curves.
+/// size of the table of curves, unless `diagnosticsShown` is off.
 ///
 /// With fewer than one cluster or without a whole run there is no membership afterwards, and
 /// standard error says so.

@@ -51,6 +51,7 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.horizontalGutter = from.horizontalGutter;
   to.verticalGutter = from.verticalGutter;
   to.useIndexForXSeries = from.useIndexForXSeries;
+  to.diagnosticsShown = from.diagnosticsShown;
 }
 
 } // namespace

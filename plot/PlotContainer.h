@@ -203,6 +203,11 @@ public:
 
   /// @name Statistics
   /// @{
+  /// Whether remarks on computed tables go to standard output: the sizes of a clustering, and
+  /// parameters with fewer values than others. True at first; a program that shows its results
+  /// otherwise switches them off.
+  bool getDiagnosticsShown() const;
+  void setDiagnosticsShown(bool show);
   /// Builds the rank and density tables of the settings' parameter columns of `source` in slots
   /// `tableIndex` and `tableIndex` + 1 of the derived tables.
   void generateRankedParameters(vtkSmartPointer<vtkTable> source, std::size_t tableIndex);

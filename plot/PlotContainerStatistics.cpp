@@ -8,6 +8,16 @@
 #include "plot/RankedTables.h"
 #include "plot/SelectionFlags.h"
 
+bool PlotContainer::getDiagnosticsShown() const
+{
+  return d->diagnosticsShown;
+}
+
+void PlotContainer::setDiagnosticsShown(bool show)
+{
+  d->diagnosticsShown = show;
+}
+
 void PlotContainer::generateRankedParameters(vtkSmartPointer<vtkTable> source,
                                              std::size_t tableIndex)
 {

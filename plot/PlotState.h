@@ -109,6 +109,8 @@ struct PlotState
   bool useIndexForXSeries = false;
   /// One test result per ranked parameter; empty before a test.
   std::vector<KsStatistics> ksResults;
+  /// Whether remarks on computed tables go to standard output.
+  bool diagnosticsShown = true;
   /// Quartiles of the runs, one row per position within a run.
   vtkSmartPointer<vtkTable> quartileTable;
 

@@ -1,5 +1,6 @@
 #include "plot/Quartiles.h"
 
+#include "external/PaddedName.h"
 #include "external/PlotMetaData.h"
 #include "plot/BorrowedColumn.h"
 #include "plot/PlotState.h"
@@ -7,22 +8,16 @@
 #include "plot/TableColumns.h"
 #include "stats/Quantile.h"
 
-#include <vtkMultiBlockDataSet.h>
-#include <vtkOrderStatistics.h>
-#include <vtkTransposeTable.h>
+#include <vtkStringArray.h>
+#include <vtkTable.h>
 
 #include <boost/make_shared.hpp>
-
-#include <algorithm>
-#include <cmath>
 
 namespace Talmesh::plot
 {
 
 namespace
 {
-
-constexpr int intervals = 4;
 
 /// Columns of the summary.
 enum SummaryColumn
@@ -34,62 +29,28 @@ enum SummaryColumn
   maximumColumn = 5
 };
 
-/// Five rows, one per quantile; the first column has their names, every further one is a position.
-vtkSmartPointer<vtkTable> quantileModel(vtkTable* runs)
+/// A row per position; none without a run.
+vtkSmartPointer<vtkTable> summaryOf(const RunMatrix& runs)
 {
-  vtkNew<vtkOrderStatistics> statistics;
-  statistics->SetInputData(vtkStatisticsAlgorithm::INPUT_DATA, runs);
-  for (int i = 0; i < runs->GetNumberOfColumns(); ++i)
-    statistics->AddColumn(runs->GetColumnName(i));
-  statistics->SetLearnOption(true);
-  statistics->SetDeriveOption(true);
-  statistics->SetNumberOfIntervals(intervals);
-  // The averaging form rounds n p instead of testing whether it is whole, which is wrong for odd n.
-  // There n p is never whole, so that there is nothing to average.
-  const bool averaged = runs->GetNumberOfRows() % 2 == 0;
-  statistics->SetQuantileDefinition(averaged ? vtkOrderStatistics::InverseCDFAveragedSteps
-                                             : vtkOrderStatistics::InverseCDF);
-  statistics->Update();
-  auto* model = vtkMultiBlockDataSet::SafeDownCast(
-      statistics->GetOutputDataObject(vtkStatisticsAlgorithm::OUTPUT_MODEL));
-  return vtkTable::SafeDownCast(model->GetBlock(model->GetNumberOfBlocks() - 1));
-}
-
-/// VTK counts NaN as a neighbour of whatever it meets. Summarises such a position anew without.
-void summariseWithoutNan(vtkTable* summary, vtkIdType position, vtkDoubleArray* values)
-{
-  std::vector<double> numbers;
-  const double* first = values->GetPointer(0);
-  std::copy_if(first, first + values->GetNumberOfTuples(), std::back_inserter(numbers),
-               [](double value) { return !std::isnan(value); });
-  if (static_cast<vtkIdType>(numbers.size()) == values->GetNumberOfTuples())
-    return;
-  std::sort(numbers.begin(), numbers.end());
-  for (int i = 0; i <= intervals; ++i)
-    doubleColumn(summary, minimumColumn + i)
-        ->SetValue(position, stats::averagedQuantile(numbers, static_cast<double>(i) / intervals));
-}
-
-vtkSmartPointer<vtkTable> summaryOf(vtkTable* runs)
-{
-  vtkNew<vtkTransposeTable> transpose;
-  transpose->SetInputData(quantileModel(runs));
-  transpose->SetUseIdColumn(true);
-  transpose->Update();
-  vtkSmartPointer<vtkTable> summary = transpose->GetOutput();
-  for (int i = 0; i < runs->GetNumberOfColumns(); ++i)
-    summariseWithoutNan(summary, i, doubleColumn(runs, i));
-  return summary;
-}
-
-vtkSmartPointer<vtkTable> emptySummary()
-{
+  std::vector<stats::FiveNumbers> numbers;
+  if (runs.runs > 0)
+    numbers = stats::fiveNumbersOfPositions(runs.run(0), static_cast<std::size_t>(runs.runs),
+                                            static_cast<std::size_t>(runs.positions));
   auto summary = vtkSmartPointer<vtkTable>::New();
   vtkNew<vtkStringArray> names;
   names->SetName("Quantile");
+  for (std::size_t position = 0; position < numbers.size(); ++position)
+    names->InsertNextValue(paddedName(static_cast<long long>(position), runs.positions));
   summary->AddColumn(names);
+  std::size_t quarter = 0;
   for (const char* name : {"Minimum", "First Quartile", "Median", "Third Quartile", "Maximum"})
-    summary->AddColumn(makeColumn(name, {}));
+  {
+    std::vector<double> values;
+    for (const stats::FiveNumbers& five : numbers)
+      values.push_back(five[quarter]);
+    summary->AddColumn(makeColumn(name, values));
+    ++quarter;
+  }
   return summary;
 }
 
@@ -125,9 +86,7 @@ void generateQuartiles(PlotState& state)
 {
   if (state.metaData->getStride() < 1)
     return;
-  vtkSmartPointer<vtkTable> runs = runsByRow(state);
-  vtkSmartPointer<vtkTable> summary =
-      runs->GetNumberOfRows() > 0 ? summaryOf(runs) : emptySummary();
+  vtkSmartPointer<vtkTable> summary = summaryOf(runsOf(state));
   addPairs(summary, "Range", minimumColumn, maximumColumn);
   addPairs(summary, "QRange", lowerColumn, upperColumn);
   summary->AddColumn(timeColumn(state, summary->GetNumberOfRows()));

@@ -2,41 +2,68 @@
 
 #include "external/PaddedName.h"
 #include "external/PlotMetaData.h"
-#include "external/vtkPrepareKMeansTable.h"
+#include "plot/ColumnList.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 
-#include <vtkTransposeTable.h>
-
-#include <string>
+#include <algorithm>
 
 namespace Talmesh::plot
 {
 
-vtkSmartPointer<vtkTable> runsByRow(const PlotState& state)
+namespace
 {
-  const std::string values = columnName(state.table, firstOf(state.metaData->yColumns));
-  if (values.empty())
-    return vtkSmartPointer<vtkTable>::New();
-  vtkNew<vtkPrepareKMeansTable> regroup;
-  regroup->SetInputData(state.table);
-  regroup->SetInputArrayToProcess(0, 0, 0, vtkDataObject::FIELD_ASSOCIATION_ROWS, values.c_str());
-  regroup->SetStride(state.metaData->getStride());
-  regroup->Update();
-  return regroup->GetOutput();
+
+vtkSmartPointer<vtkDoubleArray> firstComponents(vtkDataArray* column)
+{
+  auto values = vtkSmartPointer<vtkDoubleArray>::New();
+  values->SetNumberOfValues(column->GetNumberOfTuples());
+  for (vtkIdType row = 0; row < column->GetNumberOfTuples(); ++row)
+    values->SetValue(row, column->GetComponent(row, 0));
+  return values;
 }
 
-vtkSmartPointer<vtkTable> transposed(vtkTable* table)
+} // namespace
+
+RunMatrix runsOf(const PlotState& state)
 {
-  vtkNew<vtkTransposeTable> transpose;
-  transpose->SetInputData(table);
-  transpose->SetAddIdColumn(false);
-  transpose->Update();
-  vtkSmartPointer<vtkTable> result = transpose->GetOutput();
-  const vtkIdType columns = result->GetNumberOfColumns();
-  for (vtkIdType i = 0; i < columns; ++i)
-    result->GetColumn(i)->SetName(paddedName(i, columns).c_str());
-  return result;
+  vtkDataArray* column = plottableColumn(state.table, firstOf(state.metaData->yColumns));
+  const int stride = state.metaData->getStride();
+  if (!column || stride < 1 || column->GetNumberOfTuples() < stride)
+    return {};
+  auto* doubles = vtkDoubleArray::SafeDownCast(column);
+  const bool usable = doubles && doubles->GetNumberOfComponents() == 1;
+  return {usable ? vtkSmartPointer<vtkDoubleArray>(doubles) : firstComponents(column),
+          column->GetNumberOfTuples() / stride, stride};
+}
+
+RunMatrix runsOfColumns(vtkTable* table)
+{
+  RunMatrix matrix;
+  matrix.runs = table->GetNumberOfColumns();
+  matrix.positions = static_cast<int>(table->GetNumberOfRows());
+  matrix.values = vtkSmartPointer<vtkDoubleArray>::New();
+  matrix.values->SetNumberOfValues(matrix.runs * matrix.positions);
+  for (int run = 0; run < matrix.runs; ++run)
+  {
+    const double* values = doubleColumn(table, run)->GetPointer(0);
+    std::copy(values, values + matrix.positions,
+              matrix.values->GetPointer(vtkIdType(run) * matrix.positions));
+  }
+  return matrix;
+}
+
+vtkSmartPointer<vtkTable> columnsOfRuns(const RunMatrix& runs)
+{
+  ColumnList columns;
+  for (vtkIdType run = 0; run < runs.runs; ++run)
+  {
+    auto column = vtkSmartPointer<vtkDoubleArray>::New();
+    column->SetNumberOfValues(runs.positions);
+    std::copy(runs.run(run), runs.run(run) + runs.positions, column->GetPointer(0));
+    columns.add(paddedName(run, runs.runs), column);
+  }
+  return columns.makeTable();
 }
 
 vtkSmartPointer<vtkDoubleArray> copiedTime(const PlotState& state, vtkIdType count)

@@ -11,14 +11,27 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// The first y column regrouped by run: one row per whole run, one double column per position
-/// within a run, named by its position with padding zeros. Without a whole run, or when the column
-/// is missing, unnamed or not numeric, there are neither rows nor columns.
-vtkSmartPointer<vtkTable> runsByRow(const PlotState& state);
+/// Whole runs of one quantity, one after another, `positions` values each.
+struct RunMatrix
+{
+  /// Null without a run.
+  vtkSmartPointer<vtkDoubleArray> values;
+  vtkIdType runs = 0;
+  int positions = 0;
 
-/// `table`, whose columns are all doubles, with rows and columns exchanged. The columns are doubles
-/// named by their position with padding zeros.
-vtkSmartPointer<vtkTable> transposed(vtkTable* table);
+  const double* run(vtkIdType index) const { return values->GetPointer(index * positions); }
+};
+
+/// The first y column as runs: the column itself where it is a vtkDoubleArray of one component,
+/// else a copy of its first component. No run where there is no whole one, and when the column is
+/// missing, unnamed or not numeric.
+RunMatrix runsOf(const PlotState& state);
+
+/// Runs from a table with a double column for each.
+RunMatrix runsOfColumns(vtkTable* table);
+
+/// A table with a double column for each run, named by its number with padding zeros.
+vtkSmartPointer<vtkTable> columnsOfRuns(const RunMatrix& runs);
 
 /// A column "Time" with a copy of the first `count` values of the first x column. Where that has no
 /// number, the position within the run stands in.

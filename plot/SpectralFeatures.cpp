@@ -5,6 +5,7 @@
 #include <vtkTable.h>
 #include <vtkTableFFT.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -24,6 +25,36 @@ vtkSmartPointer<vtkTable> namedByPosition(vtkTable* curves)
   return table;
 }
 
+double magnitudeAt(vtkDoubleArray* spectrum, vtkIdType row)
+{
+  const double real = spectrum->GetComponent(row, 0);
+  const double imaginary = spectrum->GetComponent(row, 1);
+  return std::sqrt(real * real + imaginary * imaginary);
+}
+
+/// The same without overflow.
+double sizeAt(vtkDoubleArray* spectrum, vtkIdType row)
+{
+  return std::hypot(spectrum->GetComponent(row, 0), spectrum->GetComponent(row, 1));
+}
+
+/// @param noise size of what counts as nothing
+double phaseAt(vtkDoubleArray* spectrum, vtkIdType row, double noise)
+{
+  if (sizeAt(spectrum, row) <= noise)
+    return 0.0;
+  return std::atan2(spectrum->GetComponent(row, 1), spectrum->GetComponent(row, 0));
+}
+
+/// What rounding may leave of a frequency that the curve does not have.
+double roundingNoise(vtkDoubleArray* spectrum)
+{
+  double largest = 0.0;
+  for (vtkIdType row = 0; row < spectrum->GetNumberOfTuples(); ++row)
+    largest = std::max(largest, sizeAt(spectrum, row));
+  return 1e-12 * largest;
+}
+
 } // namespace
 
 vtkSmartPointer<vtkTable> spectralFeatures(vtkTable* curves, SpectralFeature feature)
@@ -39,14 +70,10 @@ vtkSmartPointer<vtkTable> spectralFeatures(vtkTable* curves, SpectralFeature fea
     vtkNew<vtkDoubleArray> column;
     column->SetName(std::to_string(i).c_str());
     column->SetNumberOfValues(spectrum->GetNumberOfTuples());
+    const double noise = roundingNoise(spectrum);
     for (vtkIdType row = 0; row < spectrum->GetNumberOfTuples(); ++row)
-    {
-      const double real = spectrum->GetComponent(row, 0);
-      const double imaginary = spectrum->GetComponent(row, 1);
-      column->SetValue(row, feature == SpectralFeature::phase
-                                ? std::atan2(imaginary, real)
-                                : std::sqrt(real * real + imaginary * imaginary));
-    }
+      column->SetValue(row, feature == SpectralFeature::phase ? phaseAt(spectrum, row, noise)
+                                                              : magnitudeAt(spectrum, row));
     features->AddColumn(column);
   }
   return features;

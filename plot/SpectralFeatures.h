@@ -11,7 +11,9 @@ namespace Talmesh::plot
 /// What of a complex number is kept.
 enum class SpectralFeature
 {
-  phase,    ///< atan2 of imaginary and real part, radians in [-pi, pi]
+  /// atan2 of imaginary and real part, radians in [-pi, pi]; 0 where the modulus is no more than
+  /// 1e-12 of the largest one, which is rounding noise
+  phase,
   magnitude ///< modulus
 };
 

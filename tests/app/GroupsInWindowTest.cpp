@@ -42,6 +42,13 @@ TEST_F(GroupsInWindow, AreListedWithTheirColoursAndCounts)
   }
 }
 
+TEST_F(GroupsInWindow, AreFormedWithoutAWordOnStandardOutput)
+{
+  CapturedOutput output(std::cout);
+  container().clusterTimeSeries(2, 0);
+  EXPECT_EQ(output.text(), "");
+}
+
 TEST_F(GroupsInWindow, ColourTheRunsBehindTheirHighlight)
 {
   group(2);

@@ -106,6 +106,13 @@ TEST(KMeansPearson, TwoConstantRunsCoincide)
   EXPECT_EQ(distance({}, {}), 0.0);
 }
 
+TEST(KMeansPearson, RoundingNoiseIsNoShape)
+{
+  EXPECT_EQ(distance({0.1, 0.1 + 1e-16, 0.1}, {3, 3, 3 + 5e-16}), 0.0);
+  EXPECT_EQ(distance({1e300, 1e300 * (1 + 1e-15), 1e300}, {1, 2, 3}), 1.0);
+  EXPECT_NEAR(distance({1, 1 + 1e-9, 1 + 2e-9}, {1, 2, 3}), 0.0, 1e-6);
+}
+
 TEST(KMeansPearson, ExactlyOneConstantRunIsUnrelated)
 {
   EXPECT_EQ(distance({0.1, 0.1, 0.1}, {1, 2, 3}), 1.0);

@@ -1,6 +1,9 @@
+#include "support/VtkErrors.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <limits>
 
@@ -56,6 +59,47 @@ TEST_F(ClusteringLimits, RunsOfOnePointAreOneClusterInEveryMode)
   EXPECT_NEAR(mean(0)[0], 2.0, 1e-12);
   cluster(1, 2);
   EXPECT_NEAR(mean(0)[0], std::acos(-1.0) / 3.0, 1e-12);
+}
+
+TEST_F(ClusteringLimits, SteadyRunsAreOneClusterWhateverTheirRoundingNoise)
+{
+  std::vector<double> values;
+  for (int run = 0; run < 8; ++run)
+  {
+    for (int point = 0; point < 10; ++point)
+      values.push_back((1.0 + 0.1 * run) * (1.0 + 1e-16 * ((7 * run + 3 * point) % 5)));
+  }
+  for (int point = 0; point < 10; ++point)
+    values.push_back(point);
+  setRuns(values, 10);
+  const VtkErrors reports;
+  EXPECT_EQ(cluster(3), (std::vector<int>{0, 0, 0, 0, 0, 0, 0, 0, 1}));
+  EXPECT_EQ(reports.text(), "") << "there are no three shapes, which is nobody's fault";
+}
+
+TEST_F(ClusteringLimits, TakeATimeThatGrowsWithTheLengthOfTheRuns)
+{
+  constexpr int length = 64000;
+  std::vector<double> values;
+  for (int i = 0; i < 5 * length; ++i)
+    values.push_back(std::sin(i % length * (i / length % 2 == 0 ? 0.001 : 0.002)));
+  setRuns(values, length);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(cluster(2), (std::vector<int>{0, 1, 0, 1, 0}));
+  // A column for each position, found by its name, took above a minute.
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+TEST_F(ClusteringLimits, RemarksOnStandardOutputCanBeSwitchedOff)
+{
+  setRuns({1, 2, 3, 3, 1, 2}, 3);
+  EXPECT_TRUE(container.getDiagnosticsShown());
+  container.setDiagnosticsShown(false);
+  EXPECT_EQ(cluster(2), (std::vector<int>{0, 1}));
+  EXPECT_EQ(output, "");
+  CapturedOutput standardOutput(std::cout);
+  const PlotContainer copy(container);
+  EXPECT_FALSE(copy.getDiagnosticsShown());
 }
 
 } // namespace

@@ -61,6 +61,24 @@ TEST_F(SpectralClustering, ByPhasesIgnoresTheAmplitudeAndSeesTheShift)
   }
 }
 
+TEST_F(SpectralClustering, TakesSteadyRunsForOneShape)
+{
+  Values values;
+  for (int run = 0; run < 8; ++run)
+  {
+    for (int i = 0; i < 37; ++i)
+      values.push_back((1.0 + 0.1 * run) * (1.0 + 1e-16 * ((7 * run + 3 * i) % 5)));
+  }
+  for (int run = 1; run < 3; ++run)
+  {
+    for (int i = 0; i < 37; ++i)
+      values.push_back(std::sin(0.4 * run * i));
+  }
+  setRuns(values, 37);
+  for (const int mode : {2, 3})
+    EXPECT_EQ(cluster(3, mode), (std::vector<int>{0, 0, 0, 0, 0, 0, 0, 0, 1, 2})) << mode;
+}
+
 TEST(SpectralFeatures, AreThoseOfTheFullTransform)
 {
   using namespace Talmesh::plot;

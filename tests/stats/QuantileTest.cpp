@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <vector>
 
 using Talmesh::stats::averagedQuantile;
+using Talmesh::stats::FiveNumbers;
+using Talmesh::stats::fiveNumbers;
+using Talmesh::stats::fiveNumbersOfPositions;
 
 TEST(Quantile, AgreesWithAReferenceForEveryCountUpToForty)
 {
@@ -66,4 +70,56 @@ TEST(Quantile, IsNotANumberWithoutValuesOrProbability)
 {
   EXPECT_TRUE(std::isnan(averagedQuantile({}, 0.5)));
   EXPECT_TRUE(std::isnan(averagedQuantile({1, 2}, std::numeric_limits<double>::quiet_NaN())));
+}
+
+TEST(Quantile, AveragesTheLargestAndTheSmallestNumbers)
+{
+  EXPECT_DOUBLE_EQ(averagedQuantile({1e308, 1.5e308}, 0.5), 1.25e308);
+  EXPECT_DOUBLE_EQ(averagedQuantile({-1.6e308, -1.2e308}, 0.5), -1.4e308);
+  EXPECT_EQ(averagedQuantile({-1.7e308, 1.7e308}, 0.5), 0.0);
+  EXPECT_EQ(averagedQuantile({5e-324, 5e-324}, 0.5), 5e-324);
+}
+
+TEST(FiveNumbers, AreTheQuartilesOfValuesInAnyOrder)
+{
+  // Sorting first is the plain way.
+  std::vector<double> values;
+  for (int count = 1; count <= 60; ++count)
+  {
+    values.push_back((37 * count) % 23 - 7.5);
+    std::vector<double> sorted = values;
+    std::sort(sorted.begin(), sorted.end());
+    std::vector<double> shuffled = values;
+    const FiveNumbers numbers = fiveNumbers(shuffled);
+    for (int quarter = 0; quarter <= 4; ++quarter)
+      EXPECT_EQ(numbers[static_cast<std::size_t>(quarter)], averagedQuantile(sorted, quarter / 4.0))
+          << count << ", " << quarter;
+  }
+}
+
+TEST(FiveNumbers, LeaveNanOut)
+{
+  std::vector<double> values = {3, std::nan(""), 1, std::nan(""), 2};
+  EXPECT_EQ(fiveNumbers(values), (FiveNumbers{1, 1, 2, 3, 3}));
+  values = {std::nan("")};
+  EXPECT_TRUE(std::isnan(fiveNumbers(values)[2]));
+  values = {};
+  EXPECT_TRUE(std::isnan(fiveNumbers(values)[0]));
+}
+
+TEST(FiveNumbers, OfPositionsGoAcrossTheRuns)
+{
+  std::vector<double> runs;
+  for (int run = 0; run < 5; ++run)
+  {
+    for (int position = 0; position < 19; ++position)
+      runs.push_back(100.0 * position + (run * 2) % 5);
+  }
+  const std::vector<FiveNumbers> summary = fiveNumbersOfPositions(runs.data(), 5, 19);
+  ASSERT_EQ(summary.size(), 19U);
+  for (std::size_t position = 0; position < 19; ++position)
+  {
+    const double base = 100.0 * static_cast<double>(position);
+    EXPECT_EQ(summary[position], (FiveNumbers{base, base + 1, base + 2, base + 3, base + 4}));
+  }
 }
