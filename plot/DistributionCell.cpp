@@ -75,6 +75,9 @@ void dressLeftAxis(const PlotState& state, vtkAxis* axis)
 
 std::string pValueLabel(double pValue)
 {
+  // A stream writes the sign bit of a NaN, which means nothing.
+  if (std::isnan(pValue))
+    return "p = nan";
   std::ostringstream text;
   text << "p = " << std::setprecision(2);
   if (pValue < 0.01 && pValue != 0.0)

@@ -130,9 +130,12 @@ double miller(double d, unsigned long n)
   {
     const double logChoose = logFactorial - logGamma(n - j) - logGamma(j);
     const double fraction = static_cast<double>(j) / size;
-    // For j = 0 the unsigned factor wraps to 2^64 - 1, which removes that term from the sum.
-    sum += std::exp(logChoose + static_cast<double>(j - 1) * std::log(d + fraction) +
-                    static_cast<double>(n - j) * std::log(1.0 - d - fraction));
+    const double base = 1.0 - d - fraction;
+    // For j = 0 the unsigned factor wraps to 2^64 - 1, which removes that term from the sum. A base
+    // of 0 gives no term; for d = 0 its exponent is 0 as well, and the logarithm would make it NaN.
+    if (base != 0.0)
+      sum += std::exp(logChoose + static_cast<double>(j - 1) * std::log(d + fraction) +
+                      static_cast<double>(n - j) * std::log(base));
     if (j == last)
       return 2.0 * d * sum;
   }
@@ -140,8 +143,8 @@ double miller(double d, unsigned long n)
 
 double pelzGood(double d, unsigned long n)
 {
-  if (d < 0.0)
-    return 0.0;
+  if (d < 0.0 || d > 1.0)
+    return d < 0.0 ? 0.0 : 1.0;
   const double z = d * std::sqrt(static_cast<double>(n));
   const double odd = oddSeries(z);
   if (odd == 0.0)

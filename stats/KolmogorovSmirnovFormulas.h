@@ -17,8 +17,9 @@ namespace Talmesh::stats
 double durbin(double d, unsigned long n);
 
 /// Two-sided upper tail P(D_n >= d), approximated as twice the one-sided tail (Miller 1956).
-/// The sum runs from j = 1: the term (1 - d)^n of j = 0 is not part of it. n = 0 gives NaN, and so
-/// does a last term whose base 1 - d - j/n is rounded to below zero.
+/// The sum runs from j = 1: the term (1 - d)^n of j = 0 is not part of it. So it is 0 for d = 0, by
+/// its factor 2 d, where the tail is 1. n = 0 gives NaN, and so does a last term whose base
+/// 1 - d - j/n is rounded to below zero.
 /// @throws std::overflow_error when a log-gamma value overflows.
 double miller(double d, unsigned long n);
 

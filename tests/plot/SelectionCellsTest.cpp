@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 
 #include "SelectionPageFixture.h"
 
@@ -199,6 +200,9 @@ TEST(PValueLabel, WritesSmallValuesInScientificNotation)
   EXPECT_EQ(Talmesh::plot::pValueLabel(0.5), "p = 0.50");
   EXPECT_EQ(Talmesh::plot::pValueLabel(0.001), "p = 1.00e-03");
   EXPECT_EQ(Talmesh::plot::pValueLabel(0.0), "p = 0.00");
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_EQ(Talmesh::plot::pValueLabel(nan), "p = nan");
+  EXPECT_EQ(Talmesh::plot::pValueLabel(-nan), "p = nan") << "the sign of a NaN means nothing";
   EXPECT_EQ(Talmesh::plot::pValueLabel(0.01), "p = 0.01");
   EXPECT_EQ(Talmesh::plot::pValueLabel(1.0), "p = 1.00");
 }

@@ -75,6 +75,12 @@ TEST(Miller, IsNotANumberWhereRoundingMakesTheLastBaseNegative)
   EXPECT_NEAR(miller(0.75, 4), 0.0, 0.0);
 }
 
+TEST(Miller, IsZeroForNoDistanceByItsFactor)
+{
+  for (const unsigned long n : {1UL, 2UL, 10UL, 1000UL})
+    EXPECT_EQ(miller(0.0, n), 0.0) << n;
+}
+
 TEST(Miller, AnswersOutsideItsDomain)
 {
   EXPECT_EQ(miller(-0.5, 10), 1.0);
@@ -122,6 +128,14 @@ TEST(PelzGood, IsZeroWhereAllTermsUnderflow)
   EXPECT_EQ(pelzGood(1e-4, 200), 0.0);
   EXPECT_EQ(pelzGood(0.5, 0), 0.0);
   EXPECT_EQ(pelzGood(-0.5, 200), 0.0);
+}
+
+TEST(PelzGood, IsCertainBeyondTheLargestDistance)
+{
+  EXPECT_EQ(pelzGood(infinity, 150), 1.0);
+  EXPECT_EQ(pelzGood(1.5, 150), 1.0);
+  EXPECT_EQ(pelzGood(1e200, 1), 1.0);
+  EXPECT_EQ(pelzGood(-infinity, 150), 0.0);
 }
 
 TEST(PelzGood, EndsForEveryInput)
