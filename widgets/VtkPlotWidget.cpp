@@ -5,13 +5,29 @@
 #include "widgets/PdfContextDevice.h"
 #include "widgets/TemporaryContextDevice.h"
 
+#include <vtkCallbackCommand.h>
 #include <vtkContextScene.h>
 #include <vtkContextView.h>
 #include <vtkGL2PSExporter.h>
 #include <vtkGenericOpenGLRenderWindow.h>
+#include <vtkInteractorObserver.h>
 #include <vtkNew.h>
+#include <vtkRenderWindowInteractor.h>
 
 #include <QResizeEvent>
+
+namespace
+{
+
+/// Letters mean wireframe, stereo, flying to a point and the like to VTK: nothing to a chart but
+/// warnings that there is no renderer. A style that is observed leaves them to its observer.
+void ignoreLetters(vtkRenderWindowInteractor* interactor)
+{
+  const vtkNew<vtkCallbackCommand> nothing;
+  interactor->GetInteractorStyle()->AddObserver(vtkCommand::CharEvent, nothing);
+}
+
+} // namespace
 
 VtkPlotWidget::VtkPlotWidget(QWidget* parent)
     : QVTKOpenGLNativeWidget(parent)
@@ -25,6 +41,7 @@ VtkPlotWidget::VtkPlotWidget(QWidget* parent)
   setRenderWindow(window);
   view->SetRenderWindow(window);
   view->SetInteractor(interactor());
+  ignoreLetters(interactor());
   window->LineSmoothingOn();
 }
 

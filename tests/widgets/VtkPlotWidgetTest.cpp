@@ -5,6 +5,7 @@
 #include "support/CapturedOutput.h"
 #include "support/Pictures.h"
 #include "support/SampleTables.h"
+#include "support/VtkErrors.h"
 #include "widgets/WidgetSupport.h"
 
 #include <vtkAbstractContextItem.h>
@@ -22,6 +23,7 @@
 #include <QTest>
 
 #include <memory>
+#include <string>
 
 namespace
 {
@@ -55,6 +57,20 @@ TEST(VtkPlotWidget, OffersExactlyItsTwoSlots)
   EXPECT_EQ(meta.method(meta.methodOffset()).parameterNames(), QList<QByteArray>{"clear"});
   EXPECT_EQ(meta.method(meta.methodOffset() + 1).methodSignature(), "updatePlot()");
   EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
+}
+
+TEST(VtkPlotWidget, TakesLettersWithoutAWarning)
+{
+  VtkPlotWidget widget;
+  widget.resize(400, 300);
+  widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+  const VtkErrors reports;
+  QTest::mouseMove(&widget, QPoint(1, 1));
+  for (const char letter : std::string("frswpejtcau3l"))
+    QTest::keyClick(&widget, letter);
+  EXPECT_EQ(reports.text(), "");
+  EXPECT_GT(paintedPixels(widget.grabFramebuffer()), 1000);
 }
 
 TEST(VtkPlotWidget, ShowsAnExchangedChartOnlyWhenItClearsTheScene)
