@@ -4,11 +4,11 @@
 #include "external/PlotMetaData.h"
 #include "plot/DerivedTables.h"
 #include "plot/PlotContainer.h"
+#include "plot/RankedTables.h"
 #include "plot/ShownParameters.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 #include "stats/FalseDiscovery.h"
-#include "stats/RankedParameter.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkIdTypeArray.h>
@@ -86,9 +86,7 @@ TestObstacle obstacleIn(const PlotContainer& container, const GroupOfRuns& group
   auto* column = vtkDataArray::SafeDownCast(plot::columnAt(group.rows, index));
   if (!column)
     return TestObstacle::missingValues;
-  const std::vector<double> values = stats::distinctValues(
-      static_cast<std::size_t>(column->GetNumberOfTuples()),
-      [column](std::size_t row) { return column->GetComponent(static_cast<vtkIdType>(row), 0); });
+  const std::vector<double> values = plot::distinctValues(column);
   if (values.empty() || std::isnan(values.back()))
     return TestObstacle::missingValues;
   if (values.size() < group.runs)

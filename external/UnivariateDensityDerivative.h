@@ -5,7 +5,8 @@
 ///
 /// At each target t the estimate is sum_i exp(-(t - s_i)^2 / (2 h^2)) / (n h sqrt(2 pi)) over the n
 /// sources s_i with bandwidth h, so that it integrates to 1 (Silverman, Density Estimation for
-/// Statistics and Data Analysis, 1986, section 2.4). The sum is evaluated exactly.
+/// Statistics and Data Analysis, 1986, section 2.4). The sum is evaluated exactly: of ascending
+/// sources only the terms that reach its last bit are computed, which changes no bit of it.
 class UnivariateDensityDerivative
 {
 public:
@@ -25,7 +26,9 @@ public:
   void Evaluate();
 
 private:
-  double densityAt(double target) const;
+  double term(double target, int source) const;
+  double sumOfAll(double target) const;
+  double sumOfAscending(double target) const;
 
   int sourceCount;
   int targetCount;

@@ -6,6 +6,9 @@
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 #include "stats/KolmogorovSmirnov.h"
+#include "stats/ParallelParts.h"
+
+#include <utility>
 
 namespace Talmesh::plot
 {
@@ -45,9 +48,18 @@ void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t seco
   vtkTable* others = tableInSlot(state.derivedTables, second);
   if (!selected || !others)
     return;
-  const int parameters = static_cast<int>(selected->GetNumberOfColumns()) / 2;
-  for (int k = 0; k < parameters; ++k)
-    state.ksResults.push_back(compare(sampleOf(selected, 2 * k + 1), sampleOf(others, 2 * k + 1)));
+  std::vector<KsStatistics> results(static_cast<std::size_t>(selected->GetNumberOfColumns()) / 2);
+  stats::inParallelParts(results.size(), 1,
+                         [&](std::size_t from, std::size_t to)
+                         {
+                           for (std::size_t k = from; k < to; ++k)
+                           {
+                             const int column = static_cast<int>(2 * k + 1);
+                             results[k] =
+                                 compare(sampleOf(selected, column), sampleOf(others, column));
+                           }
+                         });
+  state.ksResults = std::move(results);
 }
 
 void alignResults(PlotState& state, std::size_t first)

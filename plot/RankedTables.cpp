@@ -6,6 +6,7 @@
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
+#include "stats/ParallelParts.h"
 #include "stats/RankedParameter.h"
 
 #include <algorithm>
@@ -32,23 +33,31 @@ Names parameterLabels(const PlotState& state)
   return labels;
 }
 
+std::vector<double> thinnedValues(vtkDataArray* column, int stride)
+{
+  return stats::thinnedValues(static_cast<std::size_t>(column->GetNumberOfTuples()), stride,
+                              [column](std::size_t row)
+                              { return column->GetComponent(static_cast<vtkIdType>(row), 0); });
+}
+
 /// The ascending values of every parameter; absent where they cannot be read.
 Lists parameterValues(const PlotState& state, vtkTable* source, bool ownRuns, const Names& labels)
 {
-  Lists lists;
-  for (std::size_t k = 0; k < labels.size(); ++k)
+  Lists lists(labels.size());
+  const int stride = state.metaData->getStride();
+  const auto read = [&](std::size_t k)
   {
-    lists.emplace_back();
     auto* column =
         vtkDataArray::SafeDownCast(columnAt(source, state.metaData->parameterColumns[k]));
-    if (!column || labels[k].empty())
-      continue;
-    const auto rows = static_cast<std::size_t>(column->GetNumberOfTuples());
-    const auto valueAt = [column](std::size_t row)
-    { return column->GetComponent(static_cast<vtkIdType>(row), 0); };
-    lists.back() = ownRuns ? stats::thinnedValues(rows, state.metaData->getStride(), valueAt)
-                           : stats::distinctValues(rows, valueAt);
-  }
+    if (column && !labels[k].empty())
+      lists[k] = ownRuns ? thinnedValues(column, stride) : distinctValues(column);
+  };
+  stats::inParallelParts(labels.size(), 1,
+                         [&](std::size_t first, std::size_t last)
+                         {
+                           for (std::size_t k = first; k < last; ++k)
+                             read(k);
+                         });
   return lists;
 }
 
@@ -140,6 +149,16 @@ RankedInputs presentInputs(const PlotState& state)
 
 } // namespace
 
+std::vector<double> distinctValues(vtkDataArray* column)
+{
+  const auto rows = static_cast<std::size_t>(column->GetNumberOfTuples());
+  auto* doubles = vtkDoubleArray::SafeDownCast(column);
+  if (doubles && doubles->GetNumberOfComponents() == 1)
+    return stats::distinctValues(doubles->GetPointer(0), rows);
+  return stats::distinctValues(rows, [column](std::size_t row)
+                               { return column->GetComponent(static_cast<vtkIdType>(row), 0); });
+}
+
 void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
                               std::size_t tableIndex)
 {
@@ -168,7 +187,7 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
     if (!ranked.parameters[k])
       continue;
     stats::RankedParameter& parameter = *ranked.parameters[k];
-    if (parameter.valueCount != ranked.positions)
+    if (parameter.valueCount != ranked.positions && state.diagnosticsShown)
       reportLength(parameter.valueCount, ranked.positions);
     addColumn(ranks, rankPrefix + labels[k], parameter.ranks);
     addColumn(ranks, sortedPrefix + labels[k], parameter.sortedValues);

@@ -4,7 +4,9 @@
 #include <vtkSmartPointer.h>
 
 #include <cstddef>
+#include <vector>
 
+class vtkDataArray;
 class vtkTable;
 
 namespace Talmesh::plot
@@ -27,10 +29,14 @@ struct PlotState;
 /// A parameter without a column or without a typed item, or with a column that is not numeric, is
 /// skipped. If the numbers of parameters and of bounds differ, standard error says so once and the
 /// extents of the values stand in; a parameter shorter than the longest one is reported on standard
-/// output. Ranking the plot table sets the settings' flag `rankedDataCurrent`.
+/// output unless `diagnosticsShown` is off. Ranking the plot table sets the settings' flag
+/// `rankedDataCurrent`.
 /// @param source null counts as a table without columns
 void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
                               std::size_t tableIndex);
+
+/// The values of a parameter column as every slot but 0 takes them: ascending, each once.
+std::vector<double> distinctValues(vtkDataArray* column);
 
 /// Whether slots 0 and 1 hold a rank and a density table, rather than nothing or additional data
 /// that came before any ranking. Tables without columns count: no parameter could be ranked.

@@ -8,7 +8,7 @@
 #include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
-#include "vtk/CombinedSelection.h"
+#include "vtk/RowCopies.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkIdTypeArray.h>

@@ -1,5 +1,6 @@
 #include "stats/RankedParameter.h"
 
+#include "stats/ParallelParts.h"
 #include "stats/RankedDensity.h"
 
 #include <algorithm>
@@ -10,6 +11,28 @@ namespace Talmesh::stats
 {
 namespace
 {
+/// NaN is no value.
+void addUnlessRepeated(double value, std::vector<double>& values)
+{
+  if (!std::isnan(value) && (values.empty() || values.back() != value))
+    values.push_back(value);
+}
+
+void makeDistinct(std::vector<double>& values)
+{
+  std::sort(values.begin(), values.end());
+  values.erase(std::unique(values.begin(), values.end()), values.end());
+}
+
+/// Compares without a branch for each value, so that a processor takes several at a time.
+bool allEqual(const double* values, std::size_t count, double expected)
+{
+  unsigned differing = 0;
+  for (std::size_t i = 0; i < count; ++i)
+    differing |= values[i] != expected ? 1U : 0U;
+  return differing == 0;
+}
+
 void rankDegenerate(const ParameterSupport& support, RankedParameter& result)
 {
   const std::size_t positions = result.ranks.size();
@@ -80,11 +103,34 @@ std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValu
   return values;
 }
 
+// Both drop equal neighbours before sorting: a parameter of stacked runs has the same value in
+// every row of a run.
 std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt)
 {
-  std::vector<double> values = thinnedValues(rows, 1, valueAt);
-  values.erase(std::unique(values.begin(), values.end()), values.end());
+  std::vector<double> values;
+  for (std::size_t row = 0; row < rows; ++row)
+    addUnlessRepeated(valueAt(row), values);
+  makeDistinct(values);
   return values;
+}
+
+std::vector<double> distinctValues(const double* values, std::size_t count)
+{
+  constexpr std::size_t atOnce = 16;
+  std::vector<double> distinct;
+  std::size_t row = 0;
+  while (row < count)
+  {
+    const std::size_t block = std::min(atOnce, count - row);
+    if (distinct.empty() || !allEqual(values + row, block, distinct.back()))
+    {
+      for (std::size_t i = 0; i < block; ++i)
+        addUnlessRepeated(values[row + i], distinct);
+    }
+    row += block;
+  }
+  makeDistinct(distinct);
+  return distinct;
 }
 
 ParameterSupport parameterSupport(const std::vector<double>& sorted,
@@ -120,17 +166,23 @@ RankedParameters rankParameters(std::vector<std::optional<std::vector<double>>> 
   result.boundsIgnored = lists.size() != bounds.size();
   for (const auto& list : lists)
     result.positions = std::max(result.positions, list ? list->size() : 0);
-  for (std::size_t k = 0; k < lists.size(); ++k)
+  result.parameters.resize(lists.size());
+  const auto rank = [&](std::size_t k)
   {
-    result.parameters.emplace_back();
-    if (lists[k])
-    {
-      const auto pair = result.boundsIgnored ? std::nullopt : std::make_optional(bounds[k]);
-      const ParameterSupport support = parameterSupport(*lists[k], pair);
-      result.parameters.back() =
-          rankParameter(std::move(*lists[k]), support, result.positions, kernelDensity);
-    }
-  }
+    const auto pair = result.boundsIgnored ? std::nullopt : std::make_optional(bounds[k]);
+    const ParameterSupport support = parameterSupport(*lists[k], pair);
+    result.parameters[k] =
+        rankParameter(std::move(*lists[k]), support, result.positions, kernelDensity);
+  };
+  inParallelParts(lists.size(), 1,
+                  [&](std::size_t first, std::size_t last)
+                  {
+                    for (std::size_t k = first; k < last; ++k)
+                    {
+                      if (lists[k])
+                        rank(k);
+                    }
+                  });
   return result;
 }
 } // namespace Talmesh::stats

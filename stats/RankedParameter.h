@@ -25,6 +25,9 @@ std::vector<double> thinnedValues(std::size_t rows, int stride, const ColumnValu
 /// Values of all rows, ascending, each once; NaN is no value.
 std::vector<double> distinctValues(std::size_t rows, const ColumnValue& valueAt);
 
+/// The same of values that lie in memory one after another.
+std::vector<double> distinctValues(const double* values, std::size_t count);
+
 /// Support of a parameter's density. `upper` may be infinite while `range` is finite.
 struct ParameterSupport
 {
@@ -43,9 +46,10 @@ struct ParameterSupport
 ParameterSupport parameterSupport(const std::vector<double>& sorted,
                                   const std::optional<std::pair<double, double>>& bounds);
 
-/// Writes into `density` the Gaussian kernel density estimate of `sources` with the given bandwidth
-/// at each of `targets`: the sum over the sources of exp(-(t - s)^2 / (2 h^2)), divided by (number
-/// of sources) h sqrt(2 pi). All vectors have their final size.
+/// Called from several threads at once. Writes into `density` the Gaussian kernel density estimate
+/// of `sources` with the given bandwidth at each of `targets`: the sum over the sources of exp(-(t
+/// - s)^2 / (2 h^2)), divided by (number of sources) h sqrt(2 pi). All vectors have their final
+/// size.
 using KernelDensity = std::function<void(std::vector<double>& sources, std::vector<double>& targets,
                                          double bandwidth, std::vector<double>& density)>;
 

@@ -4,7 +4,7 @@
 #include <vtkAnnotationLayers.h>
 #include <vtkConvertSelection.h>
 #include <vtkDataArray.h>
-#include <vtkDataSetAttributes.h>
+#include <vtkDoubleArray.h>
 #include <vtkExecutive.h>
 #include <vtkIdTypeArray.h>
 #include <vtkInformation.h>
@@ -12,7 +12,6 @@
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
 #include <vtkTable.h>
-#include <vtkVariant.h>
 
 #include <algorithm>
 #include <limits>
@@ -81,22 +80,6 @@ void addUnlistedRows(SelectedRows& rows, vtkIdTypeArray* list, vtkIdType rowCoun
   }
 }
 
-void appendMissingCell(vtkAbstractArray* column)
-{
-  const int type = column->GetDataType();
-  const bool hasNaN = type == VTK_DOUBLE || type == VTK_FLOAT;
-  const double missing = hasNaN ? std::numeric_limits<double>::quiet_NaN() : 0.0;
-  const vtkIdType row = column->GetNumberOfTuples();
-  const int components = column->GetNumberOfComponents();
-  auto* numbers = vtkArrayDownCast<vtkDataArray>(column);
-  for (int component = 0; component < components; ++component)
-  {
-    if (numbers)
-      numbers->InsertComponent(row, component, missing);
-    else
-      column->InsertVariantValue(row * components + component, vtkVariant());
-  }
-}
 } // namespace
 
 bool contributes(vtkAnnotation* annotation)
@@ -184,40 +167,14 @@ std::vector<double> rowTimes(vtkAbstractArray* column, vtkIdType rowCount)
                             std::numeric_limits<double>::quiet_NaN());
   auto* values = vtkArrayDownCast<vtkDataArray>(column);
   const vtkIdType known = values ? std::min(rowCount, values->GetNumberOfTuples()) : 0;
-  for (vtkIdType row = 0; row < known; ++row)
-    times[static_cast<std::size_t>(row)] = values->GetComponent(row, 0);
-  return times;
-}
-
-void copyColumnStructure(vtkTable* source, vtkTable* target)
-{
-  target->GetRowData()->CopyStructure(source->GetRowData());
-}
-
-void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* target)
-{
-  for (vtkIdType c = 0; c < source->GetNumberOfColumns(); ++c)
+  auto* doubles = vtkArrayDownCast<vtkDoubleArray>(column);
+  if (doubles && doubles->GetNumberOfComponents() == 1)
+    std::copy_n(doubles->GetPointer(0), known, times.begin());
+  else
   {
-    vtkAbstractArray* from = source->GetColumn(c);
-    vtkAbstractArray* to = target->GetColumn(c);
-    for (const vtkIdType row : rows)
-    {
-      // VTK copies tuples unchecked, and the columns of a table may differ in length.
-      if (row < from->GetNumberOfTuples())
-        to->InsertNextTuple(row, from);
-      else
-        appendMissingCell(to);
-    }
+    for (vtkIdType row = 0; row < known; ++row)
+      times[static_cast<std::size_t>(row)] = values->GetComponent(row, 0);
   }
-}
-
-vtkSmartPointer<vtkIdTypeArray> makeIdColumn(const char* name, const std::vector<vtkIdType>& values)
-{
-  auto column = vtkSmartPointer<vtkIdTypeArray>::New();
-  column->SetName(name);
-  column->SetNumberOfValues(static_cast<vtkIdType>(values.size()));
-  for (std::size_t i = 0; i < values.size(); ++i)
-    column->SetValue(static_cast<vtkIdType>(i), values[i]);
-  return column;
+  return times;
 }
 } // namespace Talmesh

@@ -9,7 +9,6 @@
 class vtkAbstractArray;
 class vtkAnnotation;
 class vtkAnnotationLayers;
-class vtkIdTypeArray;
 class vtkSelection;
 class vtkTable;
 
@@ -51,17 +50,6 @@ SelectedRows selectedRows(vtkSelection* indices, vtkIdType rowCount);
 /// First component of @p column for each of @p rowCount rows, NaN where there is no value (and
 /// everywhere if @p column is null or not numeric).
 std::vector<double> rowTimes(vtkAbstractArray* column, vtkIdType rowCount);
-
-/// Gives @p target the columns of @p source, without rows.
-void copyColumnStructure(vtkTable* source, vtkTable* target);
-
-/// Appends rows of @p source to @p target, which must have its column structure. Where a column is
-/// too short to have the row, the cell is NaN, 0 in a column of whole numbers, or an empty text.
-void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* target);
-
-/// A new one-component column.
-vtkSmartPointer<vtkIdTypeArray> makeIdColumn(const char* name,
-                                             const std::vector<vtkIdType>& values);
 } // namespace Talmesh
 
 #endif

@@ -1,6 +1,7 @@
 #include "vtk/vtkCombinedFilterAndSelectedRows.h"
 
 #include "vtk/CombinedSelection.h"
+#include "vtk/RowCopies.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkDoubleArray.h>
@@ -10,38 +11,94 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
-#include <map>
-#include <set>
+#include <limits>
+#include <vector>
 
 vtkStandardNewMacro(vtkCombinedFilterAndSelectedRows);
 
 namespace
 {
-using Runs = std::set<vtkIdType>;
-using RunsAtTime = std::map<double, Runs>;
-
-RunsAtTime selectedRunsByTime(const std::vector<bool>& selected, const std::vector<double>& times,
-                              vtkIdType stride)
+/// The distinct times at which rows are selected.
+///
+/// Runs mostly repeat the times of the run before, so each position within a run remembers the time
+/// last looked up there.
+class SelectedTimes
 {
-  RunsAtTime runs;
-  for (std::size_t row = 0; row < selected.size(); ++row)
+public:
+  static constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
+
+  SelectedTimes(const std::vector<bool>& selected, const std::vector<double>& rowTimes,
+                vtkIdType rowsPerRun)
+      : times(rowTimes)
+      , stride(static_cast<std::size_t>(rowsPerRun))
+      , remembered(std::min(stride, rowTimes.size()))
   {
-    if (selected[row] && !std::isnan(times[row]))
-      runs[times[row]].insert(static_cast<vtkIdType>(row) / stride);
+    for (std::size_t row = 0; row < selected.size(); ++row)
+    {
+      Memory& memory = remembered[row % stride];
+      if (!selected[row] || std::isnan(times[row]) || memory.time == times[row])
+        continue;
+      memory.time = times[row];
+      distinct.push_back(times[row]);
+    }
+    std::sort(distinct.begin(), distinct.end());
+    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
+    std::fill(remembered.begin(), remembered.end(), Memory());
   }
-  return runs;
-}
 
-Runs runsAtEveryTime(const RunsAtTime& runsAtTime)
-{
-  Runs accepted = runsAtTime.begin()->second;
-  for (auto later = std::next(runsAtTime.begin()); later != runsAtTime.end(); ++later)
+  std::size_t size() const { return distinct.size(); }
+
+  /// Place of the row's time among the selected ones; `none` if it is not one of them.
+  std::size_t indexOf(std::size_t row)
   {
-    Runs common;
-    std::set_intersection(accepted.begin(), accepted.end(), later->second.begin(),
-                          later->second.end(), std::inserter(common, common.end()));
-    accepted.swap(common);
+    Memory& memory = remembered[row % stride];
+    if (memory.time != times[row])
+      memory = {times[row], find(times[row])};
+    return memory.index;
+  }
+
+private:
+  struct Memory
+  {
+    double time = std::numeric_limits<double>::quiet_NaN();
+    std::size_t index = none;
+  };
+
+  std::size_t find(double time) const
+  {
+    const auto found = std::lower_bound(distinct.begin(), distinct.end(), time);
+    return found != distinct.end() && *found == time
+               ? static_cast<std::size_t>(found - distinct.begin())
+               : none;
+  }
+
+  const std::vector<double>& times;
+  std::size_t stride;
+  std::vector<double> distinct;
+  std::vector<Memory> remembered;
+};
+
+/// Which runs are selected at every selected time.
+std::vector<bool> acceptedRuns(const std::vector<bool>& selected, vtkIdType stride,
+                               SelectedTimes& times)
+{
+  const auto rowsPerRun = static_cast<std::size_t>(stride);
+  std::vector<bool> accepted;
+  // For each time the run, counted from 1, that was last seen at it.
+  std::vector<std::size_t> lastRun(times.size(), 0);
+  for (std::size_t first = 0; first < selected.size(); first += rowsPerRun)
+  {
+    const std::size_t run = accepted.size() + 1;
+    std::size_t timesOfRun = 0;
+    for (std::size_t row = first; row < std::min(selected.size(), first + rowsPerRun); ++row)
+    {
+      const std::size_t time = selected[row] ? times.indexOf(row) : SelectedTimes::none;
+      if (time == SelectedTimes::none || lastRun[time] == run)
+        continue;
+      lastRun[time] = run;
+      ++timesOfRun;
+    }
+    accepted.push_back(timesOfRun == times.size());
   }
   return accepted;
 }
@@ -61,22 +118,20 @@ struct Split
   std::vector<vtkIdType> remainder;
 };
 
-Split splitRows(const std::vector<bool>& selected, const std::vector<double>& times,
-                vtkIdType stride, const RunsAtTime& runsAtTime)
+Split splitRows(const std::vector<bool>& selected, vtkIdType stride, SelectedTimes& times)
 {
-  const Runs accepted = runsAtEveryTime(runsAtTime);
+  const std::vector<bool> accepted = acceptedRuns(selected, stride, times);
   Split split(selected.size());
   for (std::size_t i = 0; i < selected.size(); ++i)
   {
     const auto row = static_cast<vtkIdType>(i);
     if (selected[i])
     {
-      const bool isAccepted = accepted.count(row / stride) != 0;
+      const bool isAccepted = accepted[static_cast<std::size_t>(row / stride)];
       split.rows[isAccepted ? 0 : 1].push_back(row);
       (isAccepted ? split.remainder : split.reduced)[i] = 1;
     }
-    // A map's find() would take NaN for equal to every key.
-    else if (!std::isnan(times[i]) && runsAtTime.count(times[i]) != 0)
+    else if (times.indexOf(i) != SelectedTimes::none)
     {
       split.rows[1].push_back(row);
       split.complement[i] = 1;
@@ -101,13 +156,12 @@ void vtkCombinedFilterAndSelectedRows::DivideRows(vtkTable* table,
   const auto times = Talmesh::rowTimes(vtkDoubleArray::SafeDownCast(this->FindTimeColumn(table)),
                                        table->GetNumberOfRows());
   const vtkIdType stride = std::max<vtkIdType>(this->Stride, 1);
-  const RunsAtTime runsAtTime = selectedRunsByTime(selected.marked, times, stride);
-  Split split(0);
-  if (!runsAtTime.empty())
-    split = splitRows(selected.marked, times, stride, runsAtTime);
+  SelectedTimes selectedTimes(selected.marked, times, stride);
+  const bool anyTime = selectedTimes.size() > 0;
+  const Split split = anyTime ? splitRows(selected.marked, stride, selectedTimes) : Split(0);
   for (int output = 0; output < 2; ++output)
     this->FillOutput(table, split.rows[output], outputs[output]);
-  if (!runsAtTime.empty())
+  if (anyTime)
     writeMarkers(split, table);
 }
 

@@ -1,6 +1,7 @@
 #include "vtk/vtkCombinedFilterOrSelectedRows.h"
 
 #include "vtk/CombinedSelection.h"
+#include "vtk/RowCopies.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkIdTypeArray.h>

@@ -1,6 +1,7 @@
 #include "vtk/vtkCombinedRowFilter.h"
 
 #include "vtk/CombinedSelection.h"
+#include "vtk/RowCopies.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkAnnotationLayers.h>

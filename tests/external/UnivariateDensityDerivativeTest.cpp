@@ -1,9 +1,12 @@
 #include "external/UnivariateDensityDerivative.h"
 
+#include <boost/math/constants/constants.hpp>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <random>
 #include <stdexcept>
 #include <vector>
 
@@ -31,6 +34,38 @@ void construct(int sourceCount, int targetCount, double bandwidth, int order)
 }
 
 } // namespace
+
+TEST(UnivariateDensityDerivative, HasEveryBitOfThePlainSum)
+{
+  std::mt19937 engine(7);
+  for (int round = 0; round < 60; ++round)
+  {
+    const double spread = std::exp(std::normal_distribution<double>(0, 2)(engine));
+    std::vector<double> sources(1 + engine() % 1500);
+    for (double& source : sources)
+      source = round % 2 == 0 ? std::normal_distribution<double>(0, spread)(engine)
+                              : std::floor(std::uniform_real_distribution<double>(0, 9)(engine));
+    if (round % 5 != 0)
+      std::sort(sources.begin(), sources.end());
+    std::vector<double> targets;
+    for (int i = 0; i < 100; ++i)
+      targets.push_back(spread * (0.04 * i - 2.0));
+    const double h = spread * std::exp(std::normal_distribution<double>(-2, 2)(engine));
+    const std::vector<double> values = density(sources, targets, h);
+    const double scale =
+        static_cast<int>(sources.size()) * h * boost::math::constants::root_two_pi<double>();
+    for (std::size_t i = 0; i < targets.size(); ++i)
+    {
+      double sum = 0.0;
+      for (const double source : sources)
+      {
+        const double distance = (targets[i] - source) / h;
+        sum += std::exp(-0.5 * distance * distance);
+      }
+      ASSERT_EQ(values[i], sum / scale) << "round " << round << ", target " << targets[i];
+    }
+  }
+}
 
 TEST(UnivariateDensityDerivative, OneSourceIsTheNormalDensity)
 {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -123,5 +124,32 @@ TEST(RankedParameterRandom, KeepsItsShapesForAnyValuesAndBounds)
         checkParameter(*result.parameters[k], longest);
       }
     }
+  }
+}
+
+TEST(RankedRandom, DistinctValuesAreThoseOfASetHoweverTheyRepeat)
+{
+  std::mt19937 generator(5);
+  for (int round = 0; round < 300; ++round)
+  {
+    List column;
+    const std::size_t runs = generator() % 40;
+    const std::size_t most = 1 + generator() % 70;
+    for (std::size_t run = 0; run < runs; ++run)
+    {
+      const double value = generator() % 6 == 0 ? notANumber : 0.1 * (generator() % 25);
+      column.insert(column.end(), 1 + generator() % most, value);
+    }
+    if (!column.empty() && generator() % 2 == 0)
+      column[generator() % column.size()] = -1.0;
+    std::set<double> expected;
+    for (const double value : column)
+    {
+      if (!std::isnan(value))
+        expected.insert(value);
+    }
+    const List values(expected.begin(), expected.end());
+    EXPECT_EQ(distinctValues(column.data(), column.size()), values);
+    EXPECT_EQ(distinctValues(column.size(), [&](std::size_t row) { return column[row]; }), values);
   }
 }
