@@ -10,5 +10,5 @@ bool vtkPlotSafeLine::Paint(vtkContext2D* painter)
   constexpr vtkIdType fewestOfALine = 2;
   if (Points && Points->GetNumberOfPoints() < fewestOfALine)
     return vtkPlotPoints::Paint(painter);
-  return Superclass::Paint(painter);
+  return vtkPlotLine::Paint(painter);
 }

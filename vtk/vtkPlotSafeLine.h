@@ -1,17 +1,15 @@
 #ifndef vtkPlotSafeLine_h
 #define vtkPlotSafeLine_h
 
-#include "vtk/VtkCompat.h"
-
 #include <vtkPlotLine.h>
 
 /// A line plot that paints a single point without complaint: its marker, if it has one, and no
-/// line. VTK's own reports an error at every painting.
+/// line. VTK's own reports an error at every painting. It goes by the name of the class that it
+/// stands in for, which clients may ask for.
 class vtkPlotSafeLine : public vtkPlotLine
 {
 public:
   static vtkPlotSafeLine* New();
-  TALMESH_VTK_TYPE(vtkPlotSafeLine, vtkPlotLine);
 
   bool Paint(vtkContext2D* painter) override;
 

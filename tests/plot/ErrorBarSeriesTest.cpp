@@ -45,17 +45,22 @@ TEST_F(ErrorBarSeries, AXAxisThatIsNotFloatIsLeftToAutomaticScaling)
   EXPECT_EQ(bottom()->GetMaximum(), 4.0);
 }
 
-TEST_F(ErrorBarSeries, AFloatColumnThatIsNotFiniteDoesNotTouchTheRange)
+TEST_F(ErrorBarSeries, AFloatColumnIsPaddedByItsFiniteValuesIfItHasAny)
 {
-  auto odd = vtkSmartPointer<vtkTable>::New();
-  addFloats(odd, "x", {1.0, std::numeric_limits<double>::infinity()});
-  addFloats(odd, "y", {1.0, 2.0});
-  addFloats(odd, "error", {1.0, 2.0});
-  container.setPlotData(odd);
-  bottom()->SetUnscaledRange(-7.0, 7.0);
-  redraw();
-  EXPECT_EQ(bottom()->GetUnscaledMaximum(), 7.0);
-  scene.render(container);
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const bool finite : {true, false})
+  {
+    auto odd = vtkSmartPointer<vtkTable>::New();
+    addFloats(odd, "x", {finite ? 0.0 : infinity, finite ? 20.0 : -infinity, infinity});
+    addFloats(odd, "y", {1.0, 2.0, 3.0});
+    addFloats(odd, "error", {1.0, 2.0, 1.0});
+    container.setPlotData(odd);
+    bottom()->SetUnscaledRange(-7.0, 7.0);
+    redraw();
+    EXPECT_EQ(bottom()->GetUnscaledMinimum(), finite ? -1.0 : -7.0);
+    EXPECT_EQ(bottom()->GetUnscaledMaximum(), finite ? 21.0 : 7.0);
+    scene.render(container);
+  }
 }
 
 TEST_F(ErrorBarSeries, SecondPairOfColumnsIsALine)
