@@ -124,6 +124,7 @@ void vtkSelectableChartXY::EndDrag()
 
 void vtkSelectableChartXY::Update()
 {
+  Lost.hidePlots(this);
   if (!PlotTransformValid)
     Talmesh::settleLogScales(this);
   Superclass::Update();

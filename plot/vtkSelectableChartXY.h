@@ -1,6 +1,7 @@
 #ifndef vtkSelectableChartXY_h
 #define vtkSelectableChartXY_h
 
+#include "plot/LostColumns.h"
 #include "vtk/VtkCompat.h"
 
 #include <vtkChartXY.h>
@@ -34,6 +35,7 @@ public:
   static vtkSelectableChartXY* New();
   TALMESH_VTK_TYPE(vtkSelectableChartXY, vtkChartXY);
 
+  /// Hides plots whose columns have gone, then settles the scales and updates the other plots.
   void Update() override;
   using vtkChartXY::AddPlot;
   /// A line is a vtkPlotSafeLine.
@@ -70,6 +72,8 @@ private:
 
     void Add(vtkTable* of, vtkIdType row);
   };
+
+  Talmesh::plot::LostColumns Lost;
 
   bool SelectsRows(const vtkContextMouseEvent& mouse);
   void EndDrag();
