@@ -1,6 +1,7 @@
 #include "plot/vtkSelectableChartXY.h"
 
 #include "plot/SelectionModes.h"
+#include "vtk/PointCloud.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkChartMatrix.h>
@@ -11,6 +12,7 @@
 #include <vtkIdTypeArray.h>
 #include <vtkMatrix3x3.h>
 #include <vtkObjectFactory.h>
+#include <vtkPen.h>
 #include <vtkPlot.h>
 #include <vtkTable.h>
 #include <vtkTransform2D.h>
@@ -61,6 +63,18 @@ void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
   }
   if (row >= 0 && row < static_cast<vtkIdType>(rows.size()))
     rows[static_cast<std::size_t>(row)] = true;
+}
+
+vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
+{
+  vtkSmartPointer<vtkPlot> plot = Superclass::AddPlot(type, blockIndex);
+  if (type != POINTS)
+    return plot;
+  vtkNew<Talmesh::PointCloud> cloud;
+  cloud->GetPen()->SetColor(plot->GetPen()->GetColor());
+  RemovePlotInstance(plot);
+  Superclass::AddPlot(cloud, blockIndex);
+  return cloud;
 }
 
 vtkSelectableChartXY* vtkSelectableChartXY::PlaceIn(vtkChartMatrix* matrix,
