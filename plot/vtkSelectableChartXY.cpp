@@ -4,6 +4,7 @@
 #include "plot/PlottedRows.h"
 #include "plot/SelectionModes.h"
 #include "vtk/LogScales.h"
+#include "vtk/PointCloud.h"
 #include "vtk/vtkGuardedAxis.h"
 #include "vtk/vtkPlotSafeLine.h"
 
@@ -101,6 +102,18 @@ void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
   }
   if (row >= 0 && row < static_cast<vtkIdType>(rows.size()))
     rows[static_cast<std::size_t>(row)] = true;
+}
+
+vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
+{
+  vtkSmartPointer<vtkPlot> plot = Superclass::AddPlot(type, blockIndex);
+  if (type != POINTS)
+    return plot;
+  vtkNew<Talmesh::PointCloud> cloud;
+  cloud->GetPen()->SetColor(plot->GetPen()->GetColor());
+  RemovePlotInstance(plot);
+  Superclass::AddPlot(cloud, blockIndex);
+  return cloud;
 }
 
 vtkSelectableChartXY* vtkSelectableChartXY::PlaceIn(vtkChartMatrix* matrix,

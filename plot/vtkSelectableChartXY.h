@@ -51,6 +51,10 @@ public:
   /// Does nothing once the chart has lost its place in the scene since the button was pressed.
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
 
+  using vtkChartXY::AddPlot;
+  /// Points are Talmesh::PointCloud, which draws very many of them faster than VTK's own.
+  vtkPlot* AddPlot(int type, unsigned int blockIndex) override;
+
   /// Puts a new chart of this kind into the cell of `matrix` at `position` instead of the one
   /// there.
   /// @return the chart, which the matrix owns

@@ -2,7 +2,10 @@
 
 #include "vtk/AggregateTarget.h"
 
+#include <vtkContext2D.h>
 #include <vtkPen.h>
+
+#include <algorithm>
 
 namespace Talmesh
 {
@@ -23,39 +26,45 @@ void addPen(CachedPicture::Key& key, vtkPen* pen)
                          double(pen->GetOpacity()), double(pen->GetWidth())});
 }
 
-void fill(vtkImageData* picture, const OpacityImage& opacities, vtkPen* pen)
+vtkSmartPointer<vtkImageData> imageOf(const CachedPicture::Pixels& pixels, int width, int height)
 {
-  picture->SetDimensions(opacities.width, opacities.height, 1);
-  picture->AllocateScalars(VTK_UNSIGNED_CHAR, 4);
-  unsigned char color[4];
-  pen->GetColor(color);
-  auto* values = static_cast<unsigned char*>(picture->GetScalarPointer());
-  for (const unsigned char opacity : opacities.values)
-  {
-    values[0] = color[0];
-    values[1] = color[1];
-    values[2] = color[2];
-    values[3] = opacity;
-    values += 4;
-  }
-  picture->Modified();
+  auto image = vtkSmartPointer<vtkImageData>::New();
+  image->SetDimensions(width, height, 1);
+  image->AllocateScalars(VTK_UNSIGNED_CHAR, 4);
+  std::copy(pixels.begin(), pixels.end(), static_cast<unsigned char*>(image->GetScalarPointer()));
+  return image;
 }
 } // namespace
 
-void CachedPicture::paint(vtkContext2D* painter, const AggregateTarget& target, vtkPen* pen,
-                          Key key, const std::function<OpacityImage()>& make)
+void CachedPicture::paint(vtkContext2D* painter, const AggregateTarget& target, Key key,
+                          const std::function<Pixels()>& make)
 {
   if (target.width() < 1 || target.height() < 1)
     return;
   addPlace(key, target);
-  addPen(key, pen);
+  addPen(key, painter->GetPen());
   if (!picture || key != shown)
   {
-    if (!picture)
-      picture = vtkSmartPointer<vtkImageData>::New();
-    fill(picture, make(), pen);
+    picture = imageOf(make(), target.width(), target.height());
     shown = std::move(key);
   }
   target.draw(painter, picture);
+}
+
+CachedPicture::Pixels CachedPicture::tinted(const OpacityImage& opacities, vtkPen* pen)
+{
+  unsigned char color[4];
+  pen->GetColor(color);
+  Pixels pixels(4 * opacities.values.size());
+  unsigned char* pixel = pixels.data();
+  for (const unsigned char opacity : opacities.values)
+  {
+    pixel[0] = color[0];
+    pixel[1] = color[1];
+    pixel[2] = color[2];
+    pixel[3] = opacity;
+    pixel += 4;
+  }
+  return pixels;
 }
 } // namespace Talmesh

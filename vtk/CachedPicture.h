@@ -1,7 +1,7 @@
 #ifndef CachedPicture_h
 #define CachedPicture_h
 
-#include "vtk/LineCounts.h"
+#include "vtk/OpacityImage.h"
 
 #include <vtkImageData.h>
 #include <vtkSmartPointer.h>
@@ -21,13 +21,17 @@ class CachedPicture
 {
 public:
   /// Numbers that tell one content of the layer from all others, time stamps for instance. Where
-  /// and how large the picture is, and its pen, need not be among them.
+  /// and how large the picture is, and the painter's pen, need not be among them.
   using Key = std::vector<double>;
+  /// Red, green, blue and opacity of each pixel, row by row from the lowest.
+  using Pixels = std::vector<unsigned char>;
 
-  /// Draws the layer in the colour of @p pen, with what @p make returns as its opacities if they
-  /// are not the ones made last.
-  void paint(vtkContext2D* painter, const AggregateTarget& target, vtkPen* pen, Key key,
-             const std::function<OpacityImage()>& make);
+  /// Draws the layer, as @p make returns it if it is not the one made last.
+  void paint(vtkContext2D* painter, const AggregateTarget& target, Key key,
+             const std::function<Pixels()>& make);
+
+  /// Pixels of a pen's colour, without its opacity.
+  static Pixels tinted(const OpacityImage& opacities, vtkPen* pen);
 
 private:
   Key shown;

@@ -19,8 +19,6 @@ constexpr std::size_t share = 8;
 /// What parts of columns may cost: so many runs through columns, and so many counts of 4 bytes.
 constexpr double mostCrossings = 2.0e6;
 constexpr double mostCounts = 4.0e6;
-/// Columns that are made together, so that their values for a row share cache lines.
-constexpr int block = 32;
 
 unsigned threadsFor(std::int64_t work)
 {
@@ -63,75 +61,13 @@ std::int64_t totalWeight(const std::vector<CountedRun>& runs, std::int64_t most)
                          { return sum + std::min(run.weight, most); });
 }
 
-/// The counts of all threads made into opacities.
-class OpacityMaker
-{
-public:
-  OpacityMaker(const std::vector<PixelCounts>& threadCounts, const CoverageScale& coverage,
-               int partsOfColumn, OpacityImage& result)
-      : counts(threadCounts)
-      , scale(coverage)
-      , parts(partsOfColumn)
-      , image(result)
-  {
-  }
-
-  void makeColumns(int first, int end) const
-  {
-    const auto rows = static_cast<std::size_t>(image.height);
-    std::vector<std::uint32_t> sums(rows * block);
-    for (; first < end; first += block)
-    {
-      const int columns = std::min(block, end - first);
-      for (int i = 0; i < columns; ++i)
-        sumColumn(first + i, sums.data() + rows * static_cast<std::size_t>(i));
-      for (std::size_t row = 0; row < rows; ++row)
-      {
-        unsigned char* const line =
-            image.values.data() + row * static_cast<std::size_t>(image.width) + first;
-        for (int i = 0; i < columns; ++i)
-          line[i] = level(sums[rows * static_cast<std::size_t>(i) + row]);
-      }
-    }
-  }
-
-private:
-  void sumColumn(int column, std::uint32_t* sums) const
-  {
-    std::fill(sums, sums + image.height, 0);
-    for (int part = parts * column; part < parts * (column + 1); ++part)
-    {
-      std::int32_t count = 0;
-      for (int row = 0; row < image.height; ++row)
-      {
-        for (const PixelCounts& thread : counts)
-          count += thread.column(part)[row];
-        sums[row] += scale.opacity(count);
-      }
-    }
-  }
-
-  unsigned char level(std::uint32_t sum) const
-  {
-    const std::uint32_t whole = 65535u * static_cast<std::uint32_t>(parts);
-    return static_cast<unsigned char>((sum * 255u + whole / 2) / whole);
-  }
-
-  const std::vector<PixelCounts>& counts;
-  const CoverageScale& scale;
-  int parts;
-  OpacityImage& image;
-};
 } // namespace
 
 OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width, int height,
                        const LinePen& pen)
 {
-  OpacityImage image{width, height, {}};
-  if (width < 1 || height < 1)
-    return image;
-  image.values.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
-  if (pen.opacity <= 0.0)
+  OpacityImage image = emptyImage(width, height);
+  if (image.values.empty() || pen.opacity <= 0.0)
     return image;
 
   const std::int64_t most = CoverageScale(pen.opacity, 1).mostRepeats();
@@ -154,13 +90,12 @@ OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width
                }
              });
 
-  const OpacityMaker maker(counts, scale, parts, image);
   inParallel(threads,
              [&](unsigned thread)
              {
                const int step = width / static_cast<int>(threads) + 1;
-               const int first = step * static_cast<int>(thread);
-               maker.makeColumns(first, std::min(width, first + step));
+               const int first = std::min(width, step * static_cast<int>(thread));
+               fillColumns(image, counts, scale, parts, first, std::min(width, first + step));
              });
   return image;
 }

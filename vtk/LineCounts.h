@@ -1,6 +1,7 @@
 #ifndef LineCounts_h
 #define LineCounts_h
 
+#include "vtk/OpacityImage.h"
 #include "vtk/RunTracer.h"
 
 #include <cstdint>
@@ -23,14 +24,6 @@ struct LinePen
   double opacity = 1.0; ///< of one line
   double dotSize = 0.0; ///< pixels across a point that has no line, 0 for none
   int finest = 4;       ///< the most columns of a pixel that are drawn for themselves: 1, 2 or 4
-};
-
-/// Opacities of pixels, row by row from the lowest, 255 for no light coming through.
-struct OpacityImage
-{
-  int width = 0;
-  int height = 0;
-  std::vector<unsigned char> values;
 };
 
 /// Draws every run as a line with a round pen. What one run covers twice counts once; a run of

@@ -42,4 +42,14 @@ PointInputs pointInputs(vtkContextMapper2D* data, vtkAxis* x, vtkAxis* y, bool u
                                shiftScale.GetHeight(), double(useIndexForX)});
   return inputs;
 }
+void addColors(PointInputs& inputs, vtkTable* table, const vtkStdString& column, bool visible,
+               vtkObject* lookupTable)
+{
+  inputs.push_back(visible);
+  if (!visible || column.empty())
+    return;
+  addColumn(inputs, table->GetColumnByName(column.c_str()));
+  inputs.push_back(static_cast<double>(reinterpret_cast<std::uintptr_t>(lookupTable)));
+  inputs.push_back(lookupTable ? static_cast<double>(lookupTable->GetMTime()) : 0.0);
+}
 } // namespace Talmesh

@@ -2,12 +2,15 @@
 #define PointInputs_h
 
 #include <vtkRect.h>
+#include <vtkStdString.h>
 
 #include <vector>
 
 class vtkAbstractArray;
 class vtkAxis;
 class vtkContextMapper2D;
+class vtkObject;
+class vtkTable;
 
 namespace Talmesh
 {
@@ -20,6 +23,10 @@ using PointInputs = std::vector<double>;
 /// @param validPointMask the column that marks valid points, null for none
 PointInputs pointInputs(vtkContextMapper2D* data, vtkAxis* x, vtkAxis* y, bool useIndexForX,
                         const vtkRectd& shiftScale, vtkAbstractArray* validPointMask);
+
+/// Appends what the colours of the points are made of, nothing if they have none.
+void addColors(PointInputs& inputs, vtkTable* table, const vtkStdString& column, bool visible,
+               vtkObject* lookupTable);
 
 /// Appends what tells one content of a column, which may be null, from others.
 void addColumn(std::vector<double>& key, vtkAbstractArray* column);

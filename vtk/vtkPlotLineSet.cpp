@@ -134,18 +134,20 @@ std::vector<unsigned char> vtkPlotLineSet::MaskOfGaps() const
                          this->BadPoints->GetNumberOfValues());
 }
 
-Talmesh::OpacityImage vtkPlotLineSet::CountLines(const std::vector<Talmesh::CountedRun>& lines,
-                                                 vtkPen* pen,
-                                                 const Talmesh::AggregateTarget& target) const
+Talmesh::CachedPicture::Pixels
+vtkPlotLineSet::CountLines(const std::vector<Talmesh::CountedRun>& lines, vtkPen* pen,
+                           const Talmesh::AggregateTarget& target) const
 {
   const std::vector<unsigned char> mask = this->MaskOfGaps();
   Talmesh::LinePen used;
   used.width = std::max(1.0, pen->GetWidth() * target.penScale());
   used.opacity = pen->GetOpacity() / 255.0;
   used.dotSize = this->BreakAtGaps ? dotSize(pen->GetWidth()) * target.penScale() : 0.0;
-  return Talmesh::drawLines({static_cast<float*>(this->Points->GetVoidPointer(0)),
-                             mask.empty() ? nullptr : mask.data(), lines},
-                            target.map(), target.width(), target.height(), used);
+  return Talmesh::CachedPicture::tinted(
+      Talmesh::drawLines({static_cast<float*>(this->Points->GetVoidPointer(0)),
+                          mask.empty() ? nullptr : mask.data(), lines},
+                         target.map(), target.width(), target.height(), used),
+      pen);
 }
 
 void vtkPlotLineSet::PaintLine(vtkContext2D* painter, const Talmesh::CountedRun& line)
@@ -196,7 +198,7 @@ void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTa
       target->wantsShapes(Shapes::Bundle, runCount))
     return this->PaintLines(painter, this->LinesOfRuns());
   this->RunPicture.paint(
-      painter, *target, this->Pen,
+      painter, *target,
       {double(this->Points->GetMTime()), double(this->Stride), double(this->BreakAtGaps)},
       [&] { return this->CountLines(this->LinesOfRuns(), this->Pen, *target); });
 }
@@ -285,7 +287,7 @@ void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::Aggre
   {
     Talmesh::CachedPicture::Key key = this->CountedFor;
     key.insert(key.end(), {double(this->Points->GetMTime()), double(this->BreakAtGaps)});
-    this->HighlightPicture.paint(painter, target, pen, key,
+    this->HighlightPicture.paint(painter, target, key,
                                  [&] { return this->CountLines(this->Highlights, pen, target); });
     return;
   }

@@ -2,6 +2,7 @@
 #define vtkPlotLineSet_h
 
 #include "vtk/CachedPicture.h"
+#include "vtk/LineCounts.h"
 #include "vtk/PointInputs.h"
 #include "vtk/VtkCompat.h"
 
@@ -98,8 +99,9 @@ private:
 
   std::vector<Talmesh::CountedRun> LinesOfRuns() const;
   std::vector<unsigned char> MaskOfGaps() const;
-  Talmesh::OpacityImage CountLines(const std::vector<Talmesh::CountedRun>& lines, vtkPen* pen,
-                                   const Talmesh::AggregateTarget& target) const;
+  Talmesh::CachedPicture::Pixels CountLines(const std::vector<Talmesh::CountedRun>& lines,
+                                            vtkPen* pen,
+                                            const Talmesh::AggregateTarget& target) const;
   void PaintLine(vtkContext2D* painter, const Talmesh::CountedRun& line);
   void PaintPieces(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& runs);
   void PaintLines(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& lines);
