@@ -81,18 +81,6 @@ vtkSelectableChartXY::vtkSelectableChartXY()
   }
 }
 
-vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
-{
-  vtkPlot* plot = Superclass::AddPlot(type, blockIndex);
-  if (type != LINE)
-    return plot;
-  vtkNew<vtkPlotSafeLine> line;
-  line->GetPen()->DeepCopy(plot->GetPen());
-  RemovePlot(GetNumberOfPlots() - 1);
-  AddPlot(line, blockIndex);
-  return line;
-}
-
 void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
 {
   if (!table)
@@ -106,14 +94,18 @@ void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
 
 vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
 {
-  vtkSmartPointer<vtkPlot> plot = Superclass::AddPlot(type, blockIndex);
-  if (type != POINTS)
-    return plot;
-  vtkNew<Talmesh::PointCloud> cloud;
-  cloud->GetPen()->SetColor(plot->GetPen()->GetColor());
-  RemovePlotInstance(plot);
-  Superclass::AddPlot(cloud, blockIndex);
-  return cloud;
+  const vtkSmartPointer<vtkPlot> replaced = Superclass::AddPlot(type, blockIndex);
+  vtkSmartPointer<vtkPlot> plot;
+  if (type == LINE)
+    plot = vtkSmartPointer<vtkPlotSafeLine>::New();
+  else if (type == POINTS)
+    plot = vtkSmartPointer<Talmesh::PointCloud>::New();
+  else
+    return replaced;
+  plot->GetPen()->DeepCopy(replaced->GetPen());
+  RemovePlotInstance(replaced);
+  AddPlot(plot, blockIndex);
+  return plot;
 }
 
 vtkSelectableChartXY* vtkSelectableChartXY::PlaceIn(vtkChartMatrix* matrix,

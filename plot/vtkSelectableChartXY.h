@@ -37,9 +37,6 @@ public:
 
   /// Hides plots whose columns have gone, then settles the scales and updates the other plots.
   void Update() override;
-  using vtkChartXY::AddPlot;
-  /// A line is a vtkPlotSafeLine.
-  vtkPlot* AddPlot(int type, unsigned int blockIndex) override;
   bool Paint(vtkContext2D* painter) override;
   bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
@@ -52,7 +49,8 @@ public:
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
 
   using vtkChartXY::AddPlot;
-  /// Points are Talmesh::PointCloud, which draws very many of them faster than VTK's own.
+  /// Lines are vtkPlotSafeLine, points Talmesh::PointCloud, which draws very many of them faster
+  /// than VTK's own.
   vtkPlot* AddPlot(int type, unsigned int blockIndex) override;
 
   /// Puts a new chart of this kind into the cell of `matrix` at `position` instead of the one
