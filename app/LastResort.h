@@ -18,6 +18,16 @@ int fail(const std::string& message);
 /// @return its exit status, or that of `fail` after an exception
 int endingClearly(const std::function<int()>& program);
 
+/// From now on a failed allocation ends the program clearly, too, where no exception tells of it:
+/// in libraries that do not check for one, as graphics drivers, and in their threads. Other crashes
+/// stay what they are.
+void installLastResort();
+
+/// Starts the threads that Qt shares among its functions. When Qt needs one that the system
+/// refuses, it waits for ever.
+/// @return whether there are such threads; otherwise the program must end without waiting for them
+bool startSharedThreads();
+
 /// Leaves the event loop after an exception of an event handler, which no one else could catch.
 class ClearlyEndingApplication : public QApplication
 {

@@ -28,6 +28,18 @@ struct FileBytes
   bool cancelled = false;
 };
 
+/// A file that grew since its size was asked for may be cut inside a number. Its last line is read
+/// to the end, or left out while it has none.
+void endAtLine(QFile& file, std::string& bytes)
+{
+  if (bytes.empty() || bytes.back() == '\n')
+    return;
+  const QByteArray rest = file.readLine();
+  bytes.append(rest.constData(), static_cast<std::size_t>(rest.size()));
+  if (!rest.isEmpty() && bytes.back() != '\n')
+    bytes.erase(bytes.rfind('\n') + 1);
+}
+
 FileBytes readBytes(const QString& path, const ImportProgress& progress)
 {
   FileBytes read;
@@ -62,6 +74,8 @@ FileBytes readBytes(const QString& path, const ImportProgress& progress)
       break;
   }
   read.bytes.resize(static_cast<std::size_t>(filled));
+  if (filled == size && !read.cancelled)
+    endAtLine(file, read.bytes);
   return read;
 }
 

@@ -73,6 +73,13 @@ void StudyLoader::start(Job job)
   running.push_back(task);
   current = task;
   task->thread->start();
+  if (task->thread->isRunning() || task->thread->isFinished())
+    return;
+  // The system gives no thread, which Qt only prints.
+  task->opened.error = translated("StudyLoader", "there is not enough memory for this");
+  QMetaObject::invokeMethod(
+      this, [this, weak = std::weak_ptr<Task>(task)] { collect(weak.lock()); },
+      Qt::QueuedConnection);
 }
 
 void StudyLoader::cancel()

@@ -79,6 +79,8 @@ int runProgram(int argc, char** argv)
   if (options.version)
     return print("talmesh-plot " TALMESH_VERSION "\n");
 
+  if (!startSharedThreads())
+    std::_Exit(fail("there is not enough memory"));
   qInstallMessageHandler(reportQtMessage);
   QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
   QCoreApplication::setAttribute(options.writesOnly() ? Qt::AA_DisableHighDpiScaling
@@ -105,5 +107,6 @@ int runProgram(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+  installLastResort();
   return endingClearly([&] { return runProgram(argc, argv); });
 }

@@ -77,3 +77,20 @@ TEST_F(ProgramFaults, SaysThatThereIsNoDisplay)
   environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
   expectError({"--export", path("plot.png")}, "the display cannot be opened");
 }
+
+TEST_F(ProgramFaults, EndsClearlyHoweverShortMemoryIs)
+{
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "The sanitizer takes addresses without bound.";
+#endif
+  const QString csv = write("runs.csv", sampleRuns(500, 1000));
+  int refused = 0;
+  for (const rlim_t megabytes : {300, 700, 750, 800, 850, 900, 1000, 1100, 1200})
+  {
+    const Ended ended = run({csv, "--export", path("plot.png")}, {RLIM_INFINITY, megabytes << 20U});
+    EXPECT_FALSE(ended.crashed) << megabytes;
+    EXPECT_EQ(ended.status, ended.errors.contains("talmesh-plot: ") ? 1 : 0) << megabytes;
+    refused += ended.status;
+  }
+  EXPECT_GT(refused, 0);
+}
