@@ -1,5 +1,6 @@
 #include "app/PictureFile.h"
 
+#include "app/PaintingMemory.h"
 #include "app/ScaledPicture.h"
 #include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
@@ -20,6 +21,7 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -150,6 +152,11 @@ Content csvOf(VtkPlotWidget& widget)
   return content;
 }
 
+std::string missingMemory()
+{
+  return translated("PictureFile", "there is not enough memory for this picture");
+}
+
 Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<PaperSize>& paper)
 {
   switch (kind)
@@ -165,20 +172,46 @@ Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<Pa
   }
 }
 
-std::string writeExport(VtkPlotWidget& widget, const QString& path,
+/// The pixels that a picture is painted with; none for a table.
+QSize paintedSize(const VtkPlotWidget& widget, ExportKind kind,
+                  const std::optional<PaperSize>& paper)
+{
+  if (kind == ExportKind::Table)
+    return {};
+  if (paper)
+    return kind == ExportKind::Pixels ? pixelsOn(*paper) : rounded(pointsOf(*paper));
+  return widget.size() * widget.devicePixelRatioF();
+}
+
+std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind,
                         const std::optional<PaperSize>& paper)
 {
-  const ExportKind kind = exportKindOf(path);
   std::string error;
   if (paper && kind == ExportKind::Pixels)
     error = errorOf(*paper, mostPixelsOf(widget));
   else if (paper && kind == ExportKind::Vectors)
     error = errorOf(*paper, {});
-  if (error.empty())
+  const QSize pixels = paintedSize(widget, kind, paper);
+  if (error.empty() && !pixels.isEmpty() &&
+      !hasMemory(memoryToPaint(*widget.plotContainer(), pixels)))
+    error = missingMemory();
+  return error;
+}
+
+std::string writeExport(VtkPlotWidget& widget, const QString& path,
+                        const std::optional<PaperSize>& paper)
+{
+  const ExportKind kind = exportKindOf(path);
+  std::string error = objectionTo(widget, kind, paper);
+  try
   {
-    const Content content = contentOf(widget, kind, paper);
+    const Content content = error.empty() ? contentOf(widget, kind, paper) : Content{{}, {}, error};
     error = content.error.empty() ? writeFile(path, content.data(), content.size()).toStdString()
                                   : content.error;
+  }
+  catch (const std::bad_alloc&)
+  {
+    error = missingMemory();
   }
   return error.empty() ? error : path.toStdString() + ": " + error;
 }

@@ -103,6 +103,17 @@ bool readDumpBytes(QIODevice& device, qint64 size, const ImportProgress& progres
   return true;
 }
 
+/// Whether there are zeros where the checksum should be, as in a file that was not written to its
+/// end. No checksum is like that, and reading the rest would take long.
+bool endsInZeros(QIODevice& device)
+{
+  const qint64 start = device.pos();
+  if (!device.seek(device.size() - checksumSize))
+    return false;
+  const QByteArray end = device.read(checksumSize);
+  return !device.seek(start) || end == QByteArray(checksumSize, '\0');
+}
+
 } // namespace
 
 bool isSessionFile(const QString& path)
@@ -135,6 +146,8 @@ ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress)
   ReadSessionParts read;
   const QByteArray bytes = device.read(headerSize);
   read.error = objection(bytes, device.size());
+  if (read.error.empty() && endsInZeros(device))
+    read.error = translated("SessionFile", "the session is damaged");
   if (!read.error.empty())
     return read;
   const Header header = headerOf(bytes);

@@ -93,6 +93,10 @@ p, li { white-space: pre-wrap; }
         <source>%1 x %2 pixels are too many: a side may have %3</source>
         <translation>%1 x %2 Bildpunkte sind zu viele: eine Seite darf %3 haben</translation>
     </message>
+    <message>
+        <source>there is not enough memory for this picture</source>
+        <translation>für dieses Bild ist nicht genug Speicher da</translation>
+    </message>
 </context>
 <context>
     <name>PlotChoice</name>

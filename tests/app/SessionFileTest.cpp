@@ -146,6 +146,18 @@ TEST_F(SessionFile, RefusesBytesBehindTheEnd)
   EXPECT_EQ(errorOf(smallBytes() + "x"), "the session is damaged");
 }
 
+TEST_F(SessionFile, ReadsNothingOfAFileThatWasNotWrittenToItsEnd)
+{
+  // States a dump of 16 MiB.
+  write(QByteArray::fromHex("8954414c4d45534800000001000000020000000001000000") + "{}");
+  QFile file(path());
+  ASSERT_TRUE(file.resize(24 + 2 + (16 << 20) + 32));
+  int reports = 0;
+  const auto count = [&reports](double) { return ++reports > 0; };
+  EXPECT_EQ(loadSessionFile(path(), count).error, "the session is damaged");
+  EXPECT_EQ(reports, 0);
+}
+
 TEST_F(SessionFile, SaysThatANewerVersionIsNeeded)
 {
   QByteArray newer = smallBytes();

@@ -12,6 +12,7 @@
 #include "plot/TableColumns.h"
 #include "support/CapturedOutput.h"
 #include "support/PlotScene.h"
+#include "support/TightMemory.h"
 #include "vtk/SelectionColumns.h"
 
 #include <boost/make_shared.hpp>
@@ -20,10 +21,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <fstream>
 #include <memory>
-#include <sys/resource.h>
-#include <unistd.h>
 
 #include "SampleStudies.h"
 
@@ -68,28 +66,6 @@ QByteArray dumpOf(vtkSmartPointer<vtkTable> table)
   state.table = table;
   return plot::writeDump(state);
 }
-
-/// While it lives, the program gets no more than some memory beyond what it has.
-class TightMemory
-{
-public:
-  explicit TightMemory(rlim_t more)
-  {
-    getrlimit(RLIMIT_AS, &before);
-    std::ifstream statm("/proc/self/statm");
-    rlim_t pages = 0;
-    statm >> pages;
-    const rlimit tight = {pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + more,
-                          before.rlim_max};
-    setrlimit(RLIMIT_AS, &tight);
-  }
-  ~TightMemory() { setrlimit(RLIMIT_AS, &before); }
-  TightMemory(const TightMemory&) = delete;
-  TightMemory& operator=(const TightMemory&) = delete;
-
-private:
-  rlimit before = {};
-};
 
 class SessionLimits : public ::testing::Test
 {
