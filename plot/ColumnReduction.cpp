@@ -140,17 +140,19 @@ Windows renumbered(const Windows& windows, const Move& move)
   return moved;
 }
 
-/// Takes what the settings, the remembered windows and the typed items say of column `from` to the
-/// end of the table and lets the columns behind it move up.
-void moveToEnd(PlotState& state, int from)
+/// Takes what the settings and the remembered windows say of the columns `flags`, in ascending
+/// order, to the column that will stand in their place behind all others, and lets the others move
+/// up.
+void renumberToEnd(PlotState& state, const std::vector<int>& flags)
 {
-  const int last = static_cast<int>(state.table->GetNumberOfColumns()) - 1;
+  const int columns = static_cast<int>(state.table->GetNumberOfColumns());
   const auto move = [&](int& column)
   {
-    if (column == from)
-      column = last;
-    else if (column > from && column <= last)
-      --column;
+    const auto next = std::lower_bound(flags.begin(), flags.end(), column);
+    if (next != flags.end() && *next == column)
+      column = columns - static_cast<int>(flags.size());
+    else if (column < columns)
+      column -= static_cast<int>(next - flags.begin());
   };
   PlotMetaData& settings = *state.metaData;
   for (auto* list :
@@ -159,26 +161,40 @@ void moveToEnd(PlotState& state, int from)
   move(settings.colorColumn);
   state.coordinateWindows = renumbered(state.coordinateWindows, move);
   state.windowScales = renumbered(state.windowScales, move);
+}
+
+/// The typed items stay parallel to the columns. If every column has one, the new flags keep that
+/// of the first older ones.
+void moveItemToEnd(PlotState& state, const std::vector<int>& flags)
+{
   auto& items = state.columnItems;
-  if (static_cast<std::size_t>(from) >= items.size())
-    return;
-  const bool complete = items.size() == static_cast<std::size_t>(last) + 1;
-  std::rotate(items.begin() + from, items.begin() + from + 1, items.end());
-  // The items must stay parallel to the columns, and those in front of the flags have none.
-  if (!complete)
-    items.pop_back();
+  const bool complete = items.size() == static_cast<std::size_t>(state.table->GetNumberOfColumns());
+  if (complete)
+    items.push_back(items[static_cast<std::size_t>(flags.front())]);
+  for (auto column = flags.rbegin(); column != flags.rend(); ++column)
+  {
+    if (static_cast<std::size_t>(*column) < items.size())
+      items.erase(items.begin() + *column);
+  }
 }
 
 } // namespace
 
 void appendFlagColumn(PlotState& state, vtkIntArray* flags)
 {
-  for (int older = columnIndex(state.table, selectionFlagColumn); older >= 0;
-       older = columnIndex(state.table, selectionFlagColumn))
+  std::vector<int> older;
+  for (int column = 0; column < state.table->GetNumberOfColumns(); ++column)
   {
-    moveToEnd(state, older);
-    state.table->GetRowData()->RemoveArray(older);
+    if (columnName(state.table, column) == selectionFlagColumn)
+      older.push_back(column);
   }
+  if (!older.empty())
+  {
+    renumberToEnd(state, older);
+    moveItemToEnd(state, older);
+  }
+  for (auto column = older.rbegin(); column != older.rend(); ++column)
+    state.table->GetRowData()->RemoveArray(*column);
   state.table->AddColumn(flags);
 }
 

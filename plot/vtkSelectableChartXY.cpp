@@ -92,6 +92,7 @@ vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
 
 void vtkSelectableChartXY::Update()
 {
+  Lost.hidePlots(this);
   if (!PlotTransformValid)
     Talmesh::settleLogScales(this);
   Superclass::Update();

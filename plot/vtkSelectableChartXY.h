@@ -1,6 +1,7 @@
 #ifndef vtkSelectableChartXY_h
 #define vtkSelectableChartXY_h
 
+#include "plot/LostColumns.h"
 #include "vtk/VtkCompat.h"
 
 #include <vtkChartXY.h>
@@ -30,10 +31,12 @@ public:
   static vtkSelectableChartXY* New();
   TALMESH_VTK_TYPE(vtkSelectableChartXY, vtkChartXY);
 
+  /// Hides plots whose columns have gone, then settles the scales and updates the other plots.
   void Update() override;
   using vtkChartXY::AddPlot;
   /// A line is a vtkPlotSafeLine.
   vtkPlot* AddPlot(int type, unsigned int blockIndex) override;
+
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
   /// Does nothing once the chart has lost its place in the scene since the button was pressed.
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
@@ -59,6 +62,8 @@ private:
 
     void Add(vtkTable* of, vtkIdType row);
   };
+
+  Talmesh::plot::LostColumns Lost;
 
   bool SelectsRows(const vtkContextMouseEvent& mouse);
   void EndDrag();

@@ -1,5 +1,6 @@
 #include "plot/vtkSelectableParallelCoordinates.h"
 
+#include "plot/LostColumns.h"
 #include "plot/SelectionModes.h"
 
 #include <vtkAnnotationLink.h>
@@ -10,6 +11,7 @@
 #include <vtkIdTypeArray.h>
 #include <vtkObjectFactory.h>
 #include <vtkPlot.h>
+#include <vtkStringArray.h>
 #include <vtkTable.h>
 
 #include <cmath>
@@ -33,8 +35,21 @@ std::vector<bool> rowsShown(vtkPlot* plot)
 
 } // namespace
 
+bool vtkSelectableParallelCoordinates::HasColumns()
+{
+  vtkTable* table = GetPlot(0)->GetInput();
+  for (vtkIdType i = 0; table && i < VisibleColumns->GetNumberOfValues(); ++i)
+  {
+    if (!Talmesh::plot::hasNumbers(table, VisibleColumns->GetValue(i)))
+      return false;
+  }
+  return true;
+}
+
 bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
 {
+  if (!HasColumns())
+    GetPlot(0)->SetVisible(false);
   if (AnnotationLink && AnnotationLink->GetMTime() > Shown)
   {
     if (!KeepsBrush)

@@ -16,6 +16,7 @@ public:
   static vtkSelectableParallelCoordinates* New();
   TALMESH_VTK_TYPE(vtkSelectableParallelCoordinates, vtkChartParallelCoordinates);
 
+  /// Paints nothing any more once a column of an axis has gone from the table: VTK reads it.
   bool Paint(vtkContext2D* painter) override;
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
   /// Does nothing once the chart has lost its place in the scene since the button was pressed.
@@ -32,6 +33,7 @@ private:
   vtkSelectableParallelCoordinates(const vtkSelectableParallelCoordinates&) = delete;
   void operator=(const vtkSelectableParallelCoordinates&) = delete;
 
+  bool HasColumns();
   bool IsOverAxis(const vtkContextMouseEvent& mouse);
 
   vtkTimeStamp Shown;

@@ -182,11 +182,14 @@ TEST_F(ReducedColumns, LoseAllOlderColumnsOfFlags)
 {
   keepOldFlags(4);
   container.getTable()->GetColumn(3)->SetName("selected points");
+  settings().zColumns = {4, 5};
   select({2});
   container.shrinkToColumnSelection();
   EXPECT_EQ(labels(),
             (QStringList{"column 2", "column 5", "column 7", "column 8", "selected points"}));
   EXPECT_EQ(settings().parameterColumns, Columns({4, 2}));
+  EXPECT_EQ(settings().zColumns, Columns({4, 1}));
+  EXPECT_EQ(itemNames(), (std::vector<std::string>{"2", "5", "7", "8", "3"}));
   EXPECT_EQ(SampleRuns::valuesOf(container.getTable(), "selected points"),
             (std::vector<double>{0, 0, 1}));
 }

@@ -1,0 +1,135 @@
+#include "support/ParameterStudy.h"
+#include "support/PlotFixture.h"
+#include "support/PlotStyleCount.h"
+
+#include <vtkChartParallelCoordinates.h>
+#include <vtkDataSetAttributes.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "SobolFixture.h"
+
+namespace
+{
+
+constexpr int parameters = 3;
+
+/// Columns that go, lose their name or their rows under a chart that shows them.
+class LostColumns : public UndrawnPlotFixture, public ::testing::WithParamInterface<int>
+{
+protected:
+  void show()
+  {
+    container.setLinePlotTable(parameterStudy(6, 4, parameters), true);
+    settings().solidColor = false;
+    settings().setShowQuantiles(true);
+    storeStyle(container, GetParam());
+    container.redraw();
+    scene.render(container);
+  }
+
+  /// Every column in turn, each under a new drawing.
+  void expectSurvived(const std::function<void(vtkTable*, int)>& lose)
+  {
+    for (int column = 0; column < 3 + parameters; ++column)
+    {
+      show();
+      vtkTable* table = container.getTable();
+      lose(table, column);
+      for (const bool announced : {false, true})
+      {
+        if (announced)
+          table->Modified();
+        scene.render(container);
+      }
+      // Announced, a drawing reports what pages throw for parameters without a full name.
+      settings().setPThreshold(settings().getPThreshold() / 2.0);
+      scene.render(container);
+    }
+  }
+};
+
+TEST_P(LostColumns, MayBeRemoved)
+{
+  expectSurvived([](vtkTable* table, int column) { table->GetRowData()->RemoveArray(column); });
+}
+
+TEST_P(LostColumns, MayLoseTheirNames)
+{
+  expectSurvived([](vtkTable* table, int column) { table->GetColumn(column)->SetName("other"); });
+  expectSurvived([](vtkTable* table, int column) { table->GetColumn(column)->SetName(nullptr); });
+}
+
+TEST_P(LostColumns, MayLoseRows)
+{
+  expectSurvived([](vtkTable* table, int column)
+                 { table->GetColumn(column)->SetNumberOfTuples(1); });
+}
+
+TEST_P(LostColumns, MayAllGo)
+{
+  expectSurvived([](vtkTable* table, int) { table->Initialize(); });
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryStyle, LostColumns, ::testing::Range(0, plotStyleCount));
+
+class LostSeries : public SobolFixture
+{
+};
+
+TEST_F(LostSeries, OfBarsAndAreasMayBeRemoved)
+{
+  for (const plotStyles style : {reservedStyle1, reservedStyle2})
+  {
+    const bool bars = style == reservedStyle1;
+    for (int column = 0; column < 3; ++column)
+    {
+      storeStyle(container, style);
+      container.setSobolPostprocessResult(&result, bars, false, 0, 0);
+      render();
+      ASSERT_GT(container.getTable()->GetNumberOfColumns(), column);
+      ASSERT_TRUE(container.getChartXY()->GetPlot(0)->GetVisible());
+      container.getTable()->GetRowData()->RemoveArray(column);
+      container.getTable()->Modified();
+      render();
+      container.redraw();
+      render();
+    }
+  }
+}
+
+class LostPlot : public PlotFixture
+{
+};
+
+TEST_F(LostPlot, IsEmptyUntilTheNextDrawing)
+{
+  ASSERT_TRUE(points()->GetVisible());
+  container.getTable()->GetRowData()->RemoveArray("b");
+  scene.render(container);
+  EXPECT_FALSE(points()->GetVisible());
+  EXPECT_FALSE(chart()->GetPlot(0)->GetVisible());
+  container.addColumn({1, 4, 9, 16, 25}, "b");
+  settings().yColumns = {3};
+  container.redraw();
+  scene.render(container);
+  EXPECT_TRUE(points()->GetVisible());
+}
+
+TEST_F(LostPlot, OnlyLosesItsColorsWithTheColumnOfThose)
+{
+  settings().solidColor = false;
+  settings().colorColumn = 2;
+  container.redraw();
+  scene.render(container);
+  ASSERT_TRUE(points()->GetScalarVisibility());
+  container.getTable()->GetRowData()->RemoveArray("c");
+  container.getTable()->Modified();
+  scene.render(container);
+  EXPECT_TRUE(points()->GetVisible());
+  EXPECT_FALSE(points()->GetScalarVisibility());
+}
+
+} // namespace
