@@ -29,6 +29,8 @@ constexpr char memoryLine[] = "talmesh-plot: there is not enough memory\n";
 constexpr std::size_t spareMemory = std::size_t{256} << 20U;
 constexpr std::size_t handlerStack = std::size_t{64} << 10U;
 constexpr int mostSharedThreads = 8;
+/// Those of the display's events and of the accessibility bus, which start next.
+constexpr int laterThreads = 2;
 constexpr int patience = 10000; ///< milliseconds
 
 [[noreturn]] void endWithoutMemory()
@@ -146,7 +148,7 @@ bool startSharedThreads()
 {
   QThreadPool& pool = *QThreadPool::globalInstance();
   const int count = std::min(pool.maxThreadCount(), mostSharedThreads);
-  if (!canStartThreads(count))
+  if (!canStartThreads(count + laterThreads))
     return false;
   pool.setMaxThreadCount(count);
   pool.setExpiryTimeout(-1);

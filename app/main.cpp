@@ -9,6 +9,7 @@
 
 #include <QVTKOpenGLNativeWidget.h>
 
+#include <QAccessible>
 #include <QOpenGLContext>
 #include <QSurfaceFormat>
 
@@ -97,6 +98,9 @@ int runProgram(int argc, char** argv)
   int programNameOnly = 1;
   ClearlyEndingApplication application(programNameOnly, argv);
   displayFound = true;
+  // Starts the thread of the accessibility bus. The first window would do so when memory may be too
+  // short for it, and wait for ever.
+  QAccessible::isActive();
   Talmesh::installTranslation(application, QLocale::system());
   // Qt takes over the user's locale, in which PDF and CSV would get decimal commas.
   std::setlocale(LC_NUMERIC, "C");
