@@ -26,9 +26,13 @@ CoverageScale::CoverageScale(double opacity, std::int64_t totalWeight)
     perCoverage[static_cast<std::size_t>(step)] = static_cast<std::int32_t>(
         std::lround(whole * std::log1p(-a * step / steps) / std::log1p(-a)));
   opacities.resize(static_cast<std::size_t>(std::ceil(saturation * whole)) + 1);
-  for (std::size_t count = 0; count < opacities.size(); ++count)
-    opacities[count] = static_cast<std::uint16_t>(
-        std::lround(-65535.0 * std::expm1(static_cast<double>(count) / whole * std::log1p(-a))));
+  const double light = std::exp(std::log1p(-a) / whole);
+  double left = 65535.0;
+  for (std::uint16_t& value : opacities)
+  {
+    value = static_cast<std::uint16_t>(65535.5 - left);
+    left *= light;
+  }
 }
 
 PixelCounts::PixelCounts(int columns, int rows, const CoverageScale& coverage)

@@ -12,6 +12,13 @@ constexpr float infinity = std::numeric_limits<float>::infinity();
 constexpr float none = std::numeric_limits<float>::quiet_NaN();
 /// Pixels beyond which a height makes no difference; floats are exact to a sixteenth here.
 constexpr double farAway = 1.0e6;
+/// Elements and pixels within which lines are followed the short way.
+constexpr double farthest = 1.0e9;
+
+float heightOf(double y)
+{
+  return static_cast<float>(std::clamp(y, -farAway, farAway));
+}
 
 float greater(float candidate, float best)
 {
@@ -66,12 +73,14 @@ float RunTracer::penHeight(double distance) const
 void RunTracer::trace(const float* points, const unsigned char* broken, const CountedRun& run,
                       const PixelMap& map)
 {
-  const double scaleX = map.scaleX * pen.columnsPerPixel;
-  const double shiftX = map.shiftX * pen.columnsPerPixel + shift;
-  for (std::int64_t i = run.first; i < run.first + run.count; ++i)
+  const PixelMap toElements{map.scaleX * pen.columnsPerPixel,
+                            map.shiftX * pen.columnsPerPixel + shift, map.scaleY, map.shiftY};
+  std::int64_t i = run.first;
+  if (!broken)
+    i += traceForward(points + 2 * run.first, run.count, toElements);
+  for (; i < run.first + run.count; ++i)
   {
-    const Position point{points[2 * i] * scaleX + shiftX,
-                         points[2 * i + 1] * map.scaleY + map.shiftY};
+    const Position point = positionOf(points + 2 * i, toElements);
     if ((broken && broken[i]) || !std::isfinite(point.x) || !std::isfinite(point.y))
       endPiece();
     else
@@ -79,6 +88,56 @@ void RunTracer::trace(const float* points, const unsigned char* broken, const Co
   }
   endPiece();
   finish(static_cast<std::int32_t>(std::min(run.weight, counts.mostRepeats())));
+}
+
+RunTracer::Position RunTracer::positionOf(const float* point, const PixelMap& toElements)
+{
+  return {point[0] * toElements.scaleX + toElements.shiftX,
+          point[1] * toElements.scaleY + toElements.shiftY};
+}
+
+// What addPoint() does, for the points of nearly all runs.
+std::int64_t RunTracer::traceForward(const float* points, std::int64_t count,
+                                     const PixelMap& toElements)
+{
+  const auto end = static_cast<double>(lowest.size());
+  std::int64_t i = 0;
+  for (; i < count; ++i)
+  {
+    const Position point = positionOf(points + 2 * i, toElements);
+    if (!(std::abs(point.x) < farthest && std::abs(point.y) < farthest))
+      break;
+    if (i > 0)
+    {
+      if (!(point.x >= previous.x))
+        break;
+      if (i == 1)
+        include(previous);
+      if (previous.x < 0.0 || point.x >= end)
+        segment(previous, point);
+      else
+        segmentWithin(previous, point);
+      include(point);
+    }
+    previous = point;
+  }
+  pieceLength = static_cast<int>(std::min<std::int64_t>(i, 2));
+  direction = i > 1 ? 1 : 0;
+  return i;
+}
+
+void RunTracer::segmentWithin(const Position& from, const Position& to)
+{
+  const int first = static_cast<int>(from.x);
+  const int last = static_cast<int>(to.x);
+  firstElement = std::min(firstElement, first);
+  lastElement = last;
+  if (first == last)
+    return;
+  const double slope = (to.y - from.y) / (to.x - from.x);
+  const double start = from.y - slope * from.x;
+  for (int element = first + 1; element <= last; ++element)
+    border[static_cast<std::size_t>(element)] = heightOf(start + slope * element);
 }
 
 void RunTracer::addPoint(const Position& point)
@@ -124,9 +183,8 @@ void RunTracer::segment(const Position& from, const Position& to)
     return;
   const double slope = (to.y - from.y) / (to.x - from.x);
   const double start = from.y - slope * from.x;
-  float* const borders = border.data();
   for (int element = first + 1; element <= last; ++element)
-    borders[element] = static_cast<float>(std::clamp(start + slope * element, -farAway, farAway));
+    border[static_cast<std::size_t>(element)] = heightOf(start + slope * element);
 }
 
 void RunTracer::include(const Position& point)
@@ -134,7 +192,7 @@ void RunTracer::include(const Position& point)
   if (!(point.x >= 0.0 && point.x < static_cast<double>(lowest.size())))
     return;
   const auto i = static_cast<std::size_t>(point.x);
-  const auto y = static_cast<float>(std::clamp(point.y, -farAway, farAway));
+  const float y = heightOf(point.y);
   lowest[i] = smaller(y, lowest[i]);
   highest[i] = greater(y, highest[i]);
 }

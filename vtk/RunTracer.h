@@ -62,9 +62,12 @@ private:
 
   void layTaps();
   float penHeight(double distance) const;
+  static Position positionOf(const float* point, const PixelMap& toElements);
+  std::int64_t traceForward(const float* points, std::int64_t count, const PixelMap& toElements);
   void addPoint(const Position& point);
   void endPiece();
   void segment(const Position& from, const Position& to);
+  void segmentWithin(const Position& from, const Position& to);
   void include(const Position& point);
   void dot(const Position& center);
   void flushToBits();
