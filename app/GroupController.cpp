@@ -100,10 +100,7 @@ void GroupController::restoreGroups(const SessionGroups& kept)
 {
   if (!container)
     return;
-  const plot::RunLayout layout = {container->getTable()->GetNumberOfRows(),
-                                  container->getMetaData()->getStride()};
-  if (static_cast<vtkIdType>(kept.groupOfRun.size()) == layout.runs())
-    takeGroups(kept.groupOfRun);
+  takeGroups(kept.groupOfRun);
   dock.setGrouping(kept.count, kept.mode);
   dock.setLook(kept.look);
 }

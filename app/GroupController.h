@@ -40,7 +40,7 @@ public:
   const RunNormaliser& runNormaliser() const { return normaliser; }
   /// What a session keeps of the groups.
   SessionGroups sessionGroups() const;
-  /// Brings back what a session kept, unless the study has other runs. Emits nothing.
+  /// Brings back what a session kept of the same runs. Emits nothing.
   void restoreGroups(const SessionGroups& kept);
 
 signals:

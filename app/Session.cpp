@@ -94,6 +94,16 @@ int columnCount(const DumpedTable& table)
          static_cast<int>(table.further->GetNumberOfColumns());
 }
 
+/// Groups of other runs than the study has say nothing.
+void dropStrangeGroups(SessionGroups& groups, const Study& study)
+{
+  if (study.runs && groups.groupOfRun.size() == study.runs->numberOfTrajectories)
+    return;
+  groups.groupOfRun.clear();
+  groups.look.groupColours = false;
+  groups.look.groupMeans = false;
+}
+
 /// Writes the session into `opened`, whose study is read.
 void readRest(OpenedSession& opened, const ReadSessionParts& file, const DumpedTable& table)
 {
@@ -103,6 +113,7 @@ void readRest(OpenedSession& opened, const ReadSessionParts& file, const DumpedT
     return;
   if (opened.study.runs)
     read.settings.plot->setStride(read.settings.pointsPerRun);
+  dropStrangeGroups(read.settings.groups, opened.study);
   opened.study.name = read.settings.name;
   opened.session = std::make_shared<RestoredSession>(
       RestoredSession{read.settings, file.end, table.further, table.selected});
