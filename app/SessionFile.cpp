@@ -107,10 +107,10 @@ bool readDumpBytes(QIODevice& device, qint64 size, const ImportProgress& progres
 bool endsInZeros(QIODevice& device)
 {
   const qint64 start = device.pos();
-  if (!device.seek(device.size() - checksumSize))
+  if (!device.seek(device.size() - sessionChecksumSize))
     return false;
-  const QByteArray end = device.read(checksumSize);
-  return !device.seek(start) || end == QByteArray(checksumSize, '\0');
+  const QByteArray end = device.read(sessionChecksumSize);
+  return !device.seek(start) || end == QByteArray(sessionChecksumSize, '\0');
 }
 
 } // namespace
