@@ -5,6 +5,7 @@
 #include "vtk/VtkCompat.h"
 
 #include <vtkDoubleArray.h>
+#include <vtkFloatArray.h>
 #include <vtkIntArray.h>
 #include <vtkObjectFactory.h>
 #include <vtkTable.h>
@@ -38,11 +39,12 @@ Values firstRowsOf(const SampleRuns::Shape& shape, const std::set<int>& runs)
 }
 
 /// A column whose values cannot be read while `broken` is set.
-class UnreadableColumn : public vtkDoubleArray
+/// Not of doubles, which are read where they lie.
+class UnreadableColumn : public vtkFloatArray
 {
 public:
   static UnreadableColumn* New();
-  TALMESH_VTK_TYPE(UnreadableColumn, vtkDoubleArray);
+  TALMESH_VTK_TYPE(UnreadableColumn, vtkFloatArray);
   double GetComponent(vtkIdType row, int component) override
   {
     if (broken)
