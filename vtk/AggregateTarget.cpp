@@ -126,27 +126,28 @@ bool AggregateTarget::wantsShapes(AggregateDevice::Shapes kind, vtkIdType count)
   return kind == AggregateDevice::Shapes::Points && count <= mostMarkersOnScreen;
 }
 
-void AggregateTarget::draw(vtkContext2D* painter, vtkImageData* picture) const
+void AggregateTarget::draw(vtkContext2D* painter, vtkImageData* picture, int column, int row) const
 {
   const double toDevice[9] = {1.0 / grid.scaleX,
                               0.0,
-                              grid.originX + left / grid.scaleX,
+                              grid.originX + (left + column) / grid.scaleX,
                               0.0,
                               1.0 / grid.scaleY,
-                              grid.originY + bottom / grid.scaleY,
+                              grid.originY + (bottom + row) / grid.scaleY,
                               0.0,
                               0.0,
                               1.0};
   vtkNew<vtkTransform2D> pixels;
   pixels->SetMatrix(toDevice);
+  int size[3];
+  picture->GetDimensions(size);
   painter->PushMatrix();
   painter->SetTransform(pixels);
   // The screen copies an image that comes with a rectangle into one of a power of two, value by
   // value and across the rows.
   if (device)
     painter->DrawImage(
-        vtkRectf(0.0f, 0.0f, static_cast<float>(pixelWidth), static_cast<float>(pixelHeight)),
-        picture);
+        vtkRectf(0.0f, 0.0f, static_cast<float>(size[0]), static_cast<float>(size[1])), picture);
   else
     painter->DrawImage(0.0f, 0.0f, picture);
   painter->PopMatrix();

@@ -32,8 +32,8 @@ public:
   /// Turns pen widths and marker sizes into pixels.
   double penScale() const { return grid.scaleX; }
 
-  /// Draws a picture of width() x height() pixels where it belongs.
-  void draw(vtkContext2D* painter, vtkImageData* picture) const;
+  /// Draws a picture whose lower left pixel is pixel (@p column, @p row) of width() x height().
+  void draw(vtkContext2D* painter, vtkImageData* picture, int column, int row) const;
 
 private:
   AggregateTarget() = default;

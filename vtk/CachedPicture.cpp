@@ -6,6 +6,7 @@
 #include <vtkPen.h>
 
 #include <algorithm>
+#include <cstddef>
 
 namespace Talmesh
 {
@@ -26,13 +27,32 @@ void addPen(CachedPicture::Key& key, vtkPen* pen)
                          double(pen->GetOpacity()), double(pen->GetWidth())});
 }
 
-vtkSmartPointer<vtkImageData> imageOf(const CachedPicture::Pixels& pixels, int width, int height)
+/// Pixels from (left, bottom) up to but without (right, top).
+struct Rectangle
 {
-  auto image = vtkSmartPointer<vtkImageData>::New();
-  image->SetDimensions(width, height, 1);
-  image->AllocateScalars(VTK_UNSIGNED_CHAR, 4);
-  std::copy(pixels.begin(), pixels.end(), static_cast<unsigned char*>(image->GetScalarPointer()));
-  return image;
+  int left;
+  int bottom;
+  int right;
+  int top;
+};
+
+Rectangle inkedPart(const CachedPicture::Pixels& pixels, int width, int height)
+{
+  Rectangle part{width, height, 0, 0};
+  const unsigned char* opacity = pixels.data() + 3;
+  for (int row = 0; row < height; ++row)
+  {
+    for (int column = 0; column < width; ++column, opacity += 4)
+    {
+      if (*opacity == 0)
+        continue;
+      part.left = std::min(part.left, column);
+      part.right = std::max(part.right, column + 1);
+      part.bottom = std::min(part.bottom, row);
+      part.top = row + 1;
+    }
+  }
+  return part;
 }
 } // namespace
 
@@ -43,12 +63,31 @@ void CachedPicture::paint(vtkContext2D* painter, const AggregateTarget& target, 
     return;
   addPlace(key, target);
   addPen(key, painter->GetPen());
-  if (!picture || key != shown)
+  if (key != shown)
   {
-    picture = imageOf(make(), target.width(), target.height());
+    keepInked(make(), target.width(), target.height());
     shown = std::move(key);
   }
-  target.draw(painter, picture);
+  if (picture)
+    target.draw(painter, picture, left, bottom);
+}
+
+// Blending costs a software renderer more than everything else about an unchanged picture.
+void CachedPicture::keepInked(const Pixels& pixels, int width, int height)
+{
+  picture = nullptr;
+  const Rectangle part = inkedPart(pixels, width, height);
+  if (part.left >= part.right)
+    return;
+  left = part.left;
+  bottom = part.bottom;
+  picture = vtkSmartPointer<vtkImageData>::New();
+  picture->SetDimensions(part.right - part.left, part.top - part.bottom, 1);
+  picture->AllocateScalars(VTK_UNSIGNED_CHAR, 4);
+  auto* to = static_cast<unsigned char*>(picture->GetScalarPointer());
+  const std::ptrdiff_t rowSize = 4 * (part.right - part.left);
+  for (int row = part.bottom; row < part.top; ++row, to += rowSize)
+    std::copy_n(pixels.data() + 4 * (static_cast<std::ptrdiff_t>(row) * width + left), rowSize, to);
 }
 
 CachedPicture::Pixels CachedPicture::tinted(const OpacityImage& opacities, vtkPen* pen)

@@ -34,8 +34,13 @@ public:
   static Pixels tinted(const OpacityImage& opacities, vtkPen* pen);
 
 private:
+  void keepInked(const Pixels& pixels, int width, int height);
+
   Key shown;
+  /// What of the layer is not empty, and where that lies; null for nothing.
   vtkSmartPointer<vtkImageData> picture;
+  int left = 0;
+  int bottom = 0;
 };
 } // namespace Talmesh
 

@@ -1,5 +1,7 @@
 #include "vtk/LineCounts.h"
 
+#include "stats/ParallelParts.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cmath>
@@ -11,32 +13,21 @@ namespace Talmesh
 {
 namespace
 {
-/// Below this a second thread costs more than it saves.
-constexpr std::int64_t pointsWorthAThread = 20000;
-constexpr unsigned mostThreads = 8;
-/// Runs that a thread takes at a time.
+/// Below this another thread costs more than it saves.
+constexpr std::int64_t pointsWorthAWorker = 20000;
+constexpr unsigned mostWorkers = 8;
+/// Runs that a worker takes at a time.
 constexpr std::size_t share = 8;
 /// What parts of columns may cost: so many runs through columns, and so many counts of 4 bytes.
-constexpr double mostCrossings = 2.0e6;
+constexpr double mostCrossings = 8.0e5;
 constexpr double mostCounts = 4.0e6;
 
-unsigned threadsFor(std::int64_t work)
+/// Each has counts of its own. The first to work takes all runs that no other takes.
+std::size_t workersFor(std::int64_t points)
 {
-  const std::int64_t wanted = 1 + work / pointsWorthAThread;
-  const unsigned there = std::clamp(std::thread::hardware_concurrency(), 1u, mostThreads);
-  return static_cast<unsigned>(std::min<std::int64_t>(wanted, there));
-}
-
-/// Runs @p work with 0 to @p count - 1, each in a thread of its own.
-template <typename Work>
-void inParallel(unsigned count, const Work& work)
-{
-  std::vector<std::thread> threads;
-  for (unsigned i = 1; i < count; ++i)
-    threads.emplace_back(work, i);
-  work(0);
-  for (std::thread& thread : threads)
-    thread.join();
+  const std::int64_t wanted = 1 + points / pointsWorthAWorker;
+  const unsigned there = std::clamp(std::thread::hardware_concurrency(), 1u, mostWorkers);
+  return static_cast<std::size_t>(std::min<std::int64_t>(wanted, there));
 }
 
 int columnsPerPixel(int parts, std::size_t runs, int width, int height)
@@ -74,29 +65,25 @@ OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width
   const CoverageScale scale(pen.opacity, totalWeight(lines.runs, most));
   const int parts = columnsPerPixel(pen.finest, lines.runs.size(), width, height);
   const int columns = parts * width;
-  const unsigned threads = threadsFor(pointCount(lines.runs));
-  std::vector<PixelCounts> counts(threads, PixelCounts(columns, height, scale));
+  const std::size_t workers = workersFor(pointCount(lines.runs));
+  std::vector<PixelCounts> counts(workers, PixelCounts(columns, height, scale));
   std::atomic<std::size_t> next{0};
-  inParallel(threads,
-             [&](unsigned thread)
-             {
-               RunTracer tracer(counts[thread], columns, height, {pen.width, pen.dotSize, parts});
-               for (std::size_t first = next.fetch_add(share); first < lines.runs.size();
-                    first = next.fetch_add(share))
-               {
-                 const std::size_t end = std::min(first + share, lines.runs.size());
-                 for (std::size_t run = first; run < end; ++run)
-                   tracer.trace(lines.points, lines.broken, lines.runs[run], map);
-               }
-             });
-
-  inParallel(threads,
-             [&](unsigned thread)
-             {
-               const int step = width / static_cast<int>(threads) + 1;
-               const int first = std::min(width, step * static_cast<int>(thread));
-               fillColumns(image, counts, scale, parts, first, std::min(width, first + step));
-             });
+  const auto countRuns = [&](std::size_t worker, std::size_t)
+  {
+    RunTracer tracer(counts[worker], columns, height, {pen.width, pen.dotSize, parts});
+    for (std::size_t first = next.fetch_add(share); first < lines.runs.size();
+         first = next.fetch_add(share))
+    {
+      const std::size_t end = std::min(first + share, lines.runs.size());
+      for (std::size_t run = first; run < end; ++run)
+        tracer.trace(lines.points, lines.broken, lines.runs[run], map);
+    }
+  };
+  stats::inParallelParts(workers, 1, countRuns);
+  const auto fill = [&](std::size_t first, std::size_t end)
+  { fillColumns(image, counts, scale, parts, static_cast<int>(first), static_cast<int>(end)); };
+  stats::inParallelParts(static_cast<std::size_t>(width),
+                         static_cast<std::size_t>(width) / workers + 1, fill);
   return image;
 }
 } // namespace Talmesh
