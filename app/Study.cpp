@@ -97,6 +97,8 @@ Study exampleStudyOfRepressilator(const ImportProgress& progress)
 void showStudy(const Study& study, PlotContainer& container)
 {
   PlotMetaData& settings = *container.getMetaData();
+  // Each selection draws, and would take the pair that the user looks at away.
+  container.setKeepsScatterPair(true);
   if (study.chart)
   {
     study.chart->draw(container, study.chart->firstVariant);

@@ -1,8 +1,8 @@
 #include "plot/ChartLifetime.h"
 
 #include "plot/AxisScales.h"
+#include "plot/HandlerScope.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionBounds.h"
 #include "plot/vtkSelectableChartXY.h"
 
 #include <vtkContextScene.h>
@@ -42,7 +42,6 @@ void ensureStandaloneChart(PlotState& state)
 
 void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene)
 {
-  cutSelectionToTable(state);
   state.sceneLink.watch(scene);
   chart->SetScene(scene);
   state.currentChart = chart;
@@ -76,12 +75,18 @@ void forgetScene(PlotState& state, vtkContextScene* scene)
     if (chart && chart->GetScene() == scene)
       chart->SetScene(nullptr);
   }
+  for (vtkObjectBase* object : *state.setAside)
+  {
+    auto* chart = vtkAbstractContextItem::SafeDownCast(object);
+    if (chart && chart->GetScene() == scene)
+      chart->SetScene(nullptr);
+  }
 }
 
 void releaseChartXY(PlotState& state)
 {
   if (state.chartXY)
-    keepUntilEventLoop(state.chartXY);
+    setAside(state, state.chartXY);
   state.chartXY = nullptr;
 }
 
@@ -94,7 +99,7 @@ void resetChartMatrix(PlotState& state, int columns, int rows)
     releaseChartXY(state);
   state.chartMatrix->SetSize(vtkVector2i(0, 0));
   state.chartMatrix->ClearSpecificResizes();
-  retireCells(dropped, state.chartMatrix->GetScene());
+  retireCells(state, dropped, state.chartMatrix->GetScene());
   state.chartMatrix->SetSize(vtkVector2i(columns, rows));
 }
 
@@ -106,13 +111,13 @@ ChartCells cellsOf(vtkChartMatrix* matrix)
   return cells;
 }
 
-void retireCells(const ChartCells& cells, vtkContextScene* scene)
+void retireCells(PlotState& state, const ChartCells& cells, vtkContextScene* scene)
 {
   for (const auto& cell : cells)
   {
     // Removal took the chart out of its scene, but a handler that is still running in it needs one.
     cell->SetScene(scene);
-    keepUntilEventLoop(cell);
+    setAside(state, cell);
   }
 }
 
@@ -129,11 +134,23 @@ void adoptCell(PlotState& state, int column, int row)
   applyChartLooks(state);
 }
 
-void keepUntilEventLoop(vtkSmartPointer<vtkObjectBase> object)
+void setAside(PlotState& state, vtkSmartPointer<vtkObjectBase> object)
 {
-  if (QCoreApplication* application = QCoreApplication::instance())
+  QCoreApplication* application = QCoreApplication::instance();
+  if (!application)
+    return;
+  const bool first = state.setAside->empty();
+  state.setAside->push_back(std::move(object));
+  // The call holds the shelf, which so outlives a container that ends in a handler.
+  if (first)
     QMetaObject::invokeMethod(
-        application, [object] {}, Qt::QueuedConnection);
+        application, [shelf = state.setAside] { ChartShelf().swap(*shelf); }, Qt::QueuedConnection);
+}
+
+void freeChartsSetAside(PlotState& state)
+{
+  if (!HandlerScope::isOpen())
+    ChartShelf().swap(*state.setAside);
 }
 
 } // namespace Talmesh::plot

@@ -23,8 +23,8 @@ vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state);
 /// matrix, which belongs to a page of many charts.
 void ensureStandaloneChart(PlotState& state);
 
-/// Puts `chart` into `scene` and makes it the chart now shown, and cuts the selection to the table
-/// that it will show. The scene's items stay as they are: the widget replaces them.
+/// Puts `chart` into `scene` and makes it the chart now shown. The scene's items stay as they are:
+/// the widget replaces them.
 void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene);
 
 /// Adds the chart now shown to the items of its scene, if it has one, unless it is one of them.
@@ -50,9 +50,9 @@ using ChartCells = std::vector<vtkSmartPointer<vtkAbstractContextItem>>;
 /// The charts that a matrix holds now.
 ChartCells cellsOf(vtkChartMatrix* matrix);
 
-/// Keeps cells that their matrix has dropped usable until control returns to the event loop.
+/// Sets cells aside that their matrix has dropped, usable as before.
 /// @param scene the scene in which they were
-void retireCells(const ChartCells& cells, vtkContextScene* scene);
+void retireCells(PlotState& state, const ChartCells& cells, vtkContextScene* scene);
 
 /// Releases an XY chart that was built from Sobol results: its axes and legend fit nothing else.
 void leaveSobolChart(PlotState& state);
@@ -60,10 +60,14 @@ void leaveSobolChart(PlotState& state);
 /// Makes the cell of the chart matrix at `column`, `row` the container's XY chart.
 void adoptCell(PlotState& state, int column, int row);
 
-/// Keeps `object` alive until control returns to the event loop, because a redraw can run inside a
-/// mouse handler of the very chart that it replaces. Without a running application there is no such
-/// handler and nothing is kept.
-void keepUntilEventLoop(vtkSmartPointer<vtkObjectBase> object);
+/// Keeps `object` alive until control returns to the event loop, or until freeChartsSetAside(): a
+/// redraw can run inside a mouse handler of the very chart that it replaces. Without a running
+/// application there is no such handler and nothing is kept.
+void setAside(PlotState& state, vtkSmartPointer<vtkObjectBase> object);
+
+/// Frees what is set aside unless a handler of a chart is running. Programs that draw often and
+/// seldom return to the event loop would keep every chart otherwise.
+void freeChartsSetAside(PlotState& state);
 
 } // namespace Talmesh::plot
 

@@ -8,7 +8,6 @@
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
-#include "plot/SelectionBounds.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
 
@@ -104,7 +103,6 @@ RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve)
 {
   const auto [low, high] = curve.range;
   replaceTable(state, curve.table);
-  cutSelectionToTable(state);
   vtkChartXY* chart = reuseChartXY(state, currentScene(state));
   vtkPlot* area = chart->AddPlot(vtkChart::STACKED);
   // VTK sorts the points by x and does not finish painting an infinite axis.

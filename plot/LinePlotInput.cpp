@@ -6,7 +6,6 @@
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
-#include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
@@ -57,7 +56,6 @@ void drawLinePlotItems(PlotState& state, const std::vector<Talmesh::TypedConcent
 {
   if (!state.chartXY)
     return;
-  cutSelectionToTable(state);
   state.chartXY->ClearPlots();
   vtkNew<vtkColorSeries> colors;
   colors->SetColorScheme(vtkColorSeries::WILD_FLOWER);

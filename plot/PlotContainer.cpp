@@ -52,6 +52,7 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.verticalGutter = from.verticalGutter;
   to.useIndexForXSeries = from.useIndexForXSeries;
   to.diagnosticsShown = from.diagnosticsShown;
+  to.keepsScatterPair = from.keepsScatterPair;
 }
 
 } // namespace
@@ -95,7 +96,7 @@ PlotContainer::~PlotContainer()
     d->chartXY->RemoveObserver(d->shiftScaleCallback);
   // A container can die inside a mouse handler of its own charts.
   if (d->currentChart)
-    Talmesh::plot::keepUntilEventLoop(d->currentChart);
+    Talmesh::plot::setAside(*d, d->currentChart);
   delete d->metaData;
 }
 
@@ -236,4 +237,9 @@ void PlotContainer::setUseIndexForXSeries(bool use)
 {
   d->useIndexForXSeries = use;
   dirty();
+}
+
+void PlotContainer::setKeepsScatterPair(bool keep)
+{
+  d->keepsScatterPair = keep;
 }

@@ -97,6 +97,10 @@ public:
   /// Uses the row index as x series where a style knows that, and marks the scene for painting.
   void setUseIndexForXSeries(bool use);
 
+  /// Lets the scatter-plot matrix keep the pair in its large chart through redraws with the same
+  /// columns. Otherwise each redraw with limited columns makes it the first x and y column.
+  void setKeepsScatterPair(bool keep);
+
   /// Draws the decoration lines with the next redraw. Its last column is their common x.
   /// Null draws none. `show` switches them on or off.
   void setDecorations(vtkSmartPointer<vtkTable> decorations, bool show);

@@ -31,6 +31,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/unordered_map.hpp>
 
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -43,6 +44,8 @@ class vtkShiftScaleCallback;
 namespace Talmesh::plot
 {
 
+/// Charts that are replaced but may still run a handler.
+using ChartShelf = std::vector<vtkSmartPointer<vtkObjectBase>>;
 using CoordinateWindows = boost::unordered_map<ReducedMetaData, CoordinateWindow>;
 
 /// Everything that a PlotContainer knows. The container owns one; builders and operations are free
@@ -118,7 +121,7 @@ struct PlotState
   boost::unordered_map<ReducedMetaData, WindowScales> windowScales;
   /// What the plot table was last ranked with; none before the first time.
   std::optional<RankedInputs> rankedInputs;
-  /// The scene that the charts were put into.
+  /// The scenes that the charts were put into.
   SceneLink sceneLink;
   /// The tie to the selection that the scatter-plot matrix keeps for itself.
   MatrixSelection matrixSelection;
@@ -126,6 +129,10 @@ struct PlotState
   std::vector<vtkWeakPointer<vtkPlot>> decorationPlots;
   /// The chart last built from Sobol results, whose plots the reserved styles keep.
   vtkWeakPointer<vtkChartXY> sobolChart;
+  /// Never null; shared with the event loop, which empties it.
+  std::shared_ptr<ChartShelf> setAside = std::make_shared<ChartShelf>();
+  /// Whether a redraw leaves the scatter-plot matrix the pair that the user chose.
+  bool keepsScatterPair = false;
   /// Counts the redraws completed, so that a drawing notices when one ran inside it. One that an
   /// exception ended does not count: the drawing around it still has a page to fill.
   unsigned long drawings = 0;

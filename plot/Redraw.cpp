@@ -7,6 +7,8 @@
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/RankedTables.h"
+#include "plot/ReservedStyle.h"
+#include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
 #include "plot/StyleTable.h"
 
@@ -29,10 +31,25 @@ void dress(PlotState& state)
   applyLogScaleX(state);
 }
 
+/// Whoever watches the selection hears of the cut and may answer by drawing.
+/// @return whether that happened
+bool cutSelection(PlotState& state)
+{
+  // A style that draws no rows needs no cut.
+  if (!currentScene(state) || builderOf(state.metaData->getPlotStyle()) == drawReservedStyle)
+    return false;
+  const unsigned long before = state.drawings;
+  cutSelectionToTable(state);
+  return state.drawings != before;
+}
+
 } // namespace
 
 void redraw(PlotState& state)
 {
+  freeChartsSetAside(state);
+  if (cutSelection(state))
+    return;
   blockSettings(state);
   if (state.chartXY)
     state.chartXY->RemoveObservers(vtkCommand::InteractionEvent);
@@ -45,11 +62,8 @@ void redraw(PlotState& state)
   dropOutdatedRanks(state);
   if (!showsXYChart(state.metaData->getPlotStyle()))
     forgetChartLooks(state);
-  const unsigned long before = state.drawings;
   builderOf(state.metaData->getPlotStyle())(state, scene);
-  // A drawing that ran inside this one has dressed the chart that is now shown.
-  if (state.drawings == before)
-    dress(state);
+  dress(state);
   ++state.drawings;
   unblockSettings(state);
 }

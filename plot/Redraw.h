@@ -7,7 +7,9 @@ namespace Talmesh::plot
 struct PlotState;
 
 /// Builds the chart of the settings' plot style into the scene of the chart now shown. Does not
-/// render. Without a scene it writes one line to standard output and leaves the settings silenced.
+/// render. First cuts the selection to the table; a drawing that an observer of the selection
+/// answers with stands for this one. Without a scene it writes one line to standard output and
+/// leaves the settings silenced.
 /// @throws whatever the style's builder throws; the settings are then silenced
 void redraw(PlotState& state);
 

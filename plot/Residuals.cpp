@@ -9,7 +9,6 @@
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
-#include "plot/SelectionBounds.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
 
@@ -191,7 +190,6 @@ vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& se
 
 void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, ResidualOptions options)
 {
-  cutSelectionToTable(state);
   reuseChartXY(state, currentScene(state));
   // The chart may be a new one, which knows nothing of the titles set so far.
   state.chartXY->GetAxis(vtkAxis::BOTTOM)->SetTitle(state.metaData->xLabel);

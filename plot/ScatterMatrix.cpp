@@ -77,7 +77,7 @@ bool sameNames(vtkStringArray* a, vtkStringArray* b)
   return same;
 }
 
-/// A matrix that goes on showing the same columns goes on showing the pair that the user chose.
+/// A matrix that was never laid out since its last change of columns has no active pair.
 void activateAgain(vtkScatterPlotMatrix* matrix, const vtkVector2i& pair)
 {
   matrix->Update();
@@ -114,10 +114,12 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   state.matrixSelection.show(state.annotationLink->GetCurrentSelection());
 
   showColumns(state, columnsToShow(state));
-  retireCells(dropped, scene);
-  if (shown && sameNames(namesBefore, state.scatterPlotMatrix->GetVisibleColumns()))
+  retireCells(state, dropped, scene);
+  const bool limited = state.metaData->getLimitColumVisibility();
+  const bool mayKeepPair = shown && (state.keepsScatterPair || !limited);
+  if (mayKeepPair && sameNames(namesBefore, state.scatterPlotMatrix->GetVisibleColumns()))
     activateAgain(state.scatterPlotMatrix, pairBefore);
-  else if (state.metaData->getLimitColumVisibility())
+  else if (limited)
     activatePair(state, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
 
   applyTurnedBorders(state, state.scatterPlotMatrix);
@@ -134,9 +136,8 @@ void feedScatterMatrixFrom(PlotState& state, vtkTable* copy)
   const ChartCells dropped = cellsOf(matrix);
   matrix->SetInput(copy);
   showColumns(matrix, names);
-  retireCells(dropped, matrix->GetScene());
-  matrix->Update();
-  matrix->SetActivePlot(active);
+  retireCells(state, dropped, matrix->GetScene());
+  activateAgain(matrix, active);
 }
 
 } // namespace Talmesh::plot

@@ -11,7 +11,8 @@ struct PlotState;
 
 /// Style 3: every column against every other. When the settings limit the columns, only the first x
 /// column, the first y column and the parameter columns, with (x, y) as the active plot. A matrix
-/// that is shown already, with the same columns, keeps its active plot. Columns that are not
+/// that is shown already, with the same columns, keeps its active plot if its columns are not
+/// limited or the state says so. Columns that are not
 /// numeric, have no name or no finite range are left out.
 void drawScatterMatrix(PlotState& state, vtkContextScene* scene);
 

@@ -2,31 +2,37 @@
 
 #include <vtkCommand.h>
 
+#include <algorithm>
+
 namespace Talmesh::plot
 {
 
 SceneLink::~SceneLink()
 {
-  watch(nullptr);
+  for (const Watched& watched : scenes)
+  {
+    if (watched.scene)
+      watched.scene->RemoveObserver(watched.observerTag);
+  }
 }
 
 void SceneLink::watch(vtkContextScene* scene)
 {
-  if (scene == watched)
+  const auto isScene = [scene](const Watched& watched) { return watched.scene == scene; };
+  if (!scene || std::any_of(scenes.begin(), scenes.end(), isScene))
     return;
-  if (watched)
-    watched->RemoveObserver(observerTag);
-  watched = scene;
-  if (scene)
-    observerTag = scene->AddObserver(vtkCommand::DeleteEvent, this, &SceneLink::onDelete);
+  scenes.push_back(
+      {scene, scene->AddObserver(vtkCommand::DeleteEvent, this, &SceneLink::onDelete)});
 }
 
-void SceneLink::onDelete()
+void SceneLink::onDelete(vtkObject* dying, unsigned long, void*)
 {
-  vtkContextScene* dying = watched;
-  watched = nullptr;
+  auto* scene = static_cast<vtkContextScene*>(dying);
+  const auto isGone = [scene](const Watched& watched)
+  { return !watched.scene || watched.scene == scene; };
+  scenes.erase(std::remove_if(scenes.begin(), scenes.end(), isGone), scenes.end());
   if (sceneDied)
-    sceneDied(dying);
+    sceneDied(scene);
 }
 
 } // namespace Talmesh::plot

@@ -5,14 +5,16 @@
 #include <vtkWeakPointer.h>
 
 #include <functional>
+#include <vector>
 
 namespace Talmesh::plot
 {
 
-/// Watches the scene that charts were put into without owning it.
+/// Watches the scenes that charts were put into without owning them.
 ///
 /// A chart keeps a bare pointer to its scene and nobody clears that pointer of a chart that is not
-/// an item of the scene, so the link calls back when the scene dies.
+/// an item of the scene, so the link calls back when a scene dies. The charts of one container can
+/// be in several scenes: a client moves the one now shown, the others stay where they were.
 class SceneLink
 {
 public:
@@ -21,20 +23,22 @@ public:
   SceneLink(const SceneLink&) = delete;
   SceneLink& operator=(const SceneLink&) = delete;
 
-  /// Watches `scene` instead of the one watched so far. Null watches nothing.
+  /// Watches `scene` too, until it dies. Null and a scene watched already change nothing.
   void watch(vtkContextScene* scene);
 
-  /// The watched scene, or null when it is gone.
-  vtkContextScene* scene() const { return watched; }
-
-  /// Called with the dying scene, whose address may only be compared.
+  /// Called with a dying scene, whose address may only be compared.
   std::function<void(vtkContextScene*)> sceneDied;
 
 private:
-  void onDelete();
+  struct Watched
+  {
+    vtkWeakPointer<vtkContextScene> scene;
+    unsigned long observerTag = 0;
+  };
 
-  vtkWeakPointer<vtkContextScene> watched;
-  unsigned long observerTag = 0;
+  void onDelete(vtkObject* dying, unsigned long, void*);
+
+  std::vector<Watched> scenes;
 };
 
 } // namespace Talmesh::plot

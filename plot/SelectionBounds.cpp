@@ -2,6 +2,7 @@
 
 #include "plot/PlotState.h"
 #include "plot/vtkSelectionUpdateCallback.h"
+#include "vtk/CombinedSelection.h"
 
 #include <vtkIdTypeArray.h>
 #include <vtkSelection.h>
@@ -46,26 +47,69 @@ vtkSmartPointer<vtkIdTypeArray> cut(vtkIdTypeArray* ids, vtkIdType rows)
   return inside;
 }
 
+/// Whether the lists of a selection are row numbers.
+bool listsRows(vtkSelection* selection)
+{
+  for (unsigned int i = 0; i < selection->GetNumberOfNodes(); ++i)
+  {
+    vtkSelectionNode* node = selection->GetNode(i);
+    if (node->GetFieldType() != vtkSelectionNode::ROW ||
+        node->GetContentType() != vtkSelectionNode::INDICES)
+      return false;
+  }
+  return true;
+}
+
+/// A selection of row numbers that names the same rows of the table, null if VTK finds none.
+vtkSmartPointer<vtkSelection> asRows(vtkSelection* selection, vtkTable* table)
+{
+  const auto copy = combineSelections(selection, nullptr);
+  return listsRows(selection) ? copy.selection : toRowIndices(copy.selection, table);
+}
+
+void cutLists(vtkSelection* selection, vtkIdType rows)
+{
+  for (unsigned int i = 0; i < selection->GetNumberOfNodes(); ++i)
+  {
+    vtkSelectionNode* node = selection->GetNode(i);
+    if (auto* ids = vtkIdTypeArray::SafeDownCast(node->GetSelectionList()))
+      node->SetSelectionList(cut(ids, rows));
+  }
+}
+
+/// Keeps the container from reacting, also when an observer of the link throws.
+class Silence
+{
+public:
+  explicit Silence(vtkSelectionUpdateCallback* callback)
+      : silenced(callback)
+  {
+    silenced->Silent = true;
+  }
+  ~Silence() { silenced->Silent = false; }
+  Silence(const Silence&) = delete;
+  Silence& operator=(const Silence&) = delete;
+
+private:
+  /// An observer may end the container.
+  vtkSmartPointer<vtkSelectionUpdateCallback> silenced;
+};
+
 } // namespace
 
 void cutSelectionToTable(PlotState& state)
 {
-  vtkSelection* selection = state.annotationLink->GetCurrentSelection();
+  const vtkSmartPointer<vtkAnnotationLink> link = state.annotationLink;
+  vtkSelection* selection = link->GetCurrentSelection();
   const vtkIdType rows = state.table->GetNumberOfRows();
-  if (!selection || fits(selection, rows))
+  if (!selection || rows == 0 || (listsRows(selection) && fits(selection, rows)))
     return;
-  vtkNew<vtkSelection> inside;
-  inside->DeepCopy(selection);
-  for (unsigned int i = 0; i < inside->GetNumberOfNodes(); ++i)
-  {
-    vtkSelectionNode* node = inside->GetNode(i);
-    if (auto* ids = vtkIdTypeArray::SafeDownCast(node->GetSelectionList()))
-      node->SetSelectionList(cut(ids, rows));
-  }
-  PlotContainer* container = state.selectionUpdateCallback->Container;
-  state.selectionUpdateCallback->Container = nullptr;
-  state.annotationLink->SetCurrentSelection(inside);
-  state.selectionUpdateCallback->Container = container;
+  const vtkSmartPointer<vtkSelection> inside = asRows(selection, state.table);
+  if (!inside)
+    return;
+  cutLists(inside, rows);
+  const Silence silence(state.selectionUpdateCallback);
+  link->SetCurrentSelection(inside);
 }
 
 } // namespace Talmesh::plot

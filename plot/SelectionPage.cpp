@@ -8,7 +8,6 @@
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/RankedTables.h"
-#include "plot/SelectionBounds.h"
 #include "plot/ShownParameters.h"
 #include "plot/TrajectoryChart.h"
 #include "plot/vtkSelectionUpdateCallback.h"
@@ -69,15 +68,6 @@ void placeTrajectoryChart(PlotState& state, const PageLayout& layout)
   enableSelection(state, state.chartXY);
 }
 
-/// Whoever watches the selection hears of the cut and may answer by drawing the page.
-/// @return whether that happened
-bool cutSelection(PlotState& state)
-{
-  const unsigned long before = state.drawings;
-  cutSelectionToTable(state);
-  return state.drawings != before;
-}
-
 /// @return whether the update drew the page
 bool runPendingUpdate(PlotState& state)
 {
@@ -131,8 +121,6 @@ void scaleDensities(PlotState& state, std::size_t shown)
 
 void drawSelectionPage(PlotState& state, vtkContextScene* scene)
 {
-  if (cutSelection(state))
-    return;
   const PlotMetaData& settings = *state.metaData;
   const std::vector<std::size_t> shown =
       shownParameters(state.ksResults, settings.parameterColumns.size(), settings.getPThreshold(),

@@ -4,7 +4,6 @@
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionBounds.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
 
@@ -153,7 +152,8 @@ void buildSobolChart(PlotState& state, bool total)
   state.chartXY = makeXYChart(state);
   state.currentChart = state.chartXY;
   state.sobolChart = state.chartXY;
-  cutSelectionToTable(state);
+  // Its rows are none that the selection speaks of, and a selection would replace it.
+  state.chartXY->SetAnnotationLink(nullptr);
   if (state.metaData->getPlotStyle() == reservedStyle2)
     addBands(state, total);
   else if (state.metaData->getPlotStyle() == reservedStyle1)

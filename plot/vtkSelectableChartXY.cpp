@@ -1,5 +1,7 @@
 #include "plot/vtkSelectableChartXY.h"
 
+#include "plot/HandlerScope.h"
+#include "plot/PlottedRows.h"
 #include "plot/SelectionModes.h"
 #include "vtk/LogScales.h"
 #include "vtk/vtkGuardedAxis.h"
@@ -90,14 +92,6 @@ vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
   return line;
 }
 
-void vtkSelectableChartXY::Update()
-{
-  Lost.hidePlots(this);
-  if (!PlotTransformValid)
-    Talmesh::settleLogScales(this);
-  Superclass::Update();
-}
-
 void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
 {
   if (!table)
@@ -128,8 +122,63 @@ void vtkSelectableChartXY::EndDrag()
   DrawBox = false;
 }
 
+void vtkSelectableChartXY::Update()
+{
+  Lost.hidePlots(this);
+  if (!PlotTransformValid)
+    Talmesh::settleLogScales(this);
+  Superclass::Update();
+  if (!AnnotationLink || SelectionMethod != SELECTION_ROWS)
+    return;
+  for (vtkIdType i = 0; i < GetNumberOfPlots(); ++i)
+    Talmesh::plot::showRowsOfPlot(GetPlot(i), AnnotationLink);
+}
+
+bool vtkSelectableChartXY::Paint(vtkContext2D* painter)
+{
+  const Talmesh::plot::HandlerScope running;
+  return Superclass::Paint(painter);
+}
+
+bool vtkSelectableChartXY::MouseEnterEvent(const vtkContextMouseEvent& mouse)
+{
+  const Talmesh::plot::HandlerScope running;
+  return Superclass::MouseEnterEvent(mouse);
+}
+
+bool vtkSelectableChartXY::MouseMoveEvent(const vtkContextMouseEvent& mouse)
+{
+  const Talmesh::plot::HandlerScope running;
+  return Superclass::MouseMoveEvent(mouse);
+}
+
+bool vtkSelectableChartXY::MouseLeaveEvent(const vtkContextMouseEvent& mouse)
+{
+  const Talmesh::plot::HandlerScope running;
+  return Superclass::MouseLeaveEvent(mouse);
+}
+
+bool vtkSelectableChartXY::MouseDoubleClickEvent(const vtkContextMouseEvent& mouse)
+{
+  const Talmesh::plot::HandlerScope running;
+  return Superclass::MouseDoubleClickEvent(mouse);
+}
+
+bool vtkSelectableChartXY::MouseWheelEvent(const vtkContextMouseEvent& mouse, int delta)
+{
+  const Talmesh::plot::HandlerScope running;
+  return Superclass::MouseWheelEvent(mouse, delta);
+}
+
+bool vtkSelectableChartXY::KeyPressEvent(const vtkContextKeyEvent& key)
+{
+  const Talmesh::plot::HandlerScope running;
+  return Superclass::KeyPressEvent(key);
+}
+
 bool vtkSelectableChartXY::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)
 {
+  const Talmesh::plot::HandlerScope running;
   if (SelectsRows(mouse) && !AnnotationLink)
     return false;
   return Superclass::MouseButtonPressEvent(mouse);
@@ -137,6 +186,7 @@ bool vtkSelectableChartXY::MouseButtonPressEvent(const vtkContextMouseEvent& mou
 
 bool vtkSelectableChartXY::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
 {
+  const Talmesh::plot::HandlerScope running;
   if (!Scene)
   {
     EndDrag();

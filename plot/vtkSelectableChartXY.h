@@ -25,6 +25,10 @@ class vtkTable;
 ///
 /// Its axes are vtkGuardedAxis. Those that are to be logarithmic are so exactly when the data allow
 /// it, which is settled whenever plots have changed.
+///
+/// Every plot shows those of the link's rows that its own table has, also while the container has
+/// another table that is not drawn yet. VTK's chart hands the ids of the first list on unchecked,
+/// whatever they stand for. While a handler runs or the chart paints, a HandlerScope is open.
 class vtkSelectableChartXY : public vtkChartXY
 {
 public:
@@ -36,7 +40,13 @@ public:
   using vtkChartXY::AddPlot;
   /// A line is a vtkPlotSafeLine.
   vtkPlot* AddPlot(int type, unsigned int blockIndex) override;
-
+  bool Paint(vtkContext2D* painter) override;
+  bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseLeaveEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseDoubleClickEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseWheelEvent(const vtkContextMouseEvent& mouse, int delta) override;
+  bool KeyPressEvent(const vtkContextKeyEvent& key) override;
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
   /// Does nothing once the chart has lost its place in the scene since the button was pressed.
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;

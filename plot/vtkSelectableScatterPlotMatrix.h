@@ -3,11 +3,13 @@
 
 #include "vtk/VtkCompat.h"
 
+#include <vtkContextScene.h>
+#include <vtkNew.h>
 #include <vtkScatterPlotMatrix.h>
 
 /// A scatter-plot matrix whose charts are vtkSelectableChartXY, and which shows another pair at
 /// once: VTK's turn of the large chart goes on in a timer that outlives the matrix's place in the
-/// scene and the matrix itself.
+/// scene and the matrix itself. It paints once where VTK's asks for a second painting after each.
 class vtkSelectableScatterPlotMatrix : public vtkScatterPlotMatrix
 {
 public:
@@ -15,6 +17,8 @@ public:
   TALMESH_VTK_TYPE(vtkSelectableScatterPlotMatrix, vtkScatterPlotMatrix);
 
   vtkChart* GetChart(const vtkVector2i& position) override;
+  bool Paint(vtkContext2D* painter) override;
+  bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
 
 protected:
   vtkSelectableScatterPlotMatrix();
@@ -23,6 +27,9 @@ protected:
 private:
   vtkSelectableScatterPlotMatrix(const vtkSelectableScatterPlotMatrix&) = delete;
   void operator=(const vtkSelectableScatterPlotMatrix&) = delete;
+
+  /// Takes VTK's wishes to paint again.
+  vtkNew<vtkContextScene> Wishes;
 };
 
 #endif

@@ -63,11 +63,10 @@ void reportFailure(PlotContainer& container, const std::function<void()>& step)
 void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*)
 {
   auto* link = vtkAnnotationLink::SafeDownCast(caller);
-  if (!link || !this->Container)
+  if (!link || !this->Container || this->Silent)
     return;
   PlotContainer& container = *this->Container;
-  // An empty table draws no rows, and one that has yet to come may have those selected.
-  if (link == container.getAnnotationLink() && container.getTable()->GetNumberOfRows() > 0)
+  if (link == container.getAnnotationLink())
     Talmesh::plot::cutSelectionToTable(container.state());
   if (container.getMetaData()->parameterColumns.empty())
     return;

@@ -19,6 +19,8 @@ public:
 
   /// Not owned. Null until a container sets it and again once that container is gone.
   PlotContainer* Container = nullptr;
+  /// Changes of the selection that the container itself makes need no reaction.
+  bool Silent = false;
 
 protected:
   vtkSelectionUpdateCallback() = default;

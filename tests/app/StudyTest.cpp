@@ -4,6 +4,8 @@
 #include "plot/PlotContainer.h"
 #include "support/PlotScene.h"
 
+#include <vtkScatterPlotMatrix.h>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -177,4 +179,18 @@ TEST(Study, SaysHowMuchItHolds)
   EXPECT_EQ(studySize(sampleStudy("time,X\n0,1\n")), "1 run, 1 point each, 0 parameters");
   EXPECT_EQ(studySize(sampleStudy("a,b\n1,2\n3,4\n")), "2 rows, 2 columns");
   EXPECT_EQ(studySize(Study()), "");
+}
+
+TEST_F(StudyInAContainer, LeavesTheUserThePairOfTheScatterPlotMatrix)
+{
+  showStudy(sampleStudy(), container);
+  container.setPlotStyle(scatterPlotMatrix);
+  view.render(container);
+  auto* pairs = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  ASSERT_GT(pairs->GetSize().GetX(), 2);
+  const vtkVector2i chosen(1, 0);
+  ASSERT_NE(pairs->GetActivePlot(), chosen);
+  ASSERT_TRUE(pairs->SetActivePlot(chosen));
+  container.redraw();
+  EXPECT_EQ(pairs->GetActivePlot(), chosen);
 }

@@ -1,3 +1,4 @@
+#include "plot/HandlerScope.h"
 #include "plot/SelectionNodes.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
@@ -30,7 +31,9 @@ TEST_F(ReplacedCharts, LiveUntilControlReturnsToTheEventLoop)
   {
     drawStyle(0);
     const vtkWeakPointer<vtkChartXY> dropped = chart();
-    drawStyle(style);
+    storeStyle(style);
+    settings().blockSignals(false);
+    container.redraw();
     scene.render(container);
     ASSERT_EQ(chart(), nullptr);
     EXPECT_NE(dropped, nullptr);
@@ -48,7 +51,11 @@ TEST_F(ReplacedCharts, SurviveARedrawFromTheirOwnHandler)
     SCOPED_TRACE(style);
     drawStyle(0);
     vtkNew<Reaction> intruder;
-    intruder->react = [&] { drawStyle(style); };
+    intruder->react = [&]
+    {
+      const Talmesh::plot::HandlerScope running;
+      drawStyle(style);
+    };
     vtkChartXY* bare = chart();
     newDrawings();
     const unsigned long tag = bare->AddObserver(vtkCommand::LeftButtonPressEvent, intruder);
@@ -110,6 +117,7 @@ TEST_P(ReplacedChartsOfRuns, SurviveARedrawFromTheirOwnHandler)
       int calls = 0;
       intruder->react = [&]
       {
+        const Talmesh::plot::HandlerScope running;
         ++calls;
         drawStyle(style);
       };
@@ -137,6 +145,7 @@ TEST_P(ReplacedChartsOfRuns, SurviveASelectionFromTheirOwnHandler)
     vtkNew<Reaction> intruder;
     intruder->react = [&]
     {
+      const Talmesh::plot::HandlerScope running;
       const auto row = static_cast<vtkIdType>(i);
       container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({row}));
     };

@@ -1,6 +1,5 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
 #include "support/SampleTables.h"
 #include "support/VtkErrors.h"
@@ -262,15 +261,6 @@ TEST_F(SobolChart, UnorderedAndUnknownTimesPaintWithoutComplaint)
     render();
   }
   EXPECT_EQ(errors.text(), "");
-}
-
-TEST_F(SobolChart, RowsSelectedInAnEarlierLongerTableAreForgotten)
-{
-  container.setPlotData(tableOf({{"a", std::vector<double>(100)}}));
-  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({1, 99}));
-  showAtTime(false, 0);
-  render();
-  EXPECT_EQ(valuesOf(chart()->GetPlot(0)->GetSelection()), (std::vector<double>{1.0}));
 }
 
 TEST_F(SobolChart, BarsAndLabelsAreSeen)

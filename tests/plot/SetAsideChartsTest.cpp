@@ -1,0 +1,105 @@
+#include "plot/HandlerScope.h"
+#include "support/PlotFixture.h"
+#include "support/Reaction.h"
+
+#include <vtkCommand.h>
+#include <vtkContextMouseEvent.h>
+#include <vtkWeakPointer.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+
+/// A program that draws without returning to the event loop.
+class SetAsideCharts : public PlotFixture
+{
+protected:
+  long alive() const
+  {
+    return std::count_if(charts.begin(), charts.end(),
+                         [](const vtkWeakPointer<vtkAbstractContextItem>& chart)
+                         { return chart != nullptr; });
+  }
+
+  void drawOftenIn(int style)
+  {
+    for (int i = 0; i < 6; ++i)
+    {
+      drawStyle(0);
+      charts.emplace_back(chart());
+      drawStyle(style);
+      scene.render(container);
+      if (auto* matrix = vtkChartMatrix::SafeDownCast(container.getItem()))
+        charts.emplace_back(matrix->GetChart(vtkVector2i(0, 0)));
+    }
+    drawStyle(0);
+    container.redraw();
+  }
+
+  std::vector<vtkWeakPointer<vtkAbstractContextItem>> charts;
+};
+
+TEST_F(SetAsideCharts, AreFreedByTheNextDrawing)
+{
+  // The matrix itself keeps its last cells.
+  drawOftenIn(scatterPlotMatrix);
+  EXPECT_LE(alive(), 1);
+  charts.clear();
+  drawOftenIn(xyzPlot);
+  EXPECT_EQ(alive(), 0);
+}
+
+TEST_F(SetAsideCharts, LiveOnWhileAHandlerRuns)
+{
+  const Talmesh::plot::HandlerScope running;
+  drawOftenIn(xyzPlot);
+  EXPECT_EQ(alive(), 6);
+}
+
+/// Moves the mouse to a part of the chart's width and height.
+vtkContextMouseEvent mouseAt(vtkChartXY* chart, float part)
+{
+  vtkContextMouseEvent mouse;
+  mouse.SetInteractor(nullptr);
+  mouse.SetButton(vtkContextMouseEvent::RIGHT_BUTTON);
+  const int* low = chart->GetPoint1();
+  const int* high = chart->GetPoint2();
+  const vtkVector2f position(static_cast<float>(low[0]) + part * float(high[0] - low[0]),
+                             static_cast<float>(low[1]) + part * float(high[1] - low[1]));
+  mouse.SetPos(position);
+  mouse.SetScenePos(position);
+  return mouse;
+}
+
+TEST_F(SetAsideCharts, OutliveTheDrawingsOfTheirOwnMouseHandler)
+{
+  scene.render(container);
+  vtkChartXY* bare = chart();
+  const vtkWeakPointer<vtkChartXY> watched = bare;
+  int reactions = 0;
+  vtkNew<Reaction> reaction;
+  reaction->react = [&]
+  {
+    ++reactions;
+    for (const int style : {4, 0, 4})
+      drawStyle(style);
+    EXPECT_NE(watched, nullptr);
+  };
+  const vtkSmartPointer<vtkAnnotationLink> link = container.getAnnotationLink();
+  link->AddObserver(vtkCommand::AnnotationChangedEvent, reaction);
+  bare->MouseButtonPressEvent(mouseAt(bare, 0.0F));
+  bare->MouseMoveEvent(mouseAt(bare, 0.9F));
+  bare->MouseButtonReleaseEvent(mouseAt(bare, 1.0F));
+  link->RemoveObserver(reaction);
+  EXPECT_EQ(reactions, 1);
+  // The scene still has it as its item.
+  scene.render(container);
+  container.redraw();
+  EXPECT_EQ(watched, nullptr);
+}
+
+} // namespace
