@@ -2,6 +2,7 @@
 
 #include "app/ComparisonChoice.h"
 #include "app/Gallery.h"
+#include "app/GroupedPlots.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
 #include "app/RunNormaliser.h"
@@ -53,6 +54,9 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
   std::string error = chooseByName(container, options, choice);
   if (error.empty())
     error = applyChoice(container, choice);
+  if (opened.session)
+    dressRuns(container, namedGroups(opened.session->settings.groups.groupOfRun),
+              opened.session->settings.groups.look);
   for (const std::string& path : options.exports)
     if (error.empty())
       error = writeExport(options, *widget, QFile::decodeName(path.c_str()));

@@ -11,6 +11,7 @@
 #include <QSpinBox>
 
 #include <algorithm>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -18,8 +19,6 @@ namespace Talmesh::app
 namespace
 {
 
-/// As many as there are colours.
-constexpr int mostGroups = 12;
 constexpr int firstGroups = 3;
 
 enum ClusteringMode : int
@@ -150,6 +149,26 @@ void ClusterDock::setNormalised(bool on)
 {
   const QSignalBlocker silent(normalise);
   normalise->setChecked(on);
+}
+
+void ClusterDock::setGrouping(int groupCount, int mode)
+{
+  if (groupCount >= count->minimum() && groupCount <= count->maximum())
+    count->setValue(groupCount);
+  const int place = modes->findData(mode);
+  if (place >= 0)
+    modes->setCurrentIndex(place);
+}
+
+void ClusterDock::setLook(const RunLook& look)
+{
+  const std::pair<QCheckBox*, bool> switches[] = {
+      {colours, look.groupColours}, {means, look.groupMeans}, {bands, look.quartileBands}};
+  for (const auto& [box, on] : switches)
+  {
+    const QSignalBlocker silent(box);
+    box->setChecked(on && box->isEnabled());
+  }
 }
 
 int ClusterDock::groupCount() const

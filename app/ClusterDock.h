@@ -15,14 +15,6 @@ class QSpinBox;
 namespace Talmesh::app
 {
 
-/// How the runs are shown beside their own lines or points.
-struct RunLook
-{
-  bool groupColours = false;
-  bool groupMeans = false;
-  bool quartileBands = false;
-};
-
 /// The panel that sorts runs into groups, lists the groups, and says how the runs are shown.
 class ClusterDock : public QDockWidget
 {
@@ -38,6 +30,10 @@ public:
   void setGroups(const RunGroups& groups);
   /// Emits nothing.
   void setNormalised(bool on);
+  /// Chooses how groups are made. Keeps what it does not offer. Emits nothing.
+  void setGrouping(int groupCount, int mode);
+  /// Emits nothing.
+  void setLook(const RunLook& look);
 
   int groupCount() const;
   /// The mode of the container's clustering.

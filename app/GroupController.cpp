@@ -35,20 +35,6 @@ public:
   WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
-std::vector<ParameterSelection> clusterSelections(PlotContainer& container,
-                                                  const std::string& prefix)
-{
-  std::vector<ParameterSelection*> owned;
-  container.selectionsFromClusters(prefix, owned);
-  std::vector<ParameterSelection> selections;
-  for (ParameterSelection* selection : owned)
-  {
-    selections.push_back(*selection);
-    delete selection;
-  }
-  return selections;
-}
-
 std::vector<int> membershipOf(const PlotContainer& container)
 {
   vtkIntArray* membership = container.getClusterMembership();
@@ -82,7 +68,6 @@ void GroupController::follow(PlotContainer* followed, const Study& study)
   container = followed;
   normaliser.follow(followed);
   groups = {};
-  selections.clear();
   const bool runs = study.runs && study.runs->pointsPerTrajectory > 1;
   dock.reset(runs ? static_cast<int>(study.runs->numberOfTrajectories) : 0,
              runs ? QString() : tr("This data has no runs over time to group."));
@@ -96,18 +81,28 @@ void GroupController::group()
     const WaitCursor waiting;
     container->clusterTimeSeries(dock.groupCount(), dock.mode());
   }
-  selections = clusterSelections(*container, tr("Group").toStdString());
-  groups.groupOfRun = membershipOf(*container);
-  groups.names.clear();
-  for (std::size_t i = 0; i < selections.size(); ++i)
-  {
-    const std::size_t count = selections[i].runs.size();
-    const QString text = count == 1 ? tr("Group %1: %2 run") : tr("Group %1: %2 runs");
-    groups.names.push_back(text.arg(i + 1).arg(count).toStdString());
-    selections[i].label = tr("Group %1").arg(i + 1).toStdString();
-  }
-  dock.setGroups(groups);
+  takeGroups(membershipOf(*container));
   show();
+}
+
+void GroupController::takeGroups(const std::vector<int>& groupOfRun)
+{
+  groups = namedGroups(groupOfRun);
+  dock.setGroups(groups);
+}
+
+SessionGroups GroupController::sessionGroups() const
+{
+  return {groups.groupOfRun, dock.groupCount(), dock.mode(), dock.look()};
+}
+
+void GroupController::restoreGroups(const SessionGroups& kept)
+{
+  if (!container)
+    return;
+  takeGroups(kept.groupOfRun);
+  dock.setGrouping(kept.count, kept.mode);
+  dock.setLook(kept.look);
 }
 
 void GroupController::show()
@@ -122,15 +117,15 @@ void GroupController::show()
 
 void GroupController::select(int group)
 {
-  if (!container || group < 0 || group >= static_cast<int>(selections.size()))
+  if (!container || group < 0 || group >= static_cast<int>(groups.names.size()))
     return;
   const plot::RunLayout layout = {container->getTable()->GetNumberOfRows(),
                                   container->getMetaData()->getStride()};
   // A group counts its runs by position, whatever their numbers in the table.
   std::vector<vtkIdType> rows;
-  for (const int run : selections[static_cast<std::size_t>(group)].runs)
-    if (run < layout.runs())
-      rows.push_back(layout.firstRow(run));
+  for (std::size_t run = 0; run < groups.groupOfRun.size(); ++run)
+    if (groups.groupOfRun[run] == group && static_cast<vtkIdType>(run) < layout.runs())
+      rows.push_back(layout.firstRow(static_cast<vtkIdType>(run)));
   container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
 }
 
@@ -177,13 +172,7 @@ void GroupController::dress()
   if (!container)
     return;
   dock.setNormalised(normaliser.isNormalised(shownColumns()));
-  const RunLook look = dock.look();
-  if (look.groupColours)
-    colourGroups(*container, groups);
-  if (look.quartileBands)
-    showQuartileBands(*container);
-  if (look.groupMeans)
-    addGroupMeans(*container, groups);
+  dressRuns(*container, groups, dock.look());
 }
 
 } // namespace Talmesh::app

@@ -3,7 +3,7 @@
 
 #include "app/GroupedPlots.h"
 #include "app/RunNormaliser.h"
-#include "external/ParameterSelection.h"
+#include "app/SessionGroups.h"
 
 #include <QObject>
 #include <QPointer>
@@ -38,6 +38,10 @@ public:
   /// user's history does not have it.
   void restoreNormalised(const std::vector<int>& columns);
   const RunNormaliser& runNormaliser() const { return normaliser; }
+  /// What a session keeps of the groups.
+  SessionGroups sessionGroups() const;
+  /// Brings back what a session kept of the same runs. Emits nothing.
+  void restoreGroups(const SessionGroups& kept);
 
 signals:
   /// The chart must be drawn anew.
@@ -49,6 +53,7 @@ private:
   std::vector<int> shownColumns() const;
   void showNewValues();
   void group();
+  void takeGroups(const std::vector<int>& groupOfRun);
   void show();
   void select(int group);
   void normalise(bool on);
@@ -58,7 +63,6 @@ private:
   RunNormaliser normaliser;
   QPointer<PlotContainer> container;
   RunGroups groups;
-  std::vector<ParameterSelection> selections;
 };
 
 } // namespace Talmesh::app

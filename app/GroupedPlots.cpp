@@ -1,5 +1,6 @@
 #include "app/GroupedPlots.h"
 
+#include "app/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/Decorations.h"
 #include "plot/PlotContainer.h"
@@ -11,6 +12,7 @@
 #include <vtkChartXY.h>
 #include <vtkTable.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -203,6 +205,36 @@ void showQuartileBands(PlotContainer& container)
     drawn.chart->GetPlot(i)->SetLegendVisibility(false);
   lowerFrom(drawn.chart, before);
   hideRuns(drawn);
+}
+
+RunGroups namedGroups(const std::vector<int>& groupOfRun)
+{
+  RunGroups groups;
+  groups.groupOfRun = groupOfRun;
+  std::vector<std::size_t> counts;
+  for (const int group : groupOfRun)
+  {
+    const auto place = static_cast<std::size_t>(group);
+    counts.resize(std::max(counts.size(), place + 1));
+    ++counts[place];
+  }
+  for (std::size_t i = 0; i < counts.size(); ++i)
+  {
+    const std::string text = counts[i] == 1 ? translated("GroupController", "Group %1: %2 run")
+                                            : translated("GroupController", "Group %1: %2 runs");
+    groups.names.push_back(withValues(text, {std::to_string(i + 1), std::to_string(counts[i])}));
+  }
+  return groups;
+}
+
+void dressRuns(PlotContainer& container, const RunGroups& groups, const RunLook& look)
+{
+  if (look.groupColours)
+    colourGroups(container, groups);
+  if (look.quartileBands)
+    showQuartileBands(container);
+  if (look.groupMeans)
+    addGroupMeans(container, groups);
 }
 
 } // namespace Talmesh::app

@@ -20,6 +20,21 @@ struct RunGroups
   std::vector<std::string> names;
 };
 
+/// As many as there are colours.
+inline constexpr int mostGroups = 12;
+
+/// Groups with their names in the user's language.
+/// @param groupOfRun the group of every run, from 0
+RunGroups namedGroups(const std::vector<int>& groupOfRun);
+
+/// How the runs are shown beside their own lines or points.
+struct RunLook
+{
+  bool groupColours = false;
+  bool groupMeans = false;
+  bool quartileBands = false;
+};
+
 /// The colour of a group in lists and charts; those of the first twelve groups differ.
 QColor groupColour(int group);
 
@@ -36,6 +51,9 @@ void addGroupMeans(PlotContainer& container, const RunGroups& groups);
 /// Draws the range of all runs, the range between their quartiles and their median behind
 /// everything, and, of the runs, only the selected ones.
 void showQuartileBands(PlotContainer& container);
+
+/// All of them that the look asks for.
+void dressRuns(PlotContainer& container, const RunGroups& groups, const RunLook& look);
 
 } // namespace Talmesh::app
 

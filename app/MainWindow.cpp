@@ -64,6 +64,7 @@ MainWindow::MainWindow(QWidget* parent)
   addDockWidget(Qt::BottomDockWidgetArea, comparison);
   setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
   container = plot->plotContainer();
+  makeSessions();
   makeMenus();
   makeStudies();
   makeStatusBar();
@@ -206,12 +207,6 @@ void MainWindow::showError(const QString& message)
   box->open();
 }
 
-void MainWindow::showErrorIfAny(const std::string& message)
-{
-  if (!message.empty())
-    showError(QString::fromStdString(message));
-}
-
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
   if (!droppedFile(event->mimeData()).isEmpty())
@@ -224,7 +219,7 @@ void MainWindow::dropEvent(QDropEvent* event)
   if (path.isEmpty())
     return;
   event->acceptProposedAction();
-  openFile(path);
+  openInstead(path);
 }
 
 } // namespace Talmesh::app

@@ -2,6 +2,7 @@
 #define MainWindow_h
 
 #include "app/CommandLine.h"
+#include "app/KeptWork.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
 #include "app/RecentFiles.h"
@@ -14,6 +15,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 class PlotContainer;
 class QLabel;
@@ -30,9 +32,11 @@ class GroupController;
 class LoadingBar;
 class PlotDock;
 class SelectionController;
+class SessionController;
 class StudyDock;
 class StudyLoader;
 class TimeCoursePage;
+struct SessionSource;
 
 /// The viewer's window: a plot, the panel to choose what it shows, and what is loaded.
 class MainWindow : public QMainWindow
@@ -65,6 +69,11 @@ public:
   /// Writes the table and how it is shown as a session; a failure is shown to the user.
   /// @return whether it was written
   bool saveSessionTo(const QString& path);
+  /// Keeps unsaved work in a folder from now on, and asks what to do with what windows that are
+  /// gone have left there.
+  void keepWork(const QString& folder, int milliseconds = 60000);
+  /// Keeps what is unsaved now, and returns when it is on the disk.
+  void keepWorkNow();
 
   VtkPlotWidget* plotWidget() const { return plot; }
   PlotDock* plotDock() const { return dock; }
@@ -85,6 +94,8 @@ signals:
   void commandLineFailed(const QString& message);
 
 protected:
+  /// Asks before unsaved work would be lost.
+  void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -104,6 +115,13 @@ private:
   void chooseExport();
   void chooseSession();
   void saveSession();
+  void saveSessionAs();
+  void makeSessions();
+  std::optional<SessionSource> sessionSource();
+  void openInstead(const QString& path);
+  void openExampleInstead();
+  void bringBack(const LeftWork& work);
+  void noteWhatIsOpened(const OpenedStudy& result);
   bool canSaveSession() const;
   void addSessionActions(QMenu* menu);
   void showSession(const RestoredSession& session);
@@ -132,7 +150,7 @@ private:
   bool sayWhatWasWritten(const QString& path, const std::string& error);
   void say(const QString& message);
   void showError(const QString& message);
-  void showErrorIfAny(const std::string& message);
+  void noteSelectionFile(const std::string& error);
 
   VtkPlotWidget* plot;
   TimeCoursePage* timeCourses;
@@ -172,6 +190,11 @@ private:
   /// What the command line wishes of the study that it names, while that is being opened.
   CommandLineOptions wishes;
   bool openingNamed = false;
+  SessionController* sessions = nullptr;
+  /// What is being opened, if an earlier window has left it.
+  LeftWork bringingBack;
+  /// The user has decided what becomes of unsaved work.
+  bool leaving = false;
 };
 
 } // namespace Talmesh::app

@@ -73,6 +73,7 @@ bool MainWindow::isLoading() const
 void MainWindow::load(const QString& name, std::function<OpenedStudy(const ImportProgress&)> job)
 {
   forgetCommandLine();
+  bringingBack = {};
   statusBar()->showMessage(tr("Opening %1 ...").arg(name));
   loadingBar->begin();
   loader->start(std::move(job));
@@ -114,7 +115,9 @@ void MainWindow::finishLoading(const OpenedStudy& result)
     notes.append(QString::fromStdString(note));
   if (!notes.isEmpty())
     say(notes.join(QLatin1Char(' ')));
-  if (applyWishes())
+  const bool asWished = applyWishes();
+  noteWhatIsOpened(result);
+  if (asWished)
     emit opened();
   // What is restored is no update that the user waits for.
   clock.end();

@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
+#include "app/SessionController.h"
 #include "app/StyleNames.h"
 #include "widgets/VtkPlotWidget.h"
 
@@ -52,7 +53,7 @@ void MainWindow::makeFileMenu()
   recentMenu->setObjectName(QStringLiteral("recentMenu"));
   connect(recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
   addAction(file, tr("Open the e&xample study"), QKeySequence(tr("Ctrl+Shift+O")),
-            &MainWindow::openExample);
+            &MainWindow::openExampleInstead);
   file->addSeparator();
   addSessionActions(file);
   addAction(file, tr("&Export..."), QKeySequence(tr("Ctrl+E")), &MainWindow::chooseExport);
@@ -136,19 +137,28 @@ void MainWindow::chooseFile()
 {
   askToOpen(this, tr("Open runs"),
             tr("Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)"),
-            [this](const QString& path) { openFile(path); });
+            [this](const QString& path) { openInstead(path); });
 }
 
 void MainWindow::saveSelection()
 {
   askToSave(this, tr("Save selected runs"), tr("Runs (*.json)"), QStringLiteral("json"),
-            [this](const QString& path) { showErrorIfAny(selection->save(path)); });
+            [this](const QString& path) { noteSelectionFile(selection->save(path)); });
 }
 
 void MainWindow::loadSelection()
 {
   askToOpen(this, tr("Load selected runs"), tr("Runs (*.json)"),
-            [this](const QString& path) { showErrorIfAny(selection->load(path)); });
+            [this](const QString& path) { noteSelectionFile(selection->load(path)); });
+}
+
+/// The selection has been written to a file or read from one.
+void MainWindow::noteSelectionFile(const std::string& error)
+{
+  if (!error.empty())
+    showError(QString::fromStdString(error));
+  else if (!study.chart)
+    sessions->selectionSaved();
 }
 
 void MainWindow::fillRecentMenu()
@@ -161,7 +171,7 @@ void MainWindow::fillRecentMenu()
     // A single one marks a letter.
     text.replace(QLatin1Char('&'), QStringLiteral("&&"));
     connect(recentMenu->addAction(text), &QAction::triggered, this,
-            [this, path] { openFile(path); });
+            [this, path] { openInstead(path); });
   }
   if (paths.isEmpty())
   {

@@ -4,16 +4,31 @@
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
 #include "app/Session.h"
+#include "app/SessionController.h"
 #include "app/SessionFile.h"
 #include "app/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
 
 #include <QAction>
-#include <QFileDialog>
+#include <QCloseEvent>
 #include <QMenu>
+#include <QScopedValueRollback>
 
 namespace Talmesh::app
 {
+
+void MainWindow::makeSessions()
+{
+  sessions = new SessionController(*this, [this] { return sessionSource(); });
+  connect(sessions, &SessionController::written, this,
+          [this](const QString& path, const std::string& error)
+          {
+            if (sayWhatWasWritten(path, error))
+              recent.add(path);
+          });
+  connect(sessions, &SessionController::failed, this, &MainWindow::say);
+  connect(sessions, &SessionController::bringBackWanted, this, &MainWindow::bringBack);
+}
 
 void MainWindow::addSessionActions(QMenu* menu)
 {
@@ -21,13 +36,16 @@ void MainWindow::addSessionActions(QMenu* menu)
             &MainWindow::chooseSession);
   addAction(menu, tr("&Save session..."), QKeySequence::Save, &MainWindow::saveSession)
       ->setObjectName(QStringLiteral("saveSession"));
+  addAction(menu, tr("Save session &as..."), QKeySequence(tr("Ctrl+Alt+S")),
+            &MainWindow::saveSessionAs)
+      ->setObjectName(QStringLiteral("saveSessionAs"));
   menu->addSeparator();
 }
 
 void MainWindow::chooseSession()
 {
   askToOpen(this, tr("Open session"), tr("Sessions (*.talmesh)"),
-            [this](const QString& path) { openFile(path); });
+            [this](const QString& path) { openInstead(path); });
 }
 
 bool MainWindow::canSaveSession() const
@@ -35,33 +53,105 @@ bool MainWindow::canSaveSession() const
   return container && !study.chart && (study.runs || study.table);
 }
 
+/// The runs or the table opened last, even while a computed study takes their place.
+std::optional<SessionSource> MainWindow::sessionSource()
+{
+  const bool aside = study.chart != nullptr;
+  const Study& opened = aside ? lastRuns.study : study;
+  PlotContainer* shown = aside ? lastRuns.container : container;
+  if (!shown || !(opened.runs || opened.table))
+    return {};
+  return SessionSource{opened,
+                       *shown,
+                       aside ? lastRuns.choice : dock->choice(),
+                       &groups->runNormaliser(),
+                       groups->sessionGroups(),
+                       {}};
+}
+
 void MainWindow::saveSession()
 {
-  if (!canSaveSession())
-    return;
-  QFileDialog* dialog =
-      askToSave(this, tr("Save session"), tr("Sessions (*.talmesh)"), QLatin1String(sessionSuffix),
-                [this](const QString& path) { saveSessionTo(path); });
-  // Another study has another container: this one is no longer there to be saved.
-  connect(container, &QObject::destroyed, dialog, &QDialog::reject);
+  if (canSaveSession())
+    sessions->save();
+}
+
+void MainWindow::saveSessionAs()
+{
+  if (canSaveSession())
+    sessions->saveAs();
 }
 
 bool MainWindow::saveSessionTo(const QString& path)
 {
-  if (!canSaveSession())
-    return false;
-  const std::string error =
-      Talmesh::app::saveSession(path, study, *container, dock->choice(), &groups->runNormaliser());
-  const bool written = sayWhatWasWritten(path, error);
-  if (written)
-    recent.add(path);
-  return written;
+  return canSaveSession() && sessions->saveTo(path);
+}
+
+void MainWindow::openInstead(const QString& path)
+{
+  sessions->leave([this, path] { openFile(path); });
+}
+
+void MainWindow::openExampleInstead()
+{
+  sessions->leave([this] { openExample(); });
+}
+
+void MainWindow::keepWork(const QString& folder, int milliseconds)
+{
+  sessions->keepIn(folder, milliseconds);
+  sessions->offerLeftWork();
+}
+
+void MainWindow::keepWorkNow()
+{
+  sessions->keepNow();
+}
+
+void MainWindow::bringBack(const LeftWork& work)
+{
+  openFile(work.path);
+  // It is no file of the user's own.
+  loadingPath.clear();
+  bringingBack = work;
+}
+
+/// What is shown now is the state that later ones are compared with.
+void MainWindow::noteWhatIsOpened(const OpenedStudy& result)
+{
+  const LeftWork left = std::exchange(bringingBack, LeftWork());
+  // Runs stay the user's work while a computed study takes their place.
+  if (result.study.chart)
+    return;
+  if (left.lock && result.session)
+    sessions->broughtBack(result.session->settings.origin, left);
+  else if (result.session)
+    sessions->opened({loadingPath, result.session->end});
+  else
+    sessions->opened({});
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+  if (leaving || !sessions->isUnsaved())
+  {
+    sessions->end();
+    event->accept();
+    return;
+  }
+  event->ignore();
+  sessions->leave(
+      [this]
+      {
+        const QScopedValueRollback<bool> guard(leaving, true);
+        close();
+      });
 }
 
 void MainWindow::showSession(const RestoredSession& session)
 {
   restoreSettings(session, *container);
   groups->restoreNormalised(session.settings.normalised);
+  groups->restoreGroups(session.settings.groups);
   restoreWindow(session, *container);
   timeCourses->refresh();
   dock->setColumns(container->getLabels());

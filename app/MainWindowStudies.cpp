@@ -59,7 +59,8 @@ void MainWindow::fillStudiesMenu()
   runs->setObjectName(QStringLiteral("returnToRuns"));
   runs->setShortcut(QKeySequence(tr("Ctrl+R")));
   runs->setToolTip(tr("Show the runs opened last once more"));
-  QAction* example = studiesMenu->addAction(tr("&Example circuit"), this, &MainWindow::openExample);
+  QAction* example =
+      studiesMenu->addAction(tr("&Example circuit"), this, &MainWindow::openExampleInstead);
   example->setObjectName(QStringLiteral("exampleCircuit"));
   example->setToolTip(tr("Simulate the runs of the example circuit"));
   studiesMenu->addSeparator();
@@ -99,7 +100,8 @@ void MainWindow::followStudy()
       action->setChecked(action->objectName().toStdString() == id);
   }
   const bool own = study.chart != nullptr;
-  findChild<QAction*>(QStringLiteral("saveSession"))->setEnabled(canSaveSession());
+  for (const char* name : {"saveSession", "saveSessionAs"})
+    findChild<QAction*>(QLatin1String(name))->setEnabled(canSaveSession());
   if (own)
     tabs->setCurrentWidget(plot);
   studiesMenu->findChild<QAction*>(QStringLiteral("returnToRuns"))

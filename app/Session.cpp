@@ -2,7 +2,6 @@
 
 #include "app/DumpedTable.h"
 #include "app/RunNormaliser.h"
-#include "app/SessionFile.h"
 #include "app/SessionTable.h"
 #include "app/TranslatedText.h"
 #include "app/Utf8Text.h"
@@ -29,49 +28,17 @@ constexpr double readingPart = 0.3;
 /// With fewer y columns parallel coordinates show all columns.
 constexpr double fewestChosenAxes = 3.0;
 
-SessionSettings settingsOf(const Study& study, PlotContainer& container, const PlotChoice& choice)
+/// The part of the plane that is shown.
+void copyWindow(const plot::PlotState& state, SessionSettings& settings)
 {
-  SessionSettings settings;
-  settings.name = study.name;
-  if (study.runs)
-  {
-    settings.pointsPerRun = static_cast<int>(study.runs->pointsPerTrajectory);
-    settings.parameterRanges = study.runs->parameterRanges;
-  }
-  settings.legend = choice.legend;
-  settings.logY = choice.logY;
-  copySettings(*container.getMetaData(), *settings.plot);
-  const DumpedPlaces places(container.getTable());
-  for (std::vector<int>* columns : {&settings.plot->xColumns, &settings.plot->yColumns,
-                                    &settings.plot->zColumns, &settings.plot->parameterColumns})
-    for (int& column : *columns)
-      column = places.of(column);
-  settings.plot->colorColumn = places.of(settings.plot->colorColumn);
   settings.plot->storedCoordinateWindow = CoordinateWindow();
-  const plot::PlotState& state = container.state();
-  if (const CoordinateWindow* window = plot::rememberedWindow(state))
-  {
-    settings.plot->storedCoordinateWindow = *window;
-    const auto scales = state.windowScales.find(plot::currentKey(state));
-    if (scales != state.windowScales.end())
-      settings.windowScales = scales->second;
-  }
-  return settings;
-}
-
-SessionParts partsOf(const Study& study, PlotContainer& container, const PlotChoice& choice,
-                     const RunNormaliser* normaliser)
-{
-  SessionSettings settings = settingsOf(study, container, choice);
-  vtkSmartPointer<vtkTable> table = container.getTable();
-  if (normaliser)
-  {
-    table = normaliser->originalTable();
-    const DumpedPlaces places(container.getTable());
-    for (const int column : normaliser->normalised())
-      settings.normalised.push_back(places.of(column));
-  }
-  return {settingsText(settings), dumpStudy(study, container, table)};
+  const CoordinateWindow* window = plot::rememberedWindow(state);
+  if (!window)
+    return;
+  settings.plot->storedCoordinateWindow = *window;
+  const auto scales = state.windowScales.find(plot::currentKey(state));
+  if (scales != state.windowScales.end())
+    settings.windowScales = scales->second;
 }
 
 /// The columns that a session names as parameters come from a file.
@@ -127,26 +94,73 @@ int columnCount(const DumpedTable& table)
          static_cast<int>(table.further->GetNumberOfColumns());
 }
 
-/// Writes the session into `opened`, whose study is read.
-void readRest(OpenedSession& opened, const SessionParts& parts, const DumpedTable& table)
+/// Groups of other runs than the study has say nothing.
+void dropStrangeGroups(SessionGroups& groups, const Study& study)
 {
-  ReadSessionSettings read = readSettings(parts.settings, columnCount(table));
+  if (study.runs && groups.groupOfRun.size() == study.runs->numberOfTrajectories)
+    return;
+  groups.groupOfRun.clear();
+  groups.look.groupColours = false;
+  groups.look.groupMeans = false;
+}
+
+/// Writes the session into `opened`, whose study is read.
+void readRest(OpenedSession& opened, const ReadSessionParts& file, const DumpedTable& table)
+{
+  ReadSessionSettings read = readSettings(file.parts.settings, columnCount(table));
   opened.error = read.error;
   if (!opened.error.empty())
     return;
   if (opened.study.runs)
     read.settings.plot->setStride(read.settings.pointsPerRun);
+  dropStrangeGroups(read.settings.groups, opened.study);
   opened.study.name = read.settings.name;
   opened.session = std::make_shared<RestoredSession>(
-      RestoredSession{read.settings, table.further, table.selected});
+      RestoredSession{read.settings, file.end, table.further, table.selected});
 }
 
 } // namespace
 
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
-                        const PlotChoice& choice, const RunNormaliser* normaliser)
+SessionSettings settingsOf(const SessionSource& source)
 {
-  const std::string repeated = repeatedItem(study);
+  PlotContainer& container = source.container;
+  const Study& study = source.study;
+  SessionSettings settings;
+  settings.name = study.name;
+  if (study.runs)
+  {
+    settings.pointsPerRun = static_cast<int>(study.runs->pointsPerTrajectory);
+    settings.parameterRanges = study.runs->parameterRanges;
+  }
+  settings.legend = source.choice.legend;
+  settings.logY = source.choice.logY;
+  settings.groups = source.groups;
+  settings.origin = source.origin;
+  copySettings(*container.getMetaData(), *settings.plot);
+  const DumpedPlaces places(container.getTable());
+  for (std::vector<int>* columns : {&settings.plot->xColumns, &settings.plot->yColumns,
+                                    &settings.plot->zColumns, &settings.plot->parameterColumns})
+    for (int& column : *columns)
+      column = places.of(column);
+  settings.plot->colorColumn = places.of(settings.plot->colorColumn);
+  if (source.normaliser)
+    for (const int column : source.normaliser->normalised())
+      settings.normalised.push_back(places.of(column));
+  copyWindow(container.state(), settings);
+  return settings;
+}
+
+SessionParts sessionParts(const SessionSource& source)
+{
+  vtkSmartPointer<vtkTable> table = source.container.getTable();
+  if (source.normaliser)
+    table = source.normaliser->originalTable();
+  return {settingsText(settingsOf(source)), dumpStudy(source.study, source.container, table)};
+}
+
+std::string saveSession(const QString& path, const SessionSource& source, QByteArray* end)
+{
+  const std::string repeated = repeatedItem(source.study);
   if (!repeated.empty())
     return withValues(
         translated("SessionFile",
@@ -154,7 +168,7 @@ std::string saveSession(const QString& path, const Study& study, PlotContainer& 
         {path.toStdString(), quotedForMessage(repeated)});
   try
   {
-    return saveSessionFile(path, partsOf(study, container, choice, normaliser));
+    return saveSessionFile(path, sessionParts(source), end);
   }
   catch (const std::bad_alloc&)
   {
@@ -162,6 +176,12 @@ std::string saveSession(const QString& path, const Study& study, PlotContainer& 
         translated("SessionFile", "%1: there is not enough memory to save the session"),
         {path.toStdString()});
   }
+}
+
+std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
+                        const PlotChoice& choice, const RunNormaliser* normaliser)
+{
+  return saveSession(path, {study, container, choice, normaliser, {}, {}});
 }
 
 OpenedSession openSession(const QString& path, const ImportProgress& progress)
@@ -188,7 +208,7 @@ OpenedSession openSession(const QString& path, const ImportProgress& progress)
   if (!opened.error.empty() || opened.cancelled)
     return opened;
   opened.study = table.study;
-  readRest(opened, file.parts, table);
+  readRest(opened, file, table);
   if (opened.session && opened.study.name.empty())
     opened.study.name = QFileInfo(path).fileName().toStdString();
   return opened;

@@ -3,6 +3,7 @@
 
 #include "app/ImportProgress.h"
 #include "app/PlotChoice.h"
+#include "app/SessionFile.h"
 #include "app/SessionSettings.h"
 #include "app/Study.h"
 
@@ -21,10 +22,28 @@ namespace Talmesh::app
 
 class RunNormaliser;
 
+/// What a session is made of.
+struct SessionSource
+{
+  const Study& study;
+  /// What shows the study.
+  PlotContainer& container;
+  /// What the user chose; only the XY plot shows all of it.
+  PlotChoice choice;
+  /// What has normalised runs of the container, whose values are written as they were before; null
+  /// for nothing.
+  const RunNormaliser* normaliser = nullptr;
+  SessionGroups groups;
+  /// Written only with work that is kept until the user saves it.
+  SessionOrigin origin;
+};
+
 /// What a session restores beside its study.
 struct RestoredSession
 {
   SessionSettings settings;
+  /// How the session's file ended, as of `endOfSession`.
+  QByteArray end;
   vtkSmartPointer<vtkTable> further;
   vtkSmartPointer<vtkIntArray> selected;
 };
@@ -40,11 +59,17 @@ struct OpenedSession
   bool cancelled = false;
 };
 
+/// All that a session keeps beside its table, as it is now.
+SessionSettings settingsOf(const SessionSource& source);
+
+/// What a session's file would hold. Takes the memory of the table once more.
+SessionParts sessionParts(const SessionSource& source);
+
 /// Writes what a container shows of a study.
-/// @param choice what the user chose; only the XY plot shows all of it
-/// @param normaliser what has normalised runs of the container, whose values are written as they
-/// were before; null for nothing
+/// @param end gets what the file ends with, as of `endOfSession`, unless it is null
 /// @return why it could not be written, in one line of UTF-8; empty on success
+std::string saveSession(const QString& path, const SessionSource& source,
+                        QByteArray* end = nullptr);
 std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
                         const PlotChoice& choice, const RunNormaliser* normaliser = nullptr);
 

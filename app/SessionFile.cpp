@@ -22,7 +22,6 @@ namespace
 const QByteArray magic = QByteArrayLiteral("\x89TALMESH");
 constexpr quint32 formatVersion = 1;
 constexpr int headerSize = 24;
-constexpr int checksumSize = 32;
 constexpr qint64 chunk = 4 << 20; ///< bytes between two reports of progress
 /// A QByteArray counts with int and has a header.
 constexpr quint64 largestDump = std::numeric_limits<int>::max() - 64;
@@ -68,7 +67,7 @@ std::string objection(const QByteArray& bytes, qint64 size)
       header.dumpSize > largestDump)
     return translated("SessionFile", "the session is damaged");
   const auto stated =
-      static_cast<qint64>(headerSize + header.settingsSize + header.dumpSize + checksumSize);
+      static_cast<qint64>(headerSize + header.settingsSize + header.dumpSize + sessionChecksumSize);
   if (size < stated)
     return translated("SessionFile", "the session is cut short");
   if (size > stated)
@@ -128,13 +127,26 @@ bool isSessionFile(const QString& path)
   return file.open(QIODevice::ReadOnly) && file.read(magic.size()) == magic;
 }
 
-bool writeSession(QIODevice& device, const SessionParts& parts)
+QByteArray peekSettings(const QString& path)
+{
+  QFile file(path);
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    return {};
+  const QByteArray header = file.read(headerSize);
+  if (!objection(header, file.size()).empty())
+    return {};
+  return file.read(headerOf(header).settingsSize);
+}
+
+bool writeSession(QIODevice& device, const SessionParts& parts, QByteArray* end)
 {
   Header stated;
   stated.settingsSize = static_cast<quint32>(parts.settings.size());
   stated.dumpSize = static_cast<quint64>(parts.dump.size());
   const QByteArray header = bytesOf(stated);
   const QByteArray checksum = checksumOf(header, parts);
+  if (end)
+    *end = checksum;
   for (const QByteArray* piece : {&header, &parts.settings, &parts.dump, &checksum})
     if (device.write(*piece) != piece->size())
       return false;
@@ -156,21 +168,21 @@ ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress)
       !readDumpBytes(device, static_cast<qint64>(header.dumpSize), progress, read.parts.dump);
   if (read.cancelled)
     return read;
-  const QByteArray checksum = device.read(checksumSize);
-  if (checksum == checksumOf(bytes, read.parts))
+  read.end = device.read(sessionChecksumSize);
+  if (read.end == checksumOf(bytes, read.parts))
     return read;
   read.parts = {};
   read.error = translated("SessionFile", "the session is damaged");
   return read;
 }
 
-std::string saveSessionFile(const QString& path, const SessionParts& parts)
+std::string saveSessionFile(const QString& path, const SessionParts& parts, QByteArray* end)
 {
   if (parts.dump.isEmpty() || parts.settings.size() > largestSettings)
     return withValues(translated("SessionFile", "%1: the table is too large for a session"),
                       {path.toStdString()});
   const QString reason =
-      writeFile(path, [&parts](QIODevice& device) { return writeSession(device, parts); });
+      writeFile(path, [&](QIODevice& device) { return writeSession(device, parts, end); });
   if (reason.isEmpty())
     return {};
   return withValues(translated("SessionFile", "%1: cannot be written: %2"),
@@ -182,11 +194,12 @@ ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& prog
   const QFileInfo info(path);
   QFile file(path);
   if (!info.exists())
-    return {{}, translated("SessionFile", "there is no such file")};
+    return {{}, {}, translated("SessionFile", "there is no such file")};
   if (!info.isFile())
-    return {{}, translated("SessionFile", "this is not a file")};
+    return {{}, {}, translated("SessionFile", "this is not a file")};
   if (!file.open(QIODevice::ReadOnly))
     return {{},
+            {},
             withValues(translated("SessionFile", "cannot be read: %1"),
                        {file.errorString().toStdString()})};
   return readSession(file, progress);

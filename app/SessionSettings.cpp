@@ -1,5 +1,6 @@
 #include "app/SessionSettings.h"
 
+#include "app/SettingsReader.h"
 #include "app/StyleNames.h"
 #include "app/TranslatedText.h"
 
@@ -10,7 +11,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <set>
 
 namespace Talmesh::app
 {
@@ -141,90 +141,45 @@ bool isExtent(double lower, double upper)
   return lower < upper && std::isfinite(upper - lower);
 }
 
-/// Reads single values of one JSON object.
-class SettingsReader
+void readColor(const QJsonArray& array, std::array<int, 4>& color)
 {
-public:
-  SettingsReader(const QJsonObject& object_, int columns_)
-      : object(object_)
-      , columns(columns_)
-  {
-  }
+  for (int i = 0; i < 4 && array.size() == 4; ++i)
+    color[static_cast<std::size_t>(i)] = std::clamp(array.at(i).toInt(), 0, 255);
+}
 
-  void read(PlotMetaData& plot) const
-  {
-    if (const StyleName* style = findStyle(object["style"].toString().toStdString()))
-      plot.setPlotStyle(style->style);
-    for (const Switch& option : switches)
-      (plot.*option.set)(object[QLatin1String(option.name)].toBool((plot.*option.get)()));
-    for (const Number& option : numbers)
-      (plot.*option.set)(number(option.name, (plot.*option.get)(), option.lowest, option.highest));
-    for (const ColumnListName& entry : columnLists)
-      readColumns(entry.name, plot.*entry.list);
-    for (const TextName& entry : texts)
-      plot.*entry.text = readText(object[QLatin1String(entry.name)]);
-    plot.setStride(whole("stride", plot.getStride(), 1, std::numeric_limits<int>::max()));
-    plot.sourceId =
-        whole("sourceId", 0, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    plot.colorColumn = whole("colorColumn", -1, -1, columns - 1);
-    plot.markerStyle = whole("marker", plot.markerStyle, 0, lastMarker);
-    plot.pointSize = number("pointSize", plot.pointSize, 0.0, largestSize);
-    plot.solidColor = object["solidColor"].toBool(plot.solidColor);
-    readColor(plot.color);
-    readWindow(plot.storedCoordinateWindow);
-  }
+void readWindow(const QJsonObject& stored, CoordinateWindow& window)
+{
+  const auto limit = [&stored](const char* name)
+  { return stored[QLatin1String(name)].toDouble(std::numeric_limits<double>::quiet_NaN()); };
+  const CoordinateWindow read{limit("xMin"), limit("yMin"), limit("xMax"), limit("yMax"), true};
+  if (isExtent(read.xMin, read.xMax) && isExtent(read.yMin, read.yMax))
+    window = read;
+}
 
-  int whole(const char* name, int fallback, int lowest, int highest) const
-  {
-    const double value = number(name, fallback, lowest, highest);
-    return std::floor(value) == value ? static_cast<int>(value) : fallback;
-  }
-
-  void readColumns(const char* name, std::vector<int>& list) const
-  {
-    const QJsonArray array = object[QLatin1String(name)].toArray();
-    if (array.isEmpty() && !list.empty())
-      return;
-    list.clear();
-    std::set<int> listed;
-    for (const QJsonValue value : array)
-    {
-      const double number = value.toDouble(-1.0);
-      const bool exists = number >= 0.0 && number < columns && std::floor(number) == number;
-      const int column = exists ? static_cast<int>(number) : -1;
-      // A chart for each repetition would make much of a small file.
-      if (listed.insert(column).second)
-        list.push_back(column);
-    }
-  }
-
-private:
-  double number(const char* name, double fallback, double lowest, double highest) const
-  {
-    const double value = object[QLatin1String(name)].toDouble(fallback);
-    return value >= lowest && value <= highest ? value : fallback;
-  }
-
-  void readColor(std::array<int, 4>& color) const
-  {
-    const QJsonArray array = object["color"].toArray();
-    for (int i = 0; i < 4 && array.size() == 4; ++i)
-      color[static_cast<std::size_t>(i)] = std::clamp(array.at(i).toInt(), 0, 255);
-  }
-
-  void readWindow(CoordinateWindow& window) const
-  {
-    const QJsonObject stored = object["window"].toObject();
-    const auto limit = [&stored](const char* name)
-    { return stored[QLatin1String(name)].toDouble(std::numeric_limits<double>::quiet_NaN()); };
-    const CoordinateWindow read{limit("xMin"), limit("yMin"), limit("xMax"), limit("yMax"), true};
-    if (isExtent(read.xMin, read.xMax) && isExtent(read.yMin, read.yMax))
-      window = read;
-  }
-
-  const QJsonObject& object;
-  int columns;
-};
+void readPlot(const QJsonObject& object, int columns, PlotMetaData& plot)
+{
+  const SettingsReader reader(object, columns);
+  if (const StyleName* style = findStyle(object["style"].toString().toStdString()))
+    plot.setPlotStyle(style->style);
+  for (const Switch& option : switches)
+    (plot.*option.set)(object[QLatin1String(option.name)].toBool((plot.*option.get)()));
+  for (const Number& option : numbers)
+    (plot.*
+     option.set)(reader.number(option.name, (plot.*option.get)(), option.lowest, option.highest));
+  for (const ColumnListName& entry : columnLists)
+    reader.readColumns(entry.name, plot.*entry.list);
+  for (const TextName& entry : texts)
+    plot.*entry.text = readText(object[QLatin1String(entry.name)]);
+  plot.setStride(reader.whole("stride", plot.getStride(), 1, std::numeric_limits<int>::max()));
+  plot.sourceId =
+      reader.whole("sourceId", 0, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+  plot.colorColumn = reader.whole("colorColumn", -1, -1, columns - 1);
+  plot.markerStyle = reader.whole("marker", plot.markerStyle, 0, lastMarker);
+  plot.pointSize = reader.number("pointSize", plot.pointSize, 0.0, largestSize);
+  plot.solidColor = object["solidColor"].toBool(plot.solidColor);
+  readColor(object["color"].toArray(), plot.color);
+  readWindow(object["window"].toObject(), plot.storedCoordinateWindow);
+}
 
 std::vector<std::pair<double, double>> readRanges(const QJsonArray& array, int columns)
 {
@@ -251,6 +206,9 @@ QByteArray settingsText(const SessionSettings& settings)
   object["pointsPerRun"] = settings.pointsPerRun;
   object["parameterRanges"] = ranges;
   object["normalised"] = arrayOf(settings.normalised);
+  object["groups"] = objectOf(settings.groups);
+  if (!settings.origin.path.isEmpty())
+    object["origin"] = objectOf(settings.origin);
   object["legend"] = settings.legend;
   object["logY"] = settings.logY;
   object["windowLogX"] = settings.windowScales.xLog;
@@ -270,16 +228,17 @@ ReadSessionSettings readSettings(const QByteArray& text, int columns)
   }
   const QJsonObject object = document.object();
   SessionSettings& settings = read.settings;
+  const SettingsReader reader(object, columns);
   settings.name = readText(object["name"]);
-  settings.pointsPerRun =
-      SettingsReader(object, columns).whole("pointsPerRun", 0, 0, std::numeric_limits<int>::max());
+  settings.pointsPerRun = reader.whole("pointsPerRun", 0, 0, std::numeric_limits<int>::max());
   settings.parameterRanges = readRanges(object["parameterRanges"].toArray(), columns);
-  SettingsReader(object, columns).readColumns("normalised", settings.normalised);
+  reader.readColumns("normalised", settings.normalised);
+  settings.groups = readGroups(object["groups"].toObject());
+  settings.origin = readOrigin(object["origin"].toObject());
   settings.legend = object["legend"].toBool();
   settings.logY = object["logY"].toBool();
   settings.windowScales = {object["windowLogX"].toBool(), object["windowLogY"].toBool()};
-  const QJsonObject plot = object["plot"].toObject();
-  SettingsReader(plot, columns).read(*settings.plot);
+  readPlot(object["plot"].toObject(), columns, *settings.plot);
   return read;
 }
 

@@ -1,6 +1,8 @@
 #ifndef SessionSettings_h
 #define SessionSettings_h
 
+#include "app/SessionGroups.h"
+#include "app/SessionOrigin.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 
@@ -25,6 +27,9 @@ struct SessionSettings
   std::vector<std::pair<double, double>> parameterRanges;
   /// Columns whose runs are shown normalised, while the table has the values from before.
   std::vector<int> normalised;
+  SessionGroups groups;
+  /// Of work that is kept until the user saves it.
+  SessionOrigin origin;
   bool legend = false;
   bool logY = false;
   /// The scales of the axis window that is stored with the plot's settings.

@@ -1,6 +1,8 @@
 #include "app/Batch.h"
 #include "app/CommandLine.h"
+#include "app/EndingSignals.h"
 #include "app/FileNameCodec.h"
+#include "app/KeptWork.h"
 #include "app/LastResort.h"
 #include "app/MainWindow.h"
 #include "widgets/Translation.h"
@@ -57,6 +59,8 @@ int showWindow(const CommandLineOptions& options)
                    { QCoreApplication::exit(fail(message.toStdString())); });
   window.show();
   window.open(options);
+  window.keepWork(stateFolder());
+  const EndingSignals ending([&window] { window.keepWorkNow(); });
   return QCoreApplication::exec();
 }
 

@@ -6,6 +6,7 @@ function(talmesh_register_suites target)
   set(environment
     # Settings that a test writes must not end up among the developer's own.
     XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-settings
+    XDG_STATE_HOME=${CMAKE_BINARY_DIR}/test-state
     QT_LOGGING_RULES=qt.qpa.*=false)
   set(list "${CMAKE_CURRENT_BINARY_DIR}/${target}_suites.cmake")
   file(GENERATE OUTPUT "${list}" CONTENT

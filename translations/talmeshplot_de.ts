@@ -13,6 +13,17 @@
     </message>
 </context>
 <context>
+    <name>GroupController</name>
+    <message>
+        <source>Group %1: %2 run</source>
+        <translation>Gruppe %1: %2 Lauf</translation>
+    </message>
+    <message>
+        <source>Group %1: %2 runs</source>
+        <translation>Gruppe %1: %2 Läufe</translation>
+    </message>
+</context>
+<context>
     <name>LinePlotWidgetClass</name>
     <message>
         <source>Form</source>
@@ -281,6 +292,65 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>%1: there is not enough memory to save the session</source>
         <translation>%1: der Speicher reicht nicht, um die Sitzung zu speichern</translation>
+    </message>
+</context>
+<context>
+    <name>SessionQuestions</name>
+    <message>
+        <source>the selection</source>
+        <translation>die Auswahl</translation>
+    </message>
+    <message>
+        <source>the groups of runs</source>
+        <translation>die Gruppen der Läufe</translation>
+    </message>
+    <message>
+        <source>which runs are normalised</source>
+        <translation>welche Läufe normiert sind</translation>
+    </message>
+    <message>
+        <source>how the plot is shown</source>
+        <translation>wie die Grafik gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Save the work on &quot;%1&quot;?</source>
+        <translation>Die Arbeit an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Not saved: %1.</source>
+        <translation>Nicht gespeichert: %1.</translation>
+    </message>
+    <message>
+        <source>%1 has changed since this window opened or saved it.</source>
+        <translation>%1 hat sich geändert, seit dieses Fenster die Datei geöffnet oder gespeichert hat.</translation>
+    </message>
+    <message>
+        <source>Overwriting it loses what someone else has saved there.</source>
+        <translation>Wer sie überschreibt, verliert, was jemand anders dort gespeichert hat.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Überschreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Save under another name...</source>
+        <translation>Unter anderem &amp;Namen speichern …</translation>
+    </message>
+    <message>
+        <source>Bring back the unsaved work on &quot;%1&quot;?</source>
+        <translation>Die ungespeicherte Arbeit an „%1“ zurückholen?</translation>
+    </message>
+    <message>
+        <source>Talmesh Plot ended before it was saved. It was kept on %1.</source>
+        <translation>Talmesh Plot endete, bevor sie gespeichert war. Aufgehoben wurde sie am %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Bring back</source>
+        <translation>&amp;Zurückholen</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Später</translation>
     </message>
 </context>
 <context>
@@ -952,22 +1022,6 @@ p, li { white-space: pre-wrap; }
         <source>This data has no runs over time to group.</source>
         <translation>Diese Daten haben keine Läufe über der Zeit, die sich gruppieren ließen.</translation>
     </message>
-    <message>
-        <source>Group</source>
-        <translation>Gruppe</translation>
-    </message>
-    <message>
-        <source>Group %1: %2 run</source>
-        <translation>Gruppe %1: %2 Lauf</translation>
-    </message>
-    <message>
-        <source>Group %1: %2 runs</source>
-        <translation>Gruppe %1: %2 Läufe</translation>
-    </message>
-    <message>
-        <source>Group %1</source>
-        <translation>Gruppe %1</translation>
-    </message>
 </context>
 <context>
     <name>Talmesh::app::LoadingBar</name>
@@ -1181,10 +1235,6 @@ Grafiken simulierter Läufe.</translation>
         <translation>Sitzungen (*.talmesh)</translation>
     </message>
     <message>
-        <source>Save session</source>
-        <translation>Sitzung speichern</translation>
-    </message>
-    <message>
         <source>S&amp;tudies</source>
         <translation>S&amp;tudien</translation>
     </message>
@@ -1223,6 +1273,14 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>&amp;Clear list</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Save session &amp;as...</source>
+        <translation>Sitzung speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+S</source>
+        <translation>Ctrl+Alt+S</translation>
     </message>
 </context>
 <context>
@@ -1315,6 +1373,17 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::SessionController</name>
+    <message>
+        <source>Save session</source>
+        <translation>Sitzung speichern</translation>
+    </message>
+    <message>
+        <source>Sessions (*.talmesh)</source>
+        <translation>Sitzungen (*.talmesh)</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::StudyDock</name>
     <message>
         <source>Study</source>
@@ -1334,6 +1403,25 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>R&amp;un</source>
         <translation>La&amp;uf</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::WorkKeeper</name>
+    <message>
+        <source>no thread could be started</source>
+        <translation>kein Thread konnte gestartet werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Arbeitsspeicher reicht nicht aus</translation>
+    </message>
+    <message>
+        <source>Unsaved work cannot be kept for later: %1</source>
+        <translation>Ungespeicherte Arbeit lässt sich nicht aufheben: %1</translation>
     </message>
 </context>
 <context>

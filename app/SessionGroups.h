@@ -1,0 +1,32 @@
+#ifndef SessionGroups_h
+#define SessionGroups_h
+
+#include "app/GroupedPlots.h"
+
+#include <QJsonObject>
+
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// What a session keeps of the panel of groups.
+struct SessionGroups
+{
+  /// The group of every run, from 0; empty without groups.
+  std::vector<int> groupOfRun;
+  /// Into how many groups runs are sorted next; 0 for as many as the panel begins with.
+  int count = 0;
+  /// The mode of the container's clustering.
+  int mode = 0;
+  RunLook look;
+};
+
+QJsonObject objectOf(const SessionGroups& groups);
+
+/// What is missing, mistyped or out of bounds keeps its first value.
+SessionGroups readGroups(const QJsonObject& object);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,160 @@
+#include "app/Session.h"
+
+#include <vtkIntArray.h>
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <numeric>
+
+#include "ProgramWindows.h"
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+
+namespace
+{
+
+constexpr int patience = 60000;
+
+/// A program that may have been told to ignore a signal before it started, as by nohup.
+class DeafProcess : public QProcess
+{
+public:
+  explicit DeafProcess(int number)
+      : ignored(number)
+  {
+  }
+
+protected:
+  void setupChildProcess() override
+  {
+    if (ignored != 0)
+      std::signal(ignored, SIG_IGN);
+  }
+
+private:
+  int ignored;
+};
+
+/// The viewer as its users start it, with three runs.
+class EndedProgram : public ::testing::Test
+{
+protected:
+  void SetUp() override
+  {
+    if (!windows.canBeSeen())
+      GTEST_SKIP() << "This display has no X11 windows.";
+    QFile file(folder.filePath(QStringLiteral("runs.csv")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromStdString(sampleRuns()));
+  }
+
+  /// @return the window with the runs
+  unsigned long start(QProcess& program)
+  {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_STATE_HOME"), folder.path());
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::ForwardedChannels);
+    program.start(QStringLiteral(TALMESH_PLOT_PROGRAM),
+                  {folder.filePath(QStringLiteral("runs.csv"))});
+    const unsigned long window = windows.waitFor("runs.csv - Talmesh Plot");
+    EXPECT_NE(window, 0U);
+    return window;
+  }
+
+  void selectAll(unsigned long window)
+  {
+    windows.press(window, "a", true);
+    // Its keys are taken in order, so all is selected when the dialog comes.
+    windows.press(window, "s", true);
+    ASSERT_NE(windows.waitFor("Save session"), 0U);
+  }
+
+  static void expectEndBy(QProcess& program, int number)
+  {
+    ::kill(static_cast<pid_t>(program.processId()), number);
+    ASSERT_TRUE(program.waitForFinished(patience)) << number;
+    EXPECT_EQ(program.exitStatus(), QProcess::CrashExit) << "as the signal ends any program";
+    EXPECT_EQ(program.exitCode(), number);
+  }
+
+  QStringList keptFiles() const
+  {
+    return QDir(state).entryList({QStringLiteral("*.talmesh")}, QDir::Files);
+  }
+
+  /// Rows selected in the one file that was kept.
+  int keptRows() const
+  {
+    const OpenedSession kept = openSession(QDir(state).filePath(keptFiles().value(0)));
+    EXPECT_EQ(kept.error, "");
+    if (!kept.session || !kept.session->selected)
+      return -1;
+    const int* first = kept.session->selected->GetPointer(0);
+    return std::accumulate(first, first + kept.session->selected->GetNumberOfValues(), 0);
+  }
+
+  QTemporaryDir folder;
+  const QString state = folder.filePath(QStringLiteral("talmesh-plot"));
+  ProgramWindows windows;
+};
+
+} // namespace
+
+TEST_F(EndedProgram, KeepsItsWorkWhateverSignalEndsIt)
+{
+  for (const int number : {SIGTERM, SIGINT, SIGHUP})
+  {
+    QProcess program;
+    selectAll(start(program));
+    expectEndBy(program, number);
+    ASSERT_EQ(keptFiles().size(), 1) << number;
+    EXPECT_GT(keptRows(), 0) << number;
+    QDir(state).removeRecursively();
+  }
+}
+
+TEST_F(EndedProgram, OffersItsWorkWhenItIsStartedAgain)
+{
+  QProcess first;
+  selectAll(start(first));
+  expectEndBy(first, SIGTERM);
+  QProcess second;
+  start(second);
+  const unsigned long question = windows.waitFor("Talmesh Plot");
+  ASSERT_NE(question, 0U);
+  // The first of its buttons brings the work back, which is then to be saved or kept again.
+  windows.press(question, "Return");
+  const unsigned long window = windows.waitFor("runs.csv - Talmesh Plot");
+  windows.press(window, "s", true);
+  ASSERT_NE(windows.waitFor("Save session"), 0U);
+  const QStringList before = keptFiles();
+  expectEndBy(second, SIGTERM);
+  EXPECT_EQ(keptFiles(), before) << "it goes on in the same file";
+  EXPECT_GT(keptRows(), 0);
+}
+
+TEST_F(EndedProgram, LeavesNothingWhenNothingWasDone)
+{
+  QProcess program;
+  start(program);
+  expectEndBy(program, SIGTERM);
+  EXPECT_TRUE(keptFiles().isEmpty());
+}
+
+TEST_F(EndedProgram, StaysDeafToSignalsThatItWasStartedToIgnore)
+{
+  DeafProcess program(SIGHUP);
+  start(program);
+  ::kill(static_cast<pid_t>(program.processId()), SIGHUP);
+  EXPECT_FALSE(program.waitForFinished(500));
+  expectEndBy(program, SIGTERM);
+}
