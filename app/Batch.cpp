@@ -27,9 +27,10 @@ std::string writeExport(const CommandLineOptions& options, VtkPlotWidget& widget
                         const QString& path)
 {
   if (options.paperWidth <= 0.0)
-    return exportPlot(widget, path);
+    return exportPlot(widget, path, options.vectors, options.dotsPerInch);
   return exportPlot(widget, path,
-                    {QSizeF(options.paperWidth, options.paperHeight), options.dotsPerInch});
+                    {QSizeF(options.paperWidth, options.paperHeight), options.dotsPerInch},
+                    options.vectors);
 }
 
 std::string writeExports(const CommandLineOptions& options, const OpenedStudy& opened,
@@ -75,7 +76,8 @@ std::string runBatch(const CommandLineOptions& options)
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
   std::string error = writeExports(options, opened, size);
   if (error.empty() && !options.gallery.empty())
-    error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size);
+    error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size,
+                         options.vectors);
   return error;
 }
 

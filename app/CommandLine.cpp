@@ -127,7 +127,8 @@ private:
                                        {"--gallery", &CommandLineParser::readGallery},
                                        {"--size", &CommandLineParser::readPixels},
                                        {"--paper", &CommandLineParser::readPaper},
-                                       {"--dpi", &CommandLineParser::readResolution}};
+                                       {"--dpi", &CommandLineParser::readResolution},
+                                       {"--vector", &CommandLineParser::readVectors}};
     const auto* found =
         std::find_if(std::begin(known), std::end(known),
                      [&name](const Option& candidate) { return candidate.name == name; });
@@ -214,6 +215,18 @@ private:
                      " to " + std::to_string(PaperSize::largestResolution) + ", not " + value;
   }
 
+  void readVectors(const std::string& value)
+  {
+    if (value == "all")
+      options().vectors = Vectors::All;
+    else if (value == "auto")
+      options().vectors = Vectors::Auto;
+    else if (value == "none")
+      options().vectors = Vectors::None;
+    else
+      parsed.error = "--vector takes all, auto or none, not " + value;
+  }
+
   /// Size and resolution may each be right and ask for too much together.
   void checkPixels()
   {
@@ -261,7 +274,11 @@ std::string commandLineHelp()
       "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
       "  --size WxH              width and height of the pictures in pixels\n"
       "  --paper WxH             width and height of exported pictures in millimetres\n"
-      "  --dpi N                 resolution of a PNG with --paper, 300 without this\n"
+      "  --dpi N                 resolution of a PNG with --paper and of pictures in a PDF,\n"
+      "                          300 without this\n"
+      "  --vector all|auto|none  which lines and points of a PDF are vectors: all, as many as\n"
+      "                          can be told apart (auto, without this), or none; the others\n"
+      "                          are a picture\n"
       "  --help                  this text\n"
       "  --version               the version\n"
       "\n"

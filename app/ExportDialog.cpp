@@ -1,5 +1,6 @@
 #include "app/ExportDialog.h"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
@@ -33,6 +34,15 @@ QDoubleSpinBox* makeSide(const char* name)
   return box;
 }
 
+QSpinBox* makeResolution(const char* name)
+{
+  auto* box = new QSpinBox;
+  box->setObjectName(QLatin1String(name));
+  box->setRange(PaperSize::smallestResolution, PaperSize::largestResolution);
+  box->setSuffix(ExportDialog::tr(" dpi"));
+  return box;
+}
+
 } // namespace
 
 ExportDialog::ExportDialog(std::optional<int> most, const QSize& screen, QWidget* parent)
@@ -42,7 +52,9 @@ ExportDialog::ExportDialog(std::optional<int> most, const QSize& screen, QWidget
     , onPaper(new QRadioButton(tr("Of a size on &paper, with text of 12 points")))
     , width(makeSide("exportWidth"))
     , height(makeSide("exportHeight"))
-    , resolution(new QSpinBox)
+    , resolution(makeResolution("exportResolution"))
+    , pictureResolution(makeResolution("exportPictureResolution"))
+    , shapes(new QComboBox)
     , pixelSize(new QLabel)
     , buttons(new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel))
 {
@@ -52,9 +64,10 @@ ExportDialog::ExportDialog(std::optional<int> most, const QSize& screen, QWidget
   onPaper->setObjectName(QStringLiteral("onPaper"));
   buttons->setObjectName(QStringLiteral("exportButtons"));
   pixelSize->setObjectName(QStringLiteral("exportPixels"));
-  resolution->setObjectName(QStringLiteral("exportResolution"));
-  resolution->setRange(PaperSize::smallestResolution, PaperSize::largestResolution);
-  resolution->setSuffix(tr(" dpi"));
+  shapes->setObjectName(QStringLiteral("exportVectors"));
+  shapes->addItem(tr("As vectors, many as a picture"), static_cast<int>(Vectors::Auto));
+  shapes->addItem(tr("All as vectors"), static_cast<int>(Vectors::All));
+  shapes->addItem(tr("As a picture"), static_cast<int>(Vectors::None));
   layOut();
   connectFields();
   restore(screen);
@@ -69,11 +82,18 @@ void ExportDialog::layOut()
   layout->addRow(tr("&Height"), height);
   layout->addRow(tr("&Resolution"), resolution);
   layout->addRow(tr("Pixels"), pixelSize);
-  for (QWidget* field : std::initializer_list<QWidget*>{resolution, pixelSize})
+  layout->addRow(tr("&Lines and points"), shapes);
+  layout->addRow(tr("R&esolution of pictures"), pictureResolution);
+  const auto show = [layout](std::initializer_list<QWidget*> fields, bool shown)
   {
-    field->setVisible(mostOnASide.has_value());
-    layout->labelForField(field)->setVisible(mostOnASide.has_value());
-  }
+    for (QWidget* field : fields)
+    {
+      field->setVisible(shown);
+      layout->labelForField(field)->setVisible(shown);
+    }
+  };
+  show({resolution, pixelSize}, mostOnASide.has_value());
+  show({shapes, pictureResolution}, !mostOnASide);
   layout->addRow(buttons);
 }
 
@@ -98,6 +118,10 @@ void ExportDialog::restore(const QSize& screen)
   width->setValue(settings.value(QStringLiteral("width"), usualWidth).toDouble());
   height->setValue(settings.value(QStringLiteral("height"), width->value() * ratio).toDouble());
   resolution->setValue(settings.value(QStringLiteral("resolution"), 300).toInt());
+  const auto found = [this](const QVariant& choice)
+  { return std::max(shapes->findData(choice), 0); };
+  pictureResolution->setValue(settings.value(QStringLiteral("pictureResolution"), 300).toInt());
+  shapes->setCurrentIndex(found(settings.value(QStringLiteral("vectors"))));
   const bool paperLast = settings.value(QStringLiteral("onPaper"), true).toBool();
   (paperLast ? onPaper : asOnScreen)->setChecked(true);
   for (QWidget* field : std::initializer_list<QWidget*>{width, height, resolution})
@@ -121,7 +145,17 @@ std::optional<PaperSize> ExportDialog::paper() const
 {
   if (asOnScreen->isChecked())
     return {};
-  return PaperSize{QSizeF(width->value(), height->value()), resolution->value()};
+  return PaperSize{QSizeF(width->value(), height->value()), dotsPerInch()};
+}
+
+int ExportDialog::dotsPerInch() const
+{
+  return (mostOnASide ? resolution : pictureResolution)->value();
+}
+
+Vectors ExportDialog::vectors() const
+{
+  return static_cast<Vectors>(shapes->currentData().toInt());
 }
 
 void ExportDialog::accept()
@@ -132,7 +166,14 @@ void ExportDialog::accept()
   settings.setValue(QStringLiteral("width"), width->value());
   settings.setValue(QStringLiteral("height"), height->value());
   if (mostOnASide)
+  {
     settings.setValue(QStringLiteral("resolution"), resolution->value());
+  }
+  else
+  {
+    settings.setValue(QStringLiteral("vectors"), shapes->currentData());
+    settings.setValue(QStringLiteral("pictureResolution"), pictureResolution->value());
+  }
   QDialog::accept();
 }
 

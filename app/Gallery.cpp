@@ -104,7 +104,7 @@ std::string drawLastPoints(const Study& study, PlotContainer& container, plotSty
 }
 
 std::string write(const GalleryView& view, const Study& study, const QDir& folder,
-                  VtkPlotWidget& widget)
+                  VtkPlotWidget& widget, Vectors vectors)
 {
   PlotContainer container(nullptr);
   container.setDiagnosticsShown(false);
@@ -113,7 +113,8 @@ std::string write(const GalleryView& view, const Study& study, const QDir& folde
   std::string error = view.draw(study, container);
   for (const char* suffix : {".png", ".pdf"})
     if (error.empty())
-      error = exportPlot(widget, folder.filePath(QString::fromStdString(view.name) + suffix));
+      error =
+          exportPlot(widget, folder.filePath(QString::fromStdString(view.name) + suffix), vectors);
   widget.setPlotContainer(own);
   return error;
 }
@@ -147,7 +148,8 @@ const std::vector<GalleryView>& galleryViews()
   return views;
 }
 
-std::string writeGallery(const Study& study, const QString& path, const QSize& pixels)
+std::string writeGallery(const Study& study, const QString& path, const QSize& pixels,
+                         Vectors vectors)
 {
   const QDir folder(path);
   if (!folder.mkpath(QStringLiteral(".")))
@@ -155,7 +157,7 @@ std::string writeGallery(const Study& study, const QString& path, const QSize& p
   const auto widget = makeHiddenPlot(pixels);
   for (const GalleryView& view : galleryViews())
   {
-    const std::string error = write(view, study, folder, *widget);
+    const std::string error = write(view, study, folder, *widget, vectors);
     if (!error.empty())
       return error;
   }

@@ -2,6 +2,7 @@
 #define Gallery_h
 
 #include "app/Study.h"
+#include "widgets/ScenePainter.h"
 
 #include <QSize>
 #include <QString>
@@ -30,7 +31,8 @@ const std::vector<GalleryView>& galleryViews();
 
 /// Writes one PNG and one PDF of every view into a folder, which is made if need be.
 /// @return why that failed, in one line; empty on success
-std::string writeGallery(const Study& study, const QString& folder, const QSize& pixels);
+std::string writeGallery(const Study& study, const QString& folder, const QSize& pixels,
+                         Vectors vectors = Vectors::Auto);
 
 } // namespace Talmesh::app
 

@@ -58,8 +58,9 @@ public:
   /// Writes what is shown to a file, by its suffix, as on the screen or for print; a failure is
   /// shown to the user.
   /// @return whether it was written
-  bool exportTo(const QString& path);
-  bool exportTo(const QString& path, const PaperSize& paper);
+  bool exportTo(const QString& path, Vectors vectors = Vectors::Auto,
+                int dotsPerInch = PaperSize().dotsPerInch);
+  bool exportTo(const QString& path, const PaperSize& paper, Vectors vectors = Vectors::Auto);
   /// Asks for the size of a picture, then writes it.
   void askForSizeAndExport(const QString& path);
   /// Writes the table and how it is shown as a session; a failure is shown to the user.

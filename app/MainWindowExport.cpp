@@ -31,14 +31,14 @@ void MainWindow::chooseExport()
   dialog->open();
 }
 
-bool MainWindow::exportTo(const QString& path)
+bool MainWindow::exportTo(const QString& path, Vectors vectors, int dotsPerInch)
 {
-  return sayWhatWasWritten(path, exportPlot(*plot, path));
+  return sayWhatWasWritten(path, exportPlot(*plot, path, vectors, dotsPerInch));
 }
 
-bool MainWindow::exportTo(const QString& path, const PaperSize& paper)
+bool MainWindow::exportTo(const QString& path, const PaperSize& paper, Vectors vectors)
 {
-  return sayWhatWasWritten(path, exportPlot(*plot, path, paper));
+  return sayWhatWasWritten(path, exportPlot(*plot, path, paper, vectors));
 }
 
 void MainWindow::askForSizeAndExport(const QString& path)
@@ -49,15 +49,15 @@ void MainWindow::askForSizeAndExport(const QString& path)
     exportTo(path);
     return;
   }
-  const std::optional<int> most =
-      kind == ExportKind::Pixels ? mostPixelsOf(*plot) : std::optional<int>();
+  const std::optional<int> most = kind == ExportKind::Pixels ? mostPixels : std::optional<int>();
   auto* dialog = new ExportDialog(most, plot->size(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &QDialog::accepted, this,
           [this, dialog, path]
           {
             const std::optional<PaperSize> paper = dialog->paper();
-            paper ? exportTo(path, *paper) : exportTo(path);
+            paper ? exportTo(path, *paper, dialog->vectors())
+                  : exportTo(path, dialog->vectors(), dialog->dotsPerInch());
           });
   dialog->open();
 }

@@ -3,19 +3,13 @@
 #include "app/PaintingMemory.h"
 #include "app/ScaledPicture.h"
 #include "app/TranslatedText.h"
-#include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/FileWriter.h"
 #include "widgets/VtkPlotWidget.h"
 
-#include <vtkRenderWindow.h>
-
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
 #include <QImage>
-#include <QPainter>
-#include <QTemporaryDir>
 #include <QtMath>
 
 #include <algorithm>
@@ -60,11 +54,6 @@ QSizeF pointsOf(const PaperSize& paper)
   return paper.millimetres * (pointsPerInch / millimetresPerInch);
 }
 
-bool isIn3D(const VtkPlotWidget& widget)
-{
-  return widget.plotContainer()->getMetaData()->getPlotStyle() == xyzPlot;
-}
-
 Content pngFile(const QImage& picture)
 {
   Content content;
@@ -75,72 +64,29 @@ Content pngFile(const QImage& picture)
   return content;
 }
 
-Content pngOf(VtkPlotWidget& widget)
+Content pngOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper)
 {
-  widget.updatePlot(true);
-  return pngFile(widget.grabFramebuffer());
-}
-
-/// A picture cut to a size, white where it is a pixel short.
-QImage onPaper(const QImage& picture, const QSize& size)
-{
-  QImage paper(size, QImage::Format_RGB32);
-  paper.fill(Qt::white);
-  QPainter painter(&paper);
-  painter.drawImage(QRect(QPoint(0, 0), picture.size()), picture);
-  return paper;
-}
-
-Content pngOf(VtkPlotWidget& widget, const PaperSize& paper)
-{
-  QImage picture;
-  if (isIn3D(widget))
-  {
-    // The painter of three dimensions cannot be scaled.
-    const TemporarySize inPixels(widget, pixelsOn(paper));
-    widget.renderWindow()->SetDPI(paper.dotsPerInch);
-    widget.updatePlot(true);
-    picture = widget.grabFramebuffer();
-  }
-  else
-  {
-    // The widget has whole points, of which the last may be cut.
-    const QSizeF points = pointsOf(paper);
-    const TemporarySize inPoints(
-        widget, {qCeil(points.width() - rounding), qCeil(points.height() - rounding)});
-    picture = paintScaled(widget, paper.dotsPerInch / pointsPerInch);
-  }
-  if (!picture.isNull() && picture.size() != pixelsOn(paper))
-    picture = onPaper(picture, pixelsOn(paper));
-  const int dotsPerMetre = qRound(paper.dotsPerInch * 1000.0 / millimetresPerInch);
+  if (!paper)
+    return pngFile(paintScaled(widget, widget.devicePixelRatioF()));
+  // The scene has whole points, of which the last may be cut.
+  const QSizeF points = pointsOf(*paper);
+  const QSize size(qCeil(points.width() - rounding), qCeil(points.height() - rounding));
+  QImage picture = paintPicture(widget, size, paper->dotsPerInch / pointsPerInch, pixelsOn(*paper));
+  const int dotsPerMetre = qRound(paper->dotsPerInch * 1000.0 / millimetresPerInch);
   picture.setDotsPerMeterX(dotsPerMetre);
   picture.setDotsPerMeterY(dotsPerMetre);
   return pngFile(picture);
 }
 
-/// The exporter writes to a file by name and reports no failure, so it gets a folder of its own.
-Content pdfOf(VtkPlotWidget& widget)
+Content pdfOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper, Vectors vectors,
+              int dotsPerInch)
 {
+  const QSize points = paper ? rounded(pointsOf(*paper)) : widget.size();
   Content content;
-  const QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("plot.pdf"));
-  if (folder.isValid())
-  {
-    widget.updatePlot(true);
-    widget.printPlot(path);
-  }
-  QFile file(path);
-  if (file.open(QIODevice::ReadOnly))
-    content.bytes = file.readAll();
+  content.bytes = paintPage(widget, points, dotsPerInch, vectors);
   if (!isWholePdf(content.bytes))
     content.error = translated("PictureFile", "the plot could not be painted");
   return content;
-}
-
-Content pdfOf(VtkPlotWidget& widget, const PaperSize& paper)
-{
-  const TemporarySize inPoints(widget, rounded(pointsOf(paper)));
-  return pdfOf(widget);
 }
 
 Content csvOf(VtkPlotWidget& widget)
@@ -157,14 +103,15 @@ std::string missingMemory()
   return translated("PictureFile", "there is not enough memory for this picture");
 }
 
-Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<PaperSize>& paper)
+Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<PaperSize>& paper,
+                  Vectors vectors, int dotsPerInch)
 {
   switch (kind)
   {
   case ExportKind::Pixels:
-    return paper ? pngOf(widget, *paper) : pngOf(widget);
+    return pngOf(widget, paper);
   case ExportKind::Vectors:
-    return paper ? pdfOf(widget, *paper) : pdfOf(widget);
+    return pdfOf(widget, paper, vectors, dotsPerInch);
   case ExportKind::Table:
     return csvOf(widget);
   default:
@@ -188,7 +135,7 @@ std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind,
 {
   std::string error;
   if (paper && kind == ExportKind::Pixels)
-    error = errorOf(*paper, mostPixelsOf(widget));
+    error = errorOf(*paper, mostPixels);
   else if (paper && kind == ExportKind::Vectors)
     error = errorOf(*paper, {});
   const QSize pixels = paintedSize(widget, kind, paper);
@@ -199,13 +146,14 @@ std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind,
 }
 
 std::string writeExport(VtkPlotWidget& widget, const QString& path,
-                        const std::optional<PaperSize>& paper)
+                        const std::optional<PaperSize>& paper, Vectors vectors, int dotsPerInch)
 {
   const ExportKind kind = exportKindOf(path);
   std::string error = objectionTo(widget, kind, paper);
   try
   {
-    const Content content = error.empty() ? contentOf(widget, kind, paper) : Content{{}, {}, error};
+    const Content content = error.empty() ? contentOf(widget, kind, paper, vectors, dotsPerInch)
+                                          : Content{{}, {}, error};
     error = content.error.empty() ? writeFile(path, content.data(), content.size()).toStdString()
                                   : content.error;
   }
@@ -232,11 +180,6 @@ ExportKind exportKindOf(const QString& path)
   if (hasSuffix(".pdf"))
     return ExportKind::Vectors;
   return hasSuffix(".csv") ? ExportKind::Table : ExportKind::None;
-}
-
-int mostPixelsOf(const VtkPlotWidget& widget)
-{
-  return isIn3D(widget) ? mostPixelsIn3D : mostPixels;
 }
 
 std::string errorOf(const PaperSize& paper, std::optional<int> most)
@@ -268,14 +211,15 @@ QSize pixelsOn(const PaperSize& paper)
   return rounded(paper.millimetres * (paper.dotsPerInch / millimetresPerInch));
 }
 
-std::string exportPlot(VtkPlotWidget& widget, const QString& path)
+std::string exportPlot(VtkPlotWidget& widget, const QString& path, Vectors vectors, int dotsPerInch)
 {
-  return writeExport(widget, path, {});
+  return writeExport(widget, path, {}, vectors, dotsPerInch);
 }
 
-std::string exportPlot(VtkPlotWidget& widget, const QString& path, const PaperSize& paper)
+std::string exportPlot(VtkPlotWidget& widget, const QString& path, const PaperSize& paper,
+                       Vectors vectors)
 {
-  return writeExport(widget, path, paper);
+  return writeExport(widget, path, paper, vectors, paper.dotsPerInch);
 }
 
 std::unique_ptr<VtkPlotWidget> makeHiddenPlot(const QSize& pixels)

@@ -1,6 +1,8 @@
 #ifndef PictureFile_h
 #define PictureFile_h
 
+#include "widgets/ScenePainter.h"
+
 #include <QByteArray>
 #include <QSize>
 #include <QSizeF>
@@ -26,13 +28,6 @@ enum class ExportKind
 
 ExportKind exportKindOf(const QString& path);
 
-/// Writes what a plot widget shows: ".png" the picture in the widget's pixels, ".pdf" the same as
-/// vectors, ".csv" the whole table. The file appears complete or not at all; an old one of the name
-/// stays until then.
-/// @return why it could not be written, in one line that begins with the file's name; empty on
-/// success
-std::string exportPlot(VtkPlotWidget& widget, const QString& path);
-
 /// A size on paper, and how finely a picture made of pixels fills it.
 struct PaperSize
 {
@@ -45,13 +40,17 @@ struct PaperSize
   int dotsPerInch = 300;
 };
 
+/// Writes what a plot widget shows: ".png" the picture in the widget's pixels, ".pdf" the same as
+/// vectors, as far as @p vectors says, ".csv" the whole table. The file appears complete or not at
+/// all; an old one of the name stays until then.
+/// @param dotsPerInch of pictures on the page of a PDF
+/// @return why it could not be written, in one line that begins with the file's name; empty on
+/// success
+std::string exportPlot(VtkPlotWidget& widget, const QString& path, Vectors vectors = Vectors::Auto,
+                       int dotsPerInch = PaperSize().dotsPerInch);
+
 /// A picture with more pixels on a side takes more memory than a figure is worth.
 constexpr int mostPixels = 20000;
-/// The 3-D chart is painted in one piece, for which graphics cards have less room.
-constexpr int mostPixelsIn3D = 8192;
-
-/// The most pixels on a side of a picture for print of what a widget shows.
-int mostPixelsOf(const VtkPlotWidget& widget);
 
 /// Why there is no picture of a size, in one line; empty if there is.
 /// @param most pixels on a side; none for a picture that is not made of them
@@ -62,10 +61,11 @@ QSize pixelsOn(const PaperSize& paper);
 
 /// The same for print: the plot is laid out anew for the size, in which the widget's pixels are
 /// points of 1/72 inch. ".png" has the pixels that the resolution gives, and says so; ".pdf" has a
-/// page of the size, to the next point. ".csv" is the table.
-std::string exportPlot(VtkPlotWidget& widget, const QString& path, const PaperSize& paper);
+/// page of the size, to the next point, on which pictures have the resolution. ".csv" is the table.
+std::string exportPlot(VtkPlotWidget& widget, const QString& path, const PaperSize& paper,
+                       Vectors vectors = Vectors::Auto);
 
-/// Whether a PDF has its end, which one that a full disk cut off lacks.
+/// Whether a PDF has its end, which one that was cut off lacks.
 bool isWholePdf(const QByteArray& pdf);
 
 /// A plot widget that can draw pictures of the given size but is never seen.

@@ -1,15 +1,14 @@
 #include "app/ScaledPicture.h"
 
-#include "app/ScaledContextDevice.h"
-#include "widgets/TemporaryContextDevice.h"
 #include "widgets/VtkPlotWidget.h"
 
-#include <vtkNew.h>
-#include <vtkRenderWindow.h>
+#include <vtkContextScene.h>
+#include <vtkContextView.h>
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QPainter>
-#include <QResizeEvent>
+#include <QPdfWriter>
 
 #include <cmath>
 
@@ -19,69 +18,58 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr int pointsPerInch = 72;
+constexpr double pointsPerInch = 72.0;
+/// In which places on a page are counted; pictures have a resolution of their own.
+constexpr int unitsPerInch = 1200;
 
-/// A hidden widget, for example one under another tab, would hear of its size only when it is
-/// shown, and paint with the old one until then.
-void resizeAtOnce(VtkPlotWidget& widget, const QSize& size)
+void paint(VtkPlotWidget& widget, QPainter& painter, const QSize& size, double resolution,
+           Vectors vectors)
 {
-  QResizeEvent resized(size, widget.size());
-  widget.resize(size);
-  if (!widget.isVisible())
-    QCoreApplication::sendEvent(&widget, &resized);
+  // A chart that another one has taken the place of would be painted.
+  widget.updatePlot(true);
+  paintScene(*widget.contextView()->GetScene(), painter, size, resolution, vectors);
+  widget.updatePlot(true);
 }
 
 } // namespace
 
-TemporarySize::TemporarySize(VtkPlotWidget& widget_, const QSize& pixels)
-    : widget(widget_)
-    , size(widget_.size())
-    , dotsPerInch(widget_.renderWindow()->GetDPI())
-    , updates(widget_.updatesEnabled())
+QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, const QSize& pixels)
 {
-  widget.setUpdatesEnabled(false);
-  resizeAtOnce(widget, pixels / widget.devicePixelRatioF());
-  widget.renderWindow()->SetDPI(pointsPerInch);
-}
-
-TemporarySize::~TemporarySize()
-{
-  resizeAtOnce(widget, size);
-  widget.renderWindow()->SetDPI(dotsPerInch);
-  widget.setUpdatesEnabled(updates);
-  widget.updatePlot(true);
+  QImage picture(pixels, QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  // Scenes count rows from the bottom.
+  painter.translate(0.0, pixels.height() - scale * size.height());
+  painter.scale(scale, scale);
+  paint(widget, painter, size, scale, Vectors::All);
+  return picture;
 }
 
 QImage paintScaled(VtkPlotWidget& widget, double scale)
 {
-  widget.updatePlot(true);
-  const QImage whole = widget.grabFramebuffer();
-  vtkNew<ScaledContextDevice> device;
-  device->SetScale(scale);
-  const TemporaryContextDevice exchanged(widget, device);
-  if (whole.isNull() || !exchanged.exchanged())
-    return {};
-  const QSize part = whole.size();
-  const int width = static_cast<int>(std::lround(part.width() * scale));
-  const int height = static_cast<int>(std::lround(part.height() * scale));
-  QImage picture(width, height, QImage::Format_RGB32);
-  picture.fill(Qt::white);
+  const QSize size = widget.size();
+  const QSize pixels(static_cast<int>(std::lround(size.width() * scale)),
+                     static_cast<int>(std::lround(size.height() * scale)));
+  return paintPicture(widget, size, scale, pixels);
+}
 
-  const int dotsPerInch = widget.renderWindow()->GetDPI();
-  widget.renderWindow()->SetDPI(static_cast<int>(std::lround(dotsPerInch * scale)));
-  QPainter painter(&picture);
-  for (int x = 0; x < width; x += part.width())
-    for (int y = 0; y < height; y += part.height())
-    {
-      device->SetOffset(x, y);
-      widget.updatePlot(false);
-      QImage painted = widget.grabFramebuffer();
-      painted.setDevicePixelRatio(1.0);
-      // The scene counts rows from the bottom.
-      painter.drawImage(x, height - y - part.height(), painted);
-    }
-  widget.renderWindow()->SetDPI(dotsPerInch);
-  return picture;
+QByteArray paintPage(VtkPlotWidget& widget, const QSize& size, int dotsPerInch, Vectors vectors)
+{
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setCreator(QCoreApplication::applicationName());
+  writer.setResolution(unitsPerInch);
+  writer.setPageSize(QPageSize(QSizeF(size), QPageSize::Point, {}, QPageSize::ExactMatch));
+  writer.setPageMargins(QMarginsF());
+  QPainter painter;
+  if (!painter.begin(&writer))
+    return {};
+  painter.scale(unitsPerInch / pointsPerInch, unitsPerInch / pointsPerInch);
+  paint(widget, painter, size, dotsPerInch / pointsPerInch, vectors);
+  painter.end();
+  return bytes;
 }
 
 } // namespace Talmesh::app

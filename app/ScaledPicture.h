@@ -1,6 +1,9 @@
 #ifndef ScaledPicture_h
 #define ScaledPicture_h
 
+#include "widgets/ScenePainter.h"
+
+#include <QByteArray>
 #include <QImage>
 #include <QSize>
 
@@ -9,27 +12,18 @@ class VtkPlotWidget;
 namespace Talmesh::app
 {
 
-/// While it lives, a plot widget has another size and 72 dots per inch, and nobody sees it.
-class TemporarySize
-{
-public:
-  TemporarySize(VtkPlotWidget& widget, const QSize& pixels);
-  ~TemporarySize();
-  TemporarySize(const TemporarySize&) = delete;
-  TemporarySize& operator=(const TemporarySize&) = delete;
+/// Paints what a plot widget shows, laid out for a size: text, lines and markers grow with the
+/// scale, so that one of dpi / 72 gives a picture for print in which the units of the size are
+/// points. The widget stays as it is.
+/// @param pixels of the picture, of which the lower left is painted
+QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, const QSize& pixels);
 
-private:
-  VtkPlotWidget& widget;
-  QSize size;
-  int dotsPerInch;
-  bool updates;
-};
-
-/// Paints what a plot widget shows `scale` times as large: text, lines and markers grow with the
-/// rest, so that a scale of dpi / 72 gives a picture for print in which the widget's pixels are
-/// points. The widget paints it in parts of its own size, so that no surface of the whole size is
-/// needed. Null if the widget cannot paint.
+/// The same of the widget's own size, scaled.
 QImage paintScaled(VtkPlotWidget& widget, double scale);
+
+/// The bytes of a PDF whose only page has the size in points of 1/72 inch; empty if there are none.
+/// @param dotsPerInch of the pictures on the page
+QByteArray paintPage(VtkPlotWidget& widget, const QSize& size, int dotsPerInch, Vectors vectors);
 
 } // namespace Talmesh::app
 

@@ -8,8 +8,8 @@ packages=(
   g++ cmake ninja-build
   libvtk9-dev libvtk9-qt-dev qtbase5-dev libeigen3-dev libboost-dev
   qttools5-dev qttools5-dev-tools qttranslations5-l10n
-  libgtest-dev poppler-utils
-  xvfb xauth libgl1-mesa-dri fonts-dejavu-core locales
+  libgtest-dev poppler-utils qpdf
+  xvfb xauth libgl1-mesa-dri fonts-liberation fonts-dejavu-core locales
 )
 
 say() { echo "$*" >&2; }

@@ -945,6 +945,26 @@ p, li { white-space: pre-wrap; }
         <source>Pixels</source>
         <translation>Pixel</translation>
     </message>
+    <message>
+        <source>As vectors, many as a picture</source>
+        <translation>Als Vektoren, viele als Bild</translation>
+    </message>
+    <message>
+        <source>All as vectors</source>
+        <translation>Alle als Vektoren</translation>
+    </message>
+    <message>
+        <source>As a picture</source>
+        <translation>Als Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Lines and points</source>
+        <translation>&amp;Linien und Punkte</translation>
+    </message>
+    <message>
+        <source>R&amp;esolution of pictures</source>
+        <translation>Aufl&amp;ösung der Bilder</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::GroupController</name>

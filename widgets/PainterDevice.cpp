@@ -11,6 +11,7 @@
 #include <vtkPen.h>
 #include <vtkRect.h>
 #include <vtkRenderingCoreEnums.h>
+#include <vtkTextProperty.h>
 
 #include <QPainter>
 #include <QtMath>
@@ -47,6 +48,8 @@ bool sameColor(const Talmesh::ClippedPoints& piece, int a, int b, int components
 PainterDevice::PainterDevice()
     : Matrices{{1.0, 0.0, 0.0, 0.0, 1.0, 0.0, 0.0, 0.0, 1.0}}
 {
+  // The chart of three dimensions labels its ticks without saying in which colour.
+  this->TextProp->SetColor(0.0, 0.0, 0.0);
 }
 
 PainterDevice::~PainterDevice() = default;

@@ -110,8 +110,8 @@ TEST(CommandLine, RefusesAnUnknownOption)
 
 TEST(CommandLine, RefusesAnOptionWithoutItsValue)
 {
-  for (const char* option :
-       {"--style", "--x", "--y", "--z", "--export", "--gallery", "--size", "--paper", "--dpi"})
+  for (const char* option : {"--style", "--x", "--y", "--z", "--export", "--gallery", "--size",
+                             "--paper", "--dpi", "--vector"})
   {
     EXPECT_EQ(errorOf({option}), std::string(option) + " needs a value");
     EXPECT_EQ(errorOf({option, ""}), std::string(option) + " needs a value");
@@ -170,6 +170,15 @@ TEST(CommandLine, TakesASizeOnPaperAndAResolution)
               std::string("--dpi takes a number from 72 to 1200, not ") + dpi);
 }
 
+TEST(CommandLine, TakesWhichShapesAreVectors)
+{
+  EXPECT_EQ(parsed({}).vectors, Talmesh::Vectors::Auto);
+  EXPECT_EQ(parsed({"--vector", "all"}).vectors, Talmesh::Vectors::All);
+  EXPECT_EQ(parsed({"--vector=none"}).vectors, Talmesh::Vectors::None);
+  EXPECT_EQ(parsed({"--vector", "none", "--vector", "auto"}).vectors, Talmesh::Vectors::Auto);
+  EXPECT_EQ(errorOf({"--vector", "All"}), "--vector takes all, auto or none, not All");
+}
+
 TEST(CommandLine, RefusesMorePixelsThanMemoryShouldHold)
 {
   // 1200 mm at 1200 dpi are 1200 / 25.4 * 1200 = 56692.9 pixels.
@@ -192,7 +201,7 @@ TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
 {
   const std::string help = commandLineHelp();
   for (const char* word : {"FILE", "--style", "--x", "--y", "--z", "--export", "--gallery",
-                           "--size", "--paper", "--dpi", "--help", "--version"})
+                           "--size", "--paper", "--dpi", "--vector", "--help", "--version"})
     EXPECT_NE(help.find(word), std::string::npos) << word;
   for (const StyleName& style : styleNames())
     EXPECT_NE(help.find(style.name), std::string::npos) << style.name;

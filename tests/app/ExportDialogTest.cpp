@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QImage>
@@ -110,6 +111,32 @@ TEST_F(ExportDialogOfAWindow, TakesAnySizeForVectors)
   child<QDoubleSpinBox>(dialog, "exportWidth").setValue(PaperSize::largestSide);
   EXPECT_TRUE(
       child<QDialogButtonBox>(dialog, "exportButtons").button(QDialogButtonBox::Save)->isEnabled());
+}
+
+TEST_F(ExportDialogOfAWindow, AsksWhichShapesOfAPageAreVectors)
+{
+  {
+    ExportDialog pixels(mostPixels, QSize(900, 600));
+    pixels.show();
+    EXPECT_FALSE(child<QComboBox>(pixels, "exportVectors").isVisible());
+    EXPECT_FALSE(child<QSpinBox>(pixels, "exportPictureResolution").isVisible());
+  }
+  {
+    ExportDialog page({}, QSize(900, 600));
+    page.show();
+    EXPECT_EQ(page.vectors(), Talmesh::Vectors::Auto);
+    EXPECT_EQ(page.dotsPerInch(), 300);
+    ASSERT_TRUE(child<QComboBox>(page, "exportVectors").isVisible());
+    child<QSpinBox>(page, "exportPictureResolution").setValue(150);
+    QTest::keyClicks(&child<QComboBox>(page, "exportVectors"), QStringLiteral("All"));
+    EXPECT_EQ(page.vectors(), Talmesh::Vectors::All);
+    page.accept();
+  }
+  ExportDialog page({}, QSize(900, 600));
+  EXPECT_EQ(page.vectors(), Talmesh::Vectors::All);
+  EXPECT_EQ(page.dotsPerInch(), 150);
+  EXPECT_EQ(page.paper()->dotsPerInch, 150);
+  EXPECT_EQ(ExportDialog(mostPixels, QSize(900, 600)).dotsPerInch(), 300);
 }
 
 TEST_F(ExportDialogOfAWindow, WritesAPlotThatAnotherTabHides)

@@ -4,6 +4,7 @@
 #include "app/RunTableImport.h"
 #include "app/Session.h"
 #include "plot/PlotContainer.h"
+#include "support/PdfPages.h"
 #include "support/Pictures.h"
 
 #include <gtest/gtest.h>
@@ -75,14 +76,24 @@ TEST_F(Program, ExportsForPrint)
   EXPECT_GT(paintedPixels(QImage(path("plot.png"))), 1000);
 }
 
+TEST_F(Program, MakesVectorsOfWhatItIsAskedTo)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  for (const char* vectors : {"all", "auto", "none"})
+  {
+    expectSuccess({csv, "--vector", vectors, "--dpi", "150", "--export", path("plot.pdf")});
+    // Two lines are the table's head; three runs are shapes unless none shall be.
+    const QStringList pictures =
+        outputOf("pdfimages", {"-list", path("plot.pdf")}).trimmed().split(QLatin1Char('\n'));
+    EXPECT_EQ(pictures.size() > 2, std::string(vectors) == "none") << vectors;
+  }
+}
+
 TEST_F(Program, RefusesMorePixelsThanItCanPaint)
 {
   const QString csv = write("runs.csv", sampleRuns());
   expectError({csv, "--paper", "1200x1200", "--dpi", "1200", "--export", path("plot.png")},
               "--paper and --dpi: 56693 x 56693 pixels are too many: a side may have 20000");
-  expectError({csv, "--style", "xyzPlot", "--paper", "200x100", "--dpi", "1200", "--export",
-               path("plot.png")},
-              path("plot.png") + ": 9449 x 4724 pixels are too many: a side may have 8192");
   EXPECT_FALSE(QFile::exists(path("plot.png")));
 }
 

@@ -1,7 +1,6 @@
 #include "app/ScaledPicture.h"
 
 #include "app/PictureFile.h"
-#include "app/ScaledMarker.h"
 #include "plot/PlotContainer.h"
 #include "support/SampleTables.h"
 #include "vtk/vtkPlotLineSet.h"
@@ -81,40 +80,7 @@ double colouredArea(const QImage& picture)
   return area;
 }
 
-double trianglesArea(const std::vector<double>& c)
-{
-  double area = 0.0;
-  for (std::size_t i = 0; i + 5 < c.size(); i += 6)
-    area += 0.5 * std::abs((c[i + 2] - c[i]) * (c[i + 5] - c[i + 1]) -
-                           (c[i + 4] - c[i]) * (c[i + 3] - c[i + 1]));
-  return area;
-}
-
 } // namespace
-
-TEST(ScaledMarker, HasTheAreaOfItsShape)
-{
-  EXPECT_DOUBLE_EQ(trianglesArea(markerTriangles(VTK_MARKER_SQUARE, false, 10.0, 2.0)), 100.0);
-  EXPECT_DOUBLE_EQ(trianglesArea(markerTriangles(VTK_MARKER_DIAMOND, false, 10.0, 2.0)), 50.0);
-  // Two strokes of 10 by 2 that share a square of 2 by 2.
-  EXPECT_DOUBLE_EQ(trianglesArea(markerTriangles(VTK_MARKER_PLUS, false, 10.0, 2.0)), 36.0);
-  EXPECT_DOUBLE_EQ(trianglesArea(markerTriangles(VTK_MARKER_PLUS, true, 10.0, 2.0)), 84.0);
-  // Strokes of 10 sqrt(2) by sqrt(2).
-  EXPECT_NEAR(trianglesArea(markerTriangles(VTK_MARKER_CROSS, false, 10.0, 2.0)), 38.0, 1e-9);
-  EXPECT_NEAR(trianglesArea(markerTriangles(VTK_MARKER_CIRCLE, false, 100.0, 2.0)),
-              3.14159265 * 2500.0, 15.0);
-}
-
-TEST(ScaledMarker, FillsItsSizeWhereverItsShapeReaches)
-{
-  for (const int shape :
-       {VTK_MARKER_PLUS, VTK_MARKER_SQUARE, VTK_MARKER_CIRCLE, VTK_MARKER_DIAMOND})
-  {
-    const std::vector<double> corners = markerTriangles(shape, false, 8.0, 1.0);
-    EXPECT_NEAR(*std::max_element(corners.begin(), corners.end()), 4.0, 1e-9) << shape;
-    EXPECT_NEAR(*std::min_element(corners.begin(), corners.end()), -4.0, 0.2) << shape;
-  }
-}
 
 TEST_F(ScaledPicture, EnlargesMarkersOfEveryShape)
 {

@@ -1,0 +1,253 @@
+#include "app/PictureFile.h"
+#include "app/PlotChoice.h"
+#include "app/Study.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "support/PdfPages.h"
+#include "support/Pictures.h"
+#include "support/SampleTables.h"
+#include "vtk/vtkPlotLineSet.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <vtkAxis.h>
+#include <vtkChartXY.h>
+#include <vtkNew.h>
+#include <vtkPlotPoints.h>
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <cstdlib>
+#include <vector>
+
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+using Talmesh::Vectors;
+
+/// What readers see of an exported page.
+namespace
+{
+
+constexpr QSize pixels(500, 400);
+constexpr PaperSize paper{QSizeF(120.0, 90.0), 300};
+
+class VectorPage : public ::testing::Test
+{
+protected:
+  VectorPage()
+      : widget(makeHiddenPlot(pixels))
+  {
+    showStudy(sampleStudy(sampleRuns(12, 6)), container());
+    draw(xyPlot);
+  }
+
+  PlotContainer& container() { return *widget->plotContainer(); }
+  vtkChartXY& chart() { return *container().getChartXY(); }
+
+  void draw(plotStyles style)
+  {
+    PlotChoice choice = choiceOf(container());
+    choice.style = style;
+    applyChoice(container(), choice);
+  }
+
+  /// Nothing but one plot, of which the part from 1 to 3 along x and from -1 to 1 along y is shown.
+  template <typename Plot>
+  Plot* showPart(const std::vector<double>& x, const std::vector<double>& y)
+  {
+    chart().ClearPlots();
+    vtkNew<Plot> plot;
+    plot->SetInputData(tableOf({{"x", x}, {"y", y}}), 0, 1);
+    plot->SetColor(255, 0, 0, 255);
+    chart().AddPlot(plot);
+    chart().GetAxis(vtkAxis::BOTTOM)->SetBehavior(vtkAxis::FIXED);
+    chart().GetAxis(vtkAxis::LEFT)->SetBehavior(vtkAxis::FIXED);
+    chart().GetAxis(vtkAxis::BOTTOM)->SetRange(1.0, 3.0);
+    chart().GetAxis(vtkAxis::LEFT)->SetRange(-1.0, 1.0);
+    return plot;
+  }
+
+  QString write(Vectors vectors = Vectors::Auto)
+  {
+    EXPECT_EQ(exportPlot(*widget, path(), vectors), "");
+    return path();
+  }
+
+  QString path() const { return folder.filePath(QStringLiteral("page.pdf")); }
+
+  /// How many pictures are on the page, not counting their opacities.
+  int pictures()
+  {
+    return outputOf("pdfimages", {"-list", path()}).count(QStringLiteral(" image "));
+  }
+
+  QTemporaryDir folder;
+  std::unique_ptr<VtkPlotWidget> widget;
+};
+
+/// What a program says that is no output.
+QString complaintsOf(const QString& program, const QStringList& arguments)
+{
+  QProcess process;
+  process.start(program, arguments);
+  EXPECT_TRUE(process.waitForFinished(30000) && process.exitCode() == 0) << program.toStdString();
+  return QString::fromUtf8(process.readAllStandardError());
+}
+
+void expectSoundPage(const QString& pdf)
+{
+  EXPECT_EQ(complaintsOf("qpdf", {"--check", pdf}), "");
+  EXPECT_EQ(complaintsOf("pdftoppm", {"-r", "50", "-png", pdf, pdf + "-page"}), "");
+  for (const QString& font : outputOf("pdffonts", {pdf}).trimmed().split(QLatin1Char('\n')).mid(2))
+    // Columns: embedded, a subset of the font, with its letters' numbers.
+    EXPECT_TRUE(font.contains(QRegularExpression(QStringLiteral(" yes +yes +yes +\\d+ +\\d+$"))))
+        << font.toStdString();
+}
+
+/// The share of pixels that differ in more than their edges.
+double differingPart(const QImage& a, const QImage& b)
+{
+  EXPECT_EQ(a.size(), b.size());
+  int differing = 0;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x)
+      differing += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) > 100 ? 1 : 0;
+  return double(differing) / (a.width() * a.height());
+}
+
+} // namespace
+
+TEST_F(VectorPage, IsSoundInEveryStyle)
+{
+  for (const plotStyles style :
+       {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot, scatterWithErrorBars,
+        fitParameterDistribution, parallelCoordinates})
+    for (const Vectors vectors : {Vectors::All, Vectors::Auto, Vectors::None})
+    {
+      draw(style);
+      expectSoundPage(write(vectors));
+      EXPECT_GT(paintedPixels(pageOf(path(), 144)), 1000) << style;
+    }
+}
+
+TEST_F(VectorPage, HoldsTextThatCanBeSearched)
+{
+  const QString label = QStringLiteral("dose (\u00b5M \u2039 \u03b1) \\ efficiency");
+  container().setXLabel(label.toUtf8().constData());
+  container().setYLabel(label.toUtf8().constData());
+  write();
+  const QString text = textOf(path());
+  EXPECT_TRUE(text.contains(label)) << text.toStdString();
+  const QString turned = outputOf("pdftotext", {"-raw", path(), "-"});
+  EXPECT_EQ(turned.count(label), 2) << turned.toStdString();
+}
+
+TEST_F(VectorPage, LooksLikeTheScreen)
+{
+  for (const plotStyles style : {xyPlot, scatterPlotMatrix, xyzPlot, selectionCdfPlot})
+  {
+    draw(style);
+    write(Vectors::All);
+    widget->updatePlot(true);
+    EXPECT_LT(differingPart(pageOf(path()), widget->grabFramebuffer()), 0.04) << style;
+  }
+}
+
+TEST_F(VectorPage, ShowsTheSameAsAPicture)
+{
+  const QString png = folder.filePath(QStringLiteral("plot.png"));
+  for (const plotStyles style : {xyPlot, multiPlot, xyzPlot, parallelCoordinates})
+    for (const Vectors vectors : {Vectors::All, Vectors::None})
+    {
+      draw(style);
+      ASSERT_EQ(exportPlot(*widget, path(), paper, vectors), "");
+      ASSERT_EQ(exportPlot(*widget, png, paper), "");
+      const QImage page = pageOf(path(), 300);
+      const QRect both(0, 0, page.width(), page.height() - 4);
+      EXPECT_LT(differingPart(page.copy(both), QImage(png).copy(both)), 0.02) << style;
+    }
+}
+
+TEST_F(VectorPage, EndsLinesAndMarkersOfAnEnlargedPartAtItsEdges)
+{
+  for (const Vectors vectors : {Vectors::All, Vectors::None})
+    for (const int kind : {0, 1})
+    {
+      const std::vector<double> x = {0, 1, 2, 3, 4};
+      const std::vector<double> y = {-5, 6, -5, 1, 1};
+      if (kind == 0)
+      {
+        auto* runs = showPart<vtkPlotLineSet>(x, y);
+        runs->SetStride(5);
+        runs->OnlyShowSelectedOff();
+        runs->SetWidth(8.0f);
+      }
+      else
+      {
+        auto* points = showPart<vtkPlotPoints>({1, 2, 3}, {0, 1, -1});
+        points->SetMarkerSize(30.0f);
+      }
+      write(vectors);
+      const QImage page = pageOf(path());
+      const int* corner = chart().GetPoint1();
+      const int* opposite = chart().GetPoint2();
+      int inside = 0;
+      for (int row = 0; row < page.height(); ++row)
+        for (int column = 0; column < page.width(); ++column)
+        {
+          if (page.pixelColor(column, row).saturation() < 60)
+            continue;
+          ++inside;
+          ASSERT_GE(column, corner[0] - 1) << kind;
+          ASSERT_LE(column, opposite[0] + 1) << kind;
+          ASSERT_GE(row, pixels.height() - opposite[1] - 1) << kind;
+          ASSERT_LE(row, pixels.height() - corner[1] + 1) << kind;
+        }
+      EXPECT_GT(inside, 300) << kind;
+    }
+}
+
+TEST_F(VectorPage, HasPicturesOnlyOfWhatIsMany)
+{
+  write();
+  EXPECT_EQ(pictures(), 0);
+  write(Vectors::None);
+  EXPECT_EQ(pictures(), 1);
+  std::vector<double> x;
+  std::vector<double> y;
+  for (int i = 0; i <= Talmesh::mostVectorPoints; ++i)
+  {
+    x.push_back(1.0 + 2.0 * i / Talmesh::mostVectorPoints);
+    y.push_back(std::sin(0.7 * i));
+  }
+  showPart<vtkPlotPoints>(x, y)->SetMarkerSize(3.0f);
+  write(Vectors::All);
+  EXPECT_EQ(pictures(), 0);
+  write();
+  EXPECT_EQ(pictures(), 1);
+  EXPECT_TRUE(textOf(path()).contains(QStringLiteral("2"))) << "axes are no part of a picture";
+  x.pop_back();
+  y.pop_back();
+  showPart<vtkPlotPoints>(x, y)->SetMarkerSize(3.0f);
+  write();
+  EXPECT_EQ(pictures(), 0);
+}
+
+TEST_F(VectorPage, HasPicturesOfTheResolutionAskedFor)
+{
+  for (const int dpi : {150, 300})
+  {
+    ASSERT_EQ(exportPlot(*widget, path(), {QSizeF(120.0, 90.0), dpi}, Vectors::None), "");
+    const QString list = outputOf("pdfimages", {"-list", path()});
+    const QStringList row =
+        list.split(QLatin1Char('\n')).value(2).simplified().split(QLatin1Char(' '));
+    EXPECT_NEAR(row.value(12).toInt(), dpi, 1) << list.toStdString();
+    EXPECT_EQ(row.value(8), QStringLiteral("image")) << "without the noise of JPEG";
+  }
+}
