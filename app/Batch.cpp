@@ -77,7 +77,7 @@ std::string runBatch(const CommandLineOptions& options)
   std::string error = writeExports(options, opened, size);
   if (error.empty() && !options.gallery.empty())
     error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size,
-                         options.vectors);
+                         options.vectors, options.dotsPerInch);
   return error;
 }
 

@@ -1,6 +1,5 @@
 #include "app/Gallery.h"
 
-#include "app/PictureFile.h"
 #include "app/PlotChoice.h"
 #include "app/PublishedViews.h"
 #include "app/StatisticsViews.h"
@@ -104,7 +103,7 @@ std::string drawLastPoints(const Study& study, PlotContainer& container, plotSty
 }
 
 std::string write(const GalleryView& view, const Study& study, const QDir& folder,
-                  VtkPlotWidget& widget, Vectors vectors)
+                  VtkPlotWidget& widget, Vectors vectors, int dotsPerInch)
 {
   PlotContainer container(nullptr);
   container.setDiagnosticsShown(false);
@@ -113,8 +112,8 @@ std::string write(const GalleryView& view, const Study& study, const QDir& folde
   std::string error = view.draw(study, container);
   for (const char* suffix : {".png", ".pdf"})
     if (error.empty())
-      error =
-          exportPlot(widget, folder.filePath(QString::fromStdString(view.name) + suffix), vectors);
+      error = exportPlot(widget, folder.filePath(QString::fromStdString(view.name) + suffix),
+                         vectors, dotsPerInch);
   widget.setPlotContainer(own);
   return error;
 }
@@ -149,7 +148,7 @@ const std::vector<GalleryView>& galleryViews()
 }
 
 std::string writeGallery(const Study& study, const QString& path, const QSize& pixels,
-                         Vectors vectors)
+                         Vectors vectors, int dotsPerInch)
 {
   const QDir folder(path);
   if (!folder.mkpath(QStringLiteral(".")))
@@ -157,7 +156,7 @@ std::string writeGallery(const Study& study, const QString& path, const QSize& p
   const auto widget = makeHiddenPlot(pixels);
   for (const GalleryView& view : galleryViews())
   {
-    const std::string error = write(view, study, folder, *widget, vectors);
+    const std::string error = write(view, study, folder, *widget, vectors, dotsPerInch);
     if (!error.empty())
       return error;
   }

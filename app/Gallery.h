@@ -1,8 +1,8 @@
 #ifndef Gallery_h
 #define Gallery_h
 
+#include "app/PictureFile.h"
 #include "app/Study.h"
-#include "widgets/ScenePainter.h"
 
 #include <QSize>
 #include <QString>
@@ -30,9 +30,11 @@ struct GalleryView
 const std::vector<GalleryView>& galleryViews();
 
 /// Writes one PNG and one PDF of every view into a folder, which is made if need be.
+/// @param dotsPerInch of pictures on the pages
 /// @return why that failed, in one line; empty on success
 std::string writeGallery(const Study& study, const QString& folder, const QSize& pixels,
-                         Vectors vectors = Vectors::Auto);
+                         Vectors vectors = Vectors::Auto,
+                         int dotsPerInch = PaperSize().dotsPerInch);
 
 } // namespace Talmesh::app
 

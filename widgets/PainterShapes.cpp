@@ -4,7 +4,10 @@
 #include <vtkPen.h>
 #include <vtkRenderingCoreEnums.h>
 
+#include <QtMath>
+
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 namespace Talmesh
@@ -30,6 +33,59 @@ QVector<qreal> strokesOf(int type)
     return {};
   }
 }
+
+/// The directions from a point that pass near enough to others. Every direction at first.
+class Cone
+{
+public:
+  Cone(const QPointF& apex_, double tolerance_)
+      : apex(apex_)
+      , tolerance(tolerance_)
+  {
+  }
+
+  /// Whether a line from the apex to this point passes all points before, which lie between.
+  bool takes(const QPointF& point) const
+  {
+    const QPointF way = point - apex;
+    const double distance = std::hypot(way.x(), way.y());
+    if (!narrowed)
+      return true;
+    const double turn = std::remainder(std::atan2(way.y(), way.x()) - middle, 2.0 * M_PI);
+    return distance >= farthest && turn >= lowest && turn <= highest;
+  }
+
+  void narrowTo(const QPointF& point)
+  {
+    const QPointF way = point - apex;
+    const double distance = std::hypot(way.x(), way.y());
+    farthest = std::max(farthest, distance);
+    if (distance <= tolerance)
+      return;
+    const double angle = std::atan2(way.y(), way.x());
+    const double half = std::asin(tolerance / distance);
+    if (!narrowed)
+    {
+      middle = angle;
+      lowest = -half;
+      highest = half;
+      narrowed = true;
+      return;
+    }
+    const double turn = std::remainder(angle - middle, 2.0 * M_PI);
+    lowest = std::max(lowest, turn - half);
+    highest = std::min(highest, turn + half);
+  }
+
+private:
+  QPointF apex;
+  double tolerance;
+  double farthest = 0.0;
+  double middle = 0.0;
+  double lowest = 0.0;
+  double highest = 0.0;
+  bool narrowed = false;
+};
 
 void addLine(QPainterPath& path, const QPointF& from, const QPointF& to)
 {
@@ -100,6 +156,26 @@ MarkerShape::MarkerShape(int shape, bool highlight, double size)
     addLine(path, {0.0, -half}, {0.0, half});
   }
   stroke = highlight ? 3.0 : 1.0;
+}
+
+QPolygonF simplified(const QPolygonF& line, double tolerance)
+{
+  if (line.size() < 3)
+    return line;
+  QPolygonF kept;
+  kept.append(line.first());
+  Cone cone(line.first(), tolerance);
+  for (int i = 1; i < line.size(); ++i)
+  {
+    if (!cone.takes(line[i]))
+    {
+      kept.append(line[i - 1]);
+      cone = Cone(line[i - 1], tolerance);
+    }
+    cone.narrowTo(line[i]);
+  }
+  kept.append(line.last());
+  return kept;
 }
 
 QPolygonF cutAt(const QRectF& rectangle, QPolygonF polygon)

@@ -33,6 +33,9 @@ struct MarkerShape
   double stroke = 0.0;
 };
 
+/// A line of fewer points, which passes none of those left out further than a tolerance away.
+QPolygonF simplified(const QPolygonF& line, double tolerance);
+
 /// The part of a polygon that is inside of a rectangle.
 QPolygonF cutAt(const QRectF& rectangle, QPolygonF polygon);
 
