@@ -22,6 +22,12 @@ constexpr double pointsPerInch = 72.0;
 /// In which places on a page are counted; pictures have a resolution of their own.
 constexpr int unitsPerInch = 1200;
 
+QSize rounded(const QSize& size, double scale)
+{
+  return {static_cast<int>(std::lround(size.width() * scale)),
+          static_cast<int>(std::lround(size.height() * scale))};
+}
+
 void paint(VtkPlotWidget& widget, QPainter& painter, const QSize& size, double resolution,
            Vectors vectors)
 {
@@ -35,22 +41,29 @@ void paint(VtkPlotWidget& widget, QPainter& painter, const QSize& size, double r
 
 QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, const QSize& pixels)
 {
-  QImage picture(pixels, QImage::Format_RGB32);
-  picture.fill(Qt::white);
+  // Of a pixel that the scene fills in part, nothing is painted.
+  const QSize filled = pixels.boundedTo(rounded(size, scale));
+  QImage picture(filled, QImage::Format_RGB32);
   QPainter painter(&picture);
+  painter.fillRect(picture.rect(), Qt::white);
   // Scenes count rows from the bottom.
-  painter.translate(0.0, pixels.height() - scale * size.height());
+  painter.translate(0.0, filled.height() - scale * size.height());
   painter.scale(scale, scale);
   paint(widget, painter, size, scale, Vectors::All);
-  return picture;
+  painter.end();
+  if (filled == pixels)
+    return picture;
+  QImage paper(pixels, QImage::Format_RGB32);
+  paper.fill(Qt::white);
+  painter.begin(&paper);
+  painter.drawImage(0, 0, picture);
+  return paper;
 }
 
 QImage paintScaled(VtkPlotWidget& widget, double scale)
 {
   const QSize size = widget.size();
-  const QSize pixels(static_cast<int>(std::lround(size.width() * scale)),
-                     static_cast<int>(std::lround(size.height() * scale)));
-  return paintPicture(widget, size, scale, pixels);
+  return paintPicture(widget, size, scale, rounded(size, scale));
 }
 
 QByteArray paintPage(VtkPlotWidget& widget, const QSize& size, int dotsPerInch, Vectors vectors)

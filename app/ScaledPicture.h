@@ -15,7 +15,8 @@ namespace Talmesh::app
 /// Paints what a plot widget shows, laid out for a size: text, lines and markers grow with the
 /// scale, so that one of dpi / 72 gives a picture for print in which the units of the size are
 /// points. The widget stays as it is.
-/// @param pixels of the picture, of which the lower left is painted
+/// @param pixels of the picture, white where it is larger than the scaled size, which may also be
+/// cut at the top and at the right
 QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, const QSize& pixels);
 
 /// The same of the widget's own size, scaled.

@@ -11,6 +11,7 @@
 #include <vtkTransform.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 vtkStandardNewMacro(PainterDevice3D);
@@ -42,6 +43,8 @@ void PainterDevice3D::Add(std::vector<Shape>& shapes, std::vector<Vertex> vertic
   for (const Vertex& vertex : vertices)
   {
     const auto& p = vertex.place;
+    if (!std::all_of(p.begin(), p.end(), [](double part) { return std::isfinite(part); }))
+      return;
     for (const auto& [i, e] : this->Planes)
       if (e[0] * p[0] + e[1] * p[1] + e[2] * p[2] + e[3] < 0.0)
         return;

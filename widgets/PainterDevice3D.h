@@ -74,7 +74,7 @@ private:
   };
 
   Vertex Projected(const float* points, const unsigned char* colors, int components, int i) const;
-  /// Keeps a shape, unless a vertex of it is cut off.
+  /// Keeps a shape, unless a vertex of it is cut off or nowhere.
   void Add(std::vector<Shape>& shapes, std::vector<Vertex> vertices);
   void PaintLines(double farthest, bool behind);
   void PaintAreas();

@@ -14,12 +14,15 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 void PainterDevice::DrawString(float* point, const vtkStdString& string)
 {
-  Talmesh::PainterText(string, this->TextProp)
-      .draw(this->Painter(), this->OnPage(point[0], point[1]));
+  const QPointF anchor = this->OnPage(point[0], point[1]);
+  // Charts of constant columns place labels nowhere; a page with a place that is no number is void.
+  if (std::isfinite(anchor.x()) && std::isfinite(anchor.y()))
+    Talmesh::PainterText(string, this->TextProp).draw(this->Painter(), anchor);
 }
 
 void PainterDevice::DrawMathTextString(float* point, const vtkStdString& string)

@@ -150,12 +150,16 @@ MarkerShape::MarkerShape(int shape, bool highlight, double size)
   case VTK_MARKER_CROSS:
     addLine(path, {-half, -half}, {half, half});
     addLine(path, {-half, half}, {half, -half});
+    // The screen's are steps of pixels, which are thinner across than along the axes.
+    stroke = std::sqrt(0.5);
     break;
   default:
     addLine(path, {-half, 0.0}, {half, 0.0});
     addLine(path, {0.0, -half}, {0.0, half});
+    stroke = 1.0;
   }
-  stroke = highlight ? 3.0 : 1.0;
+  if (highlight)
+    stroke *= 3.0;
 }
 
 QPolygonF simplified(const QPolygonF& line, double tolerance)

@@ -196,12 +196,13 @@ TEST_F(PainterDeviceOnAPicture, DrawsMarkersOfTheirShapes)
     bool highlight;
     double covered;
   };
-  // Of size 20: two strokes of 20 by 1 share a square of 1; the strokes of a cross are longer.
+  // Of size 20: two strokes of 20 by 1 share a square of 1; those of a cross are
+  // longer and thinner by the root of 2.
   for (const Shape& shape :
        {Shape{VTK_MARKER_SQUARE, false, 400.0}, Shape{VTK_MARKER_CIRCLE, false, 3.14159265 * 100.0},
         Shape{VTK_MARKER_DIAMOND, false, 200.0}, Shape{VTK_MARKER_PLUS, false, 39.0},
         Shape{VTK_MARKER_PLUS, true, 3 * 40.0 - 9.0},
-        Shape{VTK_MARKER_CROSS, false, 2 * 20.0 * std::sqrt(2.0) - 1.0}})
+        Shape{VTK_MARKER_CROSS, false, 2 * 20.0 - 0.5}})
   {
     start(4.0);
     context->GetPen()->SetWidth(20.0f);
