@@ -78,12 +78,19 @@ Content pngOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper)
   return pngFile(picture);
 }
 
+/// How many pixels of its pictures a point of a page has, of which no side may have too many.
+double resolutionOn(const QSize& points, int dotsPerInch)
+{
+  return std::min(dotsPerInch / pointsPerInch,
+                  double(mostPixels) / std::max({points.width(), points.height(), 1}));
+}
+
 Content pdfOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper, Vectors vectors,
               int dotsPerInch)
 {
   const QSize points = paper ? rounded(pointsOf(*paper)) : widget.size();
   Content content;
-  content.bytes = paintPage(widget, points, dotsPerInch, vectors);
+  content.bytes = paintPage(widget, points, resolutionOn(points, dotsPerInch), vectors);
   if (!isWholePdf(content.bytes))
     content.error = translated("PictureFile", "the plot could not be painted");
   return content;
@@ -119,26 +126,27 @@ Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<Pa
   }
 }
 
-/// The pixels that a picture is painted with; none for a table.
+/// The pixels that a picture, or one that fills a page, is painted with; none for a table.
 QSize paintedSize(const VtkPlotWidget& widget, ExportKind kind,
-                  const std::optional<PaperSize>& paper)
+                  const std::optional<PaperSize>& paper, int dotsPerInch)
 {
   if (kind == ExportKind::Table)
     return {};
-  if (paper)
-    return kind == ExportKind::Pixels ? pixelsOn(*paper) : rounded(pointsOf(*paper));
-  return widget.size() * widget.devicePixelRatioF();
+  if (kind == ExportKind::Pixels)
+    return paper ? pixelsOn(*paper) : widget.size() * widget.devicePixelRatioF();
+  const QSize points = paper ? rounded(pointsOf(*paper)) : widget.size();
+  return points * resolutionOn(points, dotsPerInch);
 }
 
 std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind,
-                        const std::optional<PaperSize>& paper)
+                        const std::optional<PaperSize>& paper, int dotsPerInch)
 {
   std::string error;
   if (paper && kind == ExportKind::Pixels)
     error = errorOf(*paper, mostPixels);
   else if (paper && kind == ExportKind::Vectors)
     error = errorOf(*paper, {});
-  const QSize pixels = paintedSize(widget, kind, paper);
+  const QSize pixels = paintedSize(widget, kind, paper, dotsPerInch);
   if (error.empty() && !pixels.isEmpty() &&
       !hasMemory(memoryToPaint(*widget.plotContainer(), pixels)))
     error = missingMemory();
@@ -149,7 +157,7 @@ std::string writeExport(VtkPlotWidget& widget, const QString& path,
                         const std::optional<PaperSize>& paper, Vectors vectors, int dotsPerInch)
 {
   const ExportKind kind = exportKindOf(path);
-  std::string error = objectionTo(widget, kind, paper);
+  std::string error = objectionTo(widget, kind, paper, dotsPerInch);
   try
   {
     const Content content = error.empty() ? contentOf(widget, kind, paper, vectors, dotsPerInch)

@@ -11,6 +11,7 @@
 #include <QPdfWriter>
 
 #include <cmath>
+#include <new>
 
 namespace Talmesh::app
 {
@@ -28,6 +29,15 @@ QSize rounded(const QSize& size, double scale)
           static_cast<int>(std::lround(size.height() * scale))};
 }
 
+QImage whitePicture(const QSize& pixels)
+{
+  QImage picture(pixels, QImage::Format_RGB32);
+  if (picture.isNull())
+    throw std::bad_alloc();
+  picture.fill(Qt::white);
+  return picture;
+}
+
 void paint(VtkPlotWidget& widget, QPainter& painter, const QSize& size, double resolution,
            Vectors vectors)
 {
@@ -43,9 +53,8 @@ QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, cons
 {
   // Of a pixel that the scene fills in part, nothing is painted.
   const QSize filled = pixels.boundedTo(rounded(size, scale));
-  QImage picture(filled, QImage::Format_RGB32);
+  QImage picture = whitePicture(filled);
   QPainter painter(&picture);
-  painter.fillRect(picture.rect(), Qt::white);
   // Scenes count rows from the bottom.
   painter.translate(0.0, filled.height() - scale * size.height());
   painter.scale(scale, scale);
@@ -53,8 +62,7 @@ QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, cons
   painter.end();
   if (filled == pixels)
     return picture;
-  QImage paper(pixels, QImage::Format_RGB32);
-  paper.fill(Qt::white);
+  QImage paper = whitePicture(pixels);
   painter.begin(&paper);
   painter.drawImage(0, 0, picture);
   return paper;
@@ -66,7 +74,7 @@ QImage paintScaled(VtkPlotWidget& widget, double scale)
   return paintPicture(widget, size, scale, rounded(size, scale));
 }
 
-QByteArray paintPage(VtkPlotWidget& widget, const QSize& size, int dotsPerInch, Vectors vectors)
+QByteArray paintPage(VtkPlotWidget& widget, const QSize& size, double resolution, Vectors vectors)
 {
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -80,7 +88,7 @@ QByteArray paintPage(VtkPlotWidget& widget, const QSize& size, int dotsPerInch, 
   if (!painter.begin(&writer))
     return {};
   painter.scale(unitsPerInch / pointsPerInch, unitsPerInch / pointsPerInch);
-  paint(widget, painter, size, dotsPerInch / pointsPerInch, vectors);
+  paint(widget, painter, size, resolution, vectors);
   painter.end();
   return bytes;
 }

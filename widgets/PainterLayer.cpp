@@ -1,6 +1,7 @@
 #include "widgets/PainterLayer.h"
 
 #include <cmath>
+#include <new>
 
 namespace Talmesh
 {
@@ -56,9 +57,13 @@ PainterLayer::PainterLayer(const QRectF& area, double resolution, double pageHei
   const int bottom = static_cast<int>(std::floor((pageHeight - area.bottom()) * resolution));
   const int top = static_cast<int>(std::ceil((pageHeight - area.top()) * resolution));
   picture = QImage(right - left, top - bottom, QImage::Format_ARGB32_Premultiplied);
+  if (picture.isNull() && right > left && top > bottom)
+    throw std::bad_alloc();
   picture.fill(Qt::transparent);
   place = QRectF(left / resolution, pageHeight - top / resolution, picture.width() / resolution,
                  picture.height() / resolution);
+  if (picture.isNull())
+    return;
   inside.begin(&picture);
   inside.setRenderHint(QPainter::Antialiasing);
   inside.scale(resolution, resolution);
@@ -69,8 +74,10 @@ PainterLayer::~PainterLayer() = default;
 
 void PainterLayer::putOn(QPainter& page)
 {
-  const double unit = place.width() / picture.width();
   inside.end();
+  if (picture.isNull())
+    return;
+  const double unit = place.width() / picture.width();
   const QRect part = paintedPart(picture);
   if (!part.isEmpty())
     drawPixels(page,

@@ -11,6 +11,7 @@ namespace Talmesh
 void drawPixels(QPainter& page, const QRectF& place, const QImage& picture);
 
 /// A part of a page that is painted as a picture first, and as one put on the page in the end.
+/// Throws std::bad_alloc if memory is too short for it.
 class PainterLayer
 {
 public:

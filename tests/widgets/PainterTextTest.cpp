@@ -54,6 +54,7 @@ TEST(PainterText, FillsThePlaceThatItAsksFor)
         for (const double turned : {0.0, 90.0, 270.0})
         {
           vtkNew<vtkTextProperty> look;
+          look->SetColor(0.0, 0.0, 0.0);
           look->SetFontSize(20);
           look->SetJustification(across);
           look->SetVerticalJustification(up);
