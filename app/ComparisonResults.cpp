@@ -11,6 +11,7 @@
 #include "stats/FalseDiscovery.h"
 #include "vtk/SelectionColumns.h"
 
+#include <vtkDoubleArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkIntArray.h>
 #include <vtkSmartPointer.h>
@@ -79,6 +80,18 @@ struct GroupOfRuns
   std::size_t runs = 0;
 };
 
+bool lacksAValue(vtkDataArray* column)
+{
+  const auto isMissing = [](double value) { return std::isnan(value); };
+  if (auto* doubles = vtkDoubleArray::SafeDownCast(column))
+    return std::any_of(doubles->GetPointer(0),
+                       doubles->GetPointer(0) + doubles->GetNumberOfValues(), isMissing);
+  for (vtkIdType row = 0; row < column->GetNumberOfTuples(); ++row)
+    if (isMissing(column->GetComponent(row, 0)))
+      return true;
+  return false;
+}
+
 /// What keeps the values of parameter `k` in one group from being a sample of its runs.
 TestObstacle obstacleIn(const PlotContainer& container, const GroupOfRuns& group, std::size_t k)
 {
@@ -87,10 +100,9 @@ TestObstacle obstacleIn(const PlotContainer& container, const GroupOfRuns& group
   if (!column)
     return TestObstacle::missingValues;
   const std::vector<double> values = plot::distinctValues(column);
-  if (values.empty() || std::isnan(values.back()))
-    return TestObstacle::missingValues;
+  // Missing values do not count as distinct ones.
   if (values.size() < group.runs)
-    return TestObstacle::repeatedValues;
+    return lacksAValue(column) ? TestObstacle::missingValues : TestObstacle::repeatedValues;
   if (values.size() > group.runs)
     return TestObstacle::changingValues;
   const bool filledUp = static_cast<std::size_t>(group.ranks->GetNumberOfRows()) != values.size();

@@ -99,6 +99,7 @@ TEST_F(SelectionMouseInStyles, PansTheLargeChartOfTheMatrixWithItsAxes)
 
 TEST_F(SelectionMouseInStyles, KeepsThePairOfTheMatrixThroughASelection)
 {
+  container().setKeepsScatterPair(true);
   showMatrix();
   const vtkVector2i chosen(0, 0);
   ASSERT_NE(matrix()->GetActivePlot(), chosen);
