@@ -7,6 +7,7 @@
 #include "plot/PlotFeed.h"
 #include "plot/TableColumns.h"
 #include "plot/TrajectoryChart.h"
+#include "vtk/PointCloud.h"
 #include "vtk/vtkPlotLineSet.h"
 
 #include <vtkChartXY.h>
@@ -97,7 +98,7 @@ vtkSmartPointer<vtkPlotPoints> makePlotLike(const DrawnRuns& drawn)
     lines->OnlyShowSelectedOff();
     return lines;
   }
-  auto points = vtkSmartPointer<vtkPlotPoints>::New();
+  auto points = vtkSmartPointer<PointCloud>::New();
   points->SetMarkerStyle(drawn.plot->GetMarkerStyle());
   points->SetMarkerSize(drawn.plot->GetMarkerSize());
   return points;

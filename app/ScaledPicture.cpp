@@ -38,13 +38,29 @@ QImage whitePicture(const QSize& pixels)
   return picture;
 }
 
+/// Lays the widget's plot out for its own size again, also after a failure.
+class OwnLayout
+{
+public:
+  explicit OwnLayout(VtkPlotWidget& of)
+      : widget(of)
+  {
+    // A chart that another one has taken the place of would be painted.
+    widget.updatePlot(true);
+  }
+  ~OwnLayout() { widget.updatePlot(true); }
+  OwnLayout(const OwnLayout&) = delete;
+  OwnLayout& operator=(const OwnLayout&) = delete;
+
+private:
+  VtkPlotWidget& widget;
+};
+
 void paint(VtkPlotWidget& widget, QPainter& painter, const QSize& size, double resolution,
            Vectors vectors)
 {
-  // A chart that another one has taken the place of would be painted.
-  widget.updatePlot(true);
+  const OwnLayout restored(widget);
   paintScene(*widget.contextView()->GetScene(), painter, size, resolution, vectors);
-  widget.updatePlot(true);
 }
 
 } // namespace
@@ -58,7 +74,8 @@ QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, cons
   // Scenes count rows from the bottom.
   painter.translate(0.0, filled.height() - scale * size.height());
   painter.scale(scale, scale);
-  paint(widget, painter, size, scale, Vectors::All);
+  // Thousands of runs are counted in a moment, but stroked for minutes.
+  paint(widget, painter, size, scale, Vectors::Auto);
   painter.end();
   if (filled == pixels)
     return picture;

@@ -5,8 +5,8 @@
 #include <QGuiApplication>
 
 #include <chrono>
+#include <exception>
 #include <new>
-#include <system_error>
 #include <utility>
 
 namespace Talmesh::app
@@ -59,7 +59,7 @@ void WorkKeeper::look()
   {
     writing = std::async(std::launch::async, [this, parts = std::move(parts)] { write(parts); });
   }
-  catch (const std::system_error&)
+  catch (const std::exception&)
   {
     report(tr("no thread could be started"));
   }
@@ -108,7 +108,15 @@ bool WorkKeeper::prepare(SessionParts& parts)
 /// Runs in any thread.
 void WorkKeeper::write(const SessionParts& parts)
 {
-  const QString error = QString::fromStdString(saveSessionFile(file.path, parts));
+  QString error;
+  try
+  {
+    error = QString::fromStdString(saveSessionFile(file.path, parts));
+  }
+  catch (const std::exception& failure)
+  {
+    error = QString::fromLocal8Bit(failure.what());
+  }
   QMetaObject::invokeMethod(
       this, [this, error] { report(error); }, Qt::QueuedConnection);
 }

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
+#include "plot/vtkSelectableChartXY.h"
 #include "vtk/LogScales.h"
 #include "vtk/vtkGuardedAxis.h"
 
@@ -20,6 +21,14 @@ void updateInScene(vtkAxis* axis)
     axis->Update();
 }
 
+void settle(vtkChartXY* chart)
+{
+  if (auto* guarded = vtkSelectableChartXY::SafeDownCast(chart))
+    guarded->SettleScales();
+  else
+    settleLogScales(chart);
+}
+
 } // namespace
 
 void setLogScaleY(PlotState& state, bool log)
@@ -31,7 +40,7 @@ void setLogScaleY(PlotState& state, bool log)
   axis->SetLogScale(log);
   // The range shown is that of the other scale, whose rounding may have taken it to 0.
   state.chartXY->RecalculateBounds();
-  settleLogScales(state.chartXY);
+  settle(state.chartXY);
   updateInScene(axis);
 }
 
@@ -39,7 +48,7 @@ bool showsLogScale(const PlotState& state, int position)
 {
   if (!state.chartXY)
     return false;
-  settleLogScales(state.chartXY);
+  settle(state.chartXY);
   auto* axis = vtkGuardedAxis::SafeDownCast(state.chartXY->GetAxis(position));
   return axis && axis->GetLogScale() && axis->GetLogScaleAllowed();
 }

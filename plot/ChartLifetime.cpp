@@ -139,12 +139,15 @@ void setAside(PlotState& state, vtkSmartPointer<vtkObjectBase> object)
   QCoreApplication* application = QCoreApplication::instance();
   if (!application)
     return;
-  const bool first = state.setAside->empty();
   state.setAside->push_back(std::move(object));
-  // The call holds the shelf, which so outlives a container that ends in a handler.
-  if (first)
-    QMetaObject::invokeMethod(
-        application, [shelf = state.setAside] { ChartShelf().swap(*shelf); }, Qt::QueuedConnection);
+  // The call holds the shelf, which so outlives a container that ends in a handler. A handler that
+  // runs an event loop of its own is still using what it has set aside.
+  const auto emptyShelf = [shelf = state.setAside]
+  {
+    if (!HandlerScope::isOpen())
+      ChartShelf().swap(*shelf);
+  };
+  QMetaObject::invokeMethod(application, emptyShelf, Qt::QueuedConnection);
 }
 
 void freeChartsSetAside(PlotState& state)

@@ -82,7 +82,7 @@ bool LostColumns::hasSeries(vtkPlot* plot)
   vtkTable* table = plot->GetInput();
   Seen& before = seen[plot];
   if (before.table != table)
-    before = {table, numericColumns(table)};
+    before = {vtkWeakPointer<vtkTable>(table), numericColumns(table)};
   return std::all_of(before.columns.begin(), before.columns.end(),
                      [table](const std::string& name) { return hasNumbers(table, name); });
 }

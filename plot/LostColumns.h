@@ -1,6 +1,8 @@
 #ifndef LostColumns_h
 #define LostColumns_h
 
+#include <vtkWeakPointer.h>
+
 #include <map>
 #include <string>
 #include <vector>
@@ -21,15 +23,15 @@ class LostColumns
 {
 public:
   /// Hides every plot of `chart` that draws a column which its input does not have, or not as
-  /// numbers in all rows. It stays hidden. Points
-  /// that are coloured by such a column lose their colours. Bars and stacked areas are expected to
+  /// numbers in all rows. It stays hidden. Points that are coloured by such a column lose their
+  /// colours. Bars and stacked areas are expected to
   /// have the columns that their input had when they were first seen.
   void hidePlots(vtkChart* chart);
 
 private:
   struct Seen
   {
-    vtkTable* table = nullptr; ///< only compared
+    vtkWeakPointer<vtkTable> table;
     std::vector<std::string> columns;
   };
 

@@ -32,6 +32,16 @@ vtkSmartPointer<vtkTable> deepCopyOf(vtkTable* table)
   }
   for (int i = 0; i < columns; ++i)
     copy->GetColumn(i)->SetName(table->GetColumn(i)->GetName());
+  for (int type = 0; type < vtkDataSetAttributes::NUM_ATTRIBUTES; ++type)
+  {
+    vtkAbstractArray* active = table->GetRowData()->GetAbstractAttribute(type);
+    for (int i = 0; active && i < columns; ++i)
+    {
+      if (table->GetColumn(i) == active)
+        copy->GetRowData()->SetActiveAttribute(i, type);
+    }
+  }
+  copy->GetFieldData()->DeepCopy(table->GetFieldData());
   return copy;
 }
 

@@ -127,11 +127,18 @@ void vtkSelectableChartXY::EndDrag()
   DrawBox = false;
 }
 
-void vtkSelectableChartXY::Update()
+void vtkSelectableChartXY::SettleScales()
 {
   Lost.hidePlots(this);
-  if (!PlotTransformValid)
-    Talmesh::settleLogScales(this);
+  Talmesh::settleLogScales(this);
+}
+
+void vtkSelectableChartXY::Update()
+{
+  if (PlotTransformValid)
+    Lost.hidePlots(this);
+  else
+    SettleScales();
   Superclass::Update();
   if (!AnnotationLink || SelectionMethod != SELECTION_ROWS)
     return;

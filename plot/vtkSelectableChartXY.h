@@ -37,6 +37,9 @@ public:
 
   /// Hides plots whose columns have gone, then settles the scales and updates the other plots.
   void Update() override;
+  /// Hides plots whose columns have gone, then makes those of the axes logarithmic that are to be
+  /// and may be.
+  void SettleScales();
   bool Paint(vtkContext2D* painter) override;
   bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;

@@ -29,7 +29,11 @@ std::vector<bool> rowsShown(vtkPlot* plot)
   std::vector<bool> rows(static_cast<std::size_t>(plot->GetInput()->GetNumberOfRows()), false);
   vtkIdTypeArray* shown = plot->GetSelection();
   for (vtkIdType i = 0; shown && i < shown->GetNumberOfValues(); ++i)
-    rows.at(static_cast<std::size_t>(shown->GetValue(i))) = true;
+  {
+    const auto row = static_cast<std::size_t>(shown->GetValue(i));
+    if (row < rows.size())
+      rows[row] = true;
+  }
   return rows;
 }
 
@@ -46,6 +50,12 @@ bool vtkSelectableParallelCoordinates::HasColumns()
   return true;
 }
 
+vtkIdType vtkSelectableParallelCoordinates::RowsNow()
+{
+  vtkTable* table = GetPlot(0)->GetInput();
+  return table ? table->GetNumberOfRows() : 0;
+}
+
 bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
 {
   if (!HasColumns())
@@ -57,6 +67,9 @@ bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
     KeepsBrush = false;
     ShowSelection();
   }
+  // A table that has lost rows in place has outdated the rows shown too.
+  else if (AnnotationLink && RowsNow() != ShownRows)
+    ShowSelection();
   return Superclass::Paint(painter);
 }
 
@@ -68,6 +81,7 @@ void vtkSelectableParallelCoordinates::ShowSelection()
   // VTK takes the link's own list, unchecked, when the link is younger than the plot.
   plot->Modified();
   Shown.Modified();
+  ShownRows = RowsNow();
 }
 
 bool vtkSelectableParallelCoordinates::IsOverAxis(const vtkContextMouseEvent& mouse)

@@ -34,9 +34,11 @@ private:
   void operator=(const vtkSelectableParallelCoordinates&) = delete;
 
   bool HasColumns();
+  vtkIdType RowsNow();
   bool IsOverAxis(const vtkContextMouseEvent& mouse);
 
   vtkTimeStamp Shown;
+  vtkIdType ShownRows = 0; ///< of the table at that time
   bool Brushing = false;
   /// The brush still to be seen is that of the selection to be shown next.
   bool KeepsBrush = false;

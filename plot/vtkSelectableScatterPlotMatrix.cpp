@@ -7,6 +7,30 @@
 
 vtkStandardNewMacro(vtkSelectableScatterPlotMatrix);
 
+namespace
+{
+
+/// Another scene in an item's place for one, also where its painting fails.
+class SceneInstead
+{
+public:
+  SceneInstead(vtkContextScene*& ofItem, vtkContextScene* other)
+      : scene(ofItem)
+      , own(ofItem)
+  {
+    scene = other;
+  }
+  ~SceneInstead() { scene = own; }
+  SceneInstead(const SceneInstead&) = delete;
+  SceneInstead& operator=(const SceneInstead&) = delete;
+
+private:
+  vtkContextScene*& scene;
+  vtkContextScene* own;
+};
+
+} // namespace
+
 vtkSelectableScatterPlotMatrix::vtkSelectableScatterPlotMatrix()
 {
   NumberOfFrames = 0;
@@ -28,9 +52,11 @@ bool vtkSelectableScatterPlotMatrix::Paint(vtkContext2D* painter)
   const auto roomBefore = SpecificResize;
   vtkContextScene* const shownIn = Scene;
   Wishes->SetGeometry(shownIn->GetSceneWidth(), shownIn->GetSceneHeight());
-  Scene = Wishes;
-  const bool painted = Superclass::Paint(painter);
-  Scene = shownIn;
+  const bool painted = [&]
+  {
+    const SceneInstead wishes(Scene, Wishes);
+    return Superclass::Paint(painter);
+  }();
   // VTK's matrix takes the room beside its large chart away after each painting, gives it back and
   // finds its layout outdated, even where nothing has changed. All points would be painted twice.
   if (SpecificResize == roomBefore)

@@ -4,7 +4,6 @@
 #include <atomic>
 #include <exception>
 #include <mutex>
-#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -39,9 +38,9 @@ void inParallelParts(std::size_t count, std::size_t size,
     while (helpers.size() + 1 < std::min(cores, parts))
       helpers.emplace_back(takeParts);
   }
-  catch (const std::system_error&)
+  catch (const std::exception&)
   {
-    // The threads there are share the work.
+    // No thread to be had, or no memory for one: the threads there are share the work.
   }
   takeParts();
   for (std::thread& helper : helpers)

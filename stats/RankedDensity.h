@@ -32,12 +32,12 @@ struct ReflectedReferences
   double mean = 0.0;
 };
 
-/// The references of ascending values (NaN last) under a support that is not degenerate.
+/// The references of ascending values under a support that is not degenerate.
 ReflectedReferences reflectedReferences(const std::vector<double>& sorted,
                                         const ParameterSupport& support);
 
-/// Fills `densities` and `locations`, both of length `densityLocations`, for ascending values (NaN
-/// last). A degenerate support gives 1 within half a step of the smallest value and 0 elsewhere;
+/// Fills `densities` and `locations`, both of length `densityLocations`, for ascending values. A
+/// degenerate support gives 1 within half a step of the smallest value and 0 elsewhere;
 /// fewer than `smallestKernelSample` references give a 0/1 pattern of the values' places.
 void estimateDensity(const std::vector<double>& sorted, const ParameterSupport& support,
                      const KernelDensity& kernelDensity, DoubleBuffer& densities,

@@ -39,7 +39,7 @@ struct ParameterSupport
   bool degenerate = false;
 };
 
-/// Support of ascending values (NaN last). Without `bounds` it is the extent of the values; with
+/// Support of ascending values. Without `bounds` it is the extent of the values; with
 /// them the upper end is widened to the largest value, the lower end never moves. An infinite upper
 /// end gives a range of 1.1 times the largest value minus the lower end. Extents ignore NaN; a list
 /// without numbers has the extent NaN.
@@ -79,7 +79,7 @@ struct RankedParameters
   std::vector<std::optional<RankedParameter>> parameters;
 };
 
-/// Ranks and densities of parameters, given the ascending values (NaN last) of each and a (lower,
+/// Ranks and densities of parameters, given the ascending values of each and a (lower,
 /// upper) pair for each. An absent list stands for a parameter that cannot be read: it is skipped
 /// but keeps its pair of bounds.
 RankedParameters rankParameters(std::vector<std::optional<std::vector<double>>> lists,

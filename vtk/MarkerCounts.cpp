@@ -91,14 +91,15 @@ bool isLeftOut(const MarkersToCount& markers, std::int64_t i)
 }
 } // namespace
 
-MarkerSprite::MarkerSprite(int shape, int size, bool highlighted)
+MarkerSprite::MarkerSprite(int shape, int size, bool highlighted, int stroke)
     : across(std::max(size, 1))
     , pixels(static_cast<std::size_t>(across) * static_cast<std::size_t>(across), 0)
 {
+  const int thickness = highlighted ? 3 * stroke : stroke;
   switch (static_cast<MarkerShape>(shape))
   {
   case MarkerShape::Cross:
-    drawCross(highlighted);
+    drawCross(thickness);
     break;
   case MarkerShape::Square:
   case MarkerShape::Circle:
@@ -106,7 +107,7 @@ MarkerSprite::MarkerSprite(int shape, int size, bool highlighted)
     drawFilled(shape);
     break;
   default:
-    drawPlus(highlighted);
+    drawPlus(thickness);
   }
 }
 
@@ -117,15 +118,12 @@ void MarkerSprite::set(int row, int column)
     pixels[static_cast<std::size_t>((across - 1 - row) * across + column)] = 1;
 }
 
-void MarkerSprite::drawCross(bool highlighted)
+void MarkerSprite::drawCross(int thickness)
 {
+  const int below = (thickness - 1) / 2;
   for (int i = 0; i < across; ++i)
   {
-    set(i, i);
-    set(i, across - 1 - i);
-    if (!highlighted)
-      continue;
-    for (const int beside : {-1, 1})
+    for (int beside = -below; beside < thickness - below; ++beside)
     {
       set(i + beside, i);
       set(i + beside, across - 1 - i);
@@ -133,13 +131,13 @@ void MarkerSprite::drawCross(bool highlighted)
   }
 }
 
-void MarkerSprite::drawPlus(bool highlighted)
+void MarkerSprite::drawPlus(int thickness)
 {
   const int middle = (across + 1) / 2 - 1;
-  const int thickness = highlighted ? 1 : 0;
+  const int below = (thickness - 1) / 2;
   for (int i = 0; i < across; ++i)
   {
-    for (int beside = -thickness; beside <= thickness; ++beside)
+    for (int beside = -below; beside < thickness - below; ++beside)
     {
       set(middle + beside, i);
       set(i, middle + beside);

@@ -26,7 +26,8 @@ class MarkerSprite
 {
 public:
   /// @param pixels across, at least 1
-  MarkerSprite(int shape, int pixels, bool highlighted);
+  /// @param stroke width of the lines of crosses and pluses in pixels, thrice that if highlighted
+  MarkerSprite(int shape, int pixels, bool highlighted, int stroke = 1);
 
   int size() const { return across; }
   /// Row by row from the lowest, not 0 where the marker is.
@@ -34,8 +35,8 @@ public:
 
 private:
   void set(int row, int column);
-  void drawCross(bool highlighted);
-  void drawPlus(bool highlighted);
+  void drawCross(int thickness);
+  void drawPlus(int thickness);
   void drawFilled(int shape);
 
   int across;

@@ -29,6 +29,9 @@ void PointCloud::Update()
   addColors(inputs, table, this->ColorArrayName, this->ScalarVisibility, this->LookupTable);
   if (this->Points && inputs == this->CachedInputs)
     this->BuildTime.Modified();
+  else
+    // VTK compares too little to see every change of an axis, and must read again.
+    this->MTime.Modified();
   this->vtkPlotPoints::Update();
   this->CachedInputs = inputs;
 }

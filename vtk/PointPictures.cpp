@@ -53,7 +53,9 @@ MarkerSprite spriteOf(vtkContext2D* painter, const AggregateTarget& target, int 
 {
   // The screen cuts sizes to whole pixels.
   const double pixels = std::floor(painter->GetPen()->GetWidth() * target.penScale());
-  return {style, static_cast<int>(pixels), highlighted};
+  // Lines one unit wide, as those of a single marker.
+  const int stroke = std::max(1, static_cast<int>(std::lround(target.penScale())));
+  return {style, static_cast<int>(pixels), highlighted, stroke};
 }
 } // namespace
 

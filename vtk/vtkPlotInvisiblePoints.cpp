@@ -35,6 +35,9 @@ void vtkPlotInvisiblePoints::Update()
                      this->LookupTable);
   if (this->Points && inputs == this->CachedInputs)
     this->BuildTime.Modified();
+  else
+    // VTK compares too little to see every change of an axis, and must read again.
+    this->MTime.Modified();
   this->Superclass::Update();
   this->CachedInputs = inputs;
 }

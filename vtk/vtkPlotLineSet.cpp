@@ -64,11 +64,17 @@ void vtkPlotLineSet::Update()
     this->BuildTime.Modified();
   this->Superclass::Update();
   this->CachedInputs = inputs;
-  this->UpdateSelectionCache(table);
+  this->ReadMarkers(table, false);
   this->Modified();
 }
 
 bool vtkPlotLineSet::UpdateSelectionCache(vtkTable* table)
+{
+  this->ReadMarkers(table, true);
+  return true;
+}
+
+void vtkPlotLineSet::ReadMarkers(vtkTable* table, bool always)
 {
   this->NumberOfRemainderRows = 0;
   auto* markers = vtkDataArray::SafeDownCast(
@@ -77,13 +83,15 @@ bool vtkPlotLineSet::UpdateSelectionCache(vtkTable* table)
   {
     std::vector<double> identity;
     Talmesh::addColumn(identity, markers);
-    if (identity != this->CopiedMarkers)
+    if (always || identity != this->CopiedMarkers)
+    {
       this->CopiedMarks = Talmesh::copyMarkers(markers, this->RemainderSelection);
+      ++this->MarkerCopies;
+    }
     this->CopiedMarkers = identity;
     this->NumberOfRemainderRows = this->CopiedMarks;
   }
   this->RemainderSelection->Modified();
-  return true;
 }
 
 bool vtkPlotLineSet::Paint(vtkContext2D* painter)
@@ -98,7 +106,7 @@ bool vtkPlotLineSet::Paint(vtkContext2D* painter)
   vtkTable* table = this->Data->GetInput();
   if (this->Selection && table &&
       this->Selection->GetMTime() > this->RemainderSelection->GetMTime())
-    this->UpdateSelectionCache(table);
+    this->ReadMarkers(table, false);
 
   const bool marked = this->RemainderSelection->GetNumberOfValues() > 0;
   if (!marked && !(this->Selection && this->Selection->GetNumberOfValues() > 0))
@@ -160,14 +168,14 @@ void vtkPlotLineSet::PaintLine(vtkContext2D* painter, const Talmesh::CountedRun&
 }
 
 void vtkPlotLineSet::PaintPieces(vtkContext2D* painter,
-                                 const std::vector<Talmesh::CountedRun>& runs)
+                                 const std::vector<Talmesh::CountedRun>& runs,
+                                 const std::vector<unsigned char>& gaps)
 {
-  const std::vector<unsigned char> mask = this->MaskOfGaps();
   const float* points = static_cast<float*>(this->Points->GetVoidPointer(0));
   std::vector<float> dots;
   for (const Talmesh::CountedRun& run : runs)
   {
-    for (const auto& piece : Talmesh::piecesOf(run, points, mask.empty() ? nullptr : mask.data()))
+    for (const auto& piece : Talmesh::piecesOf(run, points, gaps.empty() ? nullptr : gaps.data()))
     {
       this->PaintLine(painter, piece);
       if (piece.count == 1)
@@ -183,10 +191,11 @@ void vtkPlotLineSet::PaintPieces(vtkContext2D* painter,
 }
 
 void vtkPlotLineSet::PaintLines(vtkContext2D* painter,
-                                const std::vector<Talmesh::CountedRun>& lines)
+                                const std::vector<Talmesh::CountedRun>& lines,
+                                const std::vector<unsigned char>& gaps)
 {
   if (this->BreakAtGaps)
-    return this->PaintPieces(painter, lines);
+    return this->PaintPieces(painter, lines, gaps);
   for (const Talmesh::CountedRun& line : lines)
     this->PaintLine(painter, line);
 }
@@ -196,7 +205,7 @@ void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTa
   const vtkIdType runCount = this->Points->GetNumberOfPoints() / this->Stride;
   if (!target || this->Pen->GetLineType() != vtkPen::SOLID_LINE ||
       target->wantsShapes(Shapes::Bundle, runCount))
-    return this->PaintLines(painter, this->LinesOfRuns());
+    return this->PaintLines(painter, this->LinesOfRuns(), this->MaskOfGaps());
   this->RunPicture.paint(
       painter, *target,
       {double(this->Points->GetMTime()), double(this->Stride), double(this->BreakAtGaps)},
@@ -249,7 +258,7 @@ void vtkPlotLineSet::CountHighlights(bool marked)
 {
   std::vector<double> source;
   if (marked)
-    source = this->CopiedMarkers;
+    source = {this->MarkerCopies};
   else
     Talmesh::addColumn(source, this->Selection);
   const vtkIdType pointCount = this->Points->GetNumberOfPoints();
@@ -274,7 +283,7 @@ void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter)
     if (run >= 0 && run < runCount)
       lines.push_back({run * this->Stride, this->Stride, 1});
   }
-  this->PaintLines(painter, lines);
+  this->PaintLines(painter, lines, this->MaskOfGaps());
 }
 
 void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target)
@@ -292,11 +301,12 @@ void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::Aggre
     return;
   }
   const double once = pen->GetOpacity() / 255.0;
+  const std::vector<unsigned char> gaps = this->MaskOfGaps();
   for (const Talmesh::CountedRun& run : this->Highlights)
   {
     const double sum = 1.0 - std::pow(1.0 - once, static_cast<double>(run.weight));
     pen->SetOpacity(static_cast<unsigned char>(std::lround(255.0 * sum)));
-    this->PaintLines(painter, {run});
+    this->PaintLines(painter, {run}, gaps);
   }
 }
 

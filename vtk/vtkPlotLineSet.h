@@ -103,9 +103,14 @@ private:
                                             vtkPen* pen,
                                             const Talmesh::AggregateTarget& target) const;
   void PaintLine(vtkContext2D* painter, const Talmesh::CountedRun& line);
-  void PaintPieces(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& runs);
-  void PaintLines(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& lines);
+  void PaintPieces(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& runs,
+                   const std::vector<unsigned char>& gaps);
+  /// @param gaps as MaskOfGaps() has them
+  void PaintLines(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& lines,
+                  const std::vector<unsigned char>& gaps);
   void PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target);
+  /// @param always also where the column seems to be the one copied last
+  void ReadMarkers(vtkTable* table, bool always);
   void FindMarkedRuns();
   void FindSelectedRuns();
   void FindHighlights(bool marked);
@@ -116,6 +121,7 @@ private:
   int BreakAtGaps = 0;
   Talmesh::PointInputs CachedInputs;           ///< of the cached points
   std::vector<double> CopiedMarkers;           ///< tells the marker column that was copied
+  double MarkerCopies = 0.0;                   ///< tells one copy of it from another
   vtkIdType CopiedMarks = 0;                   ///< non-zero values of that copy
   std::vector<double> CountedFor;              ///< tells what the counted highlights are
   std::vector<Talmesh::CountedRun> Highlights; ///< each highlighted run once

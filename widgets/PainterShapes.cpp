@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <new>
 
 namespace Talmesh
 {
@@ -217,6 +218,8 @@ QImage imageOf(vtkImageData* image)
   image->GetDimensions(size);
   const int components = image->GetNumberOfScalarComponents();
   QImage made(size[0], size[1], QImage::Format_RGBA8888);
+  if (made.isNull() && size[0] > 0 && size[1] > 0)
+    throw std::bad_alloc();
   const auto* from = static_cast<const unsigned char*>(image->GetScalarPointer());
   for (int row = size[1] - 1; row >= 0; --row)
   {
