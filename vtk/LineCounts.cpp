@@ -76,7 +76,11 @@ OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width
     {
       const std::size_t end = std::min(first + share, lines.runs.size());
       for (std::size_t run = first; run < end; ++run)
-        tracer.trace(lines.points, lines.broken, lines.runs[run], map);
+      {
+        CountedRun counted = lines.runs[run];
+        counted.weight = std::min(counted.weight, most);
+        tracer.trace(lines.points, lines.broken, counted, map);
+      }
     }
   };
   stats::inParallelParts(workers, 1, countRuns);

@@ -193,9 +193,10 @@ OpacityImage drawMarkers(const MarkersToCount& markers, const PixelMap& map, int
     for (const Span& span : spans)
     {
       const int column = anchors.column(anchor) + span.column;
+      const float low = row + static_cast<float>(span.low);
+      const float high = row + static_cast<float>(span.high);
       if (column >= 0 && column < width)
-        counts[0].add(column, row + static_cast<float>(span.low),
-                      row + static_cast<float>(span.high), weight);
+        counts[0].add(column, low, high, weight);
     }
   }
   fillColumns(image, counts, scale, 1, 0, width);

@@ -42,4 +42,38 @@ PixelCounts::PixelCounts(int columns, int rows, const CoverageScale& coverage)
     , differences(pitch * static_cast<std::size_t>(columns), 0)
 {
 }
+
+void PixelCounts::add(int column, float low, float high, std::int32_t weight)
+{
+  low = low > 0.0f ? low : 0.0f;
+  high = high < top ? high : top;
+  if (!(low < high))
+    return;
+  const int first = static_cast<int>(low);
+  const int last = static_cast<int>(high);
+  std::int32_t* const ends = differences.data() + pitch * static_cast<std::size_t>(column) + first;
+  if (first == last)
+  {
+    const std::int32_t part = weight * scale->units(high - low);
+    ends[0] += part;
+    ends[1] -= part;
+    return;
+  }
+  const std::int32_t whole = weight * scale->full();
+  const std::int32_t lowest = weight * scale->units(static_cast<float>(first + 1) - low);
+  const std::int32_t highest = weight * scale->units(high - static_cast<float>(last));
+  ends[0] += lowest;
+  ends[1] += whole - lowest;
+  ends[last - first] += highest - whole;
+  ends[last - first + 1] -= highest;
+}
+
+void PixelCounts::add(int first, int end, const float* low, const float* high, std::int32_t weight)
+{
+  for (int column = first; column < end; ++column)
+  {
+    if (low[column] < high[column])
+      add(column, low[column], high[column], weight);
+  }
+}
 } // namespace Talmesh

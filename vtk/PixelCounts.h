@@ -1,6 +1,8 @@
 #ifndef PixelCounts_h
 #define PixelCounts_h
 
+#include "vtk/IntervalSink.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -44,40 +46,15 @@ private:
 
 /// Counts for the pixels of a grid, columns of `rows` pixels. What is added is an interval of a
 /// column: its ends are noted, and a running sum up the column gives the counts.
-class PixelCounts
+class PixelCounts : public IntervalSink
 {
 public:
   /// @param scale must outlive this object
   PixelCounts(int columns, int rows, const CoverageScale& scale);
 
   /// Adds what covers @p low to @p high of @p column, in pixels, @p weight times.
-  void add(int column, float low, float high, std::int32_t weight)
-  {
-    low = low > 0.0f ? low : 0.0f;
-    high = high < top ? high : top;
-    if (!(low < high))
-      return;
-    const int first = static_cast<int>(low);
-    const int last = static_cast<int>(high);
-    std::int32_t* const ends =
-        differences.data() + pitch * static_cast<std::size_t>(column) + first;
-    if (first == last)
-    {
-      const std::int32_t part = weight * scale->units(high - low);
-      ends[0] += part;
-      ends[1] -= part;
-      return;
-    }
-    const std::int32_t whole = weight * scale->full();
-    const std::int32_t lowest = weight * scale->units(static_cast<float>(first + 1) - low);
-    const std::int32_t highest = weight * scale->units(high - static_cast<float>(last));
-    ends[0] += lowest;
-    ends[1] += whole - lowest;
-    ends[last - first] += highest - whole;
-    ends[last - first + 1] -= highest;
-  }
-
-  std::int64_t mostRepeats() const { return scale->mostRepeats(); }
+  void add(int column, float low, float high, std::int32_t weight);
+  void add(int first, int end, const float* low, const float* high, std::int32_t weight) override;
 
   /// What was added to a column, as differences from each pixel to the one above it.
   const std::int32_t* column(int index) const

@@ -31,8 +31,8 @@ float smaller(float candidate, float best)
 }
 } // namespace
 
-RunTracer::RunTracer(PixelCounts& target, int columnCount, int rowCount, const Pen& used)
-    : counts(target)
+RunTracer::RunTracer(IntervalSink& target, int columnCount, int rowCount, const Pen& used)
+    : sink(target)
     , columns(columnCount)
     , rows(rowCount)
     , pen(used)
@@ -87,7 +87,7 @@ void RunTracer::trace(const float* points, const unsigned char* broken, const Co
       addPoint(point);
   }
   endPiece();
-  finish(static_cast<std::int32_t>(std::min(run.weight, counts.mostRepeats())));
+  finish(static_cast<std::int32_t>(run.weight));
 }
 
 RunTracer::Position RunTracer::positionOf(const float* point, const PixelMap& toElements)
@@ -221,42 +221,60 @@ void RunTracer::dot(const Position& center)
 // Runs come back to a column or break there: what they cover twice must count once.
 void RunTracer::flushToBits()
 {
-  if (lastElement < firstElement)
+  int first = 0;
+  int end = 0;
+  if (!reachColumns(first, end))
     return;
   if (!bits)
     bits.emplace(columns, rows);
   usesBits = true;
-  takeIntervals([this](int column, float from, float to) { bits->set(column, from, to); });
-}
-
-void RunTracer::finish(std::int32_t weight)
-{
-  const auto count = [this, weight](int column, float from, float to)
-  { counts.add(column, from, to, weight); };
-  if (!usesBits)
-    return takeIntervals(count);
-  flushToBits();
-  bits->take(count);
-  usesBits = false;
-}
-
-template <typename Sink>
-void RunTracer::takeIntervals(Sink&& sink)
-{
-  if (lastElement < firstElement)
-    return;
-  const int first = std::max(0, firstElement - padding - taps / 2 - 1);
-  const int end = std::min(columns, lastElement - padding + taps / 2 + 2);
-  if (taps == 1)
-    reachThin(first, end);
-  else
-    reachWide(first, end);
   for (int column = first; column < end; ++column)
   {
     const auto i = static_cast<std::size_t>(column);
     if (low[i] < high[i])
-      sink(column, low[i], high[i]);
+      bits->set(column, low[i], high[i]);
   }
+  forgetStretch();
+}
+
+void RunTracer::finish(std::int32_t weight)
+{
+  if (usesBits)
+  {
+    flushToBits();
+    bits->take(
+        [this, weight](int column, float from, float to)
+        {
+          low[static_cast<std::size_t>(column)] = from;
+          high[static_cast<std::size_t>(column)] = to;
+          sink.add(column, column + 1, low.data(), high.data(), weight);
+        });
+    usesBits = false;
+    return;
+  }
+  int first = 0;
+  int end = 0;
+  if (!reachColumns(first, end))
+    return;
+  sink.add(first, end, low.data(), high.data(), weight);
+  forgetStretch();
+}
+
+bool RunTracer::reachColumns(int& first, int& end)
+{
+  if (lastElement < firstElement)
+    return false;
+  first = std::max(0, firstElement - padding - taps / 2 - 1);
+  end = std::min(columns, lastElement - padding + taps / 2 + 2);
+  if (taps == 1)
+    reachThin(first, end);
+  else
+    reachWide(first, end);
+  return true;
+}
+
+void RunTracer::forgetStretch()
+{
   std::fill(border.begin() + firstElement, border.begin() + lastElement + 2, none);
   std::fill(lowest.begin() + firstElement, lowest.begin() + lastElement + 1, infinity);
   std::fill(highest.begin() + firstElement, highest.begin() + lastElement + 1, -infinity);

@@ -1,7 +1,7 @@
 #ifndef RunTracer_h
 #define RunTracer_h
 
-#include "vtk/PixelCounts.h"
+#include "vtk/IntervalSink.h"
 #include "vtk/RunBits.h"
 
 #include <cstdint>
@@ -27,8 +27,8 @@ struct CountedRun
   std::int64_t weight = 1;
 };
 
-/// Turns polylines into the intervals that they cover in each column of a grid and adds those to
-/// counts. A column may be a part of a pixel's width.
+/// Turns polylines into the intervals that they cover in each column of a grid. A column may be a
+/// part of a pixel's width.
 class RunTracer
 {
 public:
@@ -36,14 +36,14 @@ public:
   {
     double width = 1.0;      ///< pixels
     double dotSize = 0.0;    ///< pixels across a point that has no line, 0 for none
-    int columnsPerPixel = 1; ///< across; the counts have as many columns
+    int columnsPerPixel = 1; ///< across; the grid has as many columns
   };
 
   /// @param target gets the intervals; it has @p columns columns of @p rows pixels
-  RunTracer(PixelCounts& target, int columns, int rows, const Pen& pen);
+  RunTracer(IntervalSink& target, int columns, int rows, const Pen& pen);
 
-  /// Adds a run, every column of it once. Lines break at coordinates that are no finite numbers and
-  /// at points whose entry of @p broken, if there is such a list, is not 0.
+  /// Adds a run, every part of a column once. Lines break at coordinates that are no finite numbers
+  /// and at points whose entry of @p broken, if there is such a list, is not 0.
   void trace(const float* points, const unsigned char* broken, const CountedRun& run,
              const PixelMap& map);
 
@@ -72,13 +72,13 @@ private:
   void dot(const Position& center);
   void flushToBits();
   void finish(std::int32_t weight);
-  template <typename Sink>
-  void takeIntervals(Sink&& sink);
+  bool reachColumns(int& first, int& end);
+  void forgetStretch();
   void reachThin(int first, int end);
   void reachWide(int first, int end);
   void reachMiddle(int first, int end);
 
-  PixelCounts& counts;
+  IntervalSink& sink;
   int columns;
   int rows;
   Pen pen;
