@@ -65,6 +65,8 @@ protected:
     program.setProcessChannelMode(QProcess::ForwardedChannels);
     program.start(QStringLiteral(TALMESH_PLOT_PROGRAM),
                   {folder.filePath(QStringLiteral("runs.csv"))});
+    // Until then the program has no number.
+    EXPECT_TRUE(program.waitForStarted(patience));
     const unsigned long window = windows.waitFor("runs.csv - Talmesh Plot");
     EXPECT_NE(window, 0U);
     return window;
@@ -80,6 +82,8 @@ protected:
 
   static void expectEndBy(QProcess& program, int number)
   {
+    // The number 0 would signal this program and all around it.
+    ASSERT_EQ(program.state(), QProcess::Running);
     ::kill(static_cast<pid_t>(program.processId()), number);
     ASSERT_TRUE(program.waitForFinished(patience)) << number;
     EXPECT_EQ(program.exitStatus(), QProcess::CrashExit) << "as the signal ends any program";
