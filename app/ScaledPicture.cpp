@@ -58,13 +58,15 @@ QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, cons
   // Scenes count rows from the bottom.
   painter.translate(0.0, filled.height() - scale * size.height());
   painter.scale(scale, scale);
-  paint(widget, painter, size, scale, Vectors::All);
+  // Thousands of runs are counted in a moment, but stroked for minutes.
+  paint(widget, painter, size, scale, Vectors::Auto);
   painter.end();
   if (filled == pixels)
     return picture;
   QImage paper = whitePicture(pixels);
   painter.begin(&paper);
   painter.drawImage(0, 0, picture);
+  painter.end();
   return paper;
 }
 
