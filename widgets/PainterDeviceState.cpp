@@ -14,6 +14,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 void PainterDevice::DrawString(float* point, const vtkStdString& string)
@@ -24,7 +25,8 @@ void PainterDevice::DrawString(float* point, const vtkStdString& string)
   const QRectF place = text.bounds();
   const QRectF inked(anchor.x() + place.left(), anchor.y() - place.bottom(), place.width(),
                      place.height());
-  if (inked.intersects(QRectF(QPointF(0.0, 0.0), QSizeF(this->Scene))))
+  if (std::isfinite(anchor.x()) && std::isfinite(anchor.y()) &&
+      inked.intersects(QRectF(QPointF(0.0, 0.0), QSizeF(this->Scene))))
     text.draw(this->Painter(), anchor);
 }
 
