@@ -28,9 +28,11 @@ std::string writeExport(const CommandLineOptions& options, VtkPlotWidget& widget
                         const QString& path)
 {
   if (options.paperWidth <= 0.0)
-    return exportPlot(widget, path, options.vectors, options.dotsPerInch);
+    return exportPlot(widget, path, options.vectors,
+                      options.dotsPerInch.value_or(resolutionOfScreenPages));
   return exportPlot(widget, path,
-                    {QSizeF(options.paperWidth, options.paperHeight), options.dotsPerInch},
+                    {QSizeF(options.paperWidth, options.paperHeight),
+                     options.dotsPerInch.value_or(PaperSize().dotsPerInch)},
                     options.vectors);
 }
 
@@ -81,7 +83,7 @@ std::string runBatch(const CommandLineOptions& options)
   std::string error = writeExports(options, opened, size);
   if (error.empty() && !options.gallery.empty())
     error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size,
-                         options.vectors, options.dotsPerInch);
+                         options.vectors, options.dotsPerInch.value_or(resolutionOfScreenPages));
   return error;
 }
 

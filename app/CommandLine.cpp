@@ -209,8 +209,11 @@ private:
 
   void readResolution(const std::string& value)
   {
-    if (!readNumber(std::string_view(value), int{PaperSize::smallestResolution},
-                    int{PaperSize::largestResolution}, options().dotsPerInch))
+    int number = 0;
+    if (readNumber(std::string_view(value), int{PaperSize::smallestResolution},
+                   int{PaperSize::largestResolution}, number))
+      options().dotsPerInch = number;
+    else
       parsed.error = "--dpi takes a number from " + std::to_string(PaperSize::smallestResolution) +
                      " to " + std::to_string(PaperSize::largestResolution) + ", not " + value;
   }
@@ -236,7 +239,7 @@ private:
     if (options().paperWidth <= 0.0 || std::none_of(files.begin(), files.end(), isOfPixels))
       return;
     const PaperSize paper = {QSizeF(options().paperWidth, options().paperHeight),
-                             options().dotsPerInch};
+                             options().dotsPerInch.value_or(PaperSize().dotsPerInch)};
     const std::string error = errorOf(paper, mostPixels);
     if (!error.empty())
       parsed.error = "--paper and --dpi: " + error;
@@ -275,7 +278,7 @@ std::string commandLineHelp()
       "  --size WxH              width and height of the pictures in pixels\n"
       "  --paper WxH             width and height of exported pictures in millimetres\n"
       "  --dpi N                 resolution of a PNG with --paper and of pictures in a PDF,\n"
-      "                          300 without this\n"
+      "                          300 without this, 150 in a PDF without --paper\n"
       "  --vector all|auto|none  which lines and points of a PDF are vectors: all, as many as\n"
       "                          can be told apart (auto, without this), or none; the others\n"
       "                          are a picture\n"

@@ -32,8 +32,8 @@ struct CommandLineOptions
   /// Width and height of exported pictures on paper in millimetres; 0 for the size in pixels.
   double paperWidth = 0.0;
   double paperHeight = 0.0;
-  /// Pixels per inch of a picture of a size on paper, and of those in a PDF.
-  int dotsPerInch = 300;
+  /// Pixels per inch of a picture of a size on paper, and of those in a PDF; none for the default.
+  std::optional<int> dotsPerInch;
   /// Which lines and points of a PDF are vectors.
   Vectors vectors = Vectors::Auto;
   bool help = false;

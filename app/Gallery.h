@@ -34,7 +34,7 @@ const std::vector<GalleryView>& galleryViews();
 /// @return why that failed, in one line; empty on success
 std::string writeGallery(const Study& study, const QString& folder, const QSize& pixels,
                          Vectors vectors = Vectors::Auto,
-                         int dotsPerInch = PaperSize().dotsPerInch);
+                         int dotsPerInch = resolutionOfScreenPages);
 
 } // namespace Talmesh::app
 

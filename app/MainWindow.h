@@ -63,7 +63,7 @@ public:
   /// shown to the user.
   /// @return whether it was written
   bool exportTo(const QString& path, Vectors vectors = Vectors::Auto,
-                int dotsPerInch = PaperSize().dotsPerInch);
+                int dotsPerInch = resolutionOfScreenPages);
   bool exportTo(const QString& path, const PaperSize& paper, Vectors vectors = Vectors::Auto);
   /// Asks for the size of a picture, then writes it.
   void askForSizeAndExport(const QString& path);

@@ -40,6 +40,10 @@ struct PaperSize
   int dotsPerInch = 300;
 };
 
+/// Dots per inch of pictures on a page that is as large as a plot on the screen, which is read from
+/// a screen or printed smaller.
+constexpr int resolutionOfScreenPages = 150;
+
 /// Writes what a plot widget shows: ".png" the picture in the widget's pixels, ".pdf" the same as
 /// vectors, as far as @p vectors says, ".csv" the whole table. The file appears complete or not at
 /// all; an old one of the name stays until then.
@@ -47,7 +51,7 @@ struct PaperSize
 /// @return why it could not be written, in one line that begins with the file's name; empty on
 /// success
 std::string exportPlot(VtkPlotWidget& widget, const QString& path, Vectors vectors = Vectors::Auto,
-                       int dotsPerInch = PaperSize().dotsPerInch);
+                       int dotsPerInch = resolutionOfScreenPages);
 
 /// A picture with more pixels on a side takes more memory than a figure is worth.
 constexpr int mostPixels = 20000;

@@ -82,6 +82,7 @@ QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, cons
   QImage paper = whitePicture(pixels);
   painter.begin(&paper);
   painter.drawImage(0, 0, picture);
+  painter.end();
   return paper;
 }
 

@@ -48,8 +48,11 @@ bool sameColor(const Talmesh::ClippedPoints& piece, int a, int b, int components
 PainterDevice::PainterDevice()
     : Matrices{{1.0, 0.0, 0.0, 0.0, 1.0, 0.0, 0.0, 0.0, 1.0}}
 {
-  // The chart of three dimensions labels its ticks without saying in which colour.
+  // The chart of three dimensions labels its ticks as it labelled its axes in the picture before.
   this->TextProp->SetColor(0.0, 0.0, 0.0);
+  this->TextProp->SetFontSize(14);
+  this->TextProp->SetJustificationToCentered();
+  this->TextProp->SetVerticalJustificationToCentered();
 }
 
 PainterDevice::~PainterDevice() = default;

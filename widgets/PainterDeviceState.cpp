@@ -19,10 +19,15 @@
 
 void PainterDevice::DrawString(float* point, const vtkStdString& string)
 {
+  const Talmesh::PainterText text(string, this->TextProp);
   const QPointF anchor = this->OnPage(point[0], point[1]);
-  // Charts of constant columns place labels nowhere; a page with a place that is no number is void.
-  if (std::isfinite(anchor.x()) && std::isfinite(anchor.y()))
-    Talmesh::PainterText(string, this->TextProp).draw(this->Painter(), anchor);
+  // Charts of constant columns put labels nowhere or so far away that no page can say where.
+  const QRectF place = text.bounds();
+  const QRectF inked(anchor.x() + place.left(), anchor.y() - place.bottom(), place.width(),
+                     place.height());
+  if (std::isfinite(anchor.x()) && std::isfinite(anchor.y()) &&
+      inked.intersects(QRectF(QPointF(0.0, 0.0), QSizeF(this->Scene))))
+    text.draw(this->Painter(), anchor);
 }
 
 void PainterDevice::DrawMathTextString(float* point, const vtkStdString& string)

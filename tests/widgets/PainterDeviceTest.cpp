@@ -1,7 +1,5 @@
 #include "widgets/PainterDevice.h"
 
-#include "widgets/PainterShapes.h"
-
 #include <vtkBrush.h>
 #include <vtkContext2D.h>
 #include <vtkImageData.h>
@@ -9,13 +7,16 @@
 #include <vtkPen.h>
 #include <vtkRect.h>
 #include <vtkRenderingCoreEnums.h>
+#include <vtkStdString.h>
 #include <vtkTextProperty.h>
 #include <vtkTransform2D.h>
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#include <QPdfWriter>
 
 #include <algorithm>
 #include <cmath>
@@ -168,6 +169,32 @@ TEST_F(PainterDeviceOnAPicture, BreaksLinesWhereThereIsNoNumber)
   EXPECT_EQ(greyAt(60, 10), 0);
 }
 
+TEST_F(PainterDeviceOnAPicture, WritesNoTextThatIsNotOnThePage)
+{
+  // A page would be void with such places.
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&bytes);
+  writer.setPageSize(QPageSize(QSizeF(scene), QPageSize::Point, {}, QPageSize::ExactMatch));
+  painter.end();
+  painter.begin(&writer);
+  const auto write = [this](float x, float y)
+  {
+    float place[] = {x, y};
+    device->DrawString(place, vtkStdString("label"));
+  };
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  write(nan, 10);
+  write(10, nan);
+  write(3.0e11f, 10);
+  write(10, -3.0e11f);
+  painter.end();
+  EXPECT_FALSE(bytes.data().contains("/Type /Font")) << "no text, no font";
+  painter.begin(&picture);
+  write(10, 10);
+  EXPECT_GT(area(), 10.0);
+}
+
 TEST_F(PainterDeviceOnAPicture, KeepsTheOpacityWhereALineBends)
 {
   context->GetPen()->SetColor(0, 0, 0, 128);
@@ -256,35 +283,5 @@ TEST_F(PainterDeviceOnAPicture, PutsAggregatesOnTheirPixels)
         EXPECT_EQ(qGray(picture.pixel(11 + i, picture.height() - 1 - 13 - row)),
                   (row * 7 + i) % 2 ? 0 : 255)
             << scale << ' ' << row << ' ' << i;
-  }
-}
-
-TEST(PainterShapes, KeepsPeaksAndTurnsOfALineOfFewerPoints)
-{
-  QPolygonF line;
-  for (int i = 0; i <= 1000; ++i)
-    line.append(QPointF(0.1 * i, 20.0 * std::sin(0.01 * i)));
-  line[500].setY(60.0);
-  // There and back along one direction.
-  line.append({{101, 0}, {120, 0}, {110, 0}, {130, 0}, {130, 0}});
-  const QPolygonF fewer = Talmesh::simplified(line, 0.02);
-  EXPECT_LT(fewer.size(), 200);
-  for (const QPointF& point :
-       {line.first(), line[500], line.last(), QPointF(120, 0), QPointF(110, 0)})
-    EXPECT_TRUE(fewer.contains(point)) << point.x();
-  for (const QPointF& point : line)
-  {
-    double nearest = 1e9;
-    for (int i = 0; i + 1 < fewer.size(); ++i)
-    {
-      const QPointF way = fewer[i + 1] - fewer[i];
-      const double length = QPointF::dotProduct(way, way);
-      const double along =
-          length > 0 ? std::clamp(QPointF::dotProduct(point - fewer[i], way) / length, 0.0, 1.0)
-                     : 0.0;
-      const QPointF off = point - fewer[i] - along * way;
-      nearest = std::min(nearest, std::hypot(off.x(), off.y()));
-    }
-    EXPECT_LE(nearest, 0.021) << point.x();
   }
 }
