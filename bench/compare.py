@@ -18,13 +18,12 @@ import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
+# Another build than that of bench/run, to try the rows.
 BINARIES = Path(os.environ.get("TALMESH_BENCH_BIN", ROOT / "build" / "release" / "bin"))
 PEERS = ROOT / "bench" / "peers.py"
 TIMEOUT = 600  # seconds, of one measurement
 CSV_BYTES = 240_000_000
 
-# Rows are (name of the benchmark, what it is, peers, what shall be reached). A peer is "qcustomplot", "python" or,
-# for the start of a whole program, "start".
 FRAMES = [("500/200", "500 × 200"), ("5000/200", "5,000 × 200"), ("5000/1000", "5,000 × 1,000"),
           ("50000/200", "50,000 × 200")]
 KINDS = [
@@ -38,6 +37,10 @@ KINDS = [
 
 
 def rows():
+    """(name of the benchmark, what it is, peers, what shall be reached) of each row.
+
+    A peer is "qcustomplot", "python" or, for the start of a whole program, "start".
+    """
     found = [("emptyFrame", "empty chart", ("qcustomplot",), "")]
     for kind, text, reach in KINDS:
         for size, shown in FRAMES:
