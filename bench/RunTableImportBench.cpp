@@ -1,5 +1,7 @@
 #include "app/RunTableImport.h"
+#include "app/StudyFile.h"
 
+#include <cstdlib>
 #include <sstream>
 #include <string>
 
@@ -46,5 +48,21 @@ void importTable(benchmark::State& state)
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(importTable)->Apply(runCounts)->Complexity();
+
+/// Reading the file that TALMESH_BENCH_CSV names, as the viewer does.
+void importFile(benchmark::State& state)
+{
+  const char* path = std::getenv("TALMESH_BENCH_CSV");
+  if (!path)
+    state.SkipWithError("TALMESH_BENCH_CSV names no file");
+  for (auto _ : state)
+  {
+    const Talmesh::app::OpenedStudy opened =
+        Talmesh::app::openStudyFile(QString::fromLocal8Bit(path));
+    if (!opened.study.runs)
+      state.SkipWithError(opened.error.c_str());
+  }
+}
+BENCHMARK(importFile)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1);
 
 } // namespace
