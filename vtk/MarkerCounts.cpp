@@ -96,14 +96,14 @@ MarkerSprite::MarkerSprite(int shape, int size, bool highlighted, int stroke)
     , pixels(static_cast<std::size_t>(across) * static_cast<std::size_t>(across), 0)
 {
   const int thickness = highlighted ? 3 * stroke : stroke;
-  switch (static_cast<MarkerShape>(shape))
+  switch (static_cast<SpriteShape>(shape))
   {
-  case MarkerShape::Cross:
+  case SpriteShape::Cross:
     drawCross(thickness);
     break;
-  case MarkerShape::Square:
-  case MarkerShape::Circle:
-  case MarkerShape::Diamond:
+  case SpriteShape::Square:
+  case SpriteShape::Circle:
+  case SpriteShape::Diamond:
     drawFilled(shape);
     break;
   default:
@@ -156,9 +156,9 @@ void MarkerSprite::drawFilled(int shape)
       const double x = column - radius;
       const double y = row - radius;
       bool inside = true;
-      if (static_cast<MarkerShape>(shape) == MarkerShape::Circle)
+      if (static_cast<SpriteShape>(shape) == SpriteShape::Circle)
         inside = x * x + y * y < radius * radius;
-      else if (static_cast<MarkerShape>(shape) == MarkerShape::Diamond)
+      else if (static_cast<SpriteShape>(shape) == SpriteShape::Diamond)
         inside = half - std::abs(row - half) >= std::abs(column - half);
       if (inside)
         set(row, column);

@@ -12,7 +12,7 @@
 namespace Talmesh
 {
 /// As VTK numbers them; any other number is a plus.
-enum class MarkerShape
+enum class SpriteShape
 {
   Cross = 1,
   Plus = 2,

@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-using Talmesh::MarkerShape;
+using Talmesh::SpriteShape;
 using Talmesh::MarkerSprite;
 
 namespace
 {
 // Rows from the top.
-std::string pictureOf(MarkerShape shape, int size, bool highlighted = false)
+std::string pictureOf(SpriteShape shape, int size, bool highlighted = false)
 {
   const MarkerSprite sprite(static_cast<int>(shape), size, highlighted);
   std::string picture;
@@ -26,7 +26,7 @@ std::string pictureOf(MarkerShape shape, int size, bool highlighted = false)
   return picture;
 }
 
-const MarkerSprite square(static_cast<int>(MarkerShape::Square), 3, false);
+const MarkerSprite square(static_cast<int>(SpriteShape::Square), 3, false);
 
 Talmesh::OpacityImage draw(const std::vector<float>& points, double opacity,
                            const MarkerSprite& sprite = square)
@@ -43,13 +43,13 @@ int at(const Talmesh::OpacityImage& image, int x, int y)
 
 TEST(MarkerCounts, HaveTheShapesOfTheScreen)
 {
-  EXPECT_EQ(pictureOf(MarkerShape::Plus, 5), "..#..|..#..|#####|..#..|..#..|");
-  EXPECT_EQ(pictureOf(MarkerShape::Plus, 5, true), ".###.|#####|#####|#####|.###.|");
-  EXPECT_EQ(pictureOf(MarkerShape::Cross, 5), "#...#|.#.#.|..#..|.#.#.|#...#|");
-  EXPECT_EQ(pictureOf(MarkerShape::Square, 3), "###|###|###|");
-  EXPECT_EQ(pictureOf(MarkerShape::Diamond, 5), "..#..|.###.|#####|.###.|..#..|");
-  EXPECT_EQ(pictureOf(MarkerShape::Circle, 4), "....|.###|.###|.###|");
-  EXPECT_EQ(pictureOf(static_cast<MarkerShape>(99), 3), pictureOf(MarkerShape::Plus, 3));
+  EXPECT_EQ(pictureOf(SpriteShape::Plus, 5), "..#..|..#..|#####|..#..|..#..|");
+  EXPECT_EQ(pictureOf(SpriteShape::Plus, 5, true), ".###.|#####|#####|#####|.###.|");
+  EXPECT_EQ(pictureOf(SpriteShape::Cross, 5), "#...#|.#.#.|..#..|.#.#.|#...#|");
+  EXPECT_EQ(pictureOf(SpriteShape::Square, 3), "###|###|###|");
+  EXPECT_EQ(pictureOf(SpriteShape::Diamond, 5), "..#..|.###.|#####|.###.|..#..|");
+  EXPECT_EQ(pictureOf(SpriteShape::Circle, 4), "....|.###|.###|.###|");
+  EXPECT_EQ(pictureOf(static_cast<SpriteShape>(99), 3), pictureOf(SpriteShape::Plus, 3));
 }
 
 TEST(MarkerCounts, LieAroundTheirPoints)
