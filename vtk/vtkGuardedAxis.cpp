@@ -1,6 +1,7 @@
 #include "vtk/vtkGuardedAxis.h"
 
 #include <vtkDoubleArray.h>
+#include <vtkFloatArray.h>
 #include <vtkObjectFactory.h>
 #include <vtkStringArray.h>
 
@@ -100,6 +101,19 @@ void vtkGuardedAxis::SetLogScaleAllowed(bool allowed)
 {
   LogScaleAllowed = allowed;
   SetLogScale(LogScaleWanted);
+}
+
+bool vtkGuardedAxis::Paint(vtkContext2D* painter)
+{
+  // VTK reads a label for every place of the last update, also where ticks have changed since.
+  if (TickScenePositions->GetNumberOfTuples() != TickLabels->GetNumberOfValues())
+  {
+    Modified();
+    Update();
+    TickScenePositions->SetNumberOfTuples(
+        std::min(TickScenePositions->GetNumberOfTuples(), TickLabels->GetNumberOfValues()));
+  }
+  return Superclass::Paint(painter);
 }
 
 bool vtkGuardedAxis::Walkable() const

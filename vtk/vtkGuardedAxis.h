@@ -21,6 +21,7 @@ public:
   TALMESH_VTK_TYPE(vtkGuardedAxis, vtkAxis);
 
   using vtkAxis::SetRange;
+  bool Paint(vtkContext2D* painter) override;
   void SetRange(double minimum, double maximum) override;
   void SetMinimum(double minimum) override;
   void SetMaximum(double maximum) override;
