@@ -28,7 +28,7 @@ std::shared_ptr<QLockFile> lockOf(const QString& path)
 QString stateFolder()
 {
   const QString given = QFile::decodeName(qgetenv("XDG_STATE_HOME"));
-  // The base directory specification has relative paths ignored.
+  // Relative paths in such variables are to be ignored.
   const QString base =
       QDir::isAbsolutePath(given) ? given : QDir::homePath() + QStringLiteral("/.local/state");
   return base + QStringLiteral("/talmesh-plot");

@@ -24,7 +24,8 @@ struct PixelGrid
 /// A picture arrives as one DrawImage(const vtkRectf&, vtkImageData*), after a SetMatrix under
 /// which one unit is one pixel of the grid: four components, red, green, blue and opacity, colours
 /// not multiplied by the opacity, the first row the lowest, as many values as the rectangle has
-/// pixels. What it leaves out is empty. It must be placed without smoothing and cut off where clipping says.
+/// pixels. What it leaves out is empty. It must be placed without smoothing and cut off where
+/// clipping says.
 ///
 /// A highlighted run or point that stays a shape is drawn once, with the opacity that its repeats
 /// would have added up to.

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-using Talmesh::SpriteShape;
 using Talmesh::MarkerSprite;
+using Talmesh::SpriteShape;
 
 namespace
 {
