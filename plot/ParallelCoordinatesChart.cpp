@@ -6,7 +6,6 @@
 #include "plot/PlotState.h"
 #include "plot/SelectionModes.h"
 #include "plot/TableColumns.h"
-#include "vtk/ParallelLines.h"
 
 #include <vtkAxis.h>
 #include <vtkLookupTable.h>
@@ -71,7 +70,7 @@ void colorLines(PlotState& state)
 /// one for every drawing.
 void feedLines(PlotState& state)
 {
-  vtkNew<ParallelLines> plot;
+  vtkNew<vtkPlotParallelCoordinates> plot;
   plot->SetSelection(listSelectedRows(state.annotationLink, state.table));
   state.parallelCoordinates->SetPlot(plot);
   state.parallelCoordinates->GetVisibleColumns()->SetNumberOfTuples(0);
