@@ -1,4 +1,5 @@
 #include "app/DumpedTable.h"
+#include "app/SelectionMarks.h"
 #include "app/SessionSettings.h"
 
 #include <algorithm>
