@@ -40,13 +40,16 @@ void showColumns(vtkScatterPlotMatrix* matrix, vtkStringArray* names)
   matrix->Modified();
 }
 
+/// A matrix takes no table of no rows and then cannot show columns, though where the first, which
+/// counts as the table's, holds no value, later ones may.
 void showColumns(PlotState& state, const std::vector<int>& columns)
 {
   vtkNew<vtkStringArray> names;
+  const bool taken = state.table->GetNumberOfRows() > 0;
   for (const int column : columns)
   {
     const std::string name = columnName(state.table, column);
-    if (isBounded(plottableColumn(state.table, column)) && names->LookupValue(name) < 0)
+    if (taken && isBounded(plottableColumn(state.table, column)) && names->LookupValue(name) < 0)
       names->InsertNextValue(name);
   }
   showColumns(state.scatterPlotMatrix, names);

@@ -42,6 +42,22 @@ TEST_P(RedrawOfOddData, SurvivesColumnsThatDoNotExist)
   expectSoundPicture(scene, container);
 }
 
+TEST_P(RedrawOfOddData, SurvivesAFirstColumnWithoutRows)
+{
+  for (const bool limited : {true, false})
+  {
+    settings().setLimitColumVisibility(limited);
+    setStyle(GetParam());
+    expectSoundPicture(scene, container);
+    container.getTable()->GetColumn(0)->SetNumberOfTuples(0);
+    container.redraw();
+    expectSoundPicture(scene, container);
+    container.redraw();
+    expectSoundPicture(scene, container);
+    container.setPlotData(plainTable());
+  }
+}
+
 TEST_P(RedrawOfOddData, SurvivesTextAndUnnamedColumns)
 {
   vtkSmartPointer<vtkTable> table = plainTable();
