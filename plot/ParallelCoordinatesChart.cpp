@@ -6,6 +6,7 @@
 #include "plot/PlotState.h"
 #include "plot/SelectionModes.h"
 #include "plot/TableColumns.h"
+#include "vtk/ParallelLines.h"
 
 #include <vtkAxis.h>
 #include <vtkLookupTable.h>
@@ -70,7 +71,7 @@ void colorLines(PlotState& state)
 /// one for every drawing.
 void feedLines(PlotState& state)
 {
-  vtkNew<vtkPlotParallelCoordinates> plot;
+  vtkNew<ParallelLines> plot;
   plot->SetSelection(listSelectedRows(state.annotationLink, state.table));
   state.parallelCoordinates->SetPlot(plot);
   state.parallelCoordinates->GetVisibleColumns()->SetNumberOfTuples(0);

@@ -30,15 +30,6 @@ std::size_t workersFor(std::int64_t points)
   return static_cast<std::size_t>(std::min<std::int64_t>(wanted, there));
 }
 
-int columnsPerPixel(int parts, std::size_t runs, int width, int height)
-{
-  const double crossings = static_cast<double>(runs) * width;
-  const double counts = static_cast<double>(width) * height;
-  while (parts > 1 && (parts * crossings > mostCrossings || parts * counts > mostCounts))
-    parts /= 2;
-  return parts;
-}
-
 std::int64_t pointCount(const std::vector<CountedRun>& runs)
 {
   return std::accumulate(runs.begin(), runs.end(), std::int64_t(0),
@@ -54,6 +45,16 @@ std::int64_t totalWeight(const std::vector<CountedRun>& runs, std::int64_t most)
 
 } // namespace
 
+int columnsPerPixel(const LinePen& pen, std::size_t runs, int width, int height)
+{
+  int parts = pen.finest;
+  const double crossings = static_cast<double>(runs) * width;
+  const double counts = static_cast<double>(width) * height;
+  while (parts > 1 && (parts * crossings > mostCrossings || parts * counts > mostCounts))
+    parts /= 2;
+  return parts;
+}
+
 OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width, int height,
                        const LinePen& pen)
 {
@@ -63,7 +64,7 @@ OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width
 
   const std::int64_t most = CoverageScale(pen.opacity, 1).mostRepeats();
   const CoverageScale scale(pen.opacity, totalWeight(lines.runs, most));
-  const int parts = columnsPerPixel(pen.finest, lines.runs.size(), width, height);
+  const int parts = columnsPerPixel(pen, lines.runs.size(), width, height);
   const int columns = parts * width;
   const std::size_t workers = workersFor(pointCount(lines.runs));
   std::vector<PixelCounts> counts(workers, PixelCounts(columns, height, scale));

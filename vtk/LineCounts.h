@@ -4,6 +4,7 @@
 #include "vtk/OpacityImage.h"
 #include "vtk/RunTracer.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -35,6 +36,9 @@ struct LinePen
 /// level one.
 OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width, int height,
                        const LinePen& pen);
+
+/// Into how many columns each of @p width pixels is divided for so many runs.
+int columnsPerPixel(const LinePen& pen, std::size_t runs, int width, int height);
 } // namespace Talmesh
 
 #endif

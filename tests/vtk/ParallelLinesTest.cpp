@@ -1,0 +1,206 @@
+#include "vtk/ParallelLines.h"
+
+#include "support/PictureDevice.h"
+#include "vtk/PaintedLines.h"
+
+#include <vtkAxis.h>
+#include <vtkChartParallelCoordinates.h>
+#include <vtkContext2D.h>
+#include <vtkContextScene.h>
+#include <vtkContextView.h>
+#include <vtkDoubleArray.h>
+#include <vtkLookupTable.h>
+#include <vtkPen.h>
+#include <vtkRenderWindow.h>
+#include <vtkStringArray.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "VtkTestSupport.h"
+
+namespace
+{
+/// Two axes: five rows from the lowest to the highest value, two from the highest to the lowest,
+/// and one from lowest to lowest.
+class ParallelLinesPicture : public ::testing::Test
+{
+protected:
+  void SetUp() override
+  {
+    device->setSize(300, 200);
+    plain->setSize(300, 200);
+    // The chart asks the window for its size.
+    view->GetRenderWindow()->SetSize(300, 200);
+    view->GetScene()->SetGeometry(300, 200);
+    chart->SetPlot(lines);
+    lines->vtkPlot::SetInputData(table);
+    chart->GetVisibleColumns()->InsertNextValue("a");
+    chart->GetVisibleColumns()->InsertNextValue("b");
+    view->GetScene()->AddItem(chart);
+  }
+
+  void paintOn(RecordingDevice* surface)
+  {
+    vtkNew<vtkContext2D> painter;
+    painter->Begin(surface);
+    // The first pass lays the axes out.
+    for (int pass = 0; pass < 2; ++pass)
+    {
+      surface->clear();
+      device->pictures.clear();
+      view->GetScene()->Paint(painter);
+    }
+    painter->End();
+  }
+
+  std::vector<PictureDevice::Picture> paint()
+  {
+    paintOn(device);
+    return device->pictures;
+  }
+
+  // A place between the axes, from (0, 0) at the lowest left to (1, 1).
+  std::array<double, 2> at(double across, double up)
+  {
+    const float* left = chart->GetAxis(0)->GetPoint1();
+    const float* right = chart->GetAxis(1)->GetPoint1();
+    const float* top = chart->GetAxis(0)->GetPoint2();
+    return {left[0] + across * (right[0] - left[0]), left[1] + up * (top[1] - left[1])};
+  }
+
+  // The greatest opacity within two pixels of a place.
+  int opacityNear(const PictureDevice::Picture& picture, double across, double up)
+  {
+    const auto place = at(across, up);
+    int greatest = 0;
+    for (int step = -2; step <= 2; ++step)
+      greatest = std::max(greatest, picture.opacityAt(place[0], place[1] + step));
+    return greatest;
+  }
+
+  vtkSmartPointer<vtkTable> table =
+      makeTable({{"a", {1, 1, 1, 1, 1, 3, 3, 1}}, {"b", {30, 30, 30, 30, 30, 10, 10, 10}}});
+  vtkNew<Talmesh::ParallelLines> lines;
+  vtkNew<vtkChartParallelCoordinates> chart;
+  vtkNew<vtkContextView> view;
+  vtkNew<PictureDevice> device;
+  vtkNew<RecordingDevice> plain;
+};
+
+std::vector<RecordingDevice::Call> linesOf(RecordingDevice* surface, int alpha)
+{
+  std::vector<RecordingDevice::Call> found;
+  for (const auto& call : surface->calls(Kind::Poly))
+  {
+    if (call.penColor[3] == alpha && call.points.size() == 2)
+      found.push_back(call);
+  }
+  return found;
+}
+} // namespace
+
+TEST_F(ParallelLinesPicture, CountsRowsOfLikeValues)
+{
+  const double a = 25 / 255.0; // VTK's own pen
+  const auto pictures = paint();
+  ASSERT_EQ(pictures.size(), 1u);
+  EXPECT_NEAR(opacityNear(pictures[0], 0.25, 0.25), 255 * (1 - std::pow(1 - a, 5)), 1);
+  EXPECT_NEAR(opacityNear(pictures[0], 0.25, 0.75), 255 * (1 - std::pow(1 - a, 2)), 1);
+  EXPECT_NEAR(opacityNear(pictures[0], 0.5, 0.5), 255 * (1 - std::pow(1 - a, 7)), 6)
+      << "where the lines cross";
+  EXPECT_NEAR(opacityNear(pictures[0], 0.5, 0.01), 25, 1);
+  EXPECT_EQ(opacityNear(pictures[0], 0.5, 0.25), 0);
+  EXPECT_TRUE(linesOf(device, 25).empty());
+  EXPECT_STREQ(lines->GetClassName(), "vtkPlotParallelCoordinates");
+}
+
+TEST_F(ParallelLinesPicture, IsALineForEachRowOnAnyOtherDevice)
+{
+  paintOn(plain);
+  EXPECT_EQ(linesOf(plain, 25).size(), 8u);
+  EXPECT_TRUE(plain->calls(Kind::Image).empty());
+  device->shapes = 8;
+  EXPECT_TRUE(paint().empty());
+  EXPECT_EQ(linesOf(device, 25).size(), 8u);
+  device->shapes = 0;
+  lines->GetPen()->SetLineType(vtkPen::DASH_LINE);
+  EXPECT_TRUE(paint().empty());
+}
+
+TEST_F(ParallelLinesPicture, ShowsSelectedRowsOnTop)
+{
+  lines->SetSelection(makeIds({5, 6, 99, -1}));
+  const auto pictures = paint();
+  ASSERT_EQ(pictures.size(), 2u);
+  const double a = 100 / 255.0;
+  EXPECT_NEAR(opacityNear(pictures[1], 0.25, 0.75), 255 * (1 - (1 - a) * (1 - a)), 1);
+  EXPECT_EQ(opacityNear(pictures[1], 0.25, 0.25), 0);
+  const auto again = paint();
+  EXPECT_EQ(again[0].time, pictures[0].time);
+  EXPECT_EQ(again[1].time, pictures[1].time);
+  lines->SetSelection(makeIds({7}));
+  const auto other = paint();
+  EXPECT_EQ(other[0].time, pictures[0].time);
+  EXPECT_NE(other[1].time, pictures[1].time);
+}
+
+TEST_F(ParallelLinesPicture, TakesTheColourOfALaterRowWhereTwoCross)
+{
+  table->AddColumn(makeColumn<vtkDoubleArray>("c", {0, 0, 0, 0, 0, 1, 1, 0}));
+  vtkNew<vtkLookupTable> colors;
+  colors->SetNumberOfTableValues(2);
+  colors->SetTableValue(0, 1, 0, 0, 1);
+  colors->SetTableValue(1, 0, 0, 1, 1);
+  colors->SetRange(0, 1);
+  lines->SetLookupTable(colors);
+  lines->SelectColorArray("c");
+  lines->ScalarVisibilityOn();
+  const auto pictures = paint();
+  ASSERT_EQ(pictures.size(), 1u);
+  const auto blueAt = [&](double across, double up)
+  {
+    const auto place = at(across, up);
+    return pictures[0].valueAt(place[0], place[1], 2);
+  };
+  EXPECT_GT(opacityNear(pictures[0], 0.25, 0.25), 200);
+  EXPECT_EQ(blueAt(0.25, 0.25), 0);
+  EXPECT_EQ(blueAt(0.25, 0.75), 255);
+  EXPECT_GT(blueAt(0.5, 0.5), 200);
+}
+
+TEST_F(ParallelLinesPicture, FollowsTheColumnsShown)
+{
+  const auto first = paint();
+  table->SetValueByName(0, "b", 20.0);
+  table->GetColumnByName("b")->Modified();
+  const auto second = paint();
+  EXPECT_NE(second[0].time, first[0].time);
+  chart->SetColumnVisibility("b", false);
+  EXPECT_TRUE(paint().empty()) << "one axis has no lines";
+}
+
+TEST(PaintedLines, LieOverEarlierOnesAcrossTheWholePicture)
+{
+  const std::vector<float> points{0, 5.5f, 200, 5.5f, 0, 0, 200, 11, 50, 5.5f, 150, 5.5f};
+  Talmesh::LinesToCount lines;
+  lines.points = points.data();
+  lines.runs = {{0, 2, 1}, {2, 2, 1}, {4, 2, 1}};
+  const auto image = Talmesh::paintLines(lines, {{1, 0, 0, 255}, {2, 0, 0, 255}, {3, 0, 0, 255}},
+                                         {}, 200, 11, {1.0, 1.0, 0.0});
+  const auto red = [&](int x, int y) { return image[static_cast<std::size_t>(4 * (y * 200 + x))]; };
+  const auto opacity = [&](int x, int y)
+  { return image[static_cast<std::size_t>(4 * (y * 200 + x) + 3)]; };
+  for (int x = 0; x < 200; ++x)
+  {
+    const int near = x < 40 || x > 160 ? 1 : 3;
+    const bool between = x >= 40 && x <= 52;
+    const bool beyond = x >= 148 && x <= 160;
+    EXPECT_TRUE(between || beyond || red(x, 5) == near) << x;
+    EXPECT_EQ(opacity(x, 5), 255) << x;
+  }
+  EXPECT_EQ(opacity(100, 9), 0);
+  EXPECT_EQ(red(15, 0), 2);
+  EXPECT_GT(opacity(15, 0), 150);
+}

@@ -1,0 +1,40 @@
+#ifndef ParallelLines_h
+#define ParallelLines_h
+
+#include "vtk/CachedPicture.h"
+
+#include <vtkPlotParallelCoordinates.h>
+
+namespace Talmesh
+{
+class AggregateTarget;
+
+/// A vtkPlotParallelCoordinates, by class name too, whose lines go as pictures to devices that take
+/// them of so many (vtk/AggregateDevice.h). Rows that follow each other with the same values, as
+/// those of a run over its parameters do, are then one line that counts as many times.
+class ParallelLines : public vtkPlotParallelCoordinates
+{
+public:
+  static ParallelLines* New();
+
+  bool Paint(vtkContext2D* painter) override;
+
+protected:
+  ParallelLines() = default;
+  ~ParallelLines() override = default;
+
+private:
+  ParallelLines(const ParallelLines&) = delete;
+  void operator=(const ParallelLines&) = delete;
+
+  bool HasPictures(const AggregateTarget& target);
+  vtkUnsignedCharArray* LineColors();
+  void PaintAll(vtkContext2D* painter, const AggregateTarget& target);
+  void PaintSelected(vtkContext2D* painter, const AggregateTarget& target);
+
+  CachedPicture Lines;
+  CachedPicture SelectedLines;
+};
+} // namespace Talmesh
+
+#endif
