@@ -4,6 +4,7 @@
 #include "vtk/IntervalSink.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <thread>
 
@@ -11,27 +12,41 @@ namespace Talmesh
 {
 namespace
 {
-/// Columns of pixels that are painted together. Each slice follows all lines for itself.
-std::size_t sliceOf(int width)
+/// Pixels that are painted together, of 16 bytes each: few enough for a cache, and many enough to
+/// make up for each slice's following all lines for itself.
+constexpr int pixelsOfSlice = 1 << 17;
+
+std::size_t columnsOfSlice(int width, int rows, int parts)
 {
-  const std::size_t cores = std::max(1u, std::thread::hardware_concurrency());
-  return static_cast<std::size_t>(width) / cores + 1;
+  const int cores = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+  return static_cast<std::size_t>(std::clamp(pixelsOfSlice / (rows * parts), 1, width / cores + 1));
 }
 
+/// Red, green, blue and opacity, 0 to 1, colours multiplied by the opacity.
+using Paint = std::array<float, 4>;
+
 /// Pixels in columns, painted over with one colour after another.
-class ColorColumns : public IntervalSink
+class PaintedColumns : public IntervalSink
 {
 public:
-  ColorColumns(int columns, int rowCount)
+  PaintedColumns(int columns, int rowCount, double lineOpacity)
       : rows(rowCount)
-      , pixels(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rowCount))
+      , opacity(static_cast<float>(lineOpacity))
+      , pixels(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rowCount), Paint{})
   {
   }
 
-  void setColor(const LineColor& next) { color = next; }
-
-  void add(int first, int end, const float* low, const float* high, std::int32_t) override
+  void setColor(const LineColor& next)
   {
+    for (std::size_t i = 0; i < next.size(); ++i)
+      color[i] = static_cast<float>(next[i]) / 255.0f;
+    color[3] = 1.0f;
+  }
+
+  void add(int first, int end, const float* low, const float* high, std::int32_t weight) override
+  {
+    repeats = weight;
+    whole = opacityOf(1.0f);
     for (int column = first; column < end; ++column)
     {
       const float bottom = std::max(low[column], 0.0f);
@@ -41,67 +56,70 @@ public:
     }
   }
 
-  const LineColor& at(int column, int row) const
+  const Paint& at(int column, int row) const
   {
     return pixels[static_cast<std::size_t>(column) * static_cast<std::size_t>(rows) +
                   static_cast<std::size_t>(row)];
   }
 
 private:
+  /// Of lines that cover a part of a pixel.
+  float opacityOf(float part) const
+  {
+    const float once = opacity * part;
+    return repeats == 1 ? once : 1.0f - std::pow(1.0f - once, static_cast<float>(repeats));
+  }
+
   void addTo(int column, float low, float high)
   {
-    LineColor* const pixel =
+    Paint* const pixel =
         pixels.data() + static_cast<std::size_t>(column) * static_cast<std::size_t>(rows);
     const int first = static_cast<int>(low);
     const int last = static_cast<int>(high);
     if (first == last)
-      return cover(pixel[first], high - low);
-    cover(pixel[first], static_cast<float>(first + 1) - low);
-    std::fill(pixel + first + 1, pixel + last, color);
+      return cover(pixel[first], opacityOf(high - low));
+    cover(pixel[first], opacityOf(static_cast<float>(first + 1) - low));
+    for (int row = first + 1; row < last; ++row)
+      cover(pixel[row], whole);
     if (last < rows)
-      cover(pixel[last], high - static_cast<float>(last));
+      cover(pixel[last], opacityOf(high - static_cast<float>(last)));
   }
 
-  /// Lays the colour over a part of a pixel.
-  void cover(LineColor& pixel, float part) const
+  void cover(Paint& pixel, float part) const
   {
-    if (pixel[3] == 255)
-    {
-      const int weight = static_cast<int>(256.0f * part + 0.5f);
-      for (std::size_t i = 0; i < 3; ++i)
-        pixel[i] = static_cast<unsigned char>((color[i] * weight + pixel[i] * (256 - weight)) >> 8);
-      return;
-    }
-    const float below = static_cast<float>(pixel[3]) / 255.0f * (1.0f - part);
-    const float opacity = part + below;
-    if (opacity <= 0.0f)
-      return;
-    for (std::size_t i = 0; i < 3; ++i)
-      pixel[i] =
-          static_cast<unsigned char>(std::lround((color[i] * part + pixel[i] * below) / opacity));
-    pixel[3] = static_cast<unsigned char>(std::lround(255.0f * opacity));
+    for (std::size_t i = 0; i < pixel.size(); ++i)
+      pixel[i] += part * (color[i] - pixel[i]);
   }
 
   int rows;
-  LineColor color{};
-  std::vector<LineColor> pixels;
+  float opacity;
+  Paint color{};
+  std::int32_t repeats = 1;
+  float whole = 0.0f; ///< opacity of a pixel that is covered entirely
+  std::vector<Paint> pixels;
 };
 
-/// The mean of the columns that make up one of pixels.
-void takeMean(const ColorColumns& columns, int firstPart, int parts, int row, unsigned char* pixel)
+unsigned char levelOf(float part)
 {
-  unsigned opacity = 0;
-  unsigned sums[3] = {0, 0, 0};
+  return static_cast<unsigned char>(std::lround(255.0f * std::clamp(part, 0.0f, 1.0f)));
+}
+
+/// The mean of the columns that make up one of pixels.
+void takeMean(const PaintedColumns& columns, int firstPart, int parts, int row,
+              unsigned char* pixel)
+{
+  Paint sum{};
   for (int part = firstPart; part < firstPart + parts; ++part)
   {
-    const LineColor& color = columns.at(part, row);
-    opacity += color[3];
-    for (std::size_t i = 0; i < 3; ++i)
-      sums[i] += color[i] * color[3];
+    const Paint& paint = columns.at(part, row);
+    for (std::size_t i = 0; i < sum.size(); ++i)
+      sum[i] += paint[i];
   }
+  if (sum[3] <= 0.0f)
+    return;
   for (std::size_t i = 0; i < 3; ++i)
-    pixel[i] = static_cast<unsigned char>(opacity == 0 ? 0 : (sums[i] + opacity / 2) / opacity);
-  pixel[3] = static_cast<unsigned char>(opacity / static_cast<unsigned>(parts));
+    pixel[i] = levelOf(sum[i] / sum[3]);
+  pixel[3] = levelOf(sum[3] / static_cast<float>(parts));
 }
 } // namespace
 
@@ -116,7 +134,7 @@ std::vector<unsigned char> paintLines(const LinesToCount& lines,
   const auto paintSlice = [&](std::size_t first, std::size_t end)
   {
     const int columns = static_cast<int>(end - first);
-    ColorColumns painted(parts * columns, height);
+    PaintedColumns painted(parts * columns, height, pen.opacity);
     RunTracer tracer(painted, parts * columns, height, {pen.width, pen.dotSize, parts});
     PixelMap moved = map;
     moved.shiftX -= static_cast<double>(first);
@@ -134,7 +152,8 @@ std::vector<unsigned char> paintLines(const LinesToCount& lines,
         takeMean(painted, parts * column, parts, row, pixels + 4 * column);
     }
   };
-  stats::inParallelParts(static_cast<std::size_t>(width), sliceOf(width), paintSlice);
+  stats::inParallelParts(static_cast<std::size_t>(width), columnsOfSlice(width, height, parts),
+                         paintSlice);
   return image;
 }
 } // namespace Talmesh

@@ -129,15 +129,6 @@ CachedPicture::Pixels count(RowLines& rows, vtkPen* pen, const AggregateTarget& 
       pen);
 }
 
-bool areOpaque(vtkUnsignedCharArray* colors)
-{
-  for (vtkIdType i = 3; i < colors->GetNumberOfValues(); i += 4)
-  {
-    if (colors->GetValue(i) != 255)
-      return false;
-  }
-  return true;
-}
 } // namespace
 
 vtkStandardNewMacro(ParallelLines);
@@ -156,8 +147,7 @@ bool ParallelLines::HasPictures(const AggregateTarget& target)
   return this->Visible && table && this->Pen->GetLineType() == vtkPen::SOLID_LINE &&
          !target.wantsShapes(Shapes::Bundle, table->GetNumberOfRows()) &&
          axesOf(this, table).size() > 1 &&
-         (!colors ||
-          (colors->GetNumberOfTuples() >= table->GetNumberOfRows() && areOpaque(colors)));
+         (!colors || colors->GetNumberOfTuples() >= table->GetNumberOfRows());
 }
 
 bool ParallelLines::Paint(vtkContext2D* painter)
@@ -186,8 +176,9 @@ void ParallelLines::PaintAll(vtkContext2D* painter, const AggregateTarget& targe
                       LineColor color{};
                       for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
                       {
+                        // Lines have the pen's opacity in any colour.
                         if (colors)
-                          colors->GetTypedTuple(row, color.data());
+                          std::copy_n(colors->GetPointer(4 * row), color.size(), color.data());
                         rows.add(row, color);
                       }
                       if (!colors)

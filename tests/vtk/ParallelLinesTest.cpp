@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 #include "VtkTestSupport.h"
 
@@ -164,10 +165,14 @@ TEST_F(ParallelLinesPicture, TakesTheColourOfALaterRowWhereTwoCross)
     const auto place = at(across, up);
     return pictures[0].valueAt(place[0], place[1], 2);
   };
-  EXPECT_GT(opacityNear(pictures[0], 0.25, 0.25), 200);
+  // Colours have the pen's opacity: five red lines, two blue ones, and those over these.
+  const double left = 1 - 25 / 255.0;
+  EXPECT_NEAR(opacityNear(pictures[0], 0.25, 0.25), 255 * (1 - std::pow(left, 5)), 1);
   EXPECT_EQ(blueAt(0.25, 0.25), 0);
+  EXPECT_NEAR(opacityNear(pictures[0], 0.25, 0.75), 255 * (1 - std::pow(left, 2)), 1);
   EXPECT_EQ(blueAt(0.25, 0.75), 255);
-  EXPECT_GT(blueAt(0.5, 0.5), 200);
+  // Red over blue would be 55. The lines cover the pixels around their crossing only in part.
+  EXPECT_NEAR(blueAt(0.5, 0.5), 255 * (1 - std::pow(left, 2)) / (1 - std::pow(left, 7)), 20);
 }
 
 TEST_F(ParallelLinesPicture, FollowsTheColumnsShown)
@@ -187,8 +192,8 @@ TEST(PaintedLines, LieOverEarlierOnesAcrossTheWholePicture)
   Talmesh::LinesToCount lines;
   lines.points = points.data();
   lines.runs = {{0, 2, 1}, {2, 2, 1}, {4, 2, 1}};
-  const auto image = Talmesh::paintLines(lines, {{1, 0, 0, 255}, {2, 0, 0, 255}, {3, 0, 0, 255}},
-                                         {}, 200, 11, {1.0, 1.0, 0.0});
+  const auto image =
+      Talmesh::paintLines(lines, {{1, 0, 0}, {2, 0, 0}, {3, 0, 0}}, {}, 200, 11, {1.0, 1.0, 0.0});
   const auto red = [&](int x, int y) { return image[static_cast<std::size_t>(4 * (y * 200 + x))]; };
   const auto opacity = [&](int x, int y)
   { return image[static_cast<std::size_t>(4 * (y * 200 + x) + 3)]; };
@@ -203,4 +208,27 @@ TEST(PaintedLines, LieOverEarlierOnesAcrossTheWholePicture)
   EXPECT_EQ(opacity(100, 9), 0);
   EXPECT_EQ(red(15, 0), 2);
   EXPECT_GT(opacity(15, 0), 150);
+}
+
+TEST(PaintedLines, BlendEachLineOverThoseBefore)
+{
+  // A level pixel of half opacity: 60, then 200 three times, then the half of it 100.
+  const std::vector<float> points{-5, 1.5f, 20, 1.5f, -5, 1.5f, 20, 1.5f, -5, 2.0f, 20, 2.0f};
+  Talmesh::LinesToCount lines;
+  lines.points = points.data();
+  lines.runs = {{0, 2, 1}, {2, 2, 3}, {4, 2, 1}};
+  const auto image =
+      Talmesh::paintLines(lines, {{60, 0, 0}, {200, 0, 0}, {100, 0, 0}}, {}, 9, 4, {1.0, 0.5, 0.0});
+  double opacity = 0.5;
+  double red = 60 * opacity;
+  for (const auto& [color, part] : {std::pair(200.0, 1 - 0.125), std::pair(100.0, 0.25)})
+  {
+    red += part * (color - red);
+    opacity += part * (1 - opacity);
+  }
+  const std::size_t pixel = 4 * (1 * 9 + 4);
+  EXPECT_NEAR(image[pixel], red / opacity, 0.51);
+  EXPECT_NEAR(image[pixel + 3], 255 * opacity, 0.51);
+  EXPECT_NEAR(image[pixel + 4 * 9], 100, 0.51);
+  EXPECT_NEAR(image[pixel + 4 * 9 + 3], 255 * 0.25, 0.51);
 }
