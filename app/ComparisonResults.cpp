@@ -97,15 +97,16 @@ TestObstacle obstacleIn(const PlotContainer& container, const GroupOfRuns& group
 {
   const int index = container.getMetaData()->parameterColumns[k];
   auto* column = vtkDataArray::SafeDownCast(plot::columnAt(group.rows, index));
-  if (!column)
+  const std::optional<std::size_t> values =
+      plot::rankedValueCount(group.ranks, plot::parameterLabel(container.state(), k));
+  if (!column || !values)
     return TestObstacle::missingValues;
-  const std::vector<double> values = plot::distinctValues(column);
   // Missing values do not count as distinct ones.
-  if (values.size() < group.runs)
+  if (*values < group.runs)
     return lacksAValue(column) ? TestObstacle::missingValues : TestObstacle::repeatedValues;
-  if (values.size() > group.runs)
+  if (*values > group.runs)
     return TestObstacle::changingValues;
-  const bool filledUp = static_cast<std::size_t>(group.ranks->GetNumberOfRows()) != values.size();
+  const bool filledUp = static_cast<std::size_t>(group.ranks->GetNumberOfRows()) != *values;
   return filledUp ? TestObstacle::otherParameter : TestObstacle::none;
 }
 

@@ -3,7 +3,6 @@
 #include "app/RunGrouping.h"
 #include "app/RunTableBuilder.h"
 #include "app/SelectionMarks.h"
-#include "app/TableText.h"
 #include "app/TranslatedText.h"
 #include "app/Utf8Text.h"
 
@@ -155,9 +154,10 @@ bool hasNumbers(const TableText& text)
 
 } // namespace
 
-ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress)
+ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress,
+                             const TextPassed& passed)
 {
-  TableText text = readTableText(bytes, progress);
+  TableText text = readTableText(bytes, progress, passed);
   ImportedTable imported;
   imported.cancelled = text.cancelled;
   imported.error = std::move(text.error);

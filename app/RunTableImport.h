@@ -2,6 +2,7 @@
 #define RunTableImport_h
 
 #include "app/ImportProgress.h"
+#include "app/TableText.h"
 #include "external/LinePlotTable.h"
 
 #include <vtkSmartPointer.h>
@@ -48,8 +49,10 @@ struct ImportedTable
 ///
 /// The progress is told every few thousand rows.
 ///
-/// Needs memory in proportion to the size of the text. Touches no object of other threads.
-ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress = {});
+/// Needs memory in proportion to the size of the text, which it lets go as TextPassed says. Touches
+/// no object of other threads.
+ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress = {},
+                             const TextPassed& passed = {});
 
 } // namespace Talmesh::app
 

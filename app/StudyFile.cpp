@@ -8,8 +8,11 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdint>
 #include <exception>
 #include <new>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace Talmesh::app
 {
@@ -79,11 +82,46 @@ FileBytes readBytes(const QString& path, const ImportProgress& progress)
   return read;
 }
 
-OpenedStudy openBytes(const FileBytes& read, const ImportProgress& progress)
+/// Gives the memory of a text back to the system while it is read, so that a table is not held
+/// twice, as text and as numbers. What was passed reads as zeros from then on.
+class PassedPages
+{
+public:
+  explicit PassedPages(std::string& text)
+      : given(addressOf(text.data()) + pageSize - 1)
+      , begin(addressOf(text.data()))
+  {
+    given -= given % pageSize;
+  }
+
+  void pass(std::size_t bytes)
+  {
+    const std::uintptr_t end = (begin + bytes) / pageSize * pageSize;
+    if (end < given + static_cast<std::uintptr_t>(chunk))
+      return;
+    // A system that cannot do it keeps the text until it has been read.
+    ::madvise(reinterpret_cast<void*>(given), end - given, MADV_DONTNEED);
+    given = end;
+  }
+
+private:
+  static std::uintptr_t addressOf(const char* byte)
+  {
+    return reinterpret_cast<std::uintptr_t>(byte);
+  }
+
+  const std::uintptr_t pageSize = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+  std::uintptr_t given; ///< the first page that is still there
+  std::uintptr_t begin;
+};
+
+OpenedStudy openBytes(FileBytes& read, const ImportProgress& progress)
 {
   const auto parsing = [&progress](double done)
   { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
-  ImportedTable imported = importRunTable(read.bytes, parsing);
+  PassedPages pages(read.bytes);
+  ImportedTable imported =
+      importRunTable(read.bytes, parsing, [&pages](std::size_t bytes) { pages.pass(bytes); });
   OpenedStudy opened;
   opened.study.runs = imported.runs;
   opened.study.table = imported.table;
@@ -109,7 +147,7 @@ OpenedStudy open(const QString& path, const ImportProgress& progress)
 {
   if (isSessionFile(path))
     return openFromSession(path, progress);
-  const FileBytes read = readBytes(path, progress);
+  FileBytes read = readBytes(path, progress);
   OpenedStudy opened;
   opened.error = read.error;
   opened.cancelled = read.cancelled;

@@ -16,6 +16,8 @@ namespace
 {
 
 constexpr std::size_t rowsBetweenReports = 2000;
+/// The first rows may be longer than those behind them.
+constexpr double reservedShare = 1.1;
 constexpr std::size_t longestNote = 80;
 
 std::string unreadable(std::string_view bytes)
@@ -86,11 +88,13 @@ std::string ambiguousCell(const std::vector<ColumnValues>& columns)
 class TableTextReader
 {
 public:
-  TableTextReader(std::string_view text_, const std::function<bool(double)>& progress_)
+  TableTextReader(std::string_view text_, const ImportProgress& progress_,
+                  const TextPassed& passed_)
       : text(text_)
       , delimiter(detectDelimiter(text_))
       , records(text_, delimiter)
       , progress(progress_)
+      , passed(passed_)
   {
   }
 
@@ -157,6 +161,8 @@ private:
         continue;
       else if (rowFits())
         readRow();
+      if (table.rows == rowsBetweenReports)
+        reserveRows();
       if (table.rows % rowsBetweenReports == 0 && !report())
         return;
     }
@@ -164,8 +170,24 @@ private:
       table.error = translated("TableText", "the table has no rows below its headers");
   }
 
+  /// Columns that grow as they fill hold up to three times what they need. Memory that is asked for
+  /// in vain is never touched.
+  void reserveRows()
+  {
+    const double part = static_cast<double>(records.position()) / static_cast<double>(text.size());
+    const auto rows =
+        static_cast<std::size_t>(reservedShare * static_cast<double>(table.rows) / part);
+    for (ColumnValues& column : table.columns)
+      column.values.reserve(rows);
+    for (RunNames& candidate : candidates)
+      candidate.runOfRow.reserve(rows);
+    table.lines.reserve(rows);
+  }
+
   bool report()
   {
+    if (passed)
+      passed(records.position());
     table.cancelled = progress && !progress(static_cast<double>(records.position()) /
                                             static_cast<double>(text.size()));
     return !table.cancelled;
@@ -245,7 +267,8 @@ private:
   std::string_view text;
   char delimiter;
   DelimitedText records;
-  const std::function<bool(double)>& progress;
+  const ImportProgress& progress;
+  const TextPassed& passed;
   std::vector<std::string_view> fields;
   /// One for each of the roles' run candidates.
   std::vector<RunNames> candidates;
@@ -254,13 +277,14 @@ private:
 
 } // namespace
 
-TableText readTableText(std::string_view bytes, const std::function<bool(double)>& progress)
+TableText readTableText(std::string_view bytes, const ImportProgress& progress,
+                        const TextPassed& passed)
 {
   TableText table;
   table.error = unreadable(bytes);
   if (!table.error.empty())
     return table;
-  return TableTextReader(withoutByteOrderMark(bytes), progress).read();
+  return TableTextReader(withoutByteOrderMark(bytes), progress, passed).read();
 }
 
 } // namespace Talmesh::app

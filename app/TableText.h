@@ -2,6 +2,7 @@
 #define TableText_h
 
 #include "app/ColumnRoles.h"
+#include "app/ImportProgress.h"
 
 #include <cstddef>
 #include <functional>
@@ -51,11 +52,15 @@ struct TableText
   bool cancelled = false;
 };
 
+/// Told how many bytes of a text, from its first one on, will not be looked at again.
+using TextPassed = std::function<void(std::size_t)>;
+
 /// Reads headers and cells. Every row must have as many fields as there are headers; empty fields
 /// beyond them and, in a table of several columns, blank rows, as spreadsheets leave them, are
 /// ignored. A column with a name of runs whose cells are numbers, not all of them whole, does not
 /// name runs, and the next one with such a name does.
-TableText readTableText(std::string_view bytes, const std::function<bool(double)>& progress);
+TableText readTableText(std::string_view bytes, const ImportProgress& progress,
+                        const TextPassed& passed = {});
 
 } // namespace Talmesh::app
 

@@ -1,16 +1,15 @@
-#include <QVTKOpenGLNativeWidget.h>
+#include "BenchMain.h"
 
 #include <QApplication>
-#include <QSurfaceFormat>
 
 #include <benchmark/benchmark.h>
 
 int main(int argc, char** argv)
 {
+  prepareProgram();
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv))
     return 1;
-  QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
   QApplication application(argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();

@@ -1,5 +1,6 @@
 #include "BenchWindow.h"
 
+#include "app/PictureFile.h"
 #include "external/PlotMetaData.h"
 #include "plot/SelectionNodes.h"
 
@@ -10,6 +11,7 @@
 #include <boost/make_shared.hpp>
 
 #include <QCoreApplication>
+#include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QSignalBlocker>
@@ -18,6 +20,7 @@
 #include <string>
 
 #include "BenchRuns.h"
+#include "FrameBenchmarks.h"
 
 namespace
 {
@@ -86,6 +89,28 @@ BenchWindow::BenchWindow(int runCount, int pointCount, int parameters, plotStyle
   paint(true);
 }
 
+void BenchWindow::showComparison(int runCount)
+{
+  show(benchTable(runCount, FrameBenchmarks::pointsOfPages, FrameBenchmarks::comparedParameters),
+       selectionCdfPlot);
+}
+
+void BenchWindow::prepare(int runCount, int pointCount)
+{
+  constexpr int parameters = 3;
+  prepared = benchTable(runCount, pointCount, parameters);
+}
+
+void BenchWindow::showPrepared()
+{
+  show(prepared, xyPlot);
+}
+
+std::string BenchWindow::exportPdf(const QString& path)
+{
+  return Talmesh::app::exportPlot(widget, path);
+}
+
 void BenchWindow::show(const boost::shared_ptr<LinePlotTable>& table, plotStyles style)
 {
   runs = static_cast<int>(table->numberOfTrajectories);
@@ -120,6 +145,36 @@ vtkSmartPointer<vtkSelection> BenchWindow::runsOf(int choice) const
 void BenchWindow::select(int choice)
 {
   container.getAnnotationLink()->SetCurrentSelection(runsOf(choice));
+}
+
+QRect BenchWindow::dataArea()
+{
+  const int* corner = container.getChartXY()->GetPoint1();
+  const int* opposite = container.getChartXY()->GetPoint2();
+  return {QPoint(corner[0], widget.height() - opposite[1]),
+          QPoint(opposite[0], widget.height() - corner[1])};
+}
+
+void BenchWindow::sendMouse(QEvent::Type type, const QPoint& place, Qt::MouseButton button,
+                            Qt::MouseButtons buttons)
+{
+  QMouseEvent event(type, place, widget.mapToGlobal(place), button, buttons, Qt::NoModifier);
+  QCoreApplication::sendEvent(&widget, &event);
+}
+
+void BenchWindow::drag()
+{
+  const QRect area = dataArea().adjusted(1, 1, -1, -1);
+  sendMouse(QEvent::MouseButtonPress, area.topLeft(), Qt::RightButton, Qt::RightButton);
+  sendMouse(QEvent::MouseMove, area.bottomRight(), Qt::NoButton, Qt::RightButton);
+  QCoreApplication::processEvents();
+}
+
+void BenchWindow::release()
+{
+  const QPoint place = dataArea().adjusted(1, 1, -1, -1).bottomRight();
+  sendMouse(QEvent::MouseButtonRelease, place, Qt::RightButton, Qt::NoButton);
+  QCoreApplication::processEvents();
 }
 
 void BenchWindow::zoom(int step)

@@ -1,9 +1,12 @@
-#include <QApplication>
 #include <qcustomplot.h>
 
-#include <benchmark/benchmark.h>
+#include <algorithm>
+#include <string>
+#include <vector>
 
+#include "BenchMain.h"
 #include "BenchRuns.h"
+#include "FrameBenchmarks.h"
 
 /// QCustomPlot with the same runs: one graph each, with its default settings but for the legend,
 /// which would list every graph.
@@ -12,16 +15,6 @@ namespace
 
 const QColor selectedColour(255, 50, 0, 150);
 constexpr double selectedWidth = 3.7;
-
-int runsOf(const benchmark::State& state)
-{
-  return static_cast<int>(state.range(0));
-}
-
-int pointsOf(const benchmark::State& state)
-{
-  return static_cast<int>(state.range(1));
-}
 
 class Window
 {
@@ -33,47 +26,58 @@ public:
     plot.setInteractions(QCP::iSelectPlottables);
     plot.show();
     QCoreApplication::processEvents();
-    paint();
+    paint(true);
   }
 
   Window(int runs, int points)
       : Window()
   {
-    addGraphs(runs, plot.xAxis, plot.yAxis);
-    setData(runs, points);
-    paint();
+    prepare(runs, points);
+    showPrepared();
+    paint(true);
   }
 
-  void addGraphs(int runs, QCPAxis* x, QCPAxis* y)
+  /// The graphs are there already when data are handed over, as a client would keep them.
+  void prepare(int runs, int points)
   {
+    while (plot.graphCount() < runs)
+      addRun();
+    times.resize(points);
+    for (int point = 0; point < points; ++point)
+      times[point] = timeOf(point, points);
+    waves.clear();
     for (int run = 0; run < runs; ++run)
     {
-      QCPGraph* graph = plot.addGraph(x, y);
-      graph->setSelectable(QCP::stWhole);
-      graph->selectionDecorator()->setPen(QPen(selectedColour, selectedWidth));
+      const std::vector<double> wave = waveOf(run, points);
+      waves.emplace_back(wave.begin(), wave.end());
     }
   }
 
-  void setData(int runs, int points)
+  void showPrepared()
   {
-    QVector<double> times(points);
-    for (int point = 0; point < points; ++point)
-      times[point] = timeOf(point, points);
-    for (int run = 0; run < runs; ++run)
-      plot.graph(run)->setData(times, waves.empty() ? madeWave(run, points) : waves[run], true);
+    for (std::size_t run = 0; run < waves.size(); ++run)
+      plot.graph(static_cast<int>(run))->setData(times, waves[run], true);
     plot.xAxis->setRange(0.0, timeSpan);
     plot.yAxis->setRange(-2.1, 2.1);
   }
 
-  /// Makes the data beforehand, so that only their handing over is measured.
-  void prepare(int runs, int points)
+  void showComparison(int runs)
   {
-    waves.clear();
-    for (int run = 0; run < runs; ++run)
-      waves.push_back(madeWave(run, points));
+    prepare(runs, FrameBenchmarks::pointsOfPages);
+    showPrepared();
+    // The runs in one row of their own, as wide as the window.
+    QCPLayoutGrid* grid = plot.plotLayout();
+    QCPAxisRect* main = plot.axisRect();
+    grid->take(main);
+    auto* row = new QCPLayoutGrid;
+    grid->addElement(0, 0, row);
+    row->addElement(0, 0, main);
+    for (int p = 0; p < FrameBenchmarks::comparedParameters; ++p)
+      addDistributions(p, runs);
   }
 
-  void paint()
+  /// QCustomPlot draws anew whether anything has changed or not.
+  void paint(bool)
   {
     plot.replot(QCustomPlot::rpImmediateRefresh);
     plot.repaint();
@@ -81,7 +85,7 @@ public:
 
   void select(int choice)
   {
-    for (int run = 0; run < plot.graphCount(); ++run)
+    for (int run = 0; run < static_cast<int>(waves.size()); ++run)
     {
       const QCPDataRange all(0, plot.graph(run)->dataCount());
       plot.graph(run)->setSelection(
@@ -96,187 +100,50 @@ public:
     plot.yAxis->setRange(window.yMin, window.yMax);
   }
 
-  QCustomPlot plot;
+  std::string exportPdf(const QString& path)
+  {
+    return plot.savePdf(path) ? "" : "the PDF could not be written";
+  }
 
 private:
-  static QVector<double> madeWave(int run, int points)
+  void addRun()
   {
-    const std::vector<double> wave = waveOf(run, points);
-    return QVector<double>(wave.begin(), wave.end());
+    QCPGraph* graph = plot.addGraph();
+    graph->setSelectable(QCP::stWhole);
+    graph->selectionDecorator()->setPen(QPen(selectedColour, selectedWidth));
   }
 
-  std::vector<QVector<double>> waves;
-};
-
-void emptyFrame(benchmark::State& state)
-{
-  Window window;
-  for (auto _ : state)
-    window.paint();
-}
-BENCHMARK(emptyFrame)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(20);
-
-/// QCustomPlot draws anew whether anything has changed or not.
-void steadyFrame(benchmark::State& state)
-{
-  Window window(runsOf(state), pointsOf(state));
-  for (auto _ : state)
-    window.paint();
-}
-
-void unchangedFrame(benchmark::State& state)
-{
-  steadyFrame(state);
-}
-
-void steadyFrameOfSelection(benchmark::State& state)
-{
-  Window window(runsOf(state), pointsOf(state));
-  window.select(0);
-  for (auto _ : state)
-    window.paint();
-}
-
-void zoomedFrame(benchmark::State& state)
-{
-  Window window(runsOf(state), pointsOf(state));
-  int step = 0;
-  for (auto _ : state)
+  /// A small chart beneath the runs with two distributions and two densities as long as those of
+  /// the page that compares runs.
+  void addDistributions(int parameter, int runs)
   {
-    window.zoom(++step);
-    window.paint();
-  }
-}
-
-void selectedFrame(benchmark::State& state)
-{
-  Window window(runsOf(state), pointsOf(state));
-  window.select(0);
-  window.paint();
-  int choice = 0;
-  for (auto _ : state)
-  {
-    window.select(++choice);
-    window.paint();
-  }
-}
-
-/// The graphs are there already, as a client would keep them.
-void firstFrame(benchmark::State& state)
-{
-  Window window;
-  window.addGraphs(runsOf(state), window.plot.xAxis, window.plot.yAxis);
-  window.prepare(runsOf(state), pointsOf(state));
-  for (auto _ : state)
-  {
-    window.setData(runsOf(state), pointsOf(state));
-    window.paint();
-  }
-}
-
-void studies(benchmark::internal::Benchmark* benchmark)
-{
-  benchmark->Args({500, 200})->Args({5000, 200})->Args({5000, 1000})->Args({50000, 200});
-  benchmark->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
-}
-BENCHMARK(unchangedFrame)->Apply(studies);
-BENCHMARK(steadyFrame)->Apply(studies);
-BENCHMARK(steadyFrameOfSelection)->Apply(studies);
-BENCHMARK(zoomedFrame)->Apply(studies);
-BENCHMARK(selectedFrame)->Apply(studies);
-BENCHMARK(firstFrame)->Apply(studies);
-
-constexpr int parameters = 30;
-constexpr int columns = 6;
-
-/// A small chart per parameter beneath the runs, each with two distributions and two densities as
-/// long as those of the page that compares runs.
-void addDistributions(Window& window, int runs)
-{
-  QCPLayoutGrid* grid = window.plot.plotLayout();
-  for (int p = 0; p < parameters; ++p)
-  {
-    auto* rect = new QCPAxisRect(&window.plot);
-    grid->addElement(1 + p / columns, p % columns, rect);
+    constexpr int columns = 6;
+    auto* rect = new QCPAxisRect(&plot);
+    plot.plotLayout()->addElement(1 + parameter / columns, parameter % columns, rect);
     for (const int count : {runs - runs / 10, runs / 10, 200, 200})
     {
       QVector<double> x(count);
       QVector<double> y(count);
       for (int i = 0; i < count; ++i)
       {
-        x[i] = parameterOf(i, p);
+        x[i] = parameterOf(i, parameter);
         y[i] = (i + 1.0) / count;
       }
       std::sort(x.begin(), x.end());
-      QCPGraph* graph =
-          window.plot.addGraph(rect->axis(QCPAxis::atBottom), rect->axis(QCPAxis::atLeft));
+      QCPGraph* graph = plot.addGraph(rect->axis(QCPAxis::atBottom), rect->axis(QCPAxis::atLeft));
       graph->setData(x, y, true);
       graph->rescaleAxes(true);
     }
   }
-}
 
-void comparison(benchmark::State& state, bool selecting)
-{
-  Window window(runsOf(state), 200);
-  // The runs in one row of their own, as wide as the window.
-  QCPLayoutGrid* grid = window.plot.plotLayout();
-  QCPAxisRect* main = window.plot.axisRect();
-  grid->take(main);
-  auto* row = new QCPLayoutGrid;
-  grid->addElement(0, 0, row);
-  row->addElement(0, 0, main);
-  addDistributions(window, runsOf(state));
-  if (selecting)
-    window.select(0);
-  window.paint();
-  for (auto _ : state)
-    window.paint();
-}
-
-void comparisonFrame(benchmark::State& state)
-{
-  comparison(state, false);
-}
-BENCHMARK(comparisonFrame)->Arg(5000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
-
-void comparisonFrameOfSelection(benchmark::State& state)
-{
-  comparison(state, true);
-}
-BENCHMARK(comparisonFrameOfSelection)
-    ->Arg(5000)
-    ->Unit(benchmark::kMillisecond)
-    ->UseRealTime()
-    ->Iterations(3);
-
-void exportPdf(benchmark::State& state)
-{
-  Window window(runsOf(state), 200);
-  window.select(0);
-  QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("plot.pdf"));
-  for (auto _ : state)
-    if (!window.plot.savePdf(path))
-      state.SkipWithError("the PDF could not be written");
-  state.counters["bytes"] = static_cast<double>(QFileInfo(path).size());
-}
-BENCHMARK(exportPdf)
-    ->Arg(500)
-    ->Arg(5000)
-    ->Unit(benchmark::kMillisecond)
-    ->UseRealTime()
-    ->Iterations(1);
+  QCustomPlot plot;
+  QVector<double> times;
+  std::vector<QVector<double>> waves;
+};
 
 } // namespace
 
-int main(int argc, char** argv)
+void prepareProgram()
 {
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv))
-    return 1;
-  QApplication application(argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
+  FrameBenchmarks::add<Window>();
 }

@@ -1,54 +1,26 @@
-#include "app/PictureFile.h"
 #include "app/Study.h"
 #include "external/PlotMetaData.h"
 #include "plot/DerivedTables.h"
 
-#include <QApplication>
-#include <QFileInfo>
-#include <QMouseEvent>
-#include <QTemporaryDir>
-
 #include <benchmark/benchmark.h>
-#include <fstream>
-#include <string>
 
 #include "BenchWindow.h"
+#include "FrameBenchmarks.h"
+#include "ProcessMemory.h"
 
 namespace
 {
 
-constexpr int parameters = 30;
+using FrameBenchmarks::comparedParameters;
+using FrameBenchmarks::pointsOfPages;
 /// With the wave, the time and the run index these are 32 columns.
 constexpr int parametersOf32Columns = 29;
-
-/// The page that compares the selected runs with the others, painted once more.
-void comparisonFrame(benchmark::State& state)
-{
-  BenchWindow window(static_cast<int>(state.range(0)), 200, parameters, selectionCdfPlot);
-  for (auto _ : state)
-    window.paint(true);
-}
-BENCHMARK(comparisonFrame)->Arg(5000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
-
-/// The same with every tenth run selected.
-void comparisonFrameOfSelection(benchmark::State& state)
-{
-  BenchWindow window(static_cast<int>(state.range(0)), 200, parameters, selectionCdfPlot);
-  window.select(0);
-  window.paint(true);
-  for (auto _ : state)
-    window.paint(true);
-}
-BENCHMARK(comparisonFrameOfSelection)
-    ->Arg(5000)
-    ->Unit(benchmark::kMillisecond)
-    ->UseRealTime()
-    ->Iterations(3);
 
 /// From another selection to the finished page.
 void comparisonOfSelection(benchmark::State& state)
 {
-  BenchWindow window(static_cast<int>(state.range(0)), 200, parameters, selectionCdfPlot);
+  BenchWindow window;
+  window.showComparison(static_cast<int>(state.range(0)));
   window.select(0);
   window.paint(true);
   int choice = 0;
@@ -68,7 +40,7 @@ BENCHMARK(comparisonOfSelection)
 void selectionStatistics(benchmark::State& state)
 {
   using Talmesh::plot::rankSlot;
-  BenchWindow window(static_cast<int>(state.range(0)), 2, parameters);
+  BenchWindow window(static_cast<int>(state.range(0)), 2, comparedParameters);
   window.select(0);
   const auto tables = window.container.getDerivedTables();
   const auto selected = tables.at(rankSlot(1) - 1);
@@ -82,31 +54,18 @@ void selectionStatistics(benchmark::State& state)
 }
 BENCHMARK(selectionStatistics)->Arg(5000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void sendMouse(QWidget& widget, QEvent::Type type, const QPoint& place, Qt::MouseButton button,
-               Qt::MouseButtons buttons)
-{
-  QMouseEvent event(type, place, widget.mapToGlobal(place), button, buttons, Qt::NoModifier);
-  QApplication::sendEvent(&widget, &event);
-}
-
 /// From the release of the mouse, which has drawn a rectangle over all rows, to the picture.
 void brush(benchmark::State& state)
 {
-  BenchWindow window(static_cast<int>(state.range(0) / 200), 200);
-  QWidget& plot = window.widget;
-  const QPoint from(120, 60);
-  const QPoint to(plot.width() - 60, plot.height() - 100);
+  BenchWindow window(static_cast<int>(state.range(0) / pointsOfPages), pointsOfPages);
   for (auto _ : state)
   {
     state.PauseTiming();
     window.select(0);
     window.paint(true);
-    sendMouse(plot, QEvent::MouseButtonPress, from, Qt::RightButton, Qt::RightButton);
-    sendMouse(plot, QEvent::MouseMove, to, Qt::NoButton, Qt::RightButton);
-    QCoreApplication::processEvents();
+    window.drag();
     state.ResumeTiming();
-    sendMouse(plot, QEvent::MouseButtonRelease, to, Qt::RightButton, Qt::NoButton);
-    QCoreApplication::processEvents();
+    window.release();
     window.paint(true);
   }
 }
@@ -134,20 +93,6 @@ BENCHMARK(parallelCoordinatesOfExample)
     ->UseRealTime()
     ->Iterations(2);
 
-/// Bytes of a line of /proc/self/status.
-double statusOf(const std::string& name)
-{
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  while (status >> word)
-  {
-    double kilobytes = 0.0;
-    if (word == name + ":" && status >> kilobytes)
-      return 1024.0 * kilobytes;
-  }
-  return 0.0;
-}
-
 /// The most memory above that of an empty window while a table of 32 columns is shown and runs of
 /// it are selected. Says something only in a process that measures nothing else.
 void peakMemory(benchmark::State& state)
@@ -155,41 +100,19 @@ void peakMemory(benchmark::State& state)
   for (auto _ : state)
   {
     BenchWindow window;
-    const double before = statusOf("VmRSS");
-    std::ofstream("/proc/self/clear_refs") << 5;
-    window.show(benchTable(static_cast<int>(state.range(0)), 200, parametersOf32Columns),
+    const ProcessMemory memory;
+    window.show(benchTable(static_cast<int>(state.range(0)), pointsOfPages, parametersOf32Columns),
                 selectionCdfPlot);
     window.paint(true);
-    window.select(0);
-    window.paint(true);
-    const double table = 32.0 * 200.0 * 8.0 * static_cast<double>(state.range(0));
-    state.counters["bytes"] = statusOf("VmHWM") - before;
-    state.counters["tables"] = (statusOf("VmHWM") - before) / table;
+    for (const int choice : {0, 1})
+    {
+      window.select(choice);
+      window.paint(true);
+    }
+    memory.report(state,
+                  std::size_t{32} * pointsOfPages * static_cast<std::size_t>(state.range(0)));
   }
 }
 BENCHMARK(peakMemory)->Arg(5000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1);
-
-/// Writing the picture of a selection as PDF.
-void exportPdf(benchmark::State& state)
-{
-  BenchWindow window(static_cast<int>(state.range(0)), 200);
-  window.select(0);
-  window.paint(true);
-  QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("plot.pdf"));
-  for (auto _ : state)
-  {
-    const std::string error = Talmesh::app::exportPlot(window.widget, path);
-    if (!error.empty())
-      state.SkipWithError(error.c_str());
-  }
-  state.counters["bytes"] = static_cast<double>(QFileInfo(path).size());
-}
-BENCHMARK(exportPdf)
-    ->Arg(500)
-    ->Arg(5000)
-    ->Unit(benchmark::kMillisecond)
-    ->UseRealTime()
-    ->Iterations(1);
 
 } // namespace

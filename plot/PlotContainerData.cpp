@@ -57,6 +57,9 @@ void PlotContainer::setLinePlotTable(boost::shared_ptr<LinePlotTable> table, boo
   const Talmesh::plot::SettingsSilence silence(*d);
   // The table in use still points into the one held so far.
   table.swap(d->linePlotTable);
+  // Before the update, which ranks with the stride it finds and sets that of the table last: ranks
+  // of every row would take twice the table's memory, only to be made again by the redraw.
+  d->metaData->setStride(static_cast<int>(d->linePlotTable->pointsPerTrajectory));
   updateFromLinePlotTable(false);
   Talmesh::plot::chooseLineTableColumns(*d);
   if (quartiles)

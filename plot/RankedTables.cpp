@@ -9,6 +9,9 @@
 #include "stats/ParallelParts.h"
 #include "stats/RankedParameter.h"
 
+#include <vtkFieldData.h>
+#include <vtkIdTypeArray.h>
+
 #include <algorithm>
 #include <iostream>
 #include <optional>
@@ -38,6 +41,17 @@ std::vector<double> thinnedValues(vtkDataArray* column, int stride)
   return stats::thinnedValues(static_cast<std::size_t>(column->GetNumberOfTuples()), stride,
                               [column](std::size_t row)
                               { return column->GetComponent(static_cast<vtkIdType>(row), 0); });
+}
+
+/// As every slot but 0 takes them: ascending, each once.
+std::vector<double> distinctValues(vtkDataArray* column)
+{
+  const auto rows = static_cast<std::size_t>(column->GetNumberOfTuples());
+  auto* doubles = vtkDoubleArray::SafeDownCast(column);
+  if (doubles && doubles->GetNumberOfComponents() == 1)
+    return stats::distinctValues(doubles->GetPointer(0), rows);
+  return stats::distinctValues(rows, [column](std::size_t row)
+                               { return column->GetComponent(static_cast<vtkIdType>(row), 0); });
 }
 
 /// The ascending values of every parameter; absent where they cannot be read.
@@ -128,6 +142,15 @@ void addColumn(vtkTable* table, const std::string& name, stats::DoubleBuffer& bu
   table->AddColumn(column);
 }
 
+/// Beside the columns, which are filled up to one length.
+void noteValueCount(vtkTable* table, const std::string& label, std::size_t count)
+{
+  vtkNew<vtkIdTypeArray> note;
+  note->SetName(label.c_str());
+  note->InsertNextValue(static_cast<vtkIdType>(count));
+  table->GetFieldData()->AddArray(note);
+}
+
 void reportIgnoredBounds()
 {
   std::cerr << "Warning void PlotContainer::generateRankedParameters(vtkSmartPointer<vtkTable>, "
@@ -149,16 +172,6 @@ RankedInputs presentInputs(const PlotState& state)
 
 } // namespace
 
-std::vector<double> distinctValues(vtkDataArray* column)
-{
-  const auto rows = static_cast<std::size_t>(column->GetNumberOfTuples());
-  auto* doubles = vtkDoubleArray::SafeDownCast(column);
-  if (doubles && doubles->GetNumberOfComponents() == 1)
-    return stats::distinctValues(doubles->GetPointer(0), rows);
-  return stats::distinctValues(rows, [column](std::size_t row)
-                               { return column->GetComponent(static_cast<vtkIdType>(row), 0); });
-}
-
 void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
                               std::size_t tableIndex)
 {
@@ -177,6 +190,7 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
   rankNames.insert(rankNames.end(), sortedNames.begin(), sortedNames.end());
   emptySlot(ranks, rankNames, {});
   emptySlot(densities, prefixed(densityPrefix, labels), prefixed(locationsPrefix, labels));
+  ranks->GetFieldData()->Initialize();
 
   stats::RankedParameters ranked =
       stats::rankParameters(std::move(lists), state.parameterBounds, estimateKernelDensity);
@@ -189,6 +203,7 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
     stats::RankedParameter& parameter = *ranked.parameters[k];
     if (parameter.valueCount != ranked.positions && state.diagnosticsShown)
       reportLength(parameter.valueCount, ranked.positions);
+    noteValueCount(ranks, labels[k], parameter.valueCount);
     addColumn(ranks, rankPrefix + labels[k], parameter.ranks);
     addColumn(ranks, sortedPrefix + labels[k], parameter.sortedValues);
     addColumn(densities, densityPrefix + labels[k], parameter.densities);
@@ -199,6 +214,16 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
     state.rankedInputs = presentInputs(state);
     state.metaData->rankedDataCurrent = true;
   }
+}
+
+std::optional<std::size_t> rankedValueCount(vtkTable* ranks, const std::string& label)
+{
+  auto* note =
+      ranks ? vtkIdTypeArray::SafeDownCast(ranks->GetFieldData()->GetAbstractArray(label.c_str()))
+            : nullptr;
+  if (!note || note->GetNumberOfValues() != 1)
+    return {};
+  return static_cast<std::size_t>(note->GetValue(0));
 }
 
 bool hasOwnRanks(const PlotState& state)

@@ -4,9 +4,9 @@
 #include <vtkSmartPointer.h>
 
 #include <cstddef>
-#include <vector>
+#include <optional>
+#include <string>
 
-class vtkDataArray;
 class vtkTable;
 
 namespace Talmesh::plot
@@ -35,8 +35,9 @@ struct PlotState;
 void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
                               std::size_t tableIndex);
 
-/// The values of a parameter column as every slot but 0 takes them: ascending, each once.
-std::vector<double> distinctValues(vtkDataArray* column);
+/// How many values of the parameter with this label were ranked into `ranks`, before its columns
+/// were filled up to those of the longest parameter; nothing for one that was skipped.
+std::optional<std::size_t> rankedValueCount(vtkTable* ranks, const std::string& label);
 
 /// Whether slots 0 and 1 hold a rank and a density table, rather than nothing or additional data
 /// that came before any ranking. Tables without columns count: no parameter could be ranked.

@@ -3,11 +3,16 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "vtk/RowCopies.h"
 #include "vtk/SelectionColumns.h"
 #include "vtk/vtkCombinedFilterAndSelectedRows.h"
 
 #include <vtkAnnotationLink.h>
+#include <vtkIdTypeArray.h>
 #include <vtkNew.h>
+
+#include <string>
+#include <vector>
 
 namespace Talmesh::plot
 {
@@ -32,20 +37,47 @@ bool namesTime(const std::string& name)
   return false;
 }
 
-/// The filter writes no markers when nothing is selected; those of the selection before would stay
-/// highlighted.
-void clearMarkers(vtkTable* table)
+using Names = std::vector<std::string>;
+
+bool isMarker(const std::string& name)
 {
-  for (const char* name :
-       {ComplementSelectionColumn, ReducedSelectionColumn, RemainderSelectionColumn})
+  return name == ComplementSelectionColumn || name == ReducedSelectionColumn ||
+         name == RemainderSelectionColumn;
+}
+
+/// Takes the markers of the selection before from the end of the plot table, so that they are
+/// neither held beside the new ones nor copied into both parts. Those with columns behind them
+/// stay, or these would change their places, and are cleared.
+/// @return the names of the columns taken, in their order
+Names takeMarkers(vtkTable* table)
+{
+  Names taken;
+  for (int last = static_cast<int>(table->GetNumberOfColumns()) - 1;
+       isMarker(columnName(table, last)); --last)
   {
-    if (auto* markers = vtkDataArray::SafeDownCast(columnNamed(table, name)))
-    {
-      markers->Fill(0.0);
-      markers->Modified();
-      table->Modified();
-    }
+    taken.insert(taken.begin(), columnName(table, last));
+    table->RemoveColumn(last);
   }
+  for (int column = 0; column < table->GetNumberOfColumns(); ++column)
+  {
+    auto* markers = vtkDataArray::SafeDownCast(table->GetColumn(column));
+    if (!markers || !isMarker(columnName(table, column)))
+      continue;
+    markers->Fill(0.0);
+    markers->Modified();
+    table->Modified();
+  }
+  return taken;
+}
+
+/// The filter writes no markers when nothing is selected. Plots keep those that they had seen
+/// unless the column is there.
+void restoreMarkers(vtkTable* table, const Names& taken)
+{
+  const auto rows = static_cast<std::size_t>(table->GetNumberOfRows());
+  for (const std::string& name : taken)
+    if (!columnNamed(table, name))
+      table->AddColumn(makeIdColumn(name.c_str(), std::vector<vtkIdType>(rows, 0)));
 }
 
 } // namespace
@@ -62,7 +94,7 @@ int timeColumnOf(const PlotState& state)
 
 RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
 {
-  clearMarkers(state.table);
+  const Names taken = takeMarkers(state.table);
   const std::vector<int>& parameters = state.metaData->parameterColumns;
   vtkNew<vtkCombinedFilterAndSelectedRows> filter;
   filter->ParameterColumns = parameters;
@@ -74,6 +106,7 @@ RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
   filter->SetTimeColumnIndex(timeColumnOf(state));
   filter->SetStride(state.metaData->getStride());
   filter->Update();
+  restoreMarkers(state.table, taken);
   RunSplit split;
   split.selected = vtkSmartPointer<vtkTable>::New();
   split.selected->ShallowCopy(filter->GetOutput(0));

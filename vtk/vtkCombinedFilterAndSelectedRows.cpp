@@ -7,11 +7,14 @@
 #include <vtkDoubleArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkObjectFactory.h>
+#include <vtkSmartPointer.h>
 #include <vtkTable.h>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <utility>
 #include <vector>
 
 vtkStandardNewMacro(vtkCombinedFilterAndSelectedRows);
@@ -27,11 +30,11 @@ class SelectedTimes
 public:
   static constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
 
-  SelectedTimes(const std::vector<bool>& selected, const std::vector<double>& rowTimes,
+  SelectedTimes(const std::vector<bool>& selected, std::vector<double> rowTimes,
                 vtkIdType rowsPerRun)
-      : times(rowTimes)
+      : times(std::move(rowTimes))
       , stride(static_cast<std::size_t>(rowsPerRun))
-      , remembered(std::min(stride, rowTimes.size()))
+      , remembered(std::min(stride, times.size()))
   {
     for (std::size_t row = 0; row < selected.size(); ++row)
     {
@@ -72,7 +75,7 @@ private:
                : none;
   }
 
-  const std::vector<double>& times;
+  std::vector<double> times;
   std::size_t stride;
   std::vector<double> distinct;
   std::vector<Memory> remembered;
@@ -103,25 +106,53 @@ std::vector<bool> acceptedRuns(const std::vector<bool>& selected, vtkIdType stri
   return accepted;
 }
 
+/// One value per row, 0 at first.
+class Markers
+{
+public:
+  Markers(const char* name, std::size_t rows)
+      : column(vtkSmartPointer<vtkIdTypeArray>::New())
+  {
+    column->SetName(name);
+    column->SetNumberOfValues(static_cast<vtkIdType>(rows));
+    values = column->GetPointer(0);
+    std::fill_n(values, rows, 0);
+  }
+
+  void mark(std::size_t row) { values[row] = 1; }
+  vtkIdTypeArray* array() const { return column; }
+
+private:
+  vtkSmartPointer<vtkIdTypeArray> column;
+  vtkIdType* values;
+};
+
 struct Split
 {
   explicit Split(std::size_t rowCount)
-      : complement(rowCount, 0)
-      , reduced(rowCount, 0)
-      , remainder(rowCount, 0)
+      : complement(Talmesh::ComplementSelectionColumn, rowCount)
+      , reduced(Talmesh::ReducedSelectionColumn, rowCount)
+      , remainder(Talmesh::RemainderSelectionColumn, rowCount)
   {
   }
 
   std::vector<vtkIdType> rows[2];
-  std::vector<vtkIdType> complement;
-  std::vector<vtkIdType> reduced;
-  std::vector<vtkIdType> remainder;
+  Markers complement;
+  Markers reduced;
+  Markers remainder;
 };
 
-Split splitRows(const std::vector<bool>& selected, vtkIdType stride, SelectedTimes& times)
+/// Nothing without a selected time.
+std::optional<Split> splitRows(const std::vector<bool>& selected, vtkIdType stride,
+                               SelectedTimes times)
 {
+  if (times.size() == 0)
+    return {};
   const std::vector<bool> accepted = acceptedRuns(selected, stride, times);
   Split split(selected.size());
+  // Memory of the list that stays short is never touched.
+  for (std::vector<vtkIdType>& rows : split.rows)
+    rows.reserve(selected.size());
   for (std::size_t i = 0; i < selected.size(); ++i)
   {
     const auto row = static_cast<vtkIdType>(i);
@@ -129,12 +160,12 @@ Split splitRows(const std::vector<bool>& selected, vtkIdType stride, SelectedTim
     {
       const bool isAccepted = accepted[static_cast<std::size_t>(row / stride)];
       split.rows[isAccepted ? 0 : 1].push_back(row);
-      (isAccepted ? split.remainder : split.reduced)[i] = 1;
+      (isAccepted ? split.remainder : split.reduced).mark(i);
     }
     else if (times.indexOf(i) != SelectedTimes::none)
     {
       split.rows[1].push_back(row);
-      split.complement[i] = 1;
+      split.complement.mark(i);
     }
   }
   return split;
@@ -143,9 +174,9 @@ Split splitRows(const std::vector<bool>& selected, vtkIdType stride, SelectedTim
 void writeMarkers(const Split& split, vtkTable* table)
 {
   table->RemoveColumnByName(Talmesh::ComplementSelectionColumn);
-  table->AddColumn(Talmesh::makeIdColumn(Talmesh::ComplementSelectionColumn, split.complement));
-  table->AddColumn(Talmesh::makeIdColumn(Talmesh::ReducedSelectionColumn, split.reduced));
-  table->AddColumn(Talmesh::makeIdColumn(Talmesh::RemainderSelectionColumn, split.remainder));
+  table->AddColumn(split.complement.array());
+  table->AddColumn(split.reduced.array());
+  table->AddColumn(split.remainder.array());
 }
 } // namespace
 
@@ -153,16 +184,18 @@ void vtkCombinedFilterAndSelectedRows::DivideRows(vtkTable* table,
                                                   const Talmesh::SelectedRows& selected,
                                                   vtkTable* const outputs[2])
 {
-  const auto times = Talmesh::rowTimes(vtkDoubleArray::SafeDownCast(this->FindTimeColumn(table)),
-                                       table->GetNumberOfRows());
   const vtkIdType stride = std::max<vtkIdType>(this->Stride, 1);
-  SelectedTimes selectedTimes(selected.marked, times, stride);
-  const bool anyTime = selectedTimes.size() > 0;
-  const Split split = anyTime ? splitRows(selected.marked, stride, selectedTimes) : Split(0);
+  const std::optional<Split> split = splitRows(
+      selected.marked, stride,
+      SelectedTimes(selected.marked,
+                    Talmesh::rowTimes(vtkDoubleArray::SafeDownCast(this->FindTimeColumn(table)),
+                                      table->GetNumberOfRows()),
+                    stride));
   for (int output = 0; output < 2; ++output)
-    this->FillOutput(table, split.rows[output], outputs[output]);
-  if (anyTime)
-    writeMarkers(split, table);
+    this->FillOutput(table, split ? split->rows[output] : std::vector<vtkIdType>(),
+                     outputs[output]);
+  if (split)
+    writeMarkers(*split, table);
 }
 
 // The line numbers in the messages below are fixed, so the reports stand at the end of the file.

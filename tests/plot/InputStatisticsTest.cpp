@@ -1,3 +1,4 @@
+#include "support/CapturedOutput.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
@@ -5,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 using Talmesh::Complex;
 using Talmesh::Parameter;
@@ -51,6 +53,22 @@ TEST_F(InputStatistics, RankTheParametersOfALineTableInTheSelectionStyleAlone)
       container.getDerivedTables().front()->GetColumnByName("Sorted Parameter: k");
   ASSERT_NE(sorted, nullptr);
   EXPECT_EQ(sorted->GetNumberOfTuples(), 4) << "one value per run";
+}
+
+TEST_F(InputStatistics, RankALineTableOnceWithTheStrideItBrings)
+{
+  storeStyle(6);
+  settings().setStride(1);
+  // Each ranking says that there is a pair of bounds too many.
+  container.state().parameterBounds = {{0.0, 1.0}};
+  CapturedOutput errors(std::cerr);
+  container.setLinePlotTable(runs(), false);
+  const std::string said = errors.text();
+  const std::string warning = "Warning void PlotContainer::generateRankedParameters";
+  const std::size_t first = said.find(warning);
+  ASSERT_NE(first, std::string::npos) << said;
+  EXPECT_EQ(said.find(warning, first + 1), std::string::npos) << said;
+  EXPECT_EQ(container.getDerivedTables().front()->GetNumberOfRows(), 4) << "one value per run";
 }
 
 TEST_F(InputStatistics, SummariseALineTableOnDemand)

@@ -1,0 +1,121 @@
+#include "app/ComparisonResults.h"
+#include "external/PlotMetaData.h"
+#include "external/UnivariateDensityDerivative.h"
+#include "plot/DerivedTables.h"
+#include "plot/KsComparison.h"
+#include "plot/PlotState.h"
+#include "plot/RunSplit.h"
+#include "plot/vtkSelectionUpdateCallback.h"
+#include "stats/RankedParameter.h"
+
+#include <vtkChartXY.h>
+#include <vtkDoubleArray.h>
+#include <vtkTable.h>
+
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "BenchWindow.h"
+
+namespace
+{
+
+namespace stats = Talmesh::stats;
+using Talmesh::plot::rankSlot;
+
+/// Adds how long a stage took to the counter "stage: <name>", in milliseconds per iteration.
+template <typename Stage>
+void measure(benchmark::State& state, const char* name, Stage&& stage)
+{
+  const auto before = std::chrono::steady_clock::now();
+  stage();
+  const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - before;
+  auto& counter = state.counters[std::string("stage: ") + name];
+  counter.flags = benchmark::Counter::kAvgIterations;
+  counter.value += took.count();
+}
+
+/// The values of each parameter that a rank table has.
+std::vector<std::optional<std::vector<double>>> rankedValues(vtkTable* ranks)
+{
+  std::vector<std::optional<std::vector<double>>> lists;
+  for (vtkIdType column = 1; column < ranks->GetNumberOfColumns(); column += 2)
+  {
+    auto* sorted = vtkDoubleArray::SafeDownCast(ranks->GetColumn(column));
+    lists.emplace_back(std::vector<double>(sorted->GetPointer(0),
+                                           sorted->GetPointer(0) + sorted->GetNumberOfValues()));
+  }
+  return lists;
+}
+
+void estimate(std::vector<double>& sources, std::vector<double>& targets, double bandwidth,
+              std::vector<double>& density)
+{
+  UnivariateDensityDerivative(static_cast<int>(sources.size()), static_cast<int>(targets.size()),
+                              sources.data(), targets.data(), bandwidth, 0, 0.01, density.data())
+      .Evaluate();
+}
+
+void addDataSet(PlotContainer& container, const vtkSmartPointer<vtkTable>& rows)
+{
+  auto& tables = container.state().derivedTables;
+  tables.push_back(rows);
+  container.generateRankedParameters(rows, tables.size());
+}
+
+/// What the release of the mouse in the page that compares runs sets off, stage by stage. The
+/// rectangle covers all runs; the stages behind the picking are those of every tenth run.
+/// Densities are measured once more on their own, and are part of the ranks.
+void selectionStages(benchmark::State& state)
+{
+  BenchWindow window;
+  window.showComparison(static_cast<int>(state.range(0)));
+  window.paint(true);
+  PlotContainer& container = window.container;
+  bool& silent = container.state().selectionUpdateCallback->Silent;
+  int choice = 0;
+  for (auto _ : state)
+  {
+    silent = true;
+    window.drag();
+    measure(state, "picking", [&] { window.release(); });
+    window.select(++choice);
+    silent = false;
+    container.state().derivedTables.resize(Talmesh::plot::ownSlots);
+    Talmesh::plot::RunSplit split;
+    measure(state, "split",
+            [&] {
+              split = Talmesh::plot::splitRuns(container.state(), container.getAnnotationLink());
+            });
+    measure(state, "ranks and densities",
+            [&]
+            {
+              addDataSet(container, split.selected);
+              addDataSet(container, split.remaining);
+            });
+    for (const std::size_t dataSet : {1, 2})
+    {
+      auto lists = rankedValues(container.getDerivedTables().at(rankSlot(dataSet)));
+      const std::vector<std::pair<double, double>> bounds(lists.size(), {0.0, 1.0});
+      measure(state, "of these densities",
+              [&] { stats::rankParameters(std::move(lists), bounds, estimate); });
+    }
+    measure(state, "tests",
+            [&]
+            {
+              container.ksTestSelection(rankSlot(1), rankSlot(2));
+              Talmesh::plot::alignResults(container.state(), rankSlot(1));
+            });
+    measure(state, "charts", [&] { container.redraw(); });
+    measure(state, "table",
+            [&] { benchmark::DoNotOptimize(Talmesh::app::comparisonOf(container)); });
+    measure(state, "drawing", [&] { window.paint(true); });
+  }
+}
+BENCHMARK(selectionStages)->Arg(5000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
+
+} // namespace
