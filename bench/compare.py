@@ -16,6 +16,7 @@ import sys
 import tempfile
 import time
 from pathlib import Path
+from typing import Callable, Dict, NamedTuple, Tuple
 
 ROOT = Path(__file__).resolve().parent.parent
 # Another build than that of bench/run, to try the rows.
@@ -23,44 +24,95 @@ BINARIES = Path(os.environ.get("TALMESH_BENCH_BIN", ROOT / "build" / "release" /
 PEERS = ROOT / "bench" / "peers.py"
 TIMEOUT = 600  # seconds, of one measurement
 CSV_BYTES = 240_000_000
+STAGE = "stage: "  # names a part of a measurement, in milliseconds
 
-FRAMES = [("500/200", "500 × 200"), ("5000/200", "5,000 × 200"), ("5000/1000", "5,000 × 1,000"),
-          ("50000/200", "50,000 × 200")]
-KINDS = [
-    ("firstFrame", "new data to painted frame", "no slower than QCustomPlot"),
-    ("steadyFrame", "steady frame", ""),
-    ("unchangedFrame", "unchanged frame", "5,000 × 1,000: at most 10 ms above the empty chart"),
-    ("zoomedFrame", "frame after a zoom", "5,000 × 1,000: 4 times as fast as QCustomPlot; 50,000 × 200: 500 ms"),
-    ("selectedFrame", "frame after another tenth is selected", "5,000 × 1,000: 10 times as fast as QCustomPlot"),
-    ("steadyFrameOfSelection", "steady frame, a tenth selected", ""),
-]
+QCP, PYTHON, START = "qcustomplot", "python", "start"
+SIZES = {"500/200": "500 × 200", "5000/200": "5,000 × 200", "5000/1000": "5,000 × 1,000",
+         "50000/200": "50,000 × 200"}
+
+
+class Target(NamedTuple):
+    """What a row shall reach: `reached` is given this row and all rows by name, and fails where one lacks a number."""
+
+    text: str
+    reached: Callable[["Measured", Dict[str, "Measured"]], bool]
+
+
+def faster(peer, times):
+    name = {QCP: "QCustomPlot", PYTHON: "Python"}[peer]
+    text = f"no slower than {name}" if times == 1 else f"{times} times as fast as {name}"
+    return Target(text, lambda row, _: row.ratio(peer) >= times)
+
+
+def within(milliseconds):
+    return Target(shown(milliseconds), lambda row, _: row.median() <= milliseconds)
+
+
+def at_most(counter, limit, text):
+    return Target(text, lambda row, _: row.counter(counter) <= limit)
+
+
+def above_empty(milliseconds):
+    return Target(f"{milliseconds} ms above the empty chart",
+                  lambda row, all_rows: row.median() <= all_rows["emptyFrame"].median() + milliseconds)
+
+
+def linear(other, growth):
+    """The time grows no more than `growth`, which leaves a fifth for what every frame costs, allows."""
+    return Target(f"linear: {growth} times {SIZES[other.split('/', 1)[1]]}",
+                  lambda row, all_rows: row.median() <= 1.2 * growth * all_rows[other].median())
+
+
+class Row(NamedTuple):
+    name: str
+    text: str
+    peers: Tuple[str, ...] = ()
+    targets: Tuple[Target, ...] = ()
+
+
+def frames(kind, text, peers, targets=None):
+    """The sizes of one kind of frame, with the peers of each."""
+    return [Row(f"{kind}/{size}", f"{SIZES[size]}: {text}", names, (targets or {}).get(size, ()))
+            for size, names in peers.items()]
 
 
 def rows():
-    """(name of the benchmark, what it is, peers, what shall be reached) of each row.
-
-    A peer is "qcustomplot", "python" or, for the start of a whole program, "start".
-    """
-    found = [("emptyFrame", "empty chart", ("qcustomplot",), "")]
-    for kind, text, reach in KINDS:
-        for size, shown in FRAMES:
-            # A collection of 10 million points takes matplotlib a minute.
-            peers = ("qcustomplot",) if size == "50000/200" else ("qcustomplot", "python")
-            found.append((f"{kind}/{size}", f"{shown}: {text}", peers, reach))
-    return found + [
-        ("comparisonFrame/5000", "5,000 × 200, 30 parameters, style 6: steady frame", ("qcustomplot",), ""),
-        ("comparisonFrameOfSelection/5000", "the same with 500 runs selected", ("qcustomplot",), ""),
-        ("comparisonOfSelection/5000", "the same: selection to picture", (), "250 ms"),
-        ("selectionStatistics/5000", "ranks, densities and tests of 30 parameters, 500 of 5,000 runs", ("python",),
-         "10 times as fast as SciPy"),
-        ("brush/603000", "a brush over 603,000 rows: release to picture", (), ""),
-        ("parallelCoordinatesOfExample", "parallel coordinates of the example study", (), ""),
-        ("peakMemory/5000", "peak memory of 5,000 × 200 × 32 columns, in tables of 262 MB", (), "2.5 tables"),
-        ("exportPdf/500", "PDF of 500 × 200, 50 selected", ("qcustomplot",), ""),
-        ("exportPdf/5000", "PDF of 5,000 × 200, 500 selected", ("qcustomplot",), "3 s, 5 MB"),
-        ("gallery", "gallery of the example study, all PDF", (), "20 MB"),
-        ("importFile", "a CSV of 240 MB; the other side is pandas", ("python",), "no slower than pandas"),
-        ("start", "start to picture of a small table; the other side is pandas and matplotlib", ("start",), "1 s"),
+    """Peers that take minutes are left out where a smaller size says the same."""
+    return [
+        Row("emptyFrame", "empty chart", (QCP,)),
+        *frames("firstFrame", "new data to painted frame",
+                {"500/200": (QCP,), "5000/200": (QCP,), "5000/1000": (QCP, PYTHON), "50000/200": ()},
+                {size: (faster(QCP, 1),) for size in ("500/200", "5000/200", "5000/1000")}),
+        *frames("steadyFrame", "steady frame",
+                {"500/200": (QCP, PYTHON), "5000/200": (QCP,), "5000/1000": (QCP, PYTHON)}),
+        *frames("unchangedFrame", "unchanged frame", {"5000/1000": (QCP,)}, {"5000/1000": (above_empty(10),)}),
+        *frames("zoomedFrame", "frame after a zoom",
+                {"500/200": (QCP,), "5000/200": (QCP,), "5000/1000": (QCP, PYTHON), "50000/200": (QCP,)},
+                {"5000/1000": (faster(QCP, 4),), "50000/200": (within(500), linear("zoomedFrame/5000/200", 10))}),
+        *frames("selectedFrame", "frame after another tenth is selected",
+                {"500/200": (QCP,), "5000/200": (QCP,), "5000/1000": (QCP, PYTHON), "50000/200": ()},
+                {"5000/1000": (faster(QCP, 10),)}),
+        *frames("steadyFrameOfSelection", "steady frame, a tenth selected",
+                {"500/200": (QCP,), "5000/1000": (QCP,)}),
+        Row("comparisonFrame/5000", "5,000 × 200, 30 parameters, style 6: steady frame", (QCP,)),
+        Row("comparisonFrameOfSelection/5000", "the same with 500 runs selected", (QCP,)),
+        Row("comparisonOfSelection/5000", "the same: selection to picture", (), (within(250),)),
+        Row("selectionStages/5000", "the same in stages, after a rectangle over all rows"),
+        Row("selectionStatistics/5000", "ranks, densities and tests of 30 parameters, 500 of 5,000 runs", (PYTHON,),
+            (faster(PYTHON, 10),)),
+        Row("brush/603000", "a brush over 603,000 rows: release to picture"),
+        Row("parallelCoordinatesOfExample", "parallel coordinates of the example study"),
+        Row("peakMemory/5000", "peak memory of 5,000 × 200 × 32 columns, in tables of 256 MB", (),
+            (at_most("tables", 2.5, "2.5 tables"),)),
+        Row("exportPdf/500", "PDF of 500 × 200, 50 selected", (QCP,)),
+        Row("exportPdf/5000", "PDF of 5,000 × 200, 500 selected", (QCP,),
+            (within(3000), at_most("bytes", 5e6, "5 MB"))),
+        Row("gallery", "gallery of the example study, PNG and PDF; the sizes are those of the PDF", (),
+            (at_most("bytes", 20e6, "20 MB"), at_most("largest", 1.5e6, "each 1.5 MB"))),
+        Row("importFile", "a CSV of 240 MB; the other side is pandas", (PYTHON,),
+            (faster(PYTHON, 1), at_most("tables", 2.5, "2.5 tables"))),
+        Row("start", "start to picture of a small table; the other side is pandas and matplotlib", (START,),
+            (within(1000),)),
     ]
 
 
@@ -85,7 +137,8 @@ def measure_program(program, name):
     result = json.loads(text)["benchmarks"][0]
     if result.get("error_occurred"):
         raise Failed(result["error_message"])
-    return result["real_time"], {key: result[key] for key in ("bytes", "tables") if key in result}
+    return result["real_time"], {key: value for key, value in result.items()
+                                 if key in ("bytes", "tables") or key.startswith(STAGE)}
 
 
 def milliseconds_of(command):
@@ -119,7 +172,7 @@ class Bench:
         script = ("import sys, pandas, matplotlib; matplotlib.use('Agg'); from matplotlib import pyplot;"
                   "t = pandas.read_csv(sys.argv[1]); pyplot.plot(t['time'], t['X']); pyplot.savefig(sys.argv[2])")
         table = self.small_table()
-        return milliseconds_of([sys.executable, "-c", script, str(table), str(self.folder / "b.png")]), {}
+        return milliseconds_of(["/usr/bin/python3", "-c", script, str(table), str(self.folder / "b.png")]), {}
 
     def small_table(self):
         path = self.folder / "small.csv"
@@ -159,7 +212,8 @@ def details(counters):
     if "bytes" in counters:
         parts.append(f"{counters['bytes'] / 1e6:.1f} MB")
     if "largest" in counters:
-        parts.append(f"largest {counters['largest'] / 1e6:.1f} MB")
+        parts.append(f"largest {counters['largest'] / 1e6:.2f} MB")
+    parts += [f"{name[len(STAGE):]} {shown(value)}" for name, value in counters.items() if name.startswith(STAGE)]
     return ", ".join(parts)
 
 
@@ -169,46 +223,78 @@ class Side:
     def __init__(self, measure):
         self.measure = measure
         self.times = []
-        self.counters = {}
+        self.counters = []
         self.failure = ""
 
     def once(self):
         if self.failure:
             return
         try:
-            elapsed, self.counters = self.measure()
+            elapsed, counters = self.measure()
             self.times.append(elapsed)
-        except (Failed, KeyError, IndexError, ValueError) as problem:
-            self.failure = str(problem)
+            self.counters.append(counters)
+        except (Failed, KeyError, IndexError, ValueError, OSError) as problem:
+            self.failure = str(problem) or type(problem).__name__
 
     @property
     def median(self):
         return statistics.median(self.times) if self.times and not self.failure else None
 
+    @property
+    def medians(self):
+        """Of the counters."""
+        first = self.counters[0] if self.counters else {}
+        return {name: statistics.median(counters[name] for counters in self.counters) for name in first}
+
     def text(self):
-        return self.failure or " ".join(filter(None, [shown(self.median), f"({details(self.counters)})"
-                                                      if self.counters else ""]))
+        return self.failure or " ".join(filter(None, [shown(self.median), f"({details(self.medians)})"
+                                                      if self.medians else ""]))
 
 
-def compare(bench, row, repetitions):
-    name, text, peers, reach = row
-    sides = {"ours": Side(lambda: bench.ours(name))}
-    for peer in peers:
-        sides[peer] = Side(lambda peer=peer: bench.peer(peer, name))
-    for _ in range(repetitions):
-        for side in sides.values():
-            side.once()
+class Measured:
+    """One row with its sides. What has no number raises a TypeError or KeyError where it is compared."""
 
-    def ratio(peer):
-        side = sides.get(peer)
-        if not side or not side.median or not sides["ours"].median:
-            return ""
-        times = side.median / sides["ours"].median
-        return f"{times:.2f}" if times < 10 else f"{times:.0f}"
+    def __init__(self, bench, row):
+        self.row = row
+        self.sides = {"ours": Side(lambda: bench.ours(row.name))}
+        for peer in row.peers:
+            self.sides[peer] = Side(lambda peer=peer: bench.peer(peer, row.name))
 
-    other = "start" if "start" in sides else "python"
-    return [text, sides["ours"].text(), sides["qcustomplot"].text() if "qcustomplot" in sides else "",
-            ratio("qcustomplot"), sides[other].text() if other in sides else "", ratio(other), reach]
+    def go(self, repetitions):
+        for _ in range(repetitions):
+            for side in self.sides.values():
+                side.once()
+        return self
+
+    def median(self):
+        return self.sides["ours"].median
+
+    def counter(self, name):
+        return self.sides["ours"].medians[name]
+
+    def ratio(self, peer):
+        return self.sides[peer].median / self.median()
+
+    def verdict(self, target, all_rows):
+        try:
+            return "reached" if target.reached(self, all_rows) else "MISSED"
+        except (KeyError, TypeError):
+            return "not measured"
+
+    def cells(self, all_rows):
+        def ratio(peer):
+            try:
+                times = self.ratio(peer)
+            except (KeyError, TypeError):
+                return ""
+            return f"{times:.2f}" if times < 10 else f"{times:.0f}"
+
+        def text(peer):
+            return self.sides[peer].text() if peer in self.sides else ""
+
+        other = START if START in self.sides else PYTHON
+        verdicts = [f"{target.text}: {self.verdict(target, all_rows)}" for target in self.row.targets]
+        return [self.row.text, text("ours"), text(QCP), ratio(QCP), text(other), ratio(other), "; ".join(verdicts)]
 
 
 HEADER = ["What", "Talmesh Plot", "QCustomPlot", "ratio", "Python", "ratio", "to be reached"]
@@ -226,25 +312,40 @@ def machine():
 
 
 def versions():
-    packages = ["libqcustomplot-dev", "python3-matplotlib", "python3-pandas", "python3-scipy", "libvtk9-dev"]
+    packages = ["libvtk9-dev", "qtbase5-dev", "libgl1-mesa-dri", "libqcustomplot-dev", "python3-matplotlib",
+                "python3-pandas", "python3-scipy"]
     found = subprocess.run(["dpkg-query", "-W", "-f=${Package} ${Version}\n", *packages], capture_output=True,
                            text=True, check=False)
     return ", ".join(found.stdout.split("\n")).strip(", ")
 
 
-def document(table, repetitions, commit):
+def summary(measured):
+    """How many targets are reached, and which are not."""
+    verdicts = [(row, target, row.verdict(target, measured)) for row in measured.values() for target in row.row.targets]
+    reached = sum(verdict == "reached" for _, _, verdict in verdicts)
+    text = f"{reached} of {len(verdicts)} targets are reached."
+    for row, target, verdict in verdicts:
+        if verdict != "reached":
+            text += f"\n- {verdict}: {row.row.text}, {target.text}; {row.sides['ours'].text()}"
+    return text
+
+
+def document(measured, repetitions, commit):
+    table = [line(row.cells(measured)) for row in measured.values()]
     return f"""# Performance
 
-Written by `bench/run`: medians of {repetitions}, both sides in turn. A window of 800 × 600 pixels; sizes are runs × points.
-Ratios are the time of the other side over ours: above 1 we are faster. How to read and repeat this is in
+Written by `bench/run`: medians of {repetitions}, both sides in turn. A window of 800 × 600 pixels; sizes are runs ×
+points. Ratios are the time of the other side over ours: above 1 we are faster. How to read and repeat this is in
 [bench/README.md](../bench/README.md).
 
 {datetime.date.today().isoformat()}, commit {commit}, on {machine()}.
 {versions()}.
 
+{summary(measured)}
+
 {line(HEADER)}
 {line(["---"] * len(HEADER))}
-""" + "\n".join(line(cells) for cells in table) + "\n"
+""" + "\n".join(table) + "\n"
 
 
 def parsed():
@@ -259,25 +360,33 @@ def parsed():
 
 def main():
     options = parsed()
-    chosen = [row for row in rows() if re.search(options.only, row[0])]
+    chosen = [row for row in rows() if re.search(options.only, row.name)]
     if options.list:
-        print("\n".join(row[0] for row in chosen))
+        print("\n".join(row.name for row in chosen))
         return
+    if not chosen or options.repetitions < 1:
+        sys.exit(f"bench/run: no row is called {options.only}" if not chosen else "bench/run: at least one repetition")
     repetitions = 1 if options.quick else options.repetitions
     print(line(HEADER), line(["---"] * len(HEADER)), sep="\n", flush=True)
-    table = []
+    measured = {}
     with tempfile.TemporaryDirectory(prefix="talmesh-bench-") as folder:
         bench = Bench(folder)
         for row in chosen:
-            table.append(compare(bench, row, repetitions))
-            print(line(table[-1]), flush=True)
+            began = time.monotonic()
+            measured[row.name] = Measured(bench, row).go(repetitions)
+            print(line(measured[row.name].cells(measured)), flush=True)
+            print(f"{row.name}: {time.monotonic() - began:.0f} s", file=sys.stderr, flush=True)
+    print(summary(measured))
     complete = not options.quick and not options.only and repetitions >= 5
     output = options.output or (ROOT / "docs" / "performance.md" if complete else None)
     if output:
         commit = subprocess.run(["git", "-C", str(ROOT), "describe", "--always", "--dirty"], capture_output=True,
                                 text=True, check=False).stdout.strip()
-        output.write_text(document(table, repetitions, commit or "unknown"), encoding="utf-8")
+        output.write_text(document(measured, repetitions, commit or "unknown"), encoding="utf-8")
         print(f"Wrote {output}", file=sys.stderr)
+    failed = [row.row.name for row in measured.values() if any(side.failure for side in row.sides.values())]
+    if failed:
+        sys.exit(f"bench/run: no number for {', '.join(failed)}")
 
 
 if __name__ == "__main__":
