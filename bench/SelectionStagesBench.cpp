@@ -1,19 +1,23 @@
 #include "app/ComparisonResults.h"
+#include "app/Study.h"
 #include "external/PlotMetaData.h"
 #include "external/UnivariateDensityDerivative.h"
 #include "plot/DerivedTables.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
+#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "stats/RankedParameter.h"
 
+#include <vtkAnnotationLink.h>
 #include <vtkChartXY.h>
 #include <vtkDoubleArray.h>
 #include <vtkTable.h>
 
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <utility>
@@ -38,6 +42,37 @@ void measure(benchmark::State& state, const char* name, Stage&& stage)
   counter.flags = benchmark::Counter::kAvgIterations;
   counter.value += took.count();
 }
+
+/// All rows of the example study selected, in one style: the reaction, the charts drawn anew, the
+/// picture of them, and the picture once more.
+void allSelectedOfExample(benchmark::State& state)
+{
+  const Talmesh::app::Study study = Talmesh::app::exampleStudyOfRepressilator();
+  BenchWindow window;
+  PlotContainer& container = window.container;
+  Talmesh::app::showStudy(study, container);
+  container.setPlotStyle(static_cast<plotStyles>(state.range(0)));
+  window.paint(true);
+  std::vector<vtkIdType> rows(static_cast<std::size_t>(container.getTable()->GetNumberOfRows()));
+  std::iota(rows.begin(), rows.end(), 0);
+  for (auto _ : state)
+  {
+    const auto all = Talmesh::plot::makeRowSelection(rows);
+    measure(state, "selection", [&] { container.getAnnotationLink()->SetCurrentSelection(all); });
+    measure(state, "its frame", [&] { window.paint(true); });
+    measure(state, "redraw", [&] { container.redraw(); });
+    measure(state, "frame", [&] { window.paint(true); });
+    measure(state, "unchanged frame", [&] { window.paint(false); });
+  }
+}
+BENCHMARK(allSelectedOfExample)
+    ->Arg(xyPlot)
+    ->Arg(scatterPlotMatrix)
+    ->Arg(multiPlot)
+    ->Arg(selectionCdfPlot)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(2);
 
 /// The values of each parameter that a rank table has.
 std::vector<std::optional<std::vector<double>>> rankedValues(vtkTable* ranks)
