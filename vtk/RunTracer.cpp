@@ -19,16 +19,6 @@ float heightOf(double y)
 {
   return static_cast<float>(std::clamp(y, -farAway, farAway));
 }
-
-float greater(float candidate, float best)
-{
-  return candidate > best ? candidate : best;
-}
-
-float smaller(float candidate, float best)
-{
-  return candidate < best ? candidate : best;
-}
 } // namespace
 
 RunTracer::RunTracer(IntervalSink& target, int columnCount, int rowCount, const Pen& used)
@@ -36,38 +26,17 @@ RunTracer::RunTracer(IntervalSink& target, int columnCount, int rowCount, const 
     , columns(columnCount)
     , rows(rowCount)
     , pen(used)
-    , taps(std::max(1, static_cast<int>(std::lround(used.width * used.columnsPerPixel))))
-    , padding(taps / 2 + 1)
+    , reach(used.width, used.columnsPerPixel)
     // The middle of an even number of columns is a border between two of them.
-    , shift(padding + (taps % 2 == 0 ? 0.5 : 0.0))
+    , shift(reach.padding() + (reach.columns() % 2 == 0 ? 0.5 : 0.0))
 {
-  const auto elements = static_cast<std::size_t>(columns + 2 * padding + 1);
+  const auto elements = static_cast<std::size_t>(columns + 2 * reach.padding() + 1);
   border.assign(elements + 1, none);
   lowest.assign(elements, infinity);
   highest.assign(elements, -infinity);
   firstElement = static_cast<int>(elements);
   low.resize(static_cast<std::size_t>(columns));
   high.resize(static_cast<std::size_t>(columns));
-  if (taps > 1)
-    layTaps();
-}
-
-// Seen from the middle of a column. Samples count as lying in the middle of their elements.
-void RunTracer::layTaps()
-{
-  const bool even = taps % 2 == 0;
-  const int half = taps / 2;
-  for (int step = -half; step <= (even ? half : half + 1); ++step)
-    borderTaps.push_back({padding + step + (even ? 1 : 0), penHeight(even ? step : step - 0.5)});
-  for (int step = -half; step <= (even ? half - 1 : half); ++step)
-    sampleTaps.push_back({padding + step + (even ? 1 : 0), penHeight(even ? step + 0.5 : step)});
-}
-
-// The pen is an ellipse as high as its width says and a whole number of columns wide.
-float RunTracer::penHeight(double distance) const
-{
-  const double part = 2.0 * distance / taps;
-  return static_cast<float>(0.5 * pen.width * std::sqrt(std::max(0.0, 1.0 - part * part)));
 }
 
 void RunTracer::trace(const float* points, const unsigned char* broken, const CountedRun& run,
@@ -132,6 +101,12 @@ void RunTracer::segmentWithin(const Position& from, const Position& to)
   const int last = static_cast<int>(to.x);
   firstElement = std::min(firstElement, first);
   lastElement = last;
+  enter(from, to, first, last);
+}
+
+/// The borders of the elements behind `first` up to `last`.
+void RunTracer::enter(const Position& from, const Position& to, int first, int last)
+{
   if (first == last)
     return;
   const double slope = (to.y - from.y) / (to.x - from.x);
@@ -179,12 +154,7 @@ void RunTracer::segment(const Position& from, const Position& to)
   const int last = to.x < end ? static_cast<int>(to.x) : static_cast<int>(lowest.size());
   firstElement = std::min(firstElement, std::max(first, 0));
   lastElement = std::max(lastElement, std::min(last, static_cast<int>(lowest.size()) - 1));
-  if (first == last)
-    return;
-  const double slope = (to.y - from.y) / (to.x - from.x);
-  const double start = from.y - slope * from.x;
-  for (int element = first + 1; element <= last; ++element)
-    border[static_cast<std::size_t>(element)] = heightOf(start + slope * element);
+  enter(from, to, first, last);
 }
 
 void RunTracer::include(const Position& point)
@@ -193,8 +163,8 @@ void RunTracer::include(const Position& point)
     return;
   const auto i = static_cast<std::size_t>(point.x);
   const float y = heightOf(point.y);
-  lowest[i] = smaller(y, lowest[i]);
-  highest[i] = greater(y, highest[i]);
+  lowest[i] = std::min(lowest[i], y);
+  highest[i] = std::max(highest[i], y);
 }
 
 void RunTracer::dot(const Position& center)
@@ -264,12 +234,9 @@ bool RunTracer::reachColumns(int& first, int& end)
 {
   if (lastElement < firstElement)
     return false;
-  first = std::max(0, firstElement - padding - taps / 2 - 1);
-  end = std::min(columns, lastElement - padding + taps / 2 + 2);
-  if (taps == 1)
-    reachThin(first, end);
-  else
-    reachWide(first, end);
+  first = std::max(0, firstElement - 2 * reach.padding());
+  end = std::min(columns, lastElement + 1);
+  reach.cover({border.data(), lowest.data(), highest.data()}, first, end, low.data(), high.data());
   return true;
 }
 
@@ -280,69 +247,5 @@ void RunTracer::forgetStretch()
   std::fill(highest.begin() + firstElement, highest.begin() + lastElement + 1, -infinity);
   firstElement = static_cast<int>(lowest.size());
   lastElement = -1;
-}
-
-// A line of slope s that crosses a column covers a height of width * sqrt(1 + s^2) there.
-void RunTracer::reachThin(int first, int end)
-{
-  const auto radius = static_cast<float>(0.5 * pen.width);
-  const float* const left = border.data() + padding;
-  const float* const bottom = lowest.data() + padding;
-  const float* const top = highest.data() + padding;
-  float* const lows = low.data();
-  float* const highs = high.data();
-  for (int column = first; column < end; ++column)
-  {
-    const float least = smaller(left[column], smaller(left[column + 1], bottom[column]));
-    const float most = greater(left[column], greater(left[column + 1], top[column]));
-    const float middle = 0.5f * (least + most);
-    const float half = 0.5f * (most - least);
-    const float reach = std::sqrt(radius * radius + half * half);
-    lows[column] = middle - reach;
-    highs[column] = middle + reach;
-  }
-}
-
-void RunTracer::reachWide(int first, int end)
-{
-  float* const lows = low.data();
-  float* const highs = high.data();
-  std::fill(lows + first, lows + end, infinity);
-  std::fill(highs + first, highs + end, -infinity);
-  for (const Tap& tap : borderTaps)
-  {
-    const float* const y = border.data() + tap.offset;
-    for (int column = first; column < end; ++column)
-    {
-      lows[column] = smaller(y[column] - tap.height, lows[column]);
-      highs[column] = greater(y[column] + tap.height, highs[column]);
-    }
-  }
-  for (const Tap& tap : sampleTaps)
-  {
-    const float* const bottom = lowest.data() + tap.offset;
-    const float* const top = highest.data() + tap.offset;
-    for (int column = first; column < end; ++column)
-    {
-      lows[column] = smaller(bottom[column] - tap.height, lows[column]);
-      highs[column] = greater(top[column] + tap.height, highs[column]);
-    }
-  }
-  if (taps % 2 != 0)
-    reachMiddle(first, end);
-}
-
-/// Between two borders, without a sample, a line is as thick as the pen.
-void RunTracer::reachMiddle(int first, int end)
-{
-  const auto radius = static_cast<float>(0.5 * pen.width);
-  const float* const left = border.data() + padding;
-  for (int column = first; column < end; ++column)
-  {
-    const auto i = static_cast<std::size_t>(column);
-    const float middle = 0.5f * (left[column] + left[column + 1]);
-    low[i] = smaller(middle - radius, low[i]);
-    high[i] = greater(middle + radius, high[i]);
-  }
 }
 } // namespace Talmesh

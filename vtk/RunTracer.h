@@ -2,6 +2,7 @@
 #define RunTracer_h
 
 #include "vtk/IntervalSink.h"
+#include "vtk/PenReach.h"
 #include "vtk/RunBits.h"
 
 #include <cstdint>
@@ -48,48 +49,34 @@ public:
              const PixelMap& map);
 
 private:
-  /// What reaches a column from beside it, as high as the pen is at that distance.
-  struct Tap
-  {
-    int offset; ///< from the column
-    float height;
-  };
   struct Position
   {
     double x; ///< in elements
     double y; ///< pixels
   };
 
-  void layTaps();
-  float penHeight(double distance) const;
   static Position positionOf(const float* point, const PixelMap& toElements);
   std::int64_t traceForward(const float* points, std::int64_t count, const PixelMap& toElements);
   void addPoint(const Position& point);
   void endPiece();
   void segment(const Position& from, const Position& to);
   void segmentWithin(const Position& from, const Position& to);
+  void enter(const Position& from, const Position& to, int first, int last);
   void include(const Position& point);
   void dot(const Position& center);
   void flushToBits();
   void finish(std::int32_t weight);
   bool reachColumns(int& first, int& end);
   void forgetStretch();
-  void reachThin(int first, int end);
-  void reachWide(int first, int end);
-  void reachMiddle(int first, int end);
 
   IntervalSink& sink;
   int columns;
   int rows;
   Pen pen;
-  int taps;    ///< columns that the pen's width takes
-  int padding; ///< elements before column 0 and behind the last one
-  double shift;
-  std::vector<Tap> borderTaps;
-  std::vector<Tap> sampleTaps;
+  PenReach reach;
+  double shift; ///< of elements against columns
 
-  /// Where the present stretch, in which x goes one way, enters each element from the left, and
-  /// what its samples reach within. Elements are columns, or lie half a column beside them.
+  /// The present stretch.
   std::vector<float> border;
   std::vector<float> lowest;
   std::vector<float> highest;

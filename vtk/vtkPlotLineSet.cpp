@@ -55,15 +55,7 @@ void vtkPlotLineSet::Update()
     return;
   // Lines do not have the colours of their points.
   const Talmesh::ColorsWithin noColors(nullptr, "", this->ScalarVisibility, this->Colors);
-  const Talmesh::PointInputs inputs = Talmesh::pointInputs(
-      this->Data, this->XAxis, this->YAxis, this->UseIndexForXSeries, this->ShiftScale,
-      this->ValidPointMaskName.empty() ? nullptr
-                                       : table->GetColumnByName(this->ValidPointMaskName.c_str()));
-  // The item is newer than its points since this last marked it so, which says nothing of them.
-  if (this->Points && inputs == this->CachedInputs)
-    this->BuildTime.Modified();
   this->Superclass::Update();
-  this->CachedInputs = inputs;
   this->ReadMarkers(table, false);
   this->Modified();
 }

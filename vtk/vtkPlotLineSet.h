@@ -2,11 +2,9 @@
 #define vtkPlotLineSet_h
 
 #include "vtk/CachedPicture.h"
+#include "vtk/CachedPoints.h"
 #include "vtk/LineCounts.h"
-#include "vtk/PointInputs.h"
 #include "vtk/VtkCompat.h"
-
-#include <vtkPlotPoints.h>
 
 #include <vector>
 
@@ -31,11 +29,11 @@ class AggregateTarget;
 /// one for the runs and one for the highlighted ones, which shows what drawing them one by one
 /// would add up to. They are made again only if points, pen, place or highlighted runs change.
 /// Dashed lines are drawn one by one everywhere.
-class vtkPlotLineSet : public vtkPlotPoints
+class vtkPlotLineSet : public Talmesh::CachedPoints
 {
 public:
   static vtkPlotLineSet* New();
-  TALMESH_VTK_TYPE(vtkPlotLineSet, vtkPlotPoints);
+  TALMESH_VTK_TYPE(vtkPlotLineSet, Talmesh::CachedPoints);
   void PrintSelf(ostream& os, vtkIndent indent) override;
 
   /// Updates the cached points and the copy of the marker column where their columns have changed,
@@ -119,7 +117,6 @@ private:
   void PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target);
 
   int BreakAtGaps = 0;
-  Talmesh::PointInputs CachedInputs;           ///< of the cached points
   std::vector<double> CopiedMarkers;           ///< tells the marker column that was copied
   double MarkerCopies = 0.0;                   ///< tells one copy of it from another
   vtkIdType CopiedMarks = 0;                   ///< non-zero values of that copy

@@ -1,0 +1,87 @@
+#include "vtk/PointCloud.h"
+#include "vtk/vtkGuardedAxis.h"
+#include "vtk/vtkPlotInvisiblePoints.h"
+#include "vtk/vtkPlotLineSet.h"
+
+#include <vtkPoints2D.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "VtkTestSupport.h"
+
+namespace
+{
+/// Items that keep the points which they have read, on axes of their own.
+template <class Item>
+class CachedPoints : public ::testing::Test
+{
+protected:
+  CachedPoints()
+  {
+    x->SetRange(1.0, 1e9);
+    y->SetRange(1e-300, 1.0);
+    item->SetXAxis(x);
+    item->SetYAxis(y);
+  }
+
+  void show(const std::vector<double>& xs, const std::vector<double>& ys)
+  {
+    table = makeTable({{"x", xs}, {"y", ys}});
+    item->SetInputData(table, "x", "y");
+    item->Update();
+  }
+
+  Points points()
+  {
+    Points found;
+    const auto* values = static_cast<float*>(item->Points->GetVoidPointer(0));
+    for (vtkIdType i = 0; i < item->Points->GetNumberOfPoints(); ++i)
+      found.emplace_back(values[2 * i], values[2 * i + 1]);
+    return found;
+  }
+
+  vtkNew<vtkGuardedAxis> x;
+  vtkNew<vtkGuardedAxis> y;
+  vtkSmartPointer<vtkTable> table;
+  vtkSmartPointer<Exposed<Item>> item = makeExposed<Exposed<Item>>();
+};
+
+using Items = ::testing::Types<Talmesh::PointCloud, vtkPlotInvisiblePoints, vtkPlotLineSet>;
+TYPED_TEST_SUITE(CachedPoints, Items);
+
+TYPED_TEST(CachedPoints, FollowALogarithmicAxisThatItsDataAllowOrForbid)
+{
+  this->x->SetLogScale(true);
+  this->y->SetLogScale(true);
+  this->show({10, 1000}, {0.1, 1});
+  EXPECT_EQ(this->points(), (Points{{1.0F, -1.0F}, {3.0F, 0.0F}}));
+  this->y->SetLogScaleAllowed(false);
+  this->item->Update();
+  EXPECT_EQ(this->points(), (Points{{1.0F, 0.1F}, {3.0F, 1.0F}}));
+  this->x->SetLogScaleAllowed(false);
+  this->y->SetLogScaleAllowed(true);
+  this->item->Update();
+  EXPECT_EQ(this->points(), (Points{{10.0F, -1.0F}, {1000.0F, 0.0F}}));
+}
+
+TYPED_TEST(CachedPoints, HaveLogarithmsOfValuesBeyondSinglePrecision)
+{
+  this->x->SetLogScale(true);
+  this->y->SetLogScale(true);
+  this->show({1, 1e39, 1e300, 4}, {1e-300, 1e-46, 1e-5, 0});
+  const Points found = this->points();
+  EXPECT_EQ(Points(found.begin(), found.begin() + 3),
+            (Points{{0.0F, -300.0F}, {39.0F, -46.0F}, {300.0F, -5.0F}}));
+  EXPECT_EQ(found[3].second, -INFINITY) << "zero has none";
+}
+
+TYPED_TEST(CachedPoints, HaveLogarithmsOfShiftedAndScaledValues)
+{
+  this->y->SetLogScale(true);
+  this->item->SetShiftScale({0.0, 1e-60, 1.0, 100.0});
+  this->show({1, 2}, {9e-60, 1.0});
+  EXPECT_EQ(this->points(), (Points{{1.0F, -57.0F}, {2.0F, 2.0F}}));
+}
+} // namespace

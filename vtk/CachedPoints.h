@@ -1,0 +1,35 @@
+#ifndef CachedPoints_h
+#define CachedPoints_h
+
+#include "vtk/PointInputs.h"
+
+#include <vtkPlotPoints.h>
+
+namespace Talmesh
+{
+/// A vtkPlotPoints, by class name too, that reads its table again only if something has changed
+/// that its points are made of. Logarithms of values beyond single precision are numbers, where
+/// VTK's are infinite.
+class CachedPoints : public vtkPlotPoints
+{
+public:
+  /// Updates the cached points and their colours, without colours if their column is missing.
+  /// Does nothing when the item is invisible or has no input table.
+  void Update() override;
+
+protected:
+  CachedPoints() = default;
+  ~CachedPoints() override = default;
+
+private:
+  CachedPoints(const CachedPoints&) = delete;
+  void operator=(const CachedPoints&) = delete;
+
+  PointInputs Inputs() const;
+  void CalculateExtremeLogarithms();
+
+  PointInputs CachedInputs; ///< of the cached points
+};
+} // namespace Talmesh
+
+#endif
