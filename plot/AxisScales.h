@@ -31,7 +31,8 @@ void setShowLegend(PlotState& state, bool legend);
 /// Gives the XY chart, which is a new one, the looks of the one before.
 void applyChartLooks(PlotState& state);
 
-/// A linear left axis again: for charts whose data have no logarithms.
+/// A linear left axis again: for charts of other quantities, which lie at or around zero. A style
+/// whose data merely refuse logarithms keeps the wish for them.
 void forgetLogScaleY(PlotState& state);
 
 /// A linear left axis and no legend again: for styles that show no XY chart to which they could

@@ -1,6 +1,5 @@
 #include "plot/ChartReuse.h"
 
-#include "plot/AxisScales.h"
 #include "plot/ChartLifetime.h"
 #include "plot/PlotState.h"
 
@@ -36,8 +35,6 @@ vtkChartXY* reuseChartXY(PlotState& state, vtkContextScene* scene)
   state.chartXY->SetInteractive(true);
   restoreAxis(state.chartXY->GetAxis(vtkAxis::BOTTOM));
   restoreAxis(state.chartXY->GetAxis(vtkAxis::LEFT));
-  // Densities and residuals reach zero, and error bars are lengths on a linear axis.
-  forgetLogScaleY(state);
   return state.chartXY;
 }
 

@@ -11,7 +11,7 @@ struct PlotState;
 
 /// The XY chart, shown in `scene` (which may be null) and ready for other data: without plots and
 /// with bottom and left axis as a new chart has them, so that nothing of a distribution or of Sobol
-/// results shows through. The left axis is linear. Titles and the legend stay.
+/// results shows through. Titles, the legend and the wish for a logarithmic left axis stay.
 vtkChartXY* reuseChartXY(PlotState& state, vtkContextScene* scene);
 
 } // namespace Talmesh::plot

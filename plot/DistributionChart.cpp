@@ -104,6 +104,8 @@ RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve)
   const auto [low, high] = curve.range;
   replaceTable(state, curve.table);
   vtkChartXY* chart = reuseChartXY(state, currentScene(state));
+  // Densities are shown from zero on.
+  forgetLogScaleY(state);
   vtkPlot* area = chart->AddPlot(vtkChart::STACKED);
   // VTK sorts the points by x and does not finish painting an infinite axis.
   if (isBounded(plottableColumn(state.table, 0)))

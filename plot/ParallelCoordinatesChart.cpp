@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/FiniteTable.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionModes.h"
@@ -29,7 +30,8 @@ constexpr double redHue = 0.0;
 
 void showColumn(PlotState& state, int column)
 {
-  if (isBounded(plottableColumn(state.table, column)))
+  double range[2];
+  if (finiteRange(plottableColumn(state.table, column), range))
     state.parallelCoordinates->SetColumnVisibility(columnName(state.table, column), true);
 }
 
@@ -75,7 +77,7 @@ void feedLines(PlotState& state)
   plot->SetSelection(listSelectedRows(state.annotationLink, state.table));
   state.parallelCoordinates->SetPlot(plot);
   state.parallelCoordinates->GetVisibleColumns()->SetNumberOfTuples(0);
-  plot->vtkPlot::SetInputData(state.table);
+  plot->vtkPlot::SetInputData(withoutInfinities(state.table));
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "plot/SelectionModes.h"
 
 #include <vtkAnnotationLink.h>
-#include <vtkContextMapper2D.h>
 #include <vtkDataSetAttributes.h>
 #include <vtkIdTypeArray.h>
 #include <vtkInformation.h>
@@ -19,21 +18,6 @@ namespace Talmesh::plot
 
 namespace
 {
-
-constexpr int axes = 2;
-
-/// The rows that the table and both columns of the plot have.
-vtkIdType rowCount(vtkPlot* plot)
-{
-  vtkTable* table = plot->GetInput();
-  vtkIdType rows = table->GetNumberOfRows();
-  for (int axis = 0; axis < axes; ++axis)
-  {
-    if (vtkDataArray* column = plot->GetData()->GetInputArrayToProcess(axis, table))
-      rows = std::min(rows, column->GetNumberOfTuples());
-  }
-  return rows;
-}
 
 /// Whether the chart's way, to take the first list for row numbers, is right.
 bool isOneListOfRows(vtkSelection* selection)
@@ -72,7 +56,7 @@ void cut(vtkPlot* plot)
   vtkIdTypeArray* ids = plot->GetSelection();
   if (!ids)
     return;
-  const vtkIdType rows = rowCount(plot);
+  const vtkIdType rows = plot->GetInput()->GetNumberOfRows();
   const auto isInside = [rows](vtkIdType id) { return id >= 0 && id < rows; };
   const vtkIdType* const begin = ids->GetPointer(0);
   const vtkIdType* const end = begin + ids->GetNumberOfValues();

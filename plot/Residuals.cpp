@@ -191,6 +191,8 @@ vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& se
 void drawResiduals(PlotState& state, std::size_t outputs, bool timeCourse, ResidualOptions options)
 {
   reuseChartXY(state, currentScene(state));
+  // Residuals lie around zero.
+  forgetLogScaleY(state);
   // The chart may be a new one, which knows nothing of the titles set so far.
   state.chartXY->GetAxis(vtkAxis::BOTTOM)->SetTitle(state.metaData->xLabel);
   state.chartXY->GetAxis(vtkAxis::LEFT)->SetTitle(state.metaData->yLabel);

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/FiniteTable.h"
 #include "plot/Margins.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
@@ -49,7 +50,9 @@ void showColumns(PlotState& state, const std::vector<int>& columns)
   for (const int column : columns)
   {
     const std::string name = columnName(state.table, column);
-    if (taken && isBounded(plottableColumn(state.table, column)) && names->LookupValue(name) < 0)
+    double range[2];
+    if (taken && finiteRange(plottableColumn(state.table, column), range) &&
+        names->LookupValue(name) < 0)
       names->InsertNextValue(name);
   }
   showColumns(state.scatterPlotMatrix, names);
@@ -111,7 +114,7 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   // The matrix ignores an empty table and would go on showing the one before.
   state.scatterPlotMatrix->SetInput(nullptr);
   if (state.table->GetNumberOfRows() > 0)
-    state.scatterPlotMatrix->SetInput(state.table);
+    state.scatterPlotMatrix->SetInput(withoutInfinities(state.table));
   releaseChartXY(state);
   // The matrix does not notice either that the table is another one.
   state.matrixSelection.show(state.annotationLink->GetCurrentSelection());
@@ -137,7 +140,7 @@ void feedScatterMatrixFrom(PlotState& state, vtkTable* copy)
     return;
   const vtkVector2i active = matrix->GetActivePlot();
   const ChartCells dropped = cellsOf(matrix);
-  matrix->SetInput(copy);
+  matrix->SetInput(withoutInfinities(copy));
   showColumns(matrix, names);
   retireCells(state, dropped, matrix->GetScene());
   activateAgain(matrix, active);

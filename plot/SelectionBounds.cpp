@@ -77,22 +77,25 @@ void cutLists(vtkSelection* selection, vtkIdType rows)
   }
 }
 
-/// Keeps the container from reacting, also when an observer of the link throws.
-class Silence
+/// Keeps the container from reacting to one selection, also when an observer of the link throws.
+/// What an observer selects in answer to it is another one.
+class Overlooked
 {
 public:
-  explicit Silence(vtkSelectionUpdateCallback* callback)
-      : silenced(callback)
+  Overlooked(vtkSelectionUpdateCallback* by, vtkSelection* selection)
+      : callback(by)
+      , before(by->Overlooked)
   {
-    silenced->Silent = true;
+    callback->Overlooked = selection;
   }
-  ~Silence() { silenced->Silent = false; }
-  Silence(const Silence&) = delete;
-  Silence& operator=(const Silence&) = delete;
+  ~Overlooked() { callback->Overlooked = before; }
+  Overlooked(const Overlooked&) = delete;
+  Overlooked& operator=(const Overlooked&) = delete;
 
 private:
   /// An observer may end the container.
-  vtkSmartPointer<vtkSelectionUpdateCallback> silenced;
+  vtkSmartPointer<vtkSelectionUpdateCallback> callback;
+  vtkSelection* before;
 };
 
 } // namespace
@@ -108,7 +111,7 @@ void cutSelectionToTable(PlotState& state)
   if (!inside)
     return;
   cutLists(inside, rows);
-  const Silence silence(state.selectionUpdateCallback);
+  const Overlooked overlooked(state.selectionUpdateCallback, inside);
   link->SetCurrentSelection(inside);
 }
 

@@ -63,7 +63,8 @@ void reportFailure(PlotContainer& container, const std::function<void()>& step)
 void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*)
 {
   auto* link = vtkAnnotationLink::SafeDownCast(caller);
-  if (!link || !this->Container || this->Silent)
+  if (!link || !this->Container ||
+      (this->Overlooked && link->GetCurrentSelection() == this->Overlooked))
     return;
   PlotContainer& container = *this->Container;
   if (link == container.getAnnotationLink())

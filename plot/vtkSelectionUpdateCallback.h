@@ -6,6 +6,7 @@
 #include <vtkCommand.h>
 
 class PlotContainer;
+class vtkSelection;
 
 /// Reacts to every change of the selection: splits the runs, compares the parts, draws again.
 class vtkSelectionUpdateCallback : public vtkCommand
@@ -19,8 +20,8 @@ public:
 
   /// Not owned. Null until a container sets it and again once that container is gone.
   PlotContainer* Container = nullptr;
-  /// Changes of the selection that the container itself makes need no reaction.
-  bool Silent = false;
+  /// A selection that the container itself makes and needs no reaction to. Only compared.
+  vtkSelection* Overlooked = nullptr;
 
 protected:
   vtkSelectionUpdateCallback() = default;

@@ -1,6 +1,7 @@
 #include "GroupsInWindow.h"
 
 #include "app/GroupedPlots.h"
+#include "vtk/PointCloud.h"
 #include "vtk/vtkPlotLineSet.h"
 
 #include <vtkPen.h>
@@ -71,6 +72,18 @@ TEST_F(GroupsInWindow, ColourTheRunsBehindTheirHighlight)
   tick("groupColours");
   EXPECT_EQ(chart().GetNumberOfPlots(), 1);
   EXPECT_FALSE(plots<vtkPlotLineSet>()[0]->GetOnlyShowSelected());
+}
+
+TEST_F(GroupsInWindow, OfPointsAreCloudsThatBecomePictures)
+{
+  Talmesh::app::PlotChoice choice = window.plotDock()->choice();
+  choice.lines = false;
+  choose(choice);
+  group(2);
+  const auto clouds = plots<vtkPlotPoints>();
+  ASSERT_EQ(clouds.size(), 3U);
+  for (vtkPlotPoints* cloud : clouds)
+    EXPECT_NE(dynamic_cast<Talmesh::PointCloud*>(cloud), nullptr);
 }
 
 TEST_F(GroupsInWindow, KeepTheirColoursWhenTheChartIsDrawnAnew)

@@ -215,12 +215,22 @@ TEST_F(ChartLooks, StayInEveryStyleWithAnXYChart)
   expectLooks(false, false);
 }
 
-TEST_F(ChartLooks, KeepTheLegendButNoLogarithmsWithErrorBars)
+TEST_F(ChartLooks, StayWhileErrorBarsRefuseLogarithms)
 {
-  drawStyle(scatterWithErrorBars);
-  expectLooks(false, true);
-  drawStyle(xyPlot);
-  expectLooks(false, true);
+  for (int i = 0; i < 2; ++i)
+  {
+    drawStyle(scatterWithErrorBars);
+    EXPECT_FALSE(container.showsLogScaleY()) << "also before it is painted";
+    expectSoundPicture(scene, container);
+    EXPECT_FALSE(left()->GetLogScaleActive());
+    EXPECT_TRUE(chart()->GetShowLegend());
+    EXPECT_GT(left()->GetMinimum(), 10) << "bars of 100 +- 20";
+    EXPECT_LE(left()->GetMaximum(), 200);
+    drawStyle(xyPlot);
+    expectLooks(true, true);
+    drawStyle(selectionCdfPlot);
+    expectLooks(true, true);
+  }
 }
 
 TEST_F(ChartLooks, LeaveErrorBarsLinearWhenTheyAreAskedFor)

@@ -1,13 +1,21 @@
+#include "plot/LostColumns.h"
+
+#include "plot/TableColumns.h"
+#include "plot/vtkSelectableChartXY.h"
 #include "support/ParameterStudy.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
+#include "support/VtkErrors.h"
 
 #include <vtkChartParallelCoordinates.h>
 #include <vtkDataSetAttributes.h>
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "SobolFixture.h"
 
@@ -116,6 +124,82 @@ TEST_F(LostPlot, IsEmptyUntilTheNextDrawing)
   container.redraw();
   scene.render(container);
   EXPECT_TRUE(points()->GetVisible());
+}
+
+TEST_F(LostPlot, IsSeenBeforeItsScaleIsSettled)
+{
+  const VtkErrors vtkOutput;
+  for (const bool lines : {false, true})
+  {
+    settings().setPlotLine(lines);
+    container.setPlotData(plainTable());
+    container.redraw();
+    scene.render(container);
+    container.getTable()->GetRowData()->RemoveArray("b");
+    container.getTable()->Modified();
+    container.setLogScaleY(true);
+    EXPECT_FALSE(chart()->GetPlot(0)->GetVisible());
+    container.redraw();
+    container.setPlotData(plainTable());
+    container.redraw();
+    container.getTable()->GetRowData()->RemoveArray("b");
+    container.getTable()->Modified();
+    EXPECT_TRUE(container.showsLogScaleY()) << "nothing is shown that forbids it";
+    EXPECT_FALSE(chart()->GetPlot(0)->GetVisible());
+    container.setLogScaleY(false);
+  }
+  EXPECT_EQ(vtkOutput.text(), "");
+}
+
+TEST_F(LostPlot, DoesNotTakeOthersOfItsTableAlong)
+{
+  vtkTable* table = container.getTable();
+  vtkPlot* other = chart()->AddPlot(vtkChart::POINTS);
+  other->SetInputData(table, "a", "c");
+  scene.render(container);
+  table->GetColumnByName("b")->SetName("other");
+  scene.render(container);
+  EXPECT_FALSE(chart()->GetPlot(0)->GetVisible());
+  EXPECT_TRUE(other->GetVisible());
+  table->GetColumnByName("c")->SetNumberOfTuples(2);
+  scene.render(container);
+  EXPECT_FALSE(other->GetVisible());
+}
+
+/// Searched by name, columns cost their number for each plot: 40 s here.
+TEST_F(LostPlot, IsLookedForInTimeInProportionToThousands)
+{
+  constexpr int series = 20000;
+  const std::vector<double> values{1, 2};
+  auto table = vtkSmartPointer<vtkTable>::New();
+  table->GetRowData()->AllocateArrays(series);
+  vtkNew<vtkSelectableChartXY> many;
+  // A table compares the name of a new column with those of all others.
+  for (int i = 0; i < series; ++i)
+  {
+    const auto column = Talmesh::plot::makeColumn("", values);
+    column->SetName(nullptr);
+    table->GetRowData()->AddArray(column);
+  }
+  for (int i = 0; i < series; ++i)
+  {
+    const std::string name = "series with a long name " + std::to_string(i);
+    table->GetColumn(i)->SetName(name.c_str());
+    vtkPlot* plot = many->AddPlot(vtkChart::POINTS);
+    plot->SetUseIndexForXSeries(true);
+    plot->SetInputData(table, name, name);
+  }
+  const auto start = std::chrono::steady_clock::now();
+  Talmesh::plot::LostColumns lost;
+  for (int painting = 0; painting < 3; ++painting)
+    lost.hidePlots(many);
+  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+  EXPECT_LT(taken.count(), 2.0);
+  EXPECT_TRUE(many->GetPlot(series - 1)->GetVisible());
+  table->GetColumn(series - 1)->SetName("gone");
+  lost.hidePlots(many);
+  EXPECT_FALSE(many->GetPlot(series - 1)->GetVisible());
+  EXPECT_TRUE(many->GetPlot(0)->GetVisible());
 }
 
 TEST_F(LostPlot, OnlyLosesItsColorsWithTheColumnOfThose)

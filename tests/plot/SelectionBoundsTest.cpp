@@ -1,4 +1,6 @@
+#include "plot/DerivedTables.h"
 #include "plot/SelectionNodes.h"
+#include "support/ParameterStudy.h"
 #include "support/PlotFixture.h"
 #include "support/Reaction.h"
 #include "support/SampleRuns.h"
@@ -9,6 +11,7 @@
 #include <vtkIdTypeArray.h>
 #include <vtkSelection.h>
 #include <vtkSelectionNode.h>
+#include <vtkVariant.h>
 
 #include <gtest/gtest.h>
 
@@ -118,6 +121,34 @@ TEST_F(SelectionBounds, AreNotThoseOfAnEmptyTable)
     scene.render(container);
     EXPECT_EQ(SampleRuns::selectedRows(container), Rows({1, 3}));
   }
+}
+
+TEST_F(SelectionBounds, LeaveItToTheContainerToReactToWhatIsSelectedInAnswer)
+{
+  container.setLinePlotTable(parameterStudy(6, 4, 2), true);
+  select(Talmesh::plot::makeRowSelection({2, 23}));
+  bool answered = false;
+  vtkNew<Reaction> reaction;
+  reaction->react = [&]
+  {
+    if (!answered)
+    {
+      answered = true;
+      select(Talmesh::plot::makeRowSelection({8}));
+    }
+  };
+  container.getAnnotationLink()->AddObserver(vtkCommand::AnnotationChangedEvent, reaction);
+  container.setLinePlotTable(parameterStudy(3, 4, 2), true);
+  container.redraw();
+  container.getAnnotationLink()->RemoveObserver(reaction);
+  EXPECT_TRUE(answered);
+  EXPECT_EQ(SampleRuns::selectedRows(container), Rows({8}));
+  const auto& tables = container.state().derivedTables;
+  ASSERT_GT(tables.size(), Talmesh::plot::ownSlots);
+  vtkTable* selected = tables[Talmesh::plot::ownSlots];
+  ASSERT_NE(selected, nullptr);
+  ASSERT_EQ(selected->GetNumberOfRows(), 1);
+  EXPECT_EQ(selected->GetValueByName(0, ": Run Index").ToDouble(), 2.0);
 }
 
 /// A client that draws whenever it hears of a selection, and a table that has lost rows.

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <vector>
 
@@ -58,6 +60,19 @@ TEST_F(SetAsideCharts, LiveOnWhileAHandlerRuns)
   const Talmesh::plot::HandlerScope running;
   drawOftenIn(xyzPlot);
   EXPECT_EQ(alive(), 6);
+}
+
+TEST_F(SetAsideCharts, OutliveAnEventLoopWithinAHandler)
+{
+  {
+    const Talmesh::plot::HandlerScope running;
+    drawOftenIn(xyzPlot);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(alive(), 6);
+  }
+  QCoreApplication::processEvents();
+  container.redraw();
+  EXPECT_EQ(alive(), 0);
 }
 
 /// Moves the mouse to a part of the chart's width and height.

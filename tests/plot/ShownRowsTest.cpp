@@ -2,6 +2,7 @@
 #include "support/PlotFixture.h"
 #include "support/SampleRuns.h"
 
+#include <vtkChartParallelCoordinates.h>
 #include <vtkInformation.h>
 #include <vtkIntArray.h>
 #include <vtkSelection.h>
@@ -84,18 +85,44 @@ TEST_F(ShownRows, AreThoseOfThePlotsOwnTableInEveryCell)
   EXPECT_EQ(shown(matrix->GetChart(vtkVector2i(0, 0))->GetPlot(0)), Ids({1}));
 }
 
-TEST_F(ShownRows, EndWithTheShorterColumn)
+TEST_F(ShownRows, AreThoseOfTheTableWhateverColumnsHave)
 {
-  container.getTable()->GetColumn(1)->SetNumberOfTuples(3);
-  container.getTable()->Modified();
-  settings().yColumns = {1};
-  container.redraw();
-  select(makeRowSelection({0, 4}));
-  scene.render(container);
-  if (points()->GetInput())
+  // A table has the rows of its first column.
+  for (const int rows : {3, 9})
   {
-    EXPECT_EQ(shown(points()), Ids({0}));
+    container.setPlotData(plainTable());
+    container.redraw();
+    vtkTable* table = container.getTable();
+    for (const int column : {0, 1, 3})
+    {
+      auto* values = Talmesh::plot::doubleColumn(table, column);
+      values->SetNumberOfTuples(rows);
+      values->SetValue(rows - 1, 3.0);
+    }
+    table->Modified();
+    select(makeRowSelection({0, 4, 8}));
+    scene.render(container);
+    ASSERT_TRUE(points()->GetVisible()) << "its own columns are whole";
+    EXPECT_EQ(shown(points()), rows == 3 ? Ids({0}) : Ids({0, 4, 8}));
+    table->GetColumn(0)->SetNumberOfTuples(2);
+    scene.render(container);
+    EXPECT_FALSE(points()->GetVisible()) << "its columns have rows that the table has not";
   }
+}
+
+TEST_F(ShownRows, GoWithTheRowsOfATableInParallelCoordinates)
+{
+  container.setPlotStyle(parallelCoordinates);
+  select(makeRowSelection({0, 1, 4}));
+  scene.render(container);
+  auto* axes = vtkChartParallelCoordinates::SafeDownCast(container.getItem());
+  ASSERT_NE(axes, nullptr);
+  EXPECT_EQ(shown(axes->GetPlot(0)), Ids({0, 1, 4}));
+  vtkTable* table = container.getTable();
+  for (int column = 0; column < table->GetNumberOfColumns(); ++column)
+    table->GetColumn(column)->SetNumberOfTuples(2);
+  scene.render(container);
+  EXPECT_EQ(shown(axes->GetPlot(0)), Ids({0, 1}));
 }
 
 TEST_F(ShownRows, AreAllThatSeveralListsName)

@@ -1,5 +1,7 @@
+#include "support/RecordingDevice.h"
 #include "vtk/vtkGuardedAxis.h"
 
+#include <vtkContext2D.h>
 #include <vtkContextScene.h>
 #include <vtkDoubleArray.h>
 #include <vtkNew.h>
@@ -43,6 +45,17 @@ protected:
     std::vector<std::string> texts;
     for (vtkIdType i = 0; i < axis->GetTickLabels()->GetNumberOfValues(); ++i)
       texts.push_back(axis->GetTickLabels()->GetValue(i));
+    return texts;
+  }
+
+  /// The texts that it paints, without updating it before.
+  std::vector<std::string> painted(RecordingPainter& recording)
+  {
+    recording.device->clear();
+    axis->Paint(recording.painter);
+    std::vector<std::string> texts;
+    for (const auto& call : recording.device->calls(RecordingDevice::Kind::String))
+      texts.push_back(call.text);
     return texts;
   }
 
@@ -166,6 +179,25 @@ TEST_F(GuardedAxis, TellsApartWhatIsWantedAndWhatTheDataAllow)
   axis->SetLogScaleAllowed(true);
   EXPECT_TRUE(axis->GetLogScaleActive());
   EXPECT_EQ(axis->GetMaximum(), 2.0);
+}
+
+TEST_F(GuardedAxis, PaintsNoTickWithoutItsLabel)
+{
+  axis->SetRange(0.0, 10.0);
+  axis->Update();
+  ASSERT_GT(labels().size(), 3U);
+  RecordingPainter recording;
+  vtkNew<vtkDoubleArray> positions;
+  vtkNew<vtkStringArray> names;
+  for (const char* name : {"near", "far"})
+  {
+    positions->InsertNextValue(positions->GetNumberOfValues() == 0 ? 2.0 : 8.0);
+    names->InsertNextValue(name);
+  }
+  axis->SetCustomTickPositions(positions, names);
+  EXPECT_EQ(painted(recording), (std::vector<std::string>{"near", "far"}));
+  axis->SetCustomTickPositions(positions, nullptr);
+  EXPECT_EQ(painted(recording), std::vector<std::string>());
 }
 
 TEST_F(GuardedAxis, KeepsTicksOfItsOwner)

@@ -92,6 +92,20 @@ TEST_F(LineSet, ForgetsTheMarkedRunsWhenOnlyTheMarkersAreReadAgain)
   EXPECT_EQ(highlights(), (Lines{{10, 10}}));
 }
 
+TEST_F(LineSet, ReadsMarkersThatChangedWithoutAWordWhenItIsTold)
+{
+  setRows(30);
+  mark({3});
+  item->SetStride(10);
+  item->Update();
+  EXPECT_EQ(highlights(), (Lines{{0, 10}}));
+  auto* markers = vtkIdTypeArray::SafeDownCast(table->GetColumnByName(Remainder));
+  markers->SetValue(3, 0);
+  markers->SetValue(21, 1);
+  item->UpdateSelectionCache(table);
+  EXPECT_EQ(highlights(), (Lines{{20, 10}}));
+}
+
 TEST_F(LineSet, ReadsMarkersOfAnyNumericType)
 {
   setRows(20);

@@ -13,9 +13,9 @@ using Talmesh::SpriteShape;
 namespace
 {
 // Rows from the top.
-std::string pictureOf(SpriteShape shape, int size, bool highlighted = false)
+std::string pictureOf(SpriteShape shape, int size, bool highlighted = false, int stroke = 1)
 {
-  const MarkerSprite sprite(static_cast<int>(shape), size, highlighted);
+  const MarkerSprite sprite(static_cast<int>(shape), size, highlighted, stroke);
   std::string picture;
   for (int row = size - 1; row >= 0; --row)
   {
@@ -50,6 +50,17 @@ TEST(MarkerCounts, HaveTheShapesOfTheScreen)
   EXPECT_EQ(pictureOf(SpriteShape::Diamond, 5), "..#..|.###.|#####|.###.|..#..|");
   EXPECT_EQ(pictureOf(SpriteShape::Circle, 4), "....|.###|.###|.###|");
   EXPECT_EQ(pictureOf(static_cast<SpriteShape>(99), 3), pictureOf(SpriteShape::Plus, 3));
+}
+
+TEST(MarkerCounts, HaveTheStrokesOfLargerPixelRatios)
+{
+  EXPECT_EQ(pictureOf(SpriteShape::Plus, 5, false, 3), pictureOf(SpriteShape::Plus, 5, true));
+  EXPECT_EQ(pictureOf(SpriteShape::Plus, 4, false, 2), ".##.|####|####|.##.|");
+  EXPECT_EQ(pictureOf(SpriteShape::Cross, 5, false, 3), "##.##|#####|.###.|#####|##.##|");
+  EXPECT_EQ(pictureOf(SpriteShape::Plus, 9, true, 2),
+            "..######.|..######.|#########|#########|#########|#########|#########|#########|"
+            "..######.|");
+  EXPECT_EQ(pictureOf(SpriteShape::Square, 3, false, 2), pictureOf(SpriteShape::Square, 3));
 }
 
 TEST(MarkerCounts, LieAroundTheirPoints)

@@ -138,6 +138,27 @@ TEST_F(CloudPicture, LeavesBadPointsOut)
   EXPECT_EQ(picture.opacityAt(20.5, 40.5), 0);
 }
 
+TEST_F(CloudPicture, HasStrokesOneUnitWide)
+{
+  for (const int style : {vtkPlotPoints::PLUS, vtkPlotPoints::CROSS})
+  {
+    item->SetMarkerStyle(style);
+    item->SetMarkerSize(9);
+    for (const int ratio : {1, 3, 5})
+    {
+      SCOPED_TRACE(ratio);
+      device->pixelRatio = ratio;
+      const auto picture = paint().at(0);
+      const double arm = style == vtkPlotPoints::PLUS ? 10.5 : 13.5;
+      for (int pixel = -ratio; pixel <= ratio; ++pixel)
+      {
+        const bool inside = std::abs(pixel) <= ratio / 2;
+        EXPECT_EQ(picture.opacityAt(13.5, arm + double(pixel) / ratio), inside ? 51 : 0) << pixel;
+      }
+    }
+  }
+}
+
 TEST_F(CloudPicture, HasNoMarkersWithoutAStyleButSelectedOnes)
 {
   item->SetMarkerStyle(vtkPlotPoints::NONE);

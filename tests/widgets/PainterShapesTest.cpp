@@ -1,11 +1,15 @@
 #include "widgets/PainterShapes.h"
 
+#include <vtkImageData.h>
+#include <vtkNew.h>
+
 #include <gtest/gtest.h>
 
 #include <QPolygonF>
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 TEST(PainterShapes, KeepsPeaksAndTurnsOfALineOfFewerPoints)
 {
@@ -35,4 +39,13 @@ TEST(PainterShapes, KeepsPeaksAndTurnsOfALineOfFewerPoints)
     }
     EXPECT_LE(nearest, 0.021) << point.x();
   }
+}
+
+TEST(PainterShapes, SaysThatAPictureDoesNotFitIntoMemory)
+{
+  vtkNew<vtkImageData> wide;
+  // Rows of more bytes than Qt counts; the pixels are never touched.
+  wide->SetDimensions(80000000, 1, 1);
+  wide->AllocateScalars(VTK_UNSIGNED_CHAR, 1);
+  EXPECT_THROW(Talmesh::imageOf(wide), std::bad_alloc);
 }

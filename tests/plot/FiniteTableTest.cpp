@@ -1,0 +1,90 @@
+#include "plot/FiniteTable.h"
+
+#include "support/PlotFixture.h"
+#include "support/SampleRuns.h"
+#include "support/SoundPicture.h"
+
+#include <vtkChartParallelCoordinates.h>
+#include <vtkScatterPlotMatrix.h>
+#include <vtkStringArray.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+using Talmesh::plot::withoutInfinities;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+vtkSmartPointer<vtkTable> tableWithInfinities()
+{
+  return tableOf({{"a", {0, 1, 2, 3}},
+                  {"b", {1, infinity, 3, 7}},
+                  {"c", {infinity, -infinity, infinity, infinity}},
+                  {"d", {-infinity, 2, 3, 4}}});
+}
+
+TEST(FiniteTable, IsTheTableItselfWhereNothingIsInfinite)
+{
+  const auto table = plainTable();
+  EXPECT_EQ(withoutInfinities(table), table);
+  EXPECT_EQ(withoutInfinities(vtkNew<vtkTable>())->GetNumberOfColumns(), 0);
+}
+
+TEST(FiniteTable, HasNoNumberWhereAnInfinityIs)
+{
+  const auto table = tableWithInfinities();
+  const auto finite = withoutInfinities(table);
+  ASSERT_EQ(finite->GetNumberOfColumns(), 4);
+  EXPECT_EQ(finite->GetColumn(0), table->GetColumn(0)) << "no copy where none is needed";
+  EXPECT_EQ(finite->GetColumn(2), table->GetColumn(2)) << "nothing can be shown of it";
+  const auto found = SampleRuns::valuesOf(finite->GetColumn(1));
+  EXPECT_EQ(found[0], 1);
+  EXPECT_TRUE(std::isnan(found[1]));
+  EXPECT_EQ(found[3], 7);
+  EXPECT_EQ(table->GetValueByName(1, "b").ToDouble(), infinity) << "the client's own stays";
+}
+
+class InfiniteValues : public PlotFixture
+{
+protected:
+  InfiniteValues() { container.setPlotData(tableWithInfinities()); }
+
+  static std::vector<std::string> names(vtkStringArray* columns)
+  {
+    std::vector<std::string> found;
+    for (vtkIdType i = 0; i < columns->GetNumberOfValues(); ++i)
+      found.push_back(columns->GetValue(i));
+    return found;
+  }
+};
+
+TEST_F(InfiniteValues, HideNoColumnOfTheMatrix)
+{
+  drawStyle(scatterPlotMatrix);
+  expectSoundPicture(scene, container);
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  ASSERT_NE(matrix, nullptr);
+  EXPECT_EQ(names(matrix->GetVisibleColumns()), (std::vector<std::string>{"a", "b", "d"}));
+  vtkAxis* across = matrix->GetMainChart()->GetAxis(vtkAxis::BOTTOM);
+  EXPECT_TRUE(std::isfinite(across->GetMaximum() - across->GetMinimum()));
+}
+
+TEST_F(InfiniteValues, HideNoAxisOfParallelCoordinates)
+{
+  settings().yColumns = {};
+  drawStyle(parallelCoordinates);
+  expectSoundPicture(scene, container);
+  auto* chart = vtkChartParallelCoordinates::SafeDownCast(container.getItem());
+  ASSERT_NE(chart, nullptr);
+  EXPECT_EQ(names(chart->GetVisibleColumns()), (std::vector<std::string>{"a", "b", "d"}));
+  EXPECT_EQ(chart->GetAxis(1)->GetMinimum(), 1);
+  EXPECT_GE(chart->GetAxis(1)->GetMaximum(), 7);
+  EXPECT_LE(chart->GetAxis(1)->GetMaximum(), 10);
+}
+
+} // namespace
