@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -189,12 +189,11 @@ TEST_F(LostPlot, IsLookedForInTimeInProportionToThousands)
     plot->SetUseIndexForXSeries(true);
     plot->SetInputData(table, name, name);
   }
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   Talmesh::plot::LostColumns lost;
   for (int painting = 0; painting < 3; ++painting)
     lost.hidePlots(many);
-  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-  EXPECT_LT(taken.count(), 2.0);
+  EXPECT_LT(std::clock() - start, 5 * CLOCKS_PER_SEC);
   EXPECT_TRUE(many->GetPlot(series - 1)->GetVisible());
   table->GetColumn(series - 1)->SetName("gone");
   lost.hidePlots(many);
