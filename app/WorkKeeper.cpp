@@ -24,6 +24,13 @@ bool isSame(const SessionWork& a, const SessionWork& b)
          a.normalised == b.normalised;
 }
 
+QString reasonOf(const std::exception& failure)
+{
+  return dynamic_cast<const std::bad_alloc*>(&failure)
+             ? WorkKeeper::tr("there is not enough memory")
+             : QString::fromLocal8Bit(failure.what());
+}
+
 } // namespace
 
 WorkKeeper::WorkKeeper(const QString& folderPath, Unsaved whatIsUnsaved, int interval,
@@ -76,6 +83,19 @@ void WorkKeeper::keepNow()
 /// @return whether the parts are to be written
 bool WorkKeeper::prepare(SessionParts& parts)
 {
+  try
+  {
+    return collect(parts);
+  }
+  catch (const std::exception& failure)
+  {
+    report(reasonOf(failure));
+    return false;
+  }
+}
+
+bool WorkKeeper::collect(SessionParts& parts)
+{
   const std::optional<SessionSource> source = unsaved();
   if (!source)
   {
@@ -92,15 +112,7 @@ bool WorkKeeper::prepare(SessionParts& parts)
     report(tr("%1 cannot be written").arg(path));
     return false;
   }
-  try
-  {
-    parts = sessionParts(*source);
-  }
-  catch (const std::bad_alloc&)
-  {
-    report(tr("there is not enough memory"));
-    return false;
-  }
+  parts = sessionParts(*source);
   kept = std::move(work);
   return true;
 }
@@ -115,7 +127,7 @@ void WorkKeeper::write(const SessionParts& parts)
   }
   catch (const std::exception& failure)
   {
-    error = QString::fromLocal8Bit(failure.what());
+    error = reasonOf(failure);
   }
   QMetaObject::invokeMethod(
       this, [this, error] { report(error); }, Qt::QueuedConnection);

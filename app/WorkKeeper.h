@@ -47,6 +47,7 @@ signals:
 private:
   void look();
   bool prepare(SessionParts& parts);
+  bool collect(SessionParts& parts);
   void write(const SessionParts& parts);
   void report(const QString& error);
   void wait();

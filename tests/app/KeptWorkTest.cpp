@@ -1,6 +1,7 @@
 #include "app/KeptWork.h"
 
 #include "app/Session.h"
+#include "support/DiskFaults.h"
 
 #include <QStatusBar>
 
@@ -51,6 +52,11 @@ protected:
     shown.show();
     shown.keepWork(state(), soon);
     return question(shown, "askAboutLeftWork");
+  }
+
+  bool saysThatItCannotBeKept()
+  {
+    return window.statusBar()->currentMessage().startsWith("Unsaved work cannot be kept");
   }
 
   void bringBackIn(MainWindow& shown)
@@ -178,12 +184,32 @@ TEST_F(KeptWork, SaysOnceThatItCannotBeKept)
   blocked.close();
   window.keepWork(state(), soon);
   select({20});
-  const auto said = [this]
-  { return window.statusBar()->currentMessage().startsWith("Unsaved work cannot be kept"); };
-  EXPECT_TRUE(QTest::qWaitFor(said, patience));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return saysThatItCannotBeKept(); }, patience));
   window.statusBar()->clearMessage();
   QTest::qWait(4 * soon);
-  EXPECT_FALSE(said());
+  EXPECT_FALSE(saysThatItCannotBeKept());
+}
+
+TEST_F(KeptWork, IsTriedAgainWhenMemoryHasRunOut)
+{
+  window.keepWork(state(), soon);
+  for (const int run : {20, 30})
+  {
+    const QByteArray before = keptFiles().isEmpty() ? QByteArray() : contentOf(keptFile());
+    {
+      // First while the file's lock is written, then in the thread that writes the file.
+      const DiskFault fault(DiskCall::Sync, outOfMemory);
+      select({run});
+      EXPECT_TRUE(QTest::qWaitFor([this] { return saysThatItCannotBeKept(); }, 100 * soon));
+      EXPECT_EQ(window.statusBar()->currentMessage(),
+                "Unsaved work cannot be kept for later: there is not enough memory");
+      EXPECT_EQ(keptFiles().isEmpty(), before.isEmpty());
+    }
+    window.statusBar()->clearMessage();
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return !keptFiles().isEmpty() && contentOf(keptFile()) != before; }, 100 * soon));
+    EXPECT_EQ(openSession(keptFile()).error, "");
+  }
 }
 
 TEST_F(KeptWork, HasItsFolderBelowTheStateOfTheUser)

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <new>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -17,6 +18,8 @@ bool fails(DiskCall call)
   if (failing != static_cast<int>(call))
     return false;
   ++made;
+  if (failure == outOfMemory)
+    throw std::bad_alloc();
   errno = failure;
   return true;
 }

@@ -8,6 +8,10 @@ enum class DiskCall
   Link  ///< linkat
 };
 
+/// In place of an error number: memory runs out, which callers learn of by an exception. Only calls
+/// that may throw, as Sync.
+inline constexpr int outOfMemory = -1;
+
 /// While it lives, every call of a kind in this program fails with an error number.
 class DiskFault
 {
