@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,8 +21,11 @@ int writer = -1;
 
 void passOn(int number)
 {
+  // What is interrupted may be about to look at it.
+  const int error = errno;
   const auto byte = static_cast<unsigned char>(number);
   [[maybe_unused]] const ssize_t written = write(writer, &byte, 1);
+  errno = error;
 }
 
 } // namespace
