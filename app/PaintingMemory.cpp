@@ -16,18 +16,43 @@ namespace
 
 /// A point is kept by its plot, by the painter and by the driver, in two floats each.
 constexpr std::size_t bytesPerPoint = 3 * 2 * sizeof(float);
+/// In parallel coordinates every row is a line of its own, for which the screen's device makes a
+/// buffer and keeps it until all are drawn. Measured with 1.35 million rows.
+constexpr std::size_t bytesPerAxisPoint = 220;
+/// With fewer chosen columns, parallel coordinates show all.
+constexpr std::size_t fewestChosenAxes = 3;
+
 /// A pixel is kept by what is painted on and by the picture that is written.
 constexpr std::size_t bytesPerPixel = 2 * 4;
+
+std::size_t bytesPerRow(const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  const auto columns = static_cast<std::size_t>(container.getTable()->GetNumberOfColumns());
+  const std::size_t chosen = settings.yColumns.size();
+  switch (settings.getPlotStyle())
+  {
+  case scatterPlotMatrix:
+  {
+    const std::size_t shown =
+        settings.getLimitColumVisibility() ? settings.parameterColumns.size() + 2 : columns;
+    return shown * (shown - 1) / 2 * bytesPerPoint;
+  }
+  case parallelCoordinates:
+    return (chosen < fewestChosenAxes ? columns : chosen) * bytesPerAxisPoint;
+  default:
+    return std::max<std::size_t>(chosen, 1) * bytesPerPoint;
+  }
+}
 
 } // namespace
 
 std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels)
 {
   const auto rows = static_cast<std::size_t>(container.getTable()->GetNumberOfRows());
-  const std::size_t columns = std::max<std::size_t>(container.getMetaData()->yColumns.size(), 1);
   const auto width = static_cast<std::size_t>(std::max(pixels.width(), 0));
   const auto height = static_cast<std::size_t>(std::max(pixels.height(), 0));
-  return rows * columns * bytesPerPoint + width * height * bytesPerPixel;
+  return rows * bytesPerRow(container) + width * height * bytesPerPixel;
 }
 
 bool hasMemory(std::size_t bytes)

@@ -2,9 +2,12 @@
 
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
+#include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/TightMemory.h"
 #include "widgets/VtkPlotWidget.h"
+
+#include <vtkTable.h>
 
 #include <gtest/gtest.h>
 
@@ -24,6 +27,29 @@ TEST(PaintingMemory, GrowsWithPointsAndPixels)
   EXPECT_GE(memoryToPaint(container, {20000, 20000}), std::size_t{20000} * 20000 * 4);
   showStudy(sampleStudy(sampleRuns(3, 4000)), container);
   EXPECT_GT(memoryToPaint(container, {100, 100}), few + 3 * 3996 * sizeof(float));
+}
+
+TEST(PaintingMemory, IsThatOfEveryPairAndEveryAxisOfARow)
+{
+  PlotContainer container(nullptr);
+  showStudy(sampleStudy(sampleRuns(10, 1000)), container);
+  container.getMetaData()->blockSignals(true);
+  const auto neededBy = [&container](plotStyles style)
+  {
+    container.getMetaData()->setPlotStyle(style);
+    return memoryToPaint(container, {100, 100});
+  };
+  const std::size_t pixels = memoryToPaint(PlotContainer(nullptr), {100, 100});
+  const std::size_t plain = neededBy(xyPlot);
+  container.getMetaData()->setLimitColumVisibility(false);
+  const auto columns = static_cast<std::size_t>(container.getTable()->GetNumberOfColumns());
+  EXPECT_EQ(neededBy(scatterPlotMatrix) - pixels, columns * (columns - 1) / 2 * (plain - pixels));
+  container.getMetaData()->setLimitColumVisibility(true);
+  // The parameter k and two more are three pairs.
+  EXPECT_EQ(neededBy(scatterPlotMatrix) - pixels, 3 * (plain - pixels));
+  // 1.35 million rows of five axes were measured to take 1460 MB.
+  EXPECT_NEAR(double(neededBy(parallelCoordinates)), 10000.0 * double(columns) * 1460 / 1.35 / 5,
+              10000.0 * double(columns) * 20);
 }
 
 TEST(PaintingMemory, IsThereOrNot)
