@@ -5,6 +5,7 @@
 #include "app/SessionTable.h"
 #include "app/TranslatedText.h"
 #include "app/Utf8Text.h"
+#include "plot/DumpLayout.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
@@ -189,7 +190,7 @@ OpenedSession openSession(const QString& path, const ImportProgress& progress)
   OpenedSession opened;
   const auto reading = [&progress](double done)
   { return !progress || progress(readingPart * done); };
-  const ReadSessionParts file = loadSessionFile(path, reading);
+  const ReadSessionParts file = loadSessionFile(path, reading, plot::isWholeDump);
   opened.error = file.error;
   opened.cancelled = file.cancelled;
   if (!opened.error.empty() || opened.cancelled)

@@ -102,6 +102,12 @@ bool readDumpBytes(QIODevice& device, qint64 size, const ImportProgress& progres
   return true;
 }
 
+bool passes(const DumpCheck& check, QIODevice& device, qint64 size)
+{
+  const qint64 start = device.pos();
+  return !check || (check(device, size) && device.seek(start));
+}
+
 /// Whether there are zeros where the checksum should be, as in a file that was not written to its
 /// end. No checksum is like that, and reading the rest would take long.
 bool endsInZeros(QIODevice& device)
@@ -153,7 +159,8 @@ bool writeSession(QIODevice& device, const SessionParts& parts, QByteArray* end)
   return true;
 }
 
-ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress)
+ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress,
+                             const DumpCheck& check)
 {
   ReadSessionParts read;
   const QByteArray bytes = device.read(headerSize);
@@ -164,6 +171,10 @@ ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress)
     return read;
   const Header header = headerOf(bytes);
   read.parts.settings = device.read(header.settingsSize);
+  if (!passes(check, device, static_cast<qint64>(header.dumpSize)))
+    read.error = translated("SessionFile", "the session's table is damaged");
+  if (!read.error.empty())
+    return read;
   read.cancelled =
       !readDumpBytes(device, static_cast<qint64>(header.dumpSize), progress, read.parts.dump);
   if (read.cancelled)
@@ -189,7 +200,8 @@ std::string saveSessionFile(const QString& path, const SessionParts& parts, QByt
                     {path.toStdString(), reason.toStdString()});
 }
 
-ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress)
+ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress,
+                                 const DumpCheck& check)
 {
   const QFileInfo info(path);
   QFile file(path);
@@ -202,7 +214,7 @@ ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& prog
             {},
             withValues(translated("SessionFile", "cannot be read: %1"),
                        {file.errorString().toStdString()})};
-  return readSession(file, progress);
+  return readSession(file, progress, check);
 }
 
 } // namespace Talmesh::app

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <string>
 
 class QIODevice;
@@ -54,11 +55,17 @@ QByteArray peekSettings(const QString& path);
 /// @return whether the device took all of it
 bool writeSession(QIODevice& device, const SessionParts& parts, QByteArray* end = nullptr);
 
+/// Whether the bytes that a device is at can be a dump of this size, which it knows without reading
+/// all of them.
+using DumpCheck = std::function<bool(QIODevice& device, qint64 size)>;
+
 /// Reads a session from a device that knows its size. Every byte counts: a file that is cut short,
 /// longer or changed anywhere is refused, before any memory is taken that its size does not
 /// justify.
 /// @param progress told the part of the bytes that is read
-ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress = {});
+/// @param check refuses a table before it is read, which may take long
+ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress = {},
+                             const DumpCheck& check = {});
 
 /// Writes a file, which takes the place of an older one only when it is complete on the disk. An
 /// empty dump stands for a table that is too large.
@@ -68,7 +75,8 @@ std::string saveSessionFile(const QString& path, const SessionParts& parts,
                             QByteArray* end = nullptr);
 
 /// Reads a regular file. Errors do not name it.
-ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress = {});
+ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress = {},
+                                 const DumpCheck& check = {});
 
 } // namespace Talmesh::app
 
