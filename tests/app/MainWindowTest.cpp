@@ -1,104 +1,23 @@
-#include "app/MainWindow.h"
-
-#include "app/PlotChoice.h"
 #include "app/PlotDock.h"
-#include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
-#include "widgets/VtkPlotWidget.h"
 
-#include <vtkAxis.h>
 #include <vtkChartXY.h>
-#include <vtkPlot.h>
 #include <vtkScatterPlotMatrix.h>
-#include <vtkTable.h>
-#include <vtkVariant.h>
-
-#include <gtest/gtest.h>
 
 #include <QAction>
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDropEvent>
-#include <QFile>
 #include <QImage>
-#include <QListWidget>
 #include <QMenu>
-#include <QMessageBox>
-#include <QMimeData>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include <memory>
-
-#include "SampleStudies.h"
+#include "RunsInWindow.h"
 
 using namespace Talmesh::app;
 
 namespace
 {
 
-constexpr int patience = 60000;
-
-class MainWindowWithRuns : public ::testing::Test
+class MainWindowWithRuns : public RunsInWindow
 {
-protected:
-  MainWindowWithRuns()
-  {
-    QCoreApplication::setOrganizationName(QStringLiteral("TalmeshTest"));
-    QCoreApplication::setApplicationName(QStringLiteral("window"));
-    RecentFiles().clear();
-    window = std::make_unique<MainWindow>();
-    window->resize(700, 500);
-    window->show();
-  }
-
-  ~MainWindowWithRuns() override { RecentFiles().clear(); }
-
-  QString write(const char* name, const std::string& text)
-  {
-    const QString path = folder.filePath(QString::fromUtf8(name));
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text.data(), static_cast<qint64>(text.size()));
-    return path;
-  }
-
-  bool waitUntilLoaded()
-  {
-    return QTest::qWaitFor([this] { return !window->isLoading(); }, patience);
-  }
-
-  /// Opens three runs in the XY plot.
-  void openSample()
-  {
-    CommandLineOptions options;
-    options.file = write("runs.csv", sampleRuns()).toStdString();
-    options.style = xyPlot;
-    window->open(options);
-    ASSERT_TRUE(waitUntilLoaded());
-  }
-
-  void drop(const QList<QUrl>& urls)
-  {
-    QMimeData data;
-    data.setUrls(urls);
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &enter);
-    accepted = enter.isAccepted();
-    QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &dropped);
-  }
-
-  PlotContainer& container() { return *window->plotWidget()->plotContainer(); }
-
-  QMessageBox* messageBox() { return window->findChild<QMessageBox*>(); }
-
-  QTemporaryDir folder;
-  std::unique_ptr<MainWindow> window;
-  bool accepted = false;
 };
 
 } // namespace
@@ -257,113 +176,6 @@ TEST_F(MainWindowWithRuns, CanClearTheListOfRecentFiles)
   EXPECT_FALSE(menu->actions().front()->isEnabled());
 }
 
-TEST_F(MainWindowWithRuns, DrawsTheColumnsInTheOrderOfTheCommandLine)
-{
-  CommandLineOptions options;
-  options.file = write("runs.csv", sampleRuns()).toStdString();
-  options.style = xyPlot;
-  options.y = {"Y", "X"};
-  window->open(options);
-  ASSERT_TRUE(waitUntilLoaded());
-  EXPECT_EQ(window->plotDock()->choice().y, (std::vector<int>{1, 0}));
-  ASSERT_EQ(container().getChartXY()->GetNumberOfPlots(), 2);
-  EXPECT_EQ(container().getChartXY()->GetPlot(0)->GetLabel(), "Y");
-  EXPECT_EQ(container().getChartXY()->GetPlot(1)->GetLabel(), "X");
-}
-
-TEST_F(MainWindowWithRuns, DrawsWhatIsChosenInThePanel)
-{
-  openSample();
-  auto* y = window->plotDock()->findChild<QListWidget*>(QStringLiteral("y"));
-  y->setCurrentRow(1);
-  QTest::keyClick(y, Qt::Key_Space);
-  EXPECT_EQ(container().getChartXY()->GetNumberOfPlots(), 2);
-  auto* style = window->plotDock()->findChild<QComboBox*>(QStringLiteral("style"));
-  QTest::keyClick(style, Qt::Key_Down);
-  EXPECT_TRUE(vtkScatterPlotMatrix::SafeDownCast(container().getItem()));
-}
-
-TEST_F(MainWindowWithRuns, FollowsItsShortcuts)
-{
-  openSample();
-  window->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  EXPECT_TRUE(container().getMetaData()->getPlotLine());
-  QTest::keyClick(window.get(), Qt::Key_L, Qt::ControlModifier);
-  EXPECT_FALSE(container().getMetaData()->getPlotLine());
-  QTest::keyClick(window.get(), Qt::Key_G, Qt::ControlModifier);
-  EXPECT_TRUE(container().getChartXY()->GetShowLegend());
-  QTest::keyClick(window.get(), Qt::Key_3, Qt::ControlModifier);
-  EXPECT_EQ(container().getMetaData()->getPlotStyle(), scatterPlotMatrix);
-  EXPECT_EQ(window->plotDock()->choice().style, scatterPlotMatrix);
-  QTest::keyClick(window.get(), Qt::Key_F9);
-  EXPECT_FALSE(window->plotDock()->isVisible());
-}
-
-TEST_F(MainWindowWithRuns, KeepsLegendAndLogarithmicAxesThroughOtherStyles)
-{
-  openSample();
-  PlotChoice choice = window->plotDock()->choice();
-  for (const char* name : {"legend", "logY"})
-    QTest::keyClick(window->plotDock()->findChild<QWidget*>(QLatin1String(name)), Qt::Key_Space);
-  auto* style = window->plotDock()->findChild<QComboBox*>(QStringLiteral("style"));
-  for (int steps = 0; steps < style->count() - 1; ++steps)
-    QTest::keyClick(style, Qt::Key_Down);
-  QTest::keyClick(style, Qt::Key_Home);
-  choice = choiceOf(container());
-  EXPECT_EQ(choice.style, xyPlot);
-  EXPECT_TRUE(choice.legend);
-  EXPECT_TRUE(choice.logY);
-}
-
-TEST_F(MainWindowWithRuns, HasALogarithmicYAxisOnThePagesOfRunsButNotWithErrorBars)
-{
-  openSample();
-  auto* logY = window->plotDock()->findChild<QCheckBox*>(QStringLiteral("logY"));
-  QTest::keyClick(logY, Qt::Key_Space);
-  auto* style = window->plotDock()->findChild<QComboBox*>(QStringLiteral("style"));
-  for (const plotStyles shown : {multiPlot, scatterWithErrorBars, selectionCdfPlot, xyPlot})
-  {
-    style->setCurrentIndex(style->findData(static_cast<int>(shown)));
-    const bool log = container().getChartXY()->GetAxis(vtkAxis::LEFT)->GetLogScale();
-    EXPECT_EQ(log, shown != scatterWithErrorBars) << shown;
-    EXPECT_EQ(logY->isChecked(), log) << shown;
-  }
-}
-
-TEST_F(MainWindowWithRuns, SaysThatAnAxisIsLinearForValuesWithoutLogarithms)
-{
-  openSample();
-  PlotChoice choice = window->plotDock()->choice();
-  choice.x = 1;
-  window->plotDock()->setChoice(choice);
-  auto* logX = window->plotDock()->findChild<QCheckBox*>(QStringLiteral("logX"));
-  const auto saysSo = [this]
-  { return window->statusBar()->currentMessage().contains(QLatin1String("positive")); };
-  container().getTable()->GetColumn(1)->SetVariantValue(0, -1.0);
-  container().getTable()->GetColumn(1)->Modified();
-  EXPECT_FALSE(saysSo());
-  QTest::keyClick(logX, Qt::Key_Space);
-  EXPECT_TRUE(saysSo());
-  EXPECT_FALSE(container().showsLogScaleX());
-}
-
-TEST_F(MainWindowWithRuns, CanSwitchALogarithmicXAxisOffOnThePagesOfRuns)
-{
-  openSample();
-  auto* logX = window->plotDock()->findChild<QCheckBox*>(QStringLiteral("logX"));
-  QTest::keyClick(logX, Qt::Key_Space);
-  auto* style = window->plotDock()->findChild<QComboBox*>(QStringLiteral("style"));
-  for (const plotStyles page : {multiPlot, selectionCdfPlot})
-  {
-    style->setCurrentIndex(style->findData(static_cast<int>(page)));
-    EXPECT_TRUE(container().getChartXY()->GetAxis(vtkAxis::BOTTOM)->GetLogScale()) << page;
-    QTest::keyClick(logX, Qt::Key_Space);
-    EXPECT_FALSE(container().getChartXY()->GetAxis(vtkAxis::BOTTOM)->GetLogScale()) << page;
-    QTest::keyClick(logX, Qt::Key_Space);
-  }
-}
-
 TEST_F(MainWindowWithRuns, ExportsWhatItShows)
 {
   openSample();
@@ -373,17 +185,4 @@ TEST_F(MainWindowWithRuns, ExportsWhatItShows)
             window->plotWidget()->size() * window->plotWidget()->devicePixelRatioF());
   EXPECT_FALSE(window->exportTo(folder.filePath(QStringLiteral("nowhere/plot.png"))));
   EXPECT_TRUE(messageBox());
-}
-
-TEST_F(MainWindowWithRuns, ShowsOneStudyAfterAnotherInContainersOfTheirOwn)
-{
-  openSample();
-  const QPointer<PlotContainer> first = &container();
-  window->openFile(write("plain.csv", "a,b\n1,2\n3,4\n"));
-  ASSERT_TRUE(waitUntilLoaded());
-  EXPECT_NE(&container(), first.data());
-  QTest::qWait(10);
-  EXPECT_TRUE(first.isNull());
-  EXPECT_EQ(window->sizeText(), "2 rows, 2 columns");
-  EXPECT_EQ(window->plotDock()->choice().y, std::vector<int>{1});
 }

@@ -1,11 +1,17 @@
 #include "app/RecentFiles.h"
 
+#include "app/FileNameCodec.h"
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryDir>
 
-using Talmesh::app::RecentFiles;
+using namespace Talmesh::app;
 
 namespace
 {
@@ -21,6 +27,23 @@ protected:
   }
 
   ~RecentFilesOfATest() override { recent.clear(); }
+
+  /// As a program that starts now finds them on the disk.
+  QStringList pathsFoundLater()
+  {
+    QSettings().sync();
+    const QTemporaryDir folder;
+    const QFileInfo settings(QSettings().fileName());
+    const QString home = settings.dir().path() + "/..";
+    QDir(folder.path()).mkdir(settings.dir().dirName());
+    EXPECT_TRUE(QFile::copy(settings.filePath(), folder.path() + '/' + settings.dir().dirName() +
+                                                     '/' + settings.fileName()));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    EXPECT_TRUE(QSettings().fileName().startsWith(folder.path()));
+    const QStringList found = recent.paths();
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home);
+    return found;
+  }
 
   RecentFiles recent;
 };
@@ -61,4 +84,20 @@ TEST_F(RecentFilesOfATest, ForgetsAFileThatIsGone)
   recent.add(QStringLiteral("/a.csv"));
   recent.remove(QStringLiteral("/a.csv"));
   EXPECT_TRUE(recent.paths().isEmpty());
+}
+
+TEST_F(RecentFilesOfATest, KeepsNamesThatAreNotUtf8)
+{
+  QTextCodec* const before = QTextCodec::codecForLocale();
+  installFileNameCodec();
+  const QByteArray name = "/caf\xE9 50%25 K\xC3\xA4se, \"b\".csv";
+  recent.add(QFile::decodeName(name));
+  recent.add(QStringLiteral("/@b.csv"));
+  const QStringList found = pathsFoundLater();
+  ASSERT_EQ(found.size(), 2);
+  EXPECT_EQ(found.front(), "/@b.csv");
+  EXPECT_EQ(QFile::encodeName(found.back()).toHex(), name.toHex());
+  recent.remove(QFile::decodeName(name));
+  EXPECT_EQ(recent.paths().size(), 1);
+  QTextCodec::setCodecForLocale(before);
 }

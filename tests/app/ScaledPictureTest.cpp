@@ -4,19 +4,26 @@
 #include "plot/PlotContainer.h"
 #include "support/SampleTables.h"
 #include "vtk/vtkPlotLineSet.h"
+#include "widgets/PainterDevice.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
+#include <vtkContext2D.h>
+#include <vtkContextView.h>
 #include <vtkIdTypeArray.h>
 #include <vtkLookupTable.h>
 #include <vtkNew.h>
+#include <vtkObjectFactory.h>
 #include <vtkPlotPoints.h>
 
 #include <gtest/gtest.h>
 
+#include <QPainter>
+
 #include <cmath>
 #include <limits>
+#include <new>
 #include <vector>
 
 using namespace Talmesh::app;
@@ -27,6 +34,22 @@ namespace
 constexpr QSize screen(400, 300);
 constexpr int allMarkers[] = {VTK_MARKER_CROSS, VTK_MARKER_PLUS, VTK_MARKER_SQUARE,
                               VTK_MARKER_CIRCLE, VTK_MARKER_DIAMOND};
+
+/// Finds no memory where it is painted for a file.
+class GreedyPlot : public vtkPlotPoints
+{
+public:
+  static GreedyPlot* New();
+  vtkTypeMacro(GreedyPlot, vtkPlotPoints);
+
+  bool Paint(vtkContext2D* context) override
+  {
+    if (PainterDevice::SafeDownCast(context->GetDevice()))
+      throw std::bad_alloc();
+    return vtkPlotPoints::Paint(context);
+  }
+};
+vtkStandardNewMacro(GreedyPlot);
 
 /// A chart without lines, whose x and y run from 0 to 1.
 class ScaledPicture : public ::testing::Test
@@ -57,6 +80,30 @@ protected:
     plot->SetColor(255, 0, 0, 255);
     chart().AddPlot(plot);
     return plot;
+  }
+
+  /// So many runs of two points, which cross.
+  void addRuns(int count)
+  {
+    std::vector<double> x;
+    std::vector<double> y;
+    for (int run = 0; run < count; ++run)
+    {
+      x.insert(x.end(), {0.1, 0.9});
+      y.insert(y.end(), {0.1 + 0.8 * run / count, 0.9 - 0.8 * run / count});
+    }
+    auto* lines = add<vtkPlotLineSet>(x, y);
+    lines->SetStride(2);
+    lines->OnlyShowSelectedOff();
+    lines->SetMarkerStyle(VTK_MARKER_NONE);
+  }
+
+  QImage paintedWith(Talmesh::Vectors vectors)
+  {
+    QImage picture(screen, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    Talmesh::paintScene(*widget->contextView()->GetScene(), painter, screen, 1.0, vectors);
+    return picture;
   }
 
   /// What x or y must be for a point to be painted there, in pixels from the left or from below.
@@ -170,4 +217,27 @@ TEST_F(ScaledPicture, GivesPointsTheirOwnColours)
     EXPECT_GT(small.pixelColor(place).hsvSaturation(), 200) << x;
     EXPECT_EQ(large.pixelColor(3 * place), small.pixelColor(place)) << x;
   }
+}
+
+TEST_F(ScaledPicture, CountsRunsThatAreManyAndStrokesFew)
+{
+  addRuns(Talmesh::mostVectorRuns);
+  EXPECT_EQ(paintScaled(*widget, 1.0), paintedWith(Talmesh::Vectors::All));
+  chart().ClearPlots();
+  addRuns(Talmesh::mostVectorRuns + 1);
+  const QImage picture = paintScaled(*widget, 1.0);
+  EXPECT_EQ(picture, paintedWith(Talmesh::Vectors::None));
+  EXPECT_NE(picture, paintedWith(Talmesh::Vectors::All));
+}
+
+TEST_F(ScaledPicture, LeavesThePlotAsItWasAlsoWhenItFails)
+{
+  add<GreedyPlot>({0.3, 0.7}, {0.5, 0.5});
+  widget->updatePlot(true);
+  const vtkVector2i corner(chart().GetPoint2());
+  const QSize other(200, 150);
+  EXPECT_THROW(paintPicture(*widget, other, 1.0, other), std::bad_alloc);
+  EXPECT_EQ(vtkVector2i(chart().GetPoint2()), corner);
+  EXPECT_THROW(paintPage(*widget, other, 1.0, Talmesh::Vectors::Auto), std::bad_alloc);
+  EXPECT_EQ(vtkVector2i(chart().GetPoint2()), corner);
 }

@@ -1,24 +1,13 @@
-#include "app/Session.h"
-
-#include "app/SessionFile.h"
-#include "app/SessionTable.h"
 #include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
-#include "support/PlotScene.h"
-
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <limits>
-#include <memory>
+#include <vector>
 
-#include "SampleStudies.h"
+#include "SavedSession.h"
 
 using namespace Talmesh::app;
 namespace plot = Talmesh::plot;
@@ -26,66 +15,8 @@ namespace plot = Talmesh::plot;
 namespace
 {
 
-std::vector<double> valuesOf(vtkTable* table, const std::string& name)
+class Session : public SavedSession
 {
-  auto* column = vtkDoubleArray::SafeDownCast(plot::columnNamed(table, name));
-  if (!column)
-    return {};
-  return {column->GetPointer(0), column->GetPointer(0) + column->GetNumberOfValues()};
-}
-
-class Session : public ::testing::Test
-{
-protected:
-  QString path() const { return folder.filePath("study.talmesh"); }
-
-  void save(const Study& study)
-  {
-    shown = std::make_unique<PlotContainer>(nullptr);
-    showStudy(study, *shown);
-    save(study, *shown);
-  }
-
-  void save(const Study& study, PlotContainer& container)
-  {
-    EXPECT_EQ(saveSession(path(), study, container, choiceOf(container)), "");
-  }
-
-  /// Opens what was saved and shows it in a fresh container.
-  PlotContainer& reopen()
-  {
-    opened = openSession(path());
-    EXPECT_EQ(opened.error, "");
-    restored = std::make_unique<PlotContainer>(nullptr);
-    restored->setScene(view.scene());
-    if (opened.session)
-    {
-      showStudy(opened.study, *restored);
-      restoreSettings(*opened.session, *restored);
-      restoreWindow(*opened.session, *restored);
-      restoreSelection(*opened.session, *restored);
-    }
-    return *restored;
-  }
-
-  std::string errorOf(const SessionParts& parts)
-  {
-    EXPECT_EQ(saveSessionFile(path(), parts), "");
-    return openSession(path()).error;
-  }
-
-  QByteArray dumpOf(const Study& study)
-  {
-    PlotContainer container(nullptr);
-    showStudy(study, container);
-    return dumpStudy(study, container, container.getTable());
-  }
-
-  QTemporaryDir folder;
-  std::unique_ptr<PlotContainer> shown;
-  PlotScene view;
-  std::unique_ptr<PlotContainer> restored;
-  OpenedSession opened;
 };
 
 } // namespace
@@ -132,45 +63,6 @@ TEST_F(Session, RestoresRunsAndParameters)
   EXPECT_EQ(container.getMetaData()->getStride(), 4);
   EXPECT_EQ(container.getMetaData()->parameterColumns, shown->getMetaData()->parameterColumns);
   EXPECT_EQ(container.state().parameterBounds, shown->state().parameterBounds);
-}
-
-TEST_F(Session, KeepsParametersThatAreTheSameInAllRuns)
-{
-  // Plots leave them out.
-  const Study study = sampleStudy(": Time [s],Molecule: A,Parameter: c,Parameter: k,: Run Index\n"
-                                  "0,1,7,2,0\n1,2,7,2,0\n0,3,7,3,1\n1,4,7,3,1\n");
-  save(study);
-  PlotContainer& container = reopen();
-  EXPECT_EQ(opened.study.runs->items, study.runs->items);
-  EXPECT_EQ(opened.study.runs->parameterRanges, study.runs->parameterRanges);
-  EXPECT_EQ(opened.study.runs->values[2][3], 7.0);
-  EXPECT_EQ(container.getLabels(), shown->getLabels());
-  EXPECT_FALSE(container.getLabels().contains("Parameter: c"));
-}
-
-TEST_F(Session, KeepsBoundsThatAreInfinite)
-{
-  const Study study = sampleStudy();
-  study.runs->parameterRanges[0] = {0.25, std::numeric_limits<double>::infinity()};
-  save(study);
-  reopen();
-  EXPECT_EQ(opened.study.runs->parameterRanges, study.runs->parameterRanges);
-}
-
-TEST_F(Session, RestoresAPlainTable)
-{
-  const Study study = sampleStudy("a,b\n1,2\n3,nan\n");
-  save(study);
-  PlotContainer& container = reopen();
-  EXPECT_FALSE(opened.study.runs);
-  EXPECT_EQ(container.getLabels(), QStringList({"a", "b"}));
-  EXPECT_EQ(valuesOf(container.getTable(), "a"), (std::vector<double>{1, 3}));
-}
-
-TEST_F(Session, KeepsNamesOfAnyLetters)
-{
-  save(sampleStudy("time,\xce\xb1 [\xc2\xb5M]\n0,1\n1,2\n"));
-  EXPECT_TRUE(reopen().getLabels().contains(QString::fromUtf8("Molecule: \xce\xb1 [\xc2\xb5M]")));
 }
 
 TEST_F(Session, RestoresEverySetting)
@@ -289,57 +181,6 @@ TEST_F(Session, RestoresTheSelectionWithoutMarkingTheTable)
   EXPECT_FALSE(again.getLabels().contains(plot::selectionFlagColumn));
 }
 
-TEST_F(Session, KeepsColumnsThatWereAddedLater)
-{
-  const Study study = sampleStudy();
-  PlotContainer container(nullptr);
-  showStudy(study, container);
-  const std::vector<double> later = {12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1};
-  container.addColumn(later, "later");
-  save(study, container);
-  PlotContainer& again = reopen();
-  EXPECT_EQ(again.getLabels(), container.getLabels());
-  EXPECT_EQ(valuesOf(again.getTable(), "later"), later);
-}
-
-TEST_F(Session, FindsColumnsBehindTheMarksOfASelection)
-{
-  const Study study = sampleStudy();
-  PlotContainer container(nullptr);
-  showStudy(study, container);
-  const QStringList before = container.getLabels();
-  container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection({4, 5, 6, 7}));
-  ASSERT_GT(container.getLabels().size(), before.size());
-  container.addColumn(std::vector<double>(12, 3.0), "later");
-  container.getMetaData()->yColumns = {0, static_cast<int>(container.getLabels().size()) - 1};
-  save(study, container);
-  PlotContainer& again = reopen();
-  const std::vector<int> y = again.getMetaData()->yColumns;
-  EXPECT_EQ(y, (std::vector<int>{0, static_cast<int>(before.size())}));
-  EXPECT_EQ(plot::columnName(again.getTable(), y[1]), "later");
-}
-
-TEST_F(Session, TakesAColumnForOneItemOnly)
-{
-  // Two items "Molecule: X" and one column of that name, of one row.
-  const QByteArray dump =
-      QByteArray::fromHex("000000020000000100000002005800000001000000020058000000010000"
-                          "000100000016004d006f006c006500630075006c0065003a00200058013f"
-                          "f0000000000000");
-  EXPECT_EQ(errorOf({R"({"pointsPerRun": 1})", dump}), "the session's table is damaged");
-}
-
-TEST_F(Session, RefusesTablesThatDoNotFitTheirRuns)
-{
-  const QByteArray dump = dumpOf(sampleStudy());
-  const std::string damaged = "the session's table is damaged";
-  EXPECT_EQ(errorOf({R"({"pointsPerRun": 5})", dump}), damaged);
-  EXPECT_EQ(errorOf({R"({"pointsPerRun": 4})", QByteArray(12, '\0')}), damaged);
-  EXPECT_EQ(errorOf({R"({"pointsPerRun": 4})", dumpOf(sampleStudy("a,b\n1,2\n"))}), damaged);
-  EXPECT_EQ(errorOf({"{}", QByteArray(12, '\0')}), damaged);
-  EXPECT_EQ(errorOf({R"({"pointsPerRun": 4})", dump}), "");
-}
-
 TEST_F(Session, RefusesSettingsThatAreNoObject)
 {
   const QByteArray dump = dumpOf(sampleStudy());
@@ -351,11 +192,4 @@ TEST_F(Session, IsCalledAfterItsFileWithoutAName)
 {
   EXPECT_EQ(errorOf({"{}", dumpOf(sampleStudy("a,b\n1,2\n"))}), "");
   EXPECT_EQ(openSession(path()).study.name, "study.talmesh");
-}
-
-TEST_F(Session, FindsBoundsThatAreMissing)
-{
-  const Study study = sampleStudy();
-  EXPECT_EQ(errorOf({R"({"pointsPerRun": 4})", dumpOf(study)}), "");
-  EXPECT_EQ(openSession(path()).study.runs->parameterRanges, study.runs->parameterRanges);
 }

@@ -1,106 +1,30 @@
 #include "app/ComparisonDock.h"
-#include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
 #include "app/StudyCatalogue.h"
 #include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
-#include "widgets/VtkPlotWidget.h"
 
-#include <vtkAxis.h>
 #include <vtkChartMatrix.h>
-#include <vtkChartXY.h>
-#include <vtkPlotBar.h>
 #include <vtkPlotPoints.h>
-#include <vtkPlotStacked.h>
-#include <vtkStringArray.h>
 #include <vtkTable.h>
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QImage>
 #include <QLabel>
 #include <QListWidget>
-#include <QMenu>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
-#include <algorithm>
+#include "StudyWindow.h"
 
-#include "SampleStudies.h"
+using namespace Talmesh::app;
 
 namespace
 {
 
-using namespace Talmesh::app;
-
-constexpr int patience = 500000;
-
-/// The window with three runs, from which computed studies are chosen.
-class StudiesInWindow : public ::testing::Test
+class StudiesInWindow : public StudyWindow
 {
-protected:
-  StudiesInWindow()
-  {
-    QFile file(folder.filePath("runs.csv"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    const std::string text = sampleRuns();
-    file.write(text.data(), static_cast<qint64>(text.size()));
-    file.close();
-    window.resize(1000, 700);
-    window.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-    QApplication::setActiveWindow(&window);
-    window.openFile(file.fileName());
-    EXPECT_TRUE(waitUntilLoaded());
-    QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
-  }
-
-  bool waitUntilLoaded()
-  {
-    return QTest::qWaitFor([this] { return !window.isLoading(); }, patience);
-  }
-
-  template <typename Widget>
-  Widget* find(const char* name)
-  {
-    auto* widget = window.findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-  }
-
-  void show(const std::string& id)
-  {
-    find<QAction>(id.c_str())->trigger();
-    ASSERT_TRUE(waitUntilLoaded());
-  }
-
-  void chooseVariant(int steps)
-  {
-    auto* variants = find<QComboBox>("studyVariant");
-    for (int i = 0; i < steps; ++i)
-      QTest::keyClick(variants, Qt::Key_Down);
-  }
-
-  PlotContainer& container() { return *window.plotWidget()->plotContainer(); }
-  vtkChartXY& chart() { return *container().getChartXY(); }
-  std::string title() { return chart().GetTitle(); }
-  std::string axisTitle(int axis) { return chart().GetAxis(axis)->GetTitle(); }
-
-  int seriesOf(vtkPlot* plot)
-  {
-    vtkStringArray* labels = plot ? plot->GetLabels() : nullptr;
-    return labels ? static_cast<int>(labels->GetNumberOfValues()) : 0;
-  }
-
-  QTemporaryDir folder;
-  MainWindow window;
 };
+
+} // namespace
 
 TEST_F(StudiesInWindow, AreAllInTheMenuAndShownInContainersOfTheirOwn)
 {
@@ -202,69 +126,6 @@ TEST_F(StudiesInWindow, ShowThePriorOfEachParameter)
   EXPECT_EQ(chart().GetNumberOfPlots(), 1);
 }
 
-TEST_F(StudiesInWindow, ShowSensitivitiesOfEverySpeciesAndTime)
-{
-  show("sensitivity-first-overTime");
-  ASSERT_EQ(find<QComboBox>("studyVariant")->count(), 6);
-  EXPECT_EQ(title(), "Sensitivity of Molecule: TetR");
-  chooseVariant(2);
-  EXPECT_EQ(title(), "Sensitivity of Molecule: cI");
-  show("sensitivity-total-atTime");
-  auto* times = find<QComboBox>("studyVariant");
-  EXPECT_EQ(times->count(), 36);
-  EXPECT_EQ(times->currentText(), "2 h");
-  EXPECT_EQ(title(), "Total Sensitivities at t= 7200 s");
-  QTest::keyClick(times, Qt::Key_Home);
-  EXPECT_EQ(title(), "Total Sensitivities at t= 900 s");
-}
-
-TEST_F(StudiesInWindow, KeepTheBandsOfSensitivitiesThroughChangesOfSettings)
-{
-  show("sensitivity-total-overTime");
-  chooseVariant(1);
-  PlotMetaData& settings = *container().getMetaData();
-  const auto expectBands = [this](const std::string& expectedTitle)
-  {
-    ASSERT_EQ(chart().GetNumberOfPlots(), 1);
-    auto* bands = vtkPlotStacked::SafeDownCast(chart().GetPlot(0));
-    ASSERT_NE(bands, nullptr);
-    EXPECT_EQ(seriesOf(bands), 4);
-    EXPECT_EQ(title(), expectedTitle);
-    EXPECT_EQ(axisTitle(vtkAxis::LEFT), "Total Sensitivity");
-    EXPECT_EQ(axisTitle(vtkAxis::BOTTOM), "Time [s]");
-    EXPECT_TRUE(chart().GetShowLegend());
-    EXPECT_EQ(container().getItem(), &chart());
-    EXPECT_NE(chart().GetScene(), nullptr) << "the window shows the chart that is drawn last";
-  };
-  expectBands("Total Sensitivity of Molecule: LacI");
-  container().setLineWidth(3.0);
-  expectBands("Total Sensitivity of Molecule: LacI");
-  settings.setPlotLine(true);
-  expectBands("Total Sensitivity of Molecule: LacI");
-  container().setPlotTitle("Mine");
-  settings.setLogX(true);
-  expectBands("Mine");
-  container().setLineWidth(1.0);
-  expectBands("Mine");
-  chooseVariant(1);
-  expectBands("Total Sensitivity of Molecule: cI");
-}
-
-TEST_F(StudiesInWindow, KeepTheBarsOfSensitivitiesThroughChangesOfSettings)
-{
-  show("sensitivity-first-atTime");
-  container().setLineWidth(3.0);
-  container().getMetaData()->setPlotLine(true);
-  auto* bars = vtkPlotBar::SafeDownCast(chart().GetPlot(0));
-  ASSERT_NE(bars, nullptr);
-  EXPECT_EQ(seriesOf(bars), 4);
-  EXPECT_EQ(title(), "Sensitivities at t= 7200 s");
-  vtkStringArray* names = chart().GetAxis(vtkAxis::BOTTOM)->GetTickLabels();
-  ASSERT_EQ(names->GetNumberOfValues(), 6);
-  EXPECT_EQ(names->GetValue(0), "Molecule: TetR");
-  EXPECT_EQ(names->GetValue(5), "Pattern: cI mRNA");
-}
-
 TEST_F(StudiesInWindow, RefuseAnotherStyle)
 {
   show("indomethacin-residuals");
@@ -305,5 +166,3 @@ TEST_F(StudiesInWindow, CanBeGivenUp)
   EXPECT_TRUE(find<QAction>("priors")->isChecked());
   EXPECT_EQ(title(), "Prior density of alpha");
 }
-
-} // namespace

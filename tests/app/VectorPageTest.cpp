@@ -1,35 +1,14 @@
-#include "app/PictureFile.h"
-#include "app/PlotChoice.h"
-#include "app/Study.h"
-#include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
-#include "support/PdfPages.h"
 #include "support/Pictures.h"
-#include "support/SampleTables.h"
 #include "vtk/vtkPlotLineSet.h"
-#include "widgets/VtkPlotWidget.h"
 
-#include <vtkAxis.h>
-#include <vtkChartXY.h>
-#include <vtkContextScene.h>
-#include <vtkContextView.h>
-#include <vtkNew.h>
 #include <vtkPlotPoints.h>
 
-#include <gtest/gtest.h>
-
-#include <QImage>
-#include <QPainter>
 #include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
-#include <cmath>
 #include <cstdlib>
 #include <string>
-#include <vector>
 
-#include "SampleStudies.h"
+#include "ExportedPage.h"
 
 using namespace Talmesh::app;
 using Talmesh::Vectors;
@@ -38,80 +17,11 @@ using Talmesh::Vectors;
 namespace
 {
 
-constexpr QSize pixels(500, 400);
 /// 360 by 270 points, 1500 by 1125 pixels.
 constexpr PaperSize paper{QSizeF(127.0, 95.25), 300};
 
-class VectorPage : public ::testing::Test
+class VectorPage : public ExportedPage
 {
-protected:
-  VectorPage()
-      : widget(makeHiddenPlot(pixels))
-  {
-    showStudy(sampleStudy(sampleRuns(12, 6)), container());
-    draw(xyPlot);
-  }
-
-  PlotContainer& container() { return *widget->plotContainer(); }
-  vtkChartXY& chart() { return *container().getChartXY(); }
-
-  void draw(plotStyles style)
-  {
-    PlotChoice choice = choiceOf(container());
-    choice.style = style;
-    applyChoice(container(), choice);
-  }
-
-  /// Nothing but one plot, of which the part from 1 to 3 along x and from -1 to 1 along y is shown.
-  template <typename Plot>
-  Plot* showPart(const std::vector<double>& x, const std::vector<double>& y)
-  {
-    chart().ClearPlots();
-    vtkNew<Plot> plot;
-    plot->SetInputData(tableOf({{"x", x}, {"y", y}}), 0, 1);
-    plot->SetColor(255, 0, 0, 255);
-    chart().AddPlot(plot);
-    chart().GetAxis(vtkAxis::BOTTOM)->SetBehavior(vtkAxis::FIXED);
-    chart().GetAxis(vtkAxis::LEFT)->SetBehavior(vtkAxis::FIXED);
-    chart().GetAxis(vtkAxis::BOTTOM)->SetRange(1.0, 3.0);
-    chart().GetAxis(vtkAxis::LEFT)->SetRange(-1.0, 1.0);
-    return plot;
-  }
-
-  QString write(Vectors vectors = Vectors::Auto)
-  {
-    EXPECT_EQ(exportPlot(*widget, path(), vectors), "");
-    return path();
-  }
-
-  /// Where the chart draws its data, in pixels from the upper left.
-  QRect dataArea()
-  {
-    const int* corner = chart().GetPoint1();
-    const int* opposite = chart().GetPoint2();
-    return {QPoint(corner[0], pixels.height() - opposite[1]),
-            QPoint(opposite[0], pixels.height() - corner[1])};
-  }
-
-  /// After an export the chart is as on the screen again.
-  void layOutAsOnThePage()
-  {
-    QImage none(pixels, QImage::Format_RGB32);
-    QPainter painter(&none);
-    Talmesh::paintScene(*widget->contextView()->GetScene(), painter, pixels, 1.0, Vectors::All);
-  }
-
-  QString path() const { return folder.filePath(QStringLiteral("page.pdf")); }
-
-  /// How many pictures are on a page, not counting their opacities.
-  int pictures(Vectors vectors = Vectors::Auto)
-  {
-    const QString list = outputOf("pdfimages", {"-list", write(vectors)});
-    return list.count(QRegularExpression(QStringLiteral("\\n *\\d+ +\\d+ image ")));
-  }
-
-  QTemporaryDir folder;
-  std::unique_ptr<VtkPlotWidget> widget;
 };
 
 /// What a program says that is no output.
@@ -256,43 +166,5 @@ TEST_F(VectorPage, IsLaidOutForItsSizeAtOnce)
       Talmesh::paintScene(*widget->contextView()->GetScene(), painter, other, 1.0, Vectors::All);
     }
     EXPECT_EQ(first, second) << style;
-  }
-}
-
-TEST_F(VectorPage, HasPicturesOnlyOfWhatIsMany)
-{
-  EXPECT_EQ(pictures(), 0);
-  EXPECT_EQ(pictures(Vectors::None), 1);
-  std::vector<double> x;
-  std::vector<double> y;
-  for (int i = 0; i <= Talmesh::mostVectorPoints; ++i)
-  {
-    x.push_back(1.0 + 2.0 * i / Talmesh::mostVectorPoints);
-    y.push_back(std::sin(0.7 * i));
-  }
-  showPart<vtkPlotPoints>(x, y)->SetMarkerSize(3.0f);
-  EXPECT_EQ(pictures(Vectors::All), 0);
-  EXPECT_EQ(pictures(), 1);
-  EXPECT_TRUE(textOf(path()).contains(QStringLiteral("2"))) << "axes are no part of a picture";
-  x.pop_back();
-  y.pop_back();
-  showPart<vtkPlotPoints>(x, y)->SetMarkerSize(3.0f);
-  EXPECT_EQ(pictures(), 0);
-  draw(parallelCoordinates); // of 72 rows
-  EXPECT_EQ(pictures(Vectors::All), 0);
-  EXPECT_EQ(pictures(), 1);
-  EXPECT_EQ(pictures(Vectors::None), 1);
-}
-
-TEST_F(VectorPage, HasPicturesOfTheResolutionAskedFor)
-{
-  for (const int dpi : {150, 300})
-  {
-    ASSERT_EQ(exportPlot(*widget, path(), {QSizeF(120.0, 90.0), dpi}, Vectors::None), "");
-    const QString list = outputOf("pdfimages", {"-list", path()});
-    const QStringList row =
-        list.split(QLatin1Char('\n')).value(2).simplified().split(QLatin1Char(' '));
-    EXPECT_NEAR(row.value(12).toInt(), dpi, 1) << list.toStdString();
-    EXPECT_EQ(row.value(8), QStringLiteral("image")) << "without the noise of JPEG";
   }
 }
