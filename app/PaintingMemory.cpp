@@ -16,9 +16,6 @@ namespace
 
 /// A point is kept by its plot, by the painter and by the driver, in two floats each.
 constexpr std::size_t bytesPerPoint = 3 * 2 * sizeof(float);
-/// In parallel coordinates every row is a line of its own, for which the screen's device makes a
-/// buffer and keeps it until all are drawn. Measured with 1.35 million rows.
-constexpr std::size_t bytesPerAxisPoint = 220;
 /// With fewer chosen columns, parallel coordinates show all.
 constexpr std::size_t fewestChosenAxes = 3;
 
@@ -39,7 +36,7 @@ std::size_t bytesPerRow(const PlotContainer& container)
     return shown * (shown - 1) / 2 * bytesPerPoint;
   }
   case parallelCoordinates:
-    return (chosen < fewestChosenAxes ? columns : chosen) * bytesPerAxisPoint;
+    return (chosen < fewestChosenAxes ? columns : chosen) * bytesPerPoint;
   default:
     return std::max<std::size_t>(chosen, 1) * bytesPerPoint;
   }

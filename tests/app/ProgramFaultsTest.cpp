@@ -94,18 +94,3 @@ TEST_F(ProgramFaults, EndsClearlyHoweverShortMemoryIs)
   }
   EXPECT_GT(refused, 0);
 }
-
-TEST_F(ProgramFaults, RefusesToDrawMoreLinesThanMemoryHolds)
-{
-#ifdef __SANITIZE_ADDRESS__
-  GTEST_SKIP() << "The sanitizer takes addresses without bound.";
-#endif
-  const QString csv = write("runs.csv", sampleRuns(500, 1000));
-  const QString picture = path("plot.png");
-  const Ended ended = run({csv, "--style", "parallelCoordinates", "--export", picture},
-                          {RLIM_INFINITY, rlim_t{1400} << 20U});
-  EXPECT_EQ(ended.status, 1);
-  EXPECT_EQ(ended.errors.toStdString(), "talmesh-plot: " + picture.toStdString() +
-                                            ": there is not enough memory for this picture\n");
-  EXPECT_FALSE(QFile::exists(picture));
-}
