@@ -1,13 +1,13 @@
 #include "app/ComparisonResults.h"
 #include "app/Study.h"
 #include "external/PlotMetaData.h"
-#include "external/UnivariateDensityDerivative.h"
 #include "plot/DerivedTables.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
 #include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
+#include "stats/GridDensity.h"
 #include "stats/RankedParameter.h"
 
 #include <vtkAnnotationLink.h>
@@ -15,6 +15,7 @@
 #include <vtkDoubleArray.h>
 #include <vtkTable.h>
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <numeric>
@@ -90,9 +91,8 @@ std::vector<std::optional<std::vector<double>>> rankedValues(vtkTable* ranks)
 void estimate(std::vector<double>& sources, std::vector<double>& targets, double bandwidth,
               std::vector<double>& density)
 {
-  UnivariateDensityDerivative(static_cast<int>(sources.size()), static_cast<int>(targets.size()),
-                              sources.data(), targets.data(), bandwidth, 0, 0.01, density.data())
-      .Evaluate();
+  if (!stats::estimateOnGrid(sources, targets, bandwidth, density))
+    std::fill(density.begin(), density.end(), 0.0);
 }
 
 void addDataSet(PlotContainer& container, const vtkSmartPointer<vtkTable>& rows)

@@ -378,7 +378,8 @@ def main():
             measured[row.name] = Measured(bench, row).go(repetitions)
             print(line(measured[row.name].cells(measured)), flush=True)
             print(f"{row.name}: {time.monotonic() - began:.0f} s", file=sys.stderr, flush=True)
-    print(summary(measured))
+    if any(row.targets for row in chosen):
+        print(summary(measured))
     complete = not options.quick and not options.only and repetitions >= 5
     output = options.output or (ROOT / "docs" / "performance.md" if complete else None)
     if output:

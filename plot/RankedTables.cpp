@@ -6,6 +6,7 @@
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
+#include "stats/GridDensity.h"
 #include "stats/ParallelParts.h"
 #include "stats/RankedParameter.h"
 
@@ -78,6 +79,8 @@ Lists parameterValues(const PlotState& state, vtkTable* source, bool ownRuns, co
 void estimateKernelDensity(std::vector<double>& sources, std::vector<double>& targets,
                            double bandwidth, std::vector<double>& density)
 {
+  if (stats::estimateOnGrid(sources, targets, bandwidth, density))
+    return;
   UnivariateDensityDerivative estimate(
       static_cast<int>(sources.size()), static_cast<int>(targets.size()), sources.data(),
       targets.data(), bandwidth, 0, densityAccuracy, density.data());
