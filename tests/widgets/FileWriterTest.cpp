@@ -120,13 +120,20 @@ TEST_F(FileWriter, SaysWhyAFileCannotGrow)
 
 TEST_F(FileWriter, SaysWhyTheWholeFileCannotGetItsName)
 {
-  const DiskFault fault(DiskCall::Link, EPERM);
-  const QString reason = write(path(), "new");
-  // File systems without files that have no name need no link.
-  if (fault.calls() == 0)
-    GTEST_SKIP() << "This file system needs no link.";
-  EXPECT_EQ(reason, textOf(EPERM));
-  EXPECT_EQ(files(), QStringList());
+  for (const int error : {EPERM, EIO, ENOSPC, EDQUOT})
+  {
+    const DiskFault fault(DiskCall::Link, error);
+    const QString reason = write(path(), "new");
+    // File systems without files that have no name need no link.
+    if (fault.calls() == 0)
+      GTEST_SKIP() << "This file system needs no link.";
+    EXPECT_EQ(reason, textOf(error));
+    EXPECT_EQ(files(), QStringList());
+  }
+  EXPECT_EQ(write(path(), "old"), "");
+  const DiskFault fault(DiskCall::Link, EDQUOT);
+  EXPECT_EQ(write(path(), "new"), textOf(EDQUOT));
+  EXPECT_EQ(content(), "old");
 }
 
 TEST_F(FileWriter, LeavesTheOldFileWhenItsContentFails)
