@@ -32,6 +32,8 @@ vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotContainer& conta
     runs->SetStride(settings.getStride());
     runs->SetOnlyShowSelected(0);
     runs->SetBreakAtGaps(container.getBreakLinesAtGaps());
+    if (auto* first = vtkPlotLineSet::SafeDownCast(chart->GetPlot(0)))
+      runs->SetPictureStore(first->GetPictureStore());
     chart->AddPlot(runs);
     return runs;
   }

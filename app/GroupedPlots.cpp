@@ -95,6 +95,7 @@ vtkSmartPointer<vtkPlotPoints> makePlotLike(const DrawnRuns& drawn)
     auto lines = vtkSmartPointer<vtkPlotLineSet>::New();
     lines->SetStride(static_cast<int>(drawn.stride));
     lines->SetBreakAtGaps(allRuns->GetBreakAtGaps());
+    lines->SetPictureStore(allRuns->GetPictureStore());
     lines->OnlyShowSelectedOff();
     return lines;
   }

@@ -74,6 +74,7 @@ void colorLines(PlotState& state)
 void feedLines(PlotState& state)
 {
   vtkNew<ParallelLines> plot;
+  plot->SetPictureStore(state.pictures);
   plot->SetSelection(listSelectedRows(state.annotationLink, state.table));
   state.parallelCoordinates->SetPlot(plot);
   state.parallelCoordinates->GetVisibleColumns()->SetNumberOfTuples(0);

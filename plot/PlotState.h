@@ -10,6 +10,7 @@
 #include "plot/MatrixSelection.h"
 #include "plot/RankedInputs.h"
 #include "plot/SceneLink.h"
+#include "vtk/PictureStore.h"
 
 #include <vtkAbstractContextItem.h>
 #include <vtkAnnotationLink.h>
@@ -127,6 +128,8 @@ struct PlotState
   SceneLink sceneLink;
   /// The tie to the selection that the scatter-plot matrix keeps for itself.
   MatrixSelection matrixSelection;
+  /// Pictures of runs that the next charts of the same runs take over, never null.
+  std::shared_ptr<Talmesh::PictureStore> pictures = std::make_shared<Talmesh::PictureStore>();
   /// The decoration lines now in the XY chart.
   std::vector<vtkWeakPointer<vtkPlot>> decorationPlots;
   /// The chart last built from Sobol results, whose plots the reserved styles keep.

@@ -63,6 +63,7 @@ vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
     lines->SetStride(state.metaData->getStride());
     lines->SetOnlyShowSelected(onlyShowSelected);
     lines->SetBreakAtGaps(state.breakLinesAtGaps);
+    lines->SetPictureStore(state.pictures);
     return lines;
   }
   auto points = vtkSmartPointer<vtkPlotInvisiblePoints>::New();

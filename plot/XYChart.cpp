@@ -29,6 +29,7 @@ vtkPlot* addRuns(PlotState& state)
   runs->SetStride(state.metaData->getStride());
   runs->SetOnlyShowSelected(0);
   runs->SetBreakAtGaps(state.breakLinesAtGaps);
+  runs->SetPictureStore(state.pictures);
   state.chartXY->AddPlot(runs);
   return runs;
 }

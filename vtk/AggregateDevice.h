@@ -27,8 +27,8 @@ struct PixelGrid
 /// pixels. What it leaves out is empty. It must be placed without smoothing and cut off where
 /// clipping says.
 ///
-/// A highlighted run or point that stays a shape is drawn once, with the opacity that its repeats
-/// would have added up to.
+/// A highlighted run that stays a shape is drawn once, with the opacity that its repeats would have
+/// added up to; highlighted points are drawn as often as they are listed.
 class AggregateDevice
 {
 public:
@@ -41,8 +41,6 @@ public:
 
   virtual ~AggregateDevice() = default;
 
-  /// Whether pictures are taken now; if not, the device is as any other.
-  virtual bool takesAggregates() const { return true; }
   /// Up to how many shapes of one item are wanted as shapes; more of them become a picture.
   virtual vtkIdType mostShapes(Shapes kind) const = 0;
   /// Asked for at every painting.

@@ -59,8 +59,10 @@ PixelGrid gridOf(vtkOpenGLContextDevice2D* screen)
   return grid;
 }
 
-/// What the chart that holds the item clips to, in the coordinates of the device.
-Rectangle clipOf(vtkAbstractContextItem* item, const Rectangle& everything)
+/// What the chart that holds the item clips to, in the coordinates of the device. The screen's
+/// device moves clips to the part of a larger window that it paints, as the transform of the scene
+/// moves all items; any other takes them as they are.
+Rectangle clipOf(vtkAbstractContextItem* item, const Rectangle& everything, bool onScreen)
 {
   vtkAbstractContextItem* holder = item;
   while (holder && !vtkContextClip::SafeDownCast(holder))
@@ -70,7 +72,7 @@ Rectangle clipOf(vtkAbstractContextItem* item, const Rectangle& everything)
   float rect[4];
   vtkContextClip::SafeDownCast(holder)->GetRect(rect);
   double moved[2] = {0.0, 0.0};
-  if (item->GetScene() && item->GetScene()->HasTransform())
+  if (onScreen && item->GetScene() && item->GetScene()->HasTransform())
     item->GetScene()->GetTransform()->GetPosition(moved);
   const double x = moved[0] + rect[0];
   const double y = moved[1] + rect[1];
@@ -95,7 +97,7 @@ std::optional<AggregateTarget> AggregateTarget::of(vtkContext2D* painter,
   AggregateTarget target;
   target.device = dynamic_cast<AggregateDevice*>(painter->GetDevice());
   vtkOpenGLContextDevice2D* const screen = screenOf(painter->GetDevice());
-  if (target.device ? !target.device->takesAggregates() : !screen)
+  if (!target.device && !screen)
     return std::nullopt;
   target.grid = target.device ? target.device->pixelGrid() : gridOf(screen);
   vtkNew<vtkMatrix3x3> matrix;
@@ -105,8 +107,10 @@ std::optional<AggregateTarget> AggregateTarget::of(vtkContext2D* painter,
 
   const PixelGrid& grid = target.grid;
   const Rectangle clip =
-      clipOf(item, {grid.originX, grid.originY, grid.originX + grid.width / grid.scaleX,
-                    grid.originY + grid.height / grid.scaleY});
+      clipOf(item,
+             {grid.originX, grid.originY, grid.originX + grid.width / grid.scaleX,
+              grid.originY + grid.height / grid.scaleY},
+             !target.device);
   target.left = pixelBefore(clip.left, grid.originX, grid.scaleX, grid.width);
   target.bottom = pixelBefore(clip.bottom, grid.originY, grid.scaleY, grid.height);
   target.pixelWidth = pixelBehind(clip.right, grid.originX, grid.scaleX, grid.width) - target.left;

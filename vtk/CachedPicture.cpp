@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
+#include <utility>
 
 namespace Talmesh
 {
@@ -54,10 +56,57 @@ Rectangle inkedPart(const CachedPicture::Pixels& pixels, int width, int height)
   }
   return part;
 }
+// Blending costs a software renderer more than everything else about an unchanged picture.
+PictureStore::Picture inkedOf(const CachedPicture::Pixels& pixels, int width, int height)
+{
+  auto picture = std::make_shared<LayerPicture>();
+  const Rectangle part = inkedPart(pixels, width, height);
+  if (part.left >= part.right)
+    return picture;
+  picture->left = part.left;
+  picture->bottom = part.bottom;
+  picture->pixels = vtkSmartPointer<vtkImageData>::New();
+  picture->pixels->SetDimensions(part.right - part.left, part.top - part.bottom, 1);
+  picture->pixels->AllocateScalars(VTK_UNSIGNED_CHAR, 4);
+  auto* to = static_cast<unsigned char*>(picture->pixels->GetScalarPointer());
+  const std::ptrdiff_t rowSize = 4 * (part.right - part.left);
+  for (int row = part.bottom; row < part.top; ++row, to += rowSize)
+    std::copy_n(pixels.data() + 4 * (static_cast<std::ptrdiff_t>(row) * width + part.left), rowSize,
+                to);
+  return picture;
+}
+
+PictureStore::Picture made(const std::function<CachedPicture::Pixels()>& make,
+                           const AggregateTarget& target)
+{
+  return inkedOf(make(), target.width(), target.height());
+}
+
+PictureStore::Picture foundOrMade(const CachedPicture::Store& store, vtkPen* pen,
+                                  const AggregateTarget& target,
+                                  const std::function<CachedPicture::Pixels()>& make)
+{
+  PictureStore::Key content = store.content();
+  addPlace(content, target);
+  addPen(content, pen);
+  PictureStore::Picture picture = store.pictures->find(content);
+  if (!picture)
+  {
+    picture = made(make, target);
+    store.pictures->keep(std::move(content), picture);
+  }
+  return picture;
+}
 } // namespace
 
 void CachedPicture::paint(vtkContext2D* painter, const AggregateTarget& target, Key key,
                           const std::function<Pixels()>& make)
+{
+  paint(painter, target, std::move(key), make, {nullptr, {}});
+}
+
+void CachedPicture::paint(vtkContext2D* painter, const AggregateTarget& target, Key key,
+                          const std::function<Pixels()>& make, const Store& store)
 {
   if (target.width() < 1 || target.height() < 1)
     return;
@@ -65,29 +114,15 @@ void CachedPicture::paint(vtkContext2D* painter, const AggregateTarget& target, 
   addPen(key, painter->GetPen());
   if (key != shown)
   {
-    keepInked(make(), target.width(), target.height());
+    // What fails to be made must not be taken for the picture before it.
+    shown.clear();
+    picture = nullptr;
+    picture =
+        store.pictures ? foundOrMade(store, painter->GetPen(), target, make) : made(make, target);
     shown = std::move(key);
   }
-  if (picture)
-    target.draw(painter, picture, left, bottom);
-}
-
-// Blending costs a software renderer more than everything else about an unchanged picture.
-void CachedPicture::keepInked(const Pixels& pixels, int width, int height)
-{
-  picture = nullptr;
-  const Rectangle part = inkedPart(pixels, width, height);
-  if (part.left >= part.right)
-    return;
-  left = part.left;
-  bottom = part.bottom;
-  picture = vtkSmartPointer<vtkImageData>::New();
-  picture->SetDimensions(part.right - part.left, part.top - part.bottom, 1);
-  picture->AllocateScalars(VTK_UNSIGNED_CHAR, 4);
-  auto* to = static_cast<unsigned char*>(picture->GetScalarPointer());
-  const std::ptrdiff_t rowSize = 4 * (part.right - part.left);
-  for (int row = part.bottom; row < part.top; ++row, to += rowSize)
-    std::copy_n(pixels.data() + 4 * (static_cast<std::ptrdiff_t>(row) * width + left), rowSize, to);
+  if (picture->pixels)
+    target.draw(painter, picture->pixels, picture->left, picture->bottom);
 }
 
 CachedPicture::Pixels CachedPicture::tinted(const OpacityImage& opacities, vtkPen* pen)

@@ -2,9 +2,7 @@
 #define CachedPicture_h
 
 #include "vtk/OpacityImage.h"
-
-#include <vtkImageData.h>
-#include <vtkSmartPointer.h>
+#include "vtk/PictureStore.h"
 
 #include <functional>
 #include <vector>
@@ -26,21 +24,26 @@ public:
   /// Red, green, blue and opacity of each pixel, row by row from the lowest.
   using Pixels = std::vector<unsigned char>;
 
+  /// Where a picture may be found that another item has made.
+  struct Store
+  {
+    PictureStore* pictures = nullptr; ///< null for none
+    /// The content, told also from that of other items. Asked for only if the layer has changed.
+    std::function<PictureStore::Key()> content;
+  };
+
   /// Draws the layer, as @p make returns it if it is not the one made last.
   void paint(vtkContext2D* painter, const AggregateTarget& target, Key key,
              const std::function<Pixels()>& make);
+  void paint(vtkContext2D* painter, const AggregateTarget& target, Key key,
+             const std::function<Pixels()>& make, const Store& store);
 
   /// Pixels of a pen's colour, without its opacity.
   static Pixels tinted(const OpacityImage& opacities, vtkPen* pen);
 
 private:
-  void keepInked(const Pixels& pixels, int width, int height);
-
   Key shown;
-  /// What of the layer is not empty, and where that lies; null for nothing.
-  vtkSmartPointer<vtkImageData> picture;
-  int left = 0;
-  int bottom = 0;
+  PictureStore::Picture picture; ///< null before the first one
 };
 } // namespace Talmesh
 

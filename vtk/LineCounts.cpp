@@ -21,14 +21,8 @@ constexpr std::size_t share = 8;
 /// What parts of columns may cost: so many runs through columns, and so many counts of 4 bytes.
 constexpr double mostCrossings = 8.0e5;
 constexpr double mostCounts = 4.0e6;
-
-/// Each has counts of its own. The first to work takes all runs that no other takes.
-std::size_t workersFor(std::int64_t points)
-{
-  const std::int64_t wanted = 1 + points / pointsWorthAWorker;
-  const unsigned there = std::clamp(std::thread::hardware_concurrency(), 1u, mostWorkers);
-  return static_cast<std::size_t>(std::min<std::int64_t>(wanted, there));
-}
+/// Of all workers, of 4 bytes: a page at 600 dots per inch has 35 million pixels.
+constexpr std::int64_t mostCounters = 64000000;
 
 std::int64_t pointCount(const std::vector<CountedRun>& runs)
 {
@@ -44,6 +38,15 @@ std::int64_t totalWeight(const std::vector<CountedRun>& runs, std::int64_t most)
 }
 
 } // namespace
+
+// The first to work takes all runs that no other takes.
+std::size_t workersFor(std::int64_t points, std::int64_t counters)
+{
+  const std::int64_t wanted = 1 + points / pointsWorthAWorker;
+  const std::int64_t affordable = std::max<std::int64_t>(mostCounters / counters, 1);
+  const unsigned there = std::clamp(std::thread::hardware_concurrency(), 1u, mostWorkers);
+  return static_cast<std::size_t>(std::min<std::int64_t>({wanted, affordable, there}));
+}
 
 int columnsPerPixel(const LinePen& pen, std::size_t runs, int width, int height)
 {
@@ -66,7 +69,7 @@ OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width
   const CoverageScale scale(pen.opacity, totalWeight(lines.runs, most));
   const int parts = columnsPerPixel(pen, lines.runs.size(), width, height);
   const int columns = parts * width;
-  const std::size_t workers = workersFor(pointCount(lines.runs));
+  const std::size_t workers = workersFor(pointCount(lines.runs), std::int64_t(columns) * height);
   std::vector<PixelCounts> counts(workers, PixelCounts(columns, height, scale));
   std::atomic<std::size_t> next{0};
   const auto countRuns = [&](std::size_t worker, std::size_t)

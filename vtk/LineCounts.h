@@ -37,6 +37,10 @@ struct LinePen
 OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width, int height,
                        const LinePen& pen);
 
+/// How many threads count so many points, each with counters of its own for so many parts of
+/// pixels. Those of all threads together stay below a bound, if one thread's do.
+std::size_t workersFor(std::int64_t points, std::int64_t counters);
+
 /// Into how many columns each of @p width pixels is divided for so many runs.
 int columnsPerPixel(const LinePen& pen, std::size_t runs, int width, int height);
 } // namespace Talmesh

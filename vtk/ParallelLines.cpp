@@ -18,6 +18,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <optional>
+#include <utility>
 
 namespace Talmesh
 {
@@ -68,12 +71,23 @@ CachedPicture::Key keyOf(const std::vector<Axis>& axes)
   return key;
 }
 
+LinePen penOf(vtkPen* pen, const AggregateTarget& target)
+{
+  LinePen used;
+  used.width = std::max(1.0, pen->GetWidth() * target.penScale());
+  used.opacity = pen->GetOpacity() / 255.0;
+  return used;
+}
+} // namespace
+
+vtkStandardNewMacro(ParallelLines);
+
 /// Lines of table rows, like ones that follow each other as one.
-class RowLines
+class ParallelLines::RowLines
 {
 public:
-  explicit RowLines(const std::vector<Axis>& shown)
-      : axes(shown)
+  explicit RowLines(std::vector<Axis> shown)
+      : axes(std::move(shown))
   {
   }
 
@@ -100,6 +114,15 @@ public:
     colors.push_back(color);
   }
 
+  PictureStore::Key content() const
+  {
+    PictureStore::Key key{double(lines.runs.size())};
+    addContent(key, points.data(), points.size() * sizeof(float));
+    addContent(key, lines.runs.data(), lines.runs.size() * sizeof(CountedRun));
+    addContent(key, colors.data(), colors.size() * sizeof(LineColor));
+    return key;
+  }
+
   const LinesToCount& toCount()
   {
     lines.points = points.data();
@@ -108,30 +131,17 @@ public:
   const std::vector<LineColor>& lineColors() const { return colors; }
 
 private:
-  const std::vector<Axis>& axes;
+  std::vector<Axis> axes;
   std::vector<float> points;
   LinesToCount lines;
   std::vector<LineColor> colors;
 };
 
-LinePen penOf(vtkPen* pen, const AggregateTarget& target)
+struct ParallelLines::Layer
 {
-  LinePen used;
-  used.width = std::max(1.0, pen->GetWidth() * target.penScale());
-  used.opacity = pen->GetOpacity() / 255.0;
-  return used;
-}
-
-CachedPicture::Pixels count(RowLines& rows, vtkPen* pen, const AggregateTarget& target)
-{
-  return CachedPicture::tinted(
-      drawLines(rows.toCount(), target.map(), target.width(), target.height(), penOf(pen, target)),
-      pen);
-}
-
-} // namespace
-
-vtkStandardNewMacro(ParallelLines);
+  std::function<void(RowLines&)> gather;
+  bool coloured; ///< each line with a colour of its own
+};
 
 vtkUnsignedCharArray* ParallelLines::LineColors()
 {
@@ -162,52 +172,80 @@ bool ParallelLines::Paint(vtkContext2D* painter)
   return true;
 }
 
+void ParallelLines::SetPictureStore(std::shared_ptr<PictureStore> store)
+{
+  this->Store = std::move(store);
+}
+
+CachedPicture::Pixels ParallelLines::Count(RowLines& rows, bool coloured, vtkPen* pen,
+                                           const AggregateTarget& target)
+{
+  const LinesToCount& lines = rows.toCount();
+  if (this->Store)
+    this->Store->countLines(lines.runs.size());
+  const LinePen used = penOf(pen, target);
+  if (coloured)
+    return paintLines(lines, rows.lineColors(), target.map(), target.width(), target.height(),
+                      used);
+  return CachedPicture::tinted(
+      drawLines(lines, target.map(), target.width(), target.height(), used), pen);
+}
+
+void ParallelLines::PaintLayer(vtkContext2D* painter, const AggregateTarget& target,
+                               CachedPicture& layer, const CachedPicture::Key& key,
+                               const Layer& content)
+{
+  std::optional<RowLines> rows;
+  const auto gathered = [&]() -> RowLines&
+  {
+    if (!rows)
+    {
+      rows.emplace(axesOf(this, this->Data->GetInput()));
+      content.gather(*rows);
+    }
+    return *rows;
+  };
+  layer.paint(painter, target, key,
+              [&] { return this->Count(gathered(), content.coloured, painter->GetPen(), target); },
+              {this->Store.get(), [&] { return gathered().content(); }});
+}
+
 void ParallelLines::PaintAll(vtkContext2D* painter, const AggregateTarget& target)
 {
   vtkTable* const table = this->Data->GetInput();
-  const std::vector<Axis> axes = axesOf(this, table);
   vtkUnsignedCharArray* const colors = this->LineColors();
-  CachedPicture::Key key = keyOf(axes);
+  CachedPicture::Key key = keyOf(axesOf(this, table));
   addColumn(key, colors);
-  this->Lines.paint(painter, target, key,
-                    [&]
-                    {
-                      RowLines rows(axes);
-                      LineColor color{};
-                      for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
-                      {
-                        // Lines have the pen's opacity in any colour.
-                        if (colors)
-                          std::copy_n(colors->GetPointer(4 * row), color.size(), color.data());
-                        rows.add(row, color);
-                      }
-                      if (!colors)
-                        return count(rows, painter->GetPen(), target);
-                      return paintLines(rows.toCount(), rows.lineColors(), target.map(),
-                                        target.width(), target.height(),
-                                        penOf(painter->GetPen(), target));
-                    });
+  const auto gather = [&](RowLines& rows)
+  {
+    LineColor color{};
+    for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
+    {
+      // Lines have the pen's opacity in any colour.
+      if (colors)
+        std::copy_n(colors->GetPointer(4 * row), color.size(), color.data());
+      rows.add(row, color);
+    }
+  };
+  this->PaintLayer(painter, target, this->Lines, key, {gather, colors != nullptr});
 }
 
 void ParallelLines::PaintSelected(vtkContext2D* painter, const AggregateTarget& target)
 {
   vtkTable* const table = this->Data->GetInput();
-  const std::vector<Axis> axes = axesOf(this, table);
   painter->GetPen()->SetColor(selectedColor[0], selectedColor[1], selectedColor[2],
                               selectedColor[3]);
-  CachedPicture::Key key = keyOf(axes);
+  CachedPicture::Key key = keyOf(axesOf(this, table));
   addColumn(key, this->Selection);
-  this->SelectedLines.paint(painter, target, key,
-                            [&]
-                            {
-                              RowLines rows(axes);
-                              for (vtkIdType i = 0; i < this->Selection->GetNumberOfValues(); ++i)
-                              {
-                                const vtkIdType row = this->Selection->GetValue(i);
-                                if (row >= 0 && row < table->GetNumberOfRows())
-                                  rows.add(row, {});
-                              }
-                              return count(rows, painter->GetPen(), target);
-                            });
+  const auto gather = [&](RowLines& rows)
+  {
+    for (vtkIdType i = 0; i < this->Selection->GetNumberOfValues(); ++i)
+    {
+      const vtkIdType row = this->Selection->GetValue(i);
+      if (row >= 0 && row < table->GetNumberOfRows())
+        rows.add(row, {});
+    }
+  };
+  this->PaintLayer(painter, target, this->SelectedLines, key, {gather, false});
 }
 } // namespace Talmesh

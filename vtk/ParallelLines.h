@@ -5,6 +5,8 @@
 
 #include <vtkPlotParallelCoordinates.h>
 
+#include <memory>
+
 namespace Talmesh
 {
 class AggregateTarget;
@@ -19,6 +21,9 @@ public:
 
   bool Paint(vtkContext2D* painter) override;
 
+  /// As vtkPlotLineSet::SetPictureStore.
+  void SetPictureStore(std::shared_ptr<PictureStore> store);
+
 protected:
   ParallelLines() = default;
   ~ParallelLines() override = default;
@@ -27,11 +32,19 @@ private:
   ParallelLines(const ParallelLines&) = delete;
   void operator=(const ParallelLines&) = delete;
 
+  class RowLines;
+  struct Layer;
+
   bool HasPictures(const AggregateTarget& target);
   vtkUnsignedCharArray* LineColors();
+  CachedPicture::Pixels Count(RowLines& rows, bool coloured, vtkPen* pen,
+                              const AggregateTarget& target);
+  void PaintLayer(vtkContext2D* painter, const AggregateTarget& target, CachedPicture& layer,
+                  const CachedPicture::Key& key, const Layer& content);
   void PaintAll(vtkContext2D* painter, const AggregateTarget& target);
   void PaintSelected(vtkContext2D* painter, const AggregateTarget& target);
 
+  std::shared_ptr<PictureStore> Store;
   CachedPicture Lines;
   CachedPicture SelectedLines;
 };

@@ -3,6 +3,7 @@
 #include "vtk/AggregateTarget.h"
 #include "vtk/MarkerCopy.h"
 #include "vtk/PlotItemPainting.h"
+#include "vtk/RunLines.h"
 #include "vtk/RunPieces.h"
 #include "vtk/SelectionColumns.h"
 
@@ -15,20 +16,14 @@
 #include <vtkPoints2D.h>
 #include <vtkTable.h>
 
-#include <algorithm>
 #include <cmath>
+#include <utility>
 
 vtkStandardNewMacro(vtkPlotLineSet);
 
 namespace
 {
 using Shapes = Talmesh::AggregateDevice::Shapes;
-
-// Across a point that has no line, so that it shows beside lines.
-float dotSize(float penWidth)
-{
-  return penWidth + 3.0f;
-}
 } // namespace
 
 vtkPlotLineSet::vtkPlotLineSet()
@@ -46,6 +41,11 @@ vtkPlotLineSet::~vtkPlotLineSet()
 void vtkPlotLineSet::PrintSelf(ostream& os, vtkIndent indent)
 {
   this->Superclass::PrintSelf(os, indent);
+}
+
+void vtkPlotLineSet::SetPictureStore(std::shared_ptr<Talmesh::PictureStore> store)
+{
+  this->Store = std::move(store);
 }
 
 void vtkPlotLineSet::Update()
@@ -92,8 +92,9 @@ bool vtkPlotLineSet::Paint(vtkContext2D* painter)
     return false;
   painter->ApplyPen(this->Pen);
   const auto target = Talmesh::AggregateTarget::of(painter, this);
+  Talmesh::RunLines runs(this->Points, this->BadPoints, this->Stride, this->BreakAtGaps != 0);
   if (!this->OnlyShowSelected)
-    this->PaintRuns(painter, target ? &*target : nullptr);
+    this->PaintRuns(painter, target ? &*target : nullptr, runs);
 
   vtkTable* table = this->Data->GetInput();
   if (this->Selection && table &&
@@ -107,101 +108,47 @@ bool vtkPlotLineSet::Paint(vtkContext2D* painter)
   if (target)
   {
     this->CountHighlights(marked);
-    this->PaintHighlights(painter, *target);
+    this->PaintHighlights(painter, *target, runs);
   }
   else
   {
     this->FindHighlights(marked);
-    this->PaintHighlights(painter);
+    this->PaintHighlights(painter, runs);
   }
   return true;
 }
 
-std::vector<Talmesh::CountedRun> vtkPlotLineSet::LinesOfRuns() const
-{
-  const vtkIdType count = this->Points->GetNumberOfPoints();
-  if (this->BreakAtGaps || !this->BadPoints)
-    return Talmesh::wholeRuns(count, this->Stride);
-  return Talmesh::linesOfRuns(count, this->Stride, this->BadPoints->GetPointer(0),
-                              this->BadPoints->GetNumberOfValues());
-}
-
-std::vector<unsigned char> vtkPlotLineSet::MaskOfGaps() const
-{
-  if (!this->BreakAtGaps || !this->BadPoints)
-    return {};
-  return Talmesh::maskOf(this->Points->GetNumberOfPoints(), this->BadPoints->GetPointer(0),
-                         this->BadPoints->GetNumberOfValues());
-}
-
 Talmesh::CachedPicture::Pixels
-vtkPlotLineSet::CountLines(const std::vector<Talmesh::CountedRun>& lines, vtkPen* pen,
-                           const Talmesh::AggregateTarget& target) const
+vtkPlotLineSet::CountLines(Talmesh::RunLines& runs, const std::vector<Talmesh::CountedRun>& lines,
+                           vtkPen* pen, const Talmesh::AggregateTarget& target)
 {
-  const std::vector<unsigned char> mask = this->MaskOfGaps();
-  Talmesh::LinePen used;
-  used.width = std::max(1.0, pen->GetWidth() * target.penScale());
-  used.opacity = pen->GetOpacity() / 255.0;
-  used.dotSize = this->BreakAtGaps ? dotSize(pen->GetWidth()) * target.penScale() : 0.0;
-  return Talmesh::CachedPicture::tinted(
-      Talmesh::drawLines({static_cast<float*>(this->Points->GetVoidPointer(0)),
-                          mask.empty() ? nullptr : mask.data(), lines},
-                         target.map(), target.width(), target.height(), used),
-      pen);
+  if (this->Store)
+    this->Store->countLines(lines.size());
+  return runs.count(lines, pen, target);
 }
 
-void vtkPlotLineSet::PaintLine(vtkContext2D* painter, const Talmesh::CountedRun& line)
+// Reading all points takes time, so it is done once for every picture of them.
+const Talmesh::PictureStore::Key& vtkPlotLineSet::ContentOf(const Talmesh::RunLines& runs)
 {
-  // VTK reports an error for lines of fewer than two points.
-  if (line.count < 2)
-    return;
-  float* points = static_cast<float*>(this->Points->GetVoidPointer(0));
-  painter->DrawPoly(points + 2 * line.first, static_cast<int>(line.count));
+  const std::vector<double> identity{double(this->Points->GetMTime()), double(this->Stride),
+                                     double(this->BreakAtGaps)};
+  if (identity != this->ReadPoints)
+    this->ContentOfPoints = runs.content();
+  this->ReadPoints = identity;
+  return this->ContentOfPoints;
 }
 
-void vtkPlotLineSet::PaintPieces(vtkContext2D* painter,
-                                 const std::vector<Talmesh::CountedRun>& runs,
-                                 const std::vector<unsigned char>& gaps)
+void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target,
+                               Talmesh::RunLines& runs)
 {
-  const float* points = static_cast<float*>(this->Points->GetVoidPointer(0));
-  std::vector<float> dots;
-  for (const Talmesh::CountedRun& run : runs)
-  {
-    for (const auto& piece : Talmesh::piecesOf(run, points, gaps.empty() ? nullptr : gaps.data()))
-    {
-      this->PaintLine(painter, piece);
-      if (piece.count == 1)
-        dots.insert(dots.end(), points + 2 * piece.first, points + 2 * piece.first + 2);
-    }
-  }
-  if (dots.empty())
-    return;
-  const float width = painter->GetPen()->GetWidth();
-  painter->GetPen()->SetWidth(dotSize(width));
-  painter->DrawMarkers(VTK_MARKER_CIRCLE, false, dots.data(), static_cast<int>(dots.size() / 2));
-  painter->GetPen()->SetWidth(width);
-}
-
-void vtkPlotLineSet::PaintLines(vtkContext2D* painter,
-                                const std::vector<Talmesh::CountedRun>& lines,
-                                const std::vector<unsigned char>& gaps)
-{
-  if (this->BreakAtGaps)
-    return this->PaintPieces(painter, lines, gaps);
-  for (const Talmesh::CountedRun& line : lines)
-    this->PaintLine(painter, line);
-}
-
-void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target)
-{
-  const vtkIdType runCount = this->Points->GetNumberOfPoints() / this->Stride;
   if (!target || this->Pen->GetLineType() != vtkPen::SOLID_LINE ||
-      target->wantsShapes(Shapes::Bundle, runCount))
-    return this->PaintLines(painter, this->LinesOfRuns(), this->MaskOfGaps());
+      target->wantsShapes(Shapes::Bundle, runs.runCount()))
+    return runs.draw(painter, runs.all());
   this->RunPicture.paint(
       painter, *target,
       {double(this->Points->GetMTime()), double(this->Stride), double(this->BreakAtGaps)},
-      [&] { return this->CountLines(this->LinesOfRuns(), this->Pen, *target); });
+      [&] { return this->CountLines(runs, runs.all(), this->Pen, *target); },
+      {this->Store.get(), [&] { return this->ContentOf(runs); }});
 }
 
 void vtkPlotLineSet::FindMarkedRuns()
@@ -265,40 +212,49 @@ void vtkPlotLineSet::CountHighlights(bool marked)
   this->CountedFor = source;
 }
 
-void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter)
+void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, Talmesh::RunLines& runs)
 {
-  const vtkIdType runCount = this->Points->GetNumberOfPoints() / this->Stride;
   std::vector<Talmesh::CountedRun> lines;
   for (vtkIdType i = 0; i < this->SelectedLineIds->GetNumberOfValues(); ++i)
   {
     const vtkIdType run = this->SelectedLineIds->GetValue(i);
-    if (run >= 0 && run < runCount)
+    if (run >= 0 && run < runs.runCount())
       lines.push_back({run * this->Stride, this->Stride, 1});
   }
-  this->PaintLines(painter, lines, this->MaskOfGaps());
+  runs.draw(painter, lines);
 }
 
-void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target)
+void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target,
+                                     Talmesh::RunLines& runs)
 {
   vtkPen* const pen = painter->GetPen();
   const auto count = static_cast<vtkIdType>(this->Highlights.size());
   if (count == 0)
     return;
-  if (pen->GetLineType() == vtkPen::SOLID_LINE && !target.wantsShapes(Shapes::Highlights, count))
+  if (pen->GetLineType() != vtkPen::SOLID_LINE || target.wantsShapes(Shapes::Highlights, count))
+    return this->PaintSums(painter, runs);
+  Talmesh::CachedPicture::Key key = this->CountedFor;
+  key.insert(key.end(), {double(this->Points->GetMTime()), double(this->BreakAtGaps)});
+  const auto content = [&]
   {
-    Talmesh::CachedPicture::Key key = this->CountedFor;
-    key.insert(key.end(), {double(this->Points->GetMTime()), double(this->BreakAtGaps)});
-    this->HighlightPicture.paint(painter, target, key,
-                                 [&] { return this->CountLines(this->Highlights, pen, target); });
-    return;
-  }
-  const double once = pen->GetOpacity() / 255.0;
-  const std::vector<unsigned char> gaps = this->MaskOfGaps();
+    Talmesh::PictureStore::Key all = this->ContentOf(runs);
+    Talmesh::addContent(all, this->Highlights.data(),
+                        this->Highlights.size() * sizeof(Talmesh::CountedRun));
+    return all;
+  };
+  this->HighlightPicture.paint(
+      painter, target, key, [&] { return this->CountLines(runs, this->Highlights, pen, target); },
+      {this->Store.get(), content});
+}
+
+void vtkPlotLineSet::PaintSums(vtkContext2D* painter, Talmesh::RunLines& runs)
+{
+  const double once = painter->GetPen()->GetOpacity() / 255.0;
   for (const Talmesh::CountedRun& run : this->Highlights)
   {
     const double sum = 1.0 - std::pow(1.0 - once, static_cast<double>(run.weight));
-    pen->SetOpacity(static_cast<unsigned char>(std::lround(255.0 * sum)));
-    this->PaintLines(painter, {run}, gaps);
+    painter->GetPen()->SetOpacity(static_cast<unsigned char>(std::lround(255.0 * sum)));
+    runs.draw(painter, {run});
   }
 }
 

@@ -3,9 +3,10 @@
 
 #include "vtk/CachedPicture.h"
 #include "vtk/CachedPoints.h"
-#include "vtk/LineCounts.h"
+#include "vtk/RunTracer.h"
 #include "vtk/VtkCompat.h"
 
+#include <memory>
 #include <vector>
 
 class vtkIdTypeArray;
@@ -13,7 +14,8 @@ class vtkIdTypeArray;
 namespace Talmesh
 {
 class AggregateTarget;
-}
+class RunLines;
+} // namespace Talmesh
 
 /// Many runs in one plot item. The rows of the input table are runs of Stride rows, one after
 /// another; every whole run is drawn as a polyline of its own and the selected runs are drawn
@@ -80,6 +82,13 @@ public:
   vtkBooleanMacro(BreakAtGaps, int);
   ///@}
 
+  ///@{
+  /// Where pictures are looked for that an earlier item of the same lines has made, and where this
+  /// one's go. Null, which is the default, for nowhere.
+  void SetPictureStore(std::shared_ptr<Talmesh::PictureStore> store);
+  const std::shared_ptr<Talmesh::PictureStore>& GetPictureStore() const { return this->Store; }
+  ///@}
+
 protected:
   vtkPlotLineSet();
   ~vtkPlotLineSet() override;
@@ -95,26 +104,22 @@ private:
   vtkPlotLineSet(const vtkPlotLineSet&) = delete;
   void operator=(const vtkPlotLineSet&) = delete;
 
-  std::vector<Talmesh::CountedRun> LinesOfRuns() const;
-  std::vector<unsigned char> MaskOfGaps() const;
-  Talmesh::CachedPicture::Pixels CountLines(const std::vector<Talmesh::CountedRun>& lines,
-                                            vtkPen* pen,
-                                            const Talmesh::AggregateTarget& target) const;
-  void PaintLine(vtkContext2D* painter, const Talmesh::CountedRun& line);
-  void PaintPieces(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& runs,
-                   const std::vector<unsigned char>& gaps);
-  /// @param gaps as MaskOfGaps() has them
-  void PaintLines(vtkContext2D* painter, const std::vector<Talmesh::CountedRun>& lines,
-                  const std::vector<unsigned char>& gaps);
-  void PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target);
+  Talmesh::CachedPicture::Pixels CountLines(Talmesh::RunLines& runs,
+                                            const std::vector<Talmesh::CountedRun>& lines,
+                                            vtkPen* pen, const Talmesh::AggregateTarget& target);
+  const Talmesh::PictureStore::Key& ContentOf(const Talmesh::RunLines& runs);
+  void PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target,
+                 Talmesh::RunLines& runs);
   /// @param always also where the column seems to be the one copied last
   void ReadMarkers(vtkTable* table, bool always);
   void FindMarkedRuns();
   void FindSelectedRuns();
   void FindHighlights(bool marked);
   void CountHighlights(bool marked);
-  void PaintHighlights(vtkContext2D* painter);
-  void PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target);
+  void PaintHighlights(vtkContext2D* painter, Talmesh::RunLines& runs);
+  void PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target,
+                       Talmesh::RunLines& runs);
+  void PaintSums(vtkContext2D* painter, Talmesh::RunLines& runs);
 
   int BreakAtGaps = 0;
   std::vector<double> CopiedMarkers;           ///< tells the marker column that was copied
@@ -122,6 +127,9 @@ private:
   vtkIdType CopiedMarks = 0;                   ///< non-zero values of that copy
   std::vector<double> CountedFor;              ///< tells what the counted highlights are
   std::vector<Talmesh::CountedRun> Highlights; ///< each highlighted run once
+  std::vector<double> ReadPoints;              ///< tells what ContentOfPoints is of
+  Talmesh::PictureStore::Key ContentOfPoints;
+  std::shared_ptr<Talmesh::PictureStore> Store;
   Talmesh::CachedPicture RunPicture;
   Talmesh::CachedPicture HighlightPicture;
 };

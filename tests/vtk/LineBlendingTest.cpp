@@ -29,7 +29,8 @@ enum class Shape
   TimeCourse, ///< x grows
   Noise,      ///< x grows, and every sample jumps
   Backwards,  ///< x falls
-  Portrait    ///< x goes to and fro
+  Portrait,   ///< x goes to and fro
+  Logarithms  ///< of times and values, some of which have none
 };
 
 Study makeStudy(Shape shape, int stride, double gaps, unsigned seed)
@@ -50,6 +51,12 @@ Study makeStudy(Shape shape, int stride, double gaps, unsigned seed)
         y = 20 + 6 * normal(random);
       if (shape == Shape::Portrait)
         x = 24 + 20 * std::cos(7 * t + 2 * phase);
+      if (shape == Shape::Logarithms)
+      {
+        // As on a decade of times and on three of values, which sink below zero.
+        x = width * std::log10(1 + 9 * t);
+        y = 14 * std::log10(1 + 800 * std::sin(4 * t + 0.2 * phase));
+      }
       if (uniform(random) < gaps)
         y = std::numeric_limits<double>::quiet_NaN();
       study.points.push_back(static_cast<float>(0.01 * x - 3));
@@ -107,13 +114,14 @@ protected:
   Difference greatest(int finest, double penWidth)
   {
     Difference found;
-    for (const auto& [stride, gaps] :
-         {std::pair(2, 0.0), std::pair(15, 0.15), std::pair(150, 0.0), std::pair(150, 0.05)})
+    for (const auto& [stride, gaps] : {std::pair(1, 0.0), std::pair(2, 0.0), std::pair(15, 0.15),
+                                       std::pair(150, 0.0), std::pair(150, 0.05)})
     {
       const Study study = makeStudy(GetParam(), stride, gaps, static_cast<unsigned>(stride));
       for (const double opacity : {0.05, 150.0 / 255.0, 1.0})
       {
-        const Talmesh::LinePen pen{penWidth, opacity, 0, finest};
+        // A point without a line has a dot, but where the gaps are many.
+        const Talmesh::LinePen pen{penWidth, opacity, gaps < 0.1 ? penWidth + 3 : 0, finest};
         const std::vector<double> exact = blendedLines(study.lines, study.map, width, height, pen);
         const double darkest = *std::max_element(exact.begin(), exact.end());
         const Difference difference =
@@ -152,4 +160,4 @@ TEST_P(LineBlending, StaysCloseWithAsManyColumnsAsPixels)
 
 INSTANTIATE_TEST_SUITE_P(Studies, LineBlending,
                          ::testing::Values(Shape::TimeCourse, Shape::Noise, Shape::Backwards,
-                                           Shape::Portrait));
+                                           Shape::Portrait, Shape::Logarithms));

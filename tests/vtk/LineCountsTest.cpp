@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <thread>
 #include <vector>
 
 #include "LineReference.h"
@@ -221,4 +222,14 @@ TEST(LineCounts, DrawsSteepLinesAsWideAsLevelOnes)
     EXPECT_NEAR(ink(steep), width, 0.26) << "a quarter of a pixel is the finest column";
     EXPECT_NEAR(ink(slanted), width * std::sqrt(2.0), 0.05 * width * std::sqrt(2.0)) << width;
   }
+}
+
+TEST(LineCounts, BoundsWhatItsThreadsHoldTogether)
+{
+  using Talmesh::workersFor;
+  const std::int64_t many = 10000000;
+  EXPECT_EQ(workersFor(many, 1000000), std::clamp(std::thread::hardware_concurrency(), 1u, 8u));
+  EXPECT_EQ(workersFor(1000, 1000000), 1u);
+  EXPECT_EQ(workersFor(many, 35000000), 1u) << "one page at 600 dots per inch";
+  EXPECT_EQ(workersFor(many, 1000000000), 1u);
 }

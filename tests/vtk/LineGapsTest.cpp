@@ -1,3 +1,5 @@
+#include "support/PictureDevice.h"
+
 #include <vtkCharArray.h>
 #include <vtkRenderingCoreEnums.h>
 
@@ -103,4 +105,33 @@ TEST_F(LineGaps, AreWhatAMaskMarks)
   item->SetStride(10);
   item->Update();
   EXPECT_EQ(pieces(), (Lines{{0, 3}, {4, 6}}));
+}
+
+TEST_F(LineGaps, BreakHighlightsThatADeviceWantsAsShapes)
+{
+  setRows(10, {1, 4});
+  mark({0, 1});
+  item->OnlyShowSelectedOn();
+  item->SetStride(10);
+  item->SetWidth(1);
+  item->Update();
+  vtkNew<PictureDevice> device;
+  device->shapes = 100;
+  vtkNew<vtkContext2D> painter;
+  painter->Begin(device);
+  EXPECT_TRUE(item->Paint(painter));
+  painter->End();
+  EXPECT_TRUE(device->pictures.empty());
+  // Once, as opaque as twice. The pen is 2.7 wider than that of runs, a dot 3 wider than its line.
+  const double left = 1 - 150 / 255.0;
+  const auto lines = device->calls(Kind::Poly);
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_EQ(lines[0].points, (std::vector<Point>{{2, 1}, {3, 1}}));
+  EXPECT_EQ(lines[1].points.size(), 5u);
+  EXPECT_EQ(lines[0].penColor[3], std::lround(255 * (1 - left * left)));
+  const auto dots = device->calls(Kind::Markers);
+  ASSERT_EQ(dots.size(), 1u);
+  EXPECT_EQ(dots[0].points, (std::vector<Point>{{0, 1}}));
+  EXPECT_EQ(dots[0].penColor, lines[0].penColor);
+  EXPECT_FLOAT_EQ(dots[0].penWidth, 6.7f);
 }

@@ -1,6 +1,7 @@
 #include "LineReference.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace
@@ -66,14 +67,22 @@ std::vector<double> blendedLines(const Talmesh::LinesToCount& lines, const Talme
   for (const Talmesh::CountedRun& run : lines.runs)
   {
     Surface surface(width, height);
-    for (auto i = run.first; i + 1 < run.first + run.count; ++i)
+    const auto isPoint = [&](std::int64_t i)
     {
-      const double a[] = {lines.points[2 * i] * map.scaleX + map.shiftX,
-                          lines.points[2 * i + 1] * map.scaleY + map.shiftY};
-      const double b[] = {lines.points[2 * i + 2] * map.scaleX + map.shiftX,
-                          lines.points[2 * i + 3] * map.scaleY + map.shiftY};
-      if (std::isfinite(a[0] + a[1] + b[0] + b[1]))
-        surface.draw(a, b, 0.5 * pen.width);
+      return i >= run.first && i < run.first + run.count &&
+             std::isfinite(lines.points[2 * i] + lines.points[2 * i + 1]);
+    };
+    const auto place = [&](std::int64_t i)
+    {
+      return std::array<double, 2>{lines.points[2 * i] * map.scaleX + map.shiftX,
+                                   lines.points[2 * i + 1] * map.scaleY + map.shiftY};
+    };
+    for (auto i = run.first; i < run.first + run.count; ++i)
+    {
+      if (isPoint(i) && isPoint(i + 1))
+        surface.draw(place(i).data(), place(i + 1).data(), 0.5 * pen.width);
+      else if (isPoint(i) && !isPoint(i - 1))
+        surface.draw(place(i).data(), place(i).data(), 0.5 * pen.dotSize);
     }
     for (int row = 0; row < height; ++row)
     {

@@ -1,0 +1,79 @@
+#include "vtk/PictureStore.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace Talmesh
+{
+namespace
+{
+/// Of all pictures: a dozen of an ordinary window.
+constexpr std::size_t mostBytes = std::size_t(32) << 20;
+constexpr std::size_t lanes = 4;
+constexpr std::size_t wordSize = sizeof(std::uint64_t);
+
+/// Different words lead from one state to different states, and so do different states.
+std::uint64_t mixed(std::uint64_t state, std::uint64_t word)
+{
+  state = (state ^ word) * 0x9e3779b97f4a7c15u; // odd, so that it can be undone
+  return state ^ (state >> 32);
+}
+
+// Several words at a time, as each step waits for the one before it.
+std::uint64_t fingerprint(const unsigned char* bytes, std::size_t size)
+{
+  std::uint64_t states[lanes] = {1, 2, 3, 4};
+  std::uint64_t words[lanes];
+  std::size_t done = 0;
+  for (; done + sizeof words <= size; done += sizeof words)
+  {
+    std::memcpy(words, bytes + done, sizeof words);
+    for (std::size_t lane = 0; lane < lanes; ++lane)
+      states[lane] = mixed(states[lane], words[lane]);
+  }
+  std::uint64_t result = size;
+  for (const std::uint64_t state : states)
+    result = mixed(result, state);
+  for (; done < size; done += wordSize)
+  {
+    words[0] = 0;
+    std::memcpy(words, bytes + done, std::min(wordSize, size - done));
+    result = mixed(result, words[0]);
+  }
+  return result;
+}
+} // namespace
+
+std::size_t LayerPicture::bytes() const
+{
+  return pixels ? 4 * static_cast<std::size_t>(pixels->GetNumberOfPoints()) : 0;
+}
+
+PictureStore::Picture PictureStore::find(const Key& key)
+{
+  const auto found = std::find_if(entries.begin(), entries.end(),
+                                  [&key](const Entry& entry) { return entry.key == key; });
+  if (found == entries.end())
+    return nullptr;
+  entries.splice(entries.begin(), entries, found);
+  return found->picture;
+}
+
+void PictureStore::keep(Key key, Picture picture)
+{
+  entries.push_front({std::move(key), std::move(picture)});
+  std::size_t bytes = entries.front().picture->bytes();
+  for (auto entry = std::next(entries.begin()); entry != entries.end();)
+  {
+    bytes += entry->picture->bytes();
+    entry = bytes > mostBytes ? entries.erase(entry) : std::next(entry);
+  }
+}
+
+void addContent(PictureStore::Key& key, const void* bytes, std::size_t size)
+{
+  const std::uint64_t number = fingerprint(static_cast<const unsigned char*>(bytes), size);
+  key.push_back(static_cast<double>(number >> 32));
+  key.push_back(static_cast<double>(number & 0xffffffffu));
+}
+} // namespace Talmesh
