@@ -39,18 +39,52 @@ PainterDevice3D::Vertex PainterDevice3D::Projected(const float* points, const un
 
 void PainterDevice3D::Add(std::vector<Shape>& shapes, std::vector<Vertex> vertices)
 {
+  for (const Vertex& vertex : vertices)
+    if (!std::all_of(vertex.place.begin(), vertex.place.end(),
+                     [](double part) { return std::isfinite(part); }))
+      return;
+  for (const auto& plane : this->Planes)
+    vertices = Cut(vertices, plane.second);
+  if (vertices.empty())
+    return;
   double depth = 0.0;
   for (const Vertex& vertex : vertices)
-  {
-    const auto& p = vertex.place;
-    if (!std::all_of(p.begin(), p.end(), [](double part) { return std::isfinite(part); }))
-      return;
-    for (const auto& [i, e] : this->Planes)
-      if (e[0] * p[0] + e[1] * p[1] + e[2] * p[2] + e[3] < 0.0)
-        return;
-    depth += p[2] / static_cast<double>(vertices.size());
-  }
+    depth += vertex.place[2] / static_cast<double>(vertices.size());
   shapes.push_back({std::move(vertices), this->Pen->GetWidth(), depth});
+}
+
+double PainterDevice3D::Height(const Vertex& vertex, const Plane& plane)
+{
+  const auto& p = vertex.place;
+  return plane[0] * p[0] + plane[1] * p[1] + plane[2] * p[2] + plane[3];
+}
+
+// Goes around the edges of a shape, of which a line has one, and leaves out what lies behind.
+std::vector<PainterDevice3D::Vertex> PainterDevice3D::Cut(const std::vector<Vertex>& vertices,
+                                                          const Plane& plane)
+{
+  std::vector<Vertex> left;
+  const std::size_t edges = vertices.size() == 2 ? 1 : vertices.size();
+  for (std::size_t i = 0; i < vertices.size(); ++i)
+  {
+    const Vertex& from = vertices[i];
+    const Vertex& to = vertices[(i + 1) % vertices.size()];
+    const double before = Height(from, plane);
+    const double behind = Height(to, plane);
+    if (before >= 0.0)
+      left.push_back(from);
+    if (i >= edges || (before >= 0.0) == (behind >= 0.0))
+      continue;
+    const double part = before / (before - behind);
+    Vertex border;
+    for (std::size_t axis = 0; axis < 3; ++axis)
+      border.place[axis] = from.place[axis] + part * (to.place[axis] - from.place[axis]);
+    for (std::size_t k = 0; k < 4; ++k)
+      border.color[k] = static_cast<unsigned char>(
+          std::lround(from.color[k] + part * (to.color[k] - from.color[k])));
+    left.push_back(border);
+  }
+  return left;
 }
 
 void PainterDevice3D::DrawPoly(const float* points, int n, const unsigned char* colors,

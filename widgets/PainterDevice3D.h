@@ -65,7 +65,7 @@ private:
     std::array<unsigned char, 4> color;
   };
 
-  /// A point, a line or a triangle.
+  /// A point, a line or a convex area.
   struct Shape
   {
     std::vector<Vertex> vertices;
@@ -74,8 +74,11 @@ private:
   };
 
   Vertex Projected(const float* points, const unsigned char* colors, int components, int i) const;
-  /// Keeps a shape, unless a vertex of it is cut off or nowhere.
+  /// Keeps what the planes leave of a shape, nothing if a vertex of it is nowhere.
   void Add(std::vector<Shape>& shapes, std::vector<Vertex> vertices);
+  using Plane = std::array<double, 4>;
+  static double Height(const Vertex& vertex, const Plane& plane);
+  static std::vector<Vertex> Cut(const std::vector<Vertex>& vertices, const Plane& plane);
   void PaintLines(double farthest, bool behind);
   void PaintAreas();
   /// @return behind the last of the points of one width that were painted
@@ -85,7 +88,7 @@ private:
   PainterDevice* Flat = nullptr;
   vtkNew<vtkPen> Pen;
   vtkNew<vtkTransform> Model;
-  std::map<int, std::array<double, 4>> Planes;
+  std::map<int, Plane> Planes;
   std::vector<Shape> Lines;
   std::vector<Shape> Areas; ///< points and triangles
 };

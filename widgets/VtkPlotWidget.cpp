@@ -3,6 +3,7 @@
 #include "plot/PlotContainer.h"
 #include "widgets/ExportName.h"
 #include "widgets/PdfContextDevice.h"
+#include "widgets/PlotInteractorStyle.h"
 #include "widgets/TemporaryContextDevice.h"
 
 #include <vtkCallbackCommand.h>
@@ -41,6 +42,10 @@ VtkPlotWidget::VtkPlotWidget(QWidget* parent)
   setRenderWindow(window);
   view->SetRenderWindow(window);
   view->SetInteractor(interactor());
+  // In place of the view's own.
+  vtkNew<PlotInteractorStyle> style;
+  style->SetScene(view->GetScene());
+  interactor()->SetInteractorStyle(style);
   ignoreLetters(interactor());
   window->LineSmoothingOn();
 }
