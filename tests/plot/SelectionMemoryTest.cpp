@@ -1,12 +1,15 @@
 #include "plot/DerivedTables.h"
 #include "plot/TableColumns.h"
+#include "support/CapturedOutput.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
 
+#include <iostream>
 #include <set>
+#include <string>
 
 #include "SelectionPageFixture.h"
 
@@ -109,4 +112,19 @@ TEST_F(SelectionMemory, LeavesColumnsBehindTheMarksInTheirPlaces)
       vtkDataArray::SafeDownCast(plot::columnNamed(container.getTable(), RemainderSelectionColumn));
   EXPECT_EQ(marks->GetTuple1(0), 0.0);
   EXPECT_EQ(marks->GetTuple1(manyPoints), 1.0) << "the second run";
+}
+
+TEST_F(SelectionMemory, IsFilledByOneRankingOfEachPart)
+{
+  // Each ranking says that there is a pair of bounds too few.
+  container.state().parameterBounds.pop_back();
+  CapturedOutput errors(std::cerr);
+  container.redraw();
+  const std::string said = errors.text();
+  ASSERT_NE(said, "") << "the plot table is ranked anew";
+  for (const int first : {0, 1})
+    select(first);
+  EXPECT_EQ(errors.text().size(), 5 * said.size()) << errors.text();
+  container.redraw();
+  EXPECT_EQ(errors.text().size(), 5 * said.size()) << "a redraw ranks nothing";
 }
