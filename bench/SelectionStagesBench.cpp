@@ -111,15 +111,15 @@ void selectionStages(benchmark::State& state)
   window.showComparison(static_cast<int>(state.range(0)));
   window.paint(true);
   PlotContainer& container = window.container;
-  bool& silent = container.state().selectionUpdateCallback->Silent;
+  PlotContainer*& reacting = container.state().selectionUpdateCallback->Container;
   int choice = 0;
   for (auto _ : state)
   {
-    silent = true;
+    reacting = nullptr;
     window.drag();
     measure(state, "picking", [&] { window.release(); });
     window.select(++choice);
-    silent = false;
+    reacting = &container;
     container.state().derivedTables.resize(Talmesh::plot::ownSlots);
     Talmesh::plot::RunSplit split;
     measure(state, "split",
