@@ -37,7 +37,9 @@ void expectSoundPage(const QString& pdf)
 {
   EXPECT_EQ(complaintsOf("qpdf", {"--check", pdf}), "");
   EXPECT_EQ(complaintsOf("pdftoppm", {"-r", "50", "-png", pdf, pdf + "-page"}), "");
-  for (const QString& font : outputOf("pdffonts", {pdf}).trimmed().split(QLatin1Char('\n')).mid(2))
+  const QStringList fonts = outputOf("pdffonts", {pdf}).trimmed().split(QLatin1Char('\n')).mid(2);
+  EXPECT_FALSE(fonts.isEmpty()) << "every style has letters";
+  for (const QString& font : fonts)
     // Columns: embedded, named as a subset, with what its letters stand for.
     EXPECT_TRUE(
         font.contains(QRegularExpression(QStringLiteral(" yes +(yes|no) +yes +\\d+ +\\d+$"))))
