@@ -212,7 +212,7 @@ def details(counters):
     if "tables" in counters:
         parts.append(f"{counters['tables']:.2f} tables")
     if "bytes" in counters:
-        parts.append(f"{counters['bytes'] / 1e6:.1f} MB")
+        parts.append(f"{counters['bytes'] / 1e6:.2f} MB")
     if "largest" in counters:
         parts.append(f"largest {counters['largest'] / 1e6:.2f} MB")
     parts += [f"{name[len(STAGE):]} {shown(value)}" for name, value in counters.items() if name.startswith(STAGE)]
