@@ -1,5 +1,6 @@
 #include "app/ChartDressing.h"
 
+#include "app/ColumnRoles.h"
 #include "app/PlotChoice.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"

@@ -270,4 +270,9 @@ ColumnRoles assignRoles(const std::vector<std::string>& headers)
   return roles;
 }
 
+std::string shownName(const std::string& columnName)
+{
+  return readHeader(columnName).name;
+}
+
 } // namespace Talmesh::app

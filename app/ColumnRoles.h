@@ -43,6 +43,9 @@ struct ColumnRoles
 /// typed, ": " alone being the word of time and values.
 ColumnHeader readHeader(std::string_view text);
 
+/// A column's name without its kind: "k1" for "Parameter: k1".
+std::string shownName(const std::string& columnName);
+
 /// The name behind the "#" that marks a line of comment, as numpy.savetxt puts it before the first
 /// header; else the name as it is. A "#" that touches the name is part of it, unless the rest is a
 /// name of time or runs.

@@ -1,7 +1,7 @@
 #ifndef CommandLine_h
 #define CommandLine_h
 
-#include "external/PlotStyles.h"
+#include "app/PlotWishes.h"
 #include "widgets/ScenePainter.h"
 
 #include <optional>
@@ -13,22 +13,12 @@ namespace Talmesh::app
 
 /// What the user asked for on the command line. Names of columns are UTF-8; names of files are the
 /// bytes that the system knows them by.
-struct CommandLineOptions
+struct CommandLineOptions : OpeningWishes
 {
-  /// The table to open; empty for the example study.
-  std::string file;
-  std::optional<plotStyles> style;
-  /// Names of columns; empty for the default.
-  std::string x;
-  std::vector<std::string> y;
-  std::string z;
   /// Files to write, in order.
   std::vector<std::string> exports;
   /// The folder to write one picture of each view into; empty for none.
   std::string gallery;
-  /// Width and height of the picture in pixels; 0 for the default.
-  int width = 0;
-  int height = 0;
   /// Width and height of exported pictures on paper in millimetres; 0 for the size in pixels.
   double paperWidth = 0.0;
   double paperHeight = 0.0;

@@ -79,16 +79,4 @@ void refreshQuartiles(PlotContainer& container)
   container.setProperty(quartileSource, source + quartilesNow(container));
 }
 
-void chooseOpeningStyle(PlotContainer& container, const CommandLineOptions& options)
-{
-  PlotMetaData& settings = *container.getMetaData();
-  const bool comparable = settings.getStride() > 1 && !settings.parameterColumns.empty();
-  const bool shown = options.y.size() <= 1 && options.z.empty();
-  if (options.style || !comparable || !shown)
-    return;
-  settings.blockSignals(true);
-  settings.setPlotStyle(selectionCdfPlot);
-  settings.blockSignals(false);
-}
-
 } // namespace Talmesh::app

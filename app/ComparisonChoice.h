@@ -1,8 +1,6 @@
 #ifndef ComparisonChoice_h
 #define ComparisonChoice_h
 
-#include "app/CommandLine.h"
-
 class PlotContainer;
 
 namespace Talmesh::app
@@ -32,11 +30,6 @@ void writeComparisonChoice(PlotContainer& container, const ComparisonChoice& cho
 /// Brings the quartiles of the runs up to the columns that the settings name, if the bands that
 /// are drawn from them are shown and something has changed. Does not draw.
 void refreshQuartiles(PlotContainer& container);
-
-/// Makes the page that compares runs the style of a container that holds runs with parameters, and
-/// otherwise leaves the style that it has. The command line comes first: it may name a style, or
-/// more columns than that page shows. Does not draw.
-void chooseOpeningStyle(PlotContainer& container, const CommandLineOptions& options);
 
 } // namespace Talmesh::app
 

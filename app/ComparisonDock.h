@@ -2,6 +2,7 @@
 #define ComparisonDock_h
 
 #include "app/ComparisonChoice.h"
+#include "external/PlotStyles.h"
 
 #include <QDockWidget>
 

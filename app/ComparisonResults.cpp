@@ -1,6 +1,6 @@
 #include "app/ComparisonResults.h"
 
-#include "app/PlotChoice.h"
+#include "app/ColumnRoles.h"
 #include "external/PlotMetaData.h"
 #include "plot/DerivedTables.h"
 #include "plot/PlotContainer.h"

@@ -122,4 +122,9 @@ boost::shared_ptr<LinePlotTable> makeExampleStudy(const ImportProgress& progress
   return table;
 }
 
+Study exampleStudyOfRepressilator(const ImportProgress& progress)
+{
+  return {"Repressilator", makeExampleStudy(progress), nullptr};
+}
+
 } // namespace Talmesh::app

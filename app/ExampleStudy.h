@@ -3,6 +3,7 @@
 
 #include "app/ImportProgress.h"
 #include "app/Repressilator.h"
+#include "app/Study.h"
 #include "external/LinePlotTable.h"
 
 #include <boost/shared_ptr.hpp>
@@ -51,6 +52,9 @@ RepressilatorState exampleStart();
 /// @param progress told after each run
 /// @return null when the progress cancels
 boost::shared_ptr<LinePlotTable> makeExampleStudy(const ImportProgress& progress = {});
+
+/// The simulated example study as the viewer shows it; without runs when the progress cancels.
+Study exampleStudyOfRepressilator(const ImportProgress& progress = {});
 
 } // namespace Talmesh::app
 

@@ -2,8 +2,9 @@
 
 #include "app/PlotChoice.h"
 #include "app/PublishedViews.h"
+#include "app/ShownStudy.h"
 #include "app/StatisticsViews.h"
-#include "app/TimeCoursePage.h"
+#include "app/TimeCourses.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"

@@ -1,6 +1,8 @@
 #ifndef GroupedPlots_h
 #define GroupedPlots_h
 
+#include "app/SessionGroups.h"
+
 #include <QColor>
 
 #include <string>
@@ -20,20 +22,9 @@ struct RunGroups
   std::vector<std::string> names;
 };
 
-/// As many as there are colours.
-inline constexpr int mostGroups = 12;
-
 /// Groups with their names in the user's language.
 /// @param groupOfRun the group of every run, from 0
 RunGroups namedGroups(const std::vector<int>& groupOfRun);
-
-/// How the runs are shown beside their own lines or points.
-struct RunLook
-{
-  bool groupColours = false;
-  bool groupMeans = false;
-  bool quartileBands = false;
-};
 
 /// The colour of a group in lists and charts; those of the first twelve groups differ.
 QColor groupColour(int group);

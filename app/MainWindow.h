@@ -1,7 +1,6 @@
 #ifndef MainWindow_h
 #define MainWindow_h
 
-#include "app/CommandLine.h"
 #include "app/KeptWork.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
@@ -50,7 +49,7 @@ public:
   /// Opens the file or example that the command line names and shows the columns it names. The
   /// result is announced by `opened`, or by `openFailed` and `commandLineFailed`; by neither when
   /// the user cancels or starts to open something else meanwhile.
-  void open(const CommandLineOptions& options);
+  void open(const OpeningWishes& asked);
   /// Starts to open a file; the window stays alive meanwhile.
   void openFile(const QString& path);
   /// Starts to simulate the example study.
@@ -189,7 +188,7 @@ private:
   /// The file being opened; empty for the example.
   QString loadingPath;
   /// What the command line wishes of the study that it names, while that is being opened.
-  CommandLineOptions wishes;
+  OpeningWishes wishes;
   bool openingNamed = false;
   SessionController* sessions = nullptr;
   /// What is being opened, if an earlier window has left it.

@@ -1,9 +1,11 @@
 #include "app/ComparisonChoice.h"
+#include "app/ExampleStudy.h"
 #include "app/GroupController.h"
 #include "app/LoadingBar.h"
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
+#include "app/ShownStudy.h"
 #include "app/StudyLoader.h"
 #include "app/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
@@ -32,16 +34,16 @@ void drop(PlotContainer* container, const QObject* window)
 
 } // namespace
 
-void MainWindow::open(const CommandLineOptions& options)
+void MainWindow::open(const OpeningWishes& asked)
 {
-  if (options.width > 0)
+  if (asked.width > 0)
     // The window grows by as much as the plot must.
-    resize(QWidget::size() + QSize(options.width, options.height) - plot->size());
-  if (options.file.empty())
+    resize(QWidget::size() + QSize(asked.width, asked.height) - plot->size());
+  if (asked.file.empty())
     openExample();
   else
-    openFile(QFile::decodeName(options.file.c_str()));
-  wishes = options;
+    openFile(QFile::decodeName(asked.file.c_str()));
+  wishes = asked;
   openingNamed = true;
 }
 
@@ -90,7 +92,7 @@ void MainWindow::cancelLoading()
 /// What the command line wishes concerns no other study than the one that it names.
 void MainWindow::forgetCommandLine()
 {
-  wishes = CommandLineOptions();
+  wishes = OpeningWishes();
   openingNamed = false;
 }
 

@@ -3,7 +3,7 @@
 #include "app/MainWindow.h"
 #include "app/PlotDock.h"
 #include "app/SelectionController.h"
-#include "app/Session.h"
+#include "app/PlotSession.h"
 #include "app/SessionController.h"
 #include "app/SessionFile.h"
 #include "app/TimeCoursePage.h"
@@ -61,12 +61,10 @@ std::optional<SessionSource> MainWindow::sessionSource()
   PlotContainer* shown = aside ? lastRuns.container : container;
   if (!shown || !(opened.runs || opened.table))
     return {};
-  return SessionSource{opened,
-                       *shown,
-                       aside ? lastRuns.choice : dock->choice(),
-                       &groups->runNormaliser(),
-                       groups->sessionGroups(),
-                       {}};
+  SessionSource source = sessionOf(opened, *shown, aside ? lastRuns.choice : dock->choice(),
+                                   &groups->runNormaliser());
+  source.groups = groups->sessionGroups();
+  return source;
 }
 
 void MainWindow::saveSession()

@@ -132,11 +132,6 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
   return {};
 }
 
-std::string shownName(const std::string& columnName)
-{
-  return readHeader(columnName).name;
-}
-
 FoundColumn findColumn(const PlotContainer& container, const std::string& name)
 {
   vtkTable* table = container.getTable();
@@ -184,11 +179,10 @@ findJoined(const PlotContainer& container, const std::vector<std::string>& names
 
 } // namespace
 
-std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,
-                         PlotChoice& choice)
+std::string chooseByName(const PlotContainer& container, const PlotWishes& wishes, PlotChoice& choice)
 {
-  if (options.style)
-    choice.style = *options.style;
+  if (wishes.style)
+    choice.style = *wishes.style;
   std::string error;
   const auto choose = [&](const std::string& name, int& column)
   {
@@ -198,18 +192,30 @@ std::string chooseByName(const PlotContainer& container, const CommandLineOption
     error = found.error;
     column = found.column;
   };
-  choose(options.x, choice.x);
-  choose(options.z, choice.z);
-  if (!options.y.empty())
+  choose(wishes.x, choice.x);
+  choose(wishes.z, choice.z);
+  if (!wishes.y.empty())
     choice.y.clear();
-  for (std::size_t i = 0; i < options.y.size() && error.empty();)
+  for (std::size_t i = 0; i < wishes.y.size() && error.empty();)
   {
-    const auto [found, count] = findJoined(container, options.y, i);
+    const auto [found, count] = findJoined(container, wishes.y, i);
     error = found.error;
     choice.y.push_back(found.column);
     i += count;
   }
   return error;
+}
+
+void chooseOpeningStyle(PlotContainer& container, const PlotWishes& wishes)
+{
+  PlotMetaData& settings = *container.getMetaData();
+  const bool comparable = settings.getStride() > 1 && !settings.parameterColumns.empty();
+  const bool shown = wishes.y.size() <= 1 && wishes.z.empty();
+  if (wishes.style || !comparable || !shown)
+    return;
+  settings.blockSignals(true);
+  settings.setPlotStyle(selectionCdfPlot);
+  settings.blockSignals(false);
 }
 
 } // namespace Talmesh::app

@@ -1,8 +1,7 @@
 #ifndef PlotChoice_h
 #define PlotChoice_h
 
-#include "app/CommandLine.h"
-#include "external/PlotStyles.h"
+#include "app/PlotWishes.h"
 
 #include <string>
 #include <vector>
@@ -40,9 +39,6 @@ PlotChoice choiceOf(const PlotContainer& container);
 /// @return why it could not be drawn, in one line; empty on success
 std::string applyChoice(PlotContainer& container, const PlotChoice& choice);
 
-/// A column's name without its kind: "k1" for "Parameter: k1".
-std::string shownName(const std::string& columnName);
-
 /// A column, or why there is none.
 struct FoundColumn
 {
@@ -55,11 +51,15 @@ struct FoundColumn
 /// header calls its time or its runs, which may have got another name in the import.
 FoundColumn findColumn(const PlotContainer& container, const std::string& name);
 
-/// Writes the style and the columns that the command line names into `choice`. Names of y columns
+/// Writes the style and the columns that the wishes name into `choice`. Names of y columns
 /// that a comma has parted count as one where a column has that name.
 /// @return why a name cannot be found, in one line; empty on success
-std::string chooseByName(const PlotContainer& container, const CommandLineOptions& options,
-                         PlotChoice& choice);
+std::string chooseByName(const PlotContainer& container, const PlotWishes& wishes, PlotChoice& choice);
+
+/// Makes the page that compares runs the style of a container that holds runs with parameters, and
+/// otherwise leaves the style that it has. Wishes come first: they may name a style, or more columns
+/// than that page shows. Does not draw.
+void chooseOpeningStyle(PlotContainer& container, const PlotWishes& wishes);
 
 } // namespace Talmesh::app
 

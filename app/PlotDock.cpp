@@ -1,5 +1,6 @@
 #include "app/PlotDock.h"
 
+#include "app/ColumnRoles.h"
 #include "app/StyleNames.h"
 
 #include <QCheckBox>

@@ -1,7 +1,6 @@
 #include "app/Session.h"
 
 #include "app/DumpedTable.h"
-#include "app/RunNormaliser.h"
 #include "app/SessionTable.h"
 #include "app/TranslatedText.h"
 #include "app/Utf8Text.h"
@@ -133,8 +132,8 @@ SessionSettings settingsOf(const SessionSource& source)
     settings.pointsPerRun = static_cast<int>(study.runs->pointsPerTrajectory);
     settings.parameterRanges = study.runs->parameterRanges;
   }
-  settings.legend = source.choice.legend;
-  settings.logY = source.choice.logY;
+  settings.legend = source.legend;
+  settings.logY = source.logY;
   settings.groups = source.groups;
   settings.origin = source.origin;
   copySettings(*container.getMetaData(), *settings.plot);
@@ -144,9 +143,8 @@ SessionSettings settingsOf(const SessionSource& source)
     for (int& column : *columns)
       column = places.of(column);
   settings.plot->colorColumn = places.of(settings.plot->colorColumn);
-  if (source.normaliser)
-    for (const int column : source.normaliser->normalised())
-      settings.normalised.push_back(places.of(column));
+  for (const int column : source.normalised)
+    settings.normalised.push_back(places.of(column));
   copyWindow(container.state(), settings);
   return settings;
 }
@@ -154,8 +152,8 @@ SessionSettings settingsOf(const SessionSource& source)
 SessionParts sessionParts(const SessionSource& source)
 {
   vtkSmartPointer<vtkTable> table = source.container.getTable();
-  if (source.normaliser)
-    table = source.normaliser->originalTable();
+  if (source.original)
+    table = source.original();
   return {settingsText(settingsOf(source)), dumpStudy(source.study, source.container, table)};
 }
 
@@ -177,12 +175,6 @@ std::string saveSession(const QString& path, const SessionSource& source, QByteA
         translated("SessionFile", "%1: there is not enough memory to save the session"),
         {path.toStdString()});
   }
-}
-
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
-                        const PlotChoice& choice, const RunNormaliser* normaliser)
-{
-  return saveSession(path, {study, container, choice, normaliser, {}, {}});
 }
 
 OpenedSession openSession(const QString& path, const ImportProgress& progress)
@@ -241,15 +233,6 @@ void restoreWindow(const RestoredSession& session, PlotContainer& container)
     return;
   state.coordinateWindows[plot::currentKey(state)] = settings.plot->storedCoordinateWindow;
   state.windowScales[plot::currentKey(state)] = settings.windowScales;
-}
-
-PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container)
-{
-  PlotChoice choice = choiceOf(container);
-  // Only an XY chart would know them.
-  choice.legend = session.settings.legend;
-  choice.logY = session.settings.logY;
-  return choice;
 }
 
 void restoreSelection(const RestoredSession& session, PlotContainer& container)

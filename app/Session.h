@@ -2,7 +2,6 @@
 #define Session_h
 
 #include "app/ImportProgress.h"
-#include "app/PlotChoice.h"
 #include "app/SessionFile.h"
 #include "app/SessionSettings.h"
 #include "app/Study.h"
@@ -13,14 +12,14 @@
 
 #include <QString>
 
+#include <functional>
 #include <string>
+#include <vector>
 
 class PlotContainer;
 
 namespace Talmesh::app
 {
-
-class RunNormaliser;
 
 /// What a session is made of.
 struct SessionSource
@@ -28,14 +27,16 @@ struct SessionSource
   const Study& study;
   /// What shows the study.
   PlotContainer& container;
-  /// What the user chose; only the XY plot shows all of it.
-  PlotChoice choice;
-  /// What has normalised runs of the container, whose values are written as they were before; null
-  /// for nothing.
-  const RunNormaliser* normaliser = nullptr;
+  /// What the user chose, which only an XY chart would know.
+  bool legend = false;
+  bool logY = false;
   SessionGroups groups;
   /// Written only with work that is kept until the user saves it.
   SessionOrigin origin;
+  /// The columns of the container whose runs are normalised, ascending.
+  std::vector<int> normalised;
+  /// The container's table with the values that these had before; none for the table as it is.
+  std::function<vtkSmartPointer<vtkTable>()> original;
 };
 
 /// What a session restores beside its study.
@@ -70,8 +71,6 @@ SessionParts sessionParts(const SessionSource& source);
 /// @return why it could not be written, in one line of UTF-8; empty on success
 std::string saveSession(const QString& path, const SessionSource& source,
                         QByteArray* end = nullptr);
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
-                        const PlotChoice& choice, const RunNormaliser* normaliser = nullptr);
 
 /// Reads a session. May run in any thread.
 /// @param progress told while the bytes are read, and after each further step
@@ -88,9 +87,6 @@ void restoreSettings(const RestoredSession& session, PlotContainer& container);
 /// Restores the part of the plane that was shown, in a container whose settings are restored. Comes
 /// after normalising, which forgets it.
 void restoreWindow(const RestoredSession& session, PlotContainer& container);
-
-/// What the user had chosen, in a container whose settings are restored.
-PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container);
 
 /// Selects what was selected, which the container's annotation link announces.
 void restoreSelection(const RestoredSession& session, PlotContainer& container);

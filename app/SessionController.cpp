@@ -145,9 +145,9 @@ void SessionController::keepIn(const QString& folder, int milliseconds)
   {
     if (!isUnsaved())
       return {};
-    const std::optional<SessionSource> now = source();
-    return SessionSource{now->study,      now->container, now->choice,
-                         now->normaliser, now->groups,    record.origin()};
+    std::optional<SessionSource> now = source();
+    now->origin = record.origin();
+    return now;
   };
   delete keeper;
   keeper = new WorkKeeper(folder, unsaved, milliseconds, this);

@@ -1,14 +1,23 @@
 #ifndef SessionGroups_h
 #define SessionGroups_h
 
-#include "app/GroupedPlots.h"
-
 #include <QJsonObject>
 
 #include <vector>
 
 namespace Talmesh::app
 {
+
+/// As many groups as there are colours.
+inline constexpr int mostGroups = 12;
+
+/// How the runs are shown beside their own lines or points.
+struct RunLook
+{
+  bool groupColours = false;
+  bool groupMeans = false;
+  bool quartileBands = false;
+};
 
 /// What a session keeps of the panel of groups.
 struct SessionGroups

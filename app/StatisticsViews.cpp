@@ -1,7 +1,7 @@
 #include "app/StatisticsViews.h"
 
 #include "app/PlotChoice.h"
-#include "app/Study.h"
+#include "app/ShownStudy.h"
 #include "external/LinePlotTable.h"
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"

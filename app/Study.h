@@ -1,7 +1,6 @@
 #ifndef Study_h
 #define Study_h
 
-#include "app/ImportProgress.h"
 #include "external/LinePlotTable.h"
 
 #include <vtkSmartPointer.h>
@@ -11,8 +10,6 @@
 
 #include <memory>
 #include <string>
-
-class PlotContainer;
 
 namespace Talmesh::app
 {
@@ -31,14 +28,6 @@ struct Study
   std::shared_ptr<const OwnChart> chart = nullptr;
 };
 
-/// The simulated example study; without runs when the progress cancels.
-Study exampleStudyOfRepressilator(const ImportProgress& progress = {});
-
-/// Hands the study to a container that is in a scene, and chooses what to plot at first: the first
-/// plotted item over time, one line per run, or the second column of a plain table over its first.
-/// A chart of its own is drawn in its first variant.
-void showStudy(const Study& study, PlotContainer& container);
-
 /// The state of every run at its last point, as a study of one point per run; of a plain table the
 /// table itself.
 Study lastPoints(const Study& study);
@@ -46,8 +35,6 @@ Study lastPoints(const Study& study);
 /// How much is loaded, in one line: "400 runs, 200 points each, 4 parameters". Parameters that are
 /// the same in all runs do not count; parameter values that are missing are named if there are any.
 std::string studySize(const Study& study);
-/// As above, and for a chart of its own how much the container shows of it.
-std::string studySize(const Study& study, const PlotContainer& container);
 
 } // namespace Talmesh::app
 

@@ -1,7 +1,7 @@
 #ifndef StudyCatalogue_h
 #define StudyCatalogue_h
 
-#include "app/StudyLoader.h"
+#include "app/StudyFile.h"
 
 #include <string>
 #include <vector>
@@ -20,7 +20,7 @@ struct CatalogueEntry
   std::string title;
   std::string toolTip;
   /// Computes the study; may run in any thread.
-  StudyLoader::Job open;
+  StudyJob open;
 };
 
 /// All of them, those of one subject one after another.

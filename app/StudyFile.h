@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,6 +27,9 @@ struct OpenedStudy
   /// What the user should know although the study could be opened.
   std::vector<std::string> notes;
 };
+
+/// Opens a study; may run in another thread and must look at the progress it is given.
+using StudyJob = std::function<OpenedStudy(const ImportProgress&)>;
 
 /// Reads a table or a session from a regular file. Errors begin with the file's name. May run in
 /// any thread.

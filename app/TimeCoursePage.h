@@ -5,21 +5,14 @@
 
 #include <QWidget>
 
-#include <vector>
 
 class LinePlotWidget;
-class PlotContainer;
 class PlotSelector;
 
 namespace Talmesh::app
 {
 
 class RunNumberBox;
-
-/// Fills a container, which is in a scene, with the time courses of one run, and draws those of its
-/// first items as the page does. Draws nothing of runs without a time.
-void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t items,
-                     PlotContainer& container);
 
 /// Shows the time courses of one run, of those items that the user picks from a list. Its chart is
 /// made when the page is shown for the first time, so that it costs nothing before.

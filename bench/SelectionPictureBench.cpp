@@ -1,4 +1,5 @@
-#include "app/Study.h"
+#include "app/ExampleStudy.h"
+#include "app/ShownStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/DerivedTables.h"
 

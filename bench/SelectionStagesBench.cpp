@@ -1,5 +1,6 @@
 #include "app/ComparisonResults.h"
-#include "app/Study.h"
+#include "app/ExampleStudy.h"
+#include "app/ShownStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/DerivedTables.h"
 #include "plot/KsComparison.h"

@@ -2,7 +2,7 @@
 
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
-#include "app/Study.h"
+#include "app/ShownStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"

@@ -50,7 +50,7 @@ protected:
     return file.fileName();
   }
 
-  void open(Talmesh::app::CommandLineOptions options = {},
+  void open(Talmesh::app::OpeningWishes options = {},
             const std::string& text = sampleRuns(runCount, pointsPerRun))
   {
     options.file = write("runs.csv", text).toStdString();

@@ -45,7 +45,7 @@ TEST_F(ComparisonInWindow, IsThePageOfRunsWithParameters)
 
 TEST_F(ComparisonInWindow, GivesWayToTheStyleThatTheCommandLineNames)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.style = xyPlot;
   open(options);
   EXPECT_EQ(style(), xyPlot);
@@ -53,7 +53,7 @@ TEST_F(ComparisonInWindow, GivesWayToTheStyleThatTheCommandLineNames)
 
 TEST_F(ComparisonInWindow, GivesWayToThePlotThatShowsSeveralColumns)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.y = {"X", "Y"};
   open(options);
   EXPECT_EQ(style(), xyPlot);

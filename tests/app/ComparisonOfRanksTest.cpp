@@ -1,6 +1,7 @@
 #include "app/ComparisonResults.h"
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
+#include "app/ShownStudy.h"
 #include "plot/DerivedTables.h"
 #include "plot/PlotContainer.h"
 #include "plot/SelectionNodes.h"

@@ -29,7 +29,7 @@ class DrawingInWindow : public RunsInWindow
 
 TEST_F(DrawingInWindow, DrawsTheColumnsInTheOrderOfTheCommandLine)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.file = write("runs.csv", sampleRuns()).toStdString();
   options.style = xyPlot;
   options.y = {"Y", "X"};

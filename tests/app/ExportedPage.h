@@ -3,7 +3,7 @@
 
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
-#include "app/Study.h"
+#include "app/ShownStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/PdfPages.h"

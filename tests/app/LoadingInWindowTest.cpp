@@ -75,7 +75,7 @@ protected:
   /// Opens a large file as the command line does, which names a column that only it has.
   void openNamed(const QString& file)
   {
-    CommandLineOptions options;
+    OpeningWishes options;
     options.file = file.toStdString();
     options.style = xyPlot;
     options.y = {"Y"};
@@ -124,7 +124,7 @@ protected:
 
 TEST_F(LoadingInWindow, ReportsToTheCommandLineWhatItNames)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.file = writeBroken().toStdString();
   window->open(options);
   ASSERT_TRUE(waitUntilLoaded());

@@ -42,7 +42,7 @@ TEST_F(MainWindowWithRuns, OpensTheExampleStudy)
 
 TEST_F(MainWindowWithRuns, StartsWithWhatTheCommandLineNames)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.file = write("runs.csv", sampleRuns()).toStdString();
   options.style = scatterPlotMatrix;
   options.y = {"Y"};
@@ -57,7 +57,7 @@ TEST_F(MainWindowWithRuns, StartsWithWhatTheCommandLineNames)
 
 TEST_F(MainWindowWithRuns, ForgetsTheWishesOfTheCommandLineAfterTheFirstStudy)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.file = write("runs.csv", sampleRuns()).toStdString();
   options.y = {"Y"};
   window->open(options);
@@ -68,7 +68,7 @@ TEST_F(MainWindowWithRuns, ForgetsTheWishesOfTheCommandLineAfterTheFirstStudy)
 
 TEST_F(MainWindowWithRuns, ReportsAColumnThatIsNotThere)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.file = write("runs.csv", sampleRuns()).toStdString();
   options.x = "Z";
   QSignalSpy failed(window.get(), &MainWindow::openFailed);
@@ -82,7 +82,7 @@ TEST_F(MainWindowWithRuns, ReportsAColumnThatIsNotThere)
 
 TEST_F(MainWindowWithRuns, GrowsThePlotToTheSizeAskedFor)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.file = write("runs.csv", sampleRuns()).toStdString();
   options.width = 400;
   options.height = 350;

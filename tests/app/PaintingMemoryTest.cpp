@@ -2,6 +2,7 @@
 
 #include "app/PictureFile.h"
 #include "app/PlotChoice.h"
+#include "app/ShownStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/TightMemory.h"

@@ -1,6 +1,7 @@
 #include "app/PictureFile.h"
 
 #include "app/PlotChoice.h"
+#include "app/ShownStudy.h"
 #include "app/StudyFile.h"
 #include "plot/PlotContainer.h"
 #include "support/Pictures.h"

@@ -1,5 +1,7 @@
+#include "app/ColumnRoles.h"
 #include "app/PlotChoice.h"
 
+#include "app/ShownStudy.h"
 #include "app/StyleNames.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
@@ -172,7 +174,7 @@ TEST(PlotChoice, RefusesANameThatTwoColumnsHave)
 
 TEST_F(PlotChoiceOfRuns, TakesWhatTheCommandLineNames)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.style = scatterPlotMatrix;
   options.x = "k";
   options.y = {"Y", "X"};
@@ -193,7 +195,7 @@ TEST(PlotChoice, JoinsNamesWithCommasThatTheCommandLineParted)
             container);
   const auto chosen = [&container](const std::vector<std::string>& names)
   {
-    CommandLineOptions options;
+    OpeningWishes options;
     options.y = names;
     PlotChoice choice = choiceOf(container);
     EXPECT_EQ(chooseByName(container, options, choice), "");
@@ -212,7 +214,7 @@ TEST(PlotChoice, JoinsNamesWithCommasThatTheCommandLineParted)
 TEST_F(PlotChoiceOfRuns, KeepsWhatTheCommandLineDoesNotName)
 {
   const PlotChoice before = choice;
-  EXPECT_EQ(chooseByName(container, CommandLineOptions(), choice), "");
+  EXPECT_EQ(chooseByName(container, OpeningWishes(), choice), "");
   EXPECT_EQ(choice.x, before.x);
   EXPECT_EQ(choice.y, before.y);
   EXPECT_EQ(choice.style, before.style);
@@ -220,7 +222,7 @@ TEST_F(PlotChoiceOfRuns, KeepsWhatTheCommandLineDoesNotName)
 
 TEST_F(PlotChoiceOfRuns, ReportsTheFirstNameThatIsNotThere)
 {
-  CommandLineOptions options;
+  OpeningWishes options;
   options.x = "nowhere";
   options.y = {"neither"};
   EXPECT_EQ(chooseByName(container, options, choice),

@@ -1,4 +1,5 @@
 #include "app/PlotChoice.h"
+#include "app/ShownStudy.h"
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"

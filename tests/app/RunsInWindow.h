@@ -55,7 +55,7 @@ protected:
   /// Opens three runs in the XY plot.
   void openSample()
   {
-    Talmesh::app::CommandLineOptions options;
+    Talmesh::app::OpeningWishes options;
     options.file = write("runs.csv", sampleRuns()).toStdString();
     options.style = xyPlot;
     window->open(options);

@@ -3,6 +3,7 @@
 #include "app/PlotChoice.h"
 #include "app/RunSelectionFile.h"
 #include "app/SessionFile.h"
+#include "app/ShownStudy.h"
 #include "support/DiskFaults.h"
 #include "support/Pictures.h"
 #include "widgets/VtkPlotWidget.h"

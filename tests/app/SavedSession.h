@@ -4,6 +4,7 @@
 #include "app/Session.h"
 #include "app/SessionFile.h"
 #include "app/SessionTable.h"
+#include "app/ShownStudy.h"
 #include "plot/PlotContainer.h"
 #include "support/PlotScene.h"
 

@@ -237,7 +237,7 @@ TEST_F(SessionInWindow, OpensFromTheCommandLine)
   const PlotChoice choice = change();
   ASSERT_TRUE(window->saveSessionTo(path("a.talmesh")));
   makeWindow();
-  CommandLineOptions options;
+  OpeningWishes options;
   options.file = path("a.talmesh").toStdString();
   const QSignalSpy spy(window.get(), SIGNAL(opened()));
   window->open(options);

@@ -1,3 +1,5 @@
+#include "app/PlotSession.h"
+#include "app/ShownStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"

@@ -1,4 +1,4 @@
-#include "app/Study.h"
+#include "app/ShownStudy.h"
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"

@@ -1,3 +1,4 @@
+#include "app/ShownStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"

@@ -1,0 +1,46 @@
+#ifndef TimeCourses_h
+#define TimeCourses_h
+
+#include "external/LinePlotData.h"
+#include "external/LinePlotTable.h"
+
+#include <cstddef>
+#include <vector>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// The item that the courses run over, as in other charts of the runs but never the number of the
+/// run; -1 without one.
+int timeOfCourses(const LinePlotTable& runs);
+
+/// The numbers that the runs have in the table, or those of their places when they cannot tell the
+/// runs apart.
+std::vector<int> shownRunNumbers(const LinePlotTable& runs);
+
+/// The courses of one run, with the vectors that a record only points to.
+class RunCourses
+{
+public:
+  /// @param time as of `timeOfCourses`, not -1
+  RunCourses(const LinePlotTable& runs, int time, std::size_t run);
+  RunCourses(const RunCourses&) = delete;
+  RunCourses& operator=(const RunCourses&) = delete;
+
+  LinePlotData record;
+
+private:
+  std::vector<double> times;
+  std::vector<std::vector<double>> values;
+};
+
+/// Fills a container, which is in a scene, with the time courses of one run, and draws those of its
+/// first items as the page does. Draws nothing of runs without a time.
+void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t items,
+                     PlotContainer& container);
+
+} // namespace Talmesh::app
+
+#endif
