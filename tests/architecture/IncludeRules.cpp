@@ -11,9 +11,11 @@ namespace Talmesh::architecture
 namespace
 {
 
-const std::map<std::string, std::set<std::string>>& reachableLayers()
+using Reach = std::map<std::string, std::set<std::string>>;
+
+const Reach& reachableLayers()
 {
-  static const std::map<std::string, std::set<std::string>> layers{
+  static const Reach layers{
       {"external", {"external"}},
       {"stats", {"stats"}},
       {"vtk", {"vtk", "external", "stats"}},
@@ -24,10 +26,33 @@ const std::map<std::string, std::set<std::string>>& reachableLayers()
   return layers;
 }
 
+/// The viewer's rooms. What lies in none of them puts the program together and reaches all.
+const Reach& reachableRooms()
+{
+  static const Reach rooms{
+      {"import", {"import"}},
+      {"comparison", {"comparison", "import"}},
+      {"session", {"session", "import"}},
+      {"tasks", {"tasks", "session", "import"}},
+      {"document", {"document", "session", "comparison", "import"}},
+      {"export", {"export", "import"}},
+      {"examples", {"examples", "export", "document", "session", "comparison", "import"}},
+      {"window",
+       {"window", "examples", "export", "document", "tasks", "session", "comparison", "import"}},
+  };
+  return rooms;
+}
+
 std::string firstFolder(const std::string& path)
 {
   const auto slash = path.find('/');
   return slash == std::string::npos ? std::string() : path.substr(0, slash);
+}
+
+/// Empty outside the viewer and for what lies in no room.
+std::string roomOf(const std::string& path)
+{
+  return firstFolder(path) == "app" ? firstFolder(path.substr(path.find('/') + 1)) : std::string();
 }
 
 bool isGeneratedByQt(const std::string& included)
@@ -40,6 +65,20 @@ bool isToolkitHeader(const std::string& included)
 {
   static const std::regex toolkit(R"(Qt\w*/.*|Q[A-Z]\w*|QVTK\w+\.h|vtk\w+\.h|q[a-z]\w*\.h)");
   return std::regex_match(included, toolkit);
+}
+
+/// Why a file of a room must not include `included`, or nothing.
+std::string objectionOfRoom(const std::string& room, const std::string& included)
+{
+  const std::string other = roomOf(included);
+  const auto reach = reachableRooms().find(room);
+  if (room.empty() || firstFolder(included) != "app")
+    return {};
+  if (reach == reachableRooms().end())
+    return "the viewer has no room " + room;
+  if (reach->second.count(other) != 0)
+    return {};
+  return room + " must not include " + (other.empty() ? "app" : other) + " (" + included + ")";
 }
 
 /// Why `layer` must not include `included`, or nothing.
@@ -76,7 +115,9 @@ std::vector<std::string> includeViolations(const std::string& path, const std::s
     std::smatch match;
     if (!std::regex_match(line, match, include))
       continue;
-    const std::string reason = objection(layer, match[2], match[1] == "\"");
+    std::string reason = objection(layer, match[2], match[1] == "\"");
+    if (reason.empty())
+      reason = objectionOfRoom(roomOf(path), match[2]);
     if (!reason.empty())
       violations.push_back(path + ":" + std::to_string(number) + ": " + reason);
   }

@@ -26,6 +26,18 @@ TEST(IncludeRules, NameTheLineOfAnIncludeAgainstTheArrows)
             Lines{"widgets/A.cpp:1: widgets must not include app (app/B.h)"});
 }
 
+TEST(IncludeRules, LetTheViewersRoomsSeeEachOtherOneWay)
+{
+  EXPECT_EQ(includeViolations("app/window/A.cpp", "#include \"app/import/B.h\"\n"), Lines());
+  EXPECT_EQ(includeViolations("app/import/A.cpp", "#include \"app/window/B.h\"\n"),
+            Lines{"app/import/A.cpp:1: import must not include window (app/window/B.h)"});
+  EXPECT_EQ(includeViolations("app/session/A.h", "#include \"app/CommandLine.h\"\n"),
+            Lines{"app/session/A.h:1: session must not include app (app/CommandLine.h)"});
+  EXPECT_EQ(includeViolations("app/main.cpp", "#include \"app/window/B.h\"\n"), Lines());
+  EXPECT_EQ(includeViolations("app/attic/A.h", "#include \"app/import/B.h\"\n"),
+            Lines{"app/attic/A.h:1: the viewer has no room attic"});
+}
+
 TEST(IncludeRules, KeepTheTwoLowestLayersApart)
 {
   EXPECT_EQ(includeViolations("stats/A.h", "#include \"external/B.h\"\n"),
