@@ -3,8 +3,12 @@
 #include "app/PictureFile.h"
 #include "app/StyleNames.h"
 
+#include <QCommandLineParser>
+#include <QFile>
+
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <string_view>
 
 namespace Talmesh::app
@@ -47,215 +51,210 @@ bool readSize(std::string_view text, Number smallest, Number largest, Number& wi
          readNumber(text.substr(cross + 1), smallest, largest, height);
 }
 
+/// The bytes of an argument, which Qt's parser gets as a file's name: no byte is lost in that.
+std::string bytesOf(const QString& argument)
+{
+  return QFile::encodeName(argument).toStdString();
+}
+
 /// A name in the encoding of the user's terminal as UTF-8.
 std::string columnName(const std::string& typed)
 {
   return QString::fromLocal8Bit(typed.c_str()).toStdString();
 }
 
-class CommandLineParser
+/// The following take the value of an option into `options`.
+/// @return why they cannot, in one line; empty on success
+using Reader = std::string (*)(const std::string& value, CommandLineOptions& options);
+
+std::string readStyle(const std::string& value, CommandLineOptions& options)
 {
-public:
-  explicit CommandLineParser(const std::vector<std::string>& arguments_)
-      : arguments(arguments_)
+  if (const StyleName* found = findStyle(value))
   {
+    options.style = found->style;
+    return {};
   }
+  std::string error = "unknown style " + value + "; the styles are";
+  for (const StyleName& known : styleNames())
+    error += std::string(known.style == xyPlot ? " " : ", ") + known.name;
+  return error;
+}
 
-  ParsedCommandLine parse()
+std::string readX(const std::string& value, CommandLineOptions& options)
+{
+  options.x = columnName(value);
+  return {};
+}
+
+std::string readY(const std::string& value, CommandLineOptions& options)
+{
+  for (const std::string& name : splitAtCommas(value))
   {
-    if (asksForHelp())
-      return parsed;
-    while (next < arguments.size() && parsed.error.empty())
-      readArgument(arguments[next++]);
-    if (parsed.error.empty())
-      checkPixels();
-    if (!parsed.error.empty())
-      parsed.options = CommandLineOptions();
-    return parsed;
+    if (name.empty())
+      return "--y has an empty name in " + value;
+    options.y.push_back(columnName(name));
   }
+  return {};
+}
 
-private:
-  CommandLineOptions& options() { return parsed.options; }
+std::string readZ(const std::string& value, CommandLineOptions& options)
+{
+  options.z = columnName(value);
+  return {};
+}
 
-  /// Help is given however wrong the rest is.
-  bool asksForHelp()
-  {
-    const auto end = std::find(arguments.begin(), arguments.end(), "--");
-    const auto has = [&](const char* option)
-    { return std::find(arguments.begin(), end, option) != end; };
-    options().help = has("--help") || has("-h");
-    options().version = !options().help && has("--version");
-    return options().help || options().version;
-  }
+std::string readExport(const std::string& value, CommandLineOptions& options)
+{
+  const std::size_t nameStart = value.find_last_of('/') + 1;
+  const std::string_view name = std::string_view(value).substr(nameStart);
+  const bool known = exportKindOf(QString::fromStdString(value)) != ExportKind::None;
+  if (!known || name.size() <= 4)
+    return "cannot export to " + value + ": the name must end with .png, .pdf or .csv";
+  options.exports.push_back(value);
+  return {};
+}
 
-  void readArgument(const std::string& argument)
-  {
-    const bool option = !onlyFiles && argument.size() > 1 && argument.front() == '-';
-    if (!option)
-      readFile(argument);
-    else if (argument == "--")
-      onlyFiles = true;
-    else
-      readOption(argument);
-  }
+std::string readGallery(const std::string& value, CommandLineOptions& options)
+{
+  options.gallery = value;
+  return {};
+}
 
-  void readFile(const std::string& argument)
-  {
-    if (argument.empty())
-      parsed.error = "the name of the file is empty";
-    else if (!options().file.empty())
-      parsed.error = "more than one file to open: " + options().file + " and " + argument;
-    else
-      options().file = argument;
-  }
+std::string readPixels(const std::string& value, CommandLineOptions& options)
+{
+  if (readSize(value, smallestSide, largestSide, options.width, options.height))
+    return {};
+  return "--size takes WIDTHxHEIGHT in pixels, each from " + std::to_string(smallestSide) + " to " +
+         std::to_string(largestSide) + ", not " + value;
+}
 
-  void readOption(const std::string& argument)
-  {
-    const std::size_t equals = argument.find('=');
-    const std::string name = argument.substr(0, equals);
-    using Reader = void (CommandLineParser::*)(const std::string&);
-    struct Option
-    {
-      const char* name;
-      Reader read;
-    };
-    static constexpr Option known[] = {{"--style", &CommandLineParser::readStyle},
-                                       {"--x", &CommandLineParser::readX},
-                                       {"--y", &CommandLineParser::readY},
-                                       {"--z", &CommandLineParser::readZ},
-                                       {"--export", &CommandLineParser::readExport},
-                                       {"--gallery", &CommandLineParser::readGallery},
-                                       {"--size", &CommandLineParser::readPixels},
-                                       {"--paper", &CommandLineParser::readPaper},
-                                       {"--dpi", &CommandLineParser::readResolution},
-                                       {"--vector", &CommandLineParser::readVectors}};
-    const auto* found =
-        std::find_if(std::begin(known), std::end(known),
-                     [&name](const Option& candidate) { return candidate.name == name; });
-    if (found == std::end(known))
-    {
-      parsed.error = "unknown option " + name;
-      return;
-    }
-    const bool inside = equals != std::string::npos;
-    if (!inside && next == arguments.size())
-      parsed.error = name + " needs a value";
-    else
-      readValue(name, inside ? argument.substr(equals + 1) : arguments[next++], found->read);
-  }
+std::string readPaper(const std::string& value, CommandLineOptions& options)
+{
+  if (readSize<double>(value, PaperSize::smallestSide, PaperSize::largestSide, options.paperWidth,
+                       options.paperHeight))
+    return {};
+  return "--paper takes WIDTHxHEIGHT in millimetres, each from " +
+         std::to_string(PaperSize::smallestSide) + " to " + std::to_string(PaperSize::largestSide) +
+         ", not " + value;
+}
 
-  void readValue(const std::string& name, const std::string& value,
-                 void (CommandLineParser::*read)(const std::string&))
-  {
-    if (value.empty())
-      parsed.error = name + " needs a value";
-    else
-      (this->*read)(value);
-  }
+std::string readResolution(const std::string& value, CommandLineOptions& options)
+{
+  int number = 0;
+  if (!readNumber(std::string_view(value), int{PaperSize::smallestResolution},
+                  int{PaperSize::largestResolution}, number))
+    return "--dpi takes a number from " + std::to_string(PaperSize::smallestResolution) + " to " +
+           std::to_string(PaperSize::largestResolution) + ", not " + value;
+  options.dotsPerInch = number;
+  return {};
+}
 
-  void readStyle(const std::string& value)
-  {
-    if (const StyleName* found = findStyle(value))
-    {
-      options().style = found->style;
-      return;
-    }
-    parsed.error = "unknown style " + value + "; the styles are";
-    for (const StyleName& known : styleNames())
-      parsed.error += std::string(known.style == xyPlot ? " " : ", ") + known.name;
-  }
+std::string readVectors(const std::string& value, CommandLineOptions& options)
+{
+  static const std::map<std::string, Vectors> choices{
+      {"all", Vectors::All}, {"auto", Vectors::Auto}, {"none", Vectors::None}};
+  const auto found = choices.find(value);
+  if (found == choices.end())
+    return "--vector takes all, auto or none, not " + value;
+  options.vectors = found->second;
+  return {};
+}
 
-  void readX(const std::string& value) { options().x = columnName(value); }
-  void readZ(const std::string& value) { options().z = columnName(value); }
+/// Size and resolution may each be right and ask for too much together.
+std::string checkPixels(const CommandLineOptions& options)
+{
+  const auto isOfPixels = [](const std::string& file)
+  { return exportKindOf(QString::fromStdString(file)) == ExportKind::Pixels; };
+  const std::vector<std::string>& files = options.exports;
+  if (options.paperWidth <= 0.0 || std::none_of(files.begin(), files.end(), isOfPixels))
+    return {};
+  const PaperSize paper = {QSizeF(options.paperWidth, options.paperHeight),
+                           options.dotsPerInch.value_or(PaperSize().dotsPerInch)};
+  const std::string error = errorOf(paper, mostPixels);
+  return error.empty() ? std::string() : "--paper and --dpi: " + error;
+}
 
-  void readY(const std::string& value)
-  {
-    for (const std::string& name : splitAtCommas(value))
-      if (name.empty())
-        parsed.error = "--y has an empty name in " + value;
-      else
-        options().y.push_back(columnName(name));
-  }
-
-  void readExport(const std::string& value)
-  {
-    const std::size_t nameStart = value.find_last_of('/') + 1;
-    const std::string_view name = std::string_view(value).substr(nameStart);
-    const bool known = exportKindOf(QString::fromStdString(value)) != ExportKind::None;
-    if (known && name.size() > 4)
-      options().exports.push_back(value);
-    else
-      parsed.error = "cannot export to " + value + ": the name must end with .png, .pdf or .csv";
-  }
-
-  void readGallery(const std::string& value) { options().gallery = value; }
-
-  void readPixels(const std::string& value)
-  {
-    if (!readSize(value, smallestSide, largestSide, options().width, options().height))
-      parsed.error = "--size takes WIDTHxHEIGHT in pixels, each from " +
-                     std::to_string(smallestSide) + " to " + std::to_string(largestSide) +
-                     ", not " + value;
-  }
-
-  void readPaper(const std::string& value)
-  {
-    if (!readSize<double>(value, PaperSize::smallestSide, PaperSize::largestSide,
-                          options().paperWidth, options().paperHeight))
-      parsed.error = "--paper takes WIDTHxHEIGHT in millimetres, each from " +
-                     std::to_string(PaperSize::smallestSide) + " to " +
-                     std::to_string(PaperSize::largestSide) + ", not " + value;
-  }
-
-  void readResolution(const std::string& value)
-  {
-    int number = 0;
-    if (readNumber(std::string_view(value), int{PaperSize::smallestResolution},
-                   int{PaperSize::largestResolution}, number))
-      options().dotsPerInch = number;
-    else
-      parsed.error = "--dpi takes a number from " + std::to_string(PaperSize::smallestResolution) +
-                     " to " + std::to_string(PaperSize::largestResolution) + ", not " + value;
-  }
-
-  void readVectors(const std::string& value)
-  {
-    if (value == "all")
-      options().vectors = Vectors::All;
-    else if (value == "auto")
-      options().vectors = Vectors::Auto;
-    else if (value == "none")
-      options().vectors = Vectors::None;
-    else
-      parsed.error = "--vector takes all, auto or none, not " + value;
-  }
-
-  /// Size and resolution may each be right and ask for too much together.
-  void checkPixels()
-  {
-    const auto isOfPixels = [](const std::string& file)
-    { return exportKindOf(QString::fromStdString(file)) == ExportKind::Pixels; };
-    const std::vector<std::string>& files = options().exports;
-    if (options().paperWidth <= 0.0 || std::none_of(files.begin(), files.end(), isOfPixels))
-      return;
-    const PaperSize paper = {QSizeF(options().paperWidth, options().paperHeight),
-                             options().dotsPerInch.value_or(PaperSize().dotsPerInch)};
-    const std::string error = errorOf(paper, mostPixels);
-    if (!error.empty())
-      parsed.error = "--paper and --dpi: " + error;
-  }
-
-  const std::vector<std::string>& arguments;
-  std::size_t next = 0;
-  bool onlyFiles = false;
-  ParsedCommandLine parsed;
+struct Option
+{
+  const char* name;
+  Reader read;
 };
+
+/// In the order in which they are read.
+constexpr Option optionsWithValue[] = {
+    {"style", readStyle},   {"x", readX},           {"y", readY},
+    {"z", readZ},           {"export", readExport}, {"gallery", readGallery},
+    {"size", readPixels},   {"paper", readPaper},   {"dpi", readResolution},
+    {"vector", readVectors}};
+
+std::string readOption(const QCommandLineParser& line, const Option& option,
+                       CommandLineOptions& options)
+{
+  for (const QString& value : line.values(QLatin1String(option.name)))
+  {
+    const std::string error = value.isEmpty() ? "--" + std::string(option.name) + " needs a value"
+                                              : option.read(bytesOf(value), options);
+    if (!error.empty())
+      return error;
+  }
+  return {};
+}
+
+std::string readFile(const QStringList& files, CommandLineOptions& options)
+{
+  if (files.contains(QString()))
+    return "the name of the file is empty";
+  if (files.size() > 1)
+    return "more than one file to open: " + bytesOf(files[0]) + " and " + bytesOf(files[1]);
+  options.file = files.isEmpty() ? std::string() : bytesOf(files.front());
+  return {};
+}
+
+/// What Qt's parser refuses: an option that it does not know, else a value that is missing, which
+/// only the last argument can do.
+std::string refusal(const QCommandLineParser& line, const QString& last)
+{
+  const QStringList unknown = line.unknownOptionNames();
+  if (unknown.isEmpty())
+    return bytesOf(last) + " needs a value";
+  const QString dashes = QLatin1String(unknown.front().size() > 1 ? "--" : "-");
+  return "unknown option " + bytesOf(dashes + unknown.front());
+}
+
+std::string read(const QCommandLineParser& line, CommandLineOptions& options)
+{
+  std::string error = readFile(line.positionalArguments(), options);
+  for (const Option& option : optionsWithValue)
+    if (error.empty())
+      error = readOption(line, option, options);
+  return error.empty() ? checkPixels(options) : error;
+}
 
 } // namespace
 
 ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments)
 {
-  return CommandLineParser(arguments).parse();
+  QCommandLineParser line;
+  const QCommandLineOption help(QStringList{QStringLiteral("help"), QStringLiteral("h")});
+  const QCommandLineOption version(QStringLiteral("version"));
+  line.addOptions({help, version});
+  for (const Option& option : optionsWithValue)
+    line.addOption({QLatin1String(option.name), {}, QStringLiteral("value")});
+  QStringList all{QString()};
+  for (const std::string& argument : arguments)
+    all.append(QFile::decodeName(argument.c_str()));
+
+  const bool sound = line.parse(all);
+  ParsedCommandLine parsed;
+  // Help is given however wrong the rest is.
+  parsed.options.help = line.isSet(help);
+  parsed.options.version = !parsed.options.help && line.isSet(version);
+  if (parsed.options.help || parsed.options.version)
+    return parsed;
+  parsed.error = sound ? read(line, parsed.options) : refusal(line, all.back());
+  if (!parsed.error.empty())
+    parsed.options = CommandLineOptions();
+  return parsed;
 }
 
 std::string commandLineHelp()

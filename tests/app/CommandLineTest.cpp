@@ -105,7 +105,7 @@ TEST(CommandLine, RefusesAnUnknownOption)
 {
   EXPECT_EQ(errorOf({"--colour", "red"}), "unknown option --colour");
   EXPECT_EQ(errorOf({"--colour=red"}), "unknown option --colour");
-  EXPECT_EQ(errorOf({"-x"}), "unknown option -x");
+  EXPECT_EQ(errorOf({"-q"}), "unknown option -q");
 }
 
 TEST(CommandLine, RefusesAnOptionWithoutItsValue)
