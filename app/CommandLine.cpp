@@ -1,7 +1,7 @@
 #include "app/CommandLine.h"
 
-#include "app/PictureFile.h"
-#include "app/StyleNames.h"
+#include "app/export/PictureFile.h"
+#include "app/session/StyleNames.h"
 
 #include <QCommandLineParser>
 #include <QFile>

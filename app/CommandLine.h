@@ -1,7 +1,7 @@
 #ifndef CommandLine_h
 #define CommandLine_h
 
-#include "app/PlotWishes.h"
+#include "app/document/PlotWishes.h"
 #include "widgets/ScenePainter.h"
 
 #include <optional>

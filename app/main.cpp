@@ -1,10 +1,10 @@
 #include "app/Batch.h"
 #include "app/CommandLine.h"
 #include "app/EndingSignals.h"
-#include "app/FileNameCodec.h"
-#include "app/KeptWork.h"
 #include "app/LastResort.h"
-#include "app/MainWindow.h"
+#include "app/session/FileNameCodec.h"
+#include "app/session/KeptWork.h"
+#include "app/window/MainWindow.h"
 #include "widgets/Translation.h"
 
 #include <QVTKOpenGLNativeWidget.h>

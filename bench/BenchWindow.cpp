@@ -1,6 +1,6 @@
 #include "BenchWindow.h"
 
-#include "app/PictureFile.h"
+#include "app/export/PictureFile.h"
 #include "external/PlotMetaData.h"
 #include "plot/SelectionNodes.h"
 

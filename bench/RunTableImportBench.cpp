@@ -1,5 +1,5 @@
-#include "app/RunTableImport.h"
-#include "app/StudyFile.h"
+#include "app/import/RunTableImport.h"
+#include "app/session/StudyFile.h"
 
 #include <cstdlib>
 #include <sstream>

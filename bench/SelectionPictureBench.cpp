@@ -1,5 +1,5 @@
-#include "app/ExampleStudy.h"
-#include "app/ShownStudy.h"
+#include "app/document/ShownStudy.h"
+#include "app/examples/ExampleStudy.h"
 #include "external/PlotMetaData.h"
 #include "plot/DerivedTables.h"
 

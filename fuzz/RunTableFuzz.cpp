@@ -1,4 +1,4 @@
-#include "app/RunTableImport.h"
+#include "app/import/RunTableImport.h"
 
 #include <vtkAbstractArray.h>
 

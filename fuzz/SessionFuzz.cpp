@@ -1,6 +1,6 @@
-#include "app/DumpedTable.h"
-#include "app/SelectionMarks.h"
-#include "app/SessionSettings.h"
+#include "app/import/SelectionMarks.h"
+#include "app/session/DumpedTable.h"
+#include "app/session/SessionSettings.h"
 
 #include <algorithm>
 #include <cstdint>

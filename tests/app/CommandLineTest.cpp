@@ -1,6 +1,6 @@
 #include "app/CommandLine.h"
 
-#include "app/StyleNames.h"
+#include "app/session/StyleNames.h"
 
 #include <gtest/gtest.h>
 

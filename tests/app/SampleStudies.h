@@ -1,8 +1,8 @@
 #ifndef SampleStudies_h
 #define SampleStudies_h
 
-#include "app/RunTableImport.h"
-#include "app/Study.h"
+#include "app/import/RunTableImport.h"
+#include "app/import/Study.h"
 
 #include <cmath>
 #include <sstream>

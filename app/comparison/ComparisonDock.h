@@ -1,0 +1,46 @@
+#ifndef ComparisonDock_h
+#define ComparisonDock_h
+
+#include "app/comparison/ComparisonChoice.h"
+#include "external/PlotStyles.h"
+
+#include <QDockWidget>
+
+namespace Talmesh::app
+{
+
+class ComparisonSettings;
+class ComparisonTable;
+
+/// The panel that compares the selected runs with the others: its controls and its results.
+class ComparisonDock : public QDockWidget
+{
+  Q_OBJECT
+
+public:
+  explicit ComparisonDock(QWidget* parent = nullptr);
+
+  /// Shows settings and results of a container. Emits nothing.
+  void refresh(const PlotContainer& container);
+  /// What the controls say.
+  ComparisonChoice choice() const;
+  ComparisonTable* table() const { return results; }
+
+signals:
+  /// The user changed something.
+  void choiceChanged();
+  /// The user wants one of the pages that compare runs.
+  void styleChosen(plotStyles style);
+  /// What has become of a step with the table, in one line.
+  void said(const QString& message);
+  /// Why a step with the table could not be done, in one line.
+  void failed(const QString& message);
+
+private:
+  ComparisonSettings* settings;
+  ComparisonTable* results;
+};
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,62 @@
+#ifndef ComparisonSettings_h
+#define ComparisonSettings_h
+
+#include "app/comparison/ComparisonChoice.h"
+#include "external/PlotStyles.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QGridLayout;
+class QToolButton;
+
+namespace Talmesh::app
+{
+
+class ThresholdBox;
+
+/// The controls of a comparison of runs: which page shows it, what counts as a difference, and how
+/// it is drawn. A control is enabled where it has an effect.
+class ComparisonSettings : public QWidget
+{
+  Q_OBJECT
+
+public:
+  explicit ComparisonSettings(QWidget* parent = nullptr);
+
+  /// Shows a choice, and enables what a plot of `style` with or without parameters reads of it.
+  /// Emits nothing.
+  void setChoice(const ComparisonChoice& choice, plotStyles style, bool parameters);
+  /// The choice shown, with what the user has changed of it: what no control was used for is as it
+  /// was, also where a control cannot show it.
+  const ComparisonChoice& choice() const { return chosen; }
+
+signals:
+  /// The user changed something.
+  void choiceChanged();
+  /// The user wants one of the pages that compare runs.
+  void styleChosen(plotStyles style);
+
+private:
+  void addPages(QGridLayout* layout);
+  void addThresholds(QGridLayout* layout);
+  void addSwitches(QGridLayout* layout);
+  QToolButton* addPage(const QString& text, const QString& toolTip, plotStyles style);
+  void enableControls();
+
+  QToolButton* distributions = nullptr;
+  QToolButton* pairs = nullptr;
+  ThresholdBox* pThreshold = nullptr;
+  ThresholdBox* ksThreshold = nullptr;
+  QCheckBox* density = nullptr;
+  QCheckBox* commonDensityScale = nullptr;
+  QCheckBox* logParameterAxes = nullptr;
+  QCheckBox* bands = nullptr;
+  ComparisonChoice chosen;
+  plotStyles shownStyle = xyPlot;
+  bool hasParameters = false;
+};
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,73 @@
+#ifndef ComparisonTable_h
+#define ComparisonTable_h
+
+#include "app/comparison/ComparisonResults.h"
+
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QSortFilterProxyModel;
+class QStackedWidget;
+class QTableView;
+
+namespace Talmesh::app
+{
+
+class ComparisonModel;
+
+/// The comparison of selected runs with the others as a table that can be sorted, copied and saved;
+/// without a comparison a line that says why there is none.
+class ComparisonTable : public QWidget
+{
+  Q_OBJECT
+
+public:
+  explicit ComparisonTable(QWidget* parent = nullptr);
+
+  /// Shows a comparison. Parameters that were there before keep the marks that the user has given
+  /// their rows, and the current cell.
+  void setComparison(const Comparison& comparison);
+
+  /// The selected rows, or all without any, in the order shown, below a line of names: numbers in
+  /// full, tabs between the cells.
+  QString tabbedText() const;
+  /// The whole table in the order shown, below a line of names: numbers in full, commas between
+  /// the cells.
+  QString commaText() const;
+  /// Writes the whole table; the file appears complete or not at all.
+  /// @return why that failed, in one line of UTF-8 that begins with the file's name; empty on
+  /// success
+  std::string save(const QString& path) const;
+
+public slots:
+  /// Puts the tabbed text on the clipboard.
+  void copy();
+  /// Asks for a file and writes the whole table as it was when this was called.
+  void chooseFileAndSave();
+
+signals:
+  /// What has become of the last step, in one line.
+  void said(const QString& message);
+  /// Why the last step could not be done, in one line.
+  void failed(const QString& message);
+
+private:
+  int rowOf(const QVariant& name) const;
+  void replaceRows(const std::vector<ComparedParameter>& parameters);
+  QTableView* makeView();
+  QWidget* makeButtons();
+  QAction* addStep(const QString& text, const char* name, void (ComparisonTable::*slot)());
+
+  ComparisonModel* model;
+  QSortFilterProxyModel* sorted;
+  QStackedWidget* pages;
+  QLabel* explanation;
+  QTableView* view;
+  QAction* copyStep;
+  QAction* saveStep;
+};
+
+} // namespace Talmesh::app
+
+#endif

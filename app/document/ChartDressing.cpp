@@ -1,0 +1,89 @@
+#include "app/document/ChartDressing.h"
+
+#include "app/document/PlotChoice.h"
+#include "app/import/ColumnRoles.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/TableColumns.h"
+
+#include <vtkChartXYZ.h>
+#include <vtkContextMouseEvent.h>
+#include <vtkContextScene.h>
+#include <vtkRenderWindow.h>
+#include <vtkRenderWindowInteractor.h>
+#include <vtkRenderer.h>
+
+#include <QVariant>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// Pixels around the 3-D chart: top, right, bottom, left.
+const vtkVector4i margins3D(50, 90, 80, 90);
+constexpr const char* tilted = "talmeshTilted";
+
+/// Turns the chart as dragging it by these parts of the scene's width and height does, which is the
+/// one way that the chart offers.
+void drag(vtkChartXYZ* chart, vtkRenderWindowInteractor* interactor, double right, double up)
+{
+  vtkContextMouseEvent mouse;
+  mouse.SetInteractor(interactor);
+  mouse.SetButton(vtkContextMouseEvent::LEFT_BUTTON);
+  mouse.SetLastScreenPos(vtkVector2i(0, 0));
+  mouse.SetScreenPos(vtkVector2i(static_cast<int>(right * chart->GetScene()->GetSceneWidth()),
+                                 static_cast<int>(up * chart->GetScene()->GetSceneHeight())));
+  chart->MouseMoveEvent(mouse);
+}
+
+vtkRenderWindowInteractor* interactorOf(vtkContextScene* scene)
+{
+  vtkRenderer* renderer = scene ? scene->GetRenderer() : nullptr;
+  vtkRenderWindow* window = renderer ? renderer->GetRenderWindow() : nullptr;
+  return window ? window->GetInteractor() : nullptr;
+}
+
+void tiltOnce(PlotContainer& container, vtkChartXYZ* chart)
+{
+  vtkContextScene* scene = chart->GetScene();
+  vtkRenderWindowInteractor* interactor = interactorOf(scene);
+  const bool painted = interactor && scene->GetSceneWidth() > 0 && scene->GetSceneHeight() > 0;
+  if (!painted || container.property(tilted).toBool())
+    return;
+  container.setProperty(tilted, true);
+  drag(chart, interactor, -0.15, 0.12);
+}
+
+void nameAxes(const PlotContainer& container, vtkChartXYZ* chart)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  const auto name = [&container](const std::vector<int>& columns)
+  { return shownName(plot::columnName(container.getTable(), plot::firstOf(columns))); };
+  chart->SetXAxisLabel(name(settings.xColumns));
+  chart->SetYAxisLabel(name(settings.yColumns));
+  chart->SetZAxisLabel(name(settings.zColumns));
+}
+
+} // namespace
+
+void makeRoom(PlotContainer& container)
+{
+  const bool matrix = container.getMetaData()->getPlotStyle() == scatterPlotMatrix;
+  container.setTopMargin(matrix ? 45 : 30);
+  container.setRightMargin(matrix ? 60 : 30);
+  container.setBottomMargin(matrix ? 50 : 45);
+}
+
+void dressChart(PlotContainer& container)
+{
+  auto* chart = vtkChartXYZ::SafeDownCast(container.getItem());
+  if (!chart)
+    return;
+  chart->SetMargins(margins3D);
+  nameAxes(container, chart);
+  tiltOnce(container, chart);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,90 @@
+#include "app/document/FurtherSeries.h"
+
+#include "app/document/PlotChoice.h"
+#include "app/import/ColumnRoles.h"
+#include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
+#include "plot/PlotContainer.h"
+#include "plot/PlotFeed.h"
+#include "plot/TableColumns.h"
+#include "vtk/vtkPlotLineSet.h"
+
+#include <vtkAxis.h>
+#include <vtkChartXY.h>
+#include <vtkColorSeries.h>
+#include <vtkNew.h>
+#include <vtkTable.h>
+
+#include <string>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  if (settings.getPlotLine())
+  {
+    vtkNew<vtkPlotLineSet> runs;
+    runs->SetStride(settings.getStride());
+    runs->SetOnlyShowSelected(0);
+    runs->SetBreakAtGaps(container.getBreakLinesAtGaps());
+    if (auto* first = vtkPlotLineSet::SafeDownCast(chart->GetPlot(0)))
+      runs->SetPictureStore(first->GetPictureStore());
+    chart->AddPlot(runs);
+    return runs;
+  }
+  vtkPlot* plot = chart->AddPlot(vtkChart::POINTS);
+  if (auto* points = vtkPlotPoints::SafeDownCast(plot))
+  {
+    points->SetMarkerSize(static_cast<float>(settings.pointSize));
+    points->SetMarkerStyle(settings.markerStyle);
+  }
+  return plot;
+}
+
+void colour(vtkPlot* plot, vtkColorSeries* colours, std::size_t series, unsigned char alpha)
+{
+  const vtkColor3ub c = colours->GetColorRepeating(static_cast<int>(series));
+  plot->SetColor(c.GetRed(), c.GetGreen(), c.GetBlue(), alpha);
+}
+
+/// A drawing leaves the left axis where the window of the columns before had it.
+void freeLeftAxis(const PlotContainer& container, vtkChartXY* chart)
+{
+  if (!plot::rememberedWindow(container.state()))
+    chart->GetAxis(vtkAxis::LEFT)->SetBehavior(vtkAxis::AUTO);
+}
+
+} // namespace
+
+void addFurtherSeries(PlotContainer& container)
+{
+  vtkChartXY* chart = container.getChartXY();
+  const PlotMetaData& settings = *container.getMetaData();
+  if (!chart || settings.getPlotStyle() != xyPlot || chart->GetNumberOfPlots() != 1)
+    return;
+  freeLeftAxis(container, chart);
+  vtkNew<vtkColorSeries> colours;
+  colours->SetColorScheme(vtkColorSeries::BREWER_QUALITATIVE_DARK2);
+  const std::vector<int>& columns = settings.yColumns;
+  const auto alpha = static_cast<unsigned char>(settings.color[3]);
+  for (std::size_t series = 0; series < columns.size(); ++series)
+  {
+    vtkSmartPointer<vtkPlot> plot = chart->GetPlot(static_cast<vtkIdType>(series));
+    if (series > 0)
+    {
+      plot = addSeries(chart, container);
+      plot::feedPlot(plot, container.getTable(), plot::firstOf(settings.xColumns), columns[series]);
+    }
+    if (columns.size() > 1)
+      colour(plot, colours, series, alpha);
+    plot->SetLabel(shownName(plot::columnName(container.getTable(), columns[series])));
+  }
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,222 @@
+#include "app/document/PlotChoice.h"
+
+#include "app/comparison/ComparisonChoice.h"
+#include "app/document/ChartDressing.h"
+#include "app/document/FurtherSeries.h"
+#include "app/import/ColumnRoles.h"
+#include "app/import/TranslatedText.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/TableColumns.h"
+
+#include <vtkAxis.h>
+#include <vtkChartXY.h>
+#include <vtkTable.h>
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr int mostNamesInAMessage = 20;
+
+std::string columnLabel(const PlotContainer& container, int column)
+{
+  return shownName(plot::columnName(container.getTable(), column));
+}
+
+std::string joinedLabels(const PlotContainer& container, const std::vector<int>& columns)
+{
+  std::string joined;
+  for (const int column : columns)
+    joined += (joined.empty() ? "" : ", ") + columnLabel(container, column);
+  return joined;
+}
+
+/// The settings must not announce each change, or every one of them would draw.
+void writeSettings(PlotContainer& container, const PlotChoice& choice)
+{
+  PlotMetaData& settings = *container.getMetaData();
+  settings.blockSignals(true);
+  settings.xColumns = {choice.x};
+  settings.yColumns = choice.y;
+  settings.zColumns = {choice.z};
+  settings.xLabel = columnLabel(container, choice.x);
+  settings.yLabel = joinedLabels(container, choice.y);
+  settings.setPlotStyle(choice.style);
+  settings.setPlotLine(choice.lines);
+  settings.setLogX(choice.logX);
+  settings.blockSignals(false);
+}
+
+std::string allNames(const PlotContainer& container)
+{
+  const int columns = static_cast<int>(container.getTable()->GetNumberOfColumns());
+  std::string names;
+  for (int column = 0; column < std::min(columns, mostNamesInAMessage); ++column)
+    names += (column > 0 ? ", " : "") + columnLabel(container, column);
+  return columns > mostNamesInAMessage ? names + ", ..." : names;
+}
+
+/// The columns that play the part that the name tells: an import gives the columns of time and runs
+/// names that the plots know.
+std::vector<int> columnsOfRole(vtkTable* table, const std::string& name)
+{
+  std::vector<int> columns;
+  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
+  {
+    const ColumnHeader header = readHeader(plot::columnName(table, column));
+    const bool sameRole = (isTimeName(name) && isTimeName(header.name)) ||
+                          (isRunName(name) && isRunName(header.name));
+    if (header.typed && header.kind == TimeOrValue && sameRole)
+      columns.push_back(column);
+  }
+  return columns;
+}
+
+} // namespace
+
+bool hasLegend(plotStyles style)
+{
+  return hasLogarithmicY(style) || style == scatterWithErrorBars;
+}
+
+bool hasLogarithmicY(plotStyles style)
+{
+  return style == xyPlot || style == multiPlot || style == selectionCdfPlot;
+}
+
+PlotChoice choiceOf(const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  PlotChoice choice;
+  choice.style = settings.getPlotStyle();
+  choice.x = plot::firstOf(settings.xColumns);
+  choice.y = settings.yColumns;
+  choice.z = plot::firstOf(settings.zColumns);
+  choice.lines = settings.getPlotLine();
+  choice.logX = settings.getLogX();
+  if (vtkChartXY* chart = container.getChartXY())
+  {
+    choice.legend = chart->GetShowLegend();
+    choice.logY = chart->GetAxis(vtkAxis::LEFT)->GetLogScale();
+  }
+  return choice;
+}
+
+std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
+{
+  writeSettings(container, choice);
+  refreshQuartiles(container);
+  makeRoom(container);
+  try
+  {
+    container.redraw();
+  }
+  catch (const std::exception& failure)
+  {
+    container.getMetaData()->blockSignals(false);
+    return withValues(translated("PlotChoice", "cannot draw this: %1"), {failure.what()});
+  }
+  dressChart(container);
+  addFurtherSeries(container);
+  if (hasLogarithmicY(choice.style))
+    container.setLogScaleY(choice.logY);
+  if (hasLegend(choice.style))
+    container.setShowLegend(choice.legend);
+  return {};
+}
+
+FoundColumn findColumn(const PlotContainer& container, const std::string& name)
+{
+  vtkTable* table = container.getTable();
+  const int whole = plot::columnIndex(table, name);
+  if (whole >= 0)
+    return {whole, {}};
+  std::vector<int> matches;
+  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
+    if (columnLabel(container, column) == name)
+      matches.push_back(column);
+  const std::string unmarked(withoutCommentMark(name));
+  if (matches.empty() && unmarked != name)
+    return findColumn(container, unmarked);
+  if (matches.empty())
+    matches = columnsOfRole(table, name);
+  if (matches.size() == 1)
+    return {matches.front(), {}};
+  if (matches.empty())
+    return {-1, withValues(translated("PlotChoice", "no such column: %1; the columns are %2"),
+                           {name, allNames(container)})};
+  return {-1, withValues(translated("PlotChoice", "more than one column is named %1: %2 and %3"),
+                         {name, plot::columnName(table, matches[0]),
+                          plot::columnName(table, matches[1])})};
+}
+
+namespace
+{
+
+/// Joins names again where a comma stood inside a column's name: the longest name that exists wins.
+/// @return the column, and how many of the names from `first` on are its name
+std::pair<FoundColumn, std::size_t>
+findJoined(const PlotContainer& container, const std::vector<std::string>& names, std::size_t first)
+{
+  for (std::size_t count = names.size() - first; count > 1; --count)
+  {
+    std::string joined = names[first];
+    for (std::size_t i = first + 1; i < first + count; ++i)
+      joined += ',' + names[i];
+    const FoundColumn found = findColumn(container, joined);
+    if (found.error.empty())
+      return {found, count};
+  }
+  return {findColumn(container, names[first]), 1};
+}
+
+} // namespace
+
+std::string chooseByName(const PlotContainer& container, const PlotWishes& wishes,
+                         PlotChoice& choice)
+{
+  if (wishes.style)
+    choice.style = *wishes.style;
+  std::string error;
+  const auto choose = [&](const std::string& name, int& column)
+  {
+    if (name.empty() || !error.empty())
+      return;
+    const FoundColumn found = findColumn(container, name);
+    error = found.error;
+    column = found.column;
+  };
+  choose(wishes.x, choice.x);
+  choose(wishes.z, choice.z);
+  if (!wishes.y.empty())
+    choice.y.clear();
+  for (std::size_t i = 0; i < wishes.y.size() && error.empty();)
+  {
+    const auto [found, count] = findJoined(container, wishes.y, i);
+    error = found.error;
+    choice.y.push_back(found.column);
+    i += count;
+  }
+  return error;
+}
+
+void chooseOpeningStyle(PlotContainer& container, const PlotWishes& wishes)
+{
+  PlotMetaData& settings = *container.getMetaData();
+  const bool comparable = settings.getStride() > 1 && !settings.parameterColumns.empty();
+  const bool shown = wishes.y.size() <= 1 && wishes.z.empty();
+  if (wishes.style || !comparable || !shown)
+    return;
+  settings.blockSignals(true);
+  settings.setPlotStyle(selectionCdfPlot);
+  settings.blockSignals(false);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,67 @@
+#ifndef PlotChoice_h
+#define PlotChoice_h
+
+#include "app/document/PlotWishes.h"
+
+#include <string>
+#include <vector>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// What the user chooses of a plot. Columns are 0-based columns of the container's table.
+struct PlotChoice
+{
+  plotStyles style = xyPlot;
+  int x = 0;
+  /// The columns over x; the first one first in the legend. Never empty when applied.
+  std::vector<int> y{1};
+  int z = 2;
+  /// Lines, one per run, instead of points in the XY plot.
+  bool lines = false;
+  bool legend = false;
+  bool logX = false;
+  bool logY = false;
+};
+
+/// Whether the style has a chart that can have a legend, and one whose y axis can be logarithmic:
+/// error bars are lengths on a linear one.
+bool hasLegend(plotStyles style);
+bool hasLogarithmicY(plotStyles style);
+
+/// What a container now shows; legend and logarithmic y axis as its XY chart has them.
+PlotChoice choiceOf(const PlotContainer& container);
+
+/// Makes the container show the choice: draws it, with all y columns in the XY plot, and labels the
+/// axes. Does not render.
+/// @return why it could not be drawn, in one line; empty on success
+std::string applyChoice(PlotContainer& container, const PlotChoice& choice);
+
+/// A column, or why there is none.
+struct FoundColumn
+{
+  int column = -1;
+  /// One line; empty on success.
+  std::string error;
+};
+
+/// Finds a column by its whole name, else by its name without the kind, else by what a table's
+/// header calls its time or its runs, which may have got another name in the import.
+FoundColumn findColumn(const PlotContainer& container, const std::string& name);
+
+/// Writes the style and the columns that the wishes name into `choice`. Names of y columns
+/// that a comma has parted count as one where a column has that name.
+/// @return why a name cannot be found, in one line; empty on success
+std::string chooseByName(const PlotContainer& container, const PlotWishes& wishes,
+                         PlotChoice& choice);
+
+/// Makes the page that compares runs the style of a container that holds runs with parameters, and
+/// otherwise leaves the style that it has. Wishes come first: they may name a style, or more
+/// columns than that page shows. Does not draw.
+void chooseOpeningStyle(PlotContainer& container, const PlotWishes& wishes);
+
+} // namespace Talmesh::app
+
+#endif

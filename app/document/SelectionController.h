@@ -1,0 +1,89 @@
+#ifndef SelectionController_h
+#define SelectionController_h
+
+#include "app/document/SelectionHistory.h"
+
+#include <vtkAnnotationLink.h>
+#include <vtkWeakPointer.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QUndoGroup>
+#include <QUndoStack>
+
+#include <string>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// The selection of the plot now shown: what the menus do with it, its history and its size.
+class SelectionController : public QObject
+{
+  Q_OBJECT
+
+public:
+  explicit SelectionController(QObject* parent = nullptr);
+  ~SelectionController() override;
+
+  /// Turns to the selection of another container, not owned; its history starts anew. Null turns to
+  /// none.
+  void follow(PlotContainer* container);
+  /// Turns to the selection of another container, not owned, until `endVisit` returns to the one
+  /// followed last and to its history.
+  void visit(PlotContainer* container);
+  void endVisit();
+  /// For a table that has been replaced in the same container.
+  void restartHistory();
+
+  /// Selects everything: every row, or, where runs are drawn as lines, the first row of each run if
+  /// that counts as all runs everywhere.
+  void selectAll();
+  /// Selects nothing.
+  void clear();
+  /// Writes the indices of the selected runs to a small JSON file.
+  /// @return why that failed, in one line of UTF-8; empty on success
+  std::string save(const QString& path) const;
+  /// Selects the runs that such a file lists, as far as they are whole runs of the table. Keeps the
+  /// selection if none is.
+  /// @return what went wrong, in one line of UTF-8: why nothing could be selected, or which runs
+  /// the
+  ///   table does not have; empty if all are selected
+  std::string load(const QString& path);
+
+  /// What is selected, in one line: "12 of 400 runs selected", or rows for a table without runs. A
+  /// partial last run does not count.
+  QString summary() const;
+  /// Undo and redo of selections in the container that is followed, not in one visited.
+  QUndoStack& undoStack() { return stack; }
+  /// Undo and redo of what is selected in the plot now shown, for menus.
+  QUndoGroup& undoGroup() { return group; }
+
+signals:
+  /// The selection is another one. Emitted from the event loop, after the chart's own handler, once
+  /// for changes that come together.
+  void changed();
+
+private:
+  void announceLater();
+  void observe(PlotContainer* observed, QUndoStack& itsStack);
+  void stopObserving();
+
+  /// The container now shown.
+  QPointer<PlotContainer> container;
+  QPointer<PlotContainer> followed;
+  vtkWeakPointer<vtkAnnotationLink> link;
+  unsigned long observerTag = 0;
+  QUndoGroup group;
+  QUndoStack stack;
+  QUndoStack visitStack;
+  SelectionHistory history;
+  SelectionHistory visitHistory;
+  bool announcing = false;
+};
+
+} // namespace Talmesh::app
+
+#endif

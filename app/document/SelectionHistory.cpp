@@ -1,0 +1,161 @@
+#include "app/document/SelectionHistory.h"
+
+#include "plot/PlotContainer.h"
+#include "plot/SelectionFlags.h"
+#include "plot/SelectionNodes.h"
+
+#include <vtkAnnotationLink.h>
+#include <vtkCommand.h>
+#include <vtkSelection.h>
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
+#include <vtkWeakPointer.h>
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QUndoCommand>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// Priority of the history's observer: others may still replace the selection in reaction to it.
+constexpr float afterAllOthers = -1.0F;
+
+/// Whether each row is selected. A bit per row, so that a long history of large selections takes
+/// less room than the table; neighbouring commands share the one between them.
+using Snapshot = std::shared_ptr<const std::vector<bool>>;
+
+vtkSmartPointer<vtkSelection> selectionOf(const std::vector<bool>& rows)
+{
+  std::vector<vtkIdType> list;
+  for (std::size_t row = 0; row < rows.size(); ++row)
+  {
+    if (rows[row])
+      list.push_back(static_cast<vtkIdType>(row));
+  }
+  return plot::makeRowSelection(list);
+}
+
+} // namespace
+
+/// What commands write to, shared by all of them.
+struct FollowedContainer
+{
+  QPointer<PlotContainer> container;
+  /// The container's; a chart may keep it alive longer.
+  vtkWeakPointer<vtkAnnotationLink> link;
+  Snapshot current;
+  bool restoring = false;
+
+  Snapshot selected() const
+  {
+    if (!container || !link)
+      return std::make_shared<const std::vector<bool>>();
+    return std::make_shared<const std::vector<bool>>(
+        plot::markedRows(link->GetCurrentSelection(), container->getTable()));
+  }
+
+  /// Selects `rows` without recording that.
+  void restore(const std::vector<bool>& rows)
+  {
+    if (!container || !link)
+      return;
+    restoring = true;
+    link->SetCurrentSelection(selectionOf(rows));
+    restoring = false;
+    current = selected();
+  }
+};
+
+namespace
+{
+
+class SelectCommand : public QUndoCommand
+{
+public:
+  SelectCommand(std::shared_ptr<FollowedContainer> ofContainer, Snapshot oldSelection,
+                Snapshot newSelection, bool clears)
+      : followed(std::move(ofContainer))
+      , before(std::move(oldSelection))
+      , after(std::move(newSelection))
+  {
+    setText(clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
+                   : QCoreApplication::translate("SelectionHistory", "Select"));
+  }
+
+  void undo() override { followed->restore(*before); }
+
+  void redo() override
+  {
+    // The stack redoes a command when it is pushed, but the selection is already made.
+    if (pushed)
+      followed->restore(*after);
+    pushed = true;
+  }
+
+private:
+  std::shared_ptr<FollowedContainer> followed;
+  Snapshot before;
+  Snapshot after;
+  bool pushed = false;
+};
+
+} // namespace
+
+SelectionHistory::SelectionHistory(QUndoStack& undoStack)
+    : stack(undoStack)
+{
+}
+
+SelectionHistory::~SelectionHistory()
+{
+  stopObserving();
+}
+
+void SelectionHistory::follow(PlotContainer* container)
+{
+  stopObserving();
+  followed = std::make_shared<FollowedContainer>();
+  followed->container = container;
+  followed->link = container ? container->getAnnotationLink() : nullptr;
+  if (followed->link)
+    observerTag = followed->link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
+                                              &SelectionHistory::record, afterAllOthers);
+  restart();
+}
+
+void SelectionHistory::restart()
+{
+  stack.clear();
+  if (followed)
+    followed->current = followed->selected();
+}
+
+void SelectionHistory::record()
+{
+  if (followed->restoring || !followed->container)
+    return;
+  const Snapshot before = followed->current;
+  const Snapshot after = followed->selected();
+  if (*before == *after)
+    return;
+  followed->current = after;
+  const bool clears = std::find(after->begin(), after->end(), true) == after->end();
+  stack.push(new SelectCommand(followed, before, after, clears));
+}
+
+void SelectionHistory::stopObserving()
+{
+  if (followed && followed->link)
+    followed->link->RemoveObserver(observerTag);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,99 @@
+#include "app/document/TimeCourses.h"
+
+#include "plot/PlotContainer.h"
+#include "plot/TypedColumns.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <set>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr const char* runIndexName = "Run Index";
+
+bool isRunIndex(const TypedConcentrationName& item)
+{
+  return item.first == TimeOrValue && item.second == runIndexName;
+}
+
+bool isCourse(const TypedConcentrationName& item)
+{
+  return item.first != TimeOrValue && item.first != Parameter;
+}
+
+std::vector<double> pointsOf(const LinePlotTable& runs, std::size_t item, std::size_t run)
+{
+  const double* first = runs.values[item] + run * runs.pointsPerTrajectory;
+  return {first, first + runs.pointsPerTrajectory};
+}
+
+} // namespace
+
+int timeOfCourses(const LinePlotTable& runs)
+{
+  std::vector<TypedConcentrationName> items = runs.items;
+  for (TypedConcentrationName& item : items)
+    if (isRunIndex(item))
+      item.first = UndefinedType;
+  const int time = plot::timeItem(items);
+  return time >= 0 && runs.values[static_cast<std::size_t>(time)] ? time : -1;
+}
+
+std::vector<int> shownRunNumbers(const LinePlotTable& runs)
+{
+  std::vector<int> places(runs.numberOfTrajectories);
+  std::iota(places.begin(), places.end(), 0);
+  const auto found = std::find_if(runs.items.begin(), runs.items.end(), isRunIndex);
+  const auto item = static_cast<std::size_t>(found - runs.items.begin());
+  if (found == runs.items.end() || !runs.values[item])
+    return places;
+  std::vector<int> numbers;
+  for (std::size_t run = 0; run < runs.numberOfTrajectories; ++run)
+  {
+    const double number = runs.values[item][run * runs.pointsPerTrajectory];
+    if (!(std::abs(number) <= std::numeric_limits<int>::max()) || std::floor(number) != number)
+      return places;
+    numbers.push_back(static_cast<int>(number));
+  }
+  const std::set<int> different(numbers.begin(), numbers.end());
+  return different.size() == numbers.size() ? numbers : places;
+}
+
+RunCourses::RunCourses(const LinePlotTable& runs, int time, std::size_t run)
+    : times(pointsOf(runs, static_cast<std::size_t>(time), run))
+{
+  // The record points into the list, which therefore must not grow any more.
+  values.reserve(runs.items.size());
+  for (std::size_t i = 0; i < runs.items.size(); ++i)
+    if (isCourse(runs.items[i]) && runs.values[i])
+    {
+      values.push_back(pointsOf(runs, i, run));
+      record.series[runs.items[i]] = &values.back();
+    }
+  record.xName = runs.items[static_cast<std::size_t>(time)].second;
+  record.xValues = &times;
+}
+
+void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t items,
+                     PlotContainer& container)
+{
+  const int time = timeOfCourses(runs);
+  if (time < 0 || run >= runs.numberOfTrajectories)
+    return;
+  RunCourses courses(runs, time, run);
+  container.setBreakLinesAtGaps(true);
+  container.setLinePlotData(&courses.record);
+  std::vector<TypedConcentrationName> shown;
+  for (const auto& series : courses.record.series)
+    if (shown.size() < items)
+      shown.push_back(series.first);
+  container.setLinePlotItems(&shown);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,104 @@
+#include "app/examples/StatisticsViews.h"
+
+#include "app/document/PlotChoice.h"
+#include "app/document/ShownStudy.h"
+#include "external/LinePlotTable.h"
+#include "external/ParameterSelection.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "plot/RunSelection.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr int clusterCount = 3;
+
+/// How far the study's first item moves in the second half of the run that begins at `row`.
+double liveliness(const LinePlotTable& runs, std::size_t row)
+{
+  const std::size_t points = runs.pointsPerTrajectory;
+  const double* const begin = runs.values.front() + row;
+  double least = std::numeric_limits<double>::infinity();
+  double most = -least;
+  for (const double* value = begin + points / 2; value != begin + points; ++value)
+  {
+    if (!std::isfinite(*value))
+      continue;
+    least = std::min(least, *value);
+    most = std::max(most, *value);
+  }
+  return least <= most ? most - least : 0.0;
+}
+
+/// The fourth of the runs that move most at the end: in the example study those that oscillate.
+ParameterSelection livelyRuns(const LinePlotTable& runs, const PlotContainer& container)
+{
+  std::vector<std::pair<double, int>> order;
+  for (const plot::PlacedRun& run : plot::wholeRuns(container.state()))
+    order.emplace_back(-liveliness(runs, static_cast<std::size_t>(run.firstRow)), run.index);
+  std::sort(order.begin(), order.end());
+  ParameterSelection selection;
+  for (std::size_t i = 0; i < order.size() / 4; ++i)
+    selection.runs.insert(order[i].second);
+  return selection;
+}
+
+std::string drawStyle(const Study& study, PlotContainer& container, plotStyles style)
+{
+  showStudy(study, container);
+  PlotChoice choice = choiceOf(container);
+  choice.style = style;
+  return applyChoice(container, choice);
+}
+
+std::string drawComparison(const Study& study, PlotContainer& container, plotStyles style)
+{
+  const std::string error = drawStyle(study, container, style);
+  if (!study.runs || !error.empty())
+    return error;
+  ParameterSelection lively = livelyRuns(*study.runs, container);
+  container.setSelection(&lively, 0);
+  return applyChoice(container, choiceOf(container));
+}
+
+std::string drawDensities(const Study& study, PlotContainer& container)
+{
+  PlotMetaData& settings = *container.getMetaData();
+  settings.blockSignals(true);
+  settings.setUseDensity(true);
+  settings.setShowQuantiles(true);
+  settings.blockSignals(false);
+  return drawComparison(study, container, selectionCdfPlot);
+}
+
+std::string drawClusters(const Study& study, PlotContainer& container)
+{
+  const std::string error = drawStyle(study, container, xyPlot);
+  container.clusterTimeSeries(clusterCount, 0);
+  container.setShowDecorations(true);
+  container.redraw();
+  return error;
+}
+
+} // namespace
+
+const std::vector<GalleryView>& statisticsViews()
+{
+  static const std::vector<GalleryView> views = {
+      {"multiPlot", [](const Study& study, PlotContainer& container)
+       { return drawComparison(study, container, multiPlot); }},
+      {"selectionCdfPlot", [](const Study& study, PlotContainer& container)
+       { return drawComparison(study, container, selectionCdfPlot); }},
+      {"selectionCdfPlot-densities", drawDensities},
+      {"xyPlot-clusters", drawClusters}};
+  return views;
+}
+
+} // namespace Talmesh::app

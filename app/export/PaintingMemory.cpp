@@ -1,0 +1,66 @@
+#include "app/export/PaintingMemory.h"
+
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+
+#include <vtkTable.h>
+
+#include <algorithm>
+#include <sys/mman.h>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// A point is kept by its plot, by the painter and by the driver, in two floats each.
+constexpr std::size_t bytesPerPoint = 3 * 2 * sizeof(float);
+/// With fewer chosen columns, parallel coordinates show all.
+constexpr std::size_t fewestChosenAxes = 3;
+
+/// A pixel is kept by what is painted on and by the picture that is written.
+constexpr std::size_t bytesPerPixel = 2 * 4;
+
+std::size_t bytesPerRow(const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  const auto columns = static_cast<std::size_t>(container.getTable()->GetNumberOfColumns());
+  const std::size_t chosen = settings.yColumns.size();
+  switch (settings.getPlotStyle())
+  {
+  case scatterPlotMatrix:
+  {
+    const std::size_t shown =
+        settings.getLimitColumVisibility() ? settings.parameterColumns.size() + 2 : columns;
+    return shown * (shown - 1) / 2 * bytesPerPoint;
+  }
+  case parallelCoordinates:
+    return (chosen < fewestChosenAxes ? columns : chosen) * bytesPerPoint;
+  default:
+    return std::max<std::size_t>(chosen, 1) * bytesPerPoint;
+  }
+}
+
+} // namespace
+
+std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels)
+{
+  const auto rows = static_cast<std::size_t>(container.getTable()->GetNumberOfRows());
+  const auto width = static_cast<std::size_t>(std::max(pixels.width(), 0));
+  const auto height = static_cast<std::size_t>(std::max(pixels.height(), 0));
+  return rows * bytesPerRow(container) + width * height * bytesPerPixel;
+}
+
+bool hasMemory(std::size_t bytes)
+{
+  if (bytes == 0)
+    return true;
+  void* probe = ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  if (probe == MAP_FAILED)
+    return false;
+  ::munmap(probe, bytes);
+  return true;
+}
+
+} // namespace Talmesh::app

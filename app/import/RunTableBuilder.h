@@ -1,0 +1,33 @@
+#ifndef RunTableBuilder_h
+#define RunTableBuilder_h
+
+#include "app/import/RunGrouping.h"
+#include "app/import/TableText.h"
+#include "external/LinePlotTable.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <string>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// The runs of a table.
+struct BuiltRuns
+{
+  boost::shared_ptr<LinePlotTable> runs;
+  /// Names of the parameters that plots leave out because they are the same in all runs.
+  std::vector<std::string> unvariedParameters;
+};
+
+/// Stacks the columns of a text run after run, gives each its kind and its label, and adds the run
+/// index that a table of plain headers lacks.
+/// @param text is emptied on the way, so that no column is in memory twice.
+/// @param leftOut tells the columns that do not come into the table.
+BuiltRuns buildRunTable(TableText& text, const std::vector<bool>& leftOut,
+                        const RunGrouping& grouping);
+
+} // namespace Talmesh::app
+
+#endif

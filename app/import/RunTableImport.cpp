@@ -1,0 +1,198 @@
+#include "app/import/RunTableImport.h"
+
+#include "app/import/RunGrouping.h"
+#include "app/import/RunTableBuilder.h"
+#include "app/import/SelectionMarks.h"
+#include "app/import/TranslatedText.h"
+#include "app/import/Utf8Text.h"
+
+#include <vtkDoubleArray.h>
+#include <vtkNew.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+bool isTextColumn(const ColumnValues& column)
+{
+  return column.texts > 0 && column.numbers == 0;
+}
+
+/// Whether the first column is the one that pandas and R put before a table unless told otherwise:
+/// without a name, it counts the rows.
+bool firstColumnCountsRows(const TableText& text)
+{
+  const ColumnValues& first = text.columns.front();
+  if (!text.roles.headers.front().unnamed || first.numbers != text.rows)
+    return false;
+  const double start = first.values.front();
+  for (std::size_t row = 0; row < text.rows; ++row)
+    if (first.values[row] != start + static_cast<double>(row))
+      return false;
+  const bool otherNumbers =
+      std::any_of(text.columns.begin() + 1, text.columns.end(),
+                  [](const ColumnValues& column) { return column.numbers > 0; });
+  return otherNumbers && (start == 0.0 || start == 1.0);
+}
+
+/// The columns that are no data, one flag each, and what to say of them.
+struct LeftOutColumns
+{
+  std::vector<bool> flags;
+  std::vector<std::string> notes;
+};
+
+LeftOutColumns leftOutOf(const TableText& text)
+{
+  LeftOutColumns leftOut;
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    const ColumnHeader& header = text.roles.headers[i];
+    const bool marks = !header.typed && isSelectionMark(header.name);
+    leftOut.flags.push_back(marks || isTextColumn(text.columns[i]));
+    if (marks)
+      leftOut.notes.push_back(withValues(
+          translated("RunTableImport", "The column %1 marks a former selection and is left out."),
+          {quotedForMessage(header.name)}));
+    else if (leftOut.flags.back())
+      leftOut.notes.push_back(
+          withValues(translated("RunTableImport", "The column %1 holds text and is left out."),
+                     {quotedForMessage(header.name)}));
+  }
+  if (firstColumnCountsRows(text))
+  {
+    leftOut.flags.front() = true;
+    leftOut.notes.push_back(translated(
+        "RunTableImport", "The first column has no name and counts the rows; it is left out."));
+  }
+  return leftOut;
+}
+
+/// Texts among numbers are an error, because a silent gap would look like data.
+std::string mistypedCell(const TableText& text)
+{
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    const ColumnValues& column = text.columns[i];
+    const bool needed = static_cast<int>(i) == text.roles.timeColumn;
+    if (column.texts > 0 && (column.numbers > 0 || needed))
+      return withValues(
+          translated("RunTableImport", "line %1: %2 in the column %3 is not a number"),
+          {std::to_string(column.firstText.line), quotedForMessage(column.firstText.text),
+           quotedForMessage(text.roles.headers[i].name)});
+  }
+  return {};
+}
+
+vtkSmartPointer<vtkTable> plainTable(TableText& text, const std::vector<bool>& leftOut)
+{
+  auto table = vtkSmartPointer<vtkTable>::New();
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    ColumnValues& column = text.columns[i];
+    if (leftOut[i])
+      continue;
+    vtkNew<vtkDoubleArray> array;
+    array->SetName(text.roles.headers[i].name.c_str());
+    array->SetNumberOfValues(static_cast<vtkIdType>(text.rows));
+    std::copy(column.values.begin(), column.values.end(), array->GetPointer(0));
+    std::vector<double>().swap(column.values);
+    table->AddColumn(array);
+  }
+  return table;
+}
+
+std::string noteOnUnvaried(const std::string& parameter)
+{
+  return withValues(
+      translated("RunTableImport", "The parameter %1 is the same in all runs and is left out."),
+      {quotedForMessage(parameter)});
+}
+
+/// Why the rows are no runs, or in which order their points are, when there is no time; else empty.
+std::string noteOnMissingTime(const TableText& text, std::size_t pointsPerRun)
+{
+  if (text.roles.timeColumn >= 0 || pointsPerRun == 1)
+    return {};
+  return text.roles.describeRuns()
+             ? translated("RunTableImport", "There is no time column, so the points of a run are "
+                                            "in the order of the file.")
+             : translated("RunTableImport",
+                          "There is no time column, so the rows are not taken for runs.");
+}
+
+RunGrouping groupingOf(const TableText& text)
+{
+  RunColumns columns;
+  columns.rows = text.rows;
+  columns.lines = &text.lines;
+  if (text.roles.timeColumn >= 0)
+    columns.time = &text.columns[text.roles.timeColumn].values;
+  if (text.roles.runColumn >= 0)
+  {
+    columns.run = &text.runOfRow;
+    columns.names = &text.runNames;
+  }
+  return groupRuns(columns);
+}
+
+std::string noNumbers()
+{
+  return translated("RunTableImport", "not a table: no column holds numbers");
+}
+
+bool hasNumbers(const TableText& text)
+{
+  return std::any_of(text.columns.begin(), text.columns.end(),
+                     [](const ColumnValues& column) { return column.numbers > 0; });
+}
+
+} // namespace
+
+ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress,
+                             const TextPassed& passed)
+{
+  TableText text = readTableText(bytes, progress, passed);
+  ImportedTable imported;
+  imported.cancelled = text.cancelled;
+  imported.error = std::move(text.error);
+  if (imported.cancelled || !imported.error.empty())
+    return imported;
+  imported.error = hasNumbers(text) ? mistypedCell(text) : noNumbers();
+  if (!imported.error.empty())
+    return imported;
+  LeftOutColumns leftOut = leftOutOf(text);
+  if (std::find(leftOut.flags.begin(), leftOut.flags.end(), false) == leftOut.flags.end())
+    imported.error = noNumbers();
+  if (!imported.error.empty())
+    return imported;
+  imported.notes = std::move(leftOut.notes);
+  const auto addNote = [&imported](const std::string& note)
+  {
+    if (!note.empty())
+      imported.notes.push_back(note);
+  };
+  if (!text.roles.describeRuns())
+  {
+    addNote(noteOnMissingTime(text, 0));
+    imported.table = plainTable(text, leftOut.flags);
+    return imported;
+  }
+  const RunGrouping grouping = groupingOf(text);
+  imported.error = grouping.error;
+  if (!imported.error.empty())
+    return imported;
+  addNote(noteOnMissingTime(text, grouping.pointsPerRun));
+  const BuiltRuns built = buildRunTable(text, leftOut.flags, grouping);
+  imported.runs = built.runs;
+  for (const std::string& parameter : built.unvariedParameters)
+    addNote(noteOnUnvaried(parameter));
+  return imported;
+}
+
+} // namespace Talmesh::app

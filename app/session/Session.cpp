@@ -1,0 +1,244 @@
+#include "app/session/Session.h"
+
+#include "app/import/TranslatedText.h"
+#include "app/import/Utf8Text.h"
+#include "app/session/DumpedTable.h"
+#include "app/session/SessionTable.h"
+#include "plot/DumpLayout.h"
+#include "plot/PlotContainer.h"
+#include "plot/PlotState.h"
+#include "plot/SelectionNodes.h"
+
+#include <vtkAbstractArray.h>
+
+#include <QFileInfo>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <new>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// The part of the progress that reading the bytes takes; the rest is what is made of them.
+constexpr double readingPart = 0.3;
+/// With fewer y columns parallel coordinates show all columns.
+constexpr double fewestChosenAxes = 3.0;
+
+/// The part of the plane that is shown.
+void copyWindow(const plot::PlotState& state, SessionSettings& settings)
+{
+  settings.plot->storedCoordinateWindow = CoordinateWindow();
+  const CoordinateWindow* window = plot::rememberedWindow(state);
+  if (!window)
+    return;
+  settings.plot->storedCoordinateWindow = *window;
+  const auto scales = state.windowScales.find(plot::currentKey(state));
+  if (scales != state.windowScales.end())
+    settings.windowScales = scales->second;
+}
+
+/// The columns that a session names as parameters come from a file.
+bool areSomeOf(const std::vector<int>& named, std::vector<int> found)
+{
+  std::vector<int> sorted = named;
+  std::sort(sorted.begin(), sorted.end());
+  std::sort(found.begin(), found.end());
+  return !sorted.empty() && std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end() &&
+         std::includes(found.begin(), found.end(), sorted.begin(), sorted.end());
+}
+
+/// Charts of the page that the container's settings call for, or axes of parallel coordinates.
+double chartCount(const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  const auto parameters = static_cast<double>(settings.parameterColumns.size());
+  const auto columns = static_cast<double>(container.getTable()->GetNumberOfColumns());
+  const auto chosen = static_cast<double>(settings.yColumns.size());
+  switch (settings.getPlotStyle())
+  {
+  case scatterPlotMatrix:
+  {
+    const double shown = settings.getLimitColumVisibility() ? parameters + 2.0 : columns;
+    return shown * shown;
+  }
+  case multiPlot:
+  case fitParameterDistribution:
+    return parameters * parameters;
+  case selectionCdfPlot:
+    return parameters;
+  case parallelCoordinates:
+    return chosen < fewestChosenAxes ? columns : chosen;
+  default:
+    return 1.0;
+  }
+}
+
+vtkSmartPointer<vtkSelection> selectionOf(vtkIntArray* flags)
+{
+  std::vector<vtkIdType> rows;
+  for (vtkIdType row = 0; row < flags->GetNumberOfValues(); ++row)
+    if (flags->GetValue(row) == 1)
+      rows.push_back(row);
+  return plot::makeRowSelection(rows);
+}
+
+int columnCount(const DumpedTable& table)
+{
+  if (!table.study.runs)
+    return static_cast<int>(table.study.table->GetNumberOfColumns());
+  return static_cast<int>(table.study.runs->items.size()) +
+         static_cast<int>(table.further->GetNumberOfColumns());
+}
+
+/// Groups of other runs than the study has say nothing.
+void dropStrangeGroups(SessionGroups& groups, const Study& study)
+{
+  if (study.runs && groups.groupOfRun.size() == study.runs->numberOfTrajectories)
+    return;
+  groups.groupOfRun.clear();
+  groups.look.groupColours = false;
+  groups.look.groupMeans = false;
+}
+
+/// Writes the session into `opened`, whose study is read.
+void readRest(OpenedSession& opened, const ReadSessionParts& file, const DumpedTable& table)
+{
+  ReadSessionSettings read = readSettings(file.parts.settings, columnCount(table));
+  opened.error = read.error;
+  if (!opened.error.empty())
+    return;
+  if (opened.study.runs)
+    read.settings.plot->setStride(read.settings.pointsPerRun);
+  dropStrangeGroups(read.settings.groups, opened.study);
+  opened.study.name = read.settings.name;
+  opened.session = std::make_shared<RestoredSession>(
+      RestoredSession{read.settings, file.end, table.further, table.selected});
+}
+
+} // namespace
+
+SessionSettings settingsOf(const SessionSource& source)
+{
+  PlotContainer& container = source.container;
+  const Study& study = source.study;
+  SessionSettings settings;
+  settings.name = study.name;
+  if (study.runs)
+  {
+    settings.pointsPerRun = static_cast<int>(study.runs->pointsPerTrajectory);
+    settings.parameterRanges = study.runs->parameterRanges;
+  }
+  settings.legend = source.legend;
+  settings.logY = source.logY;
+  settings.groups = source.groups;
+  settings.origin = source.origin;
+  copySettings(*container.getMetaData(), *settings.plot);
+  const DumpedPlaces places(container.getTable());
+  for (std::vector<int>* columns : {&settings.plot->xColumns, &settings.plot->yColumns,
+                                    &settings.plot->zColumns, &settings.plot->parameterColumns})
+    for (int& column : *columns)
+      column = places.of(column);
+  settings.plot->colorColumn = places.of(settings.plot->colorColumn);
+  for (const int column : source.normalised)
+    settings.normalised.push_back(places.of(column));
+  copyWindow(container.state(), settings);
+  return settings;
+}
+
+SessionParts sessionParts(const SessionSource& source)
+{
+  vtkSmartPointer<vtkTable> table = source.container.getTable();
+  if (source.original)
+    table = source.original();
+  return {settingsText(settingsOf(source)), dumpStudy(source.study, source.container, table)};
+}
+
+std::string saveSession(const QString& path, const SessionSource& source, QByteArray* end)
+{
+  const std::string repeated = repeatedItem(source.study);
+  if (!repeated.empty())
+    return withValues(
+        translated("SessionFile",
+                   "%1: two columns have the name %2; a session needs a name for each"),
+        {path.toStdString(), quotedForMessage(repeated)});
+  try
+  {
+    return saveSessionFile(path, sessionParts(source), end);
+  }
+  catch (const std::bad_alloc&)
+  {
+    return withValues(
+        translated("SessionFile", "%1: there is not enough memory to save the session"),
+        {path.toStdString()});
+  }
+}
+
+OpenedSession openSession(const QString& path, const ImportProgress& progress)
+{
+  OpenedSession opened;
+  const auto reading = [&progress](double done)
+  { return !progress || progress(readingPart * done); };
+  const ReadSessionParts file = loadSessionFile(path, reading, plot::isWholeDump);
+  opened.error = file.error;
+  opened.cancelled = file.cancelled;
+  if (!opened.error.empty() || opened.cancelled)
+    return opened;
+  const auto parsing = [&progress](double done)
+  { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
+  opened.cancelled = !parsing(0.0);
+  if (opened.cancelled)
+    return opened;
+  // How many columns there are is known last: settings are read again for them.
+  const SessionSettings first = readSettings(file.parts.settings, mostSessionColumns).settings;
+  const DumpedTable table =
+      readStudyDump(file.parts.dump, first.pointsPerRun, first.parameterRanges, parsing);
+  opened.error = table.error;
+  opened.cancelled = table.cancelled;
+  if (!opened.error.empty() || opened.cancelled)
+    return opened;
+  opened.study = table.study;
+  readRest(opened, file, table);
+  if (opened.session && opened.study.name.empty())
+    opened.study.name = QFileInfo(path).fileName().toStdString();
+  return opened;
+}
+
+void restoreSettings(const RestoredSession& session, PlotContainer& container)
+{
+  const int columns = session.further ? static_cast<int>(session.further->GetNumberOfColumns()) : 0;
+  for (int i = 0; i < columns; ++i)
+    container.getTable()->AddColumn(session.further->GetColumn(i));
+  PlotMetaData& settings = *container.getMetaData();
+  const std::vector<int> found = settings.parameterColumns;
+  copySettings(*session.settings.plot, settings);
+  const QSignalBlocker silent(&settings);
+  if (!areSomeOf(settings.parameterColumns, found))
+    settings.parameterColumns = found;
+  if (chartCount(container) > mostRestoredCharts)
+    settings.setPlotStyle(xyPlot);
+  container.setLogScaleY(session.settings.logY);
+  container.setShowLegend(session.settings.legend);
+}
+
+void restoreWindow(const RestoredSession& session, PlotContainer& container)
+{
+  const SessionSettings& settings = session.settings;
+  plot::PlotState& state = container.state();
+  state.metaData->storedCoordinateWindow = CoordinateWindow();
+  if (!settings.plot->storedCoordinateWindow.valid)
+    return;
+  state.coordinateWindows[plot::currentKey(state)] = settings.plot->storedCoordinateWindow;
+  state.windowScales[plot::currentKey(state)] = settings.windowScales;
+}
+
+void restoreSelection(const RestoredSession& session, PlotContainer& container)
+{
+  if (session.selected)
+    container.getAnnotationLink()->SetCurrentSelection(selectionOf(session.selected));
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,96 @@
+#ifndef Session_h
+#define Session_h
+
+#include "app/import/ImportProgress.h"
+#include "app/import/Study.h"
+#include "app/session/SessionFile.h"
+#include "app/session/SessionSettings.h"
+
+#include <vtkIntArray.h>
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
+
+#include <QString>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// What a session is made of.
+struct SessionSource
+{
+  const Study& study;
+  /// What shows the study.
+  PlotContainer& container;
+  /// What the user chose, which only an XY chart would know.
+  bool legend = false;
+  bool logY = false;
+  SessionGroups groups;
+  /// Written only with work that is kept until the user saves it.
+  SessionOrigin origin;
+  /// The columns of the container whose runs are normalised, ascending.
+  std::vector<int> normalised;
+  /// The container's table with the values that these had before; none for the table as it is.
+  std::function<vtkSmartPointer<vtkTable>()> original;
+};
+
+/// What a session restores beside its study.
+struct RestoredSession
+{
+  SessionSettings settings;
+  /// How the session's file ended, as of `endOfSession`.
+  QByteArray end;
+  vtkSmartPointer<vtkTable> further;
+  vtkSmartPointer<vtkIntArray> selected;
+};
+
+/// A session's study and the rest, or why there is none.
+struct OpenedSession
+{
+  Study study;
+  /// Null on failure.
+  std::shared_ptr<const RestoredSession> session;
+  /// One line of UTF-8 without the file's name; empty on success.
+  std::string error;
+  bool cancelled = false;
+};
+
+/// All that a session keeps beside its table, as it is now.
+SessionSettings settingsOf(const SessionSource& source);
+
+/// What a session's file would hold. Takes the memory of the table once more.
+SessionParts sessionParts(const SessionSource& source);
+
+/// Writes what a container shows of a study.
+/// @param end gets what the file ends with, as of `endOfSession`, unless it is null
+/// @return why it could not be written, in one line of UTF-8; empty on success
+std::string saveSession(const QString& path, const SessionSource& source,
+                        QByteArray* end = nullptr);
+
+/// Reads a session. May run in any thread.
+/// @param progress told while the bytes are read, and after each further step
+OpenedSession openSession(const QString& path, const ImportProgress& progress = {});
+
+/// Charts of one page that a session brings back; a page of more opens as an XY plot.
+inline constexpr int mostRestoredCharts = 60 * 60;
+
+/// Restores further columns and settings in a container that shows the session's study. The
+/// parameters are those that the container has found, or as many of them as the session names. Does
+/// not draw, and normalises nothing: that is for who keeps the values.
+void restoreSettings(const RestoredSession& session, PlotContainer& container);
+
+/// Restores the part of the plane that was shown, in a container whose settings are restored. Comes
+/// after normalising, which forgets it.
+void restoreWindow(const RestoredSession& session, PlotContainer& container);
+
+/// Selects what was selected, which the container's annotation link announces.
+void restoreSelection(const RestoredSession& session, PlotContainer& container);
+
+} // namespace Talmesh::app
+
+#endif

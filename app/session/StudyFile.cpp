@@ -1,0 +1,185 @@
+#include "app/session/StudyFile.h"
+
+#include "app/import/TranslatedText.h"
+#include "app/session/Session.h"
+#include "app/session/SessionFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstdint>
+#include <exception>
+#include <new>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr qint64 chunk = 4 << 20;
+/// The part of the progress that reading the bytes takes.
+constexpr double readingPart = 0.1;
+
+struct FileBytes
+{
+  std::string bytes;
+  std::string error;
+  bool cancelled = false;
+};
+
+/// A file that grew since its size was asked for may be cut inside a number. Its last line is read
+/// to the end, or left out while it has none.
+void endAtLine(QFile& file, std::string& bytes)
+{
+  if (bytes.empty() || bytes.back() == '\n')
+    return;
+  const QByteArray rest = file.readLine();
+  bytes.append(rest.constData(), static_cast<std::size_t>(rest.size()));
+  if (!rest.isEmpty() && bytes.back() != '\n')
+    bytes.erase(bytes.rfind('\n') + 1);
+}
+
+FileBytes readBytes(const QString& path, const ImportProgress& progress)
+{
+  FileBytes read;
+  const QFileInfo info(path);
+  QFile file(path);
+  if (!info.exists())
+    read.error = translated("StudyFile", "there is no such file");
+  else if (!info.isFile())
+    read.error = translated("StudyFile", "this is not a file");
+  else if (!file.open(QIODevice::ReadOnly))
+    read.error = withValues(translated("StudyFile", "cannot be read: %1"),
+                            {file.errorString().toStdString()});
+  if (!read.error.empty())
+    return read;
+
+  const qint64 size = file.size();
+  read.bytes.resize(static_cast<std::size_t>(size));
+  qint64 filled = 0;
+  while (filled < size)
+  {
+    const qint64 got =
+        file.read(&read.bytes[static_cast<std::size_t>(filled)], std::min(chunk, size - filled));
+    if (got < 0)
+      read.error = withValues(translated("StudyFile", "cannot be read: %1"),
+                              {file.errorString().toStdString()});
+    if (got <= 0)
+      break;
+    filled += got;
+    read.cancelled = progress && !progress(readingPart * static_cast<double>(filled) /
+                                           static_cast<double>(size));
+    if (read.cancelled)
+      break;
+  }
+  read.bytes.resize(static_cast<std::size_t>(filled));
+  if (filled == size && !read.cancelled)
+    endAtLine(file, read.bytes);
+  return read;
+}
+
+/// Gives the memory of a text back to the system while it is read, so that a table is not held
+/// twice, as text and as numbers. What was passed reads as zeros from then on.
+class PassedPages
+{
+public:
+  explicit PassedPages(std::string& text)
+      : given(addressOf(text.data()) + pageSize - 1)
+      , begin(addressOf(text.data()))
+  {
+    given -= given % pageSize;
+  }
+
+  void pass(std::size_t bytes)
+  {
+    const std::uintptr_t end = (begin + bytes) / pageSize * pageSize;
+    if (end < given + static_cast<std::uintptr_t>(chunk))
+      return;
+    // A system that cannot do it keeps the text until it has been read.
+    ::madvise(reinterpret_cast<void*>(given), end - given, MADV_DONTNEED);
+    given = end;
+  }
+
+private:
+  static std::uintptr_t addressOf(const char* byte)
+  {
+    return reinterpret_cast<std::uintptr_t>(byte);
+  }
+
+  const std::uintptr_t pageSize = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+  std::uintptr_t given; ///< the first page that is still there
+  std::uintptr_t begin;
+};
+
+OpenedStudy openBytes(FileBytes& read, const ImportProgress& progress)
+{
+  const auto parsing = [&progress](double done)
+  { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
+  PassedPages pages(read.bytes);
+  ImportedTable imported =
+      importRunTable(read.bytes, parsing, [&pages](std::size_t bytes) { pages.pass(bytes); });
+  OpenedStudy opened;
+  opened.study.runs = imported.runs;
+  opened.study.table = imported.table;
+  opened.error = imported.error;
+  opened.cancelled = imported.cancelled;
+  opened.notes = imported.notes;
+  return opened;
+}
+
+OpenedStudy openFromSession(const QString& path, const ImportProgress& progress)
+{
+  const OpenedSession session = openSession(path, progress);
+  OpenedStudy opened;
+  opened.cancelled = session.cancelled;
+  opened.study = session.study;
+  opened.session = session.session;
+  opened.error = session.error;
+  opened.cancelled = session.cancelled;
+  return opened;
+}
+
+OpenedStudy open(const QString& path, const ImportProgress& progress)
+{
+  if (isSessionFile(path))
+    return openFromSession(path, progress);
+  FileBytes read = readBytes(path, progress);
+  OpenedStudy opened;
+  opened.error = read.error;
+  opened.cancelled = read.cancelled;
+  if (!opened.error.empty() || opened.cancelled)
+    return opened;
+  return openBytes(read, progress);
+}
+
+} // namespace
+
+OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress)
+{
+  OpenedStudy opened;
+  try
+  {
+    opened = open(path, progress);
+  }
+  catch (const std::bad_alloc&)
+  {
+    opened = OpenedStudy();
+    opened.error = translated("StudyFile", "the table does not fit into memory");
+  }
+  catch (const std::exception& failure)
+  {
+    opened = OpenedStudy();
+    opened.error = withValues(translated("StudyFile", "cannot be opened: %1"), {failure.what()});
+  }
+  if (!opened.error.empty())
+    opened.error = path.toStdString() + ": " + opened.error;
+  if (!opened.session)
+    opened.study.name = QFileInfo(path).fileName().toStdString();
+  return opened;
+}
+
+} // namespace Talmesh::app

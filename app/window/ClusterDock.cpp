@@ -1,0 +1,189 @@
+#include "app/window/ClusterDock.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPixmap>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <utility>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr int firstGroups = 3;
+
+enum ClusteringMode : int
+{
+  course = 0,
+  phases = 2,
+  magnitudes = 3
+};
+
+QIcon swatch(const QColor& colour, int size)
+{
+  QPixmap picture(size, size);
+  picture.fill(colour);
+  QIcon icon(picture);
+  // The chosen group keeps its own colour too.
+  icon.addPixmap(picture, QIcon::Selected);
+  return icon;
+}
+
+} // namespace
+
+ClusterDock::ClusterDock(QWidget* parent)
+    : QDockWidget(tr("Groups of runs"), parent)
+    , reasonLabel(new QLabel)
+    , count(new QSpinBox)
+    , modes(new QComboBox)
+    , start(new QPushButton(tr("G&roup the runs")))
+    , list(new QListWidget)
+{
+  setObjectName(QStringLiteral("clusterDock"));
+  reasonLabel->setObjectName(QStringLiteral("clusterReason"));
+  reasonLabel->setWordWrap(true);
+  count->setObjectName(QStringLiteral("clusterCount"));
+  count->setToolTip(tr("Into how many groups the runs are sorted"));
+  modes->setObjectName(QStringLiteral("clusterMode"));
+  modes->setToolTip(tr("What makes two runs alike; level and amplitude never count"));
+  modes->addItem(tr("Course over time"), course);
+  modes->addItem(tr("Phases of the spectrum"), phases);
+  modes->addItem(tr("Magnitudes of the spectrum"), magnitudes);
+  start->setObjectName(QStringLiteral("clusterStart"));
+  start->setToolTip(tr("Sort the runs into groups by the first y column"));
+  list->setObjectName(QStringLiteral("clusterList"));
+  list->setToolTip(tr("Click a group to select its runs"));
+  list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
+  list->setMaximumHeight((mostGroups + 3) * list->fontMetrics().lineSpacing());
+  makeForm();
+  connect(start, &QPushButton::clicked, this, &ClusterDock::groupingRequested);
+  const auto choose = [this](QListWidgetItem* item) { emit groupChosen(list->row(item)); };
+  connect(list, &QListWidget::itemClicked, this, choose);
+  connect(list, &QListWidget::itemActivated, this, choose);
+  reset(0, {});
+}
+
+void ClusterDock::makeForm()
+{
+  auto* panel = new QWidget;
+  auto* layout = new QFormLayout(panel);
+  layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
+  layout->addRow(reasonLabel);
+  layout->addRow(tr("&Number of groups"), count);
+  layout->addRow(tr("Alike &by"), modes);
+  layout->addRow(start);
+  layout->addRow(list);
+  setWidget(panel);
+  colours = addSwitch(QStringLiteral("groupColours"), tr("&Colours of the groups"),
+                      tr("Draw each run in the colour of its group in the XY plot"));
+  means = addSwitch(QStringLiteral("groupMeans"), tr("&Mean of each group"),
+                    tr("Draw the mean course of each group in the XY plot"));
+  bands = addSwitch(QStringLiteral("runBands"), tr("&Quartile bands"),
+                    tr("Draw range, quartiles and median of all runs in the XY plot, and of the "
+                       "runs only the selected ones unless they have the colours of groups"));
+  for (const QCheckBox* box : {colours, means, bands})
+    connect(box, &QCheckBox::toggled, this, &ClusterDock::lookChanged);
+  normalise = addSwitch(QStringLiteral("normaliseRuns"), tr("Normalise each run to its m&aximum"),
+                        tr("Scale each run of the chosen y columns so that its largest value is 1; "
+                           "unticked, the values are loaded again. Times, numbers of runs and "
+                           "parameters are left out"));
+  connect(normalise, &QCheckBox::toggled, this, &ClusterDock::normalisingRequested);
+}
+
+QCheckBox* ClusterDock::addSwitch(const QString& name, const QString& text, const QString& toolTip)
+{
+  auto* box = new QCheckBox(text);
+  box->setObjectName(name);
+  box->setToolTip(toolTip);
+  static_cast<QFormLayout*>(widget()->layout())->addRow(box);
+  return box;
+}
+
+void ClusterDock::reset(int runs, const QString& reason)
+{
+  const bool usable = reason.isEmpty();
+  reasonLabel->setText(reason);
+  reasonLabel->setVisible(!usable);
+  count->setRange(1, std::max(1, std::min(runs, mostGroups)));
+  count->setValue(firstGroups);
+  list->clear();
+  for (QCheckBox* box : {colours, means, bands, normalise})
+  {
+    const QSignalBlocker silent(box);
+    box->setChecked(false);
+  }
+  const std::initializer_list<QWidget*> controls = {count, modes, start, list, bands, normalise};
+  for (QWidget* control : controls)
+    control->setEnabled(usable);
+  enableGroupSwitches();
+}
+
+void ClusterDock::setGroups(const RunGroups& groups)
+{
+  list->clear();
+  const int size = list->fontMetrics().ascent();
+  for (std::size_t group = 0; group < groups.names.size(); ++group)
+    new QListWidgetItem(swatch(groupColour(static_cast<int>(group)), size),
+                        QString::fromStdString(groups.names[group]), list);
+  const QSignalBlocker silent(colours);
+  colours->setChecked(list->count() > 0);
+  enableGroupSwitches();
+}
+
+void ClusterDock::enableGroupSwitches()
+{
+  colours->setEnabled(list->count() > 0);
+  means->setEnabled(list->count() > 0);
+}
+
+void ClusterDock::setNormalised(bool on)
+{
+  const QSignalBlocker silent(normalise);
+  normalise->setChecked(on);
+}
+
+void ClusterDock::setGrouping(int groupCount, int mode)
+{
+  if (groupCount >= count->minimum() && groupCount <= count->maximum())
+    count->setValue(groupCount);
+  const int place = modes->findData(mode);
+  if (place >= 0)
+    modes->setCurrentIndex(place);
+}
+
+void ClusterDock::setLook(const RunLook& look)
+{
+  const std::pair<QCheckBox*, bool> switches[] = {
+      {colours, look.groupColours}, {means, look.groupMeans}, {bands, look.quartileBands}};
+  for (const auto& [box, on] : switches)
+  {
+    const QSignalBlocker silent(box);
+    box->setChecked(on && box->isEnabled());
+  }
+}
+
+int ClusterDock::groupCount() const
+{
+  return count->value();
+}
+
+int ClusterDock::mode() const
+{
+  return modes->currentData().toInt();
+}
+
+RunLook ClusterDock::look() const
+{
+  return {colours->isChecked(), means->isChecked(), bands->isChecked()};
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,67 @@
+#ifndef ClusterDock_h
+#define ClusterDock_h
+
+#include "app/document/GroupedPlots.h"
+
+#include <QDockWidget>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QSpinBox;
+
+namespace Talmesh::app
+{
+
+/// The panel that sorts runs into groups, lists the groups, and says how the runs are shown.
+class ClusterDock : public QDockWidget
+{
+  Q_OBJECT
+
+public:
+  explicit ClusterDock(QWidget* parent = nullptr);
+
+  /// Starts anew for data of so many runs, without groups. Emits nothing.
+  /// @param reason why the panel can do nothing with the data; empty when it can
+  void reset(int runs, const QString& reason);
+  /// Lists groups and turns their colours on. Emits nothing.
+  void setGroups(const RunGroups& groups);
+  /// Emits nothing.
+  void setNormalised(bool on);
+  /// Chooses how groups are made. Keeps what it does not offer. Emits nothing.
+  void setGrouping(int groupCount, int mode);
+  /// Emits nothing.
+  void setLook(const RunLook& look);
+
+  int groupCount() const;
+  /// The mode of the container's clustering.
+  int mode() const;
+  RunLook look() const;
+
+signals:
+  void groupingRequested();
+  void groupChosen(int group);
+  void lookChanged();
+  void normalisingRequested(bool on);
+
+private:
+  void makeForm();
+  QCheckBox* addSwitch(const QString& name, const QString& text, const QString& toolTip);
+  void enableGroupSwitches();
+
+  QLabel* reasonLabel;
+  QSpinBox* count;
+  QComboBox* modes;
+  QPushButton* start;
+  QListWidget* list;
+  QCheckBox* colours = nullptr;
+  QCheckBox* means = nullptr;
+  QCheckBox* bands = nullptr;
+  QCheckBox* normalise = nullptr;
+};
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,44 @@
+#include "app/window/FileDialogs.h"
+
+#include "widgets/WidgetSupport.h"
+
+#include <utility>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+QFileDialog* makeDialog(QWidget* parent, const QString& title, const QString& filter,
+                        FileChosen chosen)
+{
+  auto* dialog = new QFileDialog(parent, title, {}, filter);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOptions(getFileDialogOption());
+  QObject::connect(dialog, &QFileDialog::fileSelected, parent, std::move(chosen));
+  return dialog;
+}
+
+} // namespace
+
+QFileDialog* askToOpen(QWidget* parent, const QString& title, const QString& filter,
+                       FileChosen chosen)
+{
+  QFileDialog* dialog = makeDialog(parent, title, filter, std::move(chosen));
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  dialog->open();
+  return dialog;
+}
+
+QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& filter,
+                       const QString& suffix, FileChosen chosen)
+{
+  QFileDialog* dialog = makeDialog(parent, title, filter, std::move(chosen));
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setDefaultSuffix(suffix);
+  dialog->open();
+  return dialog;
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,64 @@
+#ifndef PlotDock_h
+#define PlotDock_h
+
+#include "app/document/PlotChoice.h"
+
+#include <QDockWidget>
+#include <QStringList>
+
+class QCheckBox;
+class QComboBox;
+class QListWidget;
+
+namespace Talmesh::app
+{
+
+/// The panel in which the user chooses style, columns and switches.
+class PlotDock : public QDockWidget
+{
+  Q_OBJECT
+
+public:
+  explicit PlotDock(QWidget* parent = nullptr);
+
+  /// Offers the columns of a table, by their names in column order. Emits nothing.
+  void setColumns(const QStringList& names);
+  /// The names given last.
+  QStringList columns() const;
+  /// Shows a choice. Emits nothing.
+  void setChoice(const PlotChoice& choice);
+  /// What the controls say. Legend and logarithmic y axis are those that the user wishes for the
+  /// styles that have them; their switches are off in the others. The y columns stand in the order
+  /// in which they were chosen, each once; without a ticked column the one ticked last stays.
+  PlotChoice choice() const;
+
+signals:
+  /// The user changed something.
+  void choiceChanged();
+
+private:
+  QCheckBox* addSwitch(const QString& text, const QString& toolTip);
+  void tickColumns(const std::vector<int>& columns);
+  std::vector<int> tickedColumns() const;
+  void emitChoice();
+  void readWishes();
+  void enableControls();
+
+  QComboBox* style;
+  QComboBox* x;
+  QListWidget* y;
+  QComboBox* z;
+  QCheckBox* lines;
+  QCheckBox* legend;
+  QCheckBox* logX;
+  QCheckBox* logY;
+  std::vector<int> lastTicked{1};
+  bool wishedLegend = false;
+  bool wishedLogY = false;
+  /// A style that is shown but not offered.
+  plotStyles unofferedStyle = xyPlot;
+};
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,180 @@
+#include "app/window/SessionController.h"
+
+#include "app/window/FileDialogs.h"
+#include "app/window/SessionQuestions.h"
+#include "plot/PlotContainer.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QWidget>
+
+#include <utility>
+
+namespace Talmesh::app
+{
+
+SessionController::SessionController(QWidget& parent, Source whatIsShown)
+    : QObject(&parent)
+    , window(parent)
+    , source(std::move(whatIsShown))
+{
+}
+
+void SessionController::opened(const SessionOrigin& origin)
+{
+  if (const std::optional<SessionSource> now = source())
+    record.saved(workOf(*now), origin);
+  forget();
+}
+
+void SessionController::broughtBack(const SessionOrigin& origin, const LeftWork& work)
+{
+  record.broughtBack(origin);
+  if (keeper)
+    keeper->takeOver(work);
+}
+
+void SessionController::selectionSaved()
+{
+  if (const std::optional<SessionSource> now = source())
+    record.selectionSaved(workOf(*now));
+}
+
+UnsavedParts SessionController::unsavedParts()
+{
+  const std::optional<SessionSource> now = source();
+  return now ? record.unsaved(workOf(*now)) : UnsavedParts();
+}
+
+bool SessionController::isUnsaved()
+{
+  return unsavedParts().any();
+}
+
+void SessionController::leave(const Step& then)
+{
+  const UnsavedParts parts = unsavedParts();
+  if (!parts.any())
+  {
+    then();
+    return;
+  }
+  askBeforeLeaving(&window, QString::fromStdString(source()->study.name), parts,
+                   [this, then](LeavingAnswer answer)
+                   {
+                     if (answer == LeavingAnswer::save)
+                       save(then);
+                     else if (answer == LeavingAnswer::discard)
+                       then();
+                   });
+}
+
+void SessionController::forget()
+{
+  if (keeper)
+    keeper->forget();
+}
+
+void SessionController::end()
+{
+  forget();
+  delete keeper;
+  keeper = nullptr;
+}
+
+void SessionController::save(const Step& then)
+{
+  const QString path = record.origin().path;
+  path.isEmpty() ? saveAs(then) : saveOver(path, then);
+}
+
+void SessionController::saveAs(const Step& then)
+{
+  const std::optional<SessionSource> now = source();
+  if (!now)
+    return;
+  QFileDialog* dialog = askToSave(&window, tr("Save session"), tr("Sessions (*.talmesh)"),
+                                  QLatin1String(sessionSuffix),
+                                  [this, then](const QString& path) { saveOver(path, then); });
+  // Another study has another container: this one is no longer there to be saved.
+  connect(&now->container, &QObject::destroyed, dialog, &QDialog::reject);
+}
+
+void SessionController::saveOver(const QString& path, const Step& then)
+{
+  const auto write = [this, path, then]
+  {
+    if (saveTo(path) && then)
+      then();
+  };
+  if (!hasChangedMeanwhile(record.origin(), path))
+  {
+    write();
+    return;
+  }
+  askBeforeOverwriting(&window, path,
+                       [this, write, then](OverwritingAnswer answer)
+                       {
+                         if (answer == OverwritingAnswer::overwrite)
+                           write();
+                         else if (answer == OverwritingAnswer::elsewhere)
+                           saveAs(then);
+                       });
+}
+
+bool SessionController::saveTo(const QString& path)
+{
+  const std::optional<SessionSource> now = source();
+  if (!now)
+    return false;
+  SessionOrigin written_{path, {}};
+  const std::string error = saveSession(path, *now, &written_.end);
+  if (error.empty())
+  {
+    // What went into a pipe is in no file.
+    record.saved(workOf(*now), QFileInfo(path).isFile() ? written_ : SessionOrigin());
+    forget();
+  }
+  emit written(path, error);
+  return error.empty();
+}
+
+void SessionController::keepIn(const QString& folder, int milliseconds)
+{
+  const auto unsaved = [this]() -> std::optional<SessionSource>
+  {
+    if (!isUnsaved())
+      return {};
+    std::optional<SessionSource> now = source();
+    now->origin = record.origin();
+    return now;
+  };
+  delete keeper;
+  keeper = new WorkKeeper(folder, unsaved, milliseconds, this);
+  connect(keeper, &WorkKeeper::failed, this, &SessionController::failed);
+}
+
+void SessionController::keepNow()
+{
+  if (keeper)
+    keeper->keepNow();
+}
+
+void SessionController::offerLeftWork()
+{
+  const LeftWork left = keeper ? latestLeftWork(keeper->folder()) : LeftWork();
+  if (!left.lock)
+    return;
+  askAboutLeftWork(&window, left,
+                   [this, left](LeftWorkAnswer answer)
+                   {
+                     if (answer == LeftWorkAnswer::bringBack)
+                       emit bringBackWanted(left);
+                     if (answer != LeftWorkAnswer::discard)
+                       return;
+                     discard(left);
+                     offerLeftWork();
+                   });
+}
+
+} // namespace Talmesh::app

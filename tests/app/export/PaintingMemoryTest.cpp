@@ -1,0 +1,81 @@
+#include "app/export/PaintingMemory.h"
+
+#include "app/document/PlotChoice.h"
+#include "app/document/ShownStudy.h"
+#include "app/export/PictureFile.h"
+#include "external/PlotMetaData.h"
+#include "plot/PlotContainer.h"
+#include "support/TightMemory.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <vtkTable.h>
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+
+TEST(PaintingMemory, GrowsWithPointsAndPixels)
+{
+  PlotContainer container(nullptr);
+  showStudy(sampleStudy(sampleRuns(3, 4)), container);
+  const std::size_t few = memoryToPaint(container, {100, 100});
+  EXPECT_GE(few, std::size_t{100 * 100 * 4});
+  EXPECT_GE(memoryToPaint(container, {20000, 20000}), std::size_t{20000} * 20000 * 4);
+  showStudy(sampleStudy(sampleRuns(3, 4000)), container);
+  EXPECT_GT(memoryToPaint(container, {100, 100}), few + 3 * 3996 * sizeof(float));
+}
+
+TEST(PaintingMemory, IsThatOfEveryPairAndEveryAxisOfARow)
+{
+  PlotContainer container(nullptr);
+  showStudy(sampleStudy(sampleRuns(10, 1000)), container);
+  container.getMetaData()->blockSignals(true);
+  const auto neededBy = [&container](plotStyles style)
+  {
+    container.getMetaData()->setPlotStyle(style);
+    return memoryToPaint(container, {100, 100});
+  };
+  const std::size_t pixels = memoryToPaint(PlotContainer(nullptr), {100, 100});
+  const std::size_t plain = neededBy(xyPlot);
+  container.getMetaData()->setLimitColumVisibility(false);
+  const auto columns = static_cast<std::size_t>(container.getTable()->GetNumberOfColumns());
+  EXPECT_EQ(neededBy(scatterPlotMatrix) - pixels, columns * (columns - 1) / 2 * (plain - pixels));
+  container.getMetaData()->setLimitColumVisibility(true);
+  // The parameter k and two more are three pairs.
+  EXPECT_EQ(neededBy(scatterPlotMatrix) - pixels, 3 * (plain - pixels));
+  EXPECT_EQ(neededBy(parallelCoordinates) - pixels, columns * (plain - pixels));
+}
+
+TEST(PaintingMemory, IsThereOrNot)
+{
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "The sanitizer takes addresses without bound.";
+#endif
+  const TightMemory tight(std::size_t{64} << 20U);
+  EXPECT_TRUE(hasMemory(0));
+  EXPECT_TRUE(hasMemory(1 << 20));
+  EXPECT_FALSE(hasMemory(std::size_t{128} << 20U));
+}
+
+TEST(PaintingMemory, IsMissedBeforeAnythingIsPainted)
+{
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "The sanitizer takes addresses without bound.";
+#endif
+  const QTemporaryDir folder;
+  const auto widget = makeHiddenPlot(QSize(200, 150));
+  showStudy(sampleStudy(), *widget->plotContainer());
+  applyChoice(*widget->plotContainer(), choiceOf(*widget->plotContainer()));
+  const QString path = folder.filePath(QStringLiteral("plot.png"));
+  ASSERT_EQ(exportPlot(*widget, path), "");
+  ASSERT_TRUE(QFile::remove(path));
+  const TightMemory tight(std::size_t{128} << 20U);
+  EXPECT_EQ(exportPlot(*widget, path, {QSizeF(400.0, 400.0), 1200}),
+            path.toStdString() + ": there is not enough memory for this picture");
+  EXPECT_FALSE(QFile::exists(path));
+}

@@ -1,0 +1,97 @@
+#include "window/SelectionInWindow.h"
+
+namespace
+{
+
+using namespace Talmesh::app;
+
+constexpr plotStyles drawnStyles[] = {xyPlot,
+                                      scatterPlotMatrix,
+                                      xyzPlot,
+                                      multiPlot,
+                                      selectionCdfPlot,
+                                      scatterWithErrorBars,
+                                      fitParameterDistribution,
+                                      parallelCoordinates};
+
+/// What one style does to the selection of another.
+class SelectionInEveryStyle : public SelectionInWindow
+{
+};
+
+TEST_F(SelectionInEveryStyle, SurvivesAChangeOfStyleAndColumns)
+{
+  dragAround(1, 1);
+  for (const plotStyles style : drawnStyles)
+  {
+    choose(style);
+    EXPECT_EQ(runs(), Runs{1}) << style;
+    EXPECT_EQ(flags(), Rows{5}) << style;
+    EXPECT_EQ(window.selectionText(), "1 of 3 runs selected") << style;
+    if (style == parallelCoordinates)
+    {
+      EXPECT_EQ(highlightedLines(), Rows{5});
+    }
+    // Style 4 shows no selection; 3, 6 and 8 have something red without one.
+    else if (style == xyPlot || style == multiPlot || style == scatterWithErrorBars)
+    {
+      EXPECT_GT(redPixels(), 10) << style;
+    }
+  }
+  PlotChoice choice = window.plotDock()->choice();
+  choice.y = {1};
+  window.plotDock()->setChoice(choice);
+  emit window.plotDock()->choiceChanged();
+  EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInEveryStyle, SplitsTheRunsForTheStatistics)
+{
+  dragAround(1, 1);
+  choose(selectionCdfPlot);
+  EXPECT_EQ(container().getDerivedTables().size(), 8U);
+  EXPECT_EQ(container().getKsResults().size(), container().getMetaData()->parameterColumns.size());
+}
+
+TEST_F(SelectionInEveryStyle, IsCleared)
+{
+  for (const plotStyles style : drawnStyles)
+  {
+    choose(xyPlot);
+    dragAround(1, 1);
+    choose(style);
+    press(QKeySequence(Qt::Key_Escape));
+    EXPECT_EQ(runs(), Runs{}) << style;
+    EXPECT_EQ(flags(), Rows{}) << style;
+    EXPECT_EQ(window.selectionText(), "0 of 3 runs selected") << style;
+    if (style == parallelCoordinates)
+    {
+      EXPECT_EQ(highlightedLines(), Rows{});
+    }
+    else if (style == xyPlot || style == multiPlot || style == scatterWithErrorBars)
+    {
+      EXPECT_EQ(redPixels(), 0) << style;
+    }
+  }
+}
+
+TEST_F(SelectionInEveryStyle, IsUndoneAndRedone)
+{
+  for (const plotStyles style : drawnStyles)
+  {
+    choose(xyPlot);
+    dragAround(1, 1);
+    dragAround(2, 1);
+    choose(style);
+    press(QKeySequence::Undo);
+    EXPECT_EQ(runs(), Runs{1}) << style;
+    EXPECT_EQ(window.selectionText(), "1 of 3 runs selected") << style;
+    press(QKeySequence::Redo);
+    EXPECT_EQ(runs(), Runs{2}) << style;
+    press(QKeySequence::Undo);
+    press(QKeySequence::Undo);
+    EXPECT_EQ(flags(), Rows{}) << style;
+  }
+}
+
+} // namespace
