@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
+#include "plot/LostColumns.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
@@ -40,15 +41,15 @@ void dressLeftAxis(vtkAxis* axis, bool total)
 }
 
 /// Names of the columns before the last one that VTK can stack: it reads every series over the
-/// whole length of the table.
+/// whole length of the table, and finds it as the first column of its name.
 std::vector<std::string> seriesNames(vtkTable* table)
 {
   std::vector<std::string> names;
   for (int column = 0; column + 1 < table->GetNumberOfColumns(); ++column)
   {
-    vtkDataArray* values = plottableColumn(table, column);
-    if (values && values->GetNumberOfTuples() == table->GetNumberOfRows())
-      names.push_back(columnName(table, column));
+    const std::string name = columnName(table, column);
+    if (plottableColumn(table, column) && !name.empty() && hasNumbers(table, name))
+      names.push_back(name);
   }
   return names;
 }

@@ -74,8 +74,8 @@ QImage paintPicture(VtkPlotWidget& widget, const QSize& size, double scale, cons
   // Scenes count rows from the bottom.
   painter.translate(0.0, filled.height() - scale * size.height());
   painter.scale(scale, scale);
-  // Thousands of runs are counted in a moment, but stroked for minutes.
-  paint(widget, painter, size, scale, Vectors::Auto);
+  // Pixels are all that there will be: runs are counted in a moment, but stroked for seconds.
+  paint(widget, painter, size, scale, Vectors::None);
   painter.end();
   if (filled == pixels)
     return picture;

@@ -218,6 +218,23 @@ TEST_F(SobolChart, MissingAndTextSeriesAreLeftOut)
   }
 }
 
+TEST_F(SobolChart, ASeriesBehindTextOfItsNameIsLeftOut)
+{
+  container.getMetaData()->blockSignals(true);
+  for (const plotStyles style : {reservedStyle1, reservedStyle2})
+  {
+    container.setPlotData(tableOf({{"a", {1, 2, 3}}}));
+    addStringColumn(table(), "b");
+    table()->AddColumn(Talmesh::plot::makeColumn("c", {1, 2, 3}));
+    table()->AddColumn(Talmesh::plot::makeColumn("Time", {1, 2, 3}));
+    table()->GetColumn(2)->SetName("b");
+    container.getMetaData()->setPlotStyle(style);
+    container.setupStackedSobol(false);
+    EXPECT_EQ(stringsOf(chart()->GetPlot(0)->GetLabels()), (std::vector<std::string>{"a"}));
+    render();
+  }
+}
+
 TEST_F(SobolChart, ATextColumnMayComeFirst)
 {
   auto mixed = vtkSmartPointer<vtkTable>::New();

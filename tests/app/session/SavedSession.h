@@ -1,8 +1,8 @@
 #ifndef SavedSession_h
 #define SavedSession_h
 
+#include "app/document/PlotSession.h"
 #include "app/document/ShownStudy.h"
-#include "app/session/Session.h"
 #include "app/session/SessionFile.h"
 #include "app/session/SessionTable.h"
 #include "plot/PlotContainer.h"
