@@ -3,6 +3,7 @@
 #include "vtk/AggregateTarget.h"
 #include "vtk/PlotItemPainting.h"
 
+#include <vtkFloatArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkObjectFactory.h>
 #include <vtkPen.h>
