@@ -36,7 +36,8 @@ public:
   {
     Bundle,     ///< the runs of a line set
     Highlights, ///< runs that are drawn again on top
-    Points      ///< markers of a point cloud, highlighted or not
+    Points,     ///< markers of a point cloud, highlighted or not
+    Corners     ///< of lines across parallel axes, which are short
   };
 
   virtual ~AggregateDevice() = default;

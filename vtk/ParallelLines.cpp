@@ -154,9 +154,9 @@ bool ParallelLines::HasPictures(const AggregateTarget& target)
 {
   vtkTable* const table = this->Data->GetInput();
   vtkUnsignedCharArray* const colors = this->LineColors();
-  return this->Visible && table && this->Pen->GetLineType() == vtkPen::SOLID_LINE &&
-         !target.wantsShapes(Shapes::Bundle, table->GetNumberOfRows()) &&
-         axesOf(this, table).size() > 1 &&
+  const auto axes = table ? static_cast<vtkIdType>(axesOf(this, table).size()) : 0;
+  return this->Visible && axes > 1 && this->Pen->GetLineType() == vtkPen::SOLID_LINE &&
+         !target.wantsShapes(Shapes::Corners, axes * table->GetNumberOfRows()) &&
          (!colors || colors->GetNumberOfTuples() >= table->GetNumberOfRows());
 }
 

@@ -122,9 +122,11 @@ TEST_F(ParallelLinesPicture, IsALineForEachRowOnAnyOtherDevice)
   paintOn(plain);
   EXPECT_EQ(linesOf(plain, 25).size(), 8u);
   EXPECT_TRUE(plain->calls(Kind::Image).empty());
-  device->shapes = 8;
+  device->shapes = 16; // corners
   EXPECT_TRUE(paint().empty());
   EXPECT_EQ(linesOf(device, 25).size(), 8u);
+  device->shapes = 15;
+  EXPECT_EQ(paint().size(), 1u);
   device->shapes = 0;
   lines->GetPen()->SetLineType(vtkPen::DASH_LINE);
   EXPECT_TRUE(paint().empty());
