@@ -73,7 +73,7 @@ PointInputs CachedPoints::Inputs() const
 void CachedPoints::CalculateExtremeLogarithms()
 {
   vtkDataArray* columns[2];
-  if (!(this->LogX || this->LogY) || !this->Points ||
+  if (!(this->LogX || this->LogY) || !this->Points || this->Points->GetNumberOfPoints() == 0 ||
       !this->GetDataArrays(this->Data->GetInput(), columns))
     return;
   auto* const points = static_cast<float*>(this->Points->GetVoidPointer(0));

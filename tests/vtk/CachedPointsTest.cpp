@@ -84,4 +84,12 @@ TYPED_TEST(CachedPoints, HaveLogarithmsOfShiftedAndScaledValues)
   this->show({1, 2}, {9e-60, 1.0});
   EXPECT_EQ(this->points(), (Points{{1.0F, -57.0F}, {2.0F, 2.0F}}));
 }
+
+TYPED_TEST(CachedPoints, AreNoneOfATableWithoutRows)
+{
+  this->x->SetLogScale(true);
+  this->y->SetLogScale(true);
+  this->show({}, {});
+  EXPECT_TRUE(!this->item->Points || this->points().empty());
+}
 } // namespace
