@@ -243,13 +243,15 @@ vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsBetween(const vtkVector2f& 
       vtkPlot* plot = selectablePlot(corner, i);
       if (!plot)
         continue;
-      hits.Add(plot->GetInput(), -1);
+      // Asked once: it takes longer than all that is done for a row.
+      vtkTable* const input = plot->GetInput();
+      hits.Add(input, -1);
       // The plot writes into its list, which may be that of the link and of other plots.
       plot->SetSelection(vtkNew<vtkIdTypeArray>());
       plot->SelectPoints(low, high);
       vtkIdTypeArray* rows = plot->GetSelection();
       for (vtkIdType k = 0; k < rows->GetNumberOfValues(); ++k)
-        hits.Add(plot->GetInput(), rows->GetValue(k));
+        hits.Add(input, rows->GetValue(k));
     }
   }
   return hits;

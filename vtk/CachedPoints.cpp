@@ -1,10 +1,12 @@
 #include "vtk/CachedPoints.h"
 
 #include "vtk/PlotItemPainting.h"
+#include "vtk/PointPicking.h"
 
 #include <vtkAxis.h>
 #include <vtkContextMapper2D.h>
 #include <vtkDoubleArray.h>
+#include <vtkIdTypeArray.h>
 #include <vtkPoints2D.h>
 #include <vtkTable.h>
 #include <vtkUnsignedCharArray.h>
@@ -56,6 +58,29 @@ void CachedPoints::Update()
   if (!current)
     this->CalculateExtremeLogarithms();
   this->CachedInputs = inputs;
+}
+
+vtkIdTypeArray* CachedPoints::OwnSelection()
+{
+  if (!this->Selection)
+    this->Selection = vtkIdTypeArray::New();
+  return this->Selection;
+}
+
+bool CachedPoints::SelectPoints(const vtkVector2f& min, const vtkVector2f& max)
+{
+  if (!this->Points)
+    return false;
+  pickInRectangle(this->Points, min, max, this->OwnSelection());
+  return this->Selection->GetNumberOfValues() > 0;
+}
+
+bool CachedPoints::SelectPointsInPolygon(const vtkContextPolygon& polygon)
+{
+  if (!this->Points)
+    return false;
+  pickInPolygon(this->Points, polygon, this->OwnSelection());
+  return this->Selection->GetNumberOfValues() > 0;
 }
 
 PointInputs CachedPoints::Inputs() const

@@ -17,6 +17,13 @@ public:
   /// Does nothing when the item is invisible or has no input table.
   void Update() override;
 
+  ///@{
+  /// Selects the points that VTK selects, in its order, without sorting them first.
+  /// @return whether there are any
+  bool SelectPoints(const vtkVector2f& min, const vtkVector2f& max) override;
+  bool SelectPointsInPolygon(const vtkContextPolygon& polygon) override;
+  ///@}
+
 protected:
   CachedPoints() = default;
   ~CachedPoints() override = default;
@@ -26,6 +33,7 @@ private:
   void operator=(const CachedPoints&) = delete;
 
   PointInputs Inputs() const;
+  vtkIdTypeArray* OwnSelection();
   void CalculateExtremeLogarithms();
 
   PointInputs CachedInputs; ///< of the cached points
