@@ -10,6 +10,7 @@
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "stats/GridDensity.h"
 #include "stats/RankedParameter.h"
+#include "vtk/KeptMemory.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkChartXY.h>
@@ -121,6 +122,7 @@ void selectionStages(benchmark::State& state)
     measure(state, "picking", [&] { window.release(); });
     window.select(++choice);
     reacting = &container;
+    std::optional<Talmesh::KeptMemory> ofPartsBefore(std::in_place);
     container.state().derivedTables.resize(Talmesh::plot::ownSlots);
     Talmesh::plot::RunSplit split;
     measure(state, "split",
@@ -133,6 +135,7 @@ void selectionStages(benchmark::State& state)
               addDataSet(container, split.selected);
               addDataSet(container, split.remaining);
             });
+    ofPartsBefore.reset();
     for (const std::size_t dataSet : {1, 2})
     {
       auto lists = rankedValues(container.getDerivedTables().at(rankSlot(dataSet)));

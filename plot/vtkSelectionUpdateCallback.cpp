@@ -8,6 +8,7 @@
 #include "plot/RunSplit.h"
 #include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
+#include "vtk/KeptMemory.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkObjectFactory.h>
@@ -71,7 +72,12 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
     Talmesh::plot::cutSelectionToTable(container.state());
   if (container.getMetaData()->parameterColumns.empty())
     return;
-  container.state().derivedTables.resize(Talmesh::plot::ownSlots);
-  reportFailure(container, [&] { compareRuns(container, link); });
+  reportFailure(container,
+                [&]
+                {
+                  const Talmesh::KeptMemory ofPartsBefore;
+                  container.state().derivedTables.resize(Talmesh::plot::ownSlots);
+                  compareRuns(container, link);
+                });
   reportFailure(container, [&] { container.redraw(); });
 }

@@ -1,9 +1,12 @@
 #include "vtk/MarkerCopy.h"
 
+#include "stats/ParallelParts.h"
+
 #include <vtkDataArray.h>
 #include <vtkIdTypeArray.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 
 namespace Talmesh
@@ -15,6 +18,23 @@ vtkIdType toMarker(double value)
 {
   return std::abs(value) < 9.0e18 ? static_cast<vtkIdType>(value) : 0;
 }
+
+/// Enough rows to be worth a thread.
+constexpr std::size_t rowsOfPart = 65536;
+
+/// Pages that the system has yet to give take longer than what is copied into them.
+vtkIdType copyValues(const vtkIdType* from, std::size_t count, vtkIdType* to)
+{
+  std::atomic<vtkIdType> marked{0};
+  stats::inParallelParts(count, rowsOfPart,
+                         [&](std::size_t first, std::size_t last)
+                         {
+                           std::copy(from + first, from + last, to + first);
+                           marked += static_cast<vtkIdType>(last - first) -
+                                     std::count(from + first, from + last, 0);
+                         });
+  return marked;
+}
 } // namespace
 
 vtkIdType copyMarkers(vtkDataArray* markers, vtkIdTypeArray* copy)
@@ -23,14 +43,9 @@ vtkIdType copyMarkers(vtkDataArray* markers, vtkIdTypeArray* copy)
   copy->SetNumberOfValues(rowCount);
   auto* ids = vtkIdTypeArray::FastDownCast(markers);
   if (ids && ids->GetNumberOfComponents() == 1)
-  {
-    std::copy_n(ids->GetPointer(0), rowCount, copy->GetPointer(0));
-  }
-  else
-  {
-    for (vtkIdType row = 0; row < rowCount; ++row)
-      copy->SetValue(row, toMarker(markers->GetComponent(row, 0)));
-  }
+    return copyValues(ids->GetPointer(0), static_cast<std::size_t>(rowCount), copy->GetPointer(0));
+  for (vtkIdType row = 0; row < rowCount; ++row)
+    copy->SetValue(row, toMarker(markers->GetComponent(row, 0)));
   const vtkIdType* const values = copy->GetPointer(0);
   return rowCount - std::count(values, values + rowCount, 0);
 }

@@ -1,6 +1,7 @@
 #include "vtk/RowCopies.h"
 
 #include "stats/ParallelParts.h"
+#include "vtk/KeptMemory.h"
 
 #include <vtkDataArray.h>
 #include <vtkDataSetAttributes.h>
@@ -34,23 +35,11 @@ void appendMissingCell(vtkAbstractArray* column)
   }
 }
 
-/// Rows that follow each other.
-struct RowBlock
-{
-  vtkIdType first;
-  vtkIdType count;
-};
-
 std::vector<RowBlock> blocksOf(const std::vector<vtkIdType>& rows)
 {
   std::vector<RowBlock> blocks;
   for (const vtkIdType row : rows)
-  {
-    if (!blocks.empty() && blocks.back().first + blocks.back().count == row)
-      ++blocks.back().count;
-    else
-      blocks.push_back({row, 1});
-  }
+    addRow(blocks, row);
   return blocks;
 }
 
@@ -78,8 +67,13 @@ std::optional<PlainCopy> plainCopy(vtkAbstractArray* from, vtkAbstractArray* to,
   const auto rowBytes = static_cast<std::size_t>(source->GetNumberOfComponents()) *
                         static_cast<std::size_t>(source->GetDataTypeSize());
   const vtkIdType before = target->GetNumberOfTuples();
-  target->Resize(before + count);
-  target->SetNumberOfTuples(before + count);
+  if (before == 0)
+    giveRoom(target, count);
+  else
+  {
+    target->Resize(before + count);
+    target->SetNumberOfTuples(before + count);
+  }
   return PlainCopy{static_cast<const char*>(source->GetVoidPointer(0)),
                    static_cast<char*>(target->GetVoidPointer(0)) +
                        static_cast<std::size_t>(before) * rowBytes,
@@ -96,7 +90,32 @@ void copyBlocks(const PlainCopy& copy, const std::vector<RowBlock>& blocks)
     to += bytes;
   }
 }
+void appendRow(vtkAbstractArray* from, vtkIdType row, vtkAbstractArray* to)
+{
+  // VTK copies tuples unchecked, and the columns of a table may differ in length.
+  if (row < from->GetNumberOfTuples())
+    to->InsertNextTuple(row, from);
+  else
+    appendMissingCell(to);
+}
 } // namespace
+
+void addRow(std::vector<RowBlock>& blocks, vtkIdType row)
+{
+  if (!blocks.empty() && blocks.back().first + blocks.back().count == row)
+    ++blocks.back().count;
+  else
+    blocks.push_back({row, 1});
+}
+
+std::vector<vtkIdType> rowsOf(const std::vector<RowBlock>& blocks)
+{
+  std::vector<vtkIdType> rows;
+  for (const RowBlock& block : blocks)
+    for (vtkIdType row = block.first; row < block.first + block.count; ++row)
+      rows.push_back(row);
+  return rows;
+}
 
 void copyColumnStructure(vtkTable* source, vtkTable* target)
 {
@@ -105,29 +124,34 @@ void copyColumnStructure(vtkTable* source, vtkTable* target)
 
 void appendRows(vtkTable* source, const std::vector<vtkIdType>& rows, vtkTable* target)
 {
-  if (rows.empty())
+  appendRows(source, blocksOf(rows), target);
+}
+
+void appendRows(vtkTable* source, const std::vector<RowBlock>& blocks, vtkTable* target)
+{
+  vtkIdType count = 0;
+  vtkIdType lastRow = -1;
+  for (const RowBlock& block : blocks)
+  {
+    count += block.count;
+    lastRow = std::max(lastRow, block.first + block.count - 1);
+  }
+  if (count == 0)
     return;
-  const vtkIdType lastRow = *std::max_element(rows.begin(), rows.end());
   std::vector<PlainCopy> copies;
   for (vtkIdType c = 0; c < source->GetNumberOfColumns(); ++c)
   {
     vtkAbstractArray* from = source->GetColumn(c);
     vtkAbstractArray* to = target->GetColumn(c);
-    if (const auto copy = plainCopy(from, to, static_cast<vtkIdType>(rows.size()), lastRow))
+    if (const auto copy = plainCopy(from, to, count, lastRow))
     {
       copies.push_back(*copy);
       continue;
     }
-    for (const vtkIdType row : rows)
-    {
-      // VTK copies tuples unchecked, and the columns of a table may differ in length.
-      if (row < from->GetNumberOfTuples())
-        to->InsertNextTuple(row, from);
-      else
-        appendMissingCell(to);
-    }
+    for (const RowBlock& block : blocks)
+      for (vtkIdType row = block.first; row < block.first + block.count; ++row)
+        appendRow(from, row, to);
   }
-  const std::vector<RowBlock> blocks = blocksOf(rows);
   stats::inParallelParts(copies.size(), 1,
                          [&](std::size_t first, std::size_t last)
                          {

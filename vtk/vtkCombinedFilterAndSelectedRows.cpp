@@ -1,6 +1,8 @@
 #include "vtk/vtkCombinedFilterAndSelectedRows.h"
 
+#include "stats/ParallelParts.h"
 #include "vtk/CombinedSelection.h"
+#include "vtk/KeptMemory.h"
 #include "vtk/RowCopies.h"
 #include "vtk/SelectionColumns.h"
 
@@ -14,49 +16,68 @@
 #include <cmath>
 #include <limits>
 #include <optional>
-#include <utility>
 #include <vector>
 
 vtkStandardNewMacro(vtkCombinedFilterAndSelectedRows);
 
 namespace
 {
-/// The distinct times at which rows are selected.
-///
-/// Runs mostly repeat the times of the run before, so each position within a run remembers the time
-/// last looked up there.
-class SelectedTimes
+/// Enough rows to be worth a thread.
+constexpr std::size_t rowsOfPart = 65536;
+
+/// The rows to divide.
+struct Rows
+{
+  std::size_t count() const { return selected.size(); }
+  std::size_t countRuns() const { return count() / stride + (count() % stride != 0 ? 1 : 0); }
+
+  const std::vector<bool>& selected;
+  const double* times;
+  std::size_t stride;
+};
+
+/// The distinct times at which rows are selected, ascending. Runs mostly repeat the times of the
+/// run before: only a time that differs from the last one at its position is looked at.
+std::vector<double> selectedTimes(const Rows& rows)
+{
+  std::vector<double> last(std::min(rows.stride, rows.count()),
+                           std::numeric_limits<double>::quiet_NaN());
+  std::vector<double> distinct;
+  std::size_t position = 0;
+  for (std::size_t row = 0; row < rows.count(); ++row, ++position)
+  {
+    if (position == rows.stride)
+      position = 0;
+    const double time = rows.times[row];
+    if (!rows.selected[row] || std::isnan(time) || last[position] == time)
+      continue;
+    last[position] = time;
+    distinct.push_back(time);
+  }
+  std::sort(distinct.begin(), distinct.end());
+  distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
+  return distinct;
+}
+
+/// Finds times among the selected ones. Each position within a run remembers the time last looked
+/// up there.
+class TimeFinder
 {
 public:
   static constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
 
-  SelectedTimes(const std::vector<bool>& selected, std::vector<double> rowTimes,
-                vtkIdType rowsPerRun)
-      : times(std::move(rowTimes))
-      , stride(static_cast<std::size_t>(rowsPerRun))
-      , remembered(std::min(stride, times.size()))
+  TimeFinder(const std::vector<double>& selectedOnes, std::size_t positions)
+      : distinct(selectedOnes)
+      , remembered(positions)
   {
-    for (std::size_t row = 0; row < selected.size(); ++row)
-    {
-      Memory& memory = remembered[row % stride];
-      if (!selected[row] || std::isnan(times[row]) || memory.time == times[row])
-        continue;
-      memory.time = times[row];
-      distinct.push_back(times[row]);
-    }
-    std::sort(distinct.begin(), distinct.end());
-    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
-    std::fill(remembered.begin(), remembered.end(), Memory());
   }
 
-  std::size_t size() const { return distinct.size(); }
-
-  /// Place of the row's time among the selected ones; `none` if it is not one of them.
-  std::size_t indexOf(std::size_t row)
+  /// Place of the time; `none` if it is not one of them.
+  std::size_t indexOf(double time, std::size_t position)
   {
-    Memory& memory = remembered[row % stride];
-    if (memory.time != times[row])
-      memory = {times[row], find(times[row])};
+    Memory& memory = remembered[position];
+    if (memory.time != time)
+      memory = {time, find(time)};
     return memory.index;
   }
 
@@ -75,57 +96,30 @@ private:
                : none;
   }
 
-  std::vector<double> times;
-  std::size_t stride;
-  std::vector<double> distinct;
+  const std::vector<double>& distinct;
   std::vector<Memory> remembered;
 };
 
-/// Which runs are selected at every selected time.
-std::vector<bool> acceptedRuns(const std::vector<bool>& selected, vtkIdType stride,
-                               SelectedTimes& times)
-{
-  const auto rowsPerRun = static_cast<std::size_t>(stride);
-  std::vector<bool> accepted;
-  // For each time the run, counted from 1, that was last seen at it.
-  std::vector<std::size_t> lastRun(times.size(), 0);
-  for (std::size_t first = 0; first < selected.size(); first += rowsPerRun)
-  {
-    const std::size_t run = accepted.size() + 1;
-    std::size_t timesOfRun = 0;
-    for (std::size_t row = first; row < std::min(selected.size(), first + rowsPerRun); ++row)
-    {
-      const std::size_t time = selected[row] ? times.indexOf(row) : SelectedTimes::none;
-      if (time == SelectedTimes::none || lastRun[time] == run)
-        continue;
-      lastRun[time] = run;
-      ++timesOfRun;
-    }
-    accepted.push_back(timesOfRun == times.size());
-  }
-  return accepted;
-}
-
-/// One value per row, 0 at first.
+/// One value per row.
 class Markers
 {
 public:
   Markers(const char* name, std::size_t rows)
-      : column(vtkSmartPointer<vtkIdTypeArray>::New())
   {
     column->SetName(name);
-    column->SetNumberOfValues(static_cast<vtkIdType>(rows));
+    Talmesh::giveRoom(column, static_cast<vtkIdType>(rows));
     values = column->GetPointer(0);
-    std::fill_n(values, rows, 0);
   }
 
-  void mark(std::size_t row) { values[row] = 1; }
+  void set(std::size_t row, bool marked) { values[row] = marked ? 1 : 0; }
   vtkIdTypeArray* array() const { return column; }
 
 private:
-  vtkSmartPointer<vtkIdTypeArray> column;
+  vtkSmartPointer<vtkIdTypeArray> column = vtkSmartPointer<vtkIdTypeArray>::New();
   vtkIdType* values;
 };
+
+using Blocks = std::vector<Talmesh::RowBlock>;
 
 struct Split
 {
@@ -136,38 +130,91 @@ struct Split
   {
   }
 
-  std::vector<vtkIdType> rows[2];
+  Blocks outputs[2];
   Markers complement;
   Markers reduced;
   Markers remainder;
 };
 
-/// Nothing without a selected time.
-std::optional<Split> splitRows(const std::vector<bool>& selected, vtkIdType stride,
-                               SelectedTimes times)
+/// Divides runs that follow each other.
+class RunDivider
 {
-  if (times.size() == 0)
-    return {};
-  const std::vector<bool> accepted = acceptedRuns(selected, stride, times);
-  Split split(selected.size());
-  // Memory of the list that stays short is never touched.
-  for (std::vector<vtkIdType>& rows : split.rows)
-    rows.reserve(selected.size());
-  for (std::size_t i = 0; i < selected.size(); ++i)
+public:
+  RunDivider(const Rows& allRows, const std::vector<double>& selectedTimes)
+      : rows(allRows)
+      , finder(selectedTimes, std::min(rows.stride, rows.count()))
+      , lastRun(selectedTimes.size(), 0)
   {
-    const auto row = static_cast<vtkIdType>(i);
-    if (selected[i])
+  }
+
+  /// Marks the rows of a run, and adds them to the blocks.
+  void divide(std::size_t run, Split& marks, Blocks (&outputs)[2])
+  {
+    const std::size_t first = run * rows.stride;
+    const std::size_t end = std::min(rows.count(), first + rows.stride);
+    const bool accepted = isAccepted(run + 1, first, end);
+    for (std::size_t row = first; row < end; ++row)
     {
-      const bool isAccepted = accepted[static_cast<std::size_t>(row / stride)];
-      split.rows[isAccepted ? 0 : 1].push_back(row);
-      (isAccepted ? split.remainder : split.reduced).mark(i);
-    }
-    else if (times.indexOf(i) != SelectedTimes::none)
-    {
-      split.rows[1].push_back(row);
-      split.complement.mark(i);
+      const bool selected = rows.selected[row];
+      const bool compared =
+          !selected && finder.indexOf(rows.times[row], row - first) != TimeFinder::none;
+      marks.complement.set(row, compared);
+      marks.reduced.set(row, selected && !accepted);
+      marks.remainder.set(row, selected && accepted);
+      if (selected || compared)
+        Talmesh::addRow(outputs[selected && accepted ? 0 : 1], static_cast<vtkIdType>(row));
     }
   }
+
+private:
+  /// Whether a run is selected at every selected time.
+  /// @param number counted from 1
+  bool isAccepted(std::size_t number, std::size_t first, std::size_t end)
+  {
+    std::size_t timesOfRun = 0;
+    for (std::size_t row = first; row < end; ++row)
+    {
+      const std::size_t time =
+          rows.selected[row] ? finder.indexOf(rows.times[row], row - first) : TimeFinder::none;
+      if (time == TimeFinder::none || lastRun[time] == number)
+        continue;
+      lastRun[time] = number;
+      ++timesOfRun;
+    }
+    return timesOfRun == lastRun.size();
+  }
+
+  const Rows& rows;
+  TimeFinder finder;
+  std::vector<std::size_t> lastRun; ///< that was seen at each time, counted from 1
+};
+
+/// Nothing without a selected time.
+std::optional<Split> splitRows(const Rows& rows)
+{
+  const std::vector<double> times = selectedTimes(rows);
+  if (times.empty())
+    return {};
+  Split split(rows.count());
+  // A part has a place for each selected time, which must not take longer than its rows.
+  const std::size_t runsOfPart =
+      std::max<std::size_t>(std::max(rowsOfPart, times.size()) / rows.stride, 1);
+  struct Outputs
+  {
+    Blocks blocks[2];
+  };
+  std::vector<Outputs> parts(rows.countRuns() / runsOfPart + 1);
+  Talmesh::stats::inParallelParts(rows.countRuns(), runsOfPart,
+                                  [&](std::size_t first, std::size_t last)
+                                  {
+                                    RunDivider divider(rows, times);
+                                    for (std::size_t run = first; run < last; ++run)
+                                      divider.divide(run, split, parts[first / runsOfPart].blocks);
+                                  });
+  for (const Outputs& part : parts)
+    for (int output = 0; output < 2; ++output)
+      split.outputs[output].insert(split.outputs[output].end(), part.blocks[output].begin(),
+                                   part.blocks[output].end());
   return split;
 }
 
@@ -184,16 +231,18 @@ void vtkCombinedFilterAndSelectedRows::DivideRows(vtkTable* table,
                                                   const Talmesh::SelectedRows& selected,
                                                   vtkTable* const outputs[2])
 {
-  const vtkIdType stride = std::max<vtkIdType>(this->Stride, 1);
-  const std::optional<Split> split = splitRows(
-      selected.marked, stride,
-      SelectedTimes(selected.marked,
-                    Talmesh::rowTimes(vtkDoubleArray::SafeDownCast(this->FindTimeColumn(table)),
-                                      table->GetNumberOfRows()),
-                    stride));
+  auto* const column = vtkDoubleArray::SafeDownCast(this->FindTimeColumn(table));
+  const vtkIdType rowCount = table->GetNumberOfRows();
+  std::vector<double> copied;
+  const bool plain =
+      column && column->GetNumberOfComponents() == 1 && column->GetNumberOfValues() >= rowCount;
+  if (!plain)
+    copied = Talmesh::rowTimes(column, rowCount);
+  const std::optional<Split> split =
+      splitRows({selected.marked, plain ? column->GetPointer(0) : copied.data(),
+                 static_cast<std::size_t>(std::max<vtkIdType>(this->Stride, 1))});
   for (int output = 0; output < 2; ++output)
-    this->FillOutput(table, split ? split->rows[output] : std::vector<vtkIdType>(),
-                     outputs[output]);
+    this->FillOutput(table, split ? split->outputs[output] : Blocks(), outputs[output]);
   if (split)
     writeMarkers(*split, table);
 }

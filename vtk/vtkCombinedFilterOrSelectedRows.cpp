@@ -44,17 +44,20 @@ void vtkCombinedFilterOrSelectedRows::DivideRows(vtkTable* table,
 {
   const auto times = Talmesh::rowTimes(this->FindTimeColumn(table), table->GetNumberOfRows());
   const TimeRange range = rangeOf(times, selected.listed);
-  std::vector<vtkIdType> compared;
+  std::vector<Talmesh::RowBlock> listed;
+  for (const vtkIdType row : selected.listed)
+    Talmesh::addRow(listed, row);
+  std::vector<Talmesh::RowBlock> compared;
   std::vector<vtkIdType> complement(times.size(), 0);
   for (std::size_t row = 0; row < times.size(); ++row)
   {
     if (!selected.marked[row] && range.contains(times[row]))
     {
-      compared.push_back(static_cast<vtkIdType>(row));
+      Talmesh::addRow(compared, static_cast<vtkIdType>(row));
       complement[row] = 1;
     }
   }
-  this->FillOutput(table, selected.listed, outputs[0]);
+  this->FillOutput(table, listed, outputs[0]);
   this->FillOutput(table, compared, outputs[1]);
   table->RemoveColumnByName(Talmesh::ComplementSelectionColumn);
   table->AddColumn(Talmesh::makeIdColumn(Talmesh::ComplementSelectionColumn, complement));

@@ -88,11 +88,11 @@ vtkAbstractArray* vtkCombinedRowFilter::FindTimeColumn(vtkTable* table) const
              : nullptr;
 }
 
-void vtkCombinedRowFilter::FillOutput(vtkTable* table, const std::vector<vtkIdType>& rows,
+void vtkCombinedRowFilter::FillOutput(vtkTable* table, const std::vector<Talmesh::RowBlock>& rows,
                                       vtkTable* output) const
 {
   Talmesh::copyColumnStructure(table, output);
   Talmesh::appendRows(table, rows, output);
   if (this->AddOriginalRowIdsArray)
-    output->AddColumn(Talmesh::makeIdColumn(Talmesh::OriginalRowIdsColumn, rows));
+    output->AddColumn(Talmesh::makeIdColumn(Talmesh::OriginalRowIdsColumn, Talmesh::rowsOf(rows)));
 }

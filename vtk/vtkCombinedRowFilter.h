@@ -11,6 +11,7 @@ class vtkAbstractArray;
 
 namespace Talmesh
 {
+struct RowBlock;
 struct SelectedRows;
 
 inline constexpr char NoSelectionMessage[] =
@@ -70,7 +71,8 @@ protected:
   /// The column that holds the times; null if the table has none of that number.
   vtkAbstractArray* FindTimeColumn(vtkTable* table) const;
   /// Gives an empty output the columns of the table and the given rows.
-  void FillOutput(vtkTable* table, const std::vector<vtkIdType>& rows, vtkTable* output) const;
+  void FillOutput(vtkTable* table, const std::vector<Talmesh::RowBlock>& rows,
+                  vtkTable* output) const;
 
   bool AddOriginalRowIdsArray = false;
   vtkIdType TimeColumnIndex = -1;

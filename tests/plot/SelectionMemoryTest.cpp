@@ -3,6 +3,7 @@
 #include "support/CapturedOutput.h"
 #include "vtk/SelectionColumns.h"
 
+#include <vtkDataArray.h>
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
@@ -68,6 +69,14 @@ protected:
   }
 };
 
+std::vector<double> valuesOf(vtkDataArray* column)
+{
+  std::vector<double> values;
+  for (vtkIdType row = 0; column && row < column->GetNumberOfTuples(); ++row)
+    values.push_back(column->GetComponent(row, 0));
+  return values;
+}
+
 } // namespace
 
 TEST_F(SelectionMemory, IsThatOfTheTableItsTwoPartsMarksAndRanks)
@@ -127,4 +136,32 @@ TEST_F(SelectionMemory, IsFilledByOneRankingOfEachPart)
   EXPECT_EQ(errors.text().size(), 5 * said.size()) << errors.text();
   container.redraw();
   EXPECT_EQ(errors.text().size(), 5 * said.size()) << "a redraw ranks nothing";
+}
+
+TEST_F(SelectionMemory, OfPartsAndMarksThatAreHeldIsNotUsedForThoseOfTheNextSelection)
+{
+  constexpr int runs = 3000;
+  container.setLinePlotTable(parameterStudy(runs, manyPoints, parameters), false);
+  const auto selectRunsFrom = [this](int first)
+  {
+    std::vector<vtkIdType> rows(runs / 2 * manyPoints);
+    std::iota(rows.begin(), rows.end(), first * manyPoints);
+    container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+  };
+  selectRunsFrom(0);
+  const vtkSmartPointer<vtkTable> part = rowsOf(2);
+  std::vector<vtkSmartPointer<vtkDataArray>> held;
+  std::vector<std::vector<double>> values;
+  for (vtkTable* table : {rowsOf(1), part.Get(), container.getTable()})
+  {
+    for (vtkIdType i = 0; i < table->GetNumberOfColumns(); ++i)
+    {
+      held.emplace_back(vtkDataArray::SafeDownCast(table->GetColumn(i)));
+      values.push_back(valuesOf(held.back()));
+    }
+  }
+  for (const int first : {runs / 2, 700, 0, runs / 2})
+    selectRunsFrom(first);
+  for (std::size_t i = 0; i < held.size(); ++i)
+    EXPECT_TRUE(valuesOf(held[i]) == values[i]) << held[i]->GetName();
 }
