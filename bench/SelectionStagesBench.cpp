@@ -157,4 +157,29 @@ void selectionStages(benchmark::State& state)
 }
 BENCHMARK(selectionStages)->Arg(5000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
 
+/// From the release of the mouse, which picks among all rows, to the finished page of another tenth
+/// of the runs.
+void releaseToPicture(benchmark::State& state)
+{
+  BenchWindow window;
+  window.showComparison(static_cast<int>(state.range(0)));
+  window.select(0);
+  window.paint(true);
+  PlotContainer& container = window.container;
+  PlotContainer*& reacting = container.state().selectionUpdateCallback->Container;
+  int choice = 0;
+  for (auto _ : state)
+  {
+    state.PauseTiming();
+    reacting = nullptr;
+    window.drag();
+    state.ResumeTiming();
+    window.release();
+    reacting = &container;
+    window.select(++choice);
+    window.paint(true);
+  }
+}
+BENCHMARK(releaseToPicture)->Arg(5000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
+
 } // namespace

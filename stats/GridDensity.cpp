@@ -25,7 +25,7 @@ using Sums = std::array<double, targetsAtOnce>;
 
 bool isEven(const std::vector<double>& targets, double step)
 {
-  const double allowed = 1e-9 * step;
+  const double allowed = 1e-12 * step;
   for (std::size_t i = 0; i < targets.size(); ++i)
     if (!(std::abs(targets[i] - targets[0] - static_cast<double>(i) * step) <= allowed))
       return false;

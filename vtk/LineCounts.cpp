@@ -70,7 +70,10 @@ OpacityImage drawLines(const LinesToCount& lines, const PixelMap& map, int width
   const int parts = columnsPerPixel(pen, lines.runs.size(), width, height);
   const int columns = parts * width;
   const std::size_t workers = workersFor(pointCount(lines.runs), std::int64_t(columns) * height);
-  std::vector<PixelCounts> counts(workers, PixelCounts(columns, height, scale));
+  std::vector<PixelCounts> counts;
+  counts.reserve(workers);
+  while (counts.size() < workers)
+    counts.emplace_back(columns, height, scale);
   std::atomic<std::size_t> next{0};
   const auto countRuns = [&](std::size_t worker, std::size_t)
   {

@@ -181,7 +181,8 @@ OpacityImage drawMarkers(const MarkersToCount& markers, const PixelMap& map, int
   }
 
   const CoverageScale scale(opacity, markers.count);
-  std::vector<PixelCounts> counts{PixelCounts(width, height, scale)};
+  std::vector<PixelCounts> counts;
+  counts.emplace_back(width, height, scale);
   const std::vector<Span> spans = spansOf(sprite);
   for (std::size_t anchor = 0; anchor < anchors.count(); ++anchor)
   {

@@ -114,9 +114,9 @@ public:
     colors.push_back(color);
   }
 
-  PictureStore::Key content() const
+  PictureStore::Key content(bool coloured) const
   {
-    PictureStore::Key key{double(lines.runs.size())};
+    PictureStore::Key key{double(lines.runs.size()), double(coloured)};
     addContent(key, points.data(), points.size() * sizeof(float));
     addContent(key, lines.runs.data(), lines.runs.size() * sizeof(CountedRun));
     addContent(key, colors.data(), colors.size() * sizeof(LineColor));
@@ -207,7 +207,7 @@ void ParallelLines::PaintLayer(vtkContext2D* painter, const AggregateTarget& tar
   };
   layer.paint(painter, target, key,
               [&] { return this->Count(gathered(), content.coloured, painter->GetPen(), target); },
-              {this->Store.get(), [&] { return gathered().content(); }});
+              {this->Store.get(), [&] { return gathered().content(content.coloured); }});
 }
 
 void ParallelLines::PaintAll(vtkContext2D* painter, const AggregateTarget& target)

@@ -1,21 +1,28 @@
 #include "vtk/PictureStore.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace Talmesh
 {
 namespace
 {
-/// Of all pictures: a dozen of an ordinary window.
+/// Of all pictures: a dozen of an ordinary window, and as many of a larger one. Fewer would drop
+/// the pictures of three series before the next selection asks for them.
 constexpr std::size_t mostBytes = std::size_t(32) << 20;
+constexpr std::size_t mostOfTheLargest = 12;
+/// Empty pictures take no bytes.
+constexpr std::size_t mostPictures = 64;
 constexpr std::size_t lanes = 4;
 constexpr std::size_t wordSize = sizeof(std::uint64_t);
 
-/// Different words lead from one state to different states, and so do different states.
+/// Different words lead from one state to different states, and so do different states. Once would
+/// leave the highest bit, a number's sign, in two places that another sign could meet.
 std::uint64_t mixed(std::uint64_t state, std::uint64_t word)
 {
   state = (state ^ word) * 0x9e3779b97f4a7c15u; // odd, so that it can be undone
+  state = (state ^ (state >> 29)) * 0xbf58476d1ce4e5b9u;
   return state ^ (state >> 32);
 }
 
@@ -61,12 +68,21 @@ PictureStore::Picture PictureStore::find(const Key& key)
 
 void PictureStore::keep(Key key, Picture picture)
 {
+  // What is not a number is found by no key.
+  if (std::any_of(key.begin(), key.end(), [](double part) { return std::isnan(part); }))
+    return;
   entries.push_front({std::move(key), std::move(picture)});
-  std::size_t bytes = entries.front().picture->bytes();
-  for (auto entry = std::next(entries.begin()); entry != entries.end();)
+  std::size_t largest = 0;
+  for (const Entry& entry : entries)
+    largest = std::max(largest, entry.picture->bytes());
+  const std::size_t most = std::max(mostBytes, mostOfTheLargest * largest);
+  std::size_t bytes = 0;
+  std::size_t pictures = 0;
+  for (auto entry = entries.begin(); entry != entries.end();)
   {
     bytes += entry->picture->bytes();
-    entry = bytes > mostBytes ? entries.erase(entry) : std::next(entry);
+    const bool fits = bytes <= most && ++pictures <= mostPictures;
+    entry = fits ? std::next(entry) : entries.erase(entry);
   }
 }
 

@@ -19,8 +19,10 @@ constexpr std::size_t bytesPerPoint = 3 * 2 * sizeof(float);
 /// With fewer chosen columns, parallel coordinates show all.
 constexpr std::size_t fewestChosenAxes = 3;
 
-/// A pixel is kept by what is painted on and by the picture that is written.
-constexpr std::size_t bytesPerPixel = 2 * 4;
+/// A pixel is kept by what is painted on, by the layer and the counters of both threads that runs
+/// are counted with, by their opacity, and by the picture of the runs while highlighted ones are
+/// counted.
+constexpr std::size_t bytesPerPixel = 4 + 4 + 2 * 4 + 1 + 4;
 
 std::size_t bytesPerRow(const PlotContainer& container)
 {

@@ -48,7 +48,18 @@ public:
     // A chart that another one has taken the place of would be painted.
     widget.updatePlot(true);
   }
-  ~OwnLayout() { widget.updatePlot(true); }
+  ~OwnLayout()
+  {
+    try
+    {
+      widget.updatePlot(true);
+    }
+    catch (const std::bad_alloc&)
+    {
+      // The next painting lays it out, when there is memory again.
+      widget.update();
+    }
+  }
   OwnLayout(const OwnLayout&) = delete;
   OwnLayout& operator=(const OwnLayout&) = delete;
 

@@ -8,6 +8,7 @@
 #include <vtkTransform2D.h>
 
 #include <algorithm>
+#include <cmath>
 #include <new>
 
 #include "LineSetFixture.h"
@@ -178,22 +179,56 @@ TEST_F(SharedPicture, ReachesAsFarAsItsClipInAMovedScene)
   EXPECT_EQ(device->pictures[0].place[2], 22);
 }
 
-TEST(PictureStore, KeepsPicturesUsedLastOfABoundedSize)
+TEST(PictureStore, KeepsTheDozenUsedLastOfTheLargestPictures)
 {
   PictureStore store;
   EXPECT_EQ(store.find({1}), nullptr);
-  const auto quarter = pictureOf(1448, 1448); // 8 MB
-  for (const double key : {1, 2, 3})
-    store.keep({key}, quarter);
-  EXPECT_EQ(store.find({1}), quarter);
-  store.keep({4}, quarter);
-  store.keep({5}, quarter);
+  const auto large = pictureOf(1920, 1080); // 8 MB
+  for (int key = 1; key <= 12; ++key)
+    store.keep({double(key)}, large);
+  EXPECT_EQ(store.find({1}), large);
+  store.keep({13}, large);
   EXPECT_EQ(store.find({2}), nullptr);
   EXPECT_NE(store.find({1}), nullptr);
   EXPECT_NE(store.find({3}), nullptr);
-  store.keep({6}, pictureOf(8000, 8000));
-  EXPECT_NE(store.find({6}), nullptr) << "one is kept of any size";
+}
+
+TEST(PictureStore, KeepsMoreOfSmallPictures)
+{
+  PictureStore store;
+  const auto small = pictureOf(512, 512); // 1 MB, of 32
+  for (int key = 1; key <= 33; ++key)
+    store.keep({double(key)}, small);
   EXPECT_EQ(store.find({1}), nullptr);
+  EXPECT_NE(store.find({2}), nullptr);
+}
+
+TEST(PictureStore, KeepsNotEndlesslyManyEmptyPictures)
+{
+  PictureStore store;
+  for (int i = 0; i < 100; ++i)
+    store.keep({double(i)}, std::make_shared<Talmesh::LayerPicture>());
+  EXPECT_EQ(store.find({35}), nullptr);
+  EXPECT_NE(store.find({36}), nullptr);
+  store.keep({std::nan("")}, std::make_shared<Talmesh::LayerPicture>());
+  EXPECT_NE(store.find({37}), nullptr) << "what no key finds is not kept";
+}
+
+TEST(PictureStore, TellsPointsOfOtherSignsApart)
+{
+  std::vector<char> bytes;
+  const auto contentOfPoints = [&bytes](std::vector<float> points)
+  {
+    bytes.assign(reinterpret_cast<char*>(points.data()),
+                 reinterpret_cast<char*>(points.data() + points.size()));
+    return contentOf(bytes);
+  };
+  const std::vector<float> points = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
+  std::vector<float> mirrored = points;
+  // A point's y, and x and y of the fourth point behind it.
+  for (const std::size_t i : {1, 8, 9})
+    mirrored[i] = -mirrored[i];
+  EXPECT_NE(contentOfPoints(points), contentOfPoints(mirrored));
 }
 
 TEST(PictureStore, TellsBytesApart)
