@@ -11,6 +11,7 @@
 #include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
 #include "plot/StyleTable.h"
+#include "plot/vtkSelectionUpdateCallback.h"
 
 #include <vtkCommand.h>
 
@@ -32,15 +33,17 @@ void dress(PlotState& state)
 }
 
 /// Whoever watches the selection hears of the cut and may answer by drawing.
-/// @return whether that happened
+/// @return whether that happened, or the container has ended
 bool cutSelection(PlotState& state)
 {
   // A style that draws no rows needs no cut.
   if (!currentScene(state) || builderOf(state.metaData->getPlotStyle()) == drawReservedStyle)
     return false;
   const unsigned long before = state.drawings;
+  const vtkSmartPointer<vtkSelectionUpdateCallback> callback = state.selectionUpdateCallback;
   cutSelectionToTable(state);
-  return state.drawings != before;
+  // Who ends the container has no state any more.
+  return !callback->Container || state.drawings != before;
 }
 
 } // namespace

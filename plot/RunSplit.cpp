@@ -8,6 +8,7 @@
 #include "vtk/vtkCombinedFilterAndSelectedRows.h"
 
 #include <vtkAnnotationLink.h>
+#include <vtkDataSetAttributes.h>
 #include <vtkIdTypeArray.h>
 #include <vtkNew.h>
 
@@ -56,7 +57,8 @@ Names takeMarkers(vtkTable* table)
        isMarker(columnName(table, last)); --last)
   {
     taken.insert(taken.begin(), columnName(table, last));
-    table->RemoveColumn(last);
+    // By its place: the table would take away the first column of its name.
+    table->GetRowData()->RemoveArray(last);
   }
   for (int column = 0; column < table->GetNumberOfColumns(); ++column)
   {

@@ -149,6 +149,7 @@ void addBars(PlotState& state, bool total)
 
 void buildSobolChart(PlotState& state, bool total)
 {
+  freeChartsSetAside(state);
   releaseChartXY(state);
   state.chartXY = makeXYChart(state);
   state.currentChart = state.chartXY;

@@ -12,6 +12,7 @@
 
 #include <vtkAnnotationLink.h>
 #include <vtkObjectFactory.h>
+#include <vtkSmartPointer.h>
 
 #include <exception>
 #include <functional>
@@ -67,10 +68,12 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
   if (!link || !this->Container ||
       (this->Overlooked && link->GetCurrentSelection() == this->Overlooked))
     return;
+  // Who watches the selection may end the container, and with it the link that holds this callback.
+  const vtkSmartPointer<vtkSelectionUpdateCallback> kept = this;
   PlotContainer& container = *this->Container;
   if (link == container.getAnnotationLink())
-    Talmesh::plot::cutSelectionToTable(container.state());
-  if (container.getMetaData()->parameterColumns.empty())
+    reportFailure(container, [&] { Talmesh::plot::cutSelectionToTable(container.state()); });
+  if (!this->Container || container.getMetaData()->parameterColumns.empty())
     return;
   reportFailure(container,
                 [&]
@@ -79,5 +82,6 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
                   container.state().derivedTables.resize(Talmesh::plot::ownSlots);
                   compareRuns(container, link);
                 });
-  reportFailure(container, [&] { container.redraw(); });
+  if (this->Container)
+    reportFailure(container, [&] { container.redraw(); });
 }

@@ -11,6 +11,7 @@
 #include <vtkTable.h>
 #include <vtkUnsignedCharArray.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -27,11 +28,12 @@ bool isBeyondFloat(double value)
   return magnitude > 0.0 && (magnitude < leastInFloat || magnitude > mostInFloat);
 }
 
-/// @param logarithms every second value
+/// @param logarithms every second value, of so many points; a column of several components has more
+/// values
 void calculateExtremeLogarithms(vtkDoubleArray* column, double shift, double scale,
-                                bool ofMagnitudes, float* logarithms)
+                                bool ofMagnitudes, vtkIdType points, float* logarithms)
 {
-  for (vtkIdType i = 0; i < column->GetNumberOfValues(); ++i)
+  for (vtkIdType i = 0; i < std::min(points, column->GetNumberOfValues()); ++i)
   {
     const double value = (column->GetValue(i) + shift) * scale;
     if (isBeyondFloat(value))
@@ -101,14 +103,15 @@ void CachedPoints::CalculateExtremeLogarithms()
   if (!(this->LogX || this->LogY) || !this->Points || this->Points->GetNumberOfPoints() == 0 ||
       !this->GetDataArrays(this->Data->GetInput(), columns))
     return;
+  const vtkIdType count = this->Points->GetNumberOfPoints();
   auto* const points = static_cast<float*>(this->Points->GetVoidPointer(0));
   auto* const x = vtkDoubleArray::SafeDownCast(columns[0]);
   auto* const y = vtkDoubleArray::SafeDownCast(columns[1]);
   if (this->LogX && x)
     calculateExtremeLogarithms(x, this->ShiftScale.GetX(), this->ShiftScale.GetWidth(),
-                               this->XAxis->GetUnscaledMinimum() < 0.0, points);
+                               this->XAxis->GetUnscaledMinimum() < 0.0, count, points);
   if (this->LogY && y)
     calculateExtremeLogarithms(y, this->ShiftScale.GetY(), this->ShiftScale.GetHeight(),
-                               this->YAxis->GetUnscaledMinimum() < 0.0, points + 1);
+                               this->YAxis->GetUnscaledMinimum() < 0.0, count, points + 1);
 }
 } // namespace Talmesh

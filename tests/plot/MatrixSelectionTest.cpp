@@ -160,6 +160,33 @@ TEST(MatrixSelectionLifetime, AnnouncesNothingToADeadContainer)
   EXPECT_EQ(ofContainer->GetCurrentSelection(), before);
 }
 
+TEST(SelectionLifetimeOfCuts, MayEndTheContainer)
+{
+  for (const bool byRedraw : {false, true})
+  {
+    vtkNew<vtkContextScene> scene;
+    auto container = std::make_unique<PlotContainer>(nullptr);
+    container->setScene(scene);
+    SampleRuns::load(*container, SampleRuns::runs(3, 3));
+    const vtkSmartPointer<vtkAnnotationLink> link = container->getAnnotationLink();
+    vtkNew<Reaction> listener;
+    listener->react = [&] { container.reset(); };
+    if (!byRedraw)
+    {
+      link->AddObserver(vtkCommand::AnnotationChangedEvent, listener, -1.0F);
+      link->SetCurrentSelection(makeRowSelection({1, 1000}));
+    }
+    else
+    {
+      link->SetCurrentSelection(makeRowSelection({8}));
+      link->AddObserver(vtkCommand::AnnotationChangedEvent, listener, -1.0F);
+      container->getTable()->SetNumberOfRows(6);
+      container->redraw();
+    }
+    EXPECT_EQ(container, nullptr) << byRedraw;
+  }
+}
+
 TEST(MatrixSelectionLifetime, MayEndTheContainer)
 {
   vtkNew<vtkContextScene> scene;

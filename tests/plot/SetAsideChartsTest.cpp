@@ -55,6 +55,18 @@ TEST_F(SetAsideCharts, AreFreedByTheNextDrawing)
   EXPECT_EQ(alive(), 0);
 }
 
+TEST_F(SetAsideCharts, AreFreedByTheNextSensitivities)
+{
+  settings().blockSignals(true);
+  for (int i = 0; i < 6; ++i)
+  {
+    settings().setPlotStyle(reservedStyle2);
+    container.setupStackedSobol(false);
+    charts.emplace_back(chart());
+  }
+  EXPECT_LE(alive(), 2);
+}
+
 TEST_F(SetAsideCharts, LiveOnWhileAHandlerRuns)
 {
   const Talmesh::plot::HandlerScope running;

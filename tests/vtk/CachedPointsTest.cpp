@@ -92,4 +92,20 @@ TYPED_TEST(CachedPoints, AreNoneOfATableWithoutRows)
   this->show({}, {});
   EXPECT_TRUE(!this->item->Points || this->points().empty());
 }
+
+TYPED_TEST(CachedPoints, HaveLogarithmsOfNoMoreValuesThanPoints)
+{
+  this->y->SetLogScale(true);
+  this->show({1, 2, 3}, {1e-300, 1, 1});
+  vtkNew<vtkDoubleArray> pairs;
+  pairs->SetName("y");
+  pairs->SetNumberOfComponents(2);
+  pairs->SetNumberOfTuples(3);
+  for (vtkIdType i = 0; i < 6; ++i)
+    pairs->SetValue(i, 1e-300);
+  this->table->RemoveColumnByName("y");
+  this->table->AddColumn(pairs);
+  this->item->Update();
+  EXPECT_EQ(this->points().size(), 3U);
+}
 } // namespace
