@@ -8,6 +8,7 @@
 #include <vtkFloatArray.h>
 #include <vtkPlotPoints3D.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -26,7 +27,11 @@ constexpr const char* axisNames[] = {"x", "y", "z"};
 vtkSmartPointer<vtkTable> finitePoints(const Coordinates& coordinates)
 {
   std::array<vtkNew<vtkFloatArray>, 3> columns;
-  for (vtkIdType row = 0; row < coordinates[0]->GetNumberOfTuples(); ++row)
+  // A client may have shortened a column in place.
+  const vtkIdType rows =
+      std::min({coordinates[0]->GetNumberOfTuples(), coordinates[1]->GetNumberOfTuples(),
+                coordinates[2]->GetNumberOfTuples()});
+  for (vtkIdType row = 0; row < rows; ++row)
   {
     std::array<float, 3> point;
     for (std::size_t axis = 0; axis < point.size(); ++axis)

@@ -58,6 +58,22 @@ TEST_P(RedrawOfOddData, SurvivesAFirstColumnWithoutRows)
   }
 }
 
+TEST_P(RedrawOfOddData, SurvivesColumnsEmptiedInPlace)
+{
+  for (const int column : {1, 2})
+  {
+    container.setPlotData(plainTable());
+    settings().xColumns = {0};
+    settings().yColumns = {1};
+    settings().zColumns = {2};
+    setStyle(GetParam());
+    expectSoundPicture(scene, container);
+    container.getTable()->GetColumn(column)->Initialize();
+    container.redraw();
+    expectSoundPicture(scene, container);
+  }
+}
+
 TEST_P(RedrawOfOddData, SurvivesTextAndUnnamedColumns)
 {
   vtkSmartPointer<vtkTable> table = plainTable();
