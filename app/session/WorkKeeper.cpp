@@ -31,6 +31,20 @@ QString reasonOf(const std::exception& failure)
              : QString::fromLocal8Bit(failure.what());
 }
 
+/// @return why the work failed; empty if it did not
+template <class Work>
+QString errorOf(const Work& work)
+{
+  try
+  {
+    return work();
+  }
+  catch (const std::exception& failure)
+  {
+    return reasonOf(failure);
+  }
+}
+
 } // namespace
 
 WorkKeeper::WorkKeeper(const QString& folderPath, Unsaved whatIsUnsaved, int interval,
@@ -46,7 +60,8 @@ WorkKeeper::WorkKeeper(const QString& folderPath, Unsaved whatIsUnsaved, int int
 
 WorkKeeper::~WorkKeeper()
 {
-  wait();
+  if (writing.valid())
+    writing.wait();
 }
 
 void WorkKeeper::look()
@@ -59,12 +74,13 @@ void WorkKeeper::look()
   using namespace std::chrono_literals;
   if (writing.valid() && writing.wait_for(0s) != std::future_status::ready)
     return;
+  takeResult();
   SessionParts parts;
   if (!prepare(parts))
     return;
   try
   {
-    writing = std::async(std::launch::async, [this, parts = std::move(parts)] { write(parts); });
+    startWriting(std::move(parts));
   }
   catch (const std::exception&)
   {
@@ -74,10 +90,35 @@ void WorkKeeper::look()
 
 void WorkKeeper::keepNow()
 {
-  wait();
+  takeResult();
   SessionParts parts;
   if (prepare(parts))
-    write(parts);
+    report(write(parts));
+}
+
+void WorkKeeper::startWriting(SessionParts parts)
+{
+  const int number = ++writings;
+  // A result that was taken before its call comes must not make that wait for the next one.
+  const auto written = [this, number]
+  {
+    if (number == writings)
+      takeResult();
+  };
+  writing = std::async(std::launch::async,
+                       [this, written, parts = std::move(parts)]
+                       {
+                         QString error = write(parts);
+                         QMetaObject::invokeMethod(this, written, Qt::QueuedConnection);
+                         return error;
+                       });
+}
+
+/// Waits for what is being written, and reports how it went.
+void WorkKeeper::takeResult()
+{
+  if (writing.valid())
+    report(errorOf([this] { return writing.get(); }));
 }
 
 /// @return whether the parts are to be written
@@ -118,19 +159,10 @@ bool WorkKeeper::collect(SessionParts& parts)
 }
 
 /// Runs in any thread.
-void WorkKeeper::write(const SessionParts& parts)
+/// @return why it could not be written; empty if it was
+QString WorkKeeper::write(const SessionParts& parts) const
 {
-  QString error;
-  try
-  {
-    error = QString::fromStdString(saveSessionFile(file.path, parts));
-  }
-  catch (const std::exception& failure)
-  {
-    error = reasonOf(failure);
-  }
-  QMetaObject::invokeMethod(
-      this, [this, error] { report(error); }, Qt::QueuedConnection);
+  return errorOf([&] { return QString::fromStdString(saveSessionFile(file.path, parts)); });
 }
 
 void WorkKeeper::report(const QString& error)
@@ -144,7 +176,7 @@ void WorkKeeper::report(const QString& error)
 
 void WorkKeeper::forget()
 {
-  wait();
+  takeResult();
   kept.reset();
   discard(std::exchange(file, LeftWork()));
 }
@@ -153,12 +185,6 @@ void WorkKeeper::takeOver(const LeftWork& work)
 {
   forget();
   file = work;
-}
-
-void WorkKeeper::wait()
-{
-  if (writing.valid())
-    writing.wait();
 }
 
 } // namespace Talmesh::app

@@ -48,9 +48,10 @@ private:
   void look();
   bool prepare(SessionParts& parts);
   bool collect(SessionParts& parts);
-  void write(const SessionParts& parts);
+  void startWriting(SessionParts parts);
+  void takeResult();
+  QString write(const SessionParts& parts) const;
   void report(const QString& error);
-  void wait();
 
   QString path;
   Unsaved unsaved;
@@ -58,7 +59,9 @@ private:
   LeftWork file;
   /// What the file holds; nothing while there is none.
   std::optional<SessionWork> kept;
-  std::future<void> writing;
+  /// Gives why the file could not be written; not valid once that was reported.
+  std::future<QString> writing;
+  int writings = 0;
   bool failing = false;
 };
 
