@@ -24,19 +24,32 @@ constexpr std::size_t fewestChosenAxes = 3;
 /// counted.
 constexpr std::size_t bytesPerPixel = 4 + 4 + 2 * 4 + 1 + 4;
 
+std::size_t pairsOf(std::size_t columns)
+{
+  return columns * (columns - 1) / 2;
+}
+
 std::size_t bytesPerRow(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
   const auto columns = static_cast<std::size_t>(container.getTable()->GetNumberOfColumns());
   const std::size_t chosen = settings.yColumns.size();
+  const std::size_t parameters = settings.parameterColumns.size();
   switch (settings.getPlotStyle())
   {
   case scatterPlotMatrix:
   {
-    const std::size_t shown =
-        settings.getLimitColumVisibility() ? settings.parameterColumns.size() + 2 : columns;
-    return shown * (shown - 1) / 2 * bytesPerPoint;
+    const std::size_t shown = settings.getLimitColumVisibility() ? parameters + 2 : columns;
+    return pairsOf(shown) * bytesPerPoint;
   }
+  case multiPlot:
+    // The pairs and the main chart, which goes with them.
+    return (pairsOf(parameters) + std::min<std::size_t>(parameters, 1)) * bytesPerPoint;
+  case fitParameterDistribution:
+    return (pairsOf(parameters) + parameters) * bytesPerPoint;
+  case selectionCdfPlot:
+    // The runs; the curves of the parameters have few points.
+    return bytesPerPoint;
   case parallelCoordinates:
     return (chosen < fewestChosenAxes ? columns : chosen) * bytesPerPoint;
   default:

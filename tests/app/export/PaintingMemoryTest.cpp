@@ -51,6 +51,31 @@ TEST(PaintingMemory, IsThatOfEveryPairAndEveryAxisOfARow)
   EXPECT_EQ(neededBy(parallelCoordinates) - pixels, columns * (plain - pixels));
 }
 
+TEST(PaintingMemory, IsThatOfEveryChartOfAPage)
+{
+  PlotContainer container(nullptr);
+  showStudy(sampleStudy(sampleRuns(10, 1000)), container);
+  PlotMetaData& settings = *container.getMetaData();
+  settings.blockSignals(true);
+  const std::size_t pixels = memoryToPaint(PlotContainer(nullptr), {100, 100});
+  const auto neededBy = [&](plotStyles style)
+  {
+    settings.setPlotStyle(style);
+    return memoryToPaint(container, {100, 100}) - pixels;
+  };
+  settings.yColumns.resize(1);
+  const std::size_t chart = neededBy(xyPlot);
+  settings.yColumns = {3, 4};
+  for (const std::size_t parameters : {0, 1, 2, 5})
+  {
+    settings.parameterColumns.assign(parameters, 2);
+    const std::size_t pairs = parameters * (parameters - 1) / 2;
+    EXPECT_EQ(neededBy(multiPlot), parameters == 0 ? 0 : (pairs + 1) * chart) << parameters;
+    EXPECT_EQ(neededBy(fitParameterDistribution), (pairs + parameters) * chart) << parameters;
+    EXPECT_EQ(neededBy(selectionCdfPlot), chart) << parameters;
+  }
+}
+
 TEST(PaintingMemory, IsThereOrNot)
 {
 #ifdef __SANITIZE_ADDRESS__
