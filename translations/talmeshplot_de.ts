@@ -11,6 +11,10 @@
         <source>no program reads from this pipe</source>
         <translation>kein Programm liest aus dieser Pipe</translation>
     </message>
+    <message>
+        <source>the reader of this pipe takes no more</source>
+        <translation>der Leser dieser Pipe nimmt nichts mehr an</translation>
+    </message>
 </context>
 <context>
     <name>GroupController</name>

@@ -12,6 +12,7 @@
 #include <csignal>
 #include <ctime>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -32,6 +33,8 @@ constexpr auto betweenTries = 20ms;
 /// What went wrong, even where the system has no word for it.
 QString reasonOf(int error)
 {
+  if (error == EAGAIN)
+    return QCoreApplication::translate("FileWriter", "the reader of this pipe takes no more");
   return error != 0 ? qt_error_string(error)
                     : QCoreApplication::translate("FileWriter", "not all of it could be written");
 }
@@ -65,13 +68,24 @@ protected:
         written += taken;
       else if (taken == 0)
         failure = EIO;
-      else if (errno != EINTR)
+      else if (errno != EINTR && !(errno == EAGAIN && takesMore()))
         failure = errno;
     }
     return failure == 0 ? written : -1;
   }
 
 private:
+  /// Waits for a reader that is slower.
+  /// @return whether to try again; if not, why not is in errno
+  bool takesMore() const
+  {
+    pollfd wanted = {descriptor, POLLOUT, 0};
+    const int ready = ::poll(&wanted, 1, std::chrono::milliseconds(patience).count());
+    if (ready == 0)
+      errno = EAGAIN;
+    return ready > 0 || (ready < 0 && errno == EINTR);
+  }
+
   int descriptor;
   int failure = 0;
 };
@@ -150,14 +164,15 @@ QString replaceFile(const QString& path, const FileContent& content)
   return errno != 0 ? reasonOf(errno) : file.errorString();
 }
 
-/// Opens a device or a pipe. A pipe without a reader would hold the program for ever.
+/// Opens a device or a pipe. A pipe without a reader, or whose reader stops reading, would hold the
+/// program for ever.
 int openInto(const QByteArray& name, bool pipe)
 {
   const auto end = std::chrono::steady_clock::now() + patience;
   for (;;)
   {
     const int descriptor = ::open(name.constData(), O_WRONLY | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor >= 0)
+    if (descriptor >= 0 && !pipe)
       ::fcntl(descriptor, F_SETFL, 0);
     const bool waits = descriptor < 0 && (errno == EINTR || (pipe && errno == ENXIO));
     if (!waits || std::chrono::steady_clock::now() > end)

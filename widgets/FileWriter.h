@@ -16,7 +16,8 @@ using FileContent = std::function<bool(QIODevice&)>;
 
 /// Writes a file. An older one of the name stays whole until the new one is on the disk, where its
 /// folder takes new files. Links are followed. Into what is no regular file, as a device or a pipe,
-/// the bytes are written; a pipe must have a reader within five seconds.
+/// the bytes are written; a pipe must have a reader within five seconds, who must not pause for
+/// longer.
 /// @return why not all of it was written, in one line; empty on success
 QString writeFile(const QString& path, const FileContent& content);
 

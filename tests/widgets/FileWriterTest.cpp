@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <fcntl.h>
 #include <future>
@@ -223,6 +224,23 @@ TEST_F(FileWriter, DoesNotWaitForEverForAReader)
 {
   ASSERT_EQ(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
   EXPECT_EQ(write(path("pipe"), "unread"), "no program reads from this pipe");
+}
+
+TEST_F(FileWriter, DoesNotWaitForEverForAReaderThatReadsNoMore)
+{
+  const QByteArray pipe = QFile::encodeName(path("pipe"));
+  ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+  const int reader = open(pipe.constData(), O_RDONLY | O_NONBLOCK);
+  std::promise<void> returned;
+  // A writer that does wait is let go, with another error.
+  const auto leaving = std::async(std::launch::async,
+                                  [reader, isBack = returned.get_future()]
+                                  {
+                                    isBack.wait_for(std::chrono::seconds(20));
+                                    close(reader);
+                                  });
+  EXPECT_EQ(write(path("pipe"), QByteArray(1000000, 'p')), "the reader of this pipe takes no more");
+  returned.set_value();
 }
 
 TEST_F(FileWriter, WritesIntoDevices)
