@@ -8,12 +8,12 @@
 #include "vtk/SelectionColumns.h"
 #include "vtk/vtkPlotInvisiblePoints.h"
 #include "vtk/vtkPlotLineSet.h"
+#include "vtk/vtkPlotShiftedBag.h"
 
 #include <vtkAxis.h>
 #include <vtkBrush.h>
 #include <vtkLookupTable.h>
 #include <vtkPen.h>
-#include <vtkPlotFunctionalBag.h>
 
 #include <array>
 
@@ -41,7 +41,7 @@ void addBand(PlotState& state, const Band& band)
 {
   const int time = columnIndex(state.quartileTable, "Time");
   const int value = columnIndex(state.quartileTable, band.column);
-  vtkNew<vtkPlotFunctionalBag> plot;
+  vtkNew<vtkPlotShiftedBag> plot;
   plot->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
   plot->GetBrush()->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
   vtkNew<vtkPen> selectionPen;

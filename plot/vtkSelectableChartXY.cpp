@@ -7,8 +7,10 @@
 #include "vtk/PointCloud.h"
 #include "vtk/vtkGuardedAxis.h"
 #include "vtk/vtkPlotSafeLine.h"
+#include "vtk/vtkPlotShiftedStack.h"
 
 #include <vtkAnnotationLink.h>
+#include <vtkBrush.h>
 #include <vtkChartLegend.h>
 #include <vtkChartMatrix.h>
 #include <vtkCommand.h>
@@ -100,9 +102,12 @@ vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
     plot = vtkSmartPointer<vtkPlotSafeLine>::New();
   else if (type == POINTS)
     plot = vtkSmartPointer<Talmesh::PointCloud>::New();
+  else if (type == STACKED)
+    plot = vtkSmartPointer<vtkPlotShiftedStack>::New();
   else
     return replaced;
   plot->GetPen()->DeepCopy(replaced->GetPen());
+  plot->GetBrush()->DeepCopy(replaced->GetBrush());
   RemovePlotInstance(replaced);
   AddPlot(plot, blockIndex);
   return plot;

@@ -3,9 +3,11 @@
 #include <vtkContext2D.h>
 #include <vtkDataArray.h>
 #include <vtkIdTypeArray.h>
+#include <vtkNew.h>
 #include <vtkPen.h>
 #include <vtkPoints2D.h>
 #include <vtkTable.h>
+#include <vtkTransform2D.h>
 #include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
@@ -28,6 +30,21 @@ void paintLegendLine(vtkContext2D* painter, vtkPen* pen, const vtkRectf& rect)
 float effectiveMarkerSize(float markerSize, vtkPen* pen)
 {
   return markerSize < 0.0f ? std::max(8.0f, static_cast<float>(pen->GetWidth() * 2.3)) : markerSize;
+}
+
+ShiftedPainting::ShiftedPainting(vtkContext2D* painter, const vtkRectd& shiftScale)
+    : shifted(painter)
+{
+  vtkNew<vtkTransform2D> transform;
+  transform->Scale(shiftScale.GetWidth(), shiftScale.GetHeight());
+  transform->Translate(shiftScale.GetX(), shiftScale.GetY());
+  painter->PushMatrix();
+  painter->AppendTransform(transform);
+}
+
+ShiftedPainting::~ShiftedPainting()
+{
+  shifted->PopMatrix();
 }
 
 SelectionWithin::SelectionWithin(vtkIdTypeArray*& itemSelection, vtkPoints2D* points,

@@ -28,6 +28,22 @@ void paintLegendLine(vtkContext2D* painter, vtkPen* pen, const vtkRectf& rect);
 /// width but at least 8.
 float effectiveMarkerSize(float markerSize, vtkPen* pen);
 
+/// Lets an item that knows nothing of its chart's shift and scale paint under them: while this
+/// object lives, the painter takes (x, y) to ((x + shift x) * scale x, (y + shift y) * scale y).
+/// Points that are logarithms are shifted as such, as the chart does with those of its axes.
+class ShiftedPainting
+{
+public:
+  /// @param shiftScale the shifts as position, the scales as size
+  ShiftedPainting(vtkContext2D* painter, const vtkRectd& shiftScale);
+  ~ShiftedPainting();
+  ShiftedPainting(const ShiftedPainting&) = delete;
+  ShiftedPainting& operator=(const ShiftedPainting&) = delete;
+
+private:
+  vtkContext2D* shifted;
+};
+
 /// Replaces a plot item's selection, while this object lives, by its ids inside
 /// [0, pointCount): the painting of vtkPlotPoints reads coordinates for every id it is given. If
 /// the points have changed since the selected ones were gathered, a copy, which counts as new,

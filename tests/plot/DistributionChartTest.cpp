@@ -7,6 +7,7 @@
 #include "support/PlotScene.h"
 #include "support/SampleRuns.h"
 #include "support/VtkErrors.h"
+#include "vtk/vtkPlotShiftedStack.h"
 
 #include <vtkAxis.h>
 #include <vtkBrush.h>
@@ -207,6 +208,13 @@ TEST_F(DistributionChart, TheCurveIsOneBlueArea)
   EXPECT_FALSE(chart()->GetInteractive());
   scene.render(container);
   EXPECT_GT(scene.paintedPixels(), 1000);
+}
+
+TEST_F(DistributionChart, TheCurveFollowsAShiftedChart)
+{
+  NormalDistribution normal(5.0, 2.0);
+  container.setDistribution(&normal);
+  EXPECT_NE(dynamic_cast<vtkPlotShiftedStack*>(chart()->GetPlot(0)), nullptr);
 }
 
 TEST_F(DistributionChart, RangeEndsAreFormattedButNotAttached)

@@ -2,6 +2,7 @@
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "vtk/vtkPlotLineSet.h"
+#include "vtk/vtkPlotShiftedBag.h"
 
 #include <vtkAxis.h>
 #include <vtkCommand.h>
@@ -70,6 +71,14 @@ TEST_F(SelectionTrajectories, DrawsQuantileBandsBehindTheRuns)
   EXPECT_EQ(colorOf(chart->GetPlot(1)), (std::array<int, 3>{64, 64, 255}));
   selectFirstRuns(5);
   scene.render(container);
+}
+
+TEST_F(SelectionTrajectories, DrawsQuantileBandsThatFollowAShiftedChart)
+{
+  draw(3);
+  settings().setShowQuantiles(true);
+  for (int i = 0; i < 3; ++i)
+    EXPECT_NE(dynamic_cast<vtkPlotShiftedBag*>(container.getChartXY()->GetPlot(i)), nullptr);
 }
 
 TEST_F(SelectionTrajectories, DrawsRunsAsALineSetOrAsPoints)
