@@ -157,6 +157,16 @@ bool vtkSelectableChartXY::Paint(vtkContext2D* painter)
   return Superclass::Paint(painter);
 }
 
+// The plots have just been told the shift and scale of this painting's axes, with which they must
+// read their points anew. A plot that is read only at the next painting would be missing in this one.
+bool vtkSelectableChartXY::PaintChildren(vtkContext2D* painter)
+{
+  for (vtkIdType i = 0; i < GetNumberOfPlots(); ++i)
+    if (GetPlot(i)->GetVisible())
+      GetPlot(i)->Update();
+  return Superclass::PaintChildren(painter);
+}
+
 bool vtkSelectableChartXY::MouseEnterEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::plot::HandlerScope running;

@@ -41,6 +41,7 @@ public:
   /// and may be.
   void SettleScales();
   bool Paint(vtkContext2D* painter) override;
+  bool PaintChildren(vtkContext2D* painter) override;
   bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseLeaveEvent(const vtkContextMouseEvent& mouse) override;

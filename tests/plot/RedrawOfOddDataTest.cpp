@@ -74,6 +74,28 @@ TEST_P(RedrawOfOddData, SurvivesColumnsEmptiedInPlace)
   }
 }
 
+TEST_P(RedrawOfOddData, ShowsValuesOfAnyMagnitudeInTheFirstPainting)
+{
+  for (const double magnitude : {1e12, 1e-12})
+  {
+    const auto table =
+        tableOf({{"a", {1, 2, 3, 4, 5}}, {"b", {1, 5, 2, 4, 3}}, {"c", {2, 1, 5, 3, 4}}});
+    for (vtkIdType column = 0; column < 3; ++column)
+      for (vtkIdType row = 0; row < 5; ++row)
+        table->SetValue(row, column, magnitude * table->GetValue(row, column).ToDouble());
+    container.setPlotData(table);
+    settings().xColumns = {0};
+    settings().yColumns = {1};
+    settings().zColumns = {2};
+    setStyle(GetParam());
+    container.redraw();
+    scene.render(container);
+    const int first = scene.paintedPixels();
+    scene.renderItems();
+    EXPECT_EQ(first, scene.paintedPixels()) << magnitude;
+  }
+}
+
 TEST_P(RedrawOfOddData, SurvivesTextAndUnnamedColumns)
 {
   vtkSmartPointer<vtkTable> table = plainTable();
