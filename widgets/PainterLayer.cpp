@@ -56,14 +56,15 @@ PainterLayer::PainterLayer(const QRectF& area, double resolution, double pageHei
   const int right = static_cast<int>(std::ceil(area.right() * resolution));
   const int bottom = static_cast<int>(std::floor((pageHeight - area.bottom()) * resolution));
   const int top = static_cast<int>(std::ceil((pageHeight - area.top()) * resolution));
-  picture = QImage(right - left, top - bottom, QImage::Format_ARGB32_Premultiplied);
-  if (picture.isNull() && right > left && top > bottom)
+  empty = right <= left || top <= bottom;
+  // Who paints needs something to paint on, also where nothing of it is seen.
+  picture = QImage(empty ? QSize(1, 1) : QSize(right - left, top - bottom),
+                   QImage::Format_ARGB32_Premultiplied);
+  if (picture.isNull())
     throw std::bad_alloc();
   picture.fill(Qt::transparent);
   place = QRectF(left / resolution, pageHeight - top / resolution, picture.width() / resolution,
                  picture.height() / resolution);
-  if (picture.isNull())
-    return;
   inside.begin(&picture);
   inside.setRenderHint(QPainter::Antialiasing);
   inside.scale(resolution, resolution);
@@ -75,7 +76,7 @@ PainterLayer::~PainterLayer() = default;
 void PainterLayer::putOn(QPainter& page)
 {
   inside.end();
-  if (picture.isNull())
+  if (empty)
     return;
   const double unit = place.width() / picture.width();
   const QRect part = paintedPart(picture);

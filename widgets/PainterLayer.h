@@ -32,6 +32,7 @@ private:
   QImage picture;
   QPainter inside;
   QRectF place;
+  bool empty = false;
 };
 } // namespace Talmesh
 

@@ -95,7 +95,7 @@ TEST_F(DrawingInWindow, HasALogarithmicYAxisOnThePagesOfRunsButNotWithErrorBars)
   for (const plotStyles shown : {multiPlot, scatterWithErrorBars, selectionCdfPlot, xyPlot})
   {
     style->setCurrentIndex(style->findData(static_cast<int>(shown)));
-    const bool log = container().getChartXY()->GetAxis(vtkAxis::LEFT)->GetLogScale();
+    const bool log = container().showsLogScaleY();
     EXPECT_EQ(log, shown != scatterWithErrorBars) << shown;
     EXPECT_EQ(logY->isChecked(), log) << shown;
   }
