@@ -43,6 +43,7 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
 {
   const auto widget = makeHiddenPlot(size);
   PlotContainer& container = *widget->plotContainer();
+  container.setDiagnosticsShown(false);
   showStudy(opened.study, container);
   chooseOpeningStyle(container, options);
   RunNormaliser normaliser;

@@ -157,8 +157,8 @@ bool vtkSelectableChartXY::Paint(vtkContext2D* painter)
   return Superclass::Paint(painter);
 }
 
-// The plots have just been told the shift and scale of this painting's axes, with which they must
-// read their points anew. A plot that is read only at the next painting would be missing in this one.
+// The plots have just been told the shift and scale of this painting's axes and must read their
+// points anew, or they would be missing in it.
 bool vtkSelectableChartXY::PaintChildren(vtkContext2D* painter)
 {
   for (vtkIdType i = 0; i < GetNumberOfPlots(); ++i)
