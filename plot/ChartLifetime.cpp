@@ -127,6 +127,15 @@ void leaveSobolChart(PlotState& state)
     releaseChartXY(state);
 }
 
+bool showsSelectableRows(const PlotState& state)
+{
+  auto* chart = vtkChartXY::SafeDownCast(state.currentChart);
+  if (!chart || state.table != state.tableOfResults.Get())
+    return true;
+  // The chart of a distribution takes no mouse.
+  return chart != state.sobolChart.Get() && chart->GetInteractive();
+}
+
 void adoptCell(PlotState& state, int column, int row)
 {
   releaseChartXY(state);

@@ -57,6 +57,10 @@ void retireCells(PlotState& state, const ChartCells& cells, vtkContextScene* sce
 /// Releases an XY chart that was built from Sobol results: its axes and legend fit nothing else.
 void leaveSobolChart(PlotState& state);
 
+/// Whether the chart now shown draws rows that a selection can name. Those of Sobol results and of
+/// the density of a distribution are none.
+bool showsSelectableRows(const PlotState& state);
+
 /// Makes the cell of the chart matrix at `column`, `row` the container's XY chart.
 void adoptCell(PlotState& state, int column, int row);
 

@@ -103,6 +103,7 @@ RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve)
 {
   const auto [low, high] = curve.range;
   replaceTable(state, curve.table);
+  state.tableOfResults = state.table;
   vtkChartXY* chart = reuseChartXY(state, currentScene(state));
   // Densities are shown from zero on.
   forgetLogScaleY(state);

@@ -134,6 +134,8 @@ struct PlotState
   std::vector<vtkWeakPointer<vtkPlot>> decorationPlots;
   /// The chart last built from Sobol results, whose plots the reserved styles keep.
   vtkWeakPointer<vtkChartXY> sobolChart;
+  /// The table last made of Sobol results or of a distribution.
+  vtkWeakPointer<vtkTable> tableOfResults;
   /// Never null; shared with the event loop, which empties it.
   std::shared_ptr<ChartShelf> setAside = std::make_shared<ChartShelf>();
   /// Whether a redraw leaves the scatter-plot matrix the pair that the user chose.

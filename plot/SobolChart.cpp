@@ -154,6 +154,7 @@ void buildSobolChart(PlotState& state, bool total)
   state.chartXY = makeXYChart(state);
   state.currentChart = state.chartXY;
   state.sobolChart = state.chartXY;
+  state.tableOfResults = state.table;
   // Its rows are none that the selection speaks of, and a selection would replace it.
   state.chartXY->SetAnnotationLink(nullptr);
   if (state.metaData->getPlotStyle() == reservedStyle2)

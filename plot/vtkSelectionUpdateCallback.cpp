@@ -1,6 +1,7 @@
 #include "plot/vtkSelectionUpdateCallback.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/ChartLifetime.h"
 #include "plot/DerivedTables.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
@@ -71,6 +72,9 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
   // Who watches the selection may end the container, and with it the link that holds this callback.
   const vtkSmartPointer<vtkSelectionUpdateCallback> kept = this;
   PlotContainer& container = *this->Container;
+  // A reaction would cut the selection to rows that it does not speak of, and draw another chart.
+  if (!Talmesh::plot::showsSelectableRows(container.state()))
+    return;
   if (link == container.getAnnotationLink())
     reportFailure(container, [&] { Talmesh::plot::cutSelectionToTable(container.state()); });
   if (!this->Container || container.getMetaData()->parameterColumns.empty())

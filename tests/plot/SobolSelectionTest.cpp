@@ -1,3 +1,4 @@
+#include "external/Distribution.h"
 #include "plot/SelectionNodes.h"
 
 #include <vtkContextMouseEvent.h>
@@ -63,6 +64,41 @@ TEST_F(SobolSelection, IsNoneThatTheMouseMakes)
   EXPECT_EQ(std::string(before->GetTitle()), title);
   EXPECT_EQ(container.state().drawings, drawings);
   EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({1, 90}));
+}
+
+TEST_F(SobolSelection, OfAProgramIsKeptWithoutAReaction)
+{
+  ASSERT_FALSE(container.getMetaData()->parameterColumns.empty());
+  const vtkSmartPointer<vtkChartXY> before = chart();
+  const std::string title = before->GetTitle();
+  const unsigned long drawings = container.state().drawings;
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
+  container.annotationUpdate();
+  EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({2, 70}));
+  EXPECT_EQ(container.state().drawings, drawings);
+  EXPECT_EQ(chart(), before);
+  EXPECT_EQ(std::string(before->GetTitle()), title);
+}
+
+TEST_F(SobolSelection, OfAProgramLeavesADistributionAlone)
+{
+  UniformDistribution uniform(0.0, 1.0);
+  container.setDistribution(&uniform);
+  const vtkSmartPointer<vtkChartXY> before = chart();
+  const unsigned long drawings = container.state().drawings;
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
+  EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({2, 70}));
+  EXPECT_EQ(container.state().drawings, drawings);
+  EXPECT_FALSE(before->GetInteractive());
+}
+
+TEST_F(SobolSelection, ComparesRunsAgainOnceTheyAreTheTable)
+{
+  SampleRuns::load(container, SampleRuns::runs(30, 4));
+  container.getMetaData()->setPlotStyle(selectionCdfPlot);
+  container.setScene(scene.scene());
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
+  EXPECT_EQ(container.getDerivedTables().size(), 8U);
 }
 
 } // namespace
