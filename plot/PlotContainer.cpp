@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
 #include "plot/ColumnReduction.h"
+#include "plot/DrawingSteps.h"
 #include "plot/MatrixSelection.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
@@ -19,6 +20,7 @@
 
 #include <exception>
 #include <iostream>
+#include <utility>
 
 using Talmesh::plot::PlotState;
 
@@ -157,6 +159,21 @@ void PlotContainer::drawOrReport()
     Talmesh::plot::unblockSettings(*d);
     std::cerr << "void PlotContainer::redraw(): " << problem.what() << std::endl;
   }
+}
+
+void PlotContainer::addCompletion(const QObject* owner, std::function<void()> complete)
+{
+  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::after, owner, std::move(complete));
+}
+
+void PlotContainer::addPreparation(const QObject* owner, std::function<void()> prepare)
+{
+  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::before, owner, std::move(prepare));
+}
+
+void PlotContainer::removeDrawingSteps(const QObject* owner)
+{
+  Talmesh::plot::removeSteps(*d, owner);
 }
 
 void PlotContainer::dirty()

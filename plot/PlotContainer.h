@@ -13,6 +13,7 @@
 #include <QStringList>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -291,6 +292,31 @@ public:
   /// parameter columns in the settings the runs are split, ranked by the bounds known before, and
   /// redraw() is called; without a scene that writes its line and leaves the settings silenced.
   void readDump(QByteArray* data);
+  /// @}
+
+  /// @name Steps of every drawing
+  /// @{
+  /// Has every redraw(), whoever asks for it, end with `complete`: when the chart is built, has
+  /// its point size, marker, decorations and logarithmic x axis, is getItem() and stands in its
+  /// scene, but before the settings speak again. There the client adds what the library does not
+  /// know of, such as further plots. Redraws that draw nothing, for want of a scene, have no steps;
+  /// of a drawing within a drawing the steps run once for the page that is shown.
+  ///
+  /// Steps run in order of registration. Settings are silent in each of them. They live until the
+  /// container or `owner`, which is not null, dies, or until removeDrawingSteps(), which may be
+  /// called by a step; one that is registered by a step runs from the next drawing on. A copy of
+  /// the container has none. A step must not end the container.
+  ///
+  /// An exception from a step ends the drawing like one from the style's builder, see redraw(): the
+  /// steps after it do not run, and the settings speak again. A redraw that a completion asks for,
+  /// directly or by a change of settings or selection, follows when all completions are done, once
+  /// however many ask; what the completions of that one ask for is ignored.
+  void addCompletion(const QObject* owner, std::function<void()> complete);
+  /// As above, but `prepare` runs before the style's builder, which draws what it leaves behind. A
+  /// redraw that it asks for is this one.
+  void addPreparation(const QObject* owner, std::function<void()> prepare);
+  /// Drops all completions and preparations of `owner`.
+  void removeDrawingSteps(const QObject* owner);
   /// @}
 
   /// All that the container knows. The builders, the callbacks and the viewer write it as well as

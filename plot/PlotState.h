@@ -6,6 +6,7 @@
 #include "external/TypedConcentrationName.h"
 #include "plot/AxisScales.h"
 #include "plot/AxisWindows.h"
+#include "plot/DrawingSteps.h"
 #include "plot/KsStatistics.h"
 #include "plot/MatrixSelection.h"
 #include "plot/RankedInputs.h"
@@ -143,6 +144,8 @@ struct PlotState
   /// Counts the redraws completed, so that a drawing notices when one ran inside it. One that an
   /// exception ended does not count: the drawing around it still has a page to fill.
   unsigned long drawings = 0;
+  /// What clients do in every redraw. A copied container has none.
+  DrawingSteps steps;
 };
 
 } // namespace Talmesh::plot

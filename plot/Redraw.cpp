@@ -4,6 +4,7 @@
 #include "plot/AxisScales.h"
 #include "plot/ChartLifetime.h"
 #include "plot/Decorations.h"
+#include "plot/DrawingSteps.h"
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/RankedTables.h"
@@ -46,29 +47,61 @@ bool cutSelection(PlotState& state)
   return !callback->Container || state.drawings != before;
 }
 
+/// @return whether a drawing ran inside the builder, which is the one that is shown
+bool build(PlotState& state, vtkContextScene* scene)
+{
+  const unsigned long before = state.drawings;
+  builderOf(state.metaData->getPlotStyle())(state, scene);
+  return state.drawings != before;
+}
+
+/// What a step before the drawing asks for is in the drawing.
+void prepare(PlotState& state)
+{
+  runSteps(state, DrawingMoment::before);
+  state.steps.again = false;
+}
+
+/// @return whether a page was drawn; otherwise the container may be gone
+bool draw(PlotState& state)
+{
+  freeChartsSetAside(state);
+  if (cutSelection(state))
+    return false;
+  blockSettings(state);
+  if (state.chartXY)
+    state.chartXY->RemoveObservers(vtkCommand::InteractionEvent);
+  if (!currentScene(state))
+  {
+    std::cout << "void PlotContainer::redraw(): invalid scene" << std::endl;
+    return false;
+  }
+  prepare(state);
+  dropOutdatedRanks(state);
+  if (!showsXYChart(state.metaData->getPlotStyle()))
+    forgetChartLooks(state);
+  const bool drawnWithin = build(state, currentScene(state));
+  dress(state);
+  if (!drawnWithin)
+    runSteps(state, DrawingMoment::after);
+  ++state.drawings;
+  unblockSettings(state);
+  return true;
+}
+
 } // namespace
 
 void redraw(PlotState& state)
 {
-  freeChartsSetAside(state);
-  if (cutSelection(state))
-    return;
-  blockSettings(state);
-  if (state.chartXY)
-    state.chartXY->RemoveObservers(vtkCommand::InteractionEvent);
-  vtkContextScene* scene = currentScene(state);
-  if (!scene)
+  // In the middle of a step the chart is not ready to be built anew.
+  if (state.steps.running)
   {
-    std::cout << "void PlotContainer::redraw(): invalid scene" << std::endl;
+    state.steps.again = true;
     return;
   }
-  dropOutdatedRanks(state);
-  if (!showsXYChart(state.metaData->getPlotStyle()))
-    forgetChartLooks(state);
-  builderOf(state.metaData->getPlotStyle())(state, scene);
-  dress(state);
-  ++state.drawings;
-  unblockSettings(state);
+  // Twice at most: steps that ask in every drawing would never come to an end.
+  if (draw(state) && state.steps.again)
+    draw(state);
 }
 
 void markDirty(PlotState& state)

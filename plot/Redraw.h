@@ -9,8 +9,9 @@ struct PlotState;
 /// Builds the chart of the settings' plot style into the scene of the chart now shown. Does not
 /// render. First cuts the selection to the table; a drawing that an observer of the selection
 /// answers with stands for this one. Without a scene it writes one line to standard output and
-/// leaves the settings silenced.
-/// @throws whatever the style's builder throws; the settings are then silenced
+/// leaves the settings silenced. Clients' steps run before and after the drawing; called by one of
+/// those after it, it draws once more when they are done.
+/// @throws whatever the style's builder or a step throws; the settings are then silenced
 void redraw(PlotState& state);
 
 /// Asks the scene of the chart now shown, if any, to paint again.

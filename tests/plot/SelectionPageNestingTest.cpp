@@ -154,4 +154,42 @@ TEST_F(SelectionPageNesting, BuildsAPageWithoutAScene)
   expectOnePage(1);
 }
 
+TEST_F(SelectionPageNesting, RunsTheStepsOfClientsOnceForThePageThatIsShown)
+{
+  draw(3);
+  int preparations = 0;
+  int completions = 0;
+  container.addPreparation(&container, [&] { ++preparations; });
+  container.addCompletion(&container,
+                          [&]
+                          {
+                            ++completions;
+                            container.getChartXY()->AddPlot(vtkChart::POINTS);
+                          });
+  container.state().selectionUpdatePending = true;
+  container.redraw();
+  EXPECT_EQ(completions, 1);
+  EXPECT_EQ(preparations, 2) << "of the drawing begun and of the one within";
+  EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), 2);
+  container.redraw();
+  EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), 2);
+}
+
+TEST_F(SelectionPageNesting, FollowsASelectionThatACompletionMakes)
+{
+  draw(3);
+  bool made = false;
+  container.addCompletion(&container,
+                          [&]
+                          {
+                            if (std::exchange(made, true))
+                              return;
+                            container.getAnnotationLink()->SetCurrentSelection(
+                                Talmesh::plot::makeRowSelection({0}));
+                          });
+  container.redraw();
+  // Curves of all, of the selected and of the other runs.
+  expectOnePage(3);
+}
+
 } // namespace
