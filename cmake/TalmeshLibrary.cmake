@@ -13,6 +13,8 @@ target_include_directories(talmeshplot PUBLIC
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
   $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/talmeshplot>)
 target_compile_features(talmeshplot PUBLIC cxx_std_17)
+# VTK's headers may include those of oneTBB, which have functions named "emit": the library writes Q_EMIT.
+target_compile_definitions(talmeshplot PRIVATE QT_NO_EMIT)
 set_target_properties(talmeshplot PROPERTIES
   EXPORT_NAME Plot
   VERSION ${PROJECT_VERSION}

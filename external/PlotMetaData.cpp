@@ -32,7 +32,7 @@ void PlotMetaData::change(T& option, T value)
   if (sameValue(option, value))
     return;
   option = value;
-  emit redrawNeeded();
+  Q_EMIT redrawNeeded();
 }
 
 void PlotMetaData::setPlotStyle(plotStyles plotStyle)

@@ -12,6 +12,7 @@
 #include "vtk/vtkPlotStepLine.h"
 
 #include <vtkAxis.h>
+#include <vtkPen.h>
 
 #include <algorithm>
 #include <array>
@@ -58,7 +59,9 @@ void addCurves(const PlotState& state, vtkChart* chart, const std::string& label
   for (std::size_t dataSet = 1; densitySlotOf(rankSlot(dataSet)) < slotCount; ++dataSet)
   {
     const Color& color = dataSetColors[(dataSet - 1) % dataSetColors.size()];
-    addCurve(state, chart, rankSlot(dataSet), label)->SetColor(color[0], color[1], color[2]);
+    addCurve(state, chart, rankSlot(dataSet), label)
+        ->GetPen()
+        ->SetColorF(color[0], color[1], color[2]);
   }
 }
 

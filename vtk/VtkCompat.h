@@ -2,6 +2,7 @@
 #define VtkCompat_h
 
 #include <vtkSetGet.h>
+#include <vtkVersion.h>
 
 /// vtkTypeMacro that is followed by a semicolon like any declaration. VTK's own ends in an access
 /// label, after which a semicolon is one too many.
@@ -19,6 +20,22 @@
 #define TALMESH_VTK_HAS_UNICODE_STRING 1
 #else
 #define TALMESH_VTK_HAS_UNICODE_STRING 0
+#endif
+
+/// The class of text with which VTK's OpenGL device draws in the end, whichever it was given.
+#if TALMESH_VTK_HAS_UNICODE_STRING
+class vtkUnicodeString;
+using VtkDrawnText = vtkUnicodeString;
+#else
+class vtkStdString;
+using VtkDrawnText = vtkStdString;
+#endif
+
+/// What a subclass of vtkPlotPoints calls to read its columns again.
+#if VTK_VERSION_NUMBER < VTK_VERSION_CHECK(9, 2, 0)
+#define TALMESH_VTK_UPDATE_CACHE(table) UpdateTableCache(table)
+#else
+#define TALMESH_VTK_UPDATE_CACHE(table) UpdateCache()
 #endif
 
 #endif

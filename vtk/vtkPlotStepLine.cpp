@@ -72,7 +72,7 @@ bool vtkPlotStepLine::UpdateStepPointsCache(vtkTable* table)
   {
     const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
                                        this->Colors);
-    this->UpdateTableCache(table);
+    this->TALMESH_VTK_UPDATE_CACHE(table);
   }
   if (!this->StepPoints)
     this->StepPoints = vtkPoints2D::New();

@@ -9,7 +9,12 @@
 #include <vtkPath.h>
 #include <vtkTextProperty.h>
 #include <vtkTextRenderer.h>
+
+#if TALMESH_VTK_HAS_UNICODE_STRING
 #include <vtkUnicodeString.h>
+#else
+#include <vtkStdString.h>
+#endif
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +24,18 @@ vtkStandardNewMacro(PdfContextDevice);
 
 namespace
 {
+
+#if TALMESH_VTK_HAS_UNICODE_STRING
+std::string lettersOf(const vtkUnicodeString& text)
+{
+  return text.utf8_str();
+}
+#else
+const std::string& lettersOf(const vtkStdString& text)
+{
+  return text;
+}
+#endif
 
 /// The writer copies letters between parentheses, which is how a string starts and ends in a PDF: a
 /// parenthesis without its partner, or a backslash, would spoil the rest of the page.
@@ -36,11 +53,11 @@ bool isWrittenAsText(const std::string& text)
 
 } // namespace
 
-void PdfContextDevice::DrawString(float* point, const vtkUnicodeString& text)
+void PdfContextDevice::DrawString(float* point, const VtkDrawnText& text)
 {
   vtkOpenGLGL2PSHelper* writer = vtkOpenGLGL2PSHelper::GetInstance();
   vtkTextRenderer* renderer = vtkTextRenderer::GetInstance();
-  const std::string letters = text.utf8_str();
+  const std::string letters = lettersOf(text);
   const bool writes = writer && writer->GetActiveState() == vtkOpenGLGL2PSHelper::Capture;
   if (!writes || !renderer || isWrittenAsText(letters))
   {

@@ -2,6 +2,7 @@
 #define PdfContextDevice_h
 
 #include "vtk/ClippedDrawing.h"
+#include "vtk/VtkCompat.h"
 
 #include <vtkOpenGLContextDevice2D.h>
 
@@ -15,7 +16,7 @@ public:
   TALMESH_VTK_TYPE(PdfContextDevice, ClippedDrawing<vtkOpenGLContextDevice2D>);
 
   using vtkOpenGLContextDevice2D::DrawString;
-  void DrawString(float* point, const vtkUnicodeString& text) override;
+  void DrawString(float* point, const VtkDrawnText& text) override;
 
 protected:
   PdfContextDevice() = default;

@@ -117,5 +117,5 @@ void PlotSelector::processNewSelection()
     if (item->parent())
       items.emplace_back(kindOf(item->parent()->text(0)), item->text(0).toStdString());
   }
-  emit notifySelectionChanged(&items);
+  Q_EMIT notifySelectionChanged(&items);
 }

@@ -47,7 +47,7 @@ TEST(LinePlotTable, StartsEmptyAndTakesNullArrays)
   EXPECT_EQ(table.pointsPerTrajectory, 0u);
   EXPECT_TRUE(table.items.empty());
   EXPECT_TRUE(table.parameterRanges.empty());
-  table.values = {nullptr, new double[0], nullptr};
+  table.values = {nullptr, new double[1], nullptr};
 }
 
 TEST(ParameterSelection, KeepsRunsUniqueAndAscending)

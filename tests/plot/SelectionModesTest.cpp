@@ -29,7 +29,7 @@ TEST(SelectionModes, CombineRows)
 {
   const Rows before = {false, false, true, true};
   const Rows hit = {false, true, false, true};
-  EXPECT_EQ(combineRows(before, hit, vtkContextScene::SELECTION_NONE), hit);
+  EXPECT_EQ(combineRows(before, hit, vtkContextScene::SELECTION_TOGGLE + 1), hit);
   EXPECT_EQ(combineRows(before, hit, vtkContextScene::SELECTION_DEFAULT), hit);
   EXPECT_EQ(combineRows(before, hit, vtkContextScene::SELECTION_ADDITION),
             (Rows{false, true, true, true}));
