@@ -1,16 +1,10 @@
 #include "app/Batch.h"
 
-#include "app/comparison/ComparisonChoice.h"
-#include "app/document/GroupedPlots.h"
-#include "app/document/PlotChoice.h"
-#include "app/document/PlotSession.h"
-#include "app/document/RunNormaliser.h"
-#include "app/document/ShownStudy.h"
+#include "app/document/Document.h"
 #include "app/examples/ExampleStudy.h"
 #include "app/examples/Gallery.h"
 #include "app/export/PictureFile.h"
 #include "app/session/StudyFile.h"
-#include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <QFile>
@@ -41,31 +35,16 @@ std::string writeExport(const CommandLineOptions& options, VtkPlotWidget& widget
 std::string writeExports(const CommandLineOptions& options, const OpenedStudy& opened,
                          const QSize& size)
 {
-  const auto widget = makeHiddenPlot(size);
-  PlotContainer& container = *widget->plotContainer();
-  container.setDiagnosticsShown(false);
-  showStudy(opened.study, container);
-  chooseOpeningStyle(container, options);
-  RunNormaliser normaliser;
-  if (opened.session)
-  {
-    restoreSettings(*opened.session, container);
-    normaliser.follow(&container);
-    normaliser.setNormalised(opened.session->settings.normalised, true);
-    restoreWindow(*opened.session, container);
-    restoreSelection(*opened.session, container);
-  }
-  PlotChoice choice =
-      opened.session ? restoredChoice(*opened.session, container) : choiceOf(container);
-  std::string error = chooseByName(container, options, choice);
+  auto widget = makeHiddenPlot(size);
+  Document document([&widget](PlotContainer& container) { widget->setPlotContainer(&container); });
+  std::string error = document.open(opened, options);
   if (error.empty())
-    error = applyChoice(container, choice);
-  if (opened.session)
-    dressRuns(container, namedGroups(opened.session->settings.groups.groupOfRun),
-              opened.session->settings.groups.look);
+    error = document.drawingError();
   for (const std::string& path : options.exports)
     if (error.empty())
       error = writeExport(options, *widget, QFile::decodeName(path.c_str()));
+  // What shows a container ends before it.
+  widget.reset();
   return error;
 }
 

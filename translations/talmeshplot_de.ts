@@ -986,6 +986,17 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>Talmesh::app::ExportController</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)</source>
+        <translation>Bild (*.png);;Vektorgrafik (*.pdf);;Tabelle (*.csv)</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::ExportDialog</name>
     <message>
         <source>As on the &amp;screen</source>
@@ -1048,6 +1059,35 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>Talmesh::app::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber Talmesh Plot</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>About Talmesh Plot</source>
+        <translation>Über Talmesh Plot</translation>
+    </message>
+    <message>
+        <source>Talmesh Plot %1
+Plots of simulated runs.</source>
+        <translation>Talmesh Plot %1
+Grafiken simulierter Läufe.</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::LoadingBar</name>
     <message>
         <source>Cancel</source>
@@ -1065,18 +1105,6 @@ p, li { white-space: pre-wrap; }
         <translation>Zeitverläufe</translation>
     </message>
     <message>
-        <source>the example study</source>
-        <translation>die Beispielstudie</translation>
-    </message>
-    <message>
-        <source>Opening %1 ...</source>
-        <translation>%1 wird geöffnet …</translation>
-    </message>
-    <message>
-        <source>Cancelled</source>
-        <translation>Abgebrochen</translation>
-    </message>
-    <message>
         <source>Wrote %1</source>
         <translation>%1 geschrieben</translation>
     </message>
@@ -1087,10 +1115,6 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>&amp;Open...</source>
         <translation>Ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>Open &amp;recent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>Open the e&amp;xample study</source>
@@ -1117,126 +1141,12 @@ p, li { white-space: pre-wrap; }
         <translation>Ctrl+Q</translation>
     </message>
     <message>
-        <source>&amp;Selection</source>
-        <translation>&amp;Auswahl</translation>
-    </message>
-    <message>
-        <source>Select &amp;all</source>
-        <translation>&amp;Alles auswählen</translation>
-    </message>
-    <message>
-        <source>Select &amp;nothing</source>
-        <translation>&amp;Nichts auswählen</translation>
-    </message>
-    <message>
-        <source>&amp;Load selected runs...</source>
-        <translation>Ausgewählte Läufe &amp;laden …</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+L</source>
-        <translation>Ctrl+Shift+L</translation>
-    </message>
-    <message>
-        <source>&amp;Save selected runs...</source>
-        <translation>Ausgewählte Läufe &amp;speichern …</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation>Ctrl+Shift+S</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>A&amp;nsicht</translation>
-    </message>
-    <message>
-        <source>Lines or points</source>
-        <translation>Linien oder Punkte</translation>
-    </message>
-    <message>
-        <source>Ctrl+L</source>
-        <translation>Ctrl+L</translation>
-    </message>
-    <message>
-        <source>Legend</source>
-        <translation>Legende</translation>
-    </message>
-    <message>
-        <source>Ctrl+G</source>
-        <translation>Ctrl+G</translation>
-    </message>
-    <message>
-        <source>Logarithmic x axis</source>
-        <translation>Logarithmische x-Achse</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+X</source>
-        <translation>Ctrl+Shift+X</translation>
-    </message>
-    <message>
-        <source>Logarithmic y axis</source>
-        <translation>Logarithmische y-Achse</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+Y</source>
-        <translation>Ctrl+Shift+Y</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Keyboard shortcuts</source>
-        <translation>&amp;Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>&amp;About</source>
-        <translation>Ü&amp;ber Talmesh Plot</translation>
-    </message>
-    <message>
         <source>Open runs</source>
         <translation>Läufe öffnen</translation>
     </message>
     <message>
         <source>Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)</source>
         <translation>Tabellen und Sitzungen (*.csv *.tsv *.txt *.talmesh);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportieren</translation>
-    </message>
-    <message>
-        <source>Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)</source>
-        <translation>Bild (*.png);;Vektorgrafik (*.pdf);;Tabelle (*.csv)</translation>
-    </message>
-    <message>
-        <source>Save selected runs</source>
-        <translation>Ausgewählte Läufe speichern</translation>
-    </message>
-    <message>
-        <source>Runs (*.json)</source>
-        <translation>Läufe (*.json)</translation>
-    </message>
-    <message>
-        <source>Load selected runs</source>
-        <translation>Ausgewählte Läufe laden</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>Noch keine</translation>
-    </message>
-    <message>
-        <source>Keyboard shortcuts</source>
-        <translation>Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>About Talmesh Plot</source>
-        <translation>Über Talmesh Plot</translation>
-    </message>
-    <message>
-        <source>Talmesh Plot %1
-Plots of simulated runs.</source>
-        <translation>Talmesh Plot %1
-Grafiken simulierter Läufe.</translation>
     </message>
     <message>
         <source>Open sessio&amp;n...</source>
@@ -1259,30 +1169,6 @@ Grafiken simulierter Läufe.</translation>
         <translation>Sitzungen (*.talmesh)</translation>
     </message>
     <message>
-        <source>S&amp;tudies</source>
-        <translation>S&amp;tudien</translation>
-    </message>
-    <message>
-        <source>&amp;Runs</source>
-        <translation>&amp;Läufe</translation>
-    </message>
-    <message>
-        <source>Ctrl+R</source>
-        <translation>Ctrl+R</translation>
-    </message>
-    <message>
-        <source>Show the runs opened last once more</source>
-        <translation>Die zuletzt geöffneten Läufe wieder zeigen</translation>
-    </message>
-    <message>
-        <source>&amp;Example circuit</source>
-        <translation>&amp;Beispielschaltkreis</translation>
-    </message>
-    <message>
-        <source>Simulate the runs of the example circuit</source>
-        <translation>Die Läufe des Beispielschaltkreises simulieren</translation>
-    </message>
-    <message>
         <source>The chart of this study is composed already.</source>
         <translation>Das Diagramm dieser Studie ist schon zusammengestellt.</translation>
     </message>
@@ -1293,10 +1179,6 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Linear scale: a logarithmic one needs positive values</source>
         <translation>Lineare Skala: eine logarithmische braucht positive Werte</translation>
-    </message>
-    <message>
-        <source>&amp;Clear list</source>
-        <translation>Liste &amp;leeren</translation>
     </message>
     <message>
         <source>Save session &amp;as...</source>
@@ -1359,6 +1241,21 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::RecentMenu</name>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Noch keine</translation>
+    </message>
+    <message>
+        <source>&amp;Clear list</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::RunNormaliser</name>
     <message>
         <source>Normalise Runs</source>
@@ -1397,6 +1294,49 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::SelectionMenu</name>
+    <message>
+        <source>&amp;Selection</source>
+        <translation>&amp;Auswahl</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select &amp;nothing</source>
+        <translation>&amp;Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Load selected runs...</source>
+        <translation>Ausgewählte Läufe &amp;laden …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation>Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>&amp;Save selected runs...</source>
+        <translation>Ausgewählte Läufe &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Save selected runs</source>
+        <translation>Ausgewählte Läufe speichern</translation>
+    </message>
+    <message>
+        <source>Runs (*.json)</source>
+        <translation>Läufe (*.json)</translation>
+    </message>
+    <message>
+        <source>Load selected runs</source>
+        <translation>Ausgewählte Läufe laden</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::SessionController</name>
     <message>
         <source>Save session</source>
@@ -1405,6 +1345,33 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Sessions (*.talmesh)</source>
         <translation>Sitzungen (*.talmesh)</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::StudiesMenu</name>
+    <message>
+        <source>S&amp;tudies</source>
+        <translation>S&amp;tudien</translation>
+    </message>
+    <message>
+        <source>&amp;Runs</source>
+        <translation>&amp;Läufe</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Show the runs opened last once more</source>
+        <translation>Die zuletzt geöffneten Läufe wieder zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Example circuit</source>
+        <translation>&amp;Beispielschaltkreis</translation>
+    </message>
+    <message>
+        <source>Simulate the runs of the example circuit</source>
+        <translation>Die Läufe des Beispielschaltkreises simulieren</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1386,21 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::StudyOpener</name>
+    <message>
+        <source>the example study</source>
+        <translation>die Beispielstudie</translation>
+    </message>
+    <message>
+        <source>Opening %1 ...</source>
+        <translation>%1 wird geöffnet …</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::TimeCoursePage</name>
     <message>
         <source>The run whose time courses are shown</source>
@@ -1427,6 +1409,45 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>R&amp;un</source>
         <translation>La&amp;uf</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>A&amp;nsicht</translation>
+    </message>
+    <message>
+        <source>Lines or points</source>
+        <translation>Linien oder Punkte</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Ctrl+G</source>
+        <translation>Ctrl+G</translation>
+    </message>
+    <message>
+        <source>Logarithmic x axis</source>
+        <translation>Logarithmische x-Achse</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+X</source>
+        <translation>Ctrl+Shift+X</translation>
+    </message>
+    <message>
+        <source>Logarithmic y axis</source>
+        <translation>Logarithmische y-Achse</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Y</source>
+        <translation>Ctrl+Shift+Y</translation>
     </message>
 </context>
 <context>

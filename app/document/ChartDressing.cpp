@@ -1,6 +1,8 @@
 #include "app/document/ChartDressing.h"
 
-#include "app/document/PlotChoice.h"
+#include "app/comparison/ComparisonChoice.h"
+#include "app/comparison/ComparisonResults.h"
+#include "app/document/FurtherSeries.h"
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
@@ -66,8 +68,8 @@ void nameAxes(const PlotContainer& container, vtkChartXYZ* chart)
   chart->SetZAxisLabel(name(settings.zColumns));
 }
 
-} // namespace
-
+/// The scatter-plot matrix has titles above and tick labels to the right, which the other charts do
+/// not.
 void makeRoom(PlotContainer& container)
 {
   const bool matrix = container.getMetaData()->getPlotStyle() == scatterPlotMatrix;
@@ -76,7 +78,7 @@ void makeRoom(PlotContainer& container)
   container.setBottomMargin(matrix ? 50 : 45);
 }
 
-void dressChart(PlotContainer& container)
+void dress3DChart(PlotContainer& container)
 {
   auto* chart = vtkChartXYZ::SafeDownCast(container.getItem());
   if (!chart)
@@ -84,6 +86,26 @@ void dressChart(PlotContainer& container)
   chart->SetMargins(margins3D);
   nameAxes(container, chart);
   tiltOnce(container, chart);
+}
+
+} // namespace
+
+void dressDrawings(PlotContainer& container)
+{
+  container.removeDrawingSteps(&container);
+  container.addPreparation(&container,
+                           [&container]
+                           {
+                             dropOutdatedTests(container);
+                             refreshQuartiles(container);
+                             makeRoom(container);
+                           });
+  container.addCompletion(&container,
+                          [&container]
+                          {
+                            dress3DChart(container);
+                            addFurtherSeries(container);
+                          });
 }
 
 } // namespace Talmesh::app

@@ -6,14 +6,12 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// Makes room for what the container's next drawing writes beside its charts: the scatter-plot
-/// matrix has titles above and tick labels to the right, which the other charts do not.
-void makeRoom(PlotContainer& container);
-
-/// Completes the chart that a container has just drawn for the viewer's window: the 3-D chart fills
-/// the scene, whatever its size becomes, has the names of its columns at its axes, and is tilted
-/// once so that its depth is seen. Other charts stay as they are.
-void dressChart(PlotContainer& container);
+/// Has every drawing of a container, whoever asks for it, come as the viewer shows it. Before: the
+/// quartiles are those of the present columns, tests of an earlier selection are forgotten, and
+/// there is room for what the style writes beside its charts. After: further y columns have their
+/// series, and the 3-D chart fills the scene, whatever its size becomes, has the names of its
+/// columns at its axes, and is tilted once so that its depth is seen.
+void dressDrawings(PlotContainer& container);
 
 } // namespace Talmesh::app
 

@@ -1,6 +1,5 @@
 #include "app/document/FurtherSeries.h"
 
-#include "app/document/PlotChoice.h"
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
@@ -66,7 +65,7 @@ void addFurtherSeries(PlotContainer& container)
 {
   vtkChartXY* chart = container.getChartXY();
   const PlotMetaData& settings = *container.getMetaData();
-  if (!chart || settings.getPlotStyle() != xyPlot || chart->GetNumberOfPlots() != 1)
+  if (!chart || settings.getPlotStyle() != xyPlot || chart->GetNumberOfPlots() == 0)
     return;
   freeLeftAxis(container, chart);
   vtkNew<vtkColorSeries> colours;
@@ -75,7 +74,7 @@ void addFurtherSeries(PlotContainer& container)
   const auto alpha = static_cast<unsigned char>(settings.color[3]);
   for (std::size_t series = 0; series < columns.size(); ++series)
   {
-    vtkSmartPointer<vtkPlot> plot = chart->GetPlot(static_cast<vtkIdType>(series));
+    vtkSmartPointer<vtkPlot> plot = chart->GetPlot(0);
     if (series > 0)
     {
       plot = addSeries(chart, container);

@@ -29,7 +29,7 @@ RunGroups namedGroups(const std::vector<int>& groupOfRun);
 /// The colour of a group in lists and charts; those of the first twelve groups differ.
 QColor groupColour(int group);
 
-/// The following complete the XY chart that a container has just drawn, with the first y column
+/// The following complete the XY chart of a container's drawing, with the first y column
 /// over the x axis, and do nothing where it shows another chart. The runs themselves stay
 /// selectable, and their highlight stays above everything but the means.
 

@@ -10,8 +10,17 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// A chart that a study draws by itself, and that a redraw of its container does not know. Texts
-/// are UTF-8.
+/// How a chart comes to be in a container that is in a scene. Called again, each does the same
+/// again.
+struct ChartSteps
+{
+  /// Hands data and settings to the container. Draws nothing.
+  std::function<void(PlotContainer&)> fill;
+  /// Adds to each drawing of the container what a redraw does not know; empty for nothing.
+  std::function<void(PlotContainer&)> complete;
+};
+
+/// A chart that a study composes by itself. Texts are UTF-8.
 struct OwnChart
 {
   /// Names the chart in menus and for programs.
@@ -23,9 +32,8 @@ struct OwnChart
   /// What the user can choose from; may be empty.
   std::vector<std::string> variants;
   int firstVariant = 0;
-  /// Fills a container that is in a scene with the data and draws the chart. Called again after a
-  /// change of the settings or the variant. Does not render.
-  std::function<void(PlotContainer&, int variant)> draw;
+  /// The steps of a variant; 0 for a chart without variants.
+  std::function<ChartSteps(int variant)> steps;
 };
 
 } // namespace Talmesh::app

@@ -1,8 +1,5 @@
 #include "app/document/PlotChoice.h"
 
-#include "app/comparison/ComparisonChoice.h"
-#include "app/document/ChartDressing.h"
-#include "app/document/FurtherSeries.h"
 #include "app/import/ColumnRoles.h"
 #include "app/import/TranslatedText.h"
 #include "external/PlotMetaData.h"
@@ -15,6 +12,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <tuple>
 #include <utility>
 
 namespace Talmesh::app
@@ -81,6 +79,16 @@ std::vector<int> columnsOfRole(vtkTable* table, const std::string& name)
 
 } // namespace
 
+bool operator==(const PlotChoice& left, const PlotChoice& right)
+{
+  const auto values = [](const PlotChoice& choice)
+  {
+    return std::tie(choice.style, choice.x, choice.y, choice.z, choice.lines, choice.legend,
+                    choice.logX, choice.logY);
+  };
+  return values(left) == values(right);
+}
+
 bool hasLegend(plotStyles style)
 {
   return hasLogarithmicY(style) || style == scatterWithErrorBars;
@@ -109,22 +117,25 @@ PlotChoice choiceOf(const PlotContainer& container)
   return choice;
 }
 
-std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
+std::string whyNotDone(const std::function<void()>& drawing)
 {
-  writeSettings(container, choice);
-  refreshQuartiles(container);
-  makeRoom(container);
   try
   {
-    container.redraw();
+    drawing();
   }
   catch (const std::exception& failure)
   {
-    container.getMetaData()->blockSignals(false);
     return withValues(translated("PlotChoice", "cannot draw this: %1"), {failure.what()});
   }
-  dressChart(container);
-  addFurtherSeries(container);
+  return {};
+}
+
+std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
+{
+  writeSettings(container, choice);
+  const std::string error = whyNotDone([&container] { container.redraw(); });
+  if (!error.empty())
+    return error;
   if (hasLogarithmicY(choice.style))
     container.setLogScaleY(choice.logY);
   if (hasLegend(choice.style))

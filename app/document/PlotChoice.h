@@ -3,6 +3,7 @@
 
 #include "app/document/PlotWishes.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,8 @@ struct PlotChoice
   bool logY = false;
 };
 
+bool operator==(const PlotChoice& left, const PlotChoice& right);
+
 /// Whether the style has a chart that can have a legend, and one whose y axis can be logarithmic:
 /// error bars are lengths on a linear one.
 bool hasLegend(plotStyles style);
@@ -34,9 +37,13 @@ bool hasLogarithmicY(plotStyles style);
 /// What a container now shows; legend and logarithmic y axis as its XY chart has them.
 PlotChoice choiceOf(const PlotContainer& container);
 
-/// Makes the container show the choice: draws it, with all y columns in the XY plot, and labels the
-/// axes. Does not render.
+/// Does what draws.
 /// @return why it could not be drawn, in one line; empty on success
+std::string whyNotDone(const std::function<void()>& drawing);
+
+/// Makes the container show the choice: draws it, labels the axes, and writes what only an XY chart
+/// keeps. Does not render.
+/// @return as `whyNotDone`
 std::string applyChoice(PlotContainer& container, const PlotChoice& choice);
 
 /// A column, or why there is none.

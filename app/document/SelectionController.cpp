@@ -29,6 +29,9 @@ namespace Talmesh::app
 namespace
 {
 
+/// Priority of an observer of the link.
+constexpr float beforeAllOthers = 1.0F;
+
 /// Each step keeps a bit per row.
 constexpr int mostSteps = 100;
 
@@ -156,8 +159,12 @@ void SelectionController::observe(PlotContainer* observed, QUndoStack& itsStack)
   container = observed;
   link = observed ? observed->getAnnotationLink() : nullptr;
   if (link)
+  {
+    firstObserverTag = link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
+                                         &SelectionController::announce, beforeAllOthers);
     observerTag = link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
                                     &SelectionController::announceLater);
+  }
   group.setActiveStack(&itsStack);
 }
 
@@ -169,8 +176,16 @@ void SelectionController::restartHistory()
 void SelectionController::stopObserving()
 {
   if (link)
+  {
+    link->RemoveObserver(firstObserverTag);
     link->RemoveObserver(observerTag);
+  }
   link = nullptr;
+}
+
+void SelectionController::announce()
+{
+  emit changing();
 }
 
 void SelectionController::announceLater()

@@ -62,11 +62,14 @@ public:
   QUndoGroup& undoGroup() { return group; }
 
 signals:
+  /// Another selection is announced, which nobody has answered yet.
+  void changing();
   /// The selection is another one. Emitted from the event loop, after the chart's own handler, once
   /// for changes that come together.
   void changed();
 
 private:
+  void announce();
   void announceLater();
   void observe(PlotContainer* observed, QUndoStack& itsStack);
   void stopObserving();
@@ -76,6 +79,7 @@ private:
   QPointer<PlotContainer> followed;
   vtkWeakPointer<vtkAnnotationLink> link;
   unsigned long observerTag = 0;
+  unsigned long firstObserverTag = 0;
   QUndoGroup group;
   QUndoStack stack;
   QUndoStack visitStack;

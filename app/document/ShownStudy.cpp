@@ -1,6 +1,6 @@
 #include "app/document/ShownStudy.h"
 
-#include "app/document/OwnChart.h"
+#include "app/document/ChartDressing.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
@@ -42,11 +42,11 @@ void showStudy(const Study& study, PlotContainer& container)
   // Each selection draws, and would take the pair that the user looks at away.
   container.setKeepsScatterPair(true);
   container.setBreakLinesAtGaps(true);
+  settings.sourceName = study.name;
   if (study.chart)
-  {
-    study.chart->draw(container, study.chart->firstVariant);
-  }
-  else if (study.runs)
+    return;
+  dressDrawings(container);
+  if (study.runs)
   {
     container.setLinePlotTable(study.runs, false);
     const std::vector<int> plotted = plottedColumns(container);
@@ -69,7 +69,6 @@ void showStudy(const Study& study, PlotContainer& container)
     settings.color = seriesColour(1);
   }
   settings.title.clear();
-  settings.sourceName = study.name;
 }
 
 std::string studySize(const Study& study, const PlotContainer& container)

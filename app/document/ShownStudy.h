@@ -10,9 +10,10 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// Hands the study to a container that is in a scene, and chooses what to plot at first: the first
-/// plotted item over time, one line per run, or the second column of a plain table over its first.
-/// A chart of its own is drawn in its first variant.
+/// Hands the runs or the table of a study to a container, whose drawings come as the viewer shows
+/// them from then on, and chooses what to plot at first: the first plotted item over time, one line
+/// per run, or the second column of a plain table over its first. Draws nothing. A chart of its own
+/// is for `ShownChart` to fill in.
 void showStudy(const Study& study, PlotContainer& container);
 
 /// How much is loaded, as of `studySize`, and for a chart of its own how much the container shows

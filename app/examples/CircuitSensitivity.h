@@ -32,7 +32,7 @@ std::shared_ptr<SobolPostProcessResult> keptCircuitSensitivity(const ImportProgr
 struct NamedDistribution
 {
   std::string name;
-  std::unique_ptr<Distribution> distribution;
+  std::shared_ptr<Distribution> distribution;
 };
 
 /// The distributions from which the example study draws its parameters.

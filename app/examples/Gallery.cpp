@@ -1,15 +1,13 @@
 #include "app/examples/Gallery.h"
 
-#include "app/document/PlotChoice.h"
-#include "app/document/ShownStudy.h"
+#include "app/document/Document.h"
+#include "app/document/OwnChart.h"
 #include "app/document/TimeCourses.h"
 #include "app/examples/PublishedViews.h"
 #include "app/examples/StatisticsViews.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
-
-#include <vtkTable.h>
 
 #include <QDir>
 
@@ -24,49 +22,52 @@ namespace
 /// So many columns are drawn over x in the view of several series.
 constexpr int mostSeries = 3;
 
-std::string drawExample(const Study&, PlotContainer& container)
+std::string drawExample(const Study&, Document& document)
 {
-  container.example();
-  return {};
+  return showChart(document, {[](PlotContainer& container) { container.example(); }, {}});
 }
 
-std::string drawRuns(const Study& study, PlotContainer& container)
+std::string drawRuns(const Study& study, Document& document)
 {
-  showStudy(study, container);
-  return applyChoice(container, choiceOf(container));
+  return showIn(document, study, xyPlot);
 }
 
-std::string drawPoints(const Study& study, PlotContainer& container)
+std::string drawPoints(const Study& study, Document& document)
 {
-  const Study last = lastPoints(study);
-  showStudy(last, container);
-  PlotChoice choice = choiceOf(container);
-  const std::vector<int>& parameters = container.getMetaData()->parameterColumns;
-  if (!parameters.empty())
-    choice.x = parameters.front();
-  return applyChoice(container, choice);
+  const std::string error = showIn(document, lastPoints(study), xyPlot);
+  const std::vector<int>& parameters = document.container()->getMetaData()->parameterColumns;
+  if (!error.empty() || parameters.empty())
+    return error;
+  PlotChoice choice = document.choice();
+  choice.x = parameters.front();
+  return showChoice(document, choice);
 }
 
-std::string drawSeveralSeries(const Study& study, PlotContainer& container)
+std::string drawSeveralSeries(const Study& study, Document& document)
 {
-  showStudy(study, container);
-  PlotChoice choice = choiceOf(container);
-  const int columns = static_cast<int>(container.getTable()->GetNumberOfColumns());
+  const std::string error = showIn(document, study, xyPlot);
+  if (!error.empty())
+    return error;
+  PlotChoice choice = document.choice();
+  const int columns = document.columns().size();
   const int first = choice.y.front();
   for (int column = first + 1; column < std::min(columns, first + mostSeries); ++column)
     if (column != choice.x)
       choice.y.push_back(column);
   choice.legend = true;
-  return applyChoice(container, choice);
+  return showChoice(document, choice);
 }
 
 /// The page of single runs, with its legend.
-std::string drawCourses(const Study& study, PlotContainer& container)
+std::string drawCourses(const Study& study, Document& document)
 {
-  if (study.runs)
-    drawTimeCourses(*study.runs, 0, mostSeries, container);
-  container.setShowLegend(true);
-  return {};
+  const auto complete = [runs = study.runs](PlotContainer& container)
+  {
+    if (runs)
+      drawTimeCourses(*runs, 0, mostSeries, container);
+    container.setShowLegend(true);
+  };
+  return showChart(document, {[](PlotContainer&) {}, complete});
 }
 
 /// The first plotted items and all parameters; without runs all columns.
@@ -87,30 +88,30 @@ std::vector<int> plottedAndParameters(const PlotContainer& container)
 
 /// The matrix, the 3-D chart and the parallel coordinates show one point or line per row, which for
 /// runs is their last point.
-std::string drawLastPoints(const Study& study, PlotContainer& container, plotStyles style)
+std::string drawLastPoints(const Study& study, Document& document, plotStyles style)
 {
-  showStudy(lastPoints(study), container);
-  PlotChoice choice = choiceOf(container);
+  const std::string error = showIn(document, lastPoints(study), xyPlot);
+  const std::vector<int>& parameters = document.container()->getMetaData()->parameterColumns;
+  if (!error.empty())
+    return error;
+  PlotChoice choice = document.choice();
   choice.style = style;
-  const std::vector<int>& parameters = container.getMetaData()->parameterColumns;
   if (parameters.size() > 1)
   {
     choice.x = parameters[0];
     choice.z = parameters[1];
   }
   if (style == parallelCoordinates)
-    choice.y = plottedAndParameters(container);
-  return applyChoice(container, choice);
+    choice.y = plottedAndParameters(*document.container());
+  return showChoice(document, choice);
 }
 
 std::string write(const GalleryView& view, const Study& study, const QDir& folder,
                   VtkPlotWidget& widget, Vectors vectors, int dotsPerInch)
 {
-  PlotContainer container(nullptr);
-  container.setDiagnosticsShown(false);
   PlotContainer* const own = widget.plotContainer();
-  widget.setPlotContainer(&container);
-  std::string error = view.draw(study, container);
+  Document document([&widget](PlotContainer& container) { widget.setPlotContainer(&container); });
+  std::string error = view.draw(study, document);
   for (const char* suffix : {".png", ".pdf"})
     if (error.empty())
       error = exportPlot(widget, folder.filePath(QString::fromStdString(view.name) + suffix),
@@ -133,8 +134,8 @@ const std::vector<GalleryView>& galleryViews()
 {
   const auto lastPointsIn = [](plotStyles style)
   {
-    return [style](const Study& study, PlotContainer& container)
-    { return drawLastPoints(study, container, style); };
+    return [style](const Study& study, Document& document)
+    { return drawLastPoints(study, document, style); };
   };
   static const std::vector<GalleryView> views =
       joined({{"example", drawExample},
@@ -146,6 +147,32 @@ const std::vector<GalleryView>& galleryViews()
               {"xyzPlot", lastPointsIn(xyzPlot)},
               {"parallelCoordinates", lastPointsIn(parallelCoordinates)}});
   return views;
+}
+
+std::string showIn(Document& document, const Study& study, plotStyles style)
+{
+  OpenedStudy opened;
+  opened.study = study;
+  PlotWishes wishes;
+  wishes.style = style;
+  const std::string error = document.open(opened, wishes);
+  return error.empty() ? document.drawingError() : error;
+}
+
+std::string showChoice(Document& document, const PlotChoice& choice)
+{
+  document.choose(choice);
+  return document.drawingError();
+}
+
+std::string showChart(Document& document, const ChartSteps& steps)
+{
+  OwnChart chart;
+  chart.steps = [steps](int) { return steps; };
+  OpenedStudy opened;
+  opened.study.chart = std::make_shared<const OwnChart>(chart);
+  document.open(opened);
+  return document.drawingError();
 }
 
 std::string writeGallery(const Study& study, const QString& path, const QSize& pixels,

@@ -3,6 +3,7 @@
 
 #include "app/export/PictureFile.h"
 #include "app/import/Study.h"
+#include "external/PlotStyles.h"
 
 #include <QSize>
 #include <QString>
@@ -11,23 +12,32 @@
 #include <string>
 #include <vector>
 
-class PlotContainer;
-
 namespace Talmesh::app
 {
+
+class Document;
+struct ChartSteps;
+struct PlotChoice;
 
 /// One picture of the gallery.
 struct GalleryView
 {
   /// The name of its files without the suffix.
   std::string name;
-  /// Fills a new container, which is in a scene, with data of the study and draws it.
+  /// Shows the study, or what the view computes, in a document that shows nothing yet.
   /// Returns why that failed, in one line; empty on success.
-  std::function<std::string(const Study&, PlotContainer&)> draw;
+  std::function<std::string(const Study&, Document&)> draw;
 };
 
 /// Every view that the viewer has.
 const std::vector<GalleryView>& galleryViews();
+
+/// The following help views to draw, and return why that failed, in one line; empty on success.
+
+/// Shows a study in a style, with the columns that it begins with.
+std::string showIn(Document& document, const Study& study, plotStyles style);
+std::string showChoice(Document& document, const PlotChoice& choice);
+std::string showChart(Document& document, const ChartSteps& steps);
 
 /// Writes one PNG and one PDF of every view into a folder, which is made if need be.
 /// @param dotsPerInch of pictures on the pages

@@ -2,7 +2,6 @@
 
 #include "app/examples/CircuitSensitivity.h"
 #include "app/examples/StudyCharts.h"
-#include "plot/PlotContainer.h"
 
 namespace Talmesh::app
 {
@@ -10,41 +9,33 @@ namespace Talmesh::app
 namespace
 {
 
-using Draw = std::function<void(PlotContainer&)>;
-
-/// A view of a chart that needs no study.
-GalleryView viewOf(const std::string& name, Draw draw)
+/// A view of a chart that needs no study, and is made when it is drawn.
+GalleryView viewOf(const std::string& name, std::function<ChartSteps()> chart)
 {
-  return {name, [draw = std::move(draw)](const Study&, PlotContainer& container)
-          {
-            draw(container);
-            return std::string();
-          }};
+  return {name, [chart = std::move(chart)](const Study&, Document& document)
+          { return showChart(document, chart()); }};
 }
 
-Draw residuals(bool scaled, bool sideBySide)
+std::function<ChartSteps()> residuals(bool scaled, bool sideBySide)
 {
-  return [=](PlotContainer& container)
-  { drawIndomethacinResiduals(container, scaled, sideBySide); };
+  return [=] { return indomethacinResidualChart(scaled, sideBySide); };
 }
 
 /// Of the first species over time, or of all species at the last time.
-Draw sensitivity(bool atTimePoint, bool total)
+std::function<ChartSteps()> sensitivity(bool atTimePoint, bool total)
 {
-  return [=](PlotContainer& container)
+  return [=]
   {
     const auto result = keptCircuitSensitivity();
     const std::size_t last = result->timePoints->size() - 1;
-    drawSensitivity(container, *result, {atTimePoint, total, atTimePoint ? last : 0});
+    return sensitivityChart(result, {atTimePoint, total, atTimePoint ? last : 0});
   };
 }
 
 std::vector<GalleryView> withPriors(std::vector<GalleryView> views)
 {
-  const auto priors = std::make_shared<std::vector<NamedDistribution>>(circuitPriors());
-  for (const NamedDistribution& prior : *priors)
-    views.push_back(viewOf("distribution-" + prior.name, [priors, &prior](PlotContainer& container)
-                           { drawPrior(container, prior); }));
+  for (const NamedDistribution& prior : circuitPriors())
+    views.push_back(viewOf("distribution-" + prior.name, [prior] { return priorDensity(prior); }));
   return views;
 }
 
@@ -53,12 +44,10 @@ std::vector<GalleryView> withPriors(std::vector<GalleryView> views)
 const std::vector<GalleryView>& publishedViews()
 {
   static const std::vector<GalleryView> views =
-      withPriors({viewOf("scatterWithErrorBars", drawPuromycinRates),
-                  viewOf("fitParameterDistribution", drawIndomethacinFit),
-                  viewOf("fittedCourse", [](PlotContainer& container)
-                         { drawIndomethacinCourse(container, false); }),
-                  viewOf("fittedCourse-logarithmic",
-                         [](PlotContainer& container) { drawIndomethacinCourse(container, true); }),
+      withPriors({viewOf("scatterWithErrorBars", puromycinRateChart),
+                  viewOf("fitParameterDistribution", indomethacinFit),
+                  viewOf("fittedCourse", [] { return indomethacinCourse(false); }),
+                  viewOf("fittedCourse-logarithmic", [] { return indomethacinCourse(true); }),
                   viewOf("residuals", residuals(false, false)),
                   viewOf("residuals-scaled", residuals(true, false)),
                   viewOf("residuals-sideBySide", residuals(false, true)),

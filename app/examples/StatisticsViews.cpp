@@ -1,7 +1,6 @@
 #include "app/examples/StatisticsViews.h"
 
-#include "app/document/PlotChoice.h"
-#include "app/document/ShownStudy.h"
+#include "app/document/Document.h"
 #include "external/LinePlotTable.h"
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
@@ -50,41 +49,43 @@ ParameterSelection livelyRuns(const LinePlotTable& runs, const PlotContainer& co
   return selection;
 }
 
-std::string drawStyle(const Study& study, PlotContainer& container, plotStyles style)
+/// Selects lively runs in the style now shown, and shows what that changes.
+std::string compareLivelyRuns(const Study& study, Document& document)
 {
-  showStudy(study, container);
-  PlotChoice choice = choiceOf(container);
-  choice.style = style;
-  return applyChoice(container, choice);
+  if (!study.runs)
+    return document.drawingError();
+  ParameterSelection lively = livelyRuns(*study.runs, *document.container());
+  document.container()->setSelection(&lively, 0);
+  document.draw();
+  return document.drawingError();
 }
 
-std::string drawComparison(const Study& study, PlotContainer& container, plotStyles style)
+std::string drawComparison(const Study& study, Document& document, plotStyles style)
 {
-  const std::string error = drawStyle(study, container, style);
-  if (!study.runs || !error.empty())
+  const std::string error = showIn(document, study, style);
+  return error.empty() ? compareLivelyRuns(study, document) : error;
+}
+
+std::string drawDensities(const Study& study, Document& document)
+{
+  const std::string error = showIn(document, study, selectionCdfPlot);
+  if (!error.empty())
     return error;
-  ParameterSelection lively = livelyRuns(*study.runs, container);
-  container.setSelection(&lively, 0);
-  return applyChoice(container, choiceOf(container));
+  ComparisonChoice choice = comparisonChoiceOf(*document.container());
+  choice.density = true;
+  choice.bands = true;
+  document.compareBy(choice);
+  return compareLivelyRuns(study, document);
 }
 
-std::string drawDensities(const Study& study, PlotContainer& container)
+std::string drawClusters(const Study& study, Document& document)
 {
-  PlotMetaData& settings = *container.getMetaData();
-  settings.blockSignals(true);
-  settings.setUseDensity(true);
-  settings.setShowQuantiles(true);
-  settings.blockSignals(false);
-  return drawComparison(study, container, selectionCdfPlot);
-}
-
-std::string drawClusters(const Study& study, PlotContainer& container)
-{
-  const std::string error = drawStyle(study, container, xyPlot);
+  const std::string error = showIn(document, study, xyPlot);
+  PlotContainer& container = *document.container();
   container.clusterTimeSeries(clusterCount, 0);
   container.setShowDecorations(true);
-  container.redraw();
-  return error;
+  document.draw();
+  return error.empty() ? document.drawingError() : error;
 }
 
 } // namespace
@@ -92,10 +93,10 @@ std::string drawClusters(const Study& study, PlotContainer& container)
 const std::vector<GalleryView>& statisticsViews()
 {
   static const std::vector<GalleryView> views = {
-      {"multiPlot", [](const Study& study, PlotContainer& container)
-       { return drawComparison(study, container, multiPlot); }},
-      {"selectionCdfPlot", [](const Study& study, PlotContainer& container)
-       { return drawComparison(study, container, selectionCdfPlot); }},
+      {"multiPlot", [](const Study& study, Document& document)
+       { return drawComparison(study, document, multiPlot); }},
+      {"selectionCdfPlot", [](const Study& study, Document& document)
+       { return drawComparison(study, document, selectionCdfPlot); }},
       {"selectionCdfPlot-densities", drawDensities},
       {"xyPlot-clusters", drawClusters}};
   return views;

@@ -25,8 +25,6 @@ std::string shortText(double value)
   return text.str();
 }
 
-using Draw = std::function<void(PlotContainer&, int)>;
-
 OpenedStudy opened(const CatalogueEntry& entry, OwnChart chart)
 {
   chart.id = entry.id;
@@ -52,25 +50,24 @@ void addIndomethacin(std::vector<CatalogueEntry>& entries)
                  "Plasma concentrations of six subjects after an injection (Kwan and others, "
                  "1976), fitted with a decay over two compartments.");
   const auto add =
-      [&](const char* id, const std::string& title, const std::string& toolTip, Draw draw)
+      [&](const char* id, const std::string& title, const std::string& toolTip, ChartSteps steps)
   {
     OwnChart chart;
     chart.description = source;
-    chart.draw = std::move(draw);
+    chart.steps = [steps = std::move(steps)](int) { return steps; };
     entries.push_back(entryOf({id, subject, title, toolTip, {}}, chart));
   };
   add("indomethacin-fit", translated("StudyCatalogue", "&Course of the fit"),
       translated("StudyCatalogue",
                  "Every step of the fit, one chart per pair of parameters, coloured by the sum of "
                  "squares"),
-      [](PlotContainer& container, int) { drawIndomethacinFit(container); });
+      indomethacinFit());
   OwnChart course;
   course.description = source;
   course.variantLabel = translated("StudyCatalogue", "Concentration axis");
   course.variants = {translated("StudyCatalogue", "linear"),
                      translated("StudyCatalogue", "logarithmic")};
-  course.draw = [](PlotContainer& container, int variant)
-  { drawIndomethacinCourse(container, variant == 1); };
+  course.steps = [](int variant) { return indomethacinCourse(variant == 1); };
   entries.push_back(
       entryOf({"indomethacin-course",
                subject,
@@ -80,13 +77,13 @@ void addIndomethacin(std::vector<CatalogueEntry>& entries)
               course));
   add("indomethacin-residuals", translated("StudyCatalogue", "&Residuals"),
       translated("StudyCatalogue", "Observation minus prediction, all subjects"),
-      [](PlotContainer& container, int) { drawIndomethacinResiduals(container, false, false); });
+      indomethacinResidualChart(false, false));
   add("indomethacin-scaled", translated("StudyCatalogue", "&Scaled residuals"),
       translated("StudyCatalogue", "Residuals divided by the standard deviation of the subjects"),
-      [](PlotContainer& container, int) { drawIndomethacinResiduals(container, true, false); });
+      indomethacinResidualChart(true, false));
   add("indomethacin-sideBySide", translated("StudyCatalogue", "&Predictions and observations"),
       translated("StudyCatalogue", "Both side by side, all subjects"),
-      [](PlotContainer& container, int) { drawIndomethacinResiduals(container, false, true); });
+      indomethacinResidualChart(false, true));
 }
 
 void addPuromycin(std::vector<CatalogueEntry>& entries)
@@ -97,7 +94,7 @@ void addPuromycin(std::vector<CatalogueEntry>& entries)
                  "Initial rates of a reaction in cells treated with puromycin (Bates and Watts, "
                  "1988): means of two replicates, their standard errors and the Michaelis-Menten "
                  "curve.");
-  chart.draw = [](PlotContainer& container, int) { drawPuromycinRates(container); };
+  chart.steps = [](int) { return puromycinRateChart(); };
   entries.push_back(
       entryOf({"puromycin-rates",
                translated("StudyCatalogue", "&Puromycin"),
@@ -134,8 +131,8 @@ OpenedStudy openSensitivity(const CatalogueEntry& entry, bool atTimePoint, bool 
                         "a species each parameter explains, alone (first order) or with "
                         "all its interactions (total).");
   describeVariants(chart, *result, atTimePoint);
-  chart.draw = [result, atTimePoint, total](PlotContainer& container, int variant) {
-    drawSensitivity(container, *result, {atTimePoint, total, static_cast<std::size_t>(variant)});
+  chart.steps = [result, atTimePoint, total](int variant) {
+    return sensitivityChart(result, {atTimePoint, total, static_cast<std::size_t>(variant)});
   };
   return opened(entry, std::move(chart));
 }
@@ -175,8 +172,8 @@ void addPriors(std::vector<CatalogueEntry>& entries)
   chart.variantLabel = translated("StudyCatalogue", "Parameter");
   for (const NamedDistribution& prior : *priors)
     chart.variants.push_back(prior.name);
-  chart.draw = [priors](PlotContainer& container, int variant)
-  { drawPrior(container, priors->at(static_cast<std::size_t>(variant))); };
+  chart.steps = [priors](int variant)
+  { return priorDensity(priors->at(static_cast<std::size_t>(variant))); };
   entries.push_back(entryOf({"priors",
                              translated("StudyCatalogue", "Circuit p&arameters"),
                              translated("StudyCatalogue", "&Prior distributions"),

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -135,18 +136,15 @@ void markEverySeries(vtkChartXY* chart)
   }
 }
 
-} // namespace
-
-void drawIndomethacinFit(PlotContainer& container)
+void fillFit(PlotContainer& container)
 {
   container.setDecorations(nullptr, false);
   container.setPlotData(indomethacinFitTable());
   container.getMetaData()->parameterColumns = {2, 3, 4, 5};
   storeStyle(container, fitParameterDistribution);
-  container.redraw();
 }
 
-void drawIndomethacinCourse(PlotContainer& container, bool logarithmic)
+void fillCourse(PlotContainer& container)
 {
   container.setPlotData(indomethacinObservations());
   container.setDecorations(indomethacinCurve(), true);
@@ -159,20 +157,11 @@ void drawIndomethacinCourse(PlotContainer& container, bool logarithmic)
   settings.yLabel = "Concentration [ug/ml]";
   settings.color = {31, 84, 150, 255};
   storeStyle(container, xyPlot);
-  container.redraw();
-  container.setLogScaleY(logarithmic);
-  padTimeAxis(container.getChartXY());
 }
 
-void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideBySide)
+void drawResiduals(PlotContainer& container, bool scaled, bool sideBySide)
 {
-  container.setDecorations(nullptr, false);
   IndomethacinResiduals study = indomethacinResiduals();
-  container.setXLabel("Time [h]");
-  if (sideBySide)
-    container.setYLabel("Concentration [ug/ml]");
-  else
-    container.setYLabel(scaled ? "Residual / standard deviation" : "Residual [ug/ml]");
   container.setResidualPlot(&study.run, study.settings.get(), study.predictions, scaled,
                             sideBySide);
   vtkChartXY* chart = container.getChartXY();
@@ -181,7 +170,7 @@ void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideB
   padValueAxis(chart, container.getTable());
 }
 
-void drawPuromycinRates(PlotContainer& container)
+void fillRates(PlotContainer& container)
 {
   container.setDecorations(nullptr, false);
   container.setPlotData(puromycinMeans());
@@ -196,27 +185,71 @@ void drawPuromycinRates(PlotContainer& container)
   settings.xLabel = "Substrate concentration [ppm]";
   settings.yLabel = "Initial rate [counts/min^2]";
   storeStyle(container, scatterWithErrorBars);
-  container.redraw();
 }
 
-void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
-                     const SensitivityView& view)
+} // namespace
+
+ChartSteps indomethacinFit()
 {
-  container.setDecorations(nullptr, false);
-  storeStyle(container, view.atTimePoint ? reservedStyle1 : reservedStyle2);
-  container.setSobolPostprocessResult(&result, view.atTimePoint, view.total, view.position,
-                                      view.position);
-  if (view.atTimePoint)
-    container.getChartXY()->GetAxis(vtkAxis::BOTTOM)->SetLabelOffset(uprightLabelOffset);
+  return {fillFit, {}};
 }
 
-void drawPrior(PlotContainer& container, const NamedDistribution& prior)
+ChartSteps indomethacinCourse(bool logarithmic)
 {
-  container.setDecorations(nullptr, false);
-  container.setDistribution(prior.distribution.get());
-  container.setPlotTitle(
-      withValues(translated("StudyCharts", "Prior density of %1"), {prior.name}));
-  container.setXLabel(prior.name);
+  return {fillCourse, [logarithmic](PlotContainer& container)
+          {
+            container.setLogScaleY(logarithmic);
+            padTimeAxis(container.getChartXY());
+          }};
+}
+
+ChartSteps indomethacinResidualChart(bool scaled, bool sideBySide)
+{
+  const auto fill = [scaled, sideBySide](PlotContainer& container)
+  {
+    container.setDecorations(nullptr, false);
+    container.setXLabel("Time [h]");
+    if (sideBySide)
+      container.setYLabel("Concentration [ug/ml]");
+    else
+      container.setYLabel(scaled ? "Residual / standard deviation" : "Residual [ug/ml]");
+  };
+  return {fill, [scaled, sideBySide](PlotContainer& container)
+          { drawResiduals(container, scaled, sideBySide); }};
+}
+
+ChartSteps puromycinRateChart()
+{
+  return {fillRates, {}};
+}
+
+ChartSteps sensitivityChart(std::shared_ptr<SobolPostProcessResult> result,
+                            const SensitivityView& view)
+{
+  const auto fill = [view](PlotContainer& container)
+  {
+    container.setDecorations(nullptr, false);
+    storeStyle(container, view.atTimePoint ? reservedStyle1 : reservedStyle2);
+  };
+  return {fill, [result = std::move(result), view](PlotContainer& container)
+          {
+            container.setSobolPostprocessResult(result.get(), view.atTimePoint, view.total,
+                                                view.position, view.position);
+            if (view.atTimePoint)
+              container.getChartXY()->GetAxis(vtkAxis::BOTTOM)->SetLabelOffset(uprightLabelOffset);
+          }};
+}
+
+ChartSteps priorDensity(const NamedDistribution& prior)
+{
+  const auto fill = [](PlotContainer& container) { container.setDecorations(nullptr, false); };
+  return {fill, [prior](PlotContainer& container)
+          {
+            container.setDistribution(prior.distribution.get());
+            container.setPlotTitle(
+                withValues(translated("StudyCharts", "Prior density of %1"), {prior.name}));
+            container.setXLabel(prior.name);
+          }};
 }
 
 } // namespace Talmesh::app

@@ -1,29 +1,30 @@
 #ifndef StudyCharts_h
 #define StudyCharts_h
 
-#include <cstddef>
+#include "app/document/OwnChart.h"
 
-class PlotContainer;
+#include <cstddef>
+#include <memory>
+
 struct SobolPostProcessResult;
 
-/// The charts of the computed studies. Each function fills a container, which is in a scene, with
-/// the data and draws; called again it draws the same again. None renders.
+/// The charts of the computed studies.
 namespace Talmesh::app
 {
 
 struct NamedDistribution;
 
 /// Every step of the indomethacin fit, one chart per pair of parameters.
-void drawIndomethacinFit(PlotContainer& container);
+ChartSteps indomethacinFit();
 
 /// The measured concentrations under the fitted decay.
-void drawIndomethacinCourse(PlotContainer& container, bool logarithmic);
+ChartSteps indomethacinCourse(bool logarithmic);
 
 /// Residuals of all subjects, or, `sideBySide`, predictions and observations.
-void drawIndomethacinResiduals(PlotContainer& container, bool scaled, bool sideBySide);
+ChartSteps indomethacinResidualChart(bool scaled, bool sideBySide);
 
 /// Mean initial rates with their standard errors and the fitted curve.
-void drawPuromycinRates(PlotContainer& container);
+ChartSteps puromycinRateChart();
 
 /// Which part of sensitivity indices is shown.
 struct SensitivityView
@@ -37,11 +38,11 @@ struct SensitivityView
 };
 
 /// @param result only read
-void drawSensitivity(PlotContainer& container, SobolPostProcessResult& result,
-                     const SensitivityView& view);
+ChartSteps sensitivityChart(std::shared_ptr<SobolPostProcessResult> result,
+                            const SensitivityView& view);
 
 /// The density of a parameter, with its name.
-void drawPrior(PlotContainer& container, const NamedDistribution& prior);
+ChartSteps priorDensity(const NamedDistribution& prior);
 
 } // namespace Talmesh::app
 

@@ -19,15 +19,6 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr int firstGroups = 3;
-
-enum ClusteringMode : int
-{
-  course = 0,
-  phases = 2,
-  magnitudes = 3
-};
-
 QIcon swatch(const QColor& colour, int size)
 {
   QPixmap picture(size, size);
@@ -55,9 +46,9 @@ ClusterDock::ClusterDock(QWidget* parent)
   count->setToolTip(tr("Into how many groups the runs are sorted"));
   modes->setObjectName(QStringLiteral("clusterMode"));
   modes->setToolTip(tr("What makes two runs alike; level and amplitude never count"));
-  modes->addItem(tr("Course over time"), course);
-  modes->addItem(tr("Phases of the spectrum"), phases);
-  modes->addItem(tr("Magnitudes of the spectrum"), magnitudes);
+  modes->addItem(tr("Course over time"), byCourse);
+  modes->addItem(tr("Phases of the spectrum"), byPhases);
+  modes->addItem(tr("Magnitudes of the spectrum"), byMagnitudes);
   start->setObjectName(QStringLiteral("clusterStart"));
   start->setToolTip(tr("Sort the runs into groups by the first y column"));
   list->setObjectName(QStringLiteral("clusterList"));
@@ -65,6 +56,9 @@ ClusterDock::ClusterDock(QWidget* parent)
   list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
   list->setMaximumHeight((mostGroups + 3) * list->fontMetrics().lineSpacing());
   makeForm();
+  connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, &ClusterDock::groupingChanged);
+  connect(modes, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          &ClusterDock::groupingChanged);
   connect(start, &QPushButton::clicked, this, &ClusterDock::groupingRequested);
   const auto choose = [this](QListWidgetItem* item) { emit groupChosen(list->row(item)); };
   connect(list, &QListWidget::itemClicked, this, choose);
@@ -108,13 +102,15 @@ QCheckBox* ClusterDock::addSwitch(const QString& name, const QString& text, cons
   return box;
 }
 
-void ClusterDock::reset(int runs, const QString& reason)
+void ClusterDock::reset(int most, const QString& reason)
 {
   const bool usable = reason.isEmpty();
   reasonLabel->setText(reason);
   reasonLabel->setVisible(!usable);
-  count->setRange(1, std::max(1, std::min(runs, mostGroups)));
-  count->setValue(firstGroups);
+  {
+    const QSignalBlocker silent(count);
+    count->setRange(1, std::max(1, most));
+  }
   list->clear();
   for (QCheckBox* box : {colours, means, bands, normalise})
   {
@@ -134,8 +130,6 @@ void ClusterDock::setGroups(const RunGroups& groups)
   for (std::size_t group = 0; group < groups.names.size(); ++group)
     new QListWidgetItem(swatch(groupColour(static_cast<int>(group)), size),
                         QString::fromStdString(groups.names[group]), list);
-  const QSignalBlocker silent(colours);
-  colours->setChecked(list->count() > 0);
   enableGroupSwitches();
 }
 
@@ -153,11 +147,10 @@ void ClusterDock::setNormalised(bool on)
 
 void ClusterDock::setGrouping(int groupCount, int mode)
 {
-  if (groupCount >= count->minimum() && groupCount <= count->maximum())
-    count->setValue(groupCount);
-  const int place = modes->findData(mode);
-  if (place >= 0)
-    modes->setCurrentIndex(place);
+  const QSignalBlocker silentCount(count);
+  const QSignalBlocker silentModes(modes);
+  count->setValue(groupCount);
+  modes->setCurrentIndex(modes->findData(mode));
 }
 
 void ClusterDock::setLook(const RunLook& look)
@@ -167,7 +160,7 @@ void ClusterDock::setLook(const RunLook& look)
   for (const auto& [box, on] : switches)
   {
     const QSignalBlocker silent(box);
-    box->setChecked(on && box->isEnabled());
+    box->setChecked(on);
   }
 }
 

@@ -1,7 +1,7 @@
 #ifndef ClusterDock_h
 #define ClusterDock_h
 
-#include "app/document/GroupedPlots.h"
+#include "app/document/GroupedRuns.h"
 
 #include <QDockWidget>
 
@@ -23,14 +23,14 @@ class ClusterDock : public QDockWidget
 public:
   explicit ClusterDock(QWidget* parent = nullptr);
 
-  /// Starts anew for data of so many runs, without groups. Emits nothing.
+  /// Starts anew for data that can be sorted into so many groups, without any. Emits nothing.
   /// @param reason why the panel can do nothing with the data; empty when it can
-  void reset(int runs, const QString& reason);
-  /// Lists groups and turns their colours on. Emits nothing.
+  void reset(int most, const QString& reason);
+  /// Lists groups. Emits nothing.
   void setGroups(const RunGroups& groups);
   /// Emits nothing.
   void setNormalised(bool on);
-  /// Chooses how groups are made. Keeps what it does not offer. Emits nothing.
+  /// Says how groups are made. Emits nothing.
   void setGrouping(int groupCount, int mode);
   /// Emits nothing.
   void setLook(const RunLook& look);
@@ -41,6 +41,8 @@ public:
   RunLook look() const;
 
 signals:
+  /// How groups are made next.
+  void groupingChanged();
   void groupingRequested();
   void groupChosen(int group);
   void lookChanged();

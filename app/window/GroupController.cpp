@@ -1,24 +1,9 @@
 #include "app/window/GroupController.h"
 
-#include "app/import/Study.h"
+#include "app/document/Document.h"
 #include "app/window/ClusterDock.h"
-#include "external/LinePlotTable.h"
-#include "external/PlotMetaData.h"
-#include "plot/PlotContainer.h"
-#include "plot/RunLayout.h"
-#include "plot/SelectionNodes.h"
-
-#include <vtkAnnotationLink.h>
-#include <vtkIntArray.h>
-#include <vtkTable.h>
 
 #include <QApplication>
-#include <QSignalBlocker>
-#include <QUndoStack>
-
-#include <algorithm>
-#include <iterator>
-#include <vector>
 
 namespace Talmesh::app
 {
@@ -35,144 +20,57 @@ public:
   WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
-std::vector<int> membershipOf(const PlotContainer& container)
-{
-  vtkIntArray* membership = container.getClusterMembership();
-  if (!membership)
-    return {};
-  const int* first = membership->GetPointer(0);
-  return {first, first + membership->GetNumberOfTuples()};
-}
-
 } // namespace
 
-GroupController::GroupController(ClusterDock& panel, QUndoStack& undoStack, QObject* parent)
+GroupController::GroupController(ClusterDock& panel, Document& shown, QObject* parent)
     : QObject(parent)
     , dock(panel)
-    , stack(undoStack)
+    , document(shown)
 {
+  connect(&dock, &ClusterDock::groupingChanged, this,
+          [this] { document.groups().setGrouping(dock.groupCount(), dock.mode()); });
   connect(&dock, &ClusterDock::groupingRequested, this, &GroupController::group);
-  connect(&dock, &ClusterDock::groupChosen, this, &GroupController::select);
-  connect(&dock, &ClusterDock::lookChanged, this, &GroupController::show);
+  connect(&dock, &ClusterDock::groupChosen, this,
+          [this](int group) { document.groups().select(group); });
+  connect(&dock, &ClusterDock::lookChanged, this, [this] { document.setLook(dock.look()); });
   connect(&dock, &ClusterDock::normalisingRequested, this, &GroupController::normalise);
-  connect(&normaliser, &RunNormaliser::changed, this, &GroupController::showNewValues);
+  connect(&document, &Document::studyChanged, this, &GroupController::showStudy);
+  connect(&document, &Document::drawn, this, &GroupController::showNormalised);
+  showStudy();
 }
 
-void GroupController::leave()
+/// The runs stay as they were left while a chart of its own takes their place.
+void GroupController::showStudy()
 {
-  normaliser.follow(nullptr);
-}
-
-void GroupController::follow(PlotContainer* followed, const Study& study)
-{
-  container = followed;
-  normaliser.follow(followed);
-  groups = {};
-  const bool runs = study.runs && study.runs->pointsPerTrajectory > 1;
-  dock.reset(runs ? static_cast<int>(study.runs->numberOfTrajectories) : 0,
-             runs ? QString() : tr("This data has no runs over time to group."));
+  const GroupedRuns& groups = document.groups();
+  const bool usable = groups.runs() > 0;
+  dock.reset(usable ? groups.mostPossible() : 0,
+             usable ? QString() : tr("This data has no runs over time to group."));
+  dock.setGroups(groups.groups());
+  dock.setGrouping(groups.state().count, groups.state().mode);
+  dock.setLook(groups.state().look);
+  showNormalised();
 }
 
 void GroupController::group()
 {
-  if (!container)
-    return;
   {
     const WaitCursor waiting;
-    container->clusterTimeSeries(dock.groupCount(), dock.mode());
+    document.group();
   }
-  takeGroups(membershipOf(*container));
-  show();
-}
-
-void GroupController::takeGroups(const std::vector<int>& groupOfRun)
-{
-  groups = namedGroups(groupOfRun);
-  dock.setGroups(groups);
-}
-
-SessionGroups GroupController::sessionGroups() const
-{
-  return {groups.groupOfRun, dock.groupCount(), dock.mode(), dock.look()};
-}
-
-void GroupController::restoreGroups(const SessionGroups& kept)
-{
-  if (!container)
-    return;
-  takeGroups(kept.groupOfRun);
-  dock.setGrouping(kept.count, kept.mode);
-  dock.setLook(kept.look);
-}
-
-void GroupController::show()
-{
-  const RunLook look = dock.look();
-  const bool any = look.groupColours || look.groupMeans || look.quartileBands;
-  if (container && any && container->getMetaData()->getPlotStyle() != xyPlot)
-    emit xyPlotWanted();
-  else
-    emit changed();
-}
-
-void GroupController::select(int group)
-{
-  if (!container || group < 0 || group >= static_cast<int>(groups.names.size()))
-    return;
-  const plot::RunLayout layout = {container->getTable()->GetNumberOfRows(),
-                                  container->getMetaData()->getStride()};
-  // A group counts its runs by position, whatever their numbers in the table.
-  std::vector<vtkIdType> rows;
-  for (std::size_t run = 0; run < groups.groupOfRun.size(); ++run)
-    if (groups.groupOfRun[run] == group && static_cast<vtkIdType>(run) < layout.runs())
-      rows.push_back(layout.firstRow(static_cast<vtkIdType>(run)));
-  container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
-}
-
-/// The columns over x that can be scaled.
-std::vector<int> GroupController::shownColumns() const
-{
-  const PlotMetaData& settings = *container->getMetaData();
-  std::vector<int> columns = normaliser.scalable(settings.yColumns);
-  const auto isX = [&x = settings.xColumns](int column)
-  { return std::find(x.begin(), x.end(), column) != x.end(); };
-  columns.erase(std::remove_if(columns.begin(), columns.end(), isX), columns.end());
-  return columns;
-}
-
-/// The tables of selected and of other runs are copies of the plot's and must be made anew.
-void GroupController::showNewValues()
-{
-  if (container)
-    container->annotationUpdate();
-  emit changed();
-}
-
-void GroupController::restoreNormalised(const std::vector<int>& columns)
-{
-  const QSignalBlocker silent(normaliser);
-  normaliser.setNormalised(columns, true);
+  dock.setGroups(document.groups().groups());
+  dock.setLook(document.groups().state().look);
 }
 
 void GroupController::normalise(bool on)
 {
-  if (!container)
-    return;
-  const std::vector<int> shown = shownColumns();
-  std::vector<int> others;
-  std::copy_if(shown.begin(), shown.end(), std::back_inserter(others),
-               [&](int column) { return normaliser.isNormalised({column}) != on; });
-  if (!others.empty())
-    stack.push(normaliser.makeCommand(others, on));
-  dock.setNormalised(normaliser.isNormalised(shown));
+  document.groups().normalise(on);
+  showNormalised();
 }
 
-void GroupController::dress()
+void GroupController::showNormalised()
 {
-  if (!container)
-    return;
-  dock.setNormalised(normaliser.isNormalised(shownColumns()));
-  dressRuns(*container, groups, dock.look());
+  dock.setNormalised(document.groups().showsNormalised());
 }
 
 } // namespace Talmesh::app

@@ -1,24 +1,25 @@
 #include "app/window/MainWindow.h"
 
 #include "app/comparison/ComparisonDock.h"
-#include "app/comparison/ComparisonResults.h"
-#include "app/document/PlotChoice.h"
-#include "app/document/SelectionController.h"
 #include "app/session/FileNameCodec.h"
-#include "app/tasks/StudyLoader.h"
+#include "app/window/ClusterDock.h"
+#include "app/window/ExportController.h"
 #include "app/window/GroupController.h"
 #include "app/window/LoadingBar.h"
 #include "app/window/PlotDock.h"
+#include "app/window/RecentMenu.h"
+#include "app/window/SessionController.h"
+#include "app/window/StudyDock.h"
 #include "app/window/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFontMetrics>
 #include <QLabel>
-#include <QMessageBox>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -34,7 +35,6 @@ constexpr int firstCharacters = 170;
 constexpr int firstLines = 54;
 /// The comparison beneath the plot is as high as its controls, so that the plot keeps the rest.
 constexpr int comparisonLines = 12;
-constexpr int noteMilliseconds = 10000;
 
 QString droppedFile(const QMimeData* data)
 {
@@ -47,15 +47,44 @@ QString droppedFile(const QMimeData* data)
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , plot(new VtkPlotWidget)
+    , shown([this](PlotContainer& container) { plot->setPlotContainer(&container); },
+            plot->plotContainer())
     , timeCourses(new TimeCoursePage)
     , tabs(new QTabWidget)
     , dock(new PlotDock)
+    , clusterDock(new ClusterDock)
+    , studyDock(new StudyDock)
     , comparison(new ComparisonDock)
-    , selection(new SelectionController(this))
-    , loader(new StudyLoader(this))
+    , loadingBar(new LoadingBar)
+    , size(new QLabel)
+    , selected(new QLabel)
+    , opener(new StudyOpener(shown, *loadingBar, this))
+    , sessions(new SessionController(*this, [this] { return shown.sessionSource(); }))
+    , exports(new ExportController(*plot, *this))
+    , recent(new RecentMenu(this))
 {
   setWindowTitle(QStringLiteral("Talmesh Plot"));
   setAcceptDrops(true);
+  placePanels();
+  makeMenus();
+  makeStatusBar();
+  takeFirstSize();
+  new GroupController(*clusterDock, shown, this);
+  connectDocument();
+  connectPanels();
+  connectControllers();
+}
+
+MainWindow::~MainWindow()
+{
+  // Its thread must not outlive what it reports to.
+  delete opener;
+  // What shows the document's containers ends before them.
+  delete takeCentralWidget();
+}
+
+void MainWindow::placePanels()
+{
   tabs->addTab(plot, tr("Runs"));
   tabs->addTab(timeCourses, tr("Time courses"));
   tabs->setDocumentMode(true);
@@ -63,28 +92,21 @@ MainWindow::MainWindow(QWidget* parent)
   addDockWidget(Qt::RightDockWidgetArea, dock);
   addDockWidget(Qt::BottomDockWidgetArea, comparison);
   setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-  container = plot->plotContainer();
-  makeSessions();
-  makeMenus();
-  makeStudies();
-  makeStatusBar();
-  takeFirstSize();
-  selection->follow(container);
-  connect(selection, &SelectionController::changed, this, &MainWindow::showSelection);
-  connect(dock, &PlotDock::choiceChanged, this, &MainWindow::applyDock);
-  connect(comparison, &ComparisonDock::choiceChanged, this, &MainWindow::applyComparison);
-  connect(comparison, &ComparisonDock::styleChosen, this, &MainWindow::chooseStyle);
-  connect(comparison, &ComparisonDock::said, this, &MainWindow::say);
-  connect(comparison, &ComparisonDock::failed, this, &MainWindow::showError);
-  connect(loader, &StudyLoader::progressed, loadingBar, &LoadingBar::setPercent);
-  connect(loader, &StudyLoader::finished, this, &MainWindow::finishLoading);
-  connect(loadingBar, &LoadingBar::cancelled, this, &MainWindow::cancelLoading);
+  addDockWidget(Qt::RightDockWidgetArea, clusterDock);
+  tabifyDockWidget(dock, clusterDock);
+  addDockWidget(Qt::RightDockWidgetArea, studyDock);
+  tabifyDockWidget(dock, studyDock);
+  dock->raise();
+  studyDock->hide();
 }
 
-MainWindow::~MainWindow()
+void MainWindow::makeStatusBar()
 {
-  // The loader goes first: its thread must not outlive what it reports to.
-  delete loader;
+  size->setObjectName(QStringLiteral("studySize"));
+  selected->setObjectName(QStringLiteral("selectionSize"));
+  statusBar()->addPermanentWidget(loadingBar);
+  statusBar()->addPermanentWidget(selected);
+  statusBar()->addPermanentWidget(size);
 }
 
 void MainWindow::takeFirstSize()
@@ -96,87 +118,67 @@ void MainWindow::takeFirstSize()
   resizeDocks({comparison}, {comparisonLines * metrics.lineSpacing()}, Qt::Vertical);
 }
 
-void MainWindow::makeStatusBar()
+void MainWindow::open(const OpeningWishes& asked)
 {
-  size = new QLabel;
-  size->setObjectName(QStringLiteral("studySize"));
-  loadingBar = new LoadingBar;
-  selected = new QLabel;
-  selected->setObjectName(QStringLiteral("selectionSize"));
-  statusBar()->addPermanentWidget(loadingBar);
-  statusBar()->addPermanentWidget(selected);
-  statusBar()->addPermanentWidget(size);
+  if (asked.width > 0)
+    // The window grows by as much as the plot must.
+    resize(QWidget::size() + QSize(asked.width, asked.height) - plot->size());
+  opener->open(asked);
 }
 
-/// @return false when it could not be drawn, which the status bar then says
-bool MainWindow::applyDock()
+void MainWindow::openFile(const QString& path)
 {
-  if (!container)
-    return true;
-  if (study.chart)
-  {
-    drawOwnChart();
-    return true;
-  }
-  dropOutdatedTests(*container);
-  const std::string error = applyChoice(*container, dock->choice());
-  groups->dress();
-  selected->setText(selection->summary());
-  comparison->refresh(*container);
-  plot->updatePlot(true);
-  if (!error.empty())
-    say(QString::fromStdString(error));
-  return error.empty() && !sayWhatIsLinear();
+  opener->openFile(path);
 }
 
-/// @return whether an axis that is to be logarithmic is not
-bool MainWindow::sayWhatIsLinear()
+void MainWindow::openExample()
 {
-  const PlotChoice choice = choiceOf(*container);
-  if (!hasLegend(choice.style))
-    return false;
-  const bool linear = (choice.logX && !container->showsLogScaleX()) ||
-                      (choice.logY && !container->showsLogScaleY());
-  if (linear)
-    say(tr("Linear scale: a logarithmic one needs positive values"));
-  return linear;
+  opener->openExample();
 }
 
-/// A changed selection has drawn the chart anew, without what the viewer adds to it.
-void MainWindow::showSelection()
+bool MainWindow::isLoading() const
 {
-  if (study.chart)
-  {
-    selected->setText(selection->summary());
-    plot->updatePlot(true);
+  return opener->isOpening();
+}
+
+void MainWindow::returnToRuns()
+{
+  if (!shown.canReturnToRuns())
     return;
-  }
-  sayHowLongItTook(applyDock());
+  if (isLoading())
+    opener->cancel();
+  shown.returnToRuns();
 }
 
-void MainWindow::applyComparison()
+bool MainWindow::exportTo(const QString& path, Vectors vectors, int dotsPerInch)
 {
-  if (!container)
-    return;
-  clock.begin();
-  writeComparisonChoice(*container, comparison->choice());
-  sayHowLongItTook(applyDock());
+  return exports->exportTo(path, vectors, dotsPerInch);
 }
 
-void MainWindow::chooseStyle(plotStyles style)
+bool MainWindow::exportTo(const QString& path, const PaperSize& paper, Vectors vectors)
 {
-  PlotChoice choice = dock->choice();
-  choice.style = style;
-  dock->setChoice(choice);
-  applyDock();
+  return exports->exportTo(path, paper, vectors);
 }
 
-/// @param drawn what could not be drawn took no time worth a word
-void MainWindow::sayHowLongItTook(bool drawn)
+void MainWindow::askForSizeAndExport(const QString& path)
 {
-  const std::optional<qint64> milliseconds = clock.end();
-  if (milliseconds && drawn)
-    say(tr("Updated in %1 ms").arg(*milliseconds));
+  exports->askForSize(path);
+}
+
+bool MainWindow::saveSessionTo(const QString& path)
+{
+  return shown.canBeSaved() && sessions->saveTo(path);
+}
+
+void MainWindow::keepWork(const QString& folder, int milliseconds)
+{
+  sessions->keepIn(folder, milliseconds);
+  sessions->offerLeftWork();
+}
+
+void MainWindow::keepWorkNow()
+{
+  sessions->keepNow();
 }
 
 QString MainWindow::selectionText() const
@@ -189,22 +191,21 @@ QString MainWindow::sizeText() const
   return size->text();
 }
 
-void MainWindow::say(const QString& message)
+void MainWindow::closeEvent(QCloseEvent* event)
 {
-  statusBar()->showMessage(message, noteMilliseconds);
-}
-
-void MainWindow::showError(const QString& message)
-{
-  say(message);
-  if (!isVisible())
+  if (leaving || !sessions->isUnsaved())
+  {
+    sessions->end();
+    event->accept();
     return;
-  // Opened, not executed: a nested event loop would let the window die under this call.
-  auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Talmesh Plot"), message,
-                              QMessageBox::Ok, this);
-  box->setAttribute(Qt::WA_DeleteOnClose);
-  box->setTextFormat(Qt::PlainText);
-  box->open();
+  }
+  event->ignore();
+  sessions->leave(
+      [this]
+      {
+        const QScopedValueRollback<bool> guard(leaving, true);
+        close();
+      });
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -1,24 +1,17 @@
 #ifndef MainWindow_h
 #define MainWindow_h
 
-#include "app/document/PlotChoice.h"
+#include "app/document/Document.h"
 #include "app/export/PictureFile.h"
-#include "app/import/Study.h"
-#include "app/session/KeptWork.h"
-#include "app/session/StudyFile.h"
 #include "app/window/RecentFiles.h"
+#include "app/window/StudyOpener.h"
 #include "app/window/UpdateClock.h"
 
 #include <QMainWindow>
-#include <QPointer>
-#include <QStringList>
 
-#include <functional>
-#include <optional>
+#include <array>
 
-class PlotContainer;
 class QLabel;
-class QMenu;
 class QTabWidget;
 class VtkPlotWidget;
 
@@ -27,17 +20,15 @@ namespace Talmesh::app
 
 class ClusterDock;
 class ComparisonDock;
-class GroupController;
+class ExportController;
 class LoadingBar;
 class PlotDock;
-class SelectionController;
+class RecentMenu;
 class SessionController;
 class StudyDock;
-class StudyLoader;
 class TimeCoursePage;
-struct SessionSource;
 
-/// The viewer's window: a plot, the panel to choose what it shows, and what is loaded.
+/// The viewer's window: menus, panels and status bar around what a document shows.
 class MainWindow : public QMainWindow
 {
   Q_OBJECT
@@ -75,12 +66,13 @@ public:
   /// Keeps what is unsaved now, and returns when it is on the disk.
   void keepWorkNow();
 
+  Document& document() { return shown; }
   VtkPlotWidget* plotWidget() const { return plot; }
   PlotDock* plotDock() const { return dock; }
   ComparisonDock* comparisonDock() const { return comparison; }
   /// The pages "Runs" and "Time courses".
   QTabWidget* pages() const { return tabs; }
-  SelectionController* selectionController() const { return selection; }
+  SelectionController* selectionController() { return &shown.selection(); }
   /// How much is loaded, as the status bar says it.
   QString sizeText() const;
   /// How much is selected, as the status bar says it.
@@ -100,99 +92,47 @@ protected:
   void dropEvent(QDropEvent* event) override;
 
 private:
+  void placePanels();
+  void makeStatusBar();
+  void takeFirstSize();
+  void connectDocument();
+  void connectPanels();
+  void connectControllers();
   void makeMenus();
   void makeFileMenu();
   void makeSelectionMenu();
-  void makeViewMenu();
-  void makeHelpMenu();
-  void makeStudies();
-  void fillStudiesMenu();
-  void makeStatusBar();
-  void takeFirstSize();
-  QAction* addAction(QMenu* menu, const QString& text, const QKeySequence& keys,
-                     void (MainWindow::*slot)());
   void chooseFile();
-  void chooseExport();
   void chooseSession();
-  void saveSession();
-  void saveSessionAs();
-  void makeSessions();
-  std::optional<SessionSource> sessionSource();
   void openInstead(const QString& path);
   void openExampleInstead();
-  void bringBack(const LeftWork& work);
-  void noteWhatIsOpened(const OpenedStudy& result);
-  bool canSaveSession() const;
-  void addSessionActions(QMenu* menu);
-  void showSession(const RestoredSession& session);
-  void saveSelection();
-  void loadSelection();
-  void showSelection();
-  void showShortcuts();
-  void showAbout();
-  void fillRecentMenu();
-  void load(const QString& name, std::function<OpenedStudy(const ImportProgress&)> job);
-  void cancelLoading();
-  void finishLoading(const OpenedStudy& result);
-  void sayThatItFailed(const QString& message);
-  void forgetCommandLine();
-  void showStudyInPlot(const Study& study);
-  void leaveStudy(bool forOwnChart);
-  void followStudy();
-  void showWhatIsLoaded();
-  void drawOwnChart();
-  bool applyWishes();
-  bool applyDock();
-  bool sayWhatIsLinear();
-  void applyComparison();
   void chooseStyle(plotStyles style);
-  void sayHowLongItTook(bool drawn);
-  bool sayWhatWasWritten(const QString& path, const std::string& error);
+  void showStudy();
+  void showDrawing();
+  bool sayWhatIsLinear();
+  void noteOpened(const OpenedStudy& study, const OpeningTask& task);
+  void noteFailure(const QString& message, const OpeningTask& task);
+  bool noteWritten(const QString& path, const std::string& error);
   void say(const QString& message);
   void showError(const QString& message);
-  void noteSelectionFile(const std::string& error);
 
   VtkPlotWidget* plot;
+  Document shown;
   TimeCoursePage* timeCourses;
   QTabWidget* tabs;
   PlotDock* dock;
+  ClusterDock* clusterDock;
+  StudyDock* studyDock;
   ComparisonDock* comparison;
-  SelectionController* selection;
-  StudyLoader* loader;
-  LoadingBar* loadingBar = nullptr;
-  QLabel* size = nullptr;
-  QLabel* selected = nullptr;
-  QMenu* recentMenu = nullptr;
-  RecentFiles recent;
-  QPointer<PlotContainer> container;
+  LoadingBar* loadingBar;
+  QLabel* size;
+  QLabel* selected;
+  StudyOpener* opener;
+  SessionController* sessions;
+  ExportController* exports;
+  RecentMenu* recent;
+  /// What saves the session.
+  std::array<QAction*, 2> saving{};
   UpdateClock clock;
-  Study study;
-  ClusterDock* clusterDock = nullptr;
-  StudyDock* studyDock = nullptr;
-  GroupController* groups = nullptr;
-  QMenu* studiesMenu = nullptr;
-  /// The runs or the table opened last. While a computed study takes their place, their container
-  /// is kept with all that the user has done to it.
-  struct LastRuns
-  {
-    Study study;
-    /// Null while it is the window's container.
-    QPointer<PlotContainer> container;
-    QStringList columns;
-    PlotChoice choice;
-  };
-  LastRuns lastRuns;
-  /// The title that the study's own chart gave itself; another one is the user's.
-  std::string ownTitle;
-  bool drawingOwnChart = false;
-  /// The file being opened; empty for the example.
-  QString loadingPath;
-  /// What the command line wishes of the study that it names, while that is being opened.
-  OpeningWishes wishes;
-  bool openingNamed = false;
-  SessionController* sessions = nullptr;
-  /// What is being opened, if an earlier window has left it.
-  LeftWork bringingBack;
   /// The user has decided what becomes of unsaved work.
   bool leaving = false;
 };

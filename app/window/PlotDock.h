@@ -25,6 +25,11 @@ public:
   void setColumns(const QStringList& names);
   /// The names given last.
   QStringList columns() const;
+  /// The switches, which other controls of the window may click.
+  QCheckBox* linesSwitch() const { return lines; }
+  QCheckBox* legendSwitch() const { return legend; }
+  QCheckBox* logXSwitch() const { return logX; }
+  QCheckBox* logYSwitch() const { return logY; }
   /// Shows a choice. Emits nothing.
   void setChoice(const PlotChoice& choice);
   /// What the controls say. Legend and logarithmic y axis are those that the user wishes for the

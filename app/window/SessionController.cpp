@@ -20,18 +20,32 @@ SessionController::SessionController(QWidget& parent, Source whatIsShown)
 {
 }
 
-void SessionController::opened(const SessionOrigin& origin)
+void SessionController::opened(const OpenedStudy& study, const QString& path, const LeftWork& left)
+{
+  // Runs stay the user's work while a computed study takes their place.
+  if (study.study.chart)
+    return;
+  if (!study.session)
+  {
+    take({});
+    return;
+  }
+  if (!left.lock)
+  {
+    take({path, study.session->end});
+    return;
+  }
+  record.broughtBack(study.session->settings.origin);
+  if (keeper)
+    keeper->takeOver(left);
+}
+
+/// What is now shown is in the origin's file or, without one, as a table was opened.
+void SessionController::take(const SessionOrigin& origin)
 {
   if (const std::optional<SessionSource> now = source())
     record.saved(workOf(*now), origin);
   forget();
-}
-
-void SessionController::broughtBack(const SessionOrigin& origin, const LeftWork& work)
-{
-  record.broughtBack(origin);
-  if (keeper)
-    keeper->takeOver(work);
 }
 
 void SessionController::selectionSaved()

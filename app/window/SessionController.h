@@ -3,6 +3,7 @@
 
 #include "app/session/Session.h"
 #include "app/session/SessionWork.h"
+#include "app/session/StudyFile.h"
 #include "app/session/WorkKeeper.h"
 
 #include <QObject>
@@ -30,11 +31,11 @@ public:
   /// @param window the parent of all questions and of the controller
   SessionController(QWidget& window, Source source);
 
-  /// Another study has been opened and is shown.
-  /// @param origin its session file, if any
-  void opened(const SessionOrigin& origin);
-  /// Work that an earlier window has left is shown.
-  void broughtBack(const SessionOrigin& origin, const LeftWork& work);
+  /// Another study has been opened and is shown, which is the state that later ones are compared
+  /// with.
+  /// @param path its file, if any
+  /// @param left the work of an earlier window, if that is what was opened
+  void opened(const OpenedStudy& study, const QString& path, const LeftWork& left);
   /// What is selected now is in a file of its own.
   void selectionSaved();
 
@@ -67,6 +68,7 @@ signals:
   void failed(const QString& message);
 
 private:
+  void take(const SessionOrigin& origin);
   UnsavedParts unsavedParts();
   void forget();
   void saveOver(const QString& path, const Step& then);

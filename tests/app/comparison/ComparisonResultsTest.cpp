@@ -84,6 +84,8 @@ TEST_F(ComparisonResults, AreNoneWithoutASelection)
 
 TEST_F(ComparisonResults, LeaveOutdatedTestsInTheContainerUntilTheyAreDropped)
 {
+  // As a container is without the viewer.
+  container().removeDrawingSteps(&container());
   select(firstRuns(8));
   dropOutdatedTests(container());
   EXPECT_EQ(container().getKsResults().size(), 2U);
@@ -91,6 +93,14 @@ TEST_F(ComparisonResults, LeaveOutdatedTestsInTheContainerUntilTheyAreDropped)
   EXPECT_EQ(container().getKsResults().size(), 2U);
   dropOutdatedTests(container());
   EXPECT_TRUE(container().getKsResults().empty());
+}
+
+TEST_F(ComparisonResults, AreForgottenByTheDrawingOfAnotherSelection)
+{
+  select(firstRuns(8));
+  EXPECT_EQ(container().getKsResults().size(), 2U);
+  selectRows({});
+  EXPECT_TRUE(container().getKsResults().empty()) << "the charts are drawn without them";
 }
 
 TEST_F(ComparisonResults, AreNoneWhenNoRunIsSelectedAtEveryTime)

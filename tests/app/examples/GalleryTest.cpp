@@ -1,5 +1,6 @@
 #include "app/examples/Gallery.h"
 
+#include "app/document/Document.h"
 #include "external/ParameterSelection.h"
 #include "plot/PlotContainer.h"
 #include "support/PdfPages.h"
@@ -56,17 +57,17 @@ struct DrawnView
 {
   DrawnView(const std::string& name, const Study& study)
   {
-    container.setScene(view.scene());
     for (const GalleryView& known : galleryViews())
       if (known.name == name)
-        error = known.draw(study, container);
+        error = known.draw(study, document);
     EXPECT_EQ(error, "") << name;
   }
 
-  vtkChartXY& chart() { return *container.getChartXY(); }
+  PlotContainer& container() { return *document.container(); }
+  vtkChartXY& chart() { return *container().getChartXY(); }
 
   PlotScene view;
-  PlotContainer container{nullptr};
+  Document document{[this](PlotContainer& shown) { shown.setScene(view.scene()); }};
   std::string error = "no such view";
 };
 
@@ -123,8 +124,8 @@ TEST(Gallery, ShowsTheTimeCoursesOfARun)
   DrawnView drawn("timeCourses", sampleStudy());
   ASSERT_EQ(drawn.chart().GetNumberOfPlots(), 2);
   // sin(0) is 0.
-  EXPECT_EQ(drawn.container.getTable()->GetValueByName(0, "Molecule: X").ToDouble(), 2.0);
-  EXPECT_EQ(drawn.container.getTable()->GetNumberOfRows(), 4) << "one run";
+  EXPECT_EQ(drawn.container().getTable()->GetValueByName(0, "Molecule: X").ToDouble(), 2.0);
+  EXPECT_EQ(drawn.container().getTable()->GetNumberOfRows(), 4) << "one run";
   EXPECT_TRUE(drawn.chart().GetShowLegend());
 }
 
@@ -150,7 +151,7 @@ TEST(Gallery, SelectsLivelyRunsByTheirNumbers)
   for (const char* name : {"multiPlot", "selectionCdfPlot", "selectionCdfPlot-densities"})
   {
     DrawnView drawn(name, sampleStudy(text));
-    const std::unique_ptr<ParameterSelection> selected(drawn.container.getSelection());
+    const std::unique_ptr<ParameterSelection> selected(drawn.container().getSelection());
     ASSERT_TRUE(selected) << name;
     EXPECT_EQ(selected->runs, std::set<int>{30}) << name;
   }
@@ -159,13 +160,13 @@ TEST(Gallery, SelectsLivelyRunsByTheirNumbers)
 TEST(Gallery, ShowsDensitiesWithTheBandsOfAllRuns)
 {
   DrawnView drawn("selectionCdfPlot-densities", sampleStudy(sampleRuns(8, 5)));
-  ASSERT_TRUE(drawn.container.getQuartileTable());
-  EXPECT_EQ(drawn.container.getQuartileTable()->GetNumberOfRows(), 5);
+  ASSERT_TRUE(drawn.container().getQuartileTable());
+  EXPECT_EQ(drawn.container().getQuartileTable()->GetNumberOfRows(), 5);
   int bands = 0;
   for (vtkIdType i = 0; i < drawn.chart().GetNumberOfPlots(); ++i)
     bands += drawn.chart().GetPlot(i)->IsA("vtkPlotFunctionalBag") ? 1 : 0;
   EXPECT_EQ(bands, 3);
-  EXPECT_EQ(drawn.container.getKsResults().size(), 1U);
+  EXPECT_EQ(drawn.container().getKsResults().size(), 1U);
 }
 
 TEST(Gallery, SaysWhenTheFolderCannotBeMade)

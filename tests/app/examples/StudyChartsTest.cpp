@@ -12,19 +12,27 @@ namespace
 
 using namespace Talmesh::app;
 
+void draw(PlotContainer& container, const ChartSteps& steps)
+{
+  steps.fill(container);
+  container.redraw();
+  if (steps.complete)
+    steps.complete(container);
+}
+
 TEST(StudyCharts, ShowNothingOfTheStudyBefore)
 {
   PlotScene scene;
   PlotContainer fresh(nullptr);
   fresh.setScene(scene.scene());
-  drawPuromycinRates(fresh);
+  draw(fresh, puromycinRateChart());
   const vtkIdType plots = fresh.getChartXY()->GetNumberOfPlots();
 
   PlotContainer used(nullptr);
   used.setScene(scene.scene());
-  drawIndomethacinCourse(used, false);
+  draw(used, indomethacinCourse(false));
   ASSERT_TRUE(used.getShowDecorations());
-  drawPuromycinRates(used);
+  draw(used, puromycinRateChart());
   EXPECT_FALSE(used.getShowDecorations());
   EXPECT_EQ(used.getChartXY()->GetNumberOfPlots(), plots);
 }
@@ -34,8 +42,8 @@ TEST(StudyCharts, KeepNoCurveForADrawingThatFollowsTheirs)
   PlotScene scene;
   PlotContainer container(nullptr);
   container.setScene(scene.scene());
-  drawIndomethacinCourse(container, false);
-  drawIndomethacinResiduals(container, false, false);
+  draw(container, indomethacinCourse(false));
+  draw(container, indomethacinResidualChart(false, false));
   EXPECT_FALSE(container.getShowDecorations());
 }
 

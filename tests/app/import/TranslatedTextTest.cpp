@@ -45,10 +45,10 @@ TEST(TranslatedText, IsGermanInMessages)
 TEST(TranslatedText, IsGermanInTheTitleOfADistribution)
 {
   PlotContainer container(nullptr);
-  drawPrior(container, circuitPriors().front());
+  priorDensity(circuitPriors().front()).complete(container);
   EXPECT_EQ(container.getMetaData()->title, "Prior density of alpha");
   const German german;
-  drawPrior(container, circuitPriors().front());
+  priorDensity(circuitPriors().front()).complete(container);
   EXPECT_EQ(container.getMetaData()->title, "A-priori-Dichte von alpha");
 }
 

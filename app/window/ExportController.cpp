@@ -1,24 +1,26 @@
+#include "app/window/ExportController.h"
+
 #include "app/export/ExportDialog.h"
-#include "app/window/MainWindow.h"
 #include "widgets/VtkPlotWidget.h"
 #include "widgets/WidgetSupport.h"
 
 #include <QFileDialog>
-#include <QStatusBar>
+
+#include <optional>
 
 namespace Talmesh::app
 {
 
-namespace
+ExportController::ExportController(VtkPlotWidget& exported, QWidget& parent)
+    : QObject(&parent)
+    , plot(exported)
+    , window(parent)
 {
+}
 
-constexpr int noteMilliseconds = 10000;
-
-} // namespace
-
-void MainWindow::chooseExport()
+void ExportController::choose()
 {
-  auto* dialog = new QFileDialog(this, tr("Export"), {},
+  auto* dialog = new QFileDialog(&window, tr("Export"), {},
                                  tr("Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setOptions(getFileDialogOption());
@@ -27,21 +29,11 @@ void MainWindow::chooseExport()
   { dialog->setDefaultSuffix(filter.section(QStringLiteral("*."), 1).left(3)); };
   suffixOfFilter(dialog->selectedNameFilter());
   connect(dialog, &QFileDialog::filterSelected, dialog, suffixOfFilter);
-  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::askForSizeAndExport);
+  connect(dialog, &QFileDialog::fileSelected, this, &ExportController::askForSize);
   dialog->open();
 }
 
-bool MainWindow::exportTo(const QString& path, Vectors vectors, int dotsPerInch)
-{
-  return sayWhatWasWritten(path, exportPlot(*plot, path, vectors, dotsPerInch));
-}
-
-bool MainWindow::exportTo(const QString& path, const PaperSize& paper, Vectors vectors)
-{
-  return sayWhatWasWritten(path, exportPlot(*plot, path, paper, vectors));
-}
-
-void MainWindow::askForSizeAndExport(const QString& path)
+void ExportController::askForSize(const QString& path)
 {
   const ExportKind kind = exportKindOf(path);
   if (kind != ExportKind::Pixels && kind != ExportKind::Vectors)
@@ -50,7 +42,7 @@ void MainWindow::askForSizeAndExport(const QString& path)
     return;
   }
   const std::optional<int> most = kind == ExportKind::Pixels ? mostPixels : std::optional<int>();
-  auto* dialog = new ExportDialog(most, plot->size(), this);
+  auto* dialog = new ExportDialog(most, plot.size(), &window);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &QDialog::accepted, this,
           [this, dialog, path]
@@ -62,12 +54,19 @@ void MainWindow::askForSizeAndExport(const QString& path)
   dialog->open();
 }
 
-bool MainWindow::sayWhatWasWritten(const QString& path, const std::string& error)
+bool ExportController::exportTo(const QString& path, Vectors vectors, int dotsPerInch)
 {
-  if (error.empty())
-    statusBar()->showMessage(tr("Wrote %1").arg(path), noteMilliseconds);
-  else
-    showError(QString::fromStdString(error));
+  return announce(path, exportPlot(plot, path, vectors, dotsPerInch));
+}
+
+bool ExportController::exportTo(const QString& path, const PaperSize& paper, Vectors vectors)
+{
+  return announce(path, exportPlot(plot, path, paper, vectors));
+}
+
+bool ExportController::announce(const QString& path, const std::string& error)
+{
+  emit written(path, error);
   return error.empty();
 }
 

@@ -1,0 +1,281 @@
+#include "app/document/Document.h"
+
+#include "app/document/PlotSession.h"
+#include "app/document/ShownChart.h"
+#include "app/document/ShownStudy.h"
+#include "external/LinePlotTable.h"
+#include "external/PlotMetaData.h"
+
+#include <utility>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+int runsOverTime(const Study& study)
+{
+  const bool runs = study.runs && study.runs->pointsPerTrajectory > 1;
+  return runs ? static_cast<int>(study.runs->numberOfTrajectories) : 0;
+}
+
+} // namespace
+
+Document::Document(Stage where, PlotContainer* before, QObject* parent)
+    : QObject(parent)
+    , stage(std::move(where))
+    , grouped(selected.undoStack())
+{
+  connect(&selected, &SelectionController::changing, this, [this] { beforeSelection = drawings; });
+  connect(&selected, &SelectionController::changed, this, &Document::followSelection);
+  connect(&grouped, &GroupedRuns::valuesChanged, this, &Document::drawNewValues);
+  shown.container = before;
+  selected.follow(before);
+  grouped.follow(before, 0);
+}
+
+Document::~Document() = default;
+
+std::string Document::open(const OpenedStudy& opened, const PlotWishes& wishes)
+{
+  leave(opened.study.chart != nullptr);
+  // A container remembers much of what it showed before, so each study gets its own.
+  auto* container = new PlotContainer(this);
+  container->setDiagnosticsShown(false);
+  show(container);
+  shown = {opened.study, container, {}, {}};
+  std::string failure;
+  if (shown.study.chart)
+    openOwnChart();
+  else
+    failure = openData(opened, wishes);
+  emit studyChanged();
+  emit drawn();
+  return failure;
+}
+
+/// Puts a container where it is seen.
+void Document::show(PlotContainer* container)
+{
+  if (shown.container)
+    shown.container->removeDrawingSteps(this);
+  disconnect(settingsHeard);
+  ownChart = nullptr;
+  shown.container = container;
+  container->addCompletion(this, [this] { ++drawings; });
+  error = whyNotDone([this] { stage(*shown.container); });
+  // Connected after the container's own answer, which draws.
+  settingsHeard = connect(container->getMetaData(), &PlotMetaData::redrawNeeded, this,
+                          &Document::followSettings);
+}
+
+/// The container has drawn what was changed in its settings.
+void Document::followSettings()
+{
+  if (shown.study.chart)
+  {
+    shown.choice = choiceOf(*shown.container);
+    emit choiceChanged();
+  }
+  emit drawn();
+}
+
+/// The container draws what is selected only where there are parameters to compare.
+void Document::followSelection()
+{
+  if (!shown.study.chart && drawings == beforeSelection)
+    drawSilently();
+  emit drawn();
+}
+
+std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wishes)
+{
+  PlotContainer& container = *shown.container;
+  showStudy(shown.study, container);
+  chooseOpeningStyle(container, wishes);
+  selected.follow(&container);
+  grouped.follow(&container, runsOverTime(shown.study));
+  shown.choice = choiceOf(container);
+  if (opened.session)
+    restore(*opened.session);
+  shown.columns = container.getLabels();
+  PlotChoice wished = shown.choice;
+  std::string failure = chooseByName(container, wishes, wished);
+  if (failure.empty())
+    shown.choice = wished;
+  drawSilently();
+  return failure;
+}
+
+void Document::restore(const RestoredSession& session)
+{
+  PlotContainer& container = *shown.container;
+  restoreSettings(session, container);
+  grouped.restoreNormalised(session.settings.normalised);
+  grouped.restore(session.settings.groups);
+  // Normalising has forgotten the window.
+  restoreWindow(session, container);
+  restoreSelection(session, container);
+  shown.choice = restoredChoice(session, container);
+  // The history begins with what is restored.
+  selected.restartHistory();
+}
+
+void Document::openOwnChart()
+{
+  PlotContainer& container = *shown.container;
+  showStudy(shown.study, container);
+  ownChart = new ShownChart(shown.study.chart, container);
+  ownChart->choose(ownChart->variant());
+  selected.visit(&container);
+  drawSilently();
+  shown.columns = container.getLabels();
+}
+
+/// Puts what is now shown aside, or away.
+void Document::leave(bool forOwnChart)
+{
+  if (forOwnChart && (shown.study.runs || shown.study.table))
+  {
+    aside = shown;
+    return;
+  }
+  drop(shown.container);
+  if (forOwnChart)
+    return;
+  grouped.leave();
+  drop(aside.container);
+  aside = {};
+}
+
+/// Containers that the document did not make are not its own.
+void Document::drop(PlotContainer* container)
+{
+  if (container && container->parent() == this)
+    container->deleteLater();
+}
+
+bool Document::canReturnToRuns() const
+{
+  return shown.study.chart && aside.container;
+}
+
+void Document::returnToRuns()
+{
+  if (!canReturnToRuns())
+    return;
+  drop(shown.container);
+  const Shown runs = std::exchange(aside, {});
+  show(runs.container);
+  shown = runs;
+  selected.endVisit();
+  emit studyChanged();
+  emit drawn();
+}
+
+int Document::variant() const
+{
+  return ownChart ? ownChart->variant() : 0;
+}
+
+QString Document::size() const
+{
+  const Study& study = shown.study;
+  const bool any = shown.container && (study.runs || study.table || study.chart);
+  return any ? QString::fromStdString(studySize(study, *shown.container)) : QString();
+}
+
+void Document::drawSilently()
+{
+  if (!shown.container)
+    return;
+  if (!shown.study.chart)
+  {
+    error = applyChoice(*shown.container, shown.choice);
+    return;
+  }
+  error = whyNotDone([this] { shown.container->redraw(); });
+  shown.choice = choiceOf(*shown.container);
+}
+
+void Document::draw()
+{
+  drawSilently();
+  emit drawn();
+}
+
+void Document::choose(const PlotChoice& choice)
+{
+  shown.choice = choice;
+  drawSilently();
+  emit choiceChanged();
+  emit drawn();
+}
+
+void Document::compareBy(const ComparisonChoice& choice)
+{
+  if (shown.container)
+    writeComparisonChoice(*shown.container, choice);
+  draw();
+}
+
+void Document::chooseVariant(int variant)
+{
+  if (ownChart)
+    ownChart->choose(variant);
+  draw();
+}
+
+void Document::group()
+{
+  grouped.group();
+  setLook(grouped.state().look);
+}
+
+void Document::setLook(const RunLook& look)
+{
+  grouped.setLook(look);
+  PlotChoice choice = shown.choice;
+  if (look.groupColours || look.groupMeans || look.quartileBands)
+    choice.style = xyPlot;
+  choose(choice);
+}
+
+/// The tables of selected and of other runs are copies of the plot's: they are made anew, which
+/// draws where there are parameters to compare.
+void Document::drawNewValues()
+{
+  emit valuesChanged();
+  if (!shown.container)
+    return;
+  const unsigned long before = drawings;
+  shown.container->annotationUpdate();
+  if (drawings == before)
+    drawSilently();
+  emit drawn();
+}
+
+bool Document::canBeSaved() const
+{
+  return shown.container && !shown.study.chart && (shown.study.runs || shown.study.table);
+}
+
+std::optional<SessionSource> Document::sessionSource()
+{
+  const Shown& opened = shown.study.chart ? aside : shown;
+  if (!opened.container || !(opened.study.runs || opened.study.table))
+    return {};
+  SessionSource source =
+      sessionOf(opened.study, *opened.container, opened.choice, &grouped.runNormaliser());
+  source.groups = grouped.state();
+  return source;
+}
+
+std::string Document::save(const QString& path)
+{
+  const std::optional<SessionSource> source = sessionSource();
+  return source ? saveSession(path, *source) : std::string();
+}
+
+} // namespace Talmesh::app

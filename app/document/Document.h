@@ -1,0 +1,139 @@
+#ifndef Document_h
+#define Document_h
+
+#include "app/comparison/ComparisonChoice.h"
+#include "app/document/GroupedRuns.h"
+#include "app/document/PlotChoice.h"
+#include "app/document/SelectionController.h"
+#include "app/import/Study.h"
+#include "app/session/Session.h"
+#include "app/session/StudyFile.h"
+#include "plot/PlotContainer.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace Talmesh::app
+{
+
+class ShownChart;
+
+/// What the viewer shows and what the user has done to it: a study, the container that shows it,
+/// the choices of plot and comparison, groups, normalised runs, the selection and its history.
+///
+/// It is the one place that knows in which order a study is opened, restored and drawn; it has no
+/// window. Texts are UTF-8. Belongs to the GUI thread.
+class Document : public QObject
+{
+  Q_OBJECT
+
+public:
+  /// Puts a container into the scene where it is seen, and draws it, as
+  /// `VtkPlotWidget::setPlotContainer` does. May throw what drawing throws.
+  using Stage = std::function<void(PlotContainer&)>;
+
+  /// @param shown what is in the scene before a study is opened, not owned; null for nothing
+  explicit Document(Stage stage, PlotContainer* shown = nullptr, QObject* parent = nullptr);
+  ~Document() override;
+
+  /// Shows a study, which was opened without an error, in a container of its own: with what its
+  /// session restores and then what the wishes name. A chart of its own puts the runs or the table
+  /// shown before aside, from where `returnToRuns` brings them back.
+  /// @return why a wish cannot be met, in one line; the study is then shown without any of them
+  std::string open(const OpenedStudy& opened, const PlotWishes& wishes = {});
+  /// Shows once more the runs or the table opened last; a chart of its own has taken their place.
+  void returnToRuns();
+  bool canReturnToRuns() const;
+
+  const Study& study() const { return shown.study; }
+  /// Null before anything is shown, and after it died.
+  PlotContainer* container() const { return shown.container; }
+  /// The names of the columns that the choice speaks of.
+  const QStringList& columns() const { return shown.columns; }
+  const PlotChoice& choice() const { return shown.choice; }
+  /// The variant of the study's own chart; 0 without one.
+  int variant() const;
+  /// How much is loaded, in one line.
+  QString size() const;
+  /// Why what is chosen could not be drawn the last time, in one line; empty if it was.
+  const std::string& drawingError() const { return error; }
+  SelectionController& selection() { return selected; }
+  GroupedRuns& groups() { return grouped; }
+
+  /// The following draw, once. What is shown of a chart of its own is not for the user to choose:
+  /// it is drawn as it is.
+  void draw();
+  void choose(const PlotChoice& choice);
+  void compareBy(const ComparisonChoice& choice);
+  /// Of the study's own chart.
+  void chooseVariant(int variant);
+  /// Sorts the runs into groups and shows them in their colours.
+  void group();
+  /// Shows the runs as the look says, in the XY plot if the style shows nothing of it.
+  void setLook(const RunLook& look);
+
+  /// Whether what is shown can be saved as a session.
+  bool canBeSaved() const;
+  /// What a session keeps of the runs or the table opened last, also while they are put aside;
+  /// nothing before any is opened. Refers to the document.
+  std::optional<SessionSource> sessionSource();
+  /// Writes the session.
+  /// @return as `saveSession`
+  std::string save(const QString& path);
+
+signals:
+  /// Another study is shown, or the former one again; or it is another container that does.
+  void studyChanged();
+  /// The choice is another one, or its own chart has another one by itself.
+  void choiceChanged();
+  /// The values of the runs are others.
+  void valuesChanged();
+  /// The container was drawn, or tried to be, and is to be painted; or what is selected has
+  /// changed. Never in the middle of a drawing.
+  void drawn();
+
+private:
+  /// A study and what shows it.
+  struct Shown
+  {
+    Study study;
+    QPointer<PlotContainer> container;
+    QStringList columns;
+    PlotChoice choice;
+  };
+
+  void leave(bool forOwnChart);
+  void show(PlotContainer* container);
+  std::string openData(const OpenedStudy& opened, const PlotWishes& wishes);
+  void openOwnChart();
+  void restore(const RestoredSession& session);
+  void drawSilently();
+  void drawNewValues();
+  void followSelection();
+  void followSettings();
+  void drop(PlotContainer* container);
+
+  Stage stage;
+  Shown shown;
+  /// The runs or the table opened last, with all that the user has done to them, while a chart of
+  /// its own takes their place.
+  Shown aside;
+  QPointer<ShownChart> ownChart;
+  SelectionController selected;
+  GroupedRuns grouped;
+  std::string error;
+  QMetaObject::Connection settingsHeard;
+  /// Drawings of the container now shown that came to their end, whoever asked for them.
+  unsigned long drawings = 0;
+  /// As many of them as there were when the selection began to change.
+  unsigned long beforeSelection = 0;
+};
+
+} // namespace Talmesh::app
+
+#endif

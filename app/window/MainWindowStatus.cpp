@@ -1,0 +1,185 @@
+#include "app/comparison/ComparisonDock.h"
+#include "app/document/OwnChart.h"
+#include "app/window/ClusterDock.h"
+#include "app/window/ExportController.h"
+#include "app/window/MainWindow.h"
+#include "app/window/PlotDock.h"
+#include "app/window/RecentMenu.h"
+#include "app/window/SessionController.h"
+#include "app/window/StudyDock.h"
+#include "app/window/TimeCoursePage.h"
+#include "plot/PlotContainer.h"
+#include "widgets/VtkPlotWidget.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QTabWidget>
+
+/// What the window does when the document and its controllers announce something.
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr int noteMilliseconds = 10000;
+
+} // namespace
+
+void MainWindow::connectDocument()
+{
+  connect(&shown, &Document::studyChanged, this, &MainWindow::showStudy);
+  connect(&shown, &Document::drawn, this, &MainWindow::showDrawing);
+  connect(&shown, &Document::valuesChanged, timeCourses, &TimeCoursePage::refresh);
+  connect(&shown, &Document::choiceChanged, this,
+          [this]
+          {
+            // What the user has just done to the panel stays as it is.
+            if (!(dock->choice() == shown.choice()))
+              dock->setChoice(shown.choice());
+          });
+}
+
+void MainWindow::connectPanels()
+{
+  connect(dock, &PlotDock::choiceChanged, this, [this] { shown.choose(dock->choice()); });
+  connect(comparison, &ComparisonDock::choiceChanged, this,
+          [this]
+          {
+            clock.begin();
+            shown.compareBy(comparison->choice());
+          });
+  connect(comparison, &ComparisonDock::styleChosen, this, &MainWindow::chooseStyle);
+  connect(comparison, &ComparisonDock::said, this, &MainWindow::say);
+  connect(comparison, &ComparisonDock::failed, this, &MainWindow::showError);
+  connect(studyDock, &StudyDock::variantChanged, this,
+          [this] { shown.chooseVariant(studyDock->variant()); });
+}
+
+void MainWindow::connectControllers()
+{
+  connect(opener, &StudyOpener::said, statusBar(),
+          [this](const QString& message) { statusBar()->showMessage(message); });
+  connect(opener, &StudyOpener::ended, statusBar(), &QStatusBar::clearMessage);
+  connect(opener, &StudyOpener::shown, this, &MainWindow::noteOpened);
+  connect(opener, &StudyOpener::opened, this, &MainWindow::opened);
+  connect(opener, &StudyOpener::notOpened, recent,
+          [this](const OpeningTask& task)
+          {
+            if (!task.path.isEmpty())
+              recent->remove(task.path);
+          });
+  connect(opener, &StudyOpener::failed, this, &MainWindow::noteFailure);
+  connect(exports, &ExportController::written, this, &MainWindow::noteWritten);
+  connect(sessions, &SessionController::written, this,
+          [this](const QString& path, const std::string& error)
+          {
+            if (noteWritten(path, error))
+              recent->add(path);
+          });
+  connect(sessions, &SessionController::failed, this, &MainWindow::say);
+  connect(sessions, &SessionController::bringBackWanted, opener, &StudyOpener::bringBack);
+}
+
+/// Brings what surrounds the plot into line with the study that is now shown.
+void MainWindow::showStudy()
+{
+  const Study& study = shown.study();
+  const bool own = study.chart != nullptr;
+  dock->setColumns(shown.columns());
+  dock->setChoice(shown.choice());
+  timeCourses->setStudy(study);
+  for (QAction* action : saving)
+    action->setEnabled(shown.canBeSaved());
+  for (QDockWidget* panel : std::initializer_list<QDockWidget*>{dock, clusterDock})
+  {
+    panel->widget()->setEnabled(!own);
+    panel->widget()->setToolTip(own ? tr("The chart of this study is composed already.")
+                                    : QString());
+  }
+  comparison->widget()->setEnabled(!own);
+  studyDock->setVisible(own);
+  if (own)
+  {
+    tabs->setCurrentWidget(plot);
+    studyDock->raise();
+    studyDock->setChart(*study.chart);
+  }
+  size->setText(shown.size());
+  clock.follow(shown.container()->getAnnotationLink());
+  setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
+}
+
+/// Paints what was drawn, and says what is worth a word about it.
+void MainWindow::showDrawing()
+{
+  if (!shown.container())
+    return;
+  selected->setText(shown.selection().summary());
+  comparison->refresh(*shown.container());
+  plot->updatePlot(true);
+  const std::optional<qint64> milliseconds = clock.end();
+  if (!shown.drawingError().empty())
+    say(QString::fromStdString(shown.drawingError()));
+  else if (!sayWhatIsLinear() && milliseconds)
+    say(tr("Updated in %1 ms").arg(*milliseconds));
+}
+
+/// @return whether an axis that is to be logarithmic is not
+bool MainWindow::sayWhatIsLinear()
+{
+  const PlotContainer& container = *shown.container();
+  const PlotChoice choice = choiceOf(container);
+  if (shown.study().chart || !hasLegend(choice.style))
+    return false;
+  const bool linear =
+      (choice.logX && !container.showsLogScaleX()) || (choice.logY && !container.showsLogScaleY());
+  if (linear)
+    say(tr("Linear scale: a logarithmic one needs positive values"));
+  return linear;
+}
+
+void MainWindow::noteOpened(const OpenedStudy& study, const OpeningTask& task)
+{
+  if (!task.path.isEmpty())
+    recent->add(task.path);
+  sessions->opened(study, task.path, task.left);
+}
+
+void MainWindow::noteFailure(const QString& message, const OpeningTask& task)
+{
+  showError(message);
+  emit openFailed(message);
+  if (task.namedByCommandLine)
+    emit commandLineFailed(message);
+}
+
+bool MainWindow::noteWritten(const QString& path, const std::string& error)
+{
+  if (error.empty())
+    say(tr("Wrote %1").arg(path));
+  else
+    showError(QString::fromStdString(error));
+  return error.empty();
+}
+
+void MainWindow::say(const QString& message)
+{
+  statusBar()->showMessage(message, noteMilliseconds);
+}
+
+void MainWindow::showError(const QString& message)
+{
+  say(message);
+  if (!isVisible())
+    return;
+  // Opened, not executed: a nested event loop would let the window die under this call.
+  auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Talmesh Plot"), message,
+                              QMessageBox::Ok, this);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setTextFormat(Qt::PlainText);
+  box->open();
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,81 @@
+#ifndef StudyOpener_h
+#define StudyOpener_h
+
+#include "app/document/PlotWishes.h"
+#include "app/session/KeptWork.h"
+#include "app/session/StudyFile.h"
+
+#include <QObject>
+#include <QString>
+
+namespace Talmesh::app
+{
+
+class Document;
+class LoadingBar;
+class StudyLoader;
+
+/// What is being opened, beside its content.
+struct OpeningTask
+{
+  /// As messages call it.
+  QString name;
+  /// The file; empty for what is computed, and for work that an earlier window has left.
+  QString path;
+  /// The work that an earlier window has left, if that is what is opened.
+  LeftWork left;
+  /// What the command line wishes of the study that it names.
+  PlotWishes wishes;
+  bool namedByCommandLine = false;
+};
+
+/// Opens studies in the background and shows them in the document. What is started while something
+/// else is being opened takes its place.
+class StudyOpener : public QObject
+{
+  Q_OBJECT
+
+public:
+  /// @param document, bar outlive the opener; the bar shows how far it is
+  StudyOpener(Document& document, LoadingBar& bar, QObject* parent = nullptr);
+  /// Cancels what is being opened and waits for it.
+  ~StudyOpener() override;
+
+  /// Opens the file or example that the command line names.
+  void open(const OpeningWishes& asked);
+  void openFile(const QString& path);
+  void openExample();
+  void openComputed(const QString& name, const StudyJob& job);
+  /// Opens work that an earlier window has left; it is no file of the user's own.
+  void bringBack(const LeftWork& work);
+  /// Gives up what is being opened, and says so.
+  void cancel();
+  bool isOpening() const;
+
+signals:
+  /// What is going on, in one line.
+  void said(const QString& message);
+  /// Nothing is going on any more.
+  void ended();
+  /// The document shows the study, whether or not the wishes could be met.
+  void shown(const Talmesh::app::OpenedStudy& opened, const Talmesh::app::OpeningTask& task);
+  /// The same, with all wishes.
+  void opened();
+  /// Nothing is shown of it.
+  void notOpened(const Talmesh::app::OpeningTask& task);
+  /// Why what was to be opened could not be, or not as wished, in one line.
+  void failed(const QString& message, const Talmesh::app::OpeningTask& task);
+
+private:
+  void load(OpeningTask task, const StudyJob& job);
+  void finish(const OpenedStudy& result);
+
+  Document& document;
+  LoadingBar& bar;
+  StudyLoader* loader;
+  OpeningTask current;
+};
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,47 @@
+#include "app/window/ViewMenu.h"
+
+#include "app/session/StyleNames.h"
+#include "app/window/PlotDock.h"
+
+#include <QCheckBox>
+
+namespace Talmesh::app
+{
+
+ViewMenu::ViewMenu(PlotDock& dock, QWidget* parent)
+    : QMenu(tr("&View"), parent)
+{
+  addSwitch(dock.linesSwitch(), tr("Lines or points"), tr("Ctrl+L"));
+  addSwitch(dock.legendSwitch(), tr("Legend"), tr("Ctrl+G"));
+  addSwitch(dock.logXSwitch(), tr("Logarithmic x axis"), tr("Ctrl+Shift+X"));
+  addSwitch(dock.logYSwitch(), tr("Logarithmic y axis"), tr("Ctrl+Shift+Y"));
+  addSeparator();
+  addStyles();
+  addSeparator();
+}
+
+void ViewMenu::addSwitch(QCheckBox* box, const QString& text, const QString& keys)
+{
+  addAction(text, box, &QCheckBox::click)->setShortcut(QKeySequence(keys));
+}
+
+void ViewMenu::addStyles()
+{
+  for (const StyleName& style : styleNames())
+  {
+    if (style.style == reservedStyle1 || style.style == reservedStyle2)
+      continue;
+    QAction* action = addAction(titleOf(style));
+    action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(static_cast<int>(style.style))));
+    connect(action, &QAction::triggered, this,
+            [this, value = style.style] { emit styleChosen(value); });
+  }
+}
+
+void ViewMenu::addPanel(QAction* toggle, Qt::Key key)
+{
+  toggle->setShortcut(QKeySequence(key));
+  addAction(toggle);
+}
+
+} // namespace Talmesh::app

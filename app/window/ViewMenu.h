@@ -1,0 +1,37 @@
+#ifndef ViewMenu_h
+#define ViewMenu_h
+
+#include "external/PlotStyles.h"
+
+#include <QMenu>
+
+class QCheckBox;
+
+namespace Talmesh::app
+{
+
+class PlotDock;
+
+/// The menu of how runs are shown: the switches of the plot's panel, and all styles.
+class ViewMenu : public QMenu
+{
+  Q_OBJECT
+
+public:
+  /// @param dock outlives the menu
+  explicit ViewMenu(PlotDock& dock, QWidget* parent = nullptr);
+
+  /// Adds what shows and hides a panel.
+  void addPanel(QAction* toggle, Qt::Key key);
+
+signals:
+  void styleChosen(plotStyles style);
+
+private:
+  void addSwitch(QCheckBox* box, const QString& text, const QString& keys);
+  void addStyles();
+};
+
+} // namespace Talmesh::app
+
+#endif
