@@ -1,52 +1,27 @@
 #include "vtk/CachedPoints.h"
 
+#include "vtk/CachedLogarithms.h"
 #include "vtk/PlotItemPainting.h"
 #include "vtk/PointPicking.h"
+#include "vtk/VtkCompat.h"
 
 #include <vtkAxis.h>
 #include <vtkContextMapper2D.h>
-#include <vtkDoubleArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkPoints2D.h>
 #include <vtkTable.h>
 #include <vtkUnsignedCharArray.h>
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 namespace Talmesh
 {
-namespace
-{
-constexpr double leastInFloat = std::numeric_limits<float>::min();
-constexpr double mostInFloat = std::numeric_limits<float>::max();
-
-bool isBeyondFloat(double value)
-{
-  const double magnitude = std::fabs(value);
-  return magnitude > 0.0 && (magnitude < leastInFloat || magnitude > mostInFloat);
-}
-
-/// @param logarithms every second value, of so many points; a column of several components has more
-/// values
-void calculateExtremeLogarithms(vtkDoubleArray* column, double shift, double scale,
-                                bool ofMagnitudes, vtkIdType points, float* logarithms)
-{
-  for (vtkIdType i = 0; i < std::min(points, column->GetNumberOfValues()); ++i)
-  {
-    const double value = (column->GetValue(i) + shift) * scale;
-    if (isBeyondFloat(value))
-      logarithms[2 * i] = static_cast<float>(std::log10(ofMagnitudes ? std::fabs(value) : value));
-  }
-}
-} // namespace
-
 void CachedPoints::Update()
 {
   vtkTable* const table = this->Data->GetInput();
   if (!this->Visible || !table)
+  {
+    this->vtkPlotPoints::Update();
     return;
+  }
   const ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility, this->Colors);
   const PointInputs inputs = this->Inputs();
   const bool current = this->Points && inputs == this->CachedInputs;
@@ -58,8 +33,25 @@ void CachedPoints::Update()
     this->MTime.Modified();
   this->vtkPlotPoints::Update();
   if (!current)
-    this->CalculateExtremeLogarithms();
+    this->CacheLogarithms();
   this->CachedInputs = inputs;
+}
+
+void CachedPoints::ReadPoints(vtkTable* table)
+{
+  const ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility, this->Colors);
+  this->vtkPlotPoints::TALMESH_VTK_UPDATE_CACHE(table);
+  this->CacheLogarithms();
+}
+
+vtkIdType CachedPoints::GetNearestPoint(const vtkVector2f& point, const vtkVector2f& tolerance,
+                                        vtkVector2f* location, vtkIdType* segmentId)
+{
+  const vtkIdType nearest =
+      this->vtkPlotPoints::GetNearestPoint(point, tolerance, location, segmentId);
+  if (nearest >= 0)
+    *location = placeOnAxes(this->Points, nearest, this->ShiftScale);
+  return nearest;
 }
 
 vtkIdTypeArray* CachedPoints::OwnSelection()
@@ -96,22 +88,12 @@ PointInputs CachedPoints::Inputs() const
   return inputs;
 }
 
-// VTK takes the logarithm of what single precision has left of a value.
-void CachedPoints::CalculateExtremeLogarithms()
+void CachedPoints::CacheLogarithms()
 {
   vtkDataArray* columns[2];
-  if (!(this->LogX || this->LogY) || !this->Points || this->Points->GetNumberOfPoints() == 0 ||
-      !this->GetDataArrays(this->Data->GetInput(), columns))
-    return;
-  const vtkIdType count = this->Points->GetNumberOfPoints();
-  auto* const points = static_cast<float*>(this->Points->GetVoidPointer(0));
-  auto* const x = vtkDoubleArray::SafeDownCast(columns[0]);
-  auto* const y = vtkDoubleArray::SafeDownCast(columns[1]);
-  if (this->LogX && x)
-    calculateExtremeLogarithms(x, this->ShiftScale.GetX(), this->ShiftScale.GetWidth(),
-                               this->XAxis->GetUnscaledMinimum() < 0.0, count, points);
-  if (this->LogY && y)
-    calculateExtremeLogarithms(y, this->ShiftScale.GetY(), this->ShiftScale.GetHeight(),
-                               this->YAxis->GetUnscaledMinimum() < 0.0, count, points + 1);
+  if ((this->LogX || this->LogY) && this->Points &&
+      this->GetDataArrays(this->Data->GetInput(), columns))
+    cacheLogarithms({this->Points, columns[0], columns[1], this->LogX ? this->XAxis : nullptr,
+                     this->LogY ? this->YAxis : nullptr, this->ShiftScale});
 }
 } // namespace Talmesh

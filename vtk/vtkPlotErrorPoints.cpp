@@ -35,8 +35,6 @@ void vtkPlotErrorPoints::Update()
   if (!this->Visible || !table)
     return;
   this->UpdateErrorCache(table);
-  const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
-                                     this->Colors);
   this->Superclass::Update();
 }
 

@@ -1,9 +1,9 @@
 #ifndef vtkPlotErrorPoints_h
 #define vtkPlotErrorPoints_h
 
+#include "vtk/CachedPoints.h"
 #include "vtk/VtkCompat.h"
 
-#include <vtkPlotPoints.h>
 #include <vtkStdString.h>
 #include <vtkWeakPointer.h>
 
@@ -22,11 +22,11 @@ class vtkFloatArray;
 ///     errorColumn->Register(nullptr); // released by the item's destructor
 ///
 /// A derived class can do so for its users by registering ErrorArray in its own destructor.
-class vtkPlotErrorPoints : public vtkPlotPoints
+class vtkPlotErrorPoints : public Talmesh::CachedPoints
 {
 public:
   static vtkPlotErrorPoints* New();
-  TALMESH_VTK_TYPE(vtkPlotErrorPoints, vtkPlotPoints);
+  TALMESH_VTK_TYPE(vtkPlotErrorPoints, Talmesh::CachedPoints);
   void PrintSelf(ostream& os, vtkIndent indent) override;
 
   /// Finds the error column again, then updates as vtkPlotPoints does. Does nothing when the item

@@ -59,8 +59,6 @@ vtkPlotStepLine::~vtkPlotStepLine()
 void vtkPlotStepLine::Update()
 {
   vtkTable* table = this->Data->GetInput();
-  const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
-                                     this->Colors);
   this->Superclass::Update();
   if (this->Visible && table)
     this->UpdateStepPointsCache(table);
@@ -69,11 +67,7 @@ void vtkPlotStepLine::Update()
 bool vtkPlotStepLine::UpdateStepPointsCache(vtkTable* table)
 {
   if (!this->Points)
-  {
-    const Talmesh::ColorsWithin colors(table, this->ColorArrayName, this->ScalarVisibility,
-                                       this->Colors);
-    this->TALMESH_VTK_UPDATE_CACHE(table);
-  }
+    this->ReadPoints(table);
   if (!this->StepPoints)
     this->StepPoints = vtkPoints2D::New();
   this->StepPoints->GetData()->SetNumberOfComponents(2);
@@ -86,7 +80,7 @@ bool vtkPlotStepLine::UpdateStepPointsCache(vtkTable* table)
   if (this->IsFilled)
   {
     // A chart with extreme ranges shifts and scales the points that it shows.
-    const vtkRectd shift = this->LogY ? vtkRectd(0, 0, 1, 1) : this->GetShiftScale();
+    const vtkRectd shift = this->GetShiftScale();
     const Ends ends{static_cast<float>(shift.GetY() * shift.GetHeight()),
                     static_cast<float>((1.0 + shift.GetY()) * shift.GetHeight())};
     fillStaircase(points->GetPointer(0), count, ends,

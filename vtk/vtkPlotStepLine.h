@@ -1,9 +1,8 @@
 #ifndef vtkPlotStepLine_h
 #define vtkPlotStepLine_h
 
+#include "vtk/CachedPoints.h"
 #include "vtk/VtkCompat.h"
-
-#include <vtkPlotPoints.h>
 
 class vtkPoints2D;
 
@@ -13,11 +12,11 @@ class vtkPoints2D;
 /// The staircase of the cached points (x0, y0) to (xn-1, yn-1) is (x0, 0), (x0, y0), then
 /// (xi, yi-1), (xi, yi) for every further point, then (xn-1, yn-1) again and (xn-1, 1). No markers
 /// are drawn. A series with a NaN or infinite coordinate is not drawn at all.
-class vtkPlotStepLine : public vtkPlotPoints
+class vtkPlotStepLine : public Talmesh::CachedPoints
 {
 public:
   static vtkPlotStepLine* New();
-  TALMESH_VTK_TYPE(vtkPlotStepLine, vtkPlotPoints);
+  TALMESH_VTK_TYPE(vtkPlotStepLine, Talmesh::CachedPoints);
 
   /// Updates the cached points as vtkPlotPoints does, then the staircase, whether or not the
   /// points changed.

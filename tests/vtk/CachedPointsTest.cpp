@@ -1,7 +1,10 @@
 #include "vtk/PointCloud.h"
 #include "vtk/vtkGuardedAxis.h"
+#include "vtk/vtkPlotErrorPoints.h"
 #include "vtk/vtkPlotInvisiblePoints.h"
 #include "vtk/vtkPlotLineSet.h"
+#include "vtk/vtkPlotSafeLine.h"
+#include "vtk/vtkPlotStepLine.h"
 
 #include <vtkPoints2D.h>
 
@@ -48,7 +51,8 @@ protected:
   vtkSmartPointer<Exposed<Item>> item = makeExposed<Exposed<Item>>();
 };
 
-using Items = ::testing::Types<Talmesh::PointCloud, vtkPlotInvisiblePoints, vtkPlotLineSet>;
+using Items = ::testing::Types<Talmesh::PointCloud, vtkPlotInvisiblePoints, vtkPlotLineSet,
+                               vtkPlotStepLine, vtkPlotErrorPoints, vtkPlotSafeLine>;
 TYPED_TEST_SUITE(CachedPoints, Items);
 
 TYPED_TEST(CachedPoints, FollowALogarithmicAxisThatItsDataAllowOrForbid)
@@ -80,9 +84,31 @@ TYPED_TEST(CachedPoints, HaveLogarithmsOfValuesBeyondSinglePrecision)
 TYPED_TEST(CachedPoints, HaveLogarithmsOfShiftedAndScaledValues)
 {
   this->y->SetLogScale(true);
-  this->item->SetShiftScale({0.0, 1e-60, 1.0, 100.0});
-  this->show({1, 2}, {9e-60, 1.0});
-  EXPECT_EQ(this->points(), (Points{{1.0F, -57.0F}, {2.0F, 2.0F}}));
+  this->item->SetShiftScale({0.0, 2.0, 1.0, 100.0});
+  this->show({1, 2}, {1e-60, 1.0});
+  EXPECT_EQ(this->points(), (Points{{1.0F, -5800.0F}, {2.0F, 200.0F}}));
+}
+
+TYPED_TEST(CachedPoints, HaveShiftedLogarithmsOfTheirIndices)
+{
+  this->x->SetLogScale(true);
+  this->item->SetUseIndexForXSeries(true);
+  this->item->SetShiftScale({0.5, 0.0, 2.0, 1.0});
+  this->show({5, 5}, {3, 4});
+  EXPECT_EQ(this->points()[1], (Point{1.0F, 4.0F}));
+}
+
+TYPED_TEST(CachedPoints, TellThePlaceOfTheNearestInUnitsOfTheAxes)
+{
+  this->x->SetLogScale(true);
+  this->item->SetShiftScale({-1.0, 5.0, 100.0, 10.0});
+  this->show({10, 100}, {1, 2});
+  vtkVector2f place;
+  vtkIdType segment = -1;
+  // the second point lies at ((2 - 1) * 100, (2 + 5) * 10)
+  ASSERT_EQ(this->item->GetNearestPoint({101, 69}, {5, 5}, &place, &segment), 1);
+  EXPECT_FLOAT_EQ(place.GetX(), 2);
+  EXPECT_FLOAT_EQ(place.GetY(), 2);
 }
 
 TYPED_TEST(CachedPoints, AreNoneOfATableWithoutRows)

@@ -3,77 +3,28 @@
 
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
-#include <vtkContext2D.h>
-#include <vtkContextScene.h>
-#include <vtkMatrix3x3.h>
-#include <vtkObjectFactory.h>
+#include <vtkContextMouseEvent.h>
+#include <vtkTooltipItem.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <string>
 
-#include "VtkTestSupport.h"
+#include "PlacedChart.h"
 
 /// Areas in a chart whose axes are so far from 1 that it shifts and scales its points.
 namespace
 {
-/// Records shapes where they come to lie on the screen.
-class PlacingDevice : public RecordingDevice
-{
-public:
-  static PlacingDevice* New();
-
-  void DrawPoly(float* points, int n, unsigned char* colors, int components) override
-  {
-    RecordingDevice::DrawPoly(place(points, n), n, colors, components);
-  }
-  void DrawQuad(float* points, int n) override { RecordingDevice::DrawQuad(place(points, n), n); }
-  void DrawQuadStrip(float* points, int n) override
-  {
-    RecordingDevice::DrawQuadStrip(place(points, n), n);
-  }
-
-private:
-  float* place(const float* points, int n)
-  {
-    vtkNew<vtkMatrix3x3> matrix;
-    GetMatrix(matrix);
-    placed.clear();
-    for (int i = 0; i < n; ++i)
-    {
-      const double point[3] = {points[2 * i], points[2 * i + 1], 1};
-      double end[3];
-      matrix->MultiplyPoint(point, end);
-      placed.insert(placed.end(), {static_cast<float>(end[0]), static_cast<float>(end[1])});
-    }
-    return placed.data();
-  }
-
-  std::vector<float> placed;
-};
-vtkStandardNewMacro(PlacingDevice);
-
-class ShiftedAreas : public ::testing::Test
+class ShiftedAreas : public PlacedChart
 {
 protected:
-  void SetUp() override
+  ShiftedAreas()
   {
-    device->setSize(400, 300);
-    painter->Begin(device);
-    scene->SetGeometry(400, 300);
-    scene->AddItem(chart);
     setAxis(vtkAxis::BOTTOM, 309, 311);
     setAxis(vtkAxis::LEFT, 1e-12, 2e-12);
     table->AddColumn(band());
-  }
-
-  void TearDown() override { painter->End(); }
-
-  void setAxis(int position, double minimum, double maximum)
-  {
-    vtkAxis* axis = chart->GetAxis(position);
-    axis->SetBehavior(vtkAxis::FIXED);
-    axis->SetUnscaledRange(minimum, maximum);
   }
 
   static vtkSmartPointer<vtkDoubleArray> band()
@@ -92,12 +43,7 @@ protected:
     plot->SetInputData(table, "x", y);
     plot->SetColor(10, 20, 30, 255);
     chart->AddPlot(plot);
-    // The first pass settles the axes, as the first frame on a screen does.
-    for (int pass = 0; pass < 2; ++pass)
-    {
-      device->clear();
-      scene->Paint(painter);
-    }
+    paintChart();
     const int* low = chart->GetPoint1();
     const int* high = chart->GetPoint2();
     Points corners;
@@ -115,10 +61,6 @@ protected:
   const RecordingDevice::Color own{10, 20, 30, 255};
   vtkSmartPointer<vtkTable> table =
       makeTable({{"x", {309, 310, 311}}, {"y", {1.25e-12, 1.5e-12, 1.75e-12}}});
-  vtkNew<PlacingDevice> device;
-  vtkNew<vtkContext2D> painter;
-  vtkNew<vtkContextScene> scene;
-  vtkNew<vtkChartXY> chart;
 };
 
 void expectNear(const Points& painted, const Points& expected)
@@ -168,4 +110,82 @@ TEST_F(ShiftedAreas, FollowLogarithmsThatTheChartShifts)
   EXPECT_NEAR(corners[0].first, 0, 1e-3);
   EXPECT_NEAR(corners[2].first, middle, 1e-3);
   EXPECT_NEAR(corners[4].first, 1, 1e-3);
+}
+
+TEST_F(ShiftedAreas, AreNamedWithTheirValueUnderTheMouse)
+{
+  table->AddColumn(makeColumn<vtkDoubleArray>("more", {0.25e-12, 0.25e-12, 0.25e-12}));
+  vtkNew<vtkPlotShiftedStack> stack;
+  stack->SetInputArray(2, "more");
+  paint(stack, "y", RecordingDevice::Kind::Quad);
+  const int* low = chart->GetPoint1();
+  const int* high = chart->GetPoint2();
+  const auto tooltipAt = [&](float x, float y)
+  {
+    vtkContextMouseEvent mouse;
+    const vtkVector2f place(low[0] + x * (high[0] - low[0]), low[1] + y * (high[1] - low[1]));
+    mouse.SetInteractor(nullptr);
+    mouse.SetButton(vtkContextMouseEvent::NO_BUTTON);
+    mouse.SetPos(place);
+    mouse.SetScenePos(place);
+    mouse.SetScreenPos(vtkVector2i(static_cast<int>(place.GetX()), static_cast<int>(place.GetY())));
+    chart->MouseMoveEvent(mouse);
+    return chart->GetTooltip()->GetVisible() ? std::string(chart->GetTooltip()->GetText()) : "";
+  };
+  EXPECT_EQ(tooltipAt(0.5f, 0.2f), "y: 310,  1.5e-12");
+  EXPECT_EQ(tooltipAt(0.5f, 0.6f), "more: 310,  1.75e-12");
+  EXPECT_EQ(tooltipAt(0.5f, 0.9f), "") << "above both";
+  EXPECT_EQ(stack->GetLabel(), "y");
+}
+
+TEST_F(ShiftedAreas, AreSelectedWhereTheyArePainted)
+{
+  vtkNew<vtkPlotShiftedStack> stack;
+  paint(stack, "y", RecordingDevice::Kind::Quad);
+  const vtkRectd moved = stack->GetShiftScale();
+  const auto cornerOf = [&](double x, double y)
+  {
+    return vtkVector2f(static_cast<float>((x + moved.GetX()) * moved.GetWidth()),
+                       static_cast<float>((y + moved.GetY()) * moved.GetHeight()));
+  };
+  ASSERT_TRUE(stack->SelectPoints(cornerOf(309.5, 1.4e-12), cornerOf(310.5, 1.6e-12)));
+  ASSERT_EQ(stack->GetSelection()->GetNumberOfValues(), 1);
+  EXPECT_EQ(stack->GetSelection()->GetValue(0), 1);
+}
+
+TEST_F(ShiftedAreas, ReachNoFurtherThanTheirAreas)
+{
+  vtkNew<vtkPlotShiftedStack> stack;
+  paint(stack, "y", RecordingDevice::Kind::Quad);
+  // what the plot before has left there
+  double bounds[4] = {-1e9, 1e9, -1e9, 1e9};
+  stack->GetBounds(bounds);
+  EXPECT_FLOAT_EQ(bounds[0], 309);
+  EXPECT_FLOAT_EQ(bounds[1], 311);
+  EXPECT_EQ(bounds[2], 0) << "they stand on it";
+  EXPECT_FLOAT_EQ(bounds[3] * 1e12, 1.75);
+}
+
+TEST_F(ShiftedAreas, HaveTheBoundsOfABagOnLogarithmicAxes)
+{
+  setAxis(vtkAxis::LEFT, 1e-12, 2e-9);
+  for (const int axis : {vtkAxis::LEFT, vtkAxis::BOTTOM})
+    chart->GetAxis(axis)->SetLogScale(true);
+  for (const char* column : {"band", "y"})
+  {
+    vtkNew<vtkPlotShiftedBag> bag;
+    paint(bag, column, RecordingDevice::Kind::QuadStrip);
+    const bool isLine = column[0] == 'y';
+    double bounds[4];
+    bag->GetUnscaledInputBounds(bounds);
+    EXPECT_EQ(bounds[0], 309);
+    EXPECT_EQ(bounds[1], 311);
+    EXPECT_DOUBLE_EQ(bounds[2], isLine ? 1.25e-12 : 1e-12);
+    EXPECT_DOUBLE_EQ(bounds[3], isLine ? 1.75e-12 : 2e-12);
+    bag->GetBounds(bounds);
+    EXPECT_DOUBLE_EQ(bounds[0], std::log10(309));
+    EXPECT_DOUBLE_EQ(bounds[1], std::log10(311));
+    EXPECT_DOUBLE_EQ(bounds[2], std::log10(isLine ? 1.25e-12 : 1e-12));
+    EXPECT_DOUBLE_EQ(bounds[3], std::log10(isLine ? 1.75e-12 : 2e-12));
+  }
 }
