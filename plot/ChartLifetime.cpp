@@ -9,12 +9,51 @@
 
 #include <QCoreApplication>
 #include <QMetaObject>
+#include <QPointer>
+
+#include <utility>
+#include <vector>
 
 namespace Talmesh::plot
 {
 
 namespace
 {
+
+using ChartShelf = std::vector<vtkSmartPointer<vtkObjectBase>>;
+
+/// Charts of all containers, also of those that are gone, that may still run a handler.
+ChartShelf& shelf()
+{
+  static ChartShelf charts;
+  return charts;
+}
+
+/// Not in place: who watches a chart may draw when it goes.
+void emptyShelf()
+{
+  ChartShelf().swap(shelf());
+}
+
+/// Frees the charts once control is back in the event loop, or when there will be none any more. A
+/// handler that runs an event loop of its own is still using what it has set aside.
+void freeFromEventLoop(QCoreApplication* application)
+{
+  static QPointer<QCoreApplication> asked;
+  static QPointer<QCoreApplication> watched;
+  if (watched != application)
+    QObject::connect(application, &QObject::destroyed, &emptyShelf);
+  watched = application;
+  if (asked == application)
+    return;
+  asked = application;
+  const auto free = []
+  {
+    asked = nullptr;
+    freeChartsSetAside();
+  };
+  QMetaObject::invokeMethod(application, free, Qt::QueuedConnection);
+}
 
 bool isMatrixCell(const PlotState& state)
 {
@@ -75,7 +114,7 @@ void forgetScene(PlotState& state, vtkContextScene* scene)
     if (chart && chart->GetScene() == scene)
       chart->SetScene(nullptr);
   }
-  for (vtkObjectBase* object : *state.setAside)
+  for (vtkObjectBase* object : shelf())
   {
     auto* chart = vtkAbstractContextItem::SafeDownCast(object);
     if (chart && chart->GetScene() == scene)
@@ -86,7 +125,7 @@ void forgetScene(PlotState& state, vtkContextScene* scene)
 void releaseChartXY(PlotState& state)
 {
   if (state.chartXY)
-    setAside(state, state.chartXY);
+    setAside(state.chartXY);
   state.chartXY = nullptr;
 }
 
@@ -99,7 +138,7 @@ void resetChartMatrix(PlotState& state, int columns, int rows)
     releaseChartXY(state);
   state.chartMatrix->SetSize(vtkVector2i(0, 0));
   state.chartMatrix->ClearSpecificResizes();
-  retireCells(state, dropped, state.chartMatrix->GetScene());
+  retireCells(dropped, state.chartMatrix->GetScene());
   state.chartMatrix->SetSize(vtkVector2i(columns, rows));
 }
 
@@ -111,13 +150,13 @@ ChartCells cellsOf(vtkChartMatrix* matrix)
   return cells;
 }
 
-void retireCells(PlotState& state, const ChartCells& cells, vtkContextScene* scene)
+void retireCells(const ChartCells& cells, vtkContextScene* scene)
 {
   for (const auto& cell : cells)
   {
     // Removal took the chart out of its scene, but a handler that is still running in it needs one.
     cell->SetScene(scene);
-    setAside(state, cell);
+    setAside(cell);
   }
 }
 
@@ -143,26 +182,19 @@ void adoptCell(PlotState& state, int column, int row)
   applyChartLooks(state);
 }
 
-void setAside(PlotState& state, vtkSmartPointer<vtkObjectBase> object)
+void setAside(vtkSmartPointer<vtkObjectBase> object)
 {
   QCoreApplication* application = QCoreApplication::instance();
   if (!application)
     return;
-  state.setAside->push_back(std::move(object));
-  // The call holds the shelf, which so outlives a container that ends in a handler. A handler that
-  // runs an event loop of its own is still using what it has set aside.
-  const auto emptyShelf = [shelf = state.setAside]
-  {
-    if (!HandlerScope::isOpen())
-      ChartShelf().swap(*shelf);
-  };
-  QMetaObject::invokeMethod(application, emptyShelf, Qt::QueuedConnection);
+  shelf().push_back(std::move(object));
+  freeFromEventLoop(application);
 }
 
-void freeChartsSetAside(PlotState& state)
+void freeChartsSetAside()
 {
   if (!HandlerScope::isOpen())
-    ChartShelf().swap(*state.setAside);
+    emptyShelf();
 }
 
 } // namespace Talmesh::plot

@@ -52,7 +52,7 @@ ChartCells cellsOf(vtkChartMatrix* matrix);
 
 /// Sets cells aside that their matrix has dropped, usable as before.
 /// @param scene the scene in which they were
-void retireCells(PlotState& state, const ChartCells& cells, vtkContextScene* scene);
+void retireCells(const ChartCells& cells, vtkContextScene* scene);
 
 /// Releases an XY chart that was built from Sobol results: its axes and legend fit nothing else.
 void leaveSobolChart(PlotState& state);
@@ -65,13 +65,13 @@ bool showsSelectableRows(const PlotState& state);
 void adoptCell(PlotState& state, int column, int row);
 
 /// Keeps `object` alive until control returns to the event loop, or until freeChartsSetAside(): a
-/// redraw can run inside a mouse handler of the very chart that it replaces. Without a running
-/// application there is no such handler and nothing is kept.
-void setAside(PlotState& state, vtkSmartPointer<vtkObjectBase> object);
+/// redraw can run inside a mouse handler of the very chart that it replaces, and the handler can
+/// end the container. Without a running application there is no such handler and nothing is kept.
+void setAside(vtkSmartPointer<vtkObjectBase> object);
 
-/// Frees what is set aside unless a handler of a chart is running. Programs that draw often and
-/// seldom return to the event loop would keep every chart otherwise.
-void freeChartsSetAside(PlotState& state);
+/// Frees what any container has set aside unless a handler of a chart is running. Programs that
+/// draw often and seldom return to the event loop would keep every chart otherwise.
+void freeChartsSetAside();
 
 } // namespace Talmesh::plot
 

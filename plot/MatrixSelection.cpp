@@ -10,6 +10,22 @@
 namespace Talmesh::plot
 {
 
+class MatrixSelection::Showing
+{
+public:
+  explicit Showing(bool& isShowing)
+      : showing(isShowing)
+  {
+    showing = true;
+  }
+  ~Showing() { showing = false; }
+  Showing(const Showing&) = delete;
+  Showing& operator=(const Showing&) = delete;
+
+private:
+  bool& showing;
+};
+
 MatrixSelection::~MatrixSelection()
 {
   watch(nullptr);
@@ -29,9 +45,8 @@ void MatrixSelection::show(vtkSelection* selection)
 {
   if (!link)
     return;
-  showing = true;
+  const Showing now(showing);
   link->SetCurrentSelection(copySelection(selection));
-  showing = false;
 }
 
 void MatrixSelection::announce()

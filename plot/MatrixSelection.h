@@ -25,7 +25,8 @@ public:
 
   /// Watches the link of a matrix, not kept alive, instead of the one watched so far.
   void watch(vtkAnnotationLink* ofMatrix);
-  /// Shows a copy of `selection`, which may be null, in the matrix, without announcing it.
+  /// Shows a copy of `selection`, which may be null, in the matrix, without announcing it, also
+  /// when somebody who watches the matrix throws.
   void show(vtkSelection* selection);
 
   /// Called with the matrix's own selection, which may be null, whenever somebody else than show()
@@ -33,6 +34,8 @@ public:
   std::function<void(vtkSelection*)> selected;
 
 private:
+  class Showing;
+
   void announce();
 
   vtkWeakPointer<vtkAnnotationLink> link;

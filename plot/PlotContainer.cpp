@@ -99,8 +99,10 @@ PlotContainer::~PlotContainer()
     d->chartXY->RemoveObserver(d->shiftScaleCallback);
   // A container can die inside a mouse handler of its own charts.
   if (d->currentChart)
-    Talmesh::plot::setAside(*d, d->currentChart);
+    Talmesh::plot::setAside(d->currentChart);
   delete d->metaData;
+  d.reset();
+  Talmesh::plot::freeChartsSetAside();
 }
 
 void PlotContainer::connectParts()

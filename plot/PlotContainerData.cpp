@@ -121,14 +121,20 @@ void PlotContainer::example()
 void PlotContainer::setSimpleXYPlot(std::vector<double>& x, std::vector<double>& y,
                                     std::vector<double>& error)
 {
-  Talmesh::plot::blockSettings(*d);
-  if (!Talmesh::plot::setSimpleTable(*d, x, y, error))
-    return;
-  setLineWidth(1.0);
-  setPointSize(2.0);
-  setMarkerStyle(3);
-  drawOrReport();
-  Talmesh::plot::unblockSettings(*d);
+  const auto draw = [&]
+  {
+    const Talmesh::plot::SettingsSilence silence(*d);
+    if (!Talmesh::plot::setSimpleTable(*d, x, y, error))
+      return false;
+    setLineWidth(1.0);
+    setPointSize(2.0);
+    setMarkerStyle(3);
+    drawOrReport();
+    return true;
+  };
+  // Series that do not fit leave them silent.
+  if (!draw())
+    Talmesh::plot::blockSettings(*d);
 }
 
 QStringList PlotContainer::getLabels() const

@@ -46,8 +46,6 @@ class vtkShiftScaleCallback;
 namespace Talmesh::plot
 {
 
-/// Charts that are replaced but may still run a handler.
-using ChartShelf = std::vector<vtkSmartPointer<vtkObjectBase>>;
 using CoordinateWindows = boost::unordered_map<ReducedMetaData, CoordinateWindow>;
 
 /// Everything that a PlotContainer knows. The container owns one; builders and operations are free
@@ -137,8 +135,6 @@ struct PlotState
   vtkWeakPointer<vtkChartXY> sobolChart;
   /// The table last made of Sobol results or of a distribution.
   vtkWeakPointer<vtkTable> tableOfResults;
-  /// Never null; shared with the event loop, which empties it.
-  std::shared_ptr<ChartShelf> setAside = std::make_shared<ChartShelf>();
   /// Whether a redraw leaves the scatter-plot matrix the pair that the user chose.
   bool keepsScatterPair = false;
   /// Counts the redraws completed, so that a drawing notices when one ran inside it. One that an

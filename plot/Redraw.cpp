@@ -65,7 +65,7 @@ void prepare(PlotState& state)
 /// @return whether a page was drawn; otherwise the container may be gone
 bool draw(PlotState& state)
 {
-  freeChartsSetAside(state);
+  freeChartsSetAside();
   if (cutSelection(state))
     return false;
   blockSettings(state);

@@ -12,6 +12,7 @@
 #include <vtkIdTypeArray.h>
 #include <vtkNew.h>
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -72,15 +73,43 @@ Names takeMarkers(vtkTable* table)
   return taken;
 }
 
-/// The filter writes no markers when nothing is selected. Plots keep those that they had seen
-/// unless the column is there.
-void restoreMarkers(vtkTable* table, const Names& taken)
+/// Markers of the selection before that are away while runs are split. The filter writes none when
+/// nothing is selected, and none when it fails: plots keep those that they had seen unless the
+/// columns are there.
+class MarkersAway
 {
-  const auto rows = static_cast<std::size_t>(table->GetNumberOfRows());
-  for (const std::string& name : taken)
-    if (!columnNamed(table, name))
-      table->AddColumn(makeIdColumn(name.c_str(), std::vector<vtkIdType>(rows, 0)));
-}
+public:
+  explicit MarkersAway(vtkTable* plotTable)
+      : table(plotTable)
+      , taken(takeMarkers(plotTable))
+  {
+  }
+  ~MarkersAway()
+  {
+    try
+    {
+      restore();
+    }
+    catch (const std::bad_alloc&)
+    {
+      // Without memory for them the next split that succeeds makes them.
+    }
+  }
+  MarkersAway(const MarkersAway&) = delete;
+  MarkersAway& operator=(const MarkersAway&) = delete;
+
+private:
+  void restore()
+  {
+    const auto rows = static_cast<std::size_t>(table->GetNumberOfRows());
+    for (const std::string& name : taken)
+      if (!columnNamed(table, name))
+        table->AddColumn(makeIdColumn(name.c_str(), std::vector<vtkIdType>(rows, 0)));
+  }
+
+  vtkSmartPointer<vtkTable> table;
+  Names taken;
+};
 
 } // namespace
 
@@ -96,7 +125,7 @@ int timeColumnOf(const PlotState& state)
 
 RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
 {
-  const Names taken = takeMarkers(state.table);
+  const MarkersAway away(state.table);
   const std::vector<int>& parameters = state.metaData->parameterColumns;
   vtkNew<vtkCombinedFilterAndSelectedRows> filter;
   filter->ParameterColumns = parameters;
@@ -108,7 +137,6 @@ RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
   filter->SetTimeColumnIndex(timeColumnOf(state));
   filter->SetStride(state.metaData->getStride());
   filter->Update();
-  restoreMarkers(state.table, taken);
   RunSplit split;
   split.selected = vtkSmartPointer<vtkTable>::New();
   split.selected->ShallowCopy(filter->GetOutput(0));

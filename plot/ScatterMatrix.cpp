@@ -120,7 +120,7 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   state.matrixSelection.show(state.annotationLink->GetCurrentSelection());
 
   showColumns(state, columnsToShow(state));
-  retireCells(state, dropped, scene);
+  retireCells(dropped, scene);
   const bool limited = state.metaData->getLimitColumVisibility();
   const bool mayKeepPair = shown && (state.keepsScatterPair || !limited);
   if (mayKeepPair && sameNames(namesBefore, state.scatterPlotMatrix->GetVisibleColumns()))
@@ -142,7 +142,7 @@ void feedScatterMatrixFrom(PlotState& state, vtkTable* copy)
   const ChartCells dropped = cellsOf(matrix);
   matrix->SetInput(withoutInfinities(copy));
   showColumns(matrix, names);
-  retireCells(state, dropped, matrix->GetScene());
+  retireCells(dropped, matrix->GetScene());
   activateAgain(matrix, active);
 }
 

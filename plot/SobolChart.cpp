@@ -149,7 +149,7 @@ void addBars(PlotState& state, bool total)
 
 void buildSobolChart(PlotState& state, bool total)
 {
-  freeChartsSetAside(state);
+  freeChartsSetAside();
   releaseChartXY(state);
   state.chartXY = makeXYChart(state);
   state.currentChart = state.chartXY;

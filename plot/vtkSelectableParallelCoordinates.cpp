@@ -1,5 +1,6 @@
 #include "plot/vtkSelectableParallelCoordinates.h"
 
+#include "plot/HandlerScope.h"
 #include "plot/LostColumns.h"
 #include "plot/SelectionModes.h"
 
@@ -58,6 +59,7 @@ vtkIdType vtkSelectableParallelCoordinates::RowsNow()
 
 bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
 {
+  const Talmesh::plot::HandlerScope running;
   if (!HasColumns())
     GetPlot(0)->SetVisible(false);
   if (AnnotationLink && AnnotationLink->GetMTime() > Shown)
@@ -100,6 +102,7 @@ bool vtkSelectableParallelCoordinates::IsOverAxis(const vtkContextMouseEvent& mo
 
 bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)
 {
+  const Talmesh::plot::HandlerScope running;
   const bool selects = mouse.GetButton() == Actions.Select();
   Brushing = selects && IsOverAxis(mouse);
   if (Brushing)
@@ -113,6 +116,7 @@ bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMou
 
 bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
 {
+  const Talmesh::plot::HandlerScope running;
   if (!Scene)
     return true;
   vtkPlot* plot = GetPlot(0);

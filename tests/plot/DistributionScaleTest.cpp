@@ -67,4 +67,13 @@ TEST_F(DistributionScale, IsThatOfANewChartForOtherData)
   EXPECT_TRUE(left()->GetLogScaleActive());
 }
 
+TEST_F(DistributionScale, EndsWhereTheDensityEnds)
+{
+  UniformDistribution far(100.0, 101.0);
+  container.setDistribution(&far);
+  scene.render(container);
+  EXPECT_GE(bottom()->GetMinimum(), 99.0) << "zero would leave a thin spike";
+  EXPECT_LE(bottom()->GetMaximum(), 102.0);
+}
+
 } // namespace

@@ -90,4 +90,20 @@ TEST_F(InfiniteValues, HideNoAxisOfParallelCoordinates)
   EXPECT_LE(chart->GetAxis(1)->GetMaximum(), 10);
 }
 
+TEST_F(InfiniteValues, AreNotNeededToPaintTheLargestNumbersInParallelCoordinates)
+{
+  container.setPlotData(tableOf({{"a", {0, 1, 2, 3}},
+                                 {"high", {1e308, 1.2e308, 1.5e308, 1.75e308}},
+                                 {"wide", {-1.75e308, 0.0, 1e308, 1.75e308}}}));
+  settings().yColumns = {};
+  drawStyle(parallelCoordinates);
+  expectSoundPicture(scene, container);
+  const int painted = scene.paintedPixels();
+  container.setPlotData(
+      tableOf({{"a", {0, 1, 2, 3}}, {"high", {1, 1.2, 1.5, 1.75}}, {"wide", {-1.75, 0, 1, 1.75}}}));
+  container.redraw();
+  scene.render(container);
+  EXPECT_GT(painted, scene.paintedPixels() / 2) << "no fewer lines than of other values";
+}
+
 } // namespace

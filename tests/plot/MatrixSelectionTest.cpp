@@ -19,6 +19,7 @@
 
 #include <memory>
 #include <set>
+#include <stdexcept>
 #include <vector>
 
 using SampleRuns::selectedRows;
@@ -126,6 +127,17 @@ TEST_F(MatrixSelection, FollowsTheContainersWithoutAnEcho)
   ASSERT_EQ(shown->GetNumberOfNodes(), 1U);
   EXPECT_EQ(valuesOf(shown->GetNode(0)->GetSelectionList()), Values({3, 4}));
   EXPECT_NE(shown, link()->GetCurrentSelection());
+}
+
+TEST_F(MatrixSelection, IsForwardedAgainAfterAnObserverHasThrown)
+{
+  vtkNew<Reaction> throwing;
+  throwing->react = [] { throw std::runtime_error("not now"); };
+  matrixLink(plot.container)->AddObserver(vtkCommand::AnnotationChangedEvent, throwing);
+  EXPECT_THROW(plot.container.redraw(), std::runtime_error);
+  matrixLink(plot.container)->RemoveObserver(throwing);
+  selectInMatrix({1, 2});
+  EXPECT_EQ(selectedRows(plot.container), Rows({1, 2}));
 }
 
 TEST_F(MatrixSelection, OfACopiedContainerIsItsOwn)

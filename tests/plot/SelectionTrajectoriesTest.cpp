@@ -109,4 +109,26 @@ TEST_F(SelectionTrajectories, TitlesTheTrajectories)
   EXPECT_EQ(container.getChartXY()->GetAxis(vtkAxis::LEFT)->GetTitle(), "A");
 }
 
+TEST_F(SelectionTrajectories, KeepALogarithmicAxisThroughBandsOfSmallValues)
+{
+  draw(3);
+  vtkTable* table = container.getTable();
+  for (vtkIdType row = 0; row < table->GetNumberOfRows(); ++row)
+    table->SetValue(row, 0, 0.001 * static_cast<double>(row + 1));
+  table->GetColumn(0)->Modified();
+  container.generateQuartiles();
+  settings().setShowQuantiles(true);
+  container.setLogScaleY(true);
+  for (int painted = 0; painted < 3; ++painted)
+  {
+    container.redraw();
+    scene.render(container);
+    scene.render(container);
+    vtkAxis* left = container.getChartXY()->GetAxis(vtkAxis::LEFT);
+    ASSERT_TRUE(left->GetLogScaleActive());
+    EXPECT_NEAR(left->GetMinimum(), -3.0, 0.1);
+    EXPECT_NEAR(left->GetMaximum(), -1.0, 0.1);
+  }
+}
+
 } // namespace

@@ -4,12 +4,14 @@
 #include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "support/CapturedOutput.h"
+#include "support/Reaction.h"
 #include "support/SampleRuns.h"
 #include "support/SilentSettings.h"
 
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
 #include <vtkAnnotationLink.h>
+#include <vtkCommand.h>
 #include <vtkIdTypeArray.h>
 #include <vtkObject.h>
 #include <vtkSelection.h>
@@ -19,6 +21,7 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -118,6 +121,23 @@ TEST(SelectionUpdate, KeepsOneMarkerColumnOfEachName)
   for (vtkIdType row = 0; row < 12; ++row)
     select(plot.container, {row});
   EXPECT_EQ(plot.container.getTable()->GetNumberOfColumns(), columns);
+}
+
+TEST(SelectionUpdate, KeepsTheMarkerColumnsWhenTheSplitFails)
+{
+  SampleRuns::Plot plot(SampleRuns::runs(4, 3));
+  vtkAnnotationLink* link = plot.container.getAnnotationLink();
+  select(plot.container, {0});
+  const vtkIdType columns = plot.container.getTable()->GetNumberOfColumns();
+  const CapturedOutput output(std::cerr);
+  vtkNew<Reaction> throwing;
+  throwing->react = [] { throw std::runtime_error("no memory"); };
+  link->AddObserver(vtkCommand::StartEvent, throwing);
+  select(plot.container, {3});
+  link->RemoveObserver(throwing);
+  EXPECT_NE(output.text().find("no memory"), std::string::npos);
+  ASSERT_EQ(plot.container.getTable()->GetNumberOfColumns(), columns);
+  EXPECT_EQ(valuesOf(plot.container.getTable(), "vtkRemainderSelection"), Values(12, 0.0));
 }
 
 TEST(SelectionUpdate, AddsNoTablesForAnEmptySelectionButDraws)

@@ -129,4 +129,68 @@ TEST_F(SetAsideCharts, OutliveTheDrawingsOfTheirOwnMouseHandler)
   EXPECT_EQ(watched, nullptr);
 }
 
+/// Counts charts, by what they say when they go.
+class CountedCharts
+{
+public:
+  CountedCharts()
+  {
+    reaction->react = [this] { ++gone; };
+  }
+
+  void watch(vtkObject* chart)
+  {
+    if (chart->HasObserver(vtkCommand::DeleteEvent, reaction))
+      return;
+    chart->AddObserver(vtkCommand::DeleteEvent, reaction);
+    ++seen;
+  }
+
+  int seen = 0;
+  int gone = 0;
+
+private:
+  vtkNew<Reaction> reaction;
+};
+
+TEST(ChartsOfDeadContainers, AreFreedWithoutAnEventLoop)
+{
+  PlotScene scene;
+  CountedCharts charts;
+  for (int i = 0; i < 60; ++i)
+  {
+    PlotContainer container(nullptr);
+    container.setPlotData(plainTable());
+    container.setScene(scene.scene());
+    for (const plotStyles style : {xyPlot, xyzPlot, xyPlot, multiPlot, scatterPlotMatrix})
+    {
+      container.setPlotStyle(style);
+      container.redraw();
+      charts.watch(container.getItem());
+      if (container.getChartXY())
+        charts.watch(container.getChartXY());
+    }
+  }
+  scene.scene()->ClearItems();
+  EXPECT_GE(charts.seen, 60 * 4);
+  EXPECT_EQ(charts.gone, charts.seen);
+}
+
+TEST(ChartsOfDeadContainers, LiveOnUntilTheHandlerEndsAndAnotherDraws)
+{
+  PlotScene scene;
+  PlotContainer other(nullptr);
+  other.setPlotData(plainTable());
+  other.setScene(scene.scene());
+  vtkWeakPointer<vtkChartXY> chart;
+  {
+    const Talmesh::plot::HandlerScope running;
+    PlotContainer container(nullptr);
+    chart = container.getChartXY();
+  }
+  EXPECT_NE(chart, nullptr);
+  other.redraw();
+  EXPECT_EQ(chart, nullptr);
+}
+
 } // namespace

@@ -1,7 +1,10 @@
+#include "plot/SelectionNodes.h"
 #include "support/CapturedOutput.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
+#include "support/Reaction.h"
 
+#include <vtkCommand.h>
 #include <vtkFloatArray.h>
 #include <vtkPlotPoints.h>
 
@@ -148,6 +151,20 @@ TEST_F(SimplePlots, UnblockTheSettingsThatWereBlockedBefore)
 {
   settings().blockSignals(true);
   container.setSimpleXYPlot(x, y, none);
+  EXPECT_FALSE(settings().signalsBlocked());
+}
+
+TEST_F(SimplePlots, UnblockTheSettingsAlsoWhereADrawingIsLeftByAnException)
+{
+  // Cut by the drawing, which whoever watches the selection hears.
+  const vtkSmartPointer<vtkAnnotationLink> link = container.getAnnotationLink();
+  link->SetCurrentSelection(Talmesh::plot::makeRowSelection({3}));
+  vtkNew<Reaction> throwing;
+  throwing->react = [] { throw 7; };
+  link->AddObserver(vtkCommand::AnnotationChangedEvent, throwing);
+  settings().blockSignals(true);
+  EXPECT_THROW(container.setSimpleXYPlot(x, y, none), int);
+  link->RemoveObserver(throwing);
   EXPECT_FALSE(settings().signalsBlocked());
 }
 
