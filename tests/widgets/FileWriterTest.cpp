@@ -3,6 +3,7 @@
 #include "support/Devices.h"
 #include "support/DiskFaults.h"
 #include "support/FullDisk.h"
+#include "support/PipeReader.h"
 
 #include <gtest/gtest.h>
 
@@ -52,18 +53,7 @@ protected:
   {
     const QByteArray file = QFile::encodeName(path(name));
     EXPECT_EQ(mkfifo(file.constData(), 0600), 0);
-    return std::async(std::launch::async,
-                      [file]
-                      {
-                        QByteArray all;
-                        const int pipe = open(file.constData(), O_RDONLY);
-                        char bytes[4096];
-                        ssize_t got = 0;
-                        while ((got = read(pipe, bytes, sizeof bytes)) > 0)
-                          all.append(bytes, static_cast<int>(got));
-                        close(pipe);
-                        return all;
-                      });
+    return readingPipe(file);
   }
 
   bool isPipe(const char* name) const
