@@ -2,6 +2,7 @@
 #include "app/document/ShownStudy.h"
 #include "app/examples/ExampleStudy.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/DerivedTables.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotState.h"
@@ -99,7 +100,7 @@ void estimate(std::vector<double>& sources, std::vector<double>& targets, double
 
 void addDataSet(PlotContainer& container, const vtkSmartPointer<vtkTable>& rows)
 {
-  auto& tables = container.state().derivedTables;
+  auto& tables = stateOf(container).derivedTables;
   tables.push_back(rows);
   container.generateRankedParameters(rows, tables.size());
 }
@@ -113,7 +114,7 @@ void selectionStages(benchmark::State& state)
   window.showComparison(static_cast<int>(state.range(0)));
   window.paint(true);
   PlotContainer& container = window.container;
-  PlotContainer*& reacting = container.state().selectionUpdateCallback->Container;
+  PlotContainer*& reacting = stateOf(container).selectionUpdateCallback->Container;
   int choice = 0;
   for (auto _ : state)
   {
@@ -123,11 +124,11 @@ void selectionStages(benchmark::State& state)
     window.select(++choice);
     reacting = &container;
     std::optional<Talmesh::KeptMemory> ofPartsBefore(std::in_place);
-    container.state().derivedTables.resize(Talmesh::plot::ownSlots);
+    stateOf(container).derivedTables.resize(Talmesh::plot::ownSlots);
     Talmesh::plot::RunSplit split;
     measure(state, "split",
             [&] {
-              split = Talmesh::plot::splitRuns(container.state(), container.getAnnotationLink());
+              split = Talmesh::plot::splitRuns(stateOf(container), container.getAnnotationLink());
             });
     measure(state, "ranks and densities",
             [&]
@@ -147,7 +148,7 @@ void selectionStages(benchmark::State& state)
             [&]
             {
               container.ksTestSelection(rankSlot(1), rankSlot(2));
-              Talmesh::plot::alignResults(container.state(), rankSlot(1));
+              Talmesh::plot::alignResults(stateOf(container), rankSlot(1));
             });
     measure(state, "charts", [&] { container.redraw(); });
     measure(state, "table",
@@ -166,7 +167,7 @@ void releaseToPicture(benchmark::State& state)
   window.select(0);
   window.paint(true);
   PlotContainer& container = window.container;
-  PlotContainer*& reacting = container.state().selectionUpdateCallback->Container;
+  PlotContainer*& reacting = stateOf(container).selectionUpdateCallback->Container;
   int choice = 0;
   for (auto _ : state)
   {

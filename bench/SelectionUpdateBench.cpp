@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
 
@@ -23,7 +24,7 @@ void selectionSplit(benchmark::State& state)
   ShownStudy study(static_cast<int>(state.range(0)), xyPlot);
   study.container.getAnnotationLink()->SetCurrentSelection(study.quarterOfTheRuns());
   for (auto _ : state)
-    Talmesh::plot::splitRuns(study.container.state(), study.container.getAnnotationLink());
+    Talmesh::plot::splitRuns(stateOf(study.container), study.container.getAnnotationLink());
   state.SetComplexityN(state.range(0));
 }
 BENCHMARK(selectionSplit)->Apply(runCounts)->Complexity();

@@ -1,4 +1,4 @@
-# Installs the library, its headers in the folders of the tree, the CMake package and the viewer.
+# Installs the library, its public headers in the folders of the tree, the CMake package and the viewer.
 include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/TalmeshPlot)
 
@@ -6,10 +6,10 @@ install(TARGETS talmeshplot EXPORT TalmeshPlotTargets)
 if(TARGET talmesh-plot)
   install(TARGETS talmesh-plot)
 endif()
-install(DIRECTORY external stats vtk plot widgets
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/talmeshplot
-  FILES_MATCHING PATTERN "*.h"
-  PATTERN widgets/designer EXCLUDE)
+foreach(header IN LISTS TALMESH_PUBLIC_HEADERS)
+  get_filename_component(folder ${header} DIRECTORY)
+  install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/talmeshplot/${folder})
+endforeach()
 
 install(EXPORT TalmeshPlotTargets NAMESPACE Talmesh:: DESTINATION ${package_folder})
 configure_package_config_file(cmake/TalmeshPlotConfig.cmake.in TalmeshPlotConfig.cmake

@@ -1,10 +1,12 @@
 #ifndef Distribution_h
 #define Distribution_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <utility>
 
 /// A probability distribution of one parameter.
-class Distribution
+class TALMESHPLOT_EXPORT Distribution
 {
 public:
   /// The kinds provided here. Other subclasses may return any other int.
@@ -37,7 +39,7 @@ protected:
 };
 
 /// Constant density on [lo, hi].
-class UniformDistribution : public Distribution
+class TALMESHPLOT_EXPORT UniformDistribution : public Distribution
 {
 public:
   /// @throws std::invalid_argument unless lo < hi and both bounds and their distance are finite.
@@ -53,7 +55,7 @@ private:
 };
 
 /// The logarithm is uniform: density 1 / (x ln(hi / lo)) on [lo, hi].
-class LogUniformDistribution : public Distribution
+class TALMESHPLOT_EXPORT LogUniformDistribution : public Distribution
 {
 public:
   /// @throws std::invalid_argument unless 0 < lo, hi is finite and ln lo < ln hi as doubles.
@@ -69,7 +71,7 @@ private:
 };
 
 /// The normal distribution with the given mean and standard deviation.
-class NormalDistribution : public Distribution
+class TALMESHPLOT_EXPORT NormalDistribution : public Distribution
 {
 public:
   /// @throws std::invalid_argument unless mean is finite and sd is finite and positive.
@@ -86,7 +88,7 @@ private:
 };
 
 /// All probability on one value.
-class PointMassDistribution : public Distribution
+class TALMESHPLOT_EXPORT PointMassDistribution : public Distribution
 {
 public:
   /// @throws std::invalid_argument unless value is finite.

@@ -1,12 +1,13 @@
 #ifndef FitSettings_h
 #define FitSettings_h
 
-#include "external/TypedConcentrationName.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../external/TypedConcentrationName.h"
 
 #include <vector>
 
 /// What was fitted and how. The outer index of the nested vectors is the fitted output.
-class FitSettings
+class TALMESHPLOT_EXPORT FitSettings
 {
 public:
   /// dataKind() of time-course data.

@@ -1,7 +1,7 @@
 #ifndef LinePlotData_h
 #define LinePlotData_h
 
-#include "external/TypedConcentrationName.h"
+#include "../external/TypedConcentrationName.h"
 
 #include <boost/functional/hash.hpp>
 #include <boost/unordered_map.hpp>

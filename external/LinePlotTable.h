@@ -1,7 +1,7 @@
 #ifndef LinePlotTable_h
 #define LinePlotTable_h
 
-#include "external/TypedConcentrationName.h"
+#include "../external/TypedConcentrationName.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,8 +1,9 @@
 #ifndef PlotMetaData_h
 #define PlotMetaData_h
 
-#include "external/CoordinateWindow.h"
-#include "external/PlotStyles.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../external/CoordinateWindow.h"
+#include "../external/PlotStyles.h"
 
 #include <QObject>
 
@@ -53,7 +54,7 @@ struct PlotMetaDataValues
 ///
 /// Setters emit redrawNeeded() once if, and only if, the value changes; a NaN that replaces a NaN
 /// is no change. No value is rejected.
-class PlotMetaData : public QObject, public PlotMetaDataValues
+class TALMESHPLOT_EXPORT PlotMetaData : public QObject, public PlotMetaDataValues
 {
   Q_OBJECT
 

@@ -1,6 +1,8 @@
 #ifndef ScientificFormat_h
 #define ScientificFormat_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <QString>
 
 namespace Talmesh
@@ -14,7 +16,8 @@ namespace Talmesh
 /// @param base base of the power; the mantissa lies in [1, base), also after rounding, and zero
 ///   keeps exponent 0. A base below 2 returns the text unchanged.
 /// @param richText write the exponent as an HTML superscript instead of behind a caret.
-QString getScientificFormat(const QString& text, int precision, int base, bool richText);
+TALMESHPLOT_EXPORT QString getScientificFormat(const QString& text, int precision, int base,
+                                               bool richText);
 
 } // namespace Talmesh
 

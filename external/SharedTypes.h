@@ -1,8 +1,9 @@
 #ifndef SharedTypes_h
 #define SharedTypes_h
 
-#include "external/ScientificFormat.h"
-#include "external/TypedConcentrationName.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../external/ScientificFormat.h"
+#include "../external/TypedConcentrationName.h"
 
 #include <ctime>
 #include <random>
@@ -11,7 +12,7 @@ namespace Talmesh
 {
 
 /// The one generator of the process, MT19937 of the C++ standard. Not for use from several threads.
-inline std::mt19937 MersenneTwister;
+TALMESHPLOT_EXPORT inline std::mt19937 MersenneTwister;
 
 /// Its construction seeds the generator with the current time in seconds.
 struct init

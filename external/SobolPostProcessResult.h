@@ -1,7 +1,7 @@
 #ifndef SobolPostProcessResult_h
 #define SobolPostProcessResult_h
 
-#include "external/TypedConcentrationName.h"
+#include "../external/TypedConcentrationName.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,8 @@
 #ifndef TypedConcentrationName_h
 #define TypedConcentrationName_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <string>
 #include <utility>
 
@@ -27,11 +29,11 @@ using TypedConcentrationName = std::pair<DataType, std::string>;
 
 /// The word printed for a kind: "Complex", "Molecule", "Complex With Molecule", "Pattern", "",
 /// "Parameter", "Undefined Type" for the enumerators in order; empty for any other value.
-std::string dataTypeLabel(DataType type);
+TALMESHPLOT_EXPORT std::string dataTypeLabel(DataType type);
 
 /// The label of an item, which is also the name of its table column: the kind's word, ": ", and the
 /// name. Example: "Parameter: k1".
-std::string selectionPairToString(const TypedConcentrationName& item);
+TALMESHPLOT_EXPORT std::string selectionPairToString(const TypedConcentrationName& item);
 
 } // namespace Talmesh
 

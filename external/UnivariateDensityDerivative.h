@@ -1,13 +1,15 @@
 #ifndef UnivariateDensityDerivative_h
 #define UnivariateDensityDerivative_h
 
+#include "../export/TalmeshPlotExport.h"
+
 /// Gaussian kernel density estimate of scalar samples.
 ///
 /// At each target t the estimate is sum_i exp(-(t - s_i)^2 / (2 h^2)) / (n h sqrt(2 pi)) over the n
 /// sources s_i with bandwidth h, so that it integrates to 1 (Silverman, Density Estimation for
 /// Statistics and Data Analysis, 1986, section 2.4). The sum is evaluated exactly: of ascending
 /// sources only the terms that reach its last bit are computed, which changes no bit of it.
-class UnivariateDensityDerivative
+class TALMESHPLOT_EXPORT UnivariateDensityDerivative
 {
 public:
   /// All arrays stay the caller's and must outlive the object.

@@ -1,6 +1,8 @@
 #ifndef vtkKMeansPearson_h
 #define vtkKMeansPearson_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <vtkKMeansDistanceFunctor.h>
 
 /// Distance of two observations by their Pearson correlation r, for vtkKMeansStatistics.
@@ -11,7 +13,7 @@
 /// gives 2. Observations of different lengths have distance 2; empty ones count as constant.
 /// Values that differ by no more than 1e-12 of the largest magnitude are constant: rounding noise
 /// is no shape.
-class vtkKMeansPearson : public vtkKMeansDistanceFunctor
+class TALMESHPLOT_EXPORT vtkKMeansPearson : public vtkKMeansDistanceFunctor
 {
 public:
   static vtkKMeansPearson* New();

@@ -1,6 +1,8 @@
 #ifndef vtkPrepareKMeansTable_h
 #define vtkPrepareKMeansTable_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <vtkTableAlgorithm.h>
 
 /// Regroups one column of a run-stacked table by run, so that each row is one whole trajectory.
@@ -14,7 +16,7 @@
 /// Of an array with several components the first is used. The output has neither rows nor columns
 /// when there is no such column or it is not numeric, when Stride is below 1, and when the table
 /// holds no whole run.
-class vtkPrepareKMeansTable : public vtkTableAlgorithm
+class TALMESHPLOT_EXPORT vtkPrepareKMeansTable : public vtkTableAlgorithm
 {
 public:
   static vtkPrepareKMeansTable* New();

@@ -1,6 +1,7 @@
 #ifndef AxisWindows_h
 #define AxisWindows_h
 
+#include "export/ViewerExport.h"
 #include "external/CoordinateWindow.h"
 #include "external/ReducedMetaData.h"
 
@@ -25,11 +26,11 @@ struct WindowScales
 };
 
 /// The key of the configuration now plotted: first x column, first y column, plot style.
-ReducedMetaData currentKey(const PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT ReducedMetaData currentKey(const PlotState& state);
 
 /// The window remembered for the configuration now plotted; null when there is none or when it is
 /// not finite.
-const CoordinateWindow* rememberedWindow(const PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT const CoordinateWindow* rememberedWindow(const PlotState& state);
 
 /// Makes `axis` show [minimum, maximum] in units of the data. Its behaviour, its limits and whether
 /// it is to be logarithmic stay; it is not logarithmic while its range holds 0.
@@ -38,7 +39,7 @@ void setDataRange(vtkAxis* axis, double minimum, double maximum);
 /// Fixes `axis` to [minimum, maximum] in units of the data. An axis that is to be logarithmic is
 /// not while its range holds 0. Limits that are not finite leave it as it is, because VTK does not
 /// finish painting an infinite axis.
-void fixRange(vtkAxis* axis, double minimum, double maximum);
+TALMESHPLOT_VIEWER_EXPORT void fixRange(vtkAxis* axis, double minimum, double maximum);
 
 /// Fixes the bottom axis to the remembered window, on a logarithmic scale if `logarithmic`.
 void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window,
@@ -53,7 +54,7 @@ void rememberWindow(PlotState& state, vtkAxis* bottom, vtkAxis* left);
 
 /// Forgets the windows, in every style, of configurations with one of `columns` as first x or y
 /// column: for columns whose values have changed.
-void forgetWindows(PlotState& state, const std::vector<int>& columns);
+TALMESHPLOT_VIEWER_EXPORT void forgetWindows(PlotState& state, const std::vector<int>& columns);
 
 } // namespace Talmesh::plot
 

@@ -1,6 +1,8 @@
 #ifndef BinaryDump_h
 #define BinaryDump_h
 
+#include "export/ViewerExport.h"
+
 #include <QByteArray>
 
 namespace Talmesh::plot
@@ -18,7 +20,7 @@ struct PlotState;
 /// Numeric columns other than int and double are written as double. A column that is not numeric
 /// is left out with one line on standard error. What no byte array can hold gives one line and an
 /// empty array.
-QByteArray writeDump(const PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT QByteArray writeDump(const PlotState& state);
 
 /// Largest memory that a dump cut short gets for values that it does not hold.
 inline constexpr double mostZeroBytes = 256.0 * 1024 * 1024;
@@ -32,7 +34,8 @@ inline constexpr qint64 mostColumnBytes = 64 * 1024 * 1024;
 /// for the zeros that a dump cut short calls for, up to `zeroBytes`; beyond them, and with more
 /// columns than `mostColumnBytes` allows, there is one line on standard error and the table stays
 /// empty.
-void readDump(PlotState& state, const QByteArray& bytes, double zeroBytes = mostZeroBytes);
+TALMESHPLOT_VIEWER_EXPORT void readDump(PlotState& state, const QByteArray& bytes,
+                                        double zeroBytes = mostZeroBytes);
 
 } // namespace Talmesh::plot
 

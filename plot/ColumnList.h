@@ -1,6 +1,8 @@
 #ifndef ColumnList_h
 #define ColumnList_h
 
+#include "export/ViewerExport.h"
+
 #include <vtkDataArray.h>
 #include <vtkSmartPointer.h>
 #include <vtkTable.h>
@@ -19,7 +21,7 @@ namespace Talmesh::plot
 ///
 /// A table looks for each new name among all its columns. This takes the same time for every one,
 /// however many there are.
-class ColumnList
+class TALMESHPLOT_VIEWER_EXPORT ColumnList
 {
 public:
   using Name = std::optional<std::string>;

@@ -1,6 +1,8 @@
 #ifndef Decorations_h
 #define Decorations_h
 
+#include "export/ViewerExport.h"
+
 #include <array>
 #include <cstddef>
 
@@ -15,7 +17,7 @@ struct PlotState;
 using PaletteColor = std::array<double, 4>;
 
 /// Entry `index` modulo 12 of the palette of decorations and clusters.
-const PaletteColor& paletteColor(std::size_t index);
+TALMESHPLOT_VIEWER_EXPORT const PaletteColor& paletteColor(std::size_t index);
 
 /// Gives `plot` the colour of that entry, with `brightness`, up to 255, for a component of 1 and
 /// with `alpha` instead of the entry's own, and the width of the lines of decorations and clusters.

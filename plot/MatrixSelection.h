@@ -1,6 +1,8 @@
 #ifndef MatrixSelection_h
 #define MatrixSelection_h
 
+#include "export/ViewerExport.h"
+
 #include <vtkAnnotationLink.h>
 #include <vtkWeakPointer.h>
 
@@ -19,7 +21,7 @@ class MatrixSelection
 {
 public:
   MatrixSelection() = default;
-  ~MatrixSelection();
+  TALMESHPLOT_VIEWER_EXPORT ~MatrixSelection();
   MatrixSelection(const MatrixSelection&) = delete;
   MatrixSelection& operator=(const MatrixSelection&) = delete;
 

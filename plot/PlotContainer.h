@@ -1,9 +1,10 @@
 #ifndef PlotContainer_h
 #define PlotContainer_h
 
-#include "external/PlotStyles.h"
-#include "external/TypedConcentrationName.h"
-#include "plot/KsStatistics.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../external/PlotStyles.h"
+#include "../external/TypedConcentrationName.h"
+#include "../plot/KsStatistics.h"
 
 #include <vtkSmartPointer.h>
 
@@ -39,8 +40,9 @@ struct SobolPostProcessResult;
 
 namespace Talmesh::plot
 {
+struct ContainerAccess;
 struct PlotState;
-}
+} // namespace Talmesh::plot
 
 /// One plot: a table of data, the settings that say how to show it, and the charts that show it.
 ///
@@ -50,7 +52,7 @@ struct PlotState;
 /// an error code unless an operation says so; missing or mistyped columns give empty plots. What
 /// keeps a chart from being drawn, operations that draw among other things report in one line on
 /// standard error.
-class PlotContainer : public QObject
+class TALMESHPLOT_EXPORT PlotContainer : public QObject
 {
   Q_OBJECT
 
@@ -319,11 +321,6 @@ public:
   void removeDrawingSteps(const QObject* owner);
   /// @}
 
-  /// All that the container knows. The builders, the callbacks and the viewer write it as well as
-  /// read it; its fields may change from one version to the next.
-  Talmesh::plot::PlotState& state() { return *d; }
-  const Talmesh::plot::PlotState& state() const { return *d; }
-
 public slots:
   /// Uses `data` as the table, shared and not copied. Does not draw. Null is ignored.
   void setPlotData(vtkSmartPointer<vtkTable> data);
@@ -353,6 +350,8 @@ public slots:
   void annotationUpdate();
 
 private:
+  friend struct Talmesh::plot::ContainerAccess;
+
   void connectParts();
   void drawOrReport();
 

@@ -1,6 +1,8 @@
 #ifndef PlotFeed_h
 #define PlotFeed_h
 
+#include "export/ViewerExport.h"
+
 #include <string>
 
 class vtkPlot;
@@ -16,7 +18,7 @@ namespace Talmesh::plot
 /// does a y column without a finite value in a plot over the row index, which would give the chart
 /// an infinite axis.
 /// @return whether the plot was fed
-bool feedPlot(vtkPlot* plot, vtkTable* table, int xColumn, int yColumn);
+TALMESHPLOT_VIEWER_EXPORT bool feedPlot(vtkPlot* plot, vtkTable* table, int xColumn, int yColumn);
 
 /// As above for the y column, over the row index as x.
 bool feedPlotByIndex(vtkPlot* plot, vtkTable* table, int yColumn);
@@ -28,7 +30,7 @@ bool colorPoints(vtkPlotPoints* plot, const std::string& column, vtkScalarsToCol
 
 /// Excludes from selection a plot whose rows are not those of the plot table: the selection speaks
 /// of rows of that table, and VTK reads past the end of a shorter one.
-void makeUnselectable(vtkPlot* plot);
+TALMESHPLOT_VIEWER_EXPORT void makeUnselectable(vtkPlot* plot);
 
 } // namespace Talmesh::plot
 

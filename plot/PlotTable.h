@@ -1,6 +1,8 @@
 #ifndef PlotTable_h
 #define PlotTable_h
 
+#include "export/ViewerExport.h"
+
 #include <vtkSmartPointer.h>
 
 class vtkTable;
@@ -18,7 +20,7 @@ vtkSmartPointer<vtkTable> deepCopyOf(vtkTable* table);
 
 /// To be called after every change of the plot table's values or columns: what was derived from
 /// them is out of date.
-void tableChanged(PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT void tableChanged(PlotState& state);
 
 } // namespace Talmesh::plot
 

@@ -1,6 +1,7 @@
 #ifndef RunSelection_h
 #define RunSelection_h
 
+#include "export/ViewerExport.h"
 #include "external/ParameterSelection.h"
 
 #include <vtkSmartPointer.h>
@@ -39,7 +40,7 @@ struct PlacedRun
 
 /// The whole runs of the plot table in row order; one whose index is no int is left out. Empty
 /// without a column ": Run Index" and with a stride below 1.
-std::vector<PlacedRun> wholeRuns(const PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT std::vector<PlacedRun> wholeRuns(const PlotState& state);
 
 /// The runs of the selected rows, with the source named by the settings. In the selection CDF plot
 /// these are the runs that the last split accepted, otherwise all with a selected row.

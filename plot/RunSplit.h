@@ -1,6 +1,8 @@
 #ifndef RunSplit_h
 #define RunSplit_h
 
+#include "export/ViewerExport.h"
+
 #include <vtkSmartPointer.h>
 #include <vtkTable.h>
 
@@ -23,7 +25,7 @@ struct RunSplit
 /// Position of the column that holds the time of each row: the first with "Value", "Time" or
 /// "Period" in its name; without one, two places in front of the first parameter column, which may
 /// be no column.
-int timeColumnOf(const PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT int timeColumnOf(const PlotState& state);
 
 /// Parts the plot table by the selection and annotations of `link`, and marks its rows in the
 /// columns that vtkCombinedFilterAndSelectedRows writes. A table without a time column is reported

@@ -1,6 +1,8 @@
 #ifndef SceneLink_h
 #define SceneLink_h
 
+#include "export/ViewerExport.h"
+
 #include <vtkContextScene.h>
 #include <vtkWeakPointer.h>
 
@@ -19,7 +21,7 @@ class SceneLink
 {
 public:
   SceneLink() = default;
-  ~SceneLink();
+  TALMESHPLOT_VIEWER_EXPORT ~SceneLink();
   SceneLink(const SceneLink&) = delete;
   SceneLink& operator=(const SceneLink&) = delete;
 

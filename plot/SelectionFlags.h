@@ -1,6 +1,8 @@
 #ifndef SelectionFlags_h
 #define SelectionFlags_h
 
+#include "export/ViewerExport.h"
+
 #include <vtkIntArray.h>
 #include <vtkSmartPointer.h>
 
@@ -19,13 +21,13 @@ inline constexpr char selectionFlagColumn[] = "selected points";
 
 /// Whether `selection`, which may be null and is not changed, names each row of `table`. No row is
 /// named when VTK cannot say which.
-std::vector<bool> markedRows(vtkSelection* selection, vtkTable* table);
+TALMESHPLOT_VIEWER_EXPORT std::vector<bool> markedRows(vtkSelection* selection, vtkTable* table);
 
 /// One flag per table row: 1 where the annotation link's selection or one of its contributing
 /// annotations names the row, 0 elsewhere. Neither selection nor annotations are changed.
 /// @return null when the link holds neither layers nor a selection, or when VTK cannot say which
 ///   rows the selection names
-vtkSmartPointer<vtkIntArray> selectionFlags(const PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT vtkSmartPointer<vtkIntArray> selectionFlags(const PlotState& state);
 
 /// Makes the rows whose entry is exactly 1 in the table's last column the link's selection, which
 /// the link announces. Does nothing if that column is not a vtkIntArray.

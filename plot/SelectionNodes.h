@@ -1,6 +1,8 @@
 #ifndef SelectionNodes_h
 #define SelectionNodes_h
 
+#include "export/ViewerExport.h"
+
 #include <vtkSelection.h>
 #include <vtkSmartPointer.h>
 #include <vtkType.h>
@@ -14,7 +16,8 @@ namespace Talmesh::plot
 
 /// A selection of table rows in the one form in which this library makes them: a single node of
 /// field type ROW and content type INDICES. Nothing checks that a table has the rows.
-vtkSmartPointer<vtkSelection> makeRowSelection(const std::vector<vtkIdType>& rows);
+TALMESHPLOT_VIEWER_EXPORT vtkSmartPointer<vtkSelection>
+makeRowSelection(const std::vector<vtkIdType>& rows);
 
 /// As above, with `rows` as the node's list, which is not copied. Null makes an empty selection.
 vtkSmartPointer<vtkSelection> wrapRowSelection(vtkIdTypeArray* rows);

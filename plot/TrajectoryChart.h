@@ -1,6 +1,8 @@
 #ifndef TrajectoryChart_h
 #define TrajectoryChart_h
 
+#include "export/ViewerExport.h"
+
 class vtkPlot;
 
 namespace Talmesh::plot
@@ -15,7 +17,7 @@ vtkPlot* fillTrajectoryChart(PlotState& state);
 
 /// Adds the quartile table's bands to the XY chart: the whole range of the runs, the range between
 /// their quartiles and their median, in this order. Adds nothing without a quartile table.
-void addQuartileBands(PlotState& state);
+TALMESHPLOT_VIEWER_EXPORT void addQuartileBands(PlotState& state);
 
 } // namespace Talmesh::plot
 

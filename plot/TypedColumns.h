@@ -1,6 +1,7 @@
 #ifndef TypedColumns_h
 #define TypedColumns_h
 
+#include "export/ViewerExport.h"
 #include "external/TypedConcentrationName.h"
 
 #include <cstddef>
@@ -21,11 +22,11 @@ void findParameterColumns(PlotState& state);
 
 /// The label, for example "Parameter: k1", by which derived tables know the parameter at position
 /// `parameter` of the settings' list; empty when no typed item has that position.
-std::string parameterLabel(const PlotState& state, std::size_t parameter);
+TALMESHPLOT_VIEWER_EXPORT std::string parameterLabel(const PlotState& state, std::size_t parameter);
 
 /// Index of the item that gives the time: the first item named "Time [s]", else the last named
 /// "Value", else the first, of those of the time or value kind; -1 when there is none of that kind.
-int timeItem(const std::vector<Talmesh::TypedConcentrationName>& items);
+TALMESHPLOT_VIEWER_EXPORT int timeItem(const std::vector<Talmesh::TypedConcentrationName>& items);
 
 } // namespace Talmesh::plot
 

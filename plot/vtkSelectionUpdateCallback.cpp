@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/ContainerAccess.h"
 #include "plot/DerivedTables.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
@@ -28,7 +29,7 @@ namespace
 /// @return the slot of its rank table
 std::size_t addDataSet(PlotContainer& container, const vtkSmartPointer<vtkTable>& data)
 {
-  auto& tables = container.state().derivedTables;
+  auto& tables = stateOf(container).derivedTables;
   tables.push_back(data);
   const std::size_t rankTable = tables.size();
   container.generateRankedParameters(data, rankTable);
@@ -37,13 +38,13 @@ std::size_t addDataSet(PlotContainer& container, const vtkSmartPointer<vtkTable>
 
 void compareRuns(PlotContainer& container, vtkAnnotationLink* link)
 {
-  const Talmesh::plot::RunSplit split = Talmesh::plot::splitRuns(container.state(), link);
+  const Talmesh::plot::RunSplit split = Talmesh::plot::splitRuns(stateOf(container), link);
   if (split.selected->GetNumberOfRows() < 1 || !split.remaining)
     return;
   const std::size_t selected = addDataSet(container, split.selected);
   const std::size_t remaining = addDataSet(container, split.remaining);
   container.ksTestSelection(selected, remaining);
-  Talmesh::plot::alignResults(container.state(), selected);
+  Talmesh::plot::alignResults(stateOf(container), selected);
 }
 
 /// VTK's event dispatch, from which the callback is called, must not be left by an exception.
@@ -55,7 +56,7 @@ void reportFailure(PlotContainer& container, const std::function<void()>& step)
   }
   catch (const std::exception& problem)
   {
-    Talmesh::plot::unblockSettings(container.state());
+    Talmesh::plot::unblockSettings(stateOf(container));
     std::cerr << "void vtkSelectionUpdateCallback::Execute(vtkObject*, unsigned long, void*): "
               << problem.what() << std::endl;
   }
@@ -73,17 +74,17 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
   const vtkSmartPointer<vtkSelectionUpdateCallback> kept = this;
   PlotContainer& container = *this->Container;
   // A reaction would cut the selection to rows that it does not speak of, and draw another chart.
-  if (!Talmesh::plot::showsSelectableRows(container.state()))
+  if (!Talmesh::plot::showsSelectableRows(stateOf(container)))
     return;
   if (link == container.getAnnotationLink())
-    reportFailure(container, [&] { Talmesh::plot::cutSelectionToTable(container.state()); });
+    reportFailure(container, [&] { Talmesh::plot::cutSelectionToTable(stateOf(container)); });
   if (!this->Container || container.getMetaData()->parameterColumns.empty())
     return;
   reportFailure(container,
                 [&]
                 {
                   const Talmesh::KeptMemory ofPartsBefore;
-                  container.state().derivedTables.resize(Talmesh::plot::ownSlots);
+                  stateOf(container).derivedTables.resize(Talmesh::plot::ownSlots);
                   compareRuns(container, link);
                 });
   if (this->Container)

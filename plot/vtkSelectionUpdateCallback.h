@@ -1,7 +1,8 @@
 #ifndef vtkSelectionUpdateCallback_h
 #define vtkSelectionUpdateCallback_h
 
-#include "vtk/VtkCompat.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/VtkCompat.h"
 
 #include <vtkCommand.h>
 
@@ -9,7 +10,7 @@ class PlotContainer;
 class vtkSelection;
 
 /// Reacts to every change of the selection: splits the runs, compares the parts, draws again.
-class vtkSelectionUpdateCallback : public vtkCommand
+class TALMESHPLOT_EXPORT vtkSelectionUpdateCallback : public vtkCommand
 {
 public:
   TALMESH_VTK_TYPE(vtkSelectionUpdateCallback, vtkCommand);

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 
 #include <vtkAxis.h>
@@ -24,5 +25,5 @@ void vtkShiftScaleCallback::Execute(vtkObject* caller, unsigned long, void* call
   vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
   vtkAxis* left = chart->GetAxis(vtkAxis::LEFT);
   if (bottom && left)
-    Talmesh::plot::rememberWindow(this->Container->state(), bottom, left);
+    Talmesh::plot::rememberWindow(stateOf(*this->Container), bottom, left);
 }

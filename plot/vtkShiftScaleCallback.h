@@ -1,14 +1,15 @@
 #ifndef vtkShiftScaleCallback_h
 #define vtkShiftScaleCallback_h
 
-#include "vtk/VtkCompat.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/VtkCompat.h"
 
 #include <vtkCommand.h>
 
 class PlotContainer;
 
 /// Remembers the axis window that the user panned or zoomed to.
-class vtkShiftScaleCallback : public vtkCommand
+class TALMESHPLOT_EXPORT vtkShiftScaleCallback : public vtkCommand
 {
 public:
   TALMESH_VTK_TYPE(vtkShiftScaleCallback, vtkCommand);

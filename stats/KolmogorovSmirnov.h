@@ -1,7 +1,7 @@
 #ifndef KolmogorovSmirnov_h
 #define KolmogorovSmirnov_h
 
-#include "stats/KolmogorovSmirnovFormulas.h"
+#include "../stats/KolmogorovSmirnovFormulas.h"
 
 #include <algorithm>
 #include <cmath>

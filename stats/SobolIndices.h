@@ -1,6 +1,8 @@
 #ifndef SobolIndices_h
 #define SobolIndices_h
 
+#include "export/ViewerExport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -40,8 +42,9 @@ using UnitCubeModel = std::function<std::vector<double>(const std::vector<double
 /// @param seed of the Mersenne Twister that draws the shift, the same everywhere
 /// @throws std::invalid_argument for more than half as many inputs as the sequence has dimensions
 ///   (Boost: 3667)
-SobolIndices estimateSobolIndices(const UnitCubeModel& model, std::size_t inputs,
-                                  std::size_t samples, std::uint32_t seed);
+TALMESHPLOT_VIEWER_EXPORT SobolIndices estimateSobolIndices(const UnitCubeModel& model,
+                                                            std::size_t inputs, std::size_t samples,
+                                                            std::uint32_t seed);
 
 } // namespace Talmesh::stats
 

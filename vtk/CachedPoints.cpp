@@ -2,6 +2,7 @@
 
 #include "vtk/CachedLogarithms.h"
 #include "vtk/PlotItemPainting.h"
+#include "vtk/PointInputs.h"
 #include "vtk/PointPicking.h"
 #include "vtk/VtkCompat.h"
 

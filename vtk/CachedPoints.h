@@ -1,16 +1,18 @@
 #ifndef CachedPoints_h
 #define CachedPoints_h
 
-#include "vtk/PointInputs.h"
+#include "../export/TalmeshPlotExport.h"
 
 #include <vtkPlotPoints.h>
+
+#include <vector>
 
 namespace Talmesh
 {
 /// A vtkPlotPoints, by class name too, that reads its table again only if something has changed
 /// that its points are made of. On logarithmic axes its points lie where the chart's axes have
 /// their values, whatever shift or magnitude (vtk/CachedLogarithms.h).
-class CachedPoints : public vtkPlotPoints
+class TALMESHPLOT_EXPORT CachedPoints : public vtkPlotPoints
 {
 public:
   /// Updates the cached points and their colours, without colours if their column is missing.
@@ -40,11 +42,11 @@ private:
   CachedPoints(const CachedPoints&) = delete;
   void operator=(const CachedPoints&) = delete;
 
-  PointInputs Inputs() const;
+  std::vector<double> Inputs() const;
   vtkIdTypeArray* OwnSelection();
   void CacheLogarithms();
 
-  PointInputs CachedInputs; ///< of the cached points
+  std::vector<double> CachedInputs; ///< what the cached points were made of
 };
 } // namespace Talmesh
 

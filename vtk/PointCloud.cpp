@@ -2,6 +2,7 @@
 
 #include "vtk/AggregateTarget.h"
 #include "vtk/PlotItemPainting.h"
+#include "vtk/PointPictures.h"
 
 #include <vtkFloatArray.h>
 #include <vtkIdTypeArray.h>
@@ -14,12 +15,19 @@ namespace Talmesh
 {
 vtkStandardNewMacro(PointCloud);
 
+PointCloud::PointCloud()
+    : Pictures(std::make_unique<PointPictures>())
+{
+}
+
+PointCloud::~PointCloud() = default;
+
 bool PointCloud::Paint(vtkContext2D* painter)
 {
   if (!this->Visible || !this->Points || this->Points->GetNumberOfPoints() == 0)
     return false;
   const auto target = AggregateTarget::of(painter, this);
-  if (target && this->Pictures.paint(painter, *target, this->Look()))
+  if (target && this->Pictures->paint(painter, *target, this->Look()))
     return true;
   const SelectionWithin inside(this->Selection, this->Points, this->SelectedPoints);
   return this->vtkPlotPoints::Paint(painter);

@@ -1,14 +1,19 @@
 #ifndef PointCloud_h
 #define PointCloud_h
 
-#include "vtk/CachedPoints.h"
-#include "vtk/PointPictures.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/CachedPoints.h"
+
+#include <memory>
 
 namespace Talmesh
 {
+struct PointCloudLook;
+class PointPictures;
+
 /// A vtkPlotPoints, by class name too, whose markers go as a picture to devices that take one of so
 /// many (vtk/AggregateDevice.h).
-class PointCloud : public CachedPoints
+class TALMESHPLOT_EXPORT PointCloud : public CachedPoints
 {
 public:
   static PointCloud* New();
@@ -16,12 +21,12 @@ public:
   bool Paint(vtkContext2D* painter) override;
 
 protected:
-  PointCloud() = default;
-  ~PointCloud() override = default;
+  PointCloud();
+  ~PointCloud() override;
 
   PointCloudLook Look() const;
 
-  PointPictures Pictures;
+  std::unique_ptr<PointPictures> Pictures;
 
 private:
   PointCloud(const PointCloud&) = delete;

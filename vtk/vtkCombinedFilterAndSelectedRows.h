@@ -1,7 +1,8 @@
 #ifndef vtkCombinedFilterAndSelectedRows_h
 #define vtkCombinedFilterAndSelectedRows_h
 
-#include "vtk/vtkCombinedRowFilter.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/vtkCombinedRowFilter.h"
 
 #include <vector>
 
@@ -25,7 +26,7 @@
 /// Update() fails, with a VTK error and untouched outputs, without any selection input, with a
 /// negative TimeColumnIndex or ParaCount, and when the selection cannot be converted to row
 /// indices.
-class vtkCombinedFilterAndSelectedRows : public vtkCombinedRowFilter
+class TALMESHPLOT_EXPORT vtkCombinedFilterAndSelectedRows : public vtkCombinedRowFilter
 {
 public:
   static vtkCombinedFilterAndSelectedRows* New();

@@ -1,7 +1,8 @@
 #ifndef vtkCombinedFilterOrSelectedRows_h
 #define vtkCombinedFilterOrSelectedRows_h
 
-#include "vtk/vtkCombinedRowFilter.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/vtkCombinedRowFilter.h"
 
 /// Splits a table into every selected row (output 0, the union of all selections) and the
 /// unselected rows whose time lies within the time range of the selected ones (output 1).
@@ -17,7 +18,7 @@
 ///
 /// Update() fails, with a VTK error and untouched outputs, without any selection input, with a
 /// negative TimeColumnIndex, and when the selection cannot be converted to row indices.
-class vtkCombinedFilterOrSelectedRows : public vtkCombinedRowFilter
+class TALMESHPLOT_EXPORT vtkCombinedFilterOrSelectedRows : public vtkCombinedRowFilter
 {
 public:
   static vtkCombinedFilterOrSelectedRows* New();

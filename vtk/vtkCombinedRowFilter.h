@@ -1,7 +1,8 @@
 #ifndef vtkCombinedRowFilter_h
 #define vtkCombinedRowFilter_h
 
-#include "vtk/VtkCompat.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/VtkCompat.h"
 
 #include <vtkTableAlgorithm.h>
 
@@ -28,7 +29,7 @@ inline constexpr char ConversionFailedMessage[] = "Selection conversion to INDIC
 /// Input 0 is the table, input 1 an optional vtkSelection, input 2 optional vtkAnnotationLayers;
 /// the selection and the annotations that are enabled and not hidden are united. With annotations
 /// alone and none of them contributing, output 0 is a shallow copy of the input and output 1 empty.
-class vtkCombinedRowFilter : public vtkTableAlgorithm
+class TALMESHPLOT_EXPORT vtkCombinedRowFilter : public vtkTableAlgorithm
 {
 public:
   TALMESH_VTK_ABSTRACT_TYPE(vtkCombinedRowFilter, vtkTableAlgorithm);

@@ -1,8 +1,9 @@
 #ifndef vtkPlotErrorPoints_h
 #define vtkPlotErrorPoints_h
 
-#include "vtk/CachedPoints.h"
-#include "vtk/VtkCompat.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/CachedPoints.h"
+#include "../vtk/VtkCompat.h"
 
 #include <vtkStdString.h>
 #include <vtkWeakPointer.h>
@@ -22,7 +23,7 @@ class vtkFloatArray;
 ///     errorColumn->Register(nullptr); // released by the item's destructor
 ///
 /// A derived class can do so for its users by registering ErrorArray in its own destructor.
-class vtkPlotErrorPoints : public Talmesh::CachedPoints
+class TALMESHPLOT_EXPORT vtkPlotErrorPoints : public Talmesh::CachedPoints
 {
 public:
   static vtkPlotErrorPoints* New();

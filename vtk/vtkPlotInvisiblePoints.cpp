@@ -2,6 +2,7 @@
 
 #include "vtk/AggregateTarget.h"
 #include "vtk/PlotItemPainting.h"
+#include "vtk/PointPictures.h"
 
 #include <vtkContext2D.h>
 #include <vtkFloatArray.h>
@@ -31,7 +32,7 @@ bool vtkPlotInvisiblePoints::Paint(vtkContext2D* painter)
   const auto target = Talmesh::AggregateTarget::of(painter, this);
   if (target && this->MarkerStyle != VTK_MARKER_NONE)
   {
-    this->Pictures.paintSelected(painter, *target, this->Look(), this->MarkerStyle, true);
+    this->Pictures->paintSelected(painter, *target, this->Look(), this->MarkerStyle, true);
     return true;
   }
   const vtkMTimeType built = this->SelectedPoints->GetMTime();

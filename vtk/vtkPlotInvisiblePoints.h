@@ -1,13 +1,14 @@
 #ifndef vtkPlotInvisiblePoints_h
 #define vtkPlotInvisiblePoints_h
 
-#include "vtk/PointCloud.h"
-#include "vtk/VtkCompat.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/PointCloud.h"
+#include "../vtk/VtkCompat.h"
 
 /// A point series for the chart's selection tools to pick from: the points themselves are not
 /// drawn, only the selected ones, highlighted. Selected ids outside the points are passed over.
 /// Devices that take pictures of many shapes get one for very many markers.
-class vtkPlotInvisiblePoints : public Talmesh::PointCloud
+class TALMESHPLOT_EXPORT vtkPlotInvisiblePoints : public Talmesh::PointCloud
 {
 public:
   static vtkPlotInvisiblePoints* New();

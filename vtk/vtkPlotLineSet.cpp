@@ -1,8 +1,10 @@
 #include "vtk/vtkPlotLineSet.h"
 
 #include "vtk/AggregateTarget.h"
+#include "vtk/CachedPicture.h"
 #include "vtk/MarkerCopy.h"
 #include "vtk/PlotItemPainting.h"
+#include "vtk/PointInputs.h"
 #include "vtk/RunLines.h"
 #include "vtk/RunPieces.h"
 #include "vtk/SelectionColumns.h"
@@ -24,11 +26,32 @@ vtkStandardNewMacro(vtkPlotLineSet);
 namespace
 {
 using Shapes = Talmesh::AggregateDevice::Shapes;
+
+Talmesh::CachedPicture::Pixels countLines(Talmesh::PictureStore* store, Talmesh::RunLines& runs,
+                                          const std::vector<Talmesh::CountedRun>& lines,
+                                          vtkPen* pen, const Talmesh::AggregateTarget& target)
+{
+  if (store)
+    store->countLines(lines.size());
+  return runs.count(lines, pen, target);
+}
 } // namespace
+
+struct vtkPlotLineSet::Layers
+{
+  std::vector<double> countedFor;              ///< tells what the counted highlights are
+  std::vector<Talmesh::CountedRun> highlights; ///< each highlighted run once
+  std::vector<double> readPoints;              ///< tells what `content` is of
+  Talmesh::PictureStore::Key content;          ///< of the points
+  std::shared_ptr<Talmesh::PictureStore> store;
+  Talmesh::CachedPicture runs;
+  Talmesh::CachedPicture highlighted;
+};
 
 vtkPlotLineSet::vtkPlotLineSet()
     : SelectedLineIds(vtkIdTypeArray::New())
     , RemainderSelection(vtkIdTypeArray::New())
+    , Painted(std::make_unique<Layers>())
 {
 }
 
@@ -45,7 +68,12 @@ void vtkPlotLineSet::PrintSelf(ostream& os, vtkIndent indent)
 
 void vtkPlotLineSet::SetPictureStore(std::shared_ptr<Talmesh::PictureStore> store)
 {
-  this->Store = std::move(store);
+  this->Painted->store = std::move(store);
+}
+
+const std::shared_ptr<Talmesh::PictureStore>& vtkPlotLineSet::GetPictureStore() const
+{
+  return this->Painted->store;
 }
 
 void vtkPlotLineSet::Update()
@@ -118,24 +146,15 @@ bool vtkPlotLineSet::Paint(vtkContext2D* painter)
   return true;
 }
 
-Talmesh::CachedPicture::Pixels
-vtkPlotLineSet::CountLines(Talmesh::RunLines& runs, const std::vector<Talmesh::CountedRun>& lines,
-                           vtkPen* pen, const Talmesh::AggregateTarget& target)
-{
-  if (this->Store)
-    this->Store->countLines(lines.size());
-  return runs.count(lines, pen, target);
-}
-
 // Reading all points takes time, so it is done once for every picture of them.
-const Talmesh::PictureStore::Key& vtkPlotLineSet::ContentOf(const Talmesh::RunLines& runs)
+const std::vector<double>& vtkPlotLineSet::ContentOf(const Talmesh::RunLines& runs)
 {
   const std::vector<double> identity{double(this->Points->GetMTime()), double(this->Stride),
                                      double(this->BreakAtGaps)};
-  if (identity != this->ReadPoints)
-    this->ContentOfPoints = runs.content();
-  this->ReadPoints = identity;
-  return this->ContentOfPoints;
+  if (identity != this->Painted->readPoints)
+    this->Painted->content = runs.content();
+  this->Painted->readPoints = identity;
+  return this->Painted->content;
 }
 
 void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target,
@@ -144,11 +163,11 @@ void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTa
   if (!target || this->Pen->GetLineType() != vtkPen::SOLID_LINE ||
       target->wantsShapes(Shapes::Bundle, runs.runCount()))
     return runs.draw(painter, runs.all());
-  this->RunPicture.paint(
+  this->Painted->runs.paint(
       painter, *target,
       {double(this->Points->GetMTime()), double(this->Stride), double(this->BreakAtGaps)},
-      [&] { return this->CountLines(runs, runs.all(), this->Pen, *target); },
-      {this->Store.get(), [&] { return this->ContentOf(runs); }});
+      [&] { return countLines(this->Painted->store.get(), runs, runs.all(), this->Pen, *target); },
+      {this->Painted->store.get(), [&] { return this->ContentOf(runs); }});
 }
 
 void vtkPlotLineSet::FindMarkedRuns()
@@ -203,13 +222,13 @@ void vtkPlotLineSet::CountHighlights(bool marked)
   const vtkIdType pointCount = this->Points->GetNumberOfPoints();
   source.insert(source.end(), {double(marked), double(this->NumberOfRemainderRows),
                                double(this->Stride), double(pointCount)});
-  if (source == this->CountedFor)
+  if (source == this->Painted->countedFor)
     return;
   this->FindHighlights(marked);
-  this->Highlights = Talmesh::countRuns(this->SelectedLineIds->GetPointer(0),
-                                        this->SelectedLineIds->GetNumberOfValues(),
-                                        pointCount / this->Stride, this->Stride);
-  this->CountedFor = source;
+  this->Painted->highlights = Talmesh::countRuns(this->SelectedLineIds->GetPointer(0),
+                                                 this->SelectedLineIds->GetNumberOfValues(),
+                                                 pointCount / this->Stride, this->Stride);
+  this->Painted->countedFor = source;
 }
 
 void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, Talmesh::RunLines& runs)
@@ -228,29 +247,32 @@ void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::Aggre
                                      Talmesh::RunLines& runs)
 {
   vtkPen* const pen = painter->GetPen();
-  const auto count = static_cast<vtkIdType>(this->Highlights.size());
+  const auto count = static_cast<vtkIdType>(this->Painted->highlights.size());
   if (count == 0)
     return;
   if (pen->GetLineType() != vtkPen::SOLID_LINE || target.wantsShapes(Shapes::Highlights, count))
     return this->PaintSums(painter, runs);
-  Talmesh::CachedPicture::Key key = this->CountedFor;
+  Talmesh::CachedPicture::Key key = this->Painted->countedFor;
   key.insert(key.end(), {double(this->Points->GetMTime()), double(this->BreakAtGaps)});
   const auto content = [&]
   {
     Talmesh::PictureStore::Key all = this->ContentOf(runs);
-    Talmesh::addContent(all, this->Highlights.data(),
-                        this->Highlights.size() * sizeof(Talmesh::CountedRun));
+    Talmesh::addContent(all, this->Painted->highlights.data(),
+                        this->Painted->highlights.size() * sizeof(Talmesh::CountedRun));
     return all;
   };
-  this->HighlightPicture.paint(
-      painter, target, key, [&] { return this->CountLines(runs, this->Highlights, pen, target); },
-      {this->Store.get(), content});
+  this->Painted->highlighted.paint(painter, target, key,
+                                   [&] {
+                                     return countLines(this->Painted->store.get(), runs,
+                                                       this->Painted->highlights, pen, target);
+                                   },
+                                   {this->Painted->store.get(), content});
 }
 
 void vtkPlotLineSet::PaintSums(vtkContext2D* painter, Talmesh::RunLines& runs)
 {
   const double once = painter->GetPen()->GetOpacity() / 255.0;
-  for (const Talmesh::CountedRun& run : this->Highlights)
+  for (const Talmesh::CountedRun& run : this->Painted->highlights)
   {
     const double sum = 1.0 - std::pow(1.0 - once, static_cast<double>(run.weight));
     painter->GetPen()->SetOpacity(static_cast<unsigned char>(std::lround(255.0 * sum)));

@@ -1,10 +1,9 @@
 #ifndef vtkPlotLineSet_h
 #define vtkPlotLineSet_h
 
-#include "vtk/CachedPicture.h"
-#include "vtk/CachedPoints.h"
-#include "vtk/RunTracer.h"
-#include "vtk/VtkCompat.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/CachedPoints.h"
+#include "../vtk/VtkCompat.h"
 
 #include <memory>
 #include <vector>
@@ -14,6 +13,7 @@ class vtkIdTypeArray;
 namespace Talmesh
 {
 class AggregateTarget;
+class PictureStore;
 class RunLines;
 } // namespace Talmesh
 
@@ -31,7 +31,7 @@ class RunLines;
 /// one for the runs and one for the highlighted ones, which shows what drawing them one by one
 /// would add up to. They are made again only if points, pen, place or highlighted runs change.
 /// Dashed lines are drawn one by one everywhere.
-class vtkPlotLineSet : public Talmesh::CachedPoints
+class TALMESHPLOT_EXPORT vtkPlotLineSet : public Talmesh::CachedPoints
 {
 public:
   static vtkPlotLineSet* New();
@@ -86,7 +86,7 @@ public:
   /// Where pictures are looked for that an earlier item of the same lines has made, and where this
   /// one's go. Null, which is the default, for nowhere.
   void SetPictureStore(std::shared_ptr<Talmesh::PictureStore> store);
-  const std::shared_ptr<Talmesh::PictureStore>& GetPictureStore() const { return this->Store; }
+  const std::shared_ptr<Talmesh::PictureStore>& GetPictureStore() const;
   ///@}
 
 protected:
@@ -104,10 +104,9 @@ private:
   vtkPlotLineSet(const vtkPlotLineSet&) = delete;
   void operator=(const vtkPlotLineSet&) = delete;
 
-  Talmesh::CachedPicture::Pixels CountLines(Talmesh::RunLines& runs,
-                                            const std::vector<Talmesh::CountedRun>& lines,
-                                            vtkPen* pen, const Talmesh::AggregateTarget& target);
-  const Talmesh::PictureStore::Key& ContentOf(const Talmesh::RunLines& runs);
+  struct Layers;
+
+  const std::vector<double>& ContentOf(const Talmesh::RunLines& runs);
   void PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTarget* target,
                  Talmesh::RunLines& runs);
   /// @param always also where the column seems to be the one copied last
@@ -122,16 +121,10 @@ private:
   void PaintSums(vtkContext2D* painter, Talmesh::RunLines& runs);
 
   int BreakAtGaps = 0;
-  std::vector<double> CopiedMarkers;           ///< tells the marker column that was copied
-  double MarkerCopies = 0.0;                   ///< tells one copy of it from another
-  vtkIdType CopiedMarks = 0;                   ///< non-zero values of that copy
-  std::vector<double> CountedFor;              ///< tells what the counted highlights are
-  std::vector<Talmesh::CountedRun> Highlights; ///< each highlighted run once
-  std::vector<double> ReadPoints;              ///< tells what ContentOfPoints is of
-  Talmesh::PictureStore::Key ContentOfPoints;
-  std::shared_ptr<Talmesh::PictureStore> Store;
-  Talmesh::CachedPicture RunPicture;
-  Talmesh::CachedPicture HighlightPicture;
+  std::vector<double> CopiedMarkers; ///< tells the marker column that was copied
+  double MarkerCopies = 0.0;         ///< tells one copy of it from another
+  vtkIdType CopiedMarks = 0;         ///< non-zero values of that copy
+  std::unique_ptr<Layers> Painted;   ///< the runs and the highlighted ones
 };
 
 #endif

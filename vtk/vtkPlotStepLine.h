@@ -1,8 +1,9 @@
 #ifndef vtkPlotStepLine_h
 #define vtkPlotStepLine_h
 
-#include "vtk/CachedPoints.h"
-#include "vtk/VtkCompat.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../vtk/CachedPoints.h"
+#include "../vtk/VtkCompat.h"
 
 class vtkPoints2D;
 
@@ -12,7 +13,7 @@ class vtkPoints2D;
 /// The staircase of the cached points (x0, y0) to (xn-1, yn-1) is (x0, 0), (x0, y0), then
 /// (xi, yi-1), (xi, yi) for every further point, then (xn-1, yn-1) again and (xn-1, 1). No markers
 /// are drawn. A series with a NaN or infinite coordinate is not drawn at all.
-class vtkPlotStepLine : public Talmesh::CachedPoints
+class TALMESHPLOT_EXPORT vtkPlotStepLine : public Talmesh::CachedPoints
 {
 public:
   static vtkPlotStepLine* New();

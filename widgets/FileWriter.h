@@ -1,6 +1,8 @@
 #ifndef FileWriter_h
 #define FileWriter_h
 
+#include "export/ViewerExport.h"
+
 #include <QString>
 
 #include <functional>
@@ -19,10 +21,10 @@ using FileContent = std::function<bool(QIODevice&)>;
 /// the bytes are written; a pipe must have a reader within five seconds, who must not pause for
 /// longer.
 /// @return why not all of it was written, in one line; empty on success
-QString writeFile(const QString& path, const FileContent& content);
+TALMESHPLOT_VIEWER_EXPORT QString writeFile(const QString& path, const FileContent& content);
 
 /// The same for bytes.
-QString writeFile(const QString& path, const char* bytes, qint64 size);
+TALMESHPLOT_VIEWER_EXPORT QString writeFile(const QString& path, const char* bytes, qint64 size);
 
 } // namespace Talmesh
 

@@ -1,6 +1,8 @@
 #ifndef LinePlotWidget_h
 #define LinePlotWidget_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -12,7 +14,7 @@ class Ui_LinePlotWidgetClass;
 /// The panel for time series: a chart, the list from which the user picks what it shows, and
 /// buttons to export the table, show the legend and switch the left axis to logarithmic scale.
 /// Without data it says so.
-class LinePlotWidget : public QWidget
+class TALMESHPLOT_EXPORT LinePlotWidget : public QWidget
 {
   Q_OBJECT
 

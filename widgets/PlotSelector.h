@@ -1,7 +1,8 @@
 #ifndef PlotSelector_h
 #define PlotSelector_h
 
-#include "external/TypedConcentrationName.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../external/TypedConcentrationName.h"
 
 #include <QTreeWidget>
 
@@ -11,7 +12,7 @@
 
 /// The list from which the user picks the items to plot: a tree of one column with one category per
 /// kind of item. Whenever the selection changes it reports the selected items.
-class PlotSelector : public QTreeWidget
+class TALMESHPLOT_EXPORT PlotSelector : public QTreeWidget
 {
   Q_OBJECT
 

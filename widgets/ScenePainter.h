@@ -1,6 +1,8 @@
 #ifndef ScenePainter_h
 #define ScenePainter_h
 
+#include "export/ViewerExport.h"
+
 #include <QSize>
 
 class QPainter;
@@ -26,8 +28,8 @@ constexpr int mostVectorPoints = 5000;
 /// scene keeps the size, so that it must be painted on its own device again before it is used
 /// otherwise.
 /// @param resolution how many pixels a unit of a picture on the page has
-void paintScene(vtkContextScene& scene, QPainter& painter, const QSize& size, double resolution,
-                Vectors vectors);
+TALMESHPLOT_VIEWER_EXPORT void paintScene(vtkContextScene& scene, QPainter& painter,
+                                          const QSize& size, double resolution, Vectors vectors);
 } // namespace Talmesh
 
 #endif

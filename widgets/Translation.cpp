@@ -6,6 +6,13 @@
 
 #include <memory>
 
+/// Takes the catalogues along into programs that link an archive; the macro must not be used within
+/// a namespace.
+static void keepCatalogues()
+{
+  Q_INIT_RESOURCE(talmeshplot);
+}
+
 namespace Talmesh
 {
 
@@ -27,6 +34,7 @@ bool installTranslation(QCoreApplication& application, const QLocale& locale)
 {
   if (locale.language() == QLocale::English || locale.language() == QLocale::C)
     return true;
+  keepCatalogues();
   if (!install(application, locale, QStringLiteral("talmeshplot"),
                QStringLiteral(":/talmeshplot/translations")))
     return false;

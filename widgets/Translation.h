@@ -1,6 +1,8 @@
 #ifndef Translation_h
 #define Translation_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <QLocale>
 
 class QCoreApplication;
@@ -13,7 +15,8 @@ namespace Talmesh
 /// are installed. Call it once the application exists and before the first widget is made; widgets
 /// that exist already stay as they are. The translators belong to the application.
 /// @return whether the library speaks that language; English needs no translation and counts
-bool installTranslation(QCoreApplication& application, const QLocale& locale = QLocale());
+TALMESHPLOT_EXPORT bool installTranslation(QCoreApplication& application,
+                                           const QLocale& locale = QLocale());
 
 } // namespace Talmesh
 

@@ -1,6 +1,8 @@
 #ifndef VtkPlotWidget_h
 #define VtkPlotWidget_h
 
+#include "../export/TalmeshPlotExport.h"
+
 #include <QVTKOpenGLNativeWidget.h>
 #include <vtkSmartPointer.h>
 
@@ -14,7 +16,7 @@ class vtkContextView;
 ///
 /// The program must set QVTKOpenGLNativeWidget::defaultFormat() as QSurfaceFormat's default before
 /// it makes its QApplication.
-class VtkPlotWidget : public QVTKOpenGLNativeWidget
+class TALMESHPLOT_EXPORT VtkPlotWidget : public QVTKOpenGLNativeWidget
 {
   Q_OBJECT
 

@@ -2,6 +2,7 @@
 
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/DerivedTables.h"
 #include "plot/PlotContainer.h"
 #include "plot/RankedTables.h"
@@ -54,7 +55,7 @@ vtkTable* derivedTable(const PlotContainer& container, std::size_t slot)
 /// Whether one parameter's values were ranked.
 bool isRanked(const PlotContainer& container, vtkTable* ranks, std::size_t k)
 {
-  return plot::columnNamed(ranks, plot::sortedPrefix + plot::parameterLabel(container.state(), k));
+  return plot::columnNamed(ranks, plot::sortedPrefix + plot::parameterLabel(stateOf(container), k));
 }
 
 /// The number of runs with a row that one of the columns marks. A selection covers some rows of
@@ -98,7 +99,7 @@ TestObstacle obstacleIn(const PlotContainer& container, const GroupOfRuns& group
   const int index = container.getMetaData()->parameterColumns[k];
   auto* column = vtkDataArray::SafeDownCast(plot::columnAt(group.rows, index));
   const std::optional<std::size_t> values =
-      plot::rankedValueCount(group.ranks, plot::parameterLabel(container.state(), k));
+      plot::rankedValueCount(group.ranks, plot::parameterLabel(stateOf(container), k));
   if (!column || !values)
     return TestObstacle::missingValues;
   // Missing values do not count as distinct ones.

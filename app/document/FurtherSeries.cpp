@@ -3,6 +3,7 @@
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotFeed.h"
 #include "plot/TableColumns.h"
@@ -55,7 +56,7 @@ void colour(vtkPlot* plot, vtkColorSeries* colours, std::size_t series, unsigned
 /// A drawing leaves the left axis where the window of the columns before had it.
 void freeLeftAxis(const PlotContainer& container, vtkChartXY* chart)
 {
-  if (!plot::rememberedWindow(container.state()))
+  if (!plot::rememberedWindow(stateOf(container)))
     chart->GetAxis(vtkAxis::LEFT)->SetBehavior(vtkAxis::AUTO);
 }
 

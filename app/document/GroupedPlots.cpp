@@ -2,6 +2,7 @@
 
 #include "app/import/TranslatedText.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/Decorations.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotFeed.h"
@@ -203,7 +204,7 @@ void showQuartileBands(PlotContainer& container)
     return;
   container.generateQuartiles();
   const vtkIdType before = drawn.chart->GetNumberOfPlots();
-  plot::addQuartileBands(container.state());
+  plot::addQuartileBands(stateOf(container));
   for (vtkIdType i = before; i < drawn.chart->GetNumberOfPlots(); ++i)
     drawn.chart->GetPlot(i)->SetLegendVisibility(false);
   lowerFrom(drawn.chart, before);

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotTable.h"
 #include "plot/TableColumns.h"
@@ -128,7 +129,7 @@ void RunNormaliser::setNormalised(const std::vector<int>& columns, bool on)
   std::vector<int> changedColumns = columns;
   if (std::find_first_of(shown.begin(), shown.end(), columns.begin(), columns.end()) != shown.end())
     changedColumns.push_back(shown.front());
-  plot::forgetWindows(container->state(), changedColumns);
+  plot::forgetWindows(stateOf(*container), changedColumns);
   emit changed();
 }
 
@@ -153,7 +154,7 @@ bool RunNormaliser::reload(int column)
   original.column->Modified();
   kept.erase(found);
   container->getTable()->Modified();
-  plot::tableChanged(container->state());
+  plot::tableChanged(stateOf(*container));
   container->generateQuartiles();
   return true;
 }

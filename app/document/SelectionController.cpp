@@ -3,6 +3,7 @@
 #include "app/import/TranslatedText.h"
 #include "app/session/RunSelectionFile.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
 #include "plot/RunSplit.h"
@@ -59,7 +60,7 @@ vtkIdType selectedRows(const PlotContainer& container)
 bool startTogether(const PlotContainer& container, const Runs& runs)
 {
   vtkDoubleArray* times =
-      plot::doubleColumn(container.getTable(), plot::timeColumnOf(container.state()));
+      plot::doubleColumn(container.getTable(), plot::timeColumnOf(stateOf(container)));
   return times && !runs.empty() && runs.back().firstRow < times->GetNumberOfValues() &&
          std::all_of(
              runs.begin(), runs.end(),
@@ -73,7 +74,7 @@ std::vector<vtkIdType> rowsOfEverything(const PlotContainer& container)
 {
   const vtkIdType count = container.getTable()->GetNumberOfRows();
   const PlotMetaData& settings = *container.getMetaData();
-  const Runs runs = plot::wholeRuns(container.state());
+  const Runs runs = plot::wholeRuns(stateOf(container));
   const bool nothingElse = static_cast<vtkIdType>(runs.size()) * settings.getStride() == count;
   std::vector<vtkIdType> rows;
   if (settings.getPlotLine() && !runs.empty() && nothingElse && startTogether(container, runs))
@@ -232,7 +233,7 @@ std::string SelectionController::load(const QString& path)
   const std::set<int>& wanted = loaded.selection.runs;
   std::set<int> missing = wanted;
   std::vector<vtkIdType> rows;
-  const auto present = container ? plot::wholeRuns(container->state()) : Runs();
+  const auto present = container ? plot::wholeRuns(stateOf(*container)) : Runs();
   if (present.empty())
     return tr("This table has no runs to select.").toStdString();
   for (const plot::PlacedRun& run : present)
@@ -254,7 +255,7 @@ QString SelectionController::summary() const
   const std::unique_ptr<ParameterSelection> selected = runsOf(container);
   if (selected && container->getMetaData()->getStride() > 0)
   {
-    const Runs runs = plot::wholeRuns(container->state());
+    const Runs runs = plot::wholeRuns(stateOf(*container));
     const auto count = std::count_if(runs.begin(), runs.end(),
                                      [&selected](const plot::PlacedRun& run)
                                      { return selected->runs.count(run.index) != 0; });

@@ -4,6 +4,7 @@
 #include "external/LinePlotTable.h"
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
 
@@ -40,7 +41,7 @@ double liveliness(const LinePlotTable& runs, std::size_t row)
 ParameterSelection livelyRuns(const LinePlotTable& runs, const PlotContainer& container)
 {
   std::vector<std::pair<double, int>> order;
-  for (const plot::PlacedRun& run : plot::wholeRuns(container.state()))
+  for (const plot::PlacedRun& run : plot::wholeRuns(stateOf(container)))
     order.emplace_back(-liveliness(runs, static_cast<std::size_t>(run.firstRow)), run.index);
   std::sort(order.begin(), order.end());
   ParameterSelection selection;

@@ -4,6 +4,7 @@
 #include "app/import/Utf8Text.h"
 #include "app/session/DumpedTable.h"
 #include "app/session/SessionTable.h"
+#include "plot/ContainerAccess.h"
 #include "plot/DumpLayout.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
@@ -145,7 +146,7 @@ SessionSettings settingsOf(const SessionSource& source)
   settings.plot->colorColumn = places.of(settings.plot->colorColumn);
   for (const int column : source.normalised)
     settings.normalised.push_back(places.of(column));
-  copyWindow(container.state(), settings);
+  copyWindow(stateOf(container), settings);
   return settings;
 }
 
@@ -227,7 +228,7 @@ void restoreSettings(const RestoredSession& session, PlotContainer& container)
 void restoreWindow(const RestoredSession& session, PlotContainer& container)
 {
   const SessionSettings& settings = session.settings;
-  plot::PlotState& state = container.state();
+  plot::PlotState& state = stateOf(container);
   state.metaData->storedCoordinateWindow = CoordinateWindow();
   if (!settings.plot->storedCoordinateWindow.valid)
     return;

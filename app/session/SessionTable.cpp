@@ -4,6 +4,7 @@
 #include "app/session/DumpedTable.h"
 #include "plot/BinaryDump.h"
 #include "plot/BorrowedColumn.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
@@ -68,7 +69,7 @@ QByteArray dumpStudy(const Study& study, PlotContainer& container, vtkTable* sho
   if (study.runs)
     addItems(dumped, study, shown);
   addFurtherColumns(dumped.table, shown);
-  if (const auto flags = plot::selectionFlags(container.state()))
+  if (const auto flags = plot::selectionFlags(stateOf(container)))
     dumped.table->AddColumn(flags);
   if (dumped.table->GetNumberOfColumns() > mostSessionColumns)
     return {};

@@ -1,6 +1,7 @@
 #include "app/session/SessionWork.h"
 
 #include "app/session/Session.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
@@ -16,7 +17,7 @@ namespace
 
 std::vector<bool> selectedRows(const PlotContainer& container)
 {
-  const vtkSmartPointer<vtkIntArray> flags = plot::selectionFlags(container.state());
+  const vtkSmartPointer<vtkIntArray> flags = plot::selectionFlags(stateOf(container));
   if (!flags)
     return {};
   const int* first = flags->GetPointer(0);

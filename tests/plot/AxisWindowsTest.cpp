@@ -1,6 +1,7 @@
 #include "plot/AxisWindows.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/vtkShiftScaleCallback.h"
@@ -59,7 +60,7 @@ protected:
     EXPECT_DOUBLE_EQ(left()->GetMaximum(), yMax);
   }
 
-  Talmesh::plot::PlotState& state() { return container.state(); }
+  Talmesh::plot::PlotState& state() { return stateOf(container); }
   PlotMetaData& settings() { return *container.getMetaData(); }
   vtkAxis* bottom() { return container.getChartXY()->GetAxis(vtkAxis::BOTTOM); }
   vtkAxis* left() { return container.getChartXY()->GetAxis(vtkAxis::LEFT); }
@@ -269,7 +270,7 @@ TEST_F(ShiftScaleCallback, OutlivesItsContainer)
   vtkSmartPointer<vtkChartXY> chart;
   {
     PlotContainer gone(nullptr);
-    callback = gone.state().shiftScaleCallback;
+    callback = stateOf(gone).shiftScaleCallback;
     chart = gone.getChartXY();
   }
   EXPECT_EQ(callback->Container, nullptr);

@@ -1,6 +1,7 @@
 #ifndef BinaryDumpFixture_h
 #define BinaryDumpFixture_h
 
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/ArrayColumns.h"
@@ -91,7 +92,7 @@ protected:
 
   vtkTable* table() { return container.getTable(); }
   void add(vtkAbstractArray* column) { table()->AddColumn(column); }
-  std::vector<Talmesh::TypedConcentrationName>& items() { return container.state().columnItems; }
+  std::vector<Talmesh::TypedConcentrationName>& items() { return stateOf(container).columnItems; }
 
   PlotContainer container{nullptr};
 };

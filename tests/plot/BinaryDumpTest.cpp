@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
@@ -195,7 +196,7 @@ TEST_F(BinaryDump, AStoredWindowIsRememberedForThePresentColumnsAndStyle)
   settings.xColumns = {2, 7};
   settings.yColumns = {3};
   settings.setPlotStyle(reservedStyle2);
-  auto& windows = container.state().coordinateWindows;
+  auto& windows = stateOf(container).coordinateWindows;
   read(QByteArray(12, '\0'));
   EXPECT_TRUE(windows.empty()) << "no window is stored";
 
@@ -213,10 +214,10 @@ TEST_F(BinaryDump, AStoredWindowIsRememberedForThePresentColumnsAndStyle)
 
 TEST_F(BinaryDump, TheLastStepsRunForAnEmptyTableToo)
 {
-  container.state().selectionUpdatePending = true;
+  stateOf(container).selectionUpdatePending = true;
   container.getMetaData()->blockSignals(true);
   read(QByteArray());
-  EXPECT_FALSE(container.state().selectionUpdatePending);
+  EXPECT_FALSE(stateOf(container).selectionUpdatePending);
   EXPECT_TRUE(container.getMetaData()->signalsBlocked()) << "reading leaves the settings alone";
 }
 

@@ -1,5 +1,6 @@
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 
@@ -24,7 +25,7 @@ protected:
     auto membership = vtkSmartPointer<vtkIntArray>::New();
     for (const int c : clusters)
       membership->InsertNextValue(c);
-    container.state().clusterMembership = membership;
+    stateOf(container).clusterMembership = membership;
   }
 
   std::vector<ParameterSelection*> selections;

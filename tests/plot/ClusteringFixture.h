@@ -2,6 +2,7 @@
 #define ClusteringFixture_h
 
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
@@ -54,7 +55,7 @@ protected:
     return {membership->GetPointer(0), membership->GetPointer(0) + membership->GetNumberOfTuples()};
   }
 
-  vtkTable* means() { return container.state().decorationTable; }
+  vtkTable* means() { return stateOf(container).decorationTable; }
   std::vector<double> mean(int column) { return SampleRuns::valuesOf(means()->GetColumn(column)); }
 
   PlotContainer container{nullptr};

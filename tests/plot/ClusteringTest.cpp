@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
@@ -198,9 +199,9 @@ TEST_F(Clustering, DrawsEveryRunInTheColourOfItsCluster)
 TEST_F(Clustering, WithoutAChartToDrawInStillClusters)
 {
   setRuns(threeShapes, 8);
-  container.state().chartXY = nullptr;
+  stateOf(container).chartXY = nullptr;
   EXPECT_EQ(cluster(3).size(), 12U);
-  container.state().chartXY = vtkSmartPointer<vtkChartXY>::New();
+  stateOf(container).chartXY = vtkSmartPointer<vtkChartXY>::New();
 }
 
 TEST_F(Clustering, ShowsTheMeansAsDecorationsWhenAsked)

@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
@@ -127,10 +128,10 @@ TEST_F(ColumnReduction, KeepsTimeAndRunIndexWithTheirTypedItems)
 TEST_F(ColumnReduction, MovesTheCurrentWindowIntoTheSettings)
 {
   useSomeOfNine();
-  container.state().coordinateWindows[{5, 2, 0}] = {1, 2, 3, 4, true};
-  container.state().coordinateWindows[{0, 0, 0}] = {5, 6, 7, 8, true};
+  stateOf(container).coordinateWindows[{5, 2, 0}] = {1, 2, 3, 4, true};
+  stateOf(container).coordinateWindows[{0, 0, 0}] = {5, 6, 7, 8, true};
   container.shrinkToColumnSelection();
-  EXPECT_TRUE(container.state().coordinateWindows.empty());
+  EXPECT_TRUE(stateOf(container).coordinateWindows.empty());
   EXPECT_EQ(settings().storedCoordinateWindow.yMax, 4.0);
   EXPECT_TRUE(settings().storedCoordinateWindow.valid);
 }

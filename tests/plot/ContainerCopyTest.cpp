@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
@@ -47,7 +48,7 @@ TEST_F(ContainerCopy, HasTheParentOfTheOriginal)
 
 TEST_F(ContainerCopy, HasTheItemsBoundsWindowsMarginsAndFlags)
 {
-  auto& state = container.state();
+  auto& state = stateOf(container);
   state.columnItems = {{Complex, "A"}, {Parameter, "k"}};
   state.parameterBounds = {{1, 2}};
   state.coordinateWindows[{0, 1, 0}] = {1, 2, 3, 4, true};
@@ -61,9 +62,9 @@ TEST_F(ContainerCopy, HasTheItemsBoundsWindowsMarginsAndFlags)
   state.verticalGutter = 6;
   const auto copy = copied();
   EXPECT_EQ(copy->getColumnItems(), state.columnItems);
-  EXPECT_EQ(copy->state().parameterBounds, state.parameterBounds);
-  ASSERT_EQ(copy->state().coordinateWindows.size(), 1U);
-  const CoordinateWindow& window = copy->state().coordinateWindows.at({0, 1, 0});
+  EXPECT_EQ(stateOf(*copy).parameterBounds, state.parameterBounds);
+  ASSERT_EQ(stateOf(*copy).coordinateWindows.size(), 1U);
+  const CoordinateWindow& window = stateOf(*copy).coordinateWindows.at({0, 1, 0});
   EXPECT_EQ(window.xMin, 1.0);
   EXPECT_EQ(window.yMax, 4.0);
   EXPECT_TRUE(window.valid);
@@ -76,15 +77,15 @@ TEST_F(ContainerCopy, HasTheItemsBoundsWindowsMarginsAndFlags)
   EXPECT_EQ(copy->getHorizontalGutter(), 5);
   EXPECT_EQ(copy->getVerticalGutter(), 6);
 
-  copy->state().columnItems.clear();
-  copy->state().coordinateWindows.clear();
+  stateOf(*copy).columnItems.clear();
+  stateOf(*copy).coordinateWindows.clear();
   EXPECT_EQ(state.columnItems.size(), 2U);
   EXPECT_EQ(state.coordinateWindows.size(), 1U);
 }
 
 TEST_F(ContainerCopy, StartsWithoutDerivedResults)
 {
-  auto& state = container.state();
+  auto& state = stateOf(container);
   state.derivedTables = {plainTable()};
   state.linePlotTable = lineTableOf({{Complex, "A"}});
   state.ksResults = {{0.5, 0.5}};
@@ -92,12 +93,12 @@ TEST_F(ContainerCopy, StartsWithoutDerivedResults)
   state.clusterMembership = vtkSmartPointer<vtkIntArray>::New();
   const auto copy = copied();
   EXPECT_TRUE(copy->getDerivedTables().empty());
-  EXPECT_EQ(copy->state().linePlotTable, nullptr);
+  EXPECT_EQ(stateOf(*copy).linePlotTable, nullptr);
   EXPECT_TRUE(copy->getKsResults().empty());
-  EXPECT_EQ(copy->state().decorationTable, nullptr);
+  EXPECT_EQ(stateOf(*copy).decorationTable, nullptr);
   EXPECT_EQ(copy->getClusterMembership(), nullptr);
-  EXPECT_EQ(copy->state().pointColors, nullptr);
-  EXPECT_TRUE(copy->state().selectionUpdatePending);
+  EXPECT_EQ(stateOf(*copy).pointColors, nullptr);
+  EXPECT_TRUE(stateOf(*copy).selectionUpdatePending);
   EXPECT_FALSE(state.selectionUpdatePending);
 }
 
@@ -131,12 +132,12 @@ TEST_F(ContainerCopy, IsSilentUntilItIsDrawnInAScene)
   EXPECT_FALSE(copy->getMetaData()->signalsBlocked());
 
   newDrawings();
-  const unsigned long before = copy->state().drawings;
+  const unsigned long before = stateOf(*copy).drawings;
   copy->getMetaData()->setStride(9);
-  EXPECT_EQ(copy->state().drawings, before + 1);
+  EXPECT_EQ(stateOf(*copy).drawings, before + 1);
   EXPECT_EQ(newDrawings(), 0U);
   settings().setStride(10);
-  EXPECT_EQ(copy->state().drawings, before + 1);
+  EXPECT_EQ(stateOf(*copy).drawings, before + 1);
   EXPECT_EQ(newDrawings(), 1U);
 }
 
@@ -173,7 +174,7 @@ TEST_F(ContainerCopy, HasColumnsOfOneNameAndOfNoneInTheirPlaces)
 
 TEST_F(ContainerCopy, LetsSettingsItemsAndWindowsFollowTheColumnsBehindOldFlags)
 {
-  auto& state = container.state();
+  auto& state = stateOf(container);
   vtkNew<vtkIntArray> flags;
   flags->SetName("selected points");
   for (const int flag : {0, 1, 0})
@@ -196,8 +197,8 @@ TEST_F(ContainerCopy, LetsSettingsItemsAndWindowsFollowTheColumnsBehindOldFlags)
   EXPECT_EQ(copy->getMetaData()->yColumns, (std::vector<int>{2, 0}));
   EXPECT_EQ(copy->getMetaData()->colorColumn, 1);
   EXPECT_EQ(copy->getColumnItems()[1].second, "b");
-  ASSERT_EQ(copy->state().coordinateWindows.count({1, 2, 0}), 1U);
-  EXPECT_TRUE(copy->state().windowScales.at({1, 2, 0}).xLog);
+  ASSERT_EQ(stateOf(*copy).coordinateWindows.count({1, 2, 0}), 1U);
+  EXPECT_TRUE(stateOf(*copy).windowScales.at({1, 2, 0}).xLog);
   EXPECT_EQ(settings().xColumns, std::vector<int>{2}) << "the original stays as it is";
 }
 
@@ -221,8 +222,8 @@ TEST_F(ContainerCopy, OutlivesTheOriginalAndItsBorrowedValues)
 TEST_F(ContainerCopy, HasChartsOfItsOwnAndNoParallelCoordinates)
 {
   const auto copy = copied();
-  const auto& own = copy->state();
-  const auto& others = container.state();
+  const auto& own = stateOf(*copy);
+  const auto& others = stateOf(container);
   for (const auto& [mine, theirs] : std::vector<std::pair<vtkObject*, vtkObject*>>{
            {own.chartXY, others.chartXY},
            {own.scatterPlotMatrix, others.scatterPlotMatrix},
@@ -245,13 +246,13 @@ TEST_F(ContainerCopy, HasChartsOfItsOwnAndNoParallelCoordinates)
 TEST_F(ContainerCopy, HasCallbacksThatPointAtIt)
 {
   const auto copy = copied();
-  EXPECT_EQ(copy->state().selectionUpdateCallback->Container, copy.get());
-  EXPECT_EQ(copy->state().shiftScaleCallback->Container, copy.get());
-  EXPECT_EQ(container.state().selectionUpdateCallback->Container, &container);
+  EXPECT_EQ(stateOf(*copy).selectionUpdateCallback->Container, copy.get());
+  EXPECT_EQ(stateOf(*copy).shiftScaleCallback->Container, copy.get());
+  EXPECT_EQ(stateOf(container).selectionUpdateCallback->Container, &container);
   EXPECT_TRUE(copy->getAnnotationLink()->HasObserver(vtkCommand::AnnotationChangedEvent,
-                                                     copy->state().selectionUpdateCallback));
+                                                     stateOf(*copy).selectionUpdateCallback));
   EXPECT_FALSE(container.getAnnotationLink()->HasObserver(vtkCommand::AnnotationChangedEvent,
-                                                          copy->state().selectionUpdateCallback));
+                                                          stateOf(*copy).selectionUpdateCallback));
 }
 
 TEST_F(ContainerCopy, DrawsNoParallelCoordinatesAndSaysSoOnce)

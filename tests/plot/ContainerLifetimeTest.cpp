@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
@@ -238,7 +239,8 @@ TEST(DestructionWithAWidget, LeavesTheOwnContainerToTheWidget)
   const QPointer<PlotContainer> own = widget->plotContainer();
   vtkSmartPointer<vtkChartXY> chart = own->getChartXY();
   vtkSmartPointer<vtkAnnotationLink> link = own->getAnnotationLink();
-  const vtkSmartPointer<vtkSelectionUpdateCallback> callback = own->state().selectionUpdateCallback;
+  const vtkSmartPointer<vtkSelectionUpdateCallback> callback =
+      stateOf(*own).selectionUpdateCallback;
   widget.reset();
   EXPECT_EQ(own, nullptr);
   EXPECT_EQ(callback->Container, nullptr);
@@ -252,8 +254,8 @@ TEST(Callbacks, ForgetTheContainerThatIsGone)
 {
   auto container = std::make_unique<PlotContainer>(nullptr);
   const vtkSmartPointer<vtkSelectionUpdateCallback> selection =
-      container->state().selectionUpdateCallback;
-  const vtkSmartPointer<vtkShiftScaleCallback> shift = container->state().shiftScaleCallback;
+      stateOf(*container).selectionUpdateCallback;
+  const vtkSmartPointer<vtkShiftScaleCallback> shift = stateOf(*container).shiftScaleCallback;
   const vtkSmartPointer<vtkAnnotationLink> link = container->getAnnotationLink();
   const vtkSmartPointer<vtkChartXY> chart = container->getChartXY();
   container.reset();

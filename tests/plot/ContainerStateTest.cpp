@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
 #include "support/CapturedOutput.h"
@@ -22,7 +23,7 @@ class DrawnContainer : public PlotFixture
 TEST(NewContainer, HasEverythingThatIsEverDrawnInto)
 {
   PlotContainer container(nullptr);
-  const Talmesh::plot::PlotState& state = container.state();
+  const Talmesh::plot::PlotState& state = stateOf(container);
   ASSERT_NE(state.table, nullptr);
   EXPECT_EQ(state.table->GetNumberOfColumns(), 0);
   EXPECT_NE(state.scatterPlotMatrix, nullptr);
@@ -42,7 +43,7 @@ TEST(NewContainer, HasEverythingThatIsEverDrawnInto)
 TEST(NewContainer, HasNoData)
 {
   PlotContainer container(nullptr);
-  const Talmesh::plot::PlotState& state = container.state();
+  const Talmesh::plot::PlotState& state = stateOf(container);
   EXPECT_TRUE(state.derivedTables.empty());
   EXPECT_TRUE(state.columnItems.empty());
   EXPECT_TRUE(state.parameterBounds.empty());
@@ -84,7 +85,7 @@ TEST(NewContainer, BelongsToItsParent)
 TEST(NewContainer, ListensToItsSelectionAndNotYetToItsChart)
 {
   PlotContainer container(nullptr);
-  const Talmesh::plot::PlotState& state = container.state();
+  const Talmesh::plot::PlotState& state = stateOf(container);
   ASSERT_NE(state.selectionUpdateCallback, nullptr);
   ASSERT_NE(state.shiftScaleCallback, nullptr);
   EXPECT_EQ(state.selectionUpdateCallback->Container, &container);
@@ -96,7 +97,7 @@ TEST(NewContainer, ListensToItsSelectionAndNotYetToItsChart)
 
 TEST_F(DrawnContainer, ListensToItsChartInStyleZeroAlone)
 {
-  const auto& callback = container.state().shiftScaleCallback;
+  const auto& callback = stateOf(container).shiftScaleCallback;
   EXPECT_TRUE(chart()->HasObserver(vtkCommand::InteractionEvent, callback));
   container.redraw();
   chart()->RemoveObservers(vtkCommand::InteractionEvent, callback);
@@ -130,7 +131,7 @@ TEST_F(DrawnContainer, MovesItsChartToAnotherScene)
 
 TEST_F(DrawnContainer, MovesNoSceneWithoutAChart)
 {
-  container.state().currentChart = nullptr;
+  stateOf(container).currentChart = nullptr;
   PlotScene other;
   container.setScene(other.scene());
   EXPECT_EQ(container.getItem(), nullptr);

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/PlotFixture.h"
 
 #include <vtkPen.h>
@@ -35,7 +36,7 @@ protected:
 TEST_F(Decorations, AreHiddenAndAbsentAtFirst)
 {
   EXPECT_FALSE(container.getShowDecorations());
-  EXPECT_EQ(container.state().decorationTable, nullptr);
+  EXPECT_EQ(stateOf(container).decorationTable, nullptr);
   EXPECT_EQ(chart()->GetNumberOfPlots(), 1);
 }
 

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/PlotFixture.h"
 #include "support/VtkErrors.h"
 
@@ -82,8 +83,8 @@ TEST_F(DelimitedFiles, KeepEmptyCellsInTheirColumn)
 
 TEST_F(DelimitedFiles, ReplaceTheTableAndNothingElse)
 {
-  container.state().columnItems = {{Talmesh::Complex, "A"}};
-  container.state().derivedTables = {plainTable()};
+  stateOf(container).columnItems = {{Talmesh::Complex, "A"}};
+  stateOf(container).derivedTables = {plainTable()};
   settings().parameterColumns = {2};
   settings().title = "kept";
   const vtkSmartPointer<vtkTable> before = container.getTable();

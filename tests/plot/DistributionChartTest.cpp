@@ -2,6 +2,7 @@
 
 #include "external/Distribution.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/PlotScene.h"
@@ -221,7 +222,7 @@ TEST_F(DistributionChart, RangeEndsAreFormattedButNotAttached)
 {
   Curve curve(-0.5, 1250.0, [](double) { return 1.0; });
   const auto ends =
-      Talmesh::plot::drawDensityCurve(container.state(), Talmesh::plot::densityCurve(curve));
+      Talmesh::plot::drawDensityCurve(stateOf(container), Talmesh::plot::densityCurve(curve));
   EXPECT_EQ(ends.positions, (std::array<double, 2>{-0.5, 1250.0}));
   EXPECT_EQ(ends.labels, (std::array<std::string, 2>{"-5.00 x 10^-1", "1.25 x 10^3"}));
   scene.render(container);

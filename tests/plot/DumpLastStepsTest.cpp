@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
@@ -45,7 +46,7 @@ QByteArray flaggedRuns()
   table->AddColumn(flags);
   PlotContainer container(nullptr);
   container.getTable()->ShallowCopy(table);
-  container.state().columnItems = SampleRuns::items({});
+  stateOf(container).columnItems = SampleRuns::items({});
   return dumpOf(container);
 }
 
@@ -55,8 +56,8 @@ class DumpLastSteps : public ::testing::Test
 protected:
   static void prepare(PlotContainer& container)
   {
-    container.state().selectionUpdatePending = true;
-    container.state().coordinateWindows.clear();
+    stateOf(container).selectionUpdatePending = true;
+    stateOf(container).coordinateWindows.clear();
     container.getMetaData()->storedCoordinateWindow = {1, 2, 3, 4, true};
     container.generateQuartiles();
   }
@@ -69,12 +70,12 @@ protected:
     CapturedOutput output(std::cout);
     container.readDump(&bytes);
     EXPECT_NE(container.getQuartileTable(), quartiles);
-    EXPECT_FALSE(container.state().selectionUpdatePending);
+    EXPECT_FALSE(stateOf(container).selectionUpdatePending);
     const PlotMetaData& settings = *container.getMetaData();
     const ReducedMetaData key{settings.xColumns.front(), settings.yColumns.front(),
                               static_cast<int>(settings.getPlotStyle())};
-    EXPECT_EQ(container.state().coordinateWindows.count(key), 1U);
-    EXPECT_EQ(container.state().coordinateWindows[key].yMax, 4.0);
+    EXPECT_EQ(stateOf(container).coordinateWindows.count(key), 1U);
+    EXPECT_EQ(stateOf(container).coordinateWindows[key].yMax, 4.0);
     said = output.text();
     complained = errors.text();
   }
@@ -149,9 +150,9 @@ TEST_F(DumpLastSteps, NeitherDrawNorSilenceWithoutASelection)
     for (const bool blocked : {false, true})
     {
       container->getMetaData()->blockSignals(blocked);
-      const unsigned long drawings = container->state().drawings;
+      const unsigned long drawings = stateOf(*container).drawings;
       read(*container, runs);
-      EXPECT_EQ(container->state().drawings, drawings);
+      EXPECT_EQ(stateOf(*container).drawings, drawings);
       EXPECT_EQ(container->getMetaData()->signalsBlocked(), blocked);
       EXPECT_EQ(said + complained, "");
     }
@@ -168,10 +169,10 @@ TEST_F(DumpLastSteps, NeitherDrawNorSilenceWithoutParameterColumns)
     for (const bool blocked : {false, true})
     {
       container->getMetaData()->blockSignals(blocked);
-      const unsigned long drawings = container->state().drawings;
+      const unsigned long drawings = stateOf(*container).drawings;
       read(*container, flaggedRuns());
       EXPECT_EQ(selectedRows(*container), (std::set<vtkIdType>{3, 6}));
-      EXPECT_EQ(container->state().drawings, drawings);
+      EXPECT_EQ(stateOf(*container).drawings, drawings);
       EXPECT_EQ(container->getMetaData()->signalsBlocked(), blocked);
       EXPECT_EQ(said + complained, "");
     }
@@ -181,13 +182,13 @@ TEST_F(DumpLastSteps, NeitherDrawNorSilenceWithoutParameterColumns)
 TEST_F(DumpLastSteps, FollowTheReactionToTheSelectionInAScene)
 {
   SampleRuns::Plot plot;
-  const unsigned long drawings = plot.container.state().drawings;
+  const unsigned long drawings = stateOf(plot.container).drawings;
   plot.container.getMetaData()->blockSignals(true);
   read(plot.container, flaggedRuns());
   EXPECT_EQ(selectedRows(plot.container), (std::set<vtkIdType>{3, 6}));
   ASSERT_EQ(plot.container.getDerivedTables().size(), 8U);
   EXPECT_EQ(valuesOf(plot.container.getDerivedTables()[2], "Complex: A"), Values({10, 20}));
-  EXPECT_EQ(plot.container.state().drawings, drawings + 1);
+  EXPECT_EQ(stateOf(plot.container).drawings, drawings + 1);
   EXPECT_FALSE(plot.container.getMetaData()->signalsBlocked()) << "as after every drawing";
   EXPECT_EQ(said + complained, "");
   // Row p of run k holds -(10 k + p) of the molecule.
@@ -210,10 +211,10 @@ TEST_F(DumpLastSteps, FollowTheReactionToTheSelectionWithoutAScene)
 TEST_F(DumpLastSteps, RankByTheBoundsKnownBefore)
 {
   SampleRuns::Plot plot;
-  plot.container.state().parameterBounds.pop_back();
+  stateOf(plot.container).parameterBounds.pop_back();
   read(plot.container, flaggedRuns());
   EXPECT_NE(complained.find("does not match the number of parameter bounds"), std::string::npos);
-  EXPECT_EQ(plot.container.state().parameterBounds.size(), 1U);
+  EXPECT_EQ(stateOf(plot.container).parameterBounds.size(), 1U);
 }
 
 TEST_F(DumpLastSteps, RunForTruncationsInAScene)

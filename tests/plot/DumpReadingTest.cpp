@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
@@ -166,12 +167,12 @@ TEST_F(DumpReading, HugeCountsGiveAnEmptyTable)
   for (const auto& [columns, rows] : {std::pair{most, most}, {most, 0}, {1, most}, {most, 1}})
   {
     CapturedOutput errors(std::cerr);
-    container.state().selectionUpdatePending = true;
+    stateOf(container).selectionUpdatePending = true;
     read(ints({1, 3, 0, columns, rows}));
     EXPECT_EQ(table()->GetNumberOfColumns(), 0) << columns << ' ' << rows;
     EXPECT_EQ(items().size(), 1U);
     EXPECT_EQ(errors.text(), endsTooEarly);
-    EXPECT_FALSE(container.state().selectionUpdatePending);
+    EXPECT_FALSE(stateOf(container).selectionUpdatePending);
   }
 }
 

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/PlotFixture.h"
 #include "support/VtkErrors.h"
 
@@ -57,7 +58,7 @@ TEST_F(ErrorBarLine, CountsTheColumnsOfItsOwnTable)
 {
   container.setUseIndexForXSeries(true);
   const auto curve = tableOf({{"u", {0, 10, 20}}, {"v", {3, 4, 5}}});
-  container.state().derivedTables = {curve};
+  stateOf(container).derivedTables = {curve};
   EXPECT_EQ(lineOf(2, 1)->GetInput(), nullptr);
   EXPECT_EQ(lineOf(0, 1)->GetInput(), curve);
 }

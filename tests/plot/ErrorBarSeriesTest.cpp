@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/SampleTables.h"
@@ -89,12 +90,12 @@ TEST_F(ErrorBarSeries, SecondSeriesNeedsTwoYColumnsAndAnX)
 TEST_F(ErrorBarSeries, SecondSeriesComesFromTheFirstDerivedTable)
 {
   const auto curve = tableOf({{"u", {0, 10, 20}}, {"v", {3, 4, 5}}});
-  container.state().derivedTables = {curve, table()};
+  stateOf(container).derivedTables = {curve, table()};
   secondSeries({0, 0}, {1, 1});
   EXPECT_EQ(chart()->GetPlot(1)->GetInput(), curve);
   EXPECT_EQ(inputOf(1), (Columns{"u", "v"}));
   EXPECT_FALSE(chart()->GetPlot(1)->GetSelectable()) << "its rows are not those of the plot table";
-  container.state().derivedTables = {nullptr, curve};
+  stateOf(container).derivedTables = {nullptr, curve};
   redraw();
   EXPECT_EQ(chart()->GetPlot(1)->GetInput(), table());
   EXPECT_TRUE(chart()->GetPlot(1)->GetSelectable());
@@ -110,7 +111,7 @@ TEST_F(ErrorBarSeries, SecondSeriesOutsideItsTableHasNoInput)
     EXPECT_EQ(chart()->GetPlot(1)->GetInput(), nullptr) << x << ' ' << y;
     scene.render(container);
   }
-  container.state().derivedTables = {tableOf({{"u", {0, 10}}})};
+  stateOf(container).derivedTables = {tableOf({{"u", {0, 10}}})};
   secondSeries({0, 0}, {1, 1});
   EXPECT_EQ(chart()->GetPlot(1)->GetInput(), nullptr);
   EXPECT_EQ(errors.text(), "");

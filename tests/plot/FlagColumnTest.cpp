@@ -1,4 +1,5 @@
 #include "plot/ColumnReduction.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SelectionNodes.h"
@@ -93,9 +94,9 @@ TEST(FlagColumn, MissingFromAnEmptyTableLeavesTheSelectionUntouched)
 TEST(FlagColumn, AsksForNoDrawing)
 {
   FlaggedPlot plot({1, 0, 0, 0});
-  const unsigned long before = plot.container.state().drawings;
+  const unsigned long before = stateOf(plot.container).drawings;
   plot.container.selectionFromFlagColumn();
-  EXPECT_EQ(plot.container.state().drawings, before);
+  EXPECT_EQ(stateOf(plot.container).drawings, before);
 }
 
 TEST(FlagColumn, GoesBackAndForthUnchanged)
@@ -104,7 +105,7 @@ TEST(FlagColumn, GoesBackAndForthUnchanged)
   plot.container.getAnnotationLink()->SetCurrentSelection(makeRowSelection({1, 4, 5}));
   const Flags flags = currentFlags(plot.container);
   const auto column = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
-  Talmesh::plot::appendFlagColumn(plot.container.state(), column);
+  Talmesh::plot::appendFlagColumn(stateOf(plot.container), column);
   plot.container.getAnnotationLink()->SetCurrentSelection(nullptr);
   plot.container.selectionFromFlagColumn();
   EXPECT_EQ(currentFlags(plot.container), flags);
@@ -117,7 +118,7 @@ TEST(FlagColumn, IsPutLastInPlaceOfAnOlderOne)
   vtkTable* table = plot.container.getTable();
   const vtkIdType columns = table->GetNumberOfColumns();
   const auto flags = vtk::TakeSmartPointer(plot.container.getCurrentSelection());
-  Talmesh::plot::appendFlagColumn(plot.container.state(), flags);
+  Talmesh::plot::appendFlagColumn(stateOf(plot.container), flags);
   EXPECT_EQ(table->GetNumberOfColumns(), columns);
   EXPECT_STREQ(table->GetColumn(columns - 2)->GetName(), "behind");
   EXPECT_EQ(table->GetColumn(columns - 1), flags);

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/CapturedOutput.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
@@ -28,8 +29,8 @@ protected:
 
 TEST_F(InputStatistics, RankTheParametersOfANewTableInTheSelectionStyleAlone)
 {
-  container.state().columnItems = {{Complex, "A"}, {Parameter, "b"}};
-  container.state().parameterBounds = {{0.0, 100.0}};
+  stateOf(container).columnItems = {{Complex, "A"}, {Parameter, "b"}};
+  stateOf(container).parameterBounds = {{0.0, 100.0}};
   for (int style = 0; style <= plotStyleCount; ++style)
   {
     storeStyle(style);
@@ -60,7 +61,7 @@ TEST_F(InputStatistics, RankALineTableOnceWithTheStrideItBrings)
   storeStyle(6);
   settings().setStride(1);
   // Each ranking says that there is a pair of bounds too many.
-  container.state().parameterBounds = {{0.0, 1.0}};
+  stateOf(container).parameterBounds = {{0.0, 1.0}};
   CapturedOutput errors(std::cerr);
   container.setLinePlotTable(runs(), false);
   const std::string said = errors.text();

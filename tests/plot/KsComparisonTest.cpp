@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/PlotScene.h"
@@ -38,7 +39,7 @@ class KsComparison : public ::testing::Test
 protected:
   const std::vector<KsStatistics>& compare(vtkSmartPointer<vtkTable> a, vtkSmartPointer<vtkTable> b)
   {
-    container.state().derivedTables = {nullptr, a, nullptr, b};
+    stateOf(container).derivedTables = {nullptr, a, nullptr, b};
     container.ksTestSelection(1, 3);
     return container.getKsResults();
   }
@@ -128,10 +129,10 @@ TEST_F(KsComparison, NeitherDrawsNorMarksTheScene)
   container.setScene(scene.scene());
   container.redraw();
   scene.scene()->SetDirty(false);
-  const unsigned long before = container.state().drawings;
+  const unsigned long before = stateOf(container).drawings;
   const auto table = rankTable({{1, 2}});
   ASSERT_EQ(compare(table, table).size(), 1U);
-  EXPECT_EQ(container.state().drawings, before);
+  EXPECT_EQ(stateOf(container).drawings, before);
   EXPECT_FALSE(scene.scene()->GetDirty());
   container.dirty();
   EXPECT_TRUE(scene.scene()->GetDirty());
@@ -167,9 +168,9 @@ TEST_F(KsComparison, NeitherMovesNorSortsTheSamples)
 
 TEST_F(KsComparison, ComparesWhatTheRankingBuilt)
 {
-  container.state().columnItems = {{Talmesh::Parameter, "k"}};
+  stateOf(container).columnItems = {{Talmesh::Parameter, "k"}};
   container.findParameterColumns();
-  container.state().parameterBounds = {{0, 100}};
+  stateOf(container).parameterBounds = {{0, 100}};
   container.generateRankedParameters(tableOf({{"k", {3, 1, 2, 4}}}), 1);
   container.generateRankedParameters(tableOf({{"k", {13, 11, 12, 14}}}), 3);
   container.ksTestSelection(1, 3);

@@ -1,5 +1,6 @@
 #include "external/LinePlotData.h"
 
+#include "plot/ContainerAccess.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
 
@@ -191,7 +192,7 @@ TEST_F(LinePlotDataInput, AppendsAdditionalDataAsTablesOfTheirOwn)
   container.setPlotTitle("kept");
   container.setXLabel("kept x");
   settings().xColumns = {2};
-  container.state().columnItems = {{Molecule, "M"}};
+  stateOf(container).columnItems = {{Molecule, "M"}};
   const vtkTable* before = container.getTable();
   newDrawings();
 
@@ -227,7 +228,7 @@ TEST_F(LinePlotDataInput, AppendsALineTableWithAllItsColumnsAndForgetsTheItems)
 {
   const auto lines = lineTableOf({{Molecule, "M"}, {Parameter, "constant"}, {TimeOrValue, "t"}},
                                  {{2.0, 2.0}}, 2, 3);
-  container.state().columnItems = {{Molecule, "old"}};
+  stateOf(container).columnItems = {{Molecule, "old"}};
   settings().parameterColumns = {3};
   settings().setStride(5);
   const vtkTable* before = container.getTable();

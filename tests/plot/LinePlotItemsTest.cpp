@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/CapturedOutput.h"
 #include "support/PlotFixture.h"
 #include "support/VtkErrors.h"
@@ -160,8 +161,8 @@ TEST_F(LinePlotItems, DoNothingWhileNoXYChartIsShown)
 
 TEST_F(LinePlotItems, DrawIntoTheCellThatIsTheXYChartOfAPage)
 {
-  container.state().columnItems = {{Complex, "A"}, {TimeOrValue, "Time [s]"}, {Parameter, "k"}};
-  container.state().parameterBounds = {{7.0, 9.0}, {7.0, 9.0}};
+  stateOf(container).columnItems = {{Complex, "A"}, {TimeOrValue, "Time [s]"}, {Parameter, "k"}};
+  stateOf(container).parameterBounds = {{7.0, 9.0}, {7.0, 9.0}};
   settings().parameterColumns = {2, 2};
   for (const int style : {multiPlot, selectionCdfPlot})
   {

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/CapturedOutput.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
@@ -46,7 +47,7 @@ TEST_F(LinePlotTableInput, MakesAColumnOfEveryItemThatIsNotAConstantParameter)
             (QStringList{"Complex: A", ": Time [s]", "Parameter: k", "Parameter: q"}));
   EXPECT_EQ(container.getColumnItems(),
             (Items{{Complex, "A"}, {TimeOrValue, "Time [s]"}, {Parameter, "k"}, {Parameter, "q"}}));
-  EXPECT_EQ(container.state().parameterBounds, (Ranges{{0, 2}, {4, 9}}));
+  EXPECT_EQ(stateOf(container).parameterBounds, (Ranges{{0, 2}, {4, 9}}));
   EXPECT_EQ(settings().parameterColumns, (std::vector<int>{2, 3}));
   EXPECT_EQ(settings().getStride(), 3);
 }
@@ -73,10 +74,10 @@ TEST_F(LinePlotTableInput, ReplacesTheItemsButCollectsTheBoundsOfEveryCall)
   container.setLinePlotTable(lines, false);
   EXPECT_EQ(container.getColumnItems().size(), 2U);
   EXPECT_EQ(container.getTable()->GetNumberOfColumns(), 2);
-  EXPECT_EQ(container.state().parameterBounds, (Ranges{{0, 2}, {0, 2}}));
+  EXPECT_EQ(stateOf(container).parameterBounds, (Ranges{{0, 2}, {0, 2}}));
   container.updateFromLinePlotTable(false);
   EXPECT_EQ(container.getColumnItems().size(), 2U);
-  EXPECT_EQ(container.state().parameterBounds.size(), 3U);
+  EXPECT_EQ(stateOf(container).parameterBounds.size(), 3U);
 }
 
 TEST_F(LinePlotTableInput, KeepsAParameterWithAnInfiniteBound)
@@ -84,12 +85,12 @@ TEST_F(LinePlotTableInput, KeepsAParameterWithAnInfiniteBound)
   const double inf = std::numeric_limits<double>::infinity();
   container.setLinePlotTable(lineTableOf({{Parameter, "k"}}, {{0, inf}}), false);
   EXPECT_EQ(container.getLabels(), QStringList{"Parameter: k"});
-  EXPECT_EQ(container.state().parameterBounds, (Ranges{{0, inf}}));
+  EXPECT_EQ(stateOf(container).parameterBounds, (Ranges{{0, inf}}));
 }
 
 TEST_F(LinePlotTableInput, UpdatesNothingWithoutALineTable)
 {
-  container.state().columnItems = {{Complex, "A"}};
+  stateOf(container).columnItems = {{Complex, "A"}};
   const vtkTable* before = container.getTable();
   container.updateFromLinePlotTable(false);
   EXPECT_EQ(container.getTable(), before);
@@ -182,7 +183,7 @@ TEST_F(LinePlotTableInput, HoldsTheLineTableAndReleasesTheOneBefore)
   auto first = lineTableOf({{Complex, "A"}});
   boost::weak_ptr<LinePlotTable> firstWatch = first;
   container.setLinePlotTable(first, false);
-  EXPECT_EQ(container.state().linePlotTable, first);
+  EXPECT_EQ(stateOf(container).linePlotTable, first);
   first.reset();
   EXPECT_FALSE(firstWatch.expired());
   EXPECT_EQ(container.getTable()->GetValue(5, 0).ToDouble(), lineValue(0, 5));
@@ -196,7 +197,7 @@ TEST_F(LinePlotTableInput, HoldsTheLineTableAndReleasesTheOneBefore)
 TEST_F(LinePlotTableInput, KeepsTheValuesAliveForWhoeverKeepsTheTable)
 {
   container.setLinePlotTable(lineTableOf({{Complex, "A"}}), false);
-  boost::weak_ptr<LinePlotTable> lines = container.state().linePlotTable;
+  boost::weak_ptr<LinePlotTable> lines = stateOf(container).linePlotTable;
   vtkSmartPointer<vtkTable> kept = container.getTable();
   container.setLinePlotTable(lineTableOf({{Molecule, "M"}}), false);
   EXPECT_EQ(kept->GetValue(5, 0).ToDouble(), lineValue(0, 5));
@@ -217,7 +218,7 @@ TEST(LinePlotTableOwnership, OutlivesTheContainerWithTheTable)
   container->setLinePlotTable(lineTableOf({{Complex, "A"}, {TimeOrValue, "t"}}), false);
   scene.render(*container);
   const vtkSmartPointer<vtkTable> table = container->getTable();
-  boost::weak_ptr<LinePlotTable> lines = container->state().linePlotTable;
+  boost::weak_ptr<LinePlotTable> lines = stateOf(*container).linePlotTable;
   container.reset();
   EXPECT_FALSE(lines.expired());
   EXPECT_EQ(table->GetValue(5, 1).ToDouble(), lineValue(1, 5));

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/PlotFixture.h"
 
 #include <gtest/gtest.h>
@@ -144,13 +145,13 @@ TEST_F(Margins, KeepBothOrdersOfTheGutters)
   container.setHorizontalGutter(15);
   container.setVerticalGutter(16);
   drawStyle(3);
-  EXPECT_EQ(container.state().scatterPlotMatrix->GetGutter(), vtkVector2f(16, 15));
+  EXPECT_EQ(stateOf(container).scatterPlotMatrix->GetGutter(), vtkVector2f(16, 15));
   storeStyle(5);
   container.updateMargins();
   EXPECT_EQ(container.getChartMatrix()->GetGutter(), vtkVector2f(15, 16));
   storeStyle(3);
   container.setHorizontalGutter(17);
-  EXPECT_EQ(container.state().scatterPlotMatrix->GetGutter(), vtkVector2f(16, 15))
+  EXPECT_EQ(stateOf(container).scatterPlotMatrix->GetGutter(), vtkVector2f(16, 15))
       << "the scatter-plot matrix takes the gutters when it is drawn";
 }
 

@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 #include "support/Reaction.h"
@@ -34,7 +35,7 @@ using Values = std::vector<double>;
 
 vtkAnnotationLink* matrixLink(const PlotContainer& container)
 {
-  return container.state().scatterPlotMatrix->GetAnnotationLink();
+  return stateOf(container).scatterPlotMatrix->GetAnnotationLink();
 }
 
 /// Three runs of three points in the scatter-plot matrix.
@@ -152,7 +153,7 @@ TEST_F(MatrixSelection, MayLoseItsMatrix)
 {
   const vtkSmartPointer<vtkAnnotationLink> left = matrixLink(plot.container);
   plot.container.setPlotStyle(xyPlot);
-  plot.container.state().scatterPlotMatrix = nullptr;
+  stateOf(plot.container).scatterPlotMatrix = nullptr;
   left->SetCurrentSelection(makeRowSelection({1}));
   link()->SetCurrentSelection(makeRowSelection({2}));
   EXPECT_EQ(selectedRows(plot.container), Rows({2}));

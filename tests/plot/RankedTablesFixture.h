@@ -2,6 +2,7 @@
 #define RankedTablesFixture_h
 
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/SampleRuns.h"
@@ -34,7 +35,7 @@ protected:
     settings().setStride(2);
   }
 
-  Talmesh::plot::PlotState& state() { return container.state(); }
+  Talmesh::plot::PlotState& state() { return stateOf(container); }
   PlotMetaData& settings() { return *container.getMetaData(); }
   void rank() { container.generateRankedParameters(container.getTable(), 0); }
   vtkTable* slot(std::size_t index) { return container.getDerivedTables().at(index); }

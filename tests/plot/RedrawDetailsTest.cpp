@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/PlotFixture.h"
 #include "vtk/vtkPlotLineSet.h"
 
@@ -85,10 +86,10 @@ TEST_F(RedrawDetails, PadTheFinitePartOfTheBottomAxis)
 TEST_F(RedrawDetails, FeedTheScatterPlotMatrixFromTheTable)
 {
   drawStyle(3);
-  EXPECT_EQ(container.state().scatterPlotMatrix->GetColumnName(0), "a");
+  EXPECT_EQ(stateOf(container).scatterPlotMatrix->GetColumnName(0), "a");
   container.setPlotData(tableOf({{"p", {1, 2}}, {"q", {3, 4}}, {"r", {5, 6}}}));
   container.redraw();
-  vtkStringArray* shown = container.state().scatterPlotMatrix->GetVisibleColumns();
+  vtkStringArray* shown = stateOf(container).scatterPlotMatrix->GetVisibleColumns();
   ASSERT_EQ(shown->GetNumberOfValues(), 3);
   EXPECT_EQ(shown->GetValue(0), "p");
   EXPECT_EQ(shown->GetValue(2), "r");
@@ -101,7 +102,7 @@ TEST_F(RedrawDetails, GiveThePointsInSpaceBlackAxesAndOnePlot)
   for (int drawn = 0; drawn < 2; ++drawn)
   {
     drawStyle(4);
-    vtkChartXYZ* space = container.state().chartXYZ;
+    vtkChartXYZ* space = stateOf(container).chartXYZ;
     EXPECT_EQ(space->GetAxisColor(), vtkColor4ub(0, 0, 0, 255));
     EXPECT_EQ(space->GetNumberOfItems(), 1U);
     scene.render(container);
@@ -113,7 +114,7 @@ TEST_F(RedrawDetails, FeedParallelCoordinatesFromTheTable)
   for (int drawn = 0; drawn < 2; ++drawn)
   {
     drawStyle(9);
-    vtkChartParallelCoordinates* axes = container.state().parallelCoordinates;
+    vtkChartParallelCoordinates* axes = stateOf(container).parallelCoordinates;
     EXPECT_EQ(container.getItem(), axes);
     ASSERT_EQ(axes->GetNumberOfPlots(), 1);
     EXPECT_EQ(axes->GetPlot(0)->GetInput(), container.getTable());
@@ -123,7 +124,7 @@ TEST_F(RedrawDetails, FeedParallelCoordinatesFromTheTable)
 
 TEST_F(RedrawDetails, RememberWindowsOfTheStyleAsWell)
 {
-  container.state().coordinateWindows[{0, 1, 0}] = {1, 2, 3, 4, true};
+  stateOf(container).coordinateWindows[{0, 1, 0}] = {1, 2, 3, 4, true};
   container.redraw();
   EXPECT_EQ(bottom()->GetMaximum(), 3.0);
   container.setPlotCols(0, 2, 0, false);
@@ -139,7 +140,7 @@ TEST_F(RedrawDetails, RememberWindowsOfTheStyleAsWell)
 /// Only the bottom axis is given back to the chart where no window is remembered.
 TEST_F(RedrawDetails, KeepTheLeftAxisFixedAfterARememberedWindow)
 {
-  container.state().coordinateWindows[{0, 1, 0}] = {1, 2, 3, 4, true};
+  stateOf(container).coordinateWindows[{0, 1, 0}] = {1, 2, 3, 4, true};
   container.redraw();
   ASSERT_EQ(left()->GetBehavior(), vtkAxis::FIXED);
   container.setPlotCols(0, 2, 0, false);

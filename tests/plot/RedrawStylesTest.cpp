@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/PlotFixture.h"
@@ -88,7 +89,7 @@ TEST_F(RedrawStyles, DrawsPointsInSpace)
   settings().zColumns = {2};
   setStyle(4);
   EXPECT_EQ(container.getChartXY(), nullptr);
-  EXPECT_EQ(container.getItem(), container.state().chartXYZ);
+  EXPECT_EQ(container.getItem(), stateOf(container).chartXYZ);
   scene.render(container);
   EXPECT_GT(scene.paintedPixels(), 500);
 }
@@ -97,17 +98,17 @@ TEST_F(RedrawStyles, ShowsAllAxesForTwoYColumnsAndOnlyThreeForThree)
 {
   settings().yColumns = {1, 2};
   setStyle(9);
-  vtkStringArray* shown = container.state().parallelCoordinates->GetVisibleColumns();
+  vtkStringArray* shown = stateOf(container).parallelCoordinates->GetVisibleColumns();
   EXPECT_EQ(shown->GetNumberOfValues(), 4);
   settings().yColumns = {3, 1, 2};
   container.redraw();
   ASSERT_EQ(shown->GetNumberOfValues(), 3);
   EXPECT_EQ(shown->GetValue(0), "d");
   EXPECT_EQ(shown->GetValue(2), "c");
-  EXPECT_EQ(container.state().parallelCoordinates->GetNumberOfAxes(), 3);
+  EXPECT_EQ(stateOf(container).parallelCoordinates->GetNumberOfAxes(), 3);
   for (int i = 0; i < 3; ++i)
     EXPECT_EQ(
-        container.state().parallelCoordinates->GetAxis(i)->GetLabelProperties()->GetOrientation(),
+        stateOf(container).parallelCoordinates->GetAxis(i)->GetLabelProperties()->GetOrientation(),
         -45.0);
   scene.render(container);
   EXPECT_GT(scene.paintedPixels(), 500);
@@ -118,14 +119,14 @@ TEST_F(RedrawStyles, ColorsParallelCoordinatesByTheColorColumn)
   settings().colorColumn = 2;
   setStyle(9);
   auto* plot =
-      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0));
+      vtkPlotParallelCoordinates::SafeDownCast(stateOf(container).parallelCoordinates->GetPlot(0));
   EXPECT_EQ(plot->GetScalarVisibility(), 1);
   EXPECT_EQ(plot->GetColorArrayName(), "c");
   scene.render(container);
   settings().colorColumn = -1;
   container.redraw();
   EXPECT_EQ(
-      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0))
+      vtkPlotParallelCoordinates::SafeDownCast(stateOf(container).parallelCoordinates->GetPlot(0))
           ->GetScalarVisibility(),
       0);
 }
@@ -138,7 +139,7 @@ TEST_F(RedrawStyles, ColorsParallelCoordinatesFromBlueToRedOverTheirColumn)
   settings().colorColumn = 1;
   setStyle(9);
   auto* plot =
-      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0));
+      vtkPlotParallelCoordinates::SafeDownCast(stateOf(container).parallelCoordinates->GetPlot(0));
   ASSERT_EQ(plot->GetScalarVisibility(), 1);
   vtkScalarsToColors* colors = plot->GetLookupTable();
   EXPECT_EQ(colors->GetRange()[0], 100.0);

@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
@@ -107,7 +108,7 @@ TEST_F(Redraw, EndsWithAutomaticAxesWhenNoWindowIsRemembered)
 
 TEST_F(Redraw, ShowsExactlyTheRememberedWindow)
 {
-  container.state().coordinateWindows[{0, 1, 0}] = {0.5, -2.25, 3.75, 99.0, true};
+  stateOf(container).coordinateWindows[{0, 1, 0}] = {0.5, -2.25, 3.75, 99.0, true};
   container.redraw();
   for (int i = 0; i < 2; ++i)
   {
@@ -122,15 +123,15 @@ TEST_F(Redraw, ShowsExactlyTheRememberedWindow)
 
 TEST_F(Redraw, IgnoresTheWindowOfAnotherConfiguration)
 {
-  container.state().coordinateWindows[{0, 2, 0}] = {0.5, -2.25, 3.75, 99.0, true};
-  container.state().coordinateWindows[{0, 1, 3}] = {0.5, -2.25, 3.75, 99.0, true};
+  stateOf(container).coordinateWindows[{0, 2, 0}] = {0.5, -2.25, 3.75, 99.0, true};
+  stateOf(container).coordinateWindows[{0, 1, 3}] = {0.5, -2.25, 3.75, 99.0, true};
   container.redraw();
   EXPECT_EQ(bottom()->GetBehavior(), vtkAxis::AUTO);
 }
 
 TEST_F(Redraw, IgnoresAWindowThatIsNotFinite)
 {
-  container.state().coordinateWindows[{0, 1, 0}] = {
+  stateOf(container).coordinateWindows[{0, 1, 0}] = {
       0.0, 0.0, std::numeric_limits<double>::infinity(), 1.0, true};
   container.redraw();
   EXPECT_EQ(bottom()->GetBehavior(), vtkAxis::AUTO);
@@ -161,7 +162,7 @@ TEST_F(Redraw, DrawsRunsAsLinesWhenTheSettingsSaySo)
 
 TEST_F(Redraw, LeavesTheChartOfSobolResultsBehind)
 {
-  container.state().sobolChart = container.getChartXY();
+  stateOf(container).sobolChart = container.getChartXY();
   setStyle(0);
   container.redraw();
   setStyle(1);
@@ -174,7 +175,7 @@ TEST_F(Redraw, DrawsDecorationsOnceHoweverOftenItRuns)
   container.setDecorations(plainTable(), true);
   for (const int style : {9, 0, 1})
   {
-    container.state().sobolChart = container.getChartXY();
+    stateOf(container).sobolChart = container.getChartXY();
     setStyle(style);
     container.redraw();
     const vtkIdType plots = container.getChartXY()->GetNumberOfPlots();

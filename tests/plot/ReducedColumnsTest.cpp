@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 #include "support/CapturedOutput.h"
@@ -32,7 +33,7 @@ protected:
     for (int i = 0; i < columns; ++i)
     {
       values.emplace_back("column " + std::to_string(i), std::vector<double>{1.0 * i, 2.0 * i, 3});
-      container.state().columnItems.emplace_back(Talmesh::Molecule, std::to_string(i));
+      stateOf(container).columnItems.emplace_back(Talmesh::Molecule, std::to_string(i));
     }
     container.setPlotData(tableOf(values));
     settings().xColumns = {5};
@@ -147,7 +148,7 @@ TEST_F(ReducedColumns, DropAnItemThatOnlyTheFlagsHad)
 {
   keepOldFlags(4);
   settings().zColumns = {4};
-  container.state().columnItems.resize(5);
+  stateOf(container).columnItems.resize(5);
   container.shrinkToColumnSelection();
   EXPECT_EQ(itemNames(), (std::vector<std::string>{"2", "3"}));
 }

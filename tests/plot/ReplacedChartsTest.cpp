@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/HandlerScope.h"
 #include "plot/SelectionNodes.h"
 #include "support/PlotFixture.h"
@@ -88,7 +89,7 @@ protected:
   {
     drawStyle(style);
     scene.render(container);
-    const Talmesh::plot::PlotState& state = container.state();
+    const Talmesh::plot::PlotState& state = stateOf(container);
     if (style == scatterPlotMatrix)
       return {state.scatterPlotMatrix, state.scatterPlotMatrix->GetMainChart(),
               state.scatterPlotMatrix->GetChart(vtkVector2i(0, 0))};

@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/PlotStyleCount.h"
@@ -175,8 +176,8 @@ TEST_F(ResidualChart, ACellOfTheMatrixIsNotUsed)
   container.getChartMatrix()->SetSize(vtkVector2i(1, 1));
   auto* cell = vtkChartXY::SafeDownCast(container.getChartMatrix()->GetChart(vtkVector2i(0, 0)));
   ASSERT_NE(cell, nullptr);
-  container.state().chartXY = cell;
-  container.state().currentChart = container.getChartMatrix();
+  stateOf(container).chartXY = cell;
+  stateOf(container).currentChart = container.getChartMatrix();
   show(course, false, false);
   EXPECT_NE(chart(), cell);
   EXPECT_EQ(container.getItem(), chart());

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/DerivedTables.h"
 #include "plot/SelectionNodes.h"
 #include "support/ParameterStudy.h"
@@ -143,7 +144,7 @@ TEST_F(SelectionBounds, LeaveItToTheContainerToReactToWhatIsSelectedInAnswer)
   container.getAnnotationLink()->RemoveObserver(reaction);
   EXPECT_TRUE(answered);
   EXPECT_EQ(SampleRuns::selectedRows(container), Rows({8}));
-  const auto& tables = container.state().derivedTables;
+  const auto& tables = stateOf(container).derivedTables;
   ASSERT_GT(tables.size(), Talmesh::plot::ownSlots);
   vtkTable* selected = tables[Talmesh::plot::ownSlots];
   ASSERT_NE(selected, nullptr);

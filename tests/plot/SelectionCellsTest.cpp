@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/DistributionCell.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
@@ -114,7 +115,7 @@ TEST_F(SelectionCells, DrawsAllDensitiesOfASelectionOnOneScale)
 TEST_F(SelectionCells, ShowsAParameterTwiceWhenResultsAreMissing)
 {
   draw(6);
-  container.state().ksResults = {{0.5, 0.2}, {0.001, 0.7}};
+  stateOf(container).ksResults = {{0.5, 0.2}, {0.001, 0.7}};
   container.redraw();
   // k2 differs, k1 does not, and the row is filled from the first parameter on.
   const char* order[] = {"k2", "k1", "k1", "k2"};
@@ -131,7 +132,7 @@ TEST_F(SelectionCells, ShowsAParameterTwiceWhenResultsAreMissing)
 TEST_F(SelectionCells, HasNoButtonForPanAndZoomInAnyChart)
 {
   draw(6);
-  container.state().ksResults.assign(6, {0.001, 0.7});
+  stateOf(container).ksResults.assign(6, {0.001, 0.7});
   container.redraw();
   ASSERT_EQ(matrix()->GetSize(), vtkVector2i(4, 4));
   for (int i = 0; i < 6; ++i)
@@ -173,11 +174,11 @@ TEST_F(SelectionCells, RanksSlopesOfSelectedRunsAsTheSignificantParameter)
 TEST_F(SelectionCells, RebuildsMissingRankTables)
 {
   draw(3);
-  container.state().derivedTables.assign(2, nullptr);
+  stateOf(container).derivedTables.assign(2, nullptr);
   container.redraw();
   ASSERT_NE(container.getDerivedTables()[0], nullptr);
   EXPECT_EQ(cell(0, 0)->GetPlot(0)->GetInput(), container.getDerivedTables()[0]);
-  container.state().derivedTables.clear();
+  stateOf(container).derivedTables.clear();
   container.redraw();
   EXPECT_EQ(container.getDerivedTables().size(), 2U);
 }
@@ -185,8 +186,8 @@ TEST_F(SelectionCells, RebuildsMissingRankTables)
 TEST_F(SelectionCells, LeavesCurvesOfForeignTablesEmpty)
 {
   draw(3);
-  container.state().derivedTables.resize(8, plainTable());
-  container.state().derivedTables[4] = nullptr;
+  stateOf(container).derivedTables.resize(8, plainTable());
+  stateOf(container).derivedTables[4] = nullptr;
   container.redraw();
   ASSERT_EQ(cell(0, 0)->GetNumberOfPlots(), 3);
   EXPECT_EQ(cell(0, 0)->GetPlot(1)->GetInput(), nullptr);

@@ -1,5 +1,6 @@
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "support/SampleRuns.h"
 #include "vtk/VtkCompat.h"
@@ -80,7 +81,7 @@ TEST(ExternalRuns, BecomeATableOfTheirFirstRows)
 TEST(ExternalRuns, AreRankedInTheSlotBehindTheirTable)
 {
   SampleRuns::Plot plot(SampleRuns::runs(5, 2));
-  plot.container.state().derivedTables.resize(2);
+  stateOf(plot.container).derivedTables.resize(2);
   setExternal(plot.container, {1, 2});
   const auto& tables = plot.container.getDerivedTables();
   ASSERT_EQ(tables.size(), 5U);
@@ -132,14 +133,14 @@ TEST(ExternalRuns, ChangeNothingWithoutAnyRunIndex)
 {
   SampleRuns::Plot plot(SampleRuns::runs(3, 2));
   plot.container.getTable()->GetColumn(SampleRuns::runIndexColumn)->SetName("run");
-  const unsigned long before = plot.container.state().drawings;
+  const unsigned long before = stateOf(plot.container).drawings;
   for (const std::vector<int>& parameters : {std::vector<int>{}, {0}, {99}})
   {
     plot.container.getMetaData()->parameterColumns = parameters;
     setExternal(plot.container, {1});
   }
   EXPECT_EQ(plot.container.getDerivedTables().size(), 0U);
-  EXPECT_EQ(plot.container.state().drawings, before);
+  EXPECT_EQ(stateOf(plot.container).drawings, before);
 }
 
 TEST(ExternalRuns, ChangeNothingWithARunIndexThatIsNotDouble)
@@ -169,9 +170,9 @@ TEST(ExternalRuns, ChangeNothingWithoutRowsPerRunOrRecord)
 TEST(ExternalRuns, AreDrawnAndLeaveTheSelectionAsItIs)
 {
   SampleRuns::Plot plot(SampleRuns::runs(3, 2));
-  const unsigned long before = plot.container.state().drawings;
+  const unsigned long before = stateOf(plot.container).drawings;
   setExternal(plot.container, {1});
-  EXPECT_EQ(plot.container.state().drawings, before + 1);
+  EXPECT_EQ(stateOf(plot.container).drawings, before + 1);
   EXPECT_TRUE(plot.scene->GetDirty());
   EXPECT_EQ(SampleRuns::selectedRows(plot.container), std::set<vtkIdType>());
 }
@@ -186,12 +187,12 @@ TEST(ExternalRuns, ChangeNothingWhenTheyCannotBeRanked)
   setExternal(plot.container, {1});
   const auto before = plot.container.getDerivedTables();
   ASSERT_EQ(before.size(), 3U);
-  const unsigned long drawings = plot.container.state().drawings;
+  const unsigned long drawings = stateOf(plot.container).drawings;
   UnreadableColumn::broken = true;
   EXPECT_THROW(setExternal(plot.container, {2}), std::runtime_error);
   UnreadableColumn::broken = false;
   EXPECT_EQ(plot.container.getDerivedTables(), before);
-  EXPECT_EQ(plot.container.state().drawings, drawings);
+  EXPECT_EQ(stateOf(plot.container).drawings, drawings);
   EXPECT_FALSE(plot.container.getMetaData()->signalsBlocked());
   setExternal(plot.container, {2});
   EXPECT_EQ(plot.container.getDerivedTables().size(), 6U);

@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
@@ -91,7 +92,7 @@ TEST(CopiedSelection, SurvivesTheMarkersOfASplit)
             std::vector<double>({0, 0, 1, 1, 0, 0}));
   // The copy has split its own table when its selection was made.
   EXPECT_EQ(copy->getDerivedTables().size(), 8U);
-  EXPECT_EQ(copy->state().selectionUpdateCallback->Container, copy.get());
+  EXPECT_EQ(stateOf(*copy).selectionUpdateCallback->Container, copy.get());
 }
 
 TEST(CopiedSelection, OutlivesTheOriginal)
@@ -117,7 +118,7 @@ TEST(SelectionLifetime, TheLinkAnnouncesNothingToADeadContainer)
   {
     SampleRuns::Plot plot(SampleRuns::runs(3, 2));
     link = plot.container.getAnnotationLink();
-    callback = plot.container.state().selectionUpdateCallback;
+    callback = stateOf(plot.container).selectionUpdateCallback;
     ASSERT_EQ(callback->Container, &plot.container);
     ASSERT_TRUE(link->HasObserver(vtkCommand::AnnotationChangedEvent, callback));
   }
@@ -145,7 +146,7 @@ TEST(SelectionLifetime, ACallbackWatchesAForeignLinkUntilItsContainerDies)
   {
     SampleRuns::Plot plot(SampleRuns::runs(3, 2));
     link->AddObserver(vtkCommand::AnnotationChangedEvent,
-                      plot.container.state().selectionUpdateCallback);
+                      stateOf(plot.container).selectionUpdateCallback);
     link->SetCurrentSelection(makeRowSelection({2}));
     EXPECT_EQ(SampleRuns::valuesOf(plot.container.getDerivedTables().at(2), "Complex: A"),
               std::vector<double>({10}));

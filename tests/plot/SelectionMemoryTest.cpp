@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/DerivedTables.h"
 #include "plot/TableColumns.h"
 #include "support/CapturedOutput.h"
@@ -126,7 +127,7 @@ TEST_F(SelectionMemory, LeavesColumnsBehindTheMarksInTheirPlaces)
 TEST_F(SelectionMemory, IsFilledByOneRankingOfEachPart)
 {
   // Each ranking says that there is a pair of bounds too few.
-  container.state().parameterBounds.pop_back();
+  stateOf(container).parameterBounds.pop_back();
   CapturedOutput errors(std::cerr);
   container.redraw();
   const std::string said = errors.text();

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "vtk/vtkPlotInvisiblePoints.h"
 #include "vtk/vtkPlotLineSet.h"
 
@@ -128,14 +129,14 @@ TEST_F(SelectionPageColors, FillTheQuantileBands)
     vtkPlot* band = container.getChartXY()->GetPlot(i);
     EXPECT_EQ(penColor(band->GetPen()), expected[i]);
     EXPECT_EQ(penColor(band->GetSelectionPen()), expected[i]);
-    EXPECT_EQ(band->GetInput(), container.state().quartileTable);
+    EXPECT_EQ(band->GetInput(), stateOf(container).quartileTable);
   }
 }
 
 TEST_F(SelectionPageColors, NeedNoBandsWithoutQuartiles)
 {
   draw(3);
-  container.state().quartileTable = nullptr;
+  stateOf(container).quartileTable = nullptr;
   settings().setShowQuantiles(true);
   EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), 1);
   scene.render(container);

@@ -1,3 +1,5 @@
+#include "plot/ContainerAccess.h"
+
 #include <gtest/gtest.h>
 
 #include "PageProbes.h"
@@ -15,10 +17,10 @@ protected:
   void fillSlots(std::size_t count)
   {
     const auto own = container.getDerivedTables();
-    auto& tables = container.state().derivedTables;
+    auto& tables = stateOf(container).derivedTables;
     tables.clear();
     for (std::size_t slot = 0; slot < count; ++slot)
-      tables.push_back(slot % 3 < 2 ? own[slot % 3] : container.state().table);
+      tables.push_back(slot % 3 < 2 ? own[slot % 3] : stateOf(container).table);
     container.redraw();
   }
 
@@ -98,8 +100,8 @@ TEST_F(SelectionPageCurves, RunFromZeroToOneInEveryChart)
 TEST_F(SelectionPageCurves, AreHeadedByAProbabilityOfZeroInFixedNotation)
 {
   draw(4);
-  container.state().ksResults.assign(4, {0.0, 0.9});
-  container.state().ksResults[3].pValue = 0.00999;
+  stateOf(container).ksResults.assign(4, {0.0, 0.9});
+  stateOf(container).ksResults[3].pValue = 0.00999;
   container.redraw();
   for (int column = 0; column < 3; ++column)
     EXPECT_EQ(cell(column, 0)->GetTitle(), "p = 0.00");

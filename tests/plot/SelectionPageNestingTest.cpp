@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "support/CapturedOutput.h"
 #include "support/Reaction.h"
@@ -18,7 +19,7 @@ protected:
   /// Selects rows without the container's knowing.
   void selectUnnoticed(const std::vector<vtkIdType>& rows)
   {
-    auto& callback = *container.state().selectionUpdateCallback;
+    auto& callback = *stateOf(container).selectionUpdateCallback;
     PlotContainer* const listener = callback.Container;
     callback.Container = nullptr;
     container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
@@ -95,7 +96,7 @@ TEST_F(SelectionPageNesting, GoesOnAfterADrawingThatFailed)
   std::vector<vtkIdType> firstRuns(8 * points);
   std::iota(firstRuns.begin(), firstRuns.end(), 0);
   selectUnnoticed(firstRuns);
-  container.state().selectionUpdatePending = true;
+  stateOf(container).selectionUpdatePending = true;
   CapturedOutput errors(std::cerr);
   container.redraw();
   EXPECT_EQ(errors.text(),
@@ -108,9 +109,9 @@ TEST_F(SelectionPageNesting, GoesOnAfterADrawingThatFailed)
 TEST_F(SelectionPageNesting, GoesOnAfterAnUpdateThatHasNothingToCompare)
 {
   draw(0);
-  container.state().selectionUpdatePending = true;
+  stateOf(container).selectionUpdatePending = true;
   container.redraw();
-  EXPECT_FALSE(container.state().selectionUpdatePending);
+  EXPECT_FALSE(stateOf(container).selectionUpdatePending);
   EXPECT_EQ(matrix()->GetSize(), vtkVector2i(1, 2));
   expectOnePage(0);
 }
@@ -118,12 +119,12 @@ TEST_F(SelectionPageNesting, GoesOnAfterAnUpdateThatHasNothingToCompare)
 TEST_F(SelectionPageNesting, CountsCompletedDrawingsOnly)
 {
   draw(3);
-  const unsigned long before = container.state().drawings;
+  const unsigned long before = stateOf(container).drawings;
   container.redraw();
-  EXPECT_EQ(container.state().drawings, before + 1);
+  EXPECT_EQ(stateOf(container).drawings, before + 1);
   container.getTable()->GetColumnByName("Parameter: k2")->SetName("k2");
   EXPECT_THROW(container.redraw(), std::out_of_range);
-  EXPECT_EQ(container.state().drawings, before + 1);
+  EXPECT_EQ(stateOf(container).drawings, before + 1);
 }
 
 TEST_F(SelectionPageNesting, MutesTheChartsThatANewPageDrops)
@@ -138,7 +139,7 @@ TEST_F(SelectionPageNesting, MutesTheChartsThatANewPageDrops)
       container.drawSelectionCdfPlot(scene.scene());
     ASSERT_NE(container.getChartXY(), old);
     old->InvokeEvent(vtkCommand::InteractionEvent);
-    EXPECT_TRUE(container.state().coordinateWindows.empty());
+    EXPECT_TRUE(stateOf(container).coordinateWindows.empty());
   }
 }
 
@@ -166,7 +167,7 @@ TEST_F(SelectionPageNesting, RunsTheStepsOfClientsOnceForThePageThatIsShown)
                             ++completions;
                             container.getChartXY()->AddPlot(vtkChart::POINTS);
                           });
-  container.state().selectionUpdatePending = true;
+  stateOf(container).selectionUpdatePending = true;
   container.redraw();
   EXPECT_EQ(completions, 1);
   EXPECT_EQ(preparations, 2) << "of the drawing begun and of the one within";

@@ -1,3 +1,5 @@
+#include "plot/ContainerAccess.h"
+
 #include <gtest/gtest.h>
 
 #include "SelectionPageFixture.h"
@@ -16,7 +18,7 @@ protected:
 TEST_F(SelectionPageTables, TakeTheFirstSlotsFromAdditionalData)
 {
   draw(3);
-  container.state().derivedTables = {plainTable(), plainTable()};
+  stateOf(container).derivedTables = {plainTable(), plainTable()};
   container.redraw();
   ASSERT_EQ(tables().size(), 2U);
   EXPECT_EQ(ownCurve()->GetInput(), tables()[0]);
@@ -31,7 +33,7 @@ TEST_F(SelectionPageTables, AreRebuiltWhenOnlyTheDensitiesAreMissing)
   settings().setUseDensity(true);
   for (const auto& other : {vtkSmartPointer<vtkTable>(), plainTable()})
   {
-    container.state().derivedTables[1] = other;
+    stateOf(container).derivedTables[1] = other;
     container.redraw();
     ASSERT_NE(tables()[1], nullptr);
     EXPECT_EQ(ownCurve()->GetInput(), tables()[1]);
@@ -42,7 +44,7 @@ TEST_F(SelectionPageTables, AreRebuiltWhenOnlyTheDensitiesAreMissing)
 TEST_F(SelectionPageTables, AreRebuiltWhenTheRunsWereRankedForAnotherSlot)
 {
   draw(3);
-  container.state().derivedTables.clear();
+  stateOf(container).derivedTables.clear();
   container.generateRankedParameters(container.getTable(), 3);
   ASSERT_TRUE(settings().rankedDataCurrent);
   container.redraw();

@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 
@@ -52,9 +53,9 @@ TEST_F(SelectionPage, ShowsOnlyTheTrajectoriesWithoutParameters)
 TEST_F(SelectionPage, PutsSignificantParametersFirst)
 {
   draw(10);
-  container.state().ksResults.assign(10, {0.5, 0.2});
+  stateOf(container).ksResults.assign(10, {0.5, 0.2});
   for (const std::size_t i : {1U, 3U, 5U, 7U, 9U})
-    container.state().ksResults[i] = {0.001, 0.7};
+    stateOf(container).ksResults[i] = {0.001, 0.7};
   container.redraw();
   EXPECT_EQ(matrix()->GetSize(), vtkVector2i(4, 4));
   EXPECT_EQ(container.getChartXY(), cell(0, 2));
@@ -83,11 +84,11 @@ TEST_F(SelectionPage, RunsAPendingUpdateOnceAndFillsThePageOnce)
 {
   draw(3);
   selectFirstRuns(5);
-  container.state().derivedTables.resize(2);
-  container.state().ksResults.clear();
-  container.state().selectionUpdatePending = true;
+  stateOf(container).derivedTables.resize(2);
+  stateOf(container).ksResults.clear();
+  stateOf(container).selectionUpdatePending = true;
   container.redraw();
-  EXPECT_FALSE(container.state().selectionUpdatePending);
+  EXPECT_FALSE(stateOf(container).selectionUpdatePending);
   EXPECT_EQ(container.getKsResults().size(), 3U);
   EXPECT_EQ(cell(0, 0)->GetNumberOfPlots(), 3);
   EXPECT_EQ(container.getChartXY()->GetNumberOfPlots(), 1);
@@ -98,7 +99,7 @@ TEST_F(SelectionPage, RunsAPendingUpdateOnceAndFillsThePageOnce)
 TEST_F(SelectionPage, SkipsResultsOfParametersThatAreGone)
 {
   draw(2);
-  container.state().ksResults.assign(9, {0.001, 0.9});
+  stateOf(container).ksResults.assign(9, {0.001, 0.9});
   container.redraw();
   EXPECT_EQ(matrix()->GetSize(), vtkVector2i(2, 2));
   scene.render(container);

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/CapturedOutput.h"
 
 #include <gtest/gtest.h>
@@ -56,8 +57,8 @@ TEST_F(SelectionPageTitles, AreCutFromTheShownParametersOnly)
   rename("Parameter: k5", "k5");
   container.redraw();
   EXPECT_EQ(title(3), "k4");
-  container.state().ksResults.assign(6, {0.5, 0.2});
-  container.state().ksResults[4] = {0.001, 0.9};
+  stateOf(container).ksResults.assign(6, {0.5, 0.2});
+  stateOf(container).ksResults[4] = {0.001, 0.9};
   EXPECT_THROW(container.redraw(), std::out_of_range);
 }
 

@@ -1,5 +1,6 @@
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
@@ -203,9 +204,9 @@ TEST(SelectionOfRuns, LeavesOutARowThatAPartialRunDoesNotHave)
 TEST(SelectionOfRuns, AsksForNoDrawing)
 {
   SampleRuns::Plot plot(SampleRuns::runs(3, 2, 0));
-  const unsigned long before = plot.container.state().drawings;
+  const unsigned long before = stateOf(plot.container).drawings;
   select(plot.container, {1}, 0);
-  EXPECT_EQ(plot.container.state().drawings, before);
+  EXPECT_EQ(stateOf(plot.container).drawings, before);
 }
 
 TEST(SelectedRuns, AreTheRunsOfTheSelectedRowsWithTheirSource)

@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "vtk/vtkPlotLineSet.h"
@@ -29,7 +30,7 @@ TEST_F(SelectionTrajectories, BindsSelectionAndWindowMemoryToTheTrajectories)
   EXPECT_EQ(cell(0, 0)->GetActionToButton(vtkChart::PAN), -1);
   EXPECT_EQ(cell(0, 0)->GetActionToButton(vtkChart::ZOOM), -1);
   container.getChartXY()->InvokeEvent(vtkCommand::InteractionEvent);
-  EXPECT_EQ(container.state().coordinateWindows.size(), 1U);
+  EXPECT_EQ(stateOf(container).coordinateWindows.size(), 1U);
 }
 
 TEST_F(SelectionTrajectories, FixesTheTimeAxisJustBeyondTheData)
@@ -45,7 +46,7 @@ TEST_F(SelectionTrajectories, FixesTheTimeAxisJustBeyondTheData)
 TEST_F(SelectionTrajectories, ShowsTheRememberedWindow)
 {
   draw(3);
-  container.state().coordinateWindows[{1, 0, 6}] = {11, 2, 12, 5, true};
+  stateOf(container).coordinateWindows[{1, 0, 6}] = {11, 2, 12, 5, true};
   container.redraw();
   scene.render(container);
   EXPECT_EQ(container.getChartXY()->GetAxis(vtkAxis::BOTTOM)->GetMinimum(), 11.0);

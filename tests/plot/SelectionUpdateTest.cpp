@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
 #include "plot/SelectionNodes.h"
@@ -44,7 +45,7 @@ std::string timeColumnName(const std::vector<std::string>& names, int firstParam
   for (const std::string& name : names)
     container.addColumn({0.0}, name);
   container.getMetaData()->parameterColumns = {firstParameter};
-  const int column = Talmesh::plot::timeColumnOf(container.state());
+  const int column = Talmesh::plot::timeColumnOf(stateOf(container));
   return column < 0 ? std::to_string(column) : container.getTable()->GetColumnName(column);
 }
 
@@ -102,7 +103,7 @@ TEST(SelectionUpdate, StartsFromTheOwnTablesEachTime)
 {
   SampleRuns::Plot plot(SampleRuns::runs(4, 3));
   vtkNew<vtkTable> own;
-  plot.container.state().derivedTables = {own.Get(), nullptr, nullptr};
+  stateOf(plot.container).derivedTables = {own.Get(), nullptr, nullptr};
   for (int repetition = 0; repetition < 3; ++repetition)
   {
     select(plot.container, {static_cast<vtkIdType>(3 * repetition)});
@@ -144,10 +145,10 @@ TEST(SelectionUpdate, AddsNoTablesForAnEmptySelectionButDraws)
 {
   SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   select(plot.container, {0});
-  const unsigned long before = plot.container.state().drawings;
+  const unsigned long before = stateOf(plot.container).drawings;
   select(plot.container, {});
   EXPECT_EQ(plot.container.getDerivedTables().size(), 2U);
-  EXPECT_EQ(plot.container.state().drawings, before + 1);
+  EXPECT_EQ(stateOf(plot.container).drawings, before + 1);
 }
 
 TEST(SelectionUpdate, ComparesAllRunsWithNone)
@@ -196,7 +197,7 @@ TEST(SelectionUpdate, RunsOnDemand)
 {
   SampleRuns::Plot plot(SampleRuns::runs(3, 3));
   select(plot.container, {0});
-  plot.container.state().derivedTables.clear();
+  stateOf(plot.container).derivedTables.clear();
   plot.container.annotationUpdate();
   EXPECT_EQ(plot.container.getDerivedTables().size(), 8U);
 }
@@ -204,21 +205,21 @@ TEST(SelectionUpdate, RunsOnDemand)
 TEST(SelectionUpdate, IgnoresCallersThatAreNoLink)
 {
   SampleRuns::Plot plot(SampleRuns::runs(3, 3));
-  vtkSelectionUpdateCallback* callback = plot.container.state().selectionUpdateCallback;
-  const unsigned long before = plot.container.state().drawings;
+  vtkSelectionUpdateCallback* callback = stateOf(plot.container).selectionUpdateCallback;
+  const unsigned long before = stateOf(plot.container).drawings;
   callback->Execute(nullptr, 0, nullptr);
   callback->Execute(plot.container.getTable(), 0, nullptr);
   EXPECT_EQ(plot.container.getDerivedTables().size(), 0U);
-  EXPECT_EQ(plot.container.state().drawings, before);
+  EXPECT_EQ(stateOf(plot.container).drawings, before);
 }
 
 TEST(SelectionUpdate, NeedsParameterColumns)
 {
   SampleRuns::Plot plot(SampleRuns::runs(3, 3, 0));
-  const unsigned long before = plot.container.state().drawings;
+  const unsigned long before = stateOf(plot.container).drawings;
   select(plot.container, {0});
   EXPECT_EQ(plot.container.getDerivedTables().size(), 0U);
-  EXPECT_EQ(plot.container.state().drawings, before);
+  EXPECT_EQ(stateOf(plot.container).drawings, before);
 }
 
 TEST(SelectionUpdate, NeedsAContainer)
@@ -253,11 +254,11 @@ TEST(SelectionUpdate, DrawsEvenWithoutATimeColumn)
   vtkTable* table = plot.container.getTable();
   table->GetColumn(SampleRuns::timeColumn)->SetName("t");
   plot.container.getMetaData()->parameterColumns = {1};
-  const unsigned long before = plot.container.state().drawings;
+  const unsigned long before = stateOf(plot.container).drawings;
   const QuietVtk quiet;
   select(plot.container, {0});
   EXPECT_EQ(plot.container.getDerivedTables().size(), 2U);
-  EXPECT_EQ(plot.container.state().drawings, before + 1);
+  EXPECT_EQ(stateOf(plot.container).drawings, before + 1);
   EXPECT_EQ(table->GetColumnByName("vtkRemainderSelection"), nullptr);
 }
 

@@ -1,4 +1,5 @@
 #include "external/LinePlotData.h"
+#include "plot/ContainerAccess.h"
 #include "support/CapturedOutput.h"
 #include "support/PlotFixture.h"
 
@@ -115,7 +116,7 @@ TEST(ContainerSlotsWithoutScene, MarkNothingDirty)
   PlotContainer container(nullptr);
   const CapturedOutput output(std::cout);
   container.dirty();
-  container.state().currentChart = nullptr;
+  stateOf(container).currentChart = nullptr;
   container.dirty();
   EXPECT_EQ(output.text(), "");
   EXPECT_FALSE(container.getMetaData()->signalsBlocked());

@@ -1,4 +1,5 @@
 #include "external/Distribution.h"
+#include "plot/ContainerAccess.h"
 #include "plot/SelectionNodes.h"
 
 #include <vtkContextMouseEvent.h>
@@ -58,11 +59,11 @@ TEST_F(SobolSelection, IsNoneThatTheMouseMakes)
   ASSERT_FALSE(container.getMetaData()->parameterColumns.empty());
   const vtkSmartPointer<vtkChartXY> before = chart();
   const std::string title = before->GetTitle();
-  const unsigned long drawings = container.state().drawings;
+  const unsigned long drawings = stateOf(container).drawings;
   drag();
   EXPECT_EQ(chart(), before);
   EXPECT_EQ(std::string(before->GetTitle()), title);
-  EXPECT_EQ(container.state().drawings, drawings);
+  EXPECT_EQ(stateOf(container).drawings, drawings);
   EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({1, 90}));
 }
 
@@ -71,11 +72,11 @@ TEST_F(SobolSelection, OfAProgramIsKeptWithoutAReaction)
   ASSERT_FALSE(container.getMetaData()->parameterColumns.empty());
   const vtkSmartPointer<vtkChartXY> before = chart();
   const std::string title = before->GetTitle();
-  const unsigned long drawings = container.state().drawings;
+  const unsigned long drawings = stateOf(container).drawings;
   container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
   container.annotationUpdate();
   EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({2, 70}));
-  EXPECT_EQ(container.state().drawings, drawings);
+  EXPECT_EQ(stateOf(container).drawings, drawings);
   EXPECT_EQ(chart(), before);
   EXPECT_EQ(std::string(before->GetTitle()), title);
 }
@@ -85,10 +86,10 @@ TEST_F(SobolSelection, OfAProgramLeavesADistributionAlone)
   UniformDistribution uniform(0.0, 1.0);
   container.setDistribution(&uniform);
   const vtkSmartPointer<vtkChartXY> before = chart();
-  const unsigned long drawings = container.state().drawings;
+  const unsigned long drawings = stateOf(container).drawings;
   container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
   EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({2, 70}));
-  EXPECT_EQ(container.state().drawings, drawings);
+  EXPECT_EQ(stateOf(container).drawings, drawings);
   EXPECT_FALSE(before->GetInteractive());
 }
 

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
 
@@ -27,14 +28,14 @@ TEST_F(TableInput, UsesTheTableItIsGiven)
 
 TEST_F(TableInput, EmptiesTheDerivedTablesForANewTable)
 {
-  container.state().derivedTables = {plainTable(), nullptr};
+  stateOf(container).derivedTables = {plainTable(), nullptr};
   container.setPlotData(plainTable());
   EXPECT_TRUE(container.getDerivedTables().empty());
 }
 
 TEST_F(TableInput, FindsTheParametersOfTheItemsItHas)
 {
-  container.state().columnItems = {{Complex, "A"}, {Parameter, "k"}};
+  stateOf(container).columnItems = {{Complex, "A"}, {Parameter, "k"}};
   settings().parameterColumns = {7, 8};
   container.setPlotData(plainTable());
   EXPECT_EQ(settings().parameterColumns, std::vector<int>{1});
@@ -69,7 +70,7 @@ TEST_F(TableInput, IgnoresANullTable)
 
 TEST_F(TableInput, FindsParameterColumnsByTheirPositionAmongTheItems)
 {
-  container.state().columnItems = {
+  stateOf(container).columnItems = {
       {Complex, "A"}, {Parameter, "k1"}, {Pattern, "P"}, {Parameter, "k2"}};
   settings().parameterColumns = {9};
   newDrawings();

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/PlotFixture.h"
 #include "support/SoundPicture.h"
 #include "support/VtkErrors.h"
@@ -77,17 +78,17 @@ TEST_F(TitlesAndAxes, ReplaceTickLabelsAndPositionsWhole)
 {
   container.setXTickLabels({"one", "two", "three"});
   container.setXTickPosition({0.5, 1.5, 2.5});
-  const vtkSmartPointer<vtkStringArray> labels = container.state().xTickLabels;
-  const vtkSmartPointer<vtkDoubleArray> positions = container.state().xTickPositions;
+  const vtkSmartPointer<vtkStringArray> labels = stateOf(container).xTickLabels;
+  const vtkSmartPointer<vtkDoubleArray> positions = stateOf(container).xTickPositions;
   container.setXTickLabels({"only"});
   container.setXTickPosition({4.0});
-  EXPECT_NE(container.state().xTickLabels, labels);
-  EXPECT_NE(container.state().xTickPositions, positions);
+  EXPECT_NE(stateOf(container).xTickLabels, labels);
+  EXPECT_NE(stateOf(container).xTickPositions, positions);
   EXPECT_EQ(labels->GetNumberOfValues(), 3);
-  ASSERT_EQ(container.state().xTickLabels->GetNumberOfValues(), 1);
-  EXPECT_EQ(container.state().xTickLabels->GetValue(0), "only");
-  ASSERT_EQ(container.state().xTickPositions->GetNumberOfValues(), 1);
-  EXPECT_EQ(container.state().xTickPositions->GetValue(0), 4.0);
+  ASSERT_EQ(stateOf(container).xTickLabels->GetNumberOfValues(), 1);
+  EXPECT_EQ(stateOf(container).xTickLabels->GetValue(0), "only");
+  ASSERT_EQ(stateOf(container).xTickPositions->GetNumberOfValues(), 1);
+  EXPECT_EQ(stateOf(container).xTickPositions->GetValue(0), 4.0);
 }
 
 TEST_F(TitlesAndAxes, TakeNoTicksWithoutLabels)

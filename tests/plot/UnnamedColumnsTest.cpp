@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "support/PlotFixture.h"
 
 #include <vtkPlotParallelCoordinates.h>
@@ -59,7 +60,7 @@ TEST_F(UnnamedFirstColumn, DoesNotKeepParallelLinesFromBeingColored)
 {
   drawStyle(parallelCoordinates);
   auto* lines =
-      vtkPlotParallelCoordinates::SafeDownCast(container.state().parallelCoordinates->GetPlot(0));
+      vtkPlotParallelCoordinates::SafeDownCast(stateOf(container).parallelCoordinates->GetPlot(0));
   EXPECT_EQ(lines->GetColorArrayName(), "c");
   scene.render(container);
 }

@@ -3,6 +3,7 @@
 
 #include "external/PlotMetaData.h"
 #include "external/PlotStyles.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "support/PlotScene.h"
@@ -63,7 +64,7 @@ protected:
   unsigned long newDrawings()
   {
     const unsigned long before = counted;
-    counted = container.state().drawings;
+    counted = stateOf(container).drawings;
     return counted - before;
   }
 

@@ -1,6 +1,7 @@
 #include "support/SampleRuns.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 
@@ -112,8 +113,8 @@ std::vector<std::pair<double, double>> parameterBounds(const Shape& shape)
 
 void load(PlotContainer& container, const Shape& shape)
 {
-  container.state().columnItems = items(shape);
-  container.state().parameterBounds = parameterBounds(shape);
+  stateOf(container).columnItems = items(shape);
+  stateOf(container).parameterBounds = parameterBounds(shape);
   const bool wasBlocked = container.getMetaData()->blockSignals(true);
   container.getMetaData()->setStride(shape.stride);
   container.getMetaData()->blockSignals(wasBlocked);

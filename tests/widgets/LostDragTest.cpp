@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 
 #include <vtkRenderWindowInteractor.h>
@@ -71,7 +72,7 @@ TEST_P(LostDrag, EndsWithItsContainer)
 TEST_P(LostDrag, InTheParallelCoordinatesEndsOnTheirAxis)
 {
   showStyle(parallelCoordinates);
-  vtkAxis* axis = container().state().parallelCoordinates->GetAxis(0);
+  vtkAxis* axis = stateOf(container()).parallelCoordinates->GetAxis(0);
   const QPoint onAxis(qRound(axis->GetPoint1()[0]), widget.height() / 2);
   press(onAxis);
   showStyle(xyPlot);
@@ -83,7 +84,7 @@ TEST_P(LostDrag, LeavesNoTurningMatrixBehind)
 {
   container().getMetaData()->setLimitColumVisibility(true);
   showStyle(scatterPlotMatrix);
-  vtkScatterPlotMatrix* matrix = container().state().scatterPlotMatrix;
+  vtkScatterPlotMatrix* matrix = stateOf(container()).scatterPlotMatrix;
   vtkChart* pair = matrix->GetChart(vtkVector2i(1, 0));
   ASSERT_NE(matrix->GetActivePlot(), vtkVector2i(1, 0));
   clickPixel({qRound((pair->GetPoint1()[0] + pair->GetPoint2()[0]) / 2.0),

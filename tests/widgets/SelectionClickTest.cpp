@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
@@ -135,14 +136,14 @@ TEST_P(SelectionClick, OfTheLeftButtonSelectsNothingAndFixesNoAxes)
 {
   click({1.0, 11.0}, Qt::NoModifier, Qt::LeftButton);
   EXPECT_EQ(announcements(), 0);
-  EXPECT_TRUE(container().state().coordinateWindows.empty());
+  EXPECT_TRUE(stateOf(container()).coordinateWindows.empty());
   vtkChartXY* chart = container().getChartXY();
   const QPoint at =
       pixelOf({1.0, 11.0}, chart->GetAxis(vtkAxis::BOTTOM), chart->GetAxis(vtkAxis::LEFT));
   QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, at);
   move(at + QPoint(20, 0), Qt::LeftButton);
   QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, at + QPoint(20, 0));
-  EXPECT_EQ(container().state().coordinateWindows.size(), 1U);
+  EXPECT_EQ(stateOf(container()).coordinateWindows.size(), 1U);
 }
 
 TEST_F(SelectionClickInStyles, SelectsInTheScatterPlotMatrix)
@@ -152,7 +153,7 @@ TEST_F(SelectionClickInStyles, SelectsInTheScatterPlotMatrix)
   widget.updatePlot(true);
   const auto clickAt = [this](const DataPoint& point, Qt::KeyboardModifiers modifiers)
   {
-    vtkChart* chart = container().state().scatterPlotMatrix->GetMainChart();
+    vtkChart* chart = stateOf(container()).scatterPlotMatrix->GetMainChart();
     clickPixel(pixelOf(point, chart->GetAxis(vtkAxis::TOP), chart->GetAxis(vtkAxis::RIGHT)),
                modifiers);
   };

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionNodes.h"
 
@@ -37,7 +38,7 @@ protected:
     showStyle(parallelCoordinates);
   }
 
-  vtkChartParallelCoordinates* chart() { return container().state().parallelCoordinates; }
+  vtkChartParallelCoordinates* chart() { return stateOf(container()).parallelCoordinates; }
 
   void brush(int axisIndex, double from, double to,
              Qt::KeyboardModifiers modifiers = Qt::NoModifier)

@@ -1,3 +1,4 @@
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 
 #include <vtkAnnotationLink.h>
@@ -22,7 +23,7 @@ using Values = std::vector<double>;
 class SelectionMouseInStyles : public SelectionMouse
 {
 protected:
-  vtkScatterPlotMatrix* matrix() { return container().state().scatterPlotMatrix; }
+  vtkScatterPlotMatrix* matrix() { return stateOf(container()).scatterPlotMatrix; }
 
   /// Drags in the large chart of the scatter-plot matrix, whose axes stand right and above.
   void dragInMatrix(const DataPoint& from, const DataPoint& to,
@@ -196,7 +197,7 @@ TEST_F(SelectionMouseInStyles, SelectsAlongAnAxisOfTheParallelCoordinates)
   container().getMetaData()->yColumns = {SampleRuns::complexColumn, SampleRuns::timeColumn,
                                          SampleRuns::firstParameterColumn};
   showStyle(parallelCoordinates);
-  vtkAxis* axis = container().state().parallelCoordinates->GetAxis(2);
+  vtkAxis* axis = stateOf(container()).parallelCoordinates->GetAxis(2);
   const auto at = [&](double value) { return pixelOf({0.0, value}, axis, axis); };
   const int x = qRound(axis->GetPoint1()[0]);
   dragPixels({x, at(1.6).y()}, {x, at(2.4).y()});

@@ -1,6 +1,7 @@
 #include "app/document/PlotSession.h"
 #include "app/document/ShownStudy.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SelectionNodes.h"
@@ -64,7 +65,7 @@ TEST_F(Session, RestoresRunsAndParameters)
   EXPECT_EQ(container.getLabels(), shown->getLabels());
   EXPECT_EQ(container.getMetaData()->getStride(), 4);
   EXPECT_EQ(container.getMetaData()->parameterColumns, shown->getMetaData()->parameterColumns);
-  EXPECT_EQ(container.state().parameterBounds, shown->state().parameterBounds);
+  EXPECT_EQ(stateOf(container).parameterBounds, stateOf(*shown).parameterBounds);
 }
 
 TEST_F(Session, RestoresEverySetting)
@@ -152,11 +153,11 @@ TEST_F(Session, RestoresTheAxisWindowOnItsScales)
   const Study study = sampleStudy();
   PlotContainer container(nullptr);
   showStudy(study, container);
-  plot::PlotState& before = container.state();
+  plot::PlotState& before = stateOf(container);
   before.coordinateWindows[plot::currentKey(before)] = {0.5, 1.0, 2.5, 1.75, true};
   before.windowScales[plot::currentKey(before)] = {false, true};
   save(study, container);
-  const plot::PlotState& after = reopen().state();
+  const plot::PlotState& after = stateOf(reopen());
   const CoordinateWindow* window = plot::rememberedWindow(after);
   ASSERT_NE(window, nullptr);
   EXPECT_EQ(window->xMin, 0.5);

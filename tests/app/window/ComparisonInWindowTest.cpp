@@ -6,6 +6,7 @@
 #include "app/document/SelectionController.h"
 #include "app/session/StyleNames.h"
 #include "app/window/PlotDock.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "support/CapturedOutput.h"
 
@@ -140,9 +141,9 @@ TEST_F(ComparisonInWindow, AppliesItsControlsAtOnceAndDrawsOnce)
 {
   open();
   select({0, 1, 2, 3});
-  const unsigned long before = container().state().drawings;
+  const unsigned long before = stateOf(container()).drawings;
   press("density", Qt::Key_Space);
-  EXPECT_EQ(container().state().drawings, before + 1);
+  EXPECT_EQ(stateOf(container()).drawings, before + 1);
   EXPECT_TRUE(settings().getUseDensity());
   vtkChart* cell = container().getChartMatrix()->GetChart(vtkVector2i(0, 0));
   EXPECT_EQ(cell->GetAxis(vtkAxis::LEFT)->GetTitle(), "Density");
@@ -153,7 +154,7 @@ TEST_F(ComparisonInWindow, AppliesItsControlsAtOnceAndDrawsOnce)
   EXPECT_TRUE(cell->GetAxis(vtkAxis::BOTTOM)->GetLogScale());
   press("ksThreshold", Qt::Key_Up);
   EXPECT_DOUBLE_EQ(settings().getKsThreshold(), 0.05);
-  EXPECT_EQ(container().state().drawings, before + 4);
+  EXPECT_EQ(stateOf(container()).drawings, before + 4);
   EXPECT_FALSE(settings().signalsBlocked());
 }
 

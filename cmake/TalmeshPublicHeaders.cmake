@@ -1,0 +1,43 @@
+# What clients include: installed, and offered to programs that build the library in their own tree. They include each
+# other relative to their own folder, which works wherever they lie, and nothing that is not listed here.
+set(TALMESH_PUBLIC_HEADERS
+  export/TalmeshPlotExport.h
+  external/CoordinateWindow.h
+  external/Distribution.h
+  external/FitRun.h
+  external/FitSettings.h
+  external/LinePlotData.h
+  external/LinePlotTable.h
+  external/ParameterSelection.h
+  external/PlotMetaData.h
+  external/PlotStyles.h
+  external/ReducedMetaData.h
+  external/ScientificFormat.h
+  external/SharedTypes.h
+  external/SobolPostProcessResult.h
+  external/Standardize.h
+  external/TypedConcentrationName.h
+  external/UnivariateDensityDerivative.h
+  external/vtkKMeansPearson.h
+  external/vtkPrepareKMeansTable.h
+  plot/KsStatistics.h
+  plot/PlotContainer.h
+  plot/vtkSelectionUpdateCallback.h
+  plot/vtkShiftScaleCallback.h
+  stats/KolmogorovSmirnov.h
+  stats/KolmogorovSmirnovFormulas.h
+  vtk/CachedPoints.h
+  vtk/PointCloud.h
+  vtk/VtkCompat.h
+  vtk/vtkCombinedFilterAndSelectedRows.h
+  vtk/vtkCombinedFilterOrSelectedRows.h
+  vtk/vtkCombinedRowFilter.h
+  vtk/vtkPlotErrorPoints.h
+  vtk/vtkPlotInvisiblePoints.h
+  vtk/vtkPlotLineSet.h
+  vtk/vtkPlotStepLine.h
+  widgets/LinePlotWidget.h
+  widgets/PlotSelector.h
+  widgets/Translation.h
+  widgets/VtkPlotWidget.h
+  widgets/WidgetSupport.h)
