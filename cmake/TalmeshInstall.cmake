@@ -12,6 +12,8 @@ foreach(header IN LISTS TALMESH_PUBLIC_HEADERS)
 endforeach()
 
 install(EXPORT TalmeshPlotTargets NAMESPACE Talmesh:: DESTINATION ${package_folder})
+list(JOIN TALMESH_PUBLIC_VTK_COMPONENTS " " public_vtk_components)
+list(JOIN TALMESH_PUBLIC_QT_COMPONENTS " " public_qt_components)
 configure_package_config_file(cmake/TalmeshPlotConfig.cmake.in TalmeshPlotConfig.cmake
   INSTALL_DESTINATION ${package_folder})
 write_basic_package_version_file(TalmeshPlotConfigVersion.cmake COMPATIBILITY SameMinorVersion)

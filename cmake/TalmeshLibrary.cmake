@@ -5,15 +5,16 @@
 # talmesh_tree is what the tree's own sources compile with, whichever of the two their program links.
 include(TalmeshPublicHeaders)
 
-set(public_libraries
-  ${TALMESH_PUBLIC_VTK_LIBRARIES}
-  Qt${QT_VERSION_MAJOR}::Core Qt${QT_VERSION_MAJOR}::Gui Qt${QT_VERSION_MAJOR}::Widgets
-  Boost::headers)
+list(TRANSFORM TALMESH_PUBLIC_VTK_COMPONENTS PREPEND VTK:: OUTPUT_VARIABLE public_vtk)
+list(TRANSFORM TALMESH_PUBLIC_QT_COMPONENTS PREPEND Qt${QT_VERSION_MAJOR}:: OUTPUT_VARIABLE public_qt)
+list(TRANSFORM TALMESH_QT_COMPONENTS PREPEND Qt${QT_VERSION_MAJOR}:: OUTPUT_VARIABLE all_qt)
+set(public_libraries ${public_vtk} ${public_qt} Boost::headers)
+set(all_libraries ${public_vtk} ${all_qt} Boost::headers ${VTK_LIBRARIES})
 
 add_library(talmesh_tree INTERFACE)
 target_include_directories(talmesh_tree INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_features(talmesh_tree INTERFACE cxx_std_17)
-target_link_libraries(talmesh_tree INTERFACE ${public_libraries} ${VTK_LIBRARIES})
+target_link_libraries(talmesh_tree INTERFACE ${all_libraries})
 
 target_link_libraries(talmesh_objects PRIVATE talmesh_tree Eigen3::Eigen talmesh_options)
 set_target_properties(talmesh_objects PROPERTIES
@@ -36,7 +37,7 @@ add_library(talmeshplot SHARED $<TARGET_OBJECTS:talmesh_objects>)
 add_library(Talmesh::Plot ALIAS talmeshplot)
 target_link_libraries(talmeshplot
   PUBLIC ${public_libraries}
-  PRIVATE ${VTK_LIBRARIES} $<BUILD_INTERFACE:talmesh_options>)
+  PRIVATE ${all_libraries} $<BUILD_INTERFACE:talmesh_options>)
 # Clients write <talmeshplot/plot/PlotContainer.h>; earlier ones wrote "plot/PlotContainer.h".
 target_include_directories(talmeshplot INTERFACE
   $<BUILD_INTERFACE:${public_include}>

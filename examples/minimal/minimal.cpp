@@ -1,5 +1,5 @@
-#include "plot/PlotContainer.h"
-#include "widgets/VtkPlotWidget.h"
+#include <talmeshplot/plot/PlotContainer.h>
+#include <talmeshplot/widgets/VtkPlotWidget.h>
 
 #include <QVTKOpenGLNativeWidget.h>
 

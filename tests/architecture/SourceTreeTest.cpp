@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "architecture/IncludeRules.h"
+#include "architecture/PublicRules.h"
 
 namespace
 {
@@ -16,7 +17,8 @@ namespace fs = std::filesystem;
 
 const std::vector<std::string>& layers()
 {
-  static const std::vector<std::string> names{"external", "stats", "vtk", "plot", "widgets", "app"};
+  static const std::vector<std::string> names{"export", "external", "stats", "vtk",
+                                              "plot",   "widgets",  "app"};
   return names;
 }
 
@@ -61,6 +63,16 @@ std::string violationsIn(const std::vector<std::string>& paths, Rule rule)
   return report;
 }
 
+Talmesh::architecture::Paths publicHeaders()
+{
+  return Talmesh::architecture::listedHeaders(textOf("cmake/TalmeshPublicHeaders.cmake"));
+}
+
+Talmesh::architecture::Paths viewersInternals()
+{
+  return Talmesh::architecture::listedHeaders(textOf("app/library-internals.txt"));
+}
+
 } // namespace
 
 TEST(SourceTree, HasSourcesInEveryLayer)
@@ -74,9 +86,44 @@ TEST(SourceTree, IncludesRunAlongTheArrows)
   EXPECT_EQ(violationsIn(sourcesIn(layers()), Talmesh::architecture::includeViolations), "");
 }
 
+TEST(SourceTree, PublicHeadersIncludeOnlyEachOther)
+{
+  const auto headers = publicHeaders();
+  ASSERT_FALSE(headers.empty());
+  EXPECT_EQ(
+      violationsIn(sourcesIn(layers()), [&](const std::string& path, const std::string& text)
+                   { return Talmesh::architecture::spellingViolations(path, text, headers); }),
+      "");
+}
+
+TEST(SourceTree, ExportsWhatIsPublicOrListedForTheViewer)
+{
+  const auto headers = publicHeaders();
+  const auto internals = Talmesh::architecture::withIncluded(viewersInternals(), textOf);
+  EXPECT_EQ(violationsIn(sourcesIn(layers()),
+                         [&](const std::string& path, const std::string& text) {
+                           return Talmesh::architecture::exportViolations(path, text, headers,
+                                                                          internals);
+                         }),
+            "");
+}
+
+TEST(SourceTree, ViewerIncludesWhatIsPublicOrListed)
+{
+  Talmesh::architecture::Files viewer;
+  for (const std::string& path : sourcesIn({"app"}))
+    viewer[path] = textOf(path);
+  std::string report;
+  for (const std::string& violation :
+       Talmesh::architecture::viewerViolations(viewer, publicHeaders(), viewersInternals()))
+    report += violation + "\n";
+  EXPECT_EQ(report, "");
+}
+
 TEST(SourceTree, GuardsAreNamedAfterTheirFile)
 {
-  EXPECT_EQ(violationsIn(sourcesIn({"external", "stats", "vtk", "plot", "widgets", "app", "tests"}),
+  EXPECT_EQ(violationsIn(sourcesIn({"export", "external", "stats", "vtk", "plot", "widgets", "app",
+                                    "tests"}),
                          Talmesh::architecture::guardViolations),
             "");
 }

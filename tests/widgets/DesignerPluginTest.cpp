@@ -136,8 +136,8 @@ TEST_F(DesignerPlugin, NamesHeadersThatDeclareTheClasses)
   ASSERT_EQ(entries.size(), 3);
   for (const QDesignerCustomWidgetInterface* candidate : entries)
   {
-    QFile header(QStringLiteral(TALMESH_SOURCE_DIR "/") + candidate->includeFile());
+    QFile header(QStringLiteral(TALMESH_INCLUDE_DIR "/") + candidate->includeFile());
     ASSERT_TRUE(header.open(QIODevice::ReadOnly)) << candidate->includeFile().toStdString();
-    EXPECT_TRUE(header.readAll().contains("class " + candidate->name().toUtf8() + " : public"));
+    EXPECT_TRUE(header.readAll().contains("class TALMESHPLOT_EXPORT " + candidate->name().toUtf8() + " : public"));
   }
 }

@@ -23,11 +23,11 @@ WidgetCollection::WidgetCollection(QObject* parent)
     : QObject(parent)
 {
   const WidgetDescription widgets[] = {
-      {QStringLiteral("VtkPlotWidget"), QStringLiteral("widgets/VtkPlotWidget.h"),
+      {QStringLiteral("VtkPlotWidget"), QStringLiteral("talmeshplot/widgets/VtkPlotWidget.h"),
        tr("Shows one plot"), QSize(400, 300), &create<VtkPlotWidget>},
-      {QStringLiteral("PlotSelector"), QStringLiteral("widgets/PlotSelector.h"),
+      {QStringLiteral("PlotSelector"), QStringLiteral("talmeshplot/widgets/PlotSelector.h"),
        tr("Lets the user choose the items to plot"), QSize(160, 300), &create<PlotSelector>},
-      {QStringLiteral("LinePlotWidget"), QStringLiteral("widgets/LinePlotWidget.h"),
+      {QStringLiteral("LinePlotWidget"), QStringLiteral("talmeshplot/widgets/LinePlotWidget.h"),
        tr("Shows time courses with a list to choose them from"), QSize(640, 400),
        &create<LinePlotWidget>}};
   for (const WidgetDescription& widget : widgets)
