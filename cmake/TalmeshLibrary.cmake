@@ -17,6 +17,8 @@ target_compile_features(talmesh_tree INTERFACE cxx_std_17)
 target_link_libraries(talmesh_tree INTERFACE ${all_libraries})
 
 target_link_libraries(talmesh_objects PRIVATE talmesh_tree Eigen3::Eigen talmesh_options)
+# VTK's headers may include those of oneTBB, which have functions named "emit": the library writes Q_EMIT.
+target_compile_definitions(talmesh_objects PRIVATE QT_NO_EMIT)
 set_target_properties(talmesh_objects PROPERTIES
   POSITION_INDEPENDENT_CODE ON
   CXX_VISIBILITY_PRESET hidden
@@ -45,8 +47,6 @@ target_include_directories(talmeshplot INTERFACE
   $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
   $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/talmeshplot>)
 target_compile_features(talmeshplot PUBLIC cxx_std_17)
-# VTK's headers may include those of oneTBB, which have functions named "emit": the library writes Q_EMIT.
-target_compile_definitions(talmeshplot PRIVATE QT_NO_EMIT)
 set_target_properties(talmeshplot PROPERTIES
   EXPORT_NAME Plot
   LINKER_LANGUAGE CXX

@@ -8,6 +8,7 @@
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
+#include "vtk/HighlightColor.h"
 #include "vtk/vtkPlotSafeLine.h"
 #include "vtk/vtkPlotStepLine.h"
 
@@ -30,7 +31,7 @@ using Color = std::array<double, 3>;
 
 /// Colours of the further data sets in turn: the selected runs, then the others.
 constexpr std::array<Color, 3> dataSetColors = {
-    {{1.0, 0.2, 0.0}, {0.05, 0.6, 0.9}, {0.05, 0.9, 0.6}}};
+    {highlightShade, {0.05, 0.6, 0.9}, {0.05, 0.9, 0.6}}};
 
 /// Adds the curve of the data set with the ranks in slot `ranks`. Without its columns, for example
 /// for a parameter that came after the last ranking, the curve is empty.

@@ -1,5 +1,7 @@
 #include "vtk/PlotItemPainting.h"
 
+#include "vtk/HighlightColor.h"
+
 #include <vtkContext2D.h>
 #include <vtkDataArray.h>
 #include <vtkIdTypeArray.h>
@@ -16,7 +18,8 @@ namespace Talmesh
 {
 void applyHighlightPen(vtkContext2D* painter, float width)
 {
-  painter->GetPen()->SetColor(255, 50, 0, 150);
+  painter->GetPen()->SetColor(highlightColor[0], highlightColor[1], highlightColor[2],
+                              highlightColor[3]);
   painter->GetPen()->SetWidth(static_cast<float>(width + 2.7));
 }
 

@@ -17,8 +17,8 @@ class vtkUnsignedCharArray;
 /// What the plot items of this library have in common when they paint.
 namespace Talmesh
 {
-/// Gives the painter's pen the highlight colour (255, 50, 0, 150) and a width of
-/// @p width + 2.7 pixels.
+/// Gives the painter's pen the highlight colour (vtk/HighlightColor.h) and a width
+/// of @p width + 2.7 pixels.
 void applyHighlightPen(vtkContext2D* painter, float width);
 
 /// Applies @p pen and draws a horizontal line across @p rect at half its height.

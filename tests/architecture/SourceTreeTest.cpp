@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -118,6 +119,16 @@ TEST(SourceTree, ViewerIncludesWhatIsPublicOrListed)
        Talmesh::architecture::viewerViolations(viewer, publicHeaders(), viewersInternals()))
     report += violation + "\n";
   EXPECT_EQ(report, "");
+}
+
+TEST(SourceTree, HighlightColourIsWrittenInOnePlace)
+{
+  const std::regex colour(R"(255, 50, 0\b|\b1\.0, 0\.2, 0\.0\b)");
+  std::vector<std::string> places;
+  for (const std::string& path : sourcesIn(layers()))
+    if (std::regex_search(textOf(path), colour))
+      places.push_back(path);
+  EXPECT_EQ(places, std::vector<std::string>{"vtk/HighlightColor.h"});
 }
 
 TEST(SourceTree, GuardsAreNamedAfterTheirFile)

@@ -1,0 +1,16 @@
+#ifndef HighlightColor_h
+#define HighlightColor_h
+
+#include <array>
+
+/// The colour of what is selected, wherever it is drawn.
+namespace Talmesh
+{
+/// Red, green, blue and opacity, 0 to 255, of runs and points on top of the others.
+inline constexpr std::array<unsigned char, 4> highlightColor{255, 50, 0, 150};
+
+/// The same red of curves, opaque, 0 to 1. VTK makes 51 of its green, as on pages drawn before.
+inline constexpr std::array<double, 3> highlightShade{1.0, 0.2, 0.0};
+} // namespace Talmesh
+
+#endif
