@@ -70,10 +70,11 @@ bool isMember(const std::string& name, const Names& shown)
   return false;
 }
 
+/// Or of AddressSanitizer.
 bool isOfTheLinker(const std::string& name)
 {
   static const Names marks{"_init", "_fini", "_edata", "_end", "__bss_start"};
-  return marks.count(name) != 0;
+  return marks.count(name) != 0 || name.rfind("__odr_asan", 0) == 0;
 }
 
 } // namespace
