@@ -88,9 +88,11 @@ int runProgram(int argc, char** argv)
     std::_Exit(fail("there is not enough memory"));
   qInstallMessageHandler(reportQtMessage);
   QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // later ones always scale
   QCoreApplication::setAttribute(options.writesOnly() ? Qt::AA_DisableHighDpiScaling
                                                       : Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
   QCoreApplication::setOrganizationName(QStringLiteral("Talmesh"));
   QCoreApplication::setApplicationName(QStringLiteral("talmesh-plot"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TALMESH_VERSION));

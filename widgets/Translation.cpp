@@ -28,6 +28,15 @@ bool install(QCoreApplication& application, const QLocale& locale, const QString
   return QCoreApplication::installTranslator(translator.release());
 }
 
+QString folderOfQtsTranslations()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+  return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+  return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+}
+
 } // namespace
 
 bool installTranslation(QCoreApplication& application, const QLocale& locale)
@@ -39,8 +48,7 @@ bool installTranslation(QCoreApplication& application, const QLocale& locale)
                QStringLiteral(":/talmeshplot/translations")))
     return false;
   // Without it only the buttons of Qt's own dialogs stay English.
-  install(application, locale, QStringLiteral("qtbase"),
-          QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+  install(application, locale, QStringLiteral("qtbase"), folderOfQtsTranslations());
   return true;
 }
 
