@@ -1,4 +1,5 @@
 #include "support/Reaction.h"
+#include "vtk/PictureStore.h"
 #include "vtk/vtkPlotLineSet.h"
 
 #include <vtkCommand.h>
