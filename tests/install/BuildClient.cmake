@@ -25,6 +25,7 @@ run(${CMAKE_COMMAND} --install "${BUILD_TREE}" --prefix "${prefix}")
 
 file(GLOB_RECURSE headers RELATIVE "${prefix}/${INCLUDE_FOLDER}" "${prefix}/${INCLUDE_FOLDER}/*")
 list(SORT headers)
+string(REPLACE "," ";" PUBLIC_HEADERS "${PUBLIC_HEADERS}")
 list(SORT PUBLIC_HEADERS)
 if(NOT headers STREQUAL PUBLIC_HEADERS)
   message(FATAL_ERROR "Installed are\n${headers}\nbut these are public\n${PUBLIC_HEADERS}")
