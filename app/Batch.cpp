@@ -48,17 +48,23 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
   return error;
 }
 
+Result<OpenedStudy> openNamed(const CommandLineOptions& options)
+{
+  if (!options.file.empty())
+    return openStudyFile(QFile::decodeName(options.file.c_str()));
+  OpenedStudy example;
+  example.study = exampleStudyOfRepressilator();
+  return example;
+}
+
 } // namespace
 
 std::string runBatch(const CommandLineOptions& options)
 {
-  OpenedStudy opened;
-  if (options.file.empty())
-    opened.study = exampleStudyOfRepressilator();
-  else
-    opened = openStudyFile(QFile::decodeName(options.file.c_str()));
-  if (!opened.error.empty())
-    return opened.error;
+  const Result<OpenedStudy> result = openNamed(options);
+  if (!result.hasValue())
+    return result.error();
+  const OpenedStudy& opened = result.value();
   for (const std::string& note : opened.notes)
     std::cerr << "talmesh-plot: " << note << std::endl;
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;

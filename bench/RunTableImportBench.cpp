@@ -60,14 +60,13 @@ void importFile(benchmark::State& state)
   for (auto _ : state)
   {
     const ProcessMemory memory;
-    const Talmesh::app::OpenedStudy opened =
-        Talmesh::app::openStudyFile(QString::fromLocal8Bit(path));
-    if (!opened.study.runs)
+    const auto opened = Talmesh::app::openStudyFile(QString::fromLocal8Bit(path));
+    if (!opened.hasValue() || !opened.value().study.runs)
     {
-      state.SkipWithError(opened.error.c_str());
+      state.SkipWithError(opened.error().c_str());
       return;
     }
-    const LinePlotTable& runs = *opened.study.runs;
+    const LinePlotTable& runs = *opened.value().study.runs;
     memory.report(state, runs.numberOfTrajectories * runs.pointsPerTrajectory * runs.items.size());
   }
 }

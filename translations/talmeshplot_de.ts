@@ -590,17 +590,6 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
-    <name>StudyLoader</name>
-    <message>
-        <source>there is not enough memory for this</source>
-        <translation>dafür reicht der Speicher nicht</translation>
-    </message>
-    <message>
-        <source>this cannot be opened: %1</source>
-        <translation>das lässt sich nicht öffnen: %1</translation>
-    </message>
-</context>
-<context>
     <name>StyleNames</name>
     <message>
         <source>XY plot</source>
@@ -1482,6 +1471,17 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Shows time courses with a list to choose them from</source>
         <translation>Zeigt Zeitverläufe mit einer Liste, aus der sie gewählt werden</translation>
+    </message>
+</context>
+<context>
+    <name>TaskRunner</name>
+    <message>
+        <source>there is not enough memory for this</source>
+        <translation>dafür reicht der Speicher nicht</translation>
+    </message>
+    <message>
+        <source>this cannot be done: %1</source>
+        <translation>das ist nicht möglich: %1</translation>
     </message>
 </context>
 </TS>

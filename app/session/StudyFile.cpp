@@ -1,5 +1,6 @@
 #include "app/session/StudyFile.h"
 
+#include "app/import/RunTableImport.h"
 #include "app/import/TranslatedText.h"
 #include "app/session/Session.h"
 #include "app/session/SessionFile.h"
@@ -115,70 +116,77 @@ private:
   std::uintptr_t begin;
 };
 
-OpenedStudy openBytes(FileBytes& read, const ImportProgress& progress)
+Result<OpenedStudy> openBytes(FileBytes& read, const ImportProgress& progress)
 {
   const auto parsing = [&progress](double done)
   { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
   PassedPages pages(read.bytes);
   ImportedTable imported =
       importRunTable(read.bytes, parsing, [&pages](std::size_t bytes) { pages.pass(bytes); });
+  if (!imported.error.empty())
+    return Result<OpenedStudy>::failed(imported.error);
+  if (imported.cancelled)
+    return Result<OpenedStudy>::cancelled();
   OpenedStudy opened;
   opened.study.runs = imported.runs;
   opened.study.table = imported.table;
-  opened.error = imported.error;
-  opened.cancelled = imported.cancelled;
   opened.notes = imported.notes;
   return opened;
 }
 
-OpenedStudy openFromSession(const QString& path, const ImportProgress& progress)
+Result<OpenedStudy> openFromSession(const QString& path, const ImportProgress& progress)
 {
   const OpenedSession session = openSession(path, progress);
+  if (!session.error.empty())
+    return Result<OpenedStudy>::failed(session.error);
+  if (session.cancelled)
+    return Result<OpenedStudy>::cancelled();
   OpenedStudy opened;
-  opened.cancelled = session.cancelled;
   opened.study = session.study;
   opened.session = session.session;
-  opened.error = session.error;
-  opened.cancelled = session.cancelled;
   return opened;
 }
 
-OpenedStudy open(const QString& path, const ImportProgress& progress)
+Result<OpenedStudy> open(const QString& path, const ImportProgress& progress)
 {
   if (isSessionFile(path))
     return openFromSession(path, progress);
   FileBytes read = readBytes(path, progress);
-  OpenedStudy opened;
-  opened.error = read.error;
-  opened.cancelled = read.cancelled;
-  if (!opened.error.empty() || opened.cancelled)
-    return opened;
+  if (!read.error.empty())
+    return Result<OpenedStudy>::failed(read.error);
+  if (read.cancelled)
+    return Result<OpenedStudy>::cancelled();
   return openBytes(read, progress);
+}
+
+/// What is thrown becomes an error.
+Result<OpenedStudy> openOrSayWhyNot(const QString& path, const ImportProgress& progress)
+{
+  try
+  {
+    return open(path, progress);
+  }
+  catch (const std::bad_alloc&)
+  {
+    return Result<OpenedStudy>::failed(
+        translated("StudyFile", "the table does not fit into memory"));
+  }
+  catch (const std::exception& failure)
+  {
+    return Result<OpenedStudy>::failed(
+        withValues(translated("StudyFile", "cannot be opened: %1"), {failure.what()}));
+  }
 }
 
 } // namespace
 
-OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress)
+Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress)
 {
-  OpenedStudy opened;
-  try
-  {
-    opened = open(path, progress);
-  }
-  catch (const std::bad_alloc&)
-  {
-    opened = OpenedStudy();
-    opened.error = translated("StudyFile", "the table does not fit into memory");
-  }
-  catch (const std::exception& failure)
-  {
-    opened = OpenedStudy();
-    opened.error = withValues(translated("StudyFile", "cannot be opened: %1"), {failure.what()});
-  }
-  if (!opened.error.empty())
-    opened.error = path.toStdString() + ": " + opened.error;
-  if (!opened.session)
-    opened.study.name = QFileInfo(path).fileName().toStdString();
+  Result<OpenedStudy> opened = openOrSayWhyNot(path, progress);
+  if (!opened.error().empty())
+    return Result<OpenedStudy>::failed(path.toStdString() + ": " + opened.error());
+  if (opened.hasValue() && !opened.value().session)
+    opened.value().study.name = QFileInfo(path).fileName().toStdString();
   return opened;
 }
 

@@ -1,7 +1,8 @@
 #ifndef StudyFile_h
 #define StudyFile_h
 
-#include "app/import/RunTableImport.h"
+#include "app/import/ImportProgress.h"
+#include "app/import/Result.h"
 #include "app/import/Study.h"
 
 #include <QString>
@@ -16,24 +17,22 @@ namespace Talmesh::app
 
 struct RestoredSession;
 
-/// A study, or why there is none. Texts are UTF-8, one line each.
+/// A study with what its file says beside. Texts are UTF-8, one line each.
 struct OpenedStudy
 {
   Study study;
   /// What else a session file holds; null for a table.
   std::shared_ptr<const RestoredSession> session;
-  std::string error;
-  bool cancelled = false;
   /// What the user should know although the study could be opened.
   std::vector<std::string> notes;
 };
 
 /// Opens a study; may run in another thread and must look at the progress it is given.
-using StudyJob = std::function<OpenedStudy(const ImportProgress&)>;
+using StudyJob = std::function<Result<OpenedStudy>(const ImportProgress&)>;
 
 /// Reads a table or a session from a regular file. Errors begin with the file's name. May run in
 /// any thread.
-OpenedStudy openStudyFile(const QString& path, const ImportProgress& progress = {});
+Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress = {});
 
 } // namespace Talmesh::app
 

@@ -2,7 +2,7 @@
 
 #include "app/document/Document.h"
 #include "app/examples/ExampleStudy.h"
-#include "app/tasks/StudyLoader.h"
+#include "app/tasks/TaskRunner.h"
 #include "app/window/LoadingBar.h"
 
 #include <QFile>
@@ -17,12 +17,11 @@ namespace Talmesh::app
 namespace
 {
 
-OpenedStudy openExampleStudy(const ImportProgress& progress)
+Result<OpenedStudy> openExampleStudy(const ImportProgress& progress)
 {
   OpenedStudy example;
   example.study = exampleStudyOfRepressilator(progress);
-  example.cancelled = !example.study.runs;
-  return example;
+  return example.study.runs ? Result<OpenedStudy>(example) : Result<OpenedStudy>::cancelled();
 }
 
 StudyJob jobFor(const QString& path)
@@ -40,21 +39,21 @@ OpeningTask taskFor(const QString& path)
 
 } // namespace
 
-StudyOpener::StudyOpener(Document& into, LoadingBar& progress, QObject* parent)
+StudyOpener::StudyOpener(Document& into, LoadingBar& bar, QObject* parent)
     : QObject(parent)
     , document(into)
-    , bar(progress)
-    , loader(new StudyLoader(this))
+    , runner(new TaskRunner(this))
 {
-  connect(loader, &StudyLoader::progressed, &bar, &LoadingBar::setPercent);
-  connect(loader, &StudyLoader::finished, this, &StudyOpener::finish);
+  connect(runner, &TaskRunner::started, &bar, &LoadingBar::begin);
+  connect(runner, &TaskRunner::progressed, &bar, &LoadingBar::setPercent);
+  connect(runner, &TaskRunner::ended, &bar, &LoadingBar::end);
   connect(&bar, &LoadingBar::cancelled, this, &StudyOpener::cancel);
 }
 
 StudyOpener::~StudyOpener()
 {
   // Its thread must not outlive what it reports to.
-  delete loader;
+  delete runner;
 }
 
 void StudyOpener::open(const OpeningWishes& asked)
@@ -99,43 +98,45 @@ void StudyOpener::bringBack(const LeftWork& work)
 
 bool StudyOpener::isOpening() const
 {
-  return loader->isLoading();
+  return runner->isRunning();
 }
 
 void StudyOpener::load(OpeningTask task, const StudyJob& job)
 {
   current = std::move(task);
   emit said(tr("Opening %1 ...").arg(current.name));
-  bar.begin();
-  loader->start(job);
+  runner->start<OpenedStudy>(this, job,
+                             [this](const Result<OpenedStudy>& result) { finish(result); });
 }
 
 void StudyOpener::cancel()
 {
   current = {};
-  loader->cancel();
-  bar.end();
+  runner->cancel();
   emit said(tr("Cancelled"));
 }
 
-void StudyOpener::finish(const OpenedStudy& result)
+void StudyOpener::finish(const Result<OpenedStudy>& result)
 {
   const OpeningTask task = std::exchange(current, {});
-  bar.end();
   emit ended();
-  if (!result.error.empty())
-  {
-    emit notOpened(task);
-    emit failed(QString::fromStdString(result.error), task);
+  if (result.hasValue())
+    show(result.value(), task);
+  if (result.error().empty())
     return;
-  }
+  emit notOpened(task);
+  emit failed(QString::fromStdString(result.error()), task);
+}
+
+void StudyOpener::show(const OpenedStudy& study, const OpeningTask& task)
+{
   QStringList notes;
-  for (const std::string& note : result.notes)
+  for (const std::string& note : study.notes)
     notes.append(QString::fromStdString(note));
   if (!notes.isEmpty())
     emit said(notes.join(QLatin1Char(' ')));
-  const std::string error = document.open(result, task.wishes);
-  emit shown(result, task);
+  const std::string error = document.open(study, task.wishes);
+  emit shown(study, task);
   if (error.empty())
     emit opened();
   else

@@ -13,7 +13,7 @@ namespace Talmesh::app
 
 class Document;
 class LoadingBar;
-class StudyLoader;
+class TaskRunner;
 
 /// What is being opened, beside its content.
 struct OpeningTask
@@ -68,11 +68,11 @@ signals:
 
 private:
   void load(OpeningTask task, const StudyJob& job);
-  void finish(const OpenedStudy& result);
+  void show(const OpenedStudy& study, const OpeningTask& task);
+  void finish(const Result<OpenedStudy>& result);
 
   Document& document;
-  LoadingBar& bar;
-  StudyLoader* loader;
+  TaskRunner* runner;
   OpeningTask current;
 };
 

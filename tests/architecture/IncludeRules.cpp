@@ -34,7 +34,7 @@ const Reach& reachableRooms()
       {"import", {"import"}},
       {"comparison", {"comparison", "import"}},
       {"session", {"session", "import"}},
-      {"tasks", {"tasks", "session", "import"}},
+      {"tasks", {"tasks", "import"}},
       {"document", {"document", "session", "comparison", "import"}},
       {"export", {"export", "import"}},
       {"examples", {"examples", "export", "document", "session", "comparison", "import"}},

@@ -19,10 +19,10 @@ protected:
   void saveAndOpen()
   {
     ASSERT_EQ(document.save(path()), "");
-    const OpenedStudy opened = openStudyFile(path());
-    ASSERT_EQ(opened.error, "");
-    ASSERT_TRUE(opened.session);
-    ASSERT_EQ(document.open(opened), "");
+    const Result<OpenedStudy> opened = openStudyFile(path());
+    ASSERT_TRUE(opened.hasValue()) << opened.error();
+    ASSERT_TRUE(opened.value().session);
+    ASSERT_EQ(document.open(opened.value()), "");
     ASSERT_EQ(document.drawingError(), "");
   }
 
@@ -108,7 +108,7 @@ TEST_F(DocumentSession, LetsWishesGoBeforeWhatItRestores)
   ASSERT_EQ(document.save(path()), "");
   PlotWishes wishes;
   wishes.y = {"Y"};
-  ASSERT_EQ(document.open(openStudyFile(path()), wishes), "");
+  ASSERT_EQ(document.open(openStudyFile(path()).value(), wishes), "");
   EXPECT_EQ(document.choice().style, xyPlot);
   EXPECT_EQ(document.choice().y, std::vector<int>{1});
   EXPECT_EQ(labels(), std::vector<std::string>{"Y"});

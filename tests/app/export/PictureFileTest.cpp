@@ -117,9 +117,9 @@ TEST_F(PictureFile, WritesNamesThatTheFileSystemTakesAsTheyAre)
 TEST_F(PictureFile, WritesATableThatCanBeOpenedAgain)
 {
   EXPECT_EQ(exportPlot(*widget, path("plot.csv")), "");
-  const OpenedStudy again = openStudyFile(path("plot.csv"));
-  EXPECT_EQ(again.error, "");
-  EXPECT_EQ(studySize(again.study), "3 runs, 4 points each, 1 parameter");
+  const Result<OpenedStudy> again = openStudyFile(path("plot.csv"));
+  ASSERT_TRUE(again.hasValue()) << again.error();
+  EXPECT_EQ(studySize(again.value().study), "3 runs, 4 points each, 1 parameter");
 }
 
 TEST_F(PictureFile, TakesThePlaceOfAnOlderFile)

@@ -21,17 +21,17 @@ vtkSmartPointer<vtkTable> openGrowing(const QByteArray& first, const QByteArray&
   EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
   file.write(first);
   bool grown = false;
-  const OpenedStudy opened = openStudyFile(file.fileName(),
-                                           [&](double)
-                                           {
-                                             if (!grown)
-                                               file.write(later);
-                                             grown = true;
-                                             return true;
-                                           });
-  EXPECT_EQ(opened.error, "");
+  const auto opened = openStudyFile(file.fileName(),
+                                    [&](double)
+                                    {
+                                      if (!grown)
+                                        file.write(later);
+                                      grown = true;
+                                      return true;
+                                    });
+  EXPECT_EQ(opened.error(), "");
   EXPECT_TRUE(grown);
-  return opened.study.table;
+  return opened.value().study.table;
 }
 
 } // namespace

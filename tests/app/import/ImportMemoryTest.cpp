@@ -86,17 +86,17 @@ TEST(ImportMemory, ShrinksWhileAFileOfLongNumbersIsRead)
 
   double afterReading = 0.0;
   double atTheEnd = 0.0;
-  const OpenedStudy opened = openStudyFile(file.fileName(),
-                                           [&](double done)
-                                           {
-                                             if (afterReading == 0.0 && done > 0.1)
-                                               afterReading = residentBytes();
-                                             atTheEnd = residentBytes();
-                                             return true;
-                                           });
-  EXPECT_EQ(opened.error, "");
-  ASSERT_TRUE(opened.study.table);
-  EXPECT_EQ(opened.study.table->GetNumberOfRows(), repetitions * 1000);
+  const auto opened = openStudyFile(file.fileName(),
+                                    [&](double done)
+                                    {
+                                      if (afterReading == 0.0 && done > 0.1)
+                                        afterReading = residentBytes();
+                                      atTheEnd = residentBytes();
+                                      return true;
+                                    });
+  EXPECT_EQ(opened.error(), "");
+  ASSERT_TRUE(opened.value().study.table);
+  EXPECT_EQ(opened.value().study.table->GetNumberOfRows(), repetitions * 1000);
   // A row of 86 bytes of text becomes 24 bytes: two numbers and the number of its line.
   EXPECT_LT(atTheEnd, afterReading - 0.4 * textBytes);
 }

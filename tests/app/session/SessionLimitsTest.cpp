@@ -196,10 +196,10 @@ TEST_F(SessionLimits, OpeningCanBeCancelledAtEveryStep)
   for (std::size_t step = 1; step <= parts.size(); ++step)
   {
     std::size_t told = 0;
-    const OpenedStudy opened = openStudyFile(path(), [&](double) { return ++told < step; });
-    EXPECT_TRUE(opened.cancelled) << step;
-    EXPECT_EQ(opened.error, "") << step;
-    EXPECT_FALSE(opened.session) << step;
+    const Result<OpenedStudy> opened = openStudyFile(path(), [&](double) { return ++told < step; });
+    EXPECT_TRUE(opened.isCancelled()) << step;
+    EXPECT_EQ(opened.error(), "") << step;
+    EXPECT_FALSE(opened.hasValue()) << step;
     EXPECT_EQ(told, step) << "nothing goes on after it";
   }
 }

@@ -1,0 +1,73 @@
+#include "app/session/StudyFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <new>
+#include <stdexcept>
+
+#include "SampleStudies.h"
+
+using namespace Talmesh::app;
+
+namespace
+{
+
+void write(const QString& path, const QByteArray& content)
+{
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(content);
+}
+
+} // namespace
+
+TEST(StudyFile, OpensATableAndNamesItAfterTheFile)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("runs.csv"));
+  write(path, QByteArray::fromStdString(sampleRuns()));
+  const Result<OpenedStudy> opened = openStudyFile(path);
+  ASSERT_TRUE(opened.hasValue()) << opened.error();
+  EXPECT_EQ(opened.value().study.name, "runs.csv");
+  EXPECT_EQ(studySize(opened.value().study), "3 runs, 4 points each, 1 parameter");
+}
+
+TEST(StudyFile, BeginsItsErrorsWithTheFile)
+{
+  const QTemporaryDir folder;
+  const QString missing = folder.filePath(QStringLiteral("missing.csv"));
+  EXPECT_EQ(openStudyFile(missing).error(), missing.toStdString() + ": there is no such file");
+  EXPECT_EQ(openStudyFile(folder.path()).error(),
+            folder.path().toStdString() + ": this is not a file");
+  EXPECT_EQ(openStudyFile(QStringLiteral("/dev/zero")).error(), "/dev/zero: this is not a file");
+  const QString empty = folder.filePath(QStringLiteral("empty.csv"));
+  write(empty, {});
+  EXPECT_EQ(openStudyFile(empty).error(), empty.toStdString() + ": the file is empty");
+}
+
+TEST(StudyFile, CanBeCancelledWhileItReads)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("runs.csv"));
+  write(path, QByteArray::fromStdString(sampleRuns()));
+  const Result<OpenedStudy> opened = openStudyFile(path, [](double) { return false; });
+  EXPECT_TRUE(opened.isCancelled());
+  EXPECT_FALSE(opened.hasValue());
+}
+
+TEST(StudyFile, TellsWhateverGoesWrongInOneLine)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("runs.csv"));
+  write(path, QByteArray::fromStdString(sampleRuns()));
+  const Result<OpenedStudy> broken =
+      openStudyFile(path, [](double) -> bool { throw std::runtime_error("broken"); });
+  EXPECT_EQ(broken.error(), path.toStdString() + ": cannot be opened: broken");
+  EXPECT_FALSE(broken.hasValue());
+  const Result<OpenedStudy> large =
+      openStudyFile(path, [](double) -> bool { throw std::bad_alloc(); });
+  EXPECT_EQ(large.error(), path.toStdString() + ": the table does not fit into memory");
+}
