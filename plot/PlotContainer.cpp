@@ -7,6 +7,7 @@
 #include "plot/MatrixSelection.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
+#include "plot/PointChart3D.h"
 #include "plot/Redraw.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SettingsSignals.h"
@@ -32,7 +33,7 @@ void makeCharts(PlotState& state)
   state.annotationLink = vtkSmartPointer<vtkAnnotationLink>::New();
   state.chartXY = Talmesh::plot::makeXYChart(state);
   state.scatterPlotMatrix = vtkSmartPointer<vtkSelectableScatterPlotMatrix>::New();
-  state.chartXYZ = vtkSmartPointer<vtkChartXYZ>::New();
+  state.chartXYZ = Talmesh::plot::makeChart3D();
   state.chartMatrix = vtkSmartPointer<vtkSelectableChartMatrix>::New();
   state.extractSelectedRows = vtkSmartPointer<vtkExtractSelectedRows>::New();
   state.currentChart = state.chartXY;

@@ -4,8 +4,12 @@
 #include "plot/ChartLifetime.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "vtk/VtkCompat.h"
 
+#include <vtkChartXYZ.h>
+#include <vtkContext2D.h>
 #include <vtkFloatArray.h>
+#include <vtkObjectFactory.h>
 #include <vtkPlotPoints3D.h>
 
 #include <algorithm>
@@ -19,6 +23,31 @@ namespace
 {
 
 using Coordinates = std::array<vtkDataArray*, 3>;
+
+/// VTK's chart writes the numbers of its axes before it tells the painter how to write: in white on
+/// white in the first painting of all, and as the last item wrote in the others.
+class vtkLegibleChartXYZ : public vtkChartXYZ
+{
+public:
+  static vtkLegibleChartXYZ* New();
+  TALMESH_VTK_TYPE(vtkLegibleChartXYZ, vtkChartXYZ);
+
+  bool Paint(vtkContext2D* painter) override
+  {
+    painter->ApplyTextProp(GetAxesTextProperty());
+    return Superclass::Paint(painter);
+  }
+
+protected:
+  vtkLegibleChartXYZ() = default;
+  ~vtkLegibleChartXYZ() override = default;
+
+private:
+  vtkLegibleChartXYZ(const vtkLegibleChartXYZ&) = delete;
+  void operator=(const vtkLegibleChartXYZ&) = delete;
+};
+
+vtkStandardNewMacro(vtkLegibleChartXYZ);
 
 constexpr const char* axisNames[] = {"x", "y", "z"};
 
@@ -74,6 +103,11 @@ void titleAxes(PlotState& state)
 }
 
 } // namespace
+
+vtkSmartPointer<vtkChartXYZ> makeChart3D()
+{
+  return vtkSmartPointer<vtkLegibleChartXYZ>::New();
+}
 
 void drawPointChart3D(PlotState& state, vtkContextScene* scene)
 {

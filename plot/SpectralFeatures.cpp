@@ -1,7 +1,7 @@
 #include "plot/SpectralFeatures.h"
 
-#include "plot/TableColumns.h"
-
+#include <vtkDataArray.h>
+#include <vtkDoubleArray.h>
 #include <vtkTable.h>
 #include <vtkTableFFT.h>
 
@@ -25,33 +25,47 @@ vtkSmartPointer<vtkTable> namedByPosition(vtkTable* curves)
   return table;
 }
 
-double magnitudeAt(vtkDoubleArray* spectrum, vtkIdType row)
+/// One spectrum. A single value is its own, which VTK since 9.2 leaves as it is: without an
+/// imaginary part.
+class Spectrum
 {
-  const double real = spectrum->GetComponent(row, 0);
-  const double imaginary = spectrum->GetComponent(row, 1);
-  return std::sqrt(real * real + imaginary * imaginary);
-}
+public:
+  explicit Spectrum(vtkDataArray* components)
+      : values(components)
+  {
+  }
 
-/// The same without overflow.
-double sizeAt(vtkDoubleArray* spectrum, vtkIdType row)
-{
-  return std::hypot(spectrum->GetComponent(row, 0), spectrum->GetComponent(row, 1));
-}
+  vtkIdType size() const { return values->GetNumberOfTuples(); }
+  double real(vtkIdType row) const { return values->GetComponent(row, 0); }
+  double imaginary(vtkIdType row) const
+  {
+    return values->GetNumberOfComponents() > 1 ? values->GetComponent(row, 1) : 0.0;
+  }
+  double magnitude(vtkIdType row) const
+  {
+    return std::sqrt(real(row) * real(row) + imaginary(row) * imaginary(row));
+  }
+  /// The same without overflow.
+  double safeMagnitude(vtkIdType row) const { return std::hypot(real(row), imaginary(row)); }
+
+private:
+  vtkDataArray* values;
+};
 
 /// @param noise size of what counts as nothing
-double phaseAt(vtkDoubleArray* spectrum, vtkIdType row, double noise)
+double phaseAt(const Spectrum& spectrum, vtkIdType row, double noise)
 {
-  if (sizeAt(spectrum, row) <= noise)
+  if (spectrum.safeMagnitude(row) <= noise)
     return 0.0;
-  return std::atan2(spectrum->GetComponent(row, 1), spectrum->GetComponent(row, 0));
+  return std::atan2(spectrum.imaginary(row), spectrum.real(row));
 }
 
 /// What rounding may leave of a frequency that the curve does not have.
-double roundingNoise(vtkDoubleArray* spectrum)
+double roundingNoise(const Spectrum& spectrum)
 {
   double largest = 0.0;
-  for (vtkIdType row = 0; row < spectrum->GetNumberOfTuples(); ++row)
-    largest = std::max(largest, sizeAt(spectrum, row));
+  for (vtkIdType row = 0; row < spectrum.size(); ++row)
+    largest = std::max(largest, spectrum.safeMagnitude(row));
   return 1e-12 * largest;
 }
 
@@ -66,14 +80,14 @@ vtkSmartPointer<vtkTable> spectralFeatures(vtkTable* curves, SpectralFeature fea
   auto features = vtkSmartPointer<vtkTable>::New();
   for (int i = 0; i < spectra->GetNumberOfColumns(); ++i)
   {
-    vtkDoubleArray* spectrum = doubleColumn(spectra, i);
+    const Spectrum spectrum(vtkDataArray::SafeDownCast(spectra->GetColumn(i)));
     vtkNew<vtkDoubleArray> column;
     column->SetName(std::to_string(i).c_str());
-    column->SetNumberOfValues(spectrum->GetNumberOfTuples());
+    column->SetNumberOfValues(spectrum.size());
     const double noise = roundingNoise(spectrum);
-    for (vtkIdType row = 0; row < spectrum->GetNumberOfTuples(); ++row)
+    for (vtkIdType row = 0; row < spectrum.size(); ++row)
       column->SetValue(row, feature == SpectralFeature::phase ? phaseAt(spectrum, row, noise)
-                                                              : magnitudeAt(spectrum, row));
+                                                              : spectrum.magnitude(row));
     features->AddColumn(column);
   }
   return features;
