@@ -1041,6 +1041,77 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>Talmesh::app::FileMenu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xportieren …</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>B&amp;eenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open runs</source>
+        <translation>Läufe öffnen</translation>
+    </message>
+    <message>
+        <source>Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)</source>
+        <translation>Tabellen und Sitzungen (*.csv *.tsv *.txt *.talmesh);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open the e&amp;xample study</source>
+        <translation>&amp;Beispielstudie öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>Open sessio&amp;n...</source>
+        <translation>S&amp;itzung öffnen …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+O</source>
+        <translation>Ctrl+Alt+O</translation>
+    </message>
+    <message>
+        <source>Open session</source>
+        <translation>Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>Sessions (*.talmesh)</source>
+        <translation>Sitzungen (*.talmesh)</translation>
+    </message>
+    <message>
+        <source>&amp;Save session...</source>
+        <translation>Sitzung &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>Save session &amp;as...</source>
+        <translation>Sitzung speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+S</source>
+        <translation>Ctrl+Alt+S</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::GroupController</name>
     <message>
         <source>This data has no runs over time to group.</source>
@@ -1098,66 +1169,6 @@ Grafiken simulierter Läufe.</translation>
         <translation>%1 geschrieben</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Open...</source>
-        <translation>Ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>Open the e&amp;xample study</source>
-        <translation>&amp;Beispielstudie öffnen</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+O</source>
-        <translation>Ctrl+Shift+O</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>E&amp;xportieren …</translation>
-    </message>
-    <message>
-        <source>Ctrl+E</source>
-        <translation>Ctrl+E</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>B&amp;eenden</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
-    </message>
-    <message>
-        <source>Open runs</source>
-        <translation>Läufe öffnen</translation>
-    </message>
-    <message>
-        <source>Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)</source>
-        <translation>Tabellen und Sitzungen (*.csv *.tsv *.txt *.talmesh);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Open sessio&amp;n...</source>
-        <translation>S&amp;itzung öffnen …</translation>
-    </message>
-    <message>
-        <source>Ctrl+Alt+O</source>
-        <translation>Ctrl+Alt+O</translation>
-    </message>
-    <message>
-        <source>&amp;Save session...</source>
-        <translation>Sitzung &amp;speichern …</translation>
-    </message>
-    <message>
-        <source>Open session</source>
-        <translation>Sitzung öffnen</translation>
-    </message>
-    <message>
-        <source>Sessions (*.talmesh)</source>
-        <translation>Sitzungen (*.talmesh)</translation>
-    </message>
-    <message>
         <source>The chart of this study is composed already.</source>
         <translation>Das Diagramm dieser Studie ist schon zusammengestellt.</translation>
     </message>
@@ -1168,14 +1179,6 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Linear scale: a logarithmic one needs positive values</source>
         <translation>Lineare Skala: eine logarithmische braucht positive Werte</translation>
-    </message>
-    <message>
-        <source>Save session &amp;as...</source>
-        <translation>Sitzung speichern &amp;unter …</translation>
-    </message>
-    <message>
-        <source>Ctrl+Alt+S</source>
-        <translation>Ctrl+Alt+S</translation>
     </message>
 </context>
 <context>

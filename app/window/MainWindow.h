@@ -9,8 +9,6 @@
 
 #include <QMainWindow>
 
-#include <array>
-
 class QLabel;
 class QTabWidget;
 class VtkPlotWidget;
@@ -101,8 +99,6 @@ private:
   void makeMenus();
   void makeFileMenu();
   void makeSelectionMenu();
-  void chooseFile();
-  void chooseSession();
   void openInstead(const QString& path);
   void openExampleInstead();
   void chooseStyle(plotStyles style);
@@ -130,8 +126,6 @@ private:
   SessionController* sessions;
   ExportController* exports;
   RecentMenu* recent;
-  /// What saves the session.
-  std::array<QAction*, 2> saving{};
   UpdateClock clock;
   /// The user has decided what becomes of unsaved work.
   bool leaving = false;

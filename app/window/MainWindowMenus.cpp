@@ -1,7 +1,7 @@
 #include "app/comparison/ComparisonDock.h"
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
-#include "app/window/FileDialogs.h"
+#include "app/window/FileMenu.h"
 #include "app/window/HelpMenu.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
@@ -38,31 +38,13 @@ void MainWindow::makeMenus()
 
 void MainWindow::makeFileMenu()
 {
-  QMenu* file = menuBar()->addMenu(tr("&File"));
-  const auto add = [this, file](const QString& text, const QKeySequence& keys, auto slot)
-  {
-    QAction* action = file->addAction(text, this, slot);
-    action->setShortcut(keys);
-    return action;
-  };
-  add(tr("&Open..."), QKeySequence::Open, &MainWindow::chooseFile);
-  file->addMenu(recent);
-  connect(recent, &RecentMenu::fileChosen, this, &MainWindow::openInstead);
-  add(tr("Open the e&xample study"), QKeySequence(tr("Ctrl+Shift+O")),
-      &MainWindow::openExampleInstead);
-  file->addSeparator();
-  add(tr("Open sessio&n..."), QKeySequence(tr("Ctrl+Alt+O")), &MainWindow::chooseSession);
-  saving[0] = add(tr("&Save session..."), QKeySequence::Save, [this] { sessions->save(); });
-  saving[0]->setObjectName(QStringLiteral("saveSession"));
-  saving[1] = add(tr("Save session &as..."), QKeySequence(tr("Ctrl+Alt+S")),
-                  [this] { sessions->saveAs(); });
-  saving[1]->setObjectName(QStringLiteral("saveSessionAs"));
-  for (QAction* action : saving)
-    action->setEnabled(false);
-  file->addSeparator();
-  add(tr("&Export..."), QKeySequence(tr("Ctrl+E")), [this] { exports->choose(); });
-  file->addSeparator();
-  add(tr("&Quit"), QKeySequence(tr("Ctrl+Q")), &QWidget::close);
+  auto* file = new FileMenu(shown, *recent, this);
+  connect(file, &FileMenu::fileChosen, this, &MainWindow::openInstead);
+  connect(file, &FileMenu::exampleWanted, this, &MainWindow::openExampleInstead);
+  connect(file, &FileMenu::saveWanted, sessions, [this] { sessions->save(); });
+  connect(file, &FileMenu::saveAsWanted, sessions, [this] { sessions->saveAs(); });
+  connect(file, &FileMenu::exportWanted, exports, &ExportController::choose);
+  menuBar()->addMenu(file);
 }
 
 void MainWindow::makeSelectionMenu()
@@ -78,19 +60,6 @@ void MainWindow::makeSelectionMenu()
   connect(tabs, &QTabWidget::currentChanged, menu,
           [this, menu] { menu->setSelecting(tabs->currentWidget() == plot); });
   menuBar()->addMenu(menu);
-}
-
-void MainWindow::chooseFile()
-{
-  askToOpen(this, tr("Open runs"),
-            tr("Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)"),
-            [this](const QString& path) { openInstead(path); });
-}
-
-void MainWindow::chooseSession()
-{
-  askToOpen(this, tr("Open session"), tr("Sessions (*.talmesh)"),
-            [this](const QString& path) { openInstead(path); });
 }
 
 void MainWindow::chooseStyle(plotStyles style)

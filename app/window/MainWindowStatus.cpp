@@ -90,8 +90,6 @@ void MainWindow::showStudy()
   dock->setColumns(shown.columns());
   dock->setChoice(shown.choice());
   timeCourses->setStudy(study);
-  for (QAction* action : saving)
-    action->setEnabled(shown.canBeSaved());
   for (QDockWidget* panel : std::initializer_list<QDockWidget*>{dock, clusterDock})
   {
     panel->widget()->setEnabled(!own);

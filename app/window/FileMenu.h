@@ -1,0 +1,41 @@
+#ifndef FileMenu_h
+#define FileMenu_h
+
+#include <QMenu>
+
+namespace Talmesh::app
+{
+
+class Document;
+class RecentMenu;
+
+/// The menu that opens files, saves sessions and exports. Sessions can be saved when the document
+/// can.
+class FileMenu : public QMenu
+{
+  Q_OBJECT
+
+public:
+  /// @param document outlives the menu
+  /// @param recent the files opened last; becomes a part of the menu
+  /// @param window the parent of the menu and of all questions, which quits by being closed
+  FileMenu(Document& document, RecentMenu& recent, QWidget* window);
+
+signals:
+  void fileChosen(const QString& path);
+  void exampleWanted();
+  void saveWanted();
+  void saveAsWanted();
+  void exportWanted();
+
+private:
+  template <typename Receiver, typename Slot>
+  QAction* add(const QString& text, const QKeySequence& keys, Receiver* receiver, Slot slot);
+  void addOpening(RecentMenu& recent);
+  void addSessions(Document& document);
+  void ask(const QString& title, const QString& filter);
+};
+
+} // namespace Talmesh::app
+
+#endif
