@@ -84,6 +84,8 @@ void dress3DChart(PlotContainer& container)
   if (!chart)
     return;
   chart->SetMargins(margins3D);
+  // Otherwise VTK leaves names and numbers of some axes out, depending on where the points lie.
+  chart->SetEnsureOuterEdgeAxisLabelling(true);
   nameAxes(container, chart);
   tiltOnce(container, chart);
 }
