@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <cstddef>
 #include <cstdlib>
@@ -33,8 +34,17 @@ constexpr int mostSharedThreads = 8;
 constexpr int laterThreads = 2;
 constexpr int patience = 10000; ///< milliseconds
 
+/// The reason is said; what fails on the way out, or in another thread, adds nothing.
+std::atomic<bool> saidWhy{false};
+std::atomic_flag ending = ATOMIC_FLAG_INIT;
+
 [[noreturn]] void endWithoutMemory()
 {
+  // Another thread is ending the program, and would be cut short.
+  while (ending.test_and_set())
+    ::pause();
+  if (saidWhy)
+    ::_exit(EXIT_FAILURE);
   // Without standard error there is only the status.
   const ssize_t ignored = ::write(STDERR_FILENO, memoryLine, sizeof memoryLine - 1);
   static_cast<void>(ignored);
@@ -114,6 +124,7 @@ bool canStartThreads(int count)
 int fail(const std::string& message)
 {
   std::cerr << "talmesh-plot: " << message << std::endl;
+  saidWhy = true;
   return EXIT_FAILURE;
 }
 

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QImage>
 
+#include <vector>
+
 #include "RunningProgram.h"
 #include "SampleStudies.h"
 
@@ -84,13 +86,30 @@ TEST_F(ProgramFaults, EndsClearlyHoweverShortMemoryIs)
   GTEST_SKIP() << "The sanitizer takes addresses without bound.";
 #endif
   const QString csv = write("runs.csv", sampleRuns(500, 1000));
-  int refused = 0;
-  for (const rlim_t megabytes : {300, 700, 750, 800, 850, 900, 1000, 1100, 1200})
+  int withoutMemory = 0;
+  std::vector<int> statuses;
+  for (const rlim_t megabytes : {300, 700, 730, 740, 800, 850, 900, 905, 975, 1050, 1100, 6000})
   {
+    QFile::remove(path("plot.png"));
     const Ended ended = run({csv, "--export", path("plot.png")}, {RLIM_INFINITY, megabytes << 20U});
     EXPECT_FALSE(ended.crashed) << megabytes;
-    EXPECT_EQ(ended.status, ended.errors.contains("talmesh-plot: ") ? 1 : 0) << megabytes;
-    refused += ended.status;
+    statuses.push_back(ended.status);
+    if (ended.status == 0)
+    {
+      EXPECT_EQ(ended.errors.toStdString(), "") << megabytes;
+      EXPECT_EQ(QImage(path("plot.png")).size(), QSize(1000, 700)) << megabytes;
+      continue;
+    }
+    EXPECT_EQ(ended.status, 1) << megabytes;
+    // Libraries may have had their word before.
+    const QByteArray reason = ended.errors.mid(ended.errors.indexOf("talmesh-plot: "));
+    EXPECT_TRUE(ended.errors.contains("talmesh-plot: ")) << megabytes << ended.errors.toStdString();
+    EXPECT_EQ(reason.count('\n'), 1) << megabytes << ": " << ended.errors.toStdString();
+    EXPECT_TRUE(reason.endsWith('\n')) << megabytes;
+    EXPECT_FALSE(QFile::exists(path("plot.png"))) << megabytes;
+    withoutMemory += reason.contains("memory") ? 1 : 0;
   }
-  EXPECT_GT(refused, 0);
+  EXPECT_EQ(statuses.front(), 1);
+  EXPECT_EQ(statuses.back(), 0);
+  EXPECT_GE(withoutMemory, 5) << "the limits lie between the start and success";
 }
