@@ -158,10 +158,7 @@ QString replaceFile(const QString& path, const FileContent& content)
   const QString reason = fill(file.handle(), content);
   if (!reason.isEmpty())
     return reason;
-  errno = 0;
-  if (file.commit())
-    return {};
-  return errno != 0 ? reasonOf(errno) : file.errorString();
+  return file.commit() ? QString() : file.errorString();
 }
 
 /// Opens a device or a pipe. A pipe without a reader, or whose reader stops reading, would hold the

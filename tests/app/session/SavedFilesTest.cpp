@@ -6,6 +6,7 @@
 #include "app/session/SessionFile.h"
 #include "support/DiskFaults.h"
 #include "support/Pictures.h"
+#include "support/PipeReader.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <gtest/gtest.h>
@@ -13,15 +14,12 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <functional>
 #include <future>
 #include <memory>
 #include <string>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 #include "SampleStudies.h"
@@ -71,20 +69,6 @@ protected:
   ComparisonTable comparison;
 };
 
-QByteArray readToTheEnd(const QByteArray& pipe)
-{
-  QByteArray all;
-  char bytes[4096];
-  const int descriptor = open(pipe.constData(), O_RDONLY);
-  for (ssize_t got = 1; got > 0;)
-  {
-    got = read(descriptor, bytes, sizeof bytes);
-    all.append(bytes, static_cast<int>(std::max<ssize_t>(got, 0)));
-  }
-  close(descriptor);
-  return all;
-}
-
 } // namespace
 
 TEST_F(SavedFiles, AreWrittenIntoPipes)
@@ -96,7 +80,7 @@ TEST_F(SavedFiles, AreWrittenIntoPipes)
     ASSERT_TRUE(QFile::remove(path(saved.name)));
     const QByteArray pipe = QFile::encodeName(path(saved.name));
     ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
-    std::future<QByteArray> read = std::async(std::launch::async, readToTheEnd, pipe);
+    std::future<QByteArray> read = readingPipe(pipe);
     EXPECT_EQ(saved.save(path(saved.name)), "") << saved.name;
     struct stat info = {};
     ASSERT_EQ(stat(pipe.constData(), &info), 0);
