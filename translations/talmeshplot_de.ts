@@ -83,6 +83,13 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>PaintingMemory</name>
+    <message>
+        <source>there is not enough memory for this picture</source>
+        <translation>für dieses Bild ist nicht genug Speicher da</translation>
+    </message>
+</context>
+<context>
     <name>PictureFile</name>
     <message>
         <source>the plot could not be painted</source>
@@ -107,10 +114,6 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>%1 x %2 pixels are too many: a side may have %3</source>
         <translation>%1 x %2 Bildpunkte sind zu viele: eine Seite darf %3 haben</translation>
-    </message>
-    <message>
-        <source>there is not enough memory for this picture</source>
-        <translation>für dieses Bild ist nicht genug Speicher da</translation>
     </message>
 </context>
 <context>

@@ -3,9 +3,13 @@
 #include "app/document/PlotSession.h"
 #include "app/document/ShownChart.h"
 #include "app/document/ShownStudy.h"
+#include "app/memory/PaintingMemory.h"
 #include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
 
+#include <QScopedValueRollback>
+
+#include <stdexcept>
 #include <utility>
 
 namespace Talmesh::app
@@ -26,6 +30,7 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
     : QObject(parent)
     , stage(std::move(where))
     , grouped(selected.undoStack())
+    , isThere(hasMemory)
 {
   connect(&selected, &SelectionController::changing, this, [this] { beforeSelection = drawings; });
   connect(&selected, &SelectionController::changed, this, &Document::followSelection);
@@ -63,11 +68,23 @@ void Document::show(PlotContainer* container)
   disconnect(settingsHeard);
   ownChart = nullptr;
   shown.container = container;
+  container->addPreparation(this, [this] { requireMemory(); });
   container->addCompletion(this, [this] { ++drawings; });
-  error = whyNotDone([this] { stage(*shown.container); });
+  {
+    const QScopedValueRollback<bool> guard(refusable, true);
+    error = whyNotDone([this] { stage(*shown.container); });
+  }
   // Connected after the container's own answer, which draws.
   settingsHeard = connect(container->getMetaData(), &PlotMetaData::redrawNeeded, this,
                           &Document::followSettings);
+}
+
+/// Within a drawing, when the settings say what it will be. Nobody would catch a refusal of one
+/// that the container begins by itself.
+void Document::requireMemory() const
+{
+  if (refusable && !isThere(memoryToDraw(*shown.container)))
+    throw std::runtime_error(missingMemory());
 }
 
 /// The container has drawn what was changed in its settings.
@@ -190,6 +207,7 @@ void Document::drawSilently()
 {
   if (!shown.container)
     return;
+  const QScopedValueRollback<bool> guard(refusable, true);
   if (!shown.study.chart)
   {
     error = applyChoice(*shown.container, shown.choice);

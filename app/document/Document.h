@@ -14,9 +14,11 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -40,6 +42,10 @@ public:
   /// @param shown what is in the scene before a study is opened, not owned; null for nothing
   explicit Document(Stage stage, PlotContainer* shown = nullptr, QObject* parent = nullptr);
   ~Document() override;
+
+  /// What tells, in place of `hasMemory`, whether there are so many bytes for a drawing. Without
+  /// them what the document draws is not begun, and the drawing error says so.
+  void setMemoryCheck(std::function<bool(std::size_t)> enough) { isThere = std::move(enough); }
 
   /// Shows a study, which was opened without an error, in a container of its own: with what its
   /// session restores and then what the wishes name. A chart of its own puts the runs or the table
@@ -107,6 +113,7 @@ private:
     PlotChoice choice;
   };
 
+  void requireMemory() const;
   void leave(bool forOwnChart);
   void show(PlotContainer* container);
   std::string openData(const OpenedStudy& opened, const PlotWishes& wishes);
@@ -127,6 +134,9 @@ private:
   SelectionController selected;
   GroupedRuns grouped;
   std::string error;
+  std::function<bool(std::size_t)> isThere;
+  /// A drawing that can be refused is under way.
+  bool refusable = false;
   QMetaObject::Connection settingsHeard;
   /// Drawings of the container now shown that came to their end, whoever asked for them.
   unsigned long drawings = 0;

@@ -1,8 +1,8 @@
 #include "app/export/PictureFile.h"
 
-#include "app/export/PaintingMemory.h"
 #include "app/export/ScaledPicture.h"
 #include "app/import/TranslatedText.h"
+#include "app/memory/PaintingMemory.h"
 #include "plot/PlotContainer.h"
 #include "widgets/FileWriter.h"
 #include "widgets/VtkPlotWidget.h"
@@ -103,11 +103,6 @@ Content csvOf(VtkPlotWidget& widget)
   if (!content.table)
     content.error = translated("PictureFile", "the table could not be written");
   return content;
-}
-
-std::string missingMemory()
-{
-  return translated("PictureFile", "there is not enough memory for this picture");
 }
 
 Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<PaperSize>& paper,

@@ -32,11 +32,12 @@ const Reach& reachableRooms()
 {
   static const Reach rooms{
       {"import", {"import"}},
+      {"memory", {"memory", "import"}},
       {"comparison", {"comparison", "import"}},
       {"session", {"session", "import"}},
       {"tasks", {"tasks", "import"}},
-      {"document", {"document", "session", "comparison", "import"}},
-      {"export", {"export", "import"}},
+      {"document", {"document", "session", "comparison", "memory", "import"}},
+      {"export", {"export", "memory", "import"}},
       {"examples", {"examples", "export", "document", "session", "comparison", "import"}},
       {"window",
        {"window", "examples", "export", "document", "tasks", "session", "comparison", "import"}},

@@ -1,11 +1,16 @@
-#include "app/export/PaintingMemory.h"
+#include "app/memory/PaintingMemory.h"
 
+#include "app/import/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
+#include <vtkAbstractContextItem.h>
+#include <vtkContextScene.h>
 #include <vtkTable.h>
 
 #include <algorithm>
+#include <fstream>
+#include <limits>
 #include <sys/mman.h>
 
 namespace Talmesh::app
@@ -57,6 +62,43 @@ std::size_t bytesPerRow(const PlotContainer& container)
   }
 }
 
+/// Pages that compare selected runs with others hold copies of both.
+std::size_t splitBytesPerRow(const PlotContainer& container)
+{
+  const PlotMetaData& settings = *container.getMetaData();
+  const plotStyles style = settings.getPlotStyle();
+  const bool compares =
+      style == multiPlot || style == fitParameterDistribution || style == selectionCdfPlot;
+  if (!compares || settings.parameterColumns.empty())
+    return 0;
+  return static_cast<std::size_t>(container.getTable()->GetNumberOfColumns()) * sizeof(double);
+}
+
+QSize sceneOf(const PlotContainer& container)
+{
+  const vtkAbstractContextItem* item = container.getItem();
+  vtkContextScene* scene = item ? const_cast<vtkAbstractContextItem*>(item)->GetScene() : nullptr;
+  return scene ? QSize(scene->GetSceneWidth(), scene->GetSceneHeight()) : QSize();
+}
+
+/// What programs may still take before the system must take it from others, in bytes; without
+/// bound where the system does not tell.
+std::size_t availableMemory()
+{
+  constexpr std::size_t unit = 1024;
+  std::ifstream file("/proc/meminfo");
+  std::size_t bytes = 0;
+  bool told = false;
+  std::string name;
+  for (std::size_t number = 0; file >> name >> number; file.ignore(unit, '\n'))
+  {
+    if (name == "MemAvailable:" || name == "SwapFree:")
+      bytes += number * unit;
+    told = told || name == "MemAvailable:";
+  }
+  return told ? bytes : std::numeric_limits<std::size_t>::max();
+}
+
 } // namespace
 
 std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels)
@@ -67,15 +109,28 @@ std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels)
   return rows * bytesPerRow(container) + width * height * bytesPerPixel;
 }
 
+std::size_t memoryToDraw(const PlotContainer& container)
+{
+  const auto rows = static_cast<std::size_t>(container.getTable()->GetNumberOfRows());
+  return memoryToPaint(container, sceneOf(container)) + rows * splitBytesPerRow(container);
+}
+
 bool hasMemory(std::size_t bytes)
 {
   if (bytes == 0)
     return true;
+  if (bytes > availableMemory())
+    return false;
   void* probe = ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   if (probe == MAP_FAILED)
     return false;
   ::munmap(probe, bytes);
   return true;
+}
+
+std::string missingMemory()
+{
+  return translated("PaintingMemory", "there is not enough memory for this picture");
 }
 
 } // namespace Talmesh::app

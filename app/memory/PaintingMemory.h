@@ -4,6 +4,7 @@
 #include <QSize>
 
 #include <cstddef>
+#include <string>
 
 class PlotContainer;
 
@@ -14,8 +15,16 @@ namespace Talmesh::app
 /// graphics driver needs besides is unknown; most end a program that they find without memory.
 std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels);
 
-/// Whether the system would give that many bytes now.
+/// The bytes that drawing a container anew, and painting it into its scene, takes at least: also
+/// those of the tables that are made for a chart.
+std::size_t memoryToDraw(const PlotContainer& container);
+
+/// Whether the system would give that many bytes now: within the bounds of this process, and
+/// without taking them from other programs.
 bool hasMemory(std::size_t bytes);
+
+/// What to say when it would not.
+std::string missingMemory();
 
 } // namespace Talmesh::app
 

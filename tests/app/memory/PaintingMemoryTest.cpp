@@ -1,4 +1,4 @@
-#include "app/export/PaintingMemory.h"
+#include "app/memory/PaintingMemory.h"
 
 #include "app/document/PlotChoice.h"
 #include "app/document/ShownStudy.h"
@@ -14,6 +14,10 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <fstream>
+#include <map>
+#include <string>
 
 #include "SampleStudies.h"
 
@@ -85,6 +89,21 @@ TEST(PaintingMemory, IsThereOrNot)
   EXPECT_TRUE(hasMemory(0));
   EXPECT_TRUE(hasMemory(1 << 20));
   EXPECT_FALSE(hasMemory(std::size_t{128} << 20U));
+}
+
+TEST(PaintingMemory, IsNotTakenFromOtherPrograms)
+{
+  std::ifstream file("/proc/meminfo");
+  std::map<std::string, std::size_t> bytes;
+  std::string name;
+  for (std::size_t number = 0; file >> name >> number; file.ignore(1024, '\n'))
+    bytes[name] = number * 1024;
+  ASSERT_GT(bytes["MemAvailable:"], 0U);
+  const std::size_t present = bytes["MemTotal:"] + bytes["SwapTotal:"];
+  const std::size_t available = bytes["MemAvailable:"] + bytes["SwapFree:"];
+  EXPECT_TRUE(hasMemory(available / 2));
+  // The system itself refuses only what would never fit.
+  EXPECT_FALSE(hasMemory(available + (present - available) / 2));
 }
 
 TEST(PaintingMemory, IsMissedBeforeAnythingIsPainted)
