@@ -145,6 +145,7 @@ void vtkSelectableChartXY::Update()
   else
     SettleScales();
   Superclass::Update();
+  Scales.note(this);
   if (!AnnotationLink || SelectionMethod != SELECTION_ROWS)
     return;
   for (vtkIdType i = 0; i < GetNumberOfPlots(); ++i)
@@ -157,13 +158,14 @@ bool vtkSelectableChartXY::Paint(vtkContext2D* painter)
   return Superclass::Paint(painter);
 }
 
-// The plots have just been told the shift and scale of this painting's axes and must read their
+// Plots that have just been told another shift and scale of this painting's axes must read their
 // points anew, or they would be missing in it.
 bool vtkSelectableChartXY::PaintChildren(vtkContext2D* painter)
 {
   for (vtkIdType i = 0; i < GetNumberOfPlots(); ++i)
-    if (GetPlot(i)->GetVisible())
+    if (GetPlot(i)->GetVisible() && !Scales.areKnown(this, i))
       GetPlot(i)->Update();
+  Scales.note(this);
   return Superclass::PaintChildren(painter);
 }
 

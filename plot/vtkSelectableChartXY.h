@@ -2,6 +2,7 @@
 #define vtkSelectableChartXY_h
 
 #include "plot/LostColumns.h"
+#include "plot/PlotScales.h"
 #include "vtk/VtkCompat.h"
 
 #include <vtkChartXY.h>
@@ -80,6 +81,7 @@ private:
   };
 
   Talmesh::plot::LostColumns Lost;
+  Talmesh::plot::PlotScales Scales; ///< with which the plots were updated last
 
   bool SelectsRows(const vtkContextMouseEvent& mouse);
   void EndDrag();

@@ -1,5 +1,7 @@
 #include "vtk/PictureStore.h"
 
+#include "stats/ParallelParts.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -16,6 +18,8 @@ constexpr std::size_t mostOfTheLargest = 12;
 constexpr std::size_t mostPictures = 64;
 constexpr std::size_t lanes = 4;
 constexpr std::size_t wordSize = sizeof(std::uint64_t);
+/// Bytes whose fingerprint is worth a thread.
+constexpr std::size_t bytesOfPart = std::size_t(1) << 20;
 
 /// Different words lead from one state to different states, and so do different states. Once would
 /// leave the highest bit, a number's sign, in two places that another sign could meet.
@@ -48,6 +52,18 @@ std::uint64_t fingerprint(const unsigned char* bytes, std::size_t size)
     result = mixed(result, words[0]);
   }
   return result;
+}
+
+/// Of the fingerprints of the parts.
+std::uint64_t fingerprintInParts(const unsigned char* bytes, std::size_t size)
+{
+  std::vector<std::uint64_t> parts(size / bytesOfPart + 1);
+  stats::inParallelParts(size, bytesOfPart,
+                         [&](std::size_t first, std::size_t last) {
+                           parts[first / bytesOfPart] = fingerprint(bytes + first, last - first);
+                         });
+  return fingerprint(reinterpret_cast<const unsigned char*>(parts.data()),
+                     parts.size() * sizeof parts[0]);
 }
 } // namespace
 
@@ -88,7 +104,9 @@ void PictureStore::keep(Key key, Picture picture)
 
 void addContent(PictureStore::Key& key, const void* bytes, std::size_t size)
 {
-  const std::uint64_t number = fingerprint(static_cast<const unsigned char*>(bytes), size);
+  const auto* const first = static_cast<const unsigned char*>(bytes);
+  const std::uint64_t number =
+      size > bytesOfPart ? fingerprintInParts(first, size) : fingerprint(first, size);
   key.push_back(static_cast<double>(number >> 32));
   key.push_back(static_cast<double>(number & 0xffffffffu));
 }

@@ -1,6 +1,8 @@
 #ifndef PictureStore_h
 #define PictureStore_h
 
+#include "vtk/PointStore.h"
+
 #include <vtkImageData.h>
 #include <vtkSmartPointer.h>
 
@@ -22,8 +24,9 @@ struct LayerPicture
   std::size_t bytes() const;
 };
 
-/// Pictures that outlive the items that made them. A redraw makes new items of mostly the same
-/// data: those that share a store with the items before take what has not changed from there.
+/// Pictures, and the points they are of, that outlive the items that made them. A redraw makes new
+/// items of mostly the same data: those that share a store with the items before take what has not
+/// changed from there.
 class PictureStore
 {
 public:
@@ -36,6 +39,8 @@ public:
   Picture find(const Key& key);
   /// Those used last are kept, of a total size that is bounded.
   void keep(Key key, Picture picture);
+
+  PointStore& points() { return pointsOfItems; }
 
   /// Notes that a picture was made of so many lines.
   void countLines(std::size_t lines) { counted += static_cast<std::int64_t>(lines); }
@@ -50,6 +55,7 @@ private:
   };
 
   std::list<Entry> entries; ///< the one used last comes first
+  PointStore pointsOfItems;
   std::int64_t counted = 0;
 };
 

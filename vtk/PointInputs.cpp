@@ -27,6 +27,16 @@ void addColumn(std::vector<double>& key, vtkAbstractArray* column)
   key.push_back(column ? static_cast<double>(column->GetNumberOfTuples()) : 0.0);
 }
 
+PointInputs scaleInputs(vtkAxis* x, vtkAxis* y, bool useIndexForX, const vtkRectd& shiftScale)
+{
+  PointInputs inputs;
+  addScale(inputs, x);
+  addScale(inputs, y);
+  inputs.insert(inputs.end(), {shiftScale.GetX(), shiftScale.GetY(), shiftScale.GetWidth(),
+                               shiftScale.GetHeight(), double(useIndexForX)});
+  return inputs;
+}
+
 PointInputs pointInputs(vtkContextMapper2D* data, vtkAxis* x, vtkAxis* y, bool useIndexForX,
                         const vtkRectd& shiftScale, vtkAbstractArray* validPointMask)
 {
@@ -36,10 +46,8 @@ PointInputs pointInputs(vtkContextMapper2D* data, vtkAxis* x, vtkAxis* y, bool u
   addColumn(inputs, useIndexForX ? nullptr : data->GetInputArrayToProcess(0, table));
   addColumn(inputs, data->GetInputArrayToProcess(1, table));
   addColumn(inputs, validPointMask);
-  addScale(inputs, x);
-  addScale(inputs, y);
-  inputs.insert(inputs.end(), {shiftScale.GetX(), shiftScale.GetY(), shiftScale.GetWidth(),
-                               shiftScale.GetHeight(), double(useIndexForX)});
+  const PointInputs scales = scaleInputs(x, y, useIndexForX, shiftScale);
+  inputs.insert(inputs.end(), scales.begin(), scales.end());
   return inputs;
 }
 void addColors(PointInputs& inputs, vtkTable* table, const vtkStdString& column, bool visible,

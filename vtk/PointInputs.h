@@ -19,6 +19,10 @@ namespace Talmesh
 /// does as well as data.
 using PointInputs = std::vector<double>;
 
+/// What of them does not lie in the columns.
+/// @param shiftScale of the item
+PointInputs scaleInputs(vtkAxis* x, vtkAxis* y, bool useIndexForX, const vtkRectd& shiftScale);
+
 /// @param shiftScale of the item
 /// @param validPointMask the column that marks valid points, null for none
 PointInputs pointInputs(vtkContextMapper2D* data, vtkAxis* x, vtkAxis* y, bool useIndexForX,

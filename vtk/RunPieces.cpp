@@ -1,11 +1,33 @@
 #include "vtk/RunPieces.h"
 
+#include "stats/ParallelParts.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 
 namespace Talmesh
 {
+namespace
+{
+/// Worth a thread.
+constexpr vtkIdType rowsOfPart = 65536;
+
+/// Of how many entries a run has.
+std::vector<CountedRun> runsWithEntries(const std::vector<vtkIdType>& entries, vtkIdType stride)
+{
+  std::vector<CountedRun> runs;
+  vtkIdType first = 0;
+  for (const vtkIdType count : entries)
+  {
+    if (count > 0)
+      runs.push_back({first, stride, count});
+    first += stride;
+  }
+  return runs;
+}
+} // namespace
+
 std::vector<CountedRun> wholeRuns(vtkIdType pointCount, vtkIdType stride)
 {
   std::vector<CountedRun> runs;
@@ -37,13 +59,25 @@ std::vector<CountedRun> countRuns(const vtkIdType* listed, vtkIdType count, vtkI
     if (listed[i] >= 0 && listed[i] < runCount)
       ++entries[static_cast<std::size_t>(listed[i])];
   }
-  std::vector<CountedRun> runs;
-  for (vtkIdType run = 0; run < runCount; ++run)
-  {
-    if (entries[static_cast<std::size_t>(run)] > 0)
-      runs.push_back({run * stride, stride, entries[static_cast<std::size_t>(run)]});
-  }
-  return runs;
+  return runsWithEntries(entries, stride);
+}
+
+std::vector<CountedRun> countMarkedRuns(const vtkIdType* rows, vtkIdType rowCount,
+                                        vtkIdType runCount, vtkIdType stride)
+{
+  std::vector<vtkIdType> entries(static_cast<std::size_t>(runCount), 0);
+  stats::inParallelParts(entries.size(), static_cast<std::size_t>(rowsOfPart / stride + 1),
+                         [&](std::size_t first, std::size_t last)
+                         {
+                           for (std::size_t run = first; run < last; ++run)
+                           {
+                             const vtkIdType from =
+                                 std::min(rowCount, static_cast<vtkIdType>(run) * stride);
+                             const vtkIdType end = std::min(rowCount, from + stride);
+                             entries[run] = end - from - std::count(rows + from, rows + end, 0);
+                           }
+                         });
+  return runsWithEntries(entries, stride);
 }
 
 std::vector<unsigned char> maskOf(vtkIdType pointCount, const vtkIdType* badPoints,

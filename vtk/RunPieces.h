@@ -23,6 +23,11 @@ std::vector<CountedRun> wholeRuns(vtkIdType pointCount, vtkIdType stride);
 std::vector<CountedRun> countRuns(const vtkIdType* listed, vtkIdType count, vtkIdType runCount,
                                   vtkIdType stride);
 
+/// Each of @p runCount runs that has marked rows, those that are not 0 of the @p rowCount there
+/// are, with their number as weight.
+std::vector<CountedRun> countMarkedRuns(const vtkIdType* rows, vtkIdType rowCount,
+                                        vtkIdType runCount, vtkIdType stride);
+
 /// One entry per point, 1 for the bad ones.
 std::vector<unsigned char> maskOf(vtkIdType pointCount, const vtkIdType* badPoints,
                                   vtkIdType badCount);

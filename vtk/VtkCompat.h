@@ -34,8 +34,11 @@ using VtkDrawnText = vtkStdString;
 /// What a subclass of vtkPlotPoints calls to read its columns again.
 #if VTK_VERSION_NUMBER < VTK_VERSION_CHECK(9, 2, 0)
 #define TALMESH_VTK_UPDATE_CACHE(table) UpdateTableCache(table)
+#define TALMESH_VTK_CHARTS_READ_COLUMNS 0
 #else
 #define TALMESH_VTK_UPDATE_CACHE(table) UpdateCache()
+/// Charts may have their plots read their columns again by themselves.
+#define TALMESH_VTK_CHARTS_READ_COLUMNS 1
 #endif
 
 #endif

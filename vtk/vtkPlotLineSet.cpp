@@ -35,6 +35,17 @@ Talmesh::CachedPicture::Pixels countLines(Talmesh::PictureStore* store, Talmesh:
     store->countLines(lines.size());
   return runs.count(lines, pen, target);
 }
+
+// The marks may be fewer than the points, where their column is, and count as none once it has
+// gone.
+std::vector<Talmesh::CountedRun> countMarked(vtkIdTypeArray* marks, vtkIdType marked,
+                                             vtkIdType runCount, vtkIdType stride)
+{
+  if (marked == 0)
+    return {};
+  return Talmesh::countMarkedRuns(marks->GetPointer(0), marks->GetNumberOfValues(), runCount,
+                                  stride);
+}
 } // namespace
 
 struct vtkPlotLineSet::Layers
@@ -43,7 +54,6 @@ struct vtkPlotLineSet::Layers
   std::vector<Talmesh::CountedRun> highlights; ///< each highlighted run once
   std::vector<double> readPoints;              ///< tells what `content` is of
   Talmesh::PictureStore::Key content;          ///< of the points
-  std::shared_ptr<Talmesh::PictureStore> store;
   Talmesh::CachedPicture runs;
   Talmesh::CachedPicture highlighted;
 };
@@ -64,16 +74,6 @@ vtkPlotLineSet::~vtkPlotLineSet()
 void vtkPlotLineSet::PrintSelf(ostream& os, vtkIndent indent)
 {
   this->Superclass::PrintSelf(os, indent);
-}
-
-void vtkPlotLineSet::SetPictureStore(std::shared_ptr<Talmesh::PictureStore> store)
-{
-  this->Painted->store = std::move(store);
-}
-
-const std::shared_ptr<Talmesh::PictureStore>& vtkPlotLineSet::GetPictureStore() const
-{
-  return this->Painted->store;
 }
 
 void vtkPlotLineSet::Update()
@@ -152,7 +152,14 @@ const std::vector<double>& vtkPlotLineSet::ContentOf(const Talmesh::RunLines& ru
   const std::vector<double> identity{double(this->Points->GetMTime()), double(this->Stride),
                                      double(this->BreakAtGaps)};
   if (identity != this->Painted->readPoints)
-    this->Painted->content = runs.content();
+  {
+    this->Painted->content = this->SharedKey();
+    if (this->Painted->content.empty())
+      this->Painted->content = runs.content();
+    else
+      this->Painted->content.insert(this->Painted->content.end(), identity.begin() + 1,
+                                    identity.end());
+  }
   this->Painted->readPoints = identity;
   return this->Painted->content;
 }
@@ -166,8 +173,9 @@ void vtkPlotLineSet::PaintRuns(vtkContext2D* painter, const Talmesh::AggregateTa
   this->Painted->runs.paint(
       painter, *target,
       {double(this->Points->GetMTime()), double(this->Stride), double(this->BreakAtGaps)},
-      [&] { return countLines(this->Painted->store.get(), runs, runs.all(), this->Pen, *target); },
-      {this->Painted->store.get(), [&] { return this->ContentOf(runs); }});
+      [&]
+      { return countLines(this->GetPictureStore().get(), runs, runs.all(), this->Pen, *target); },
+      {this->GetPictureStore().get(), [&] { return this->ContentOf(runs); }});
 }
 
 void vtkPlotLineSet::FindMarkedRuns()
@@ -224,10 +232,17 @@ void vtkPlotLineSet::CountHighlights(bool marked)
                                double(this->Stride), double(pointCount)});
   if (source == this->Painted->countedFor)
     return;
-  this->FindHighlights(marked);
-  this->Painted->highlights = Talmesh::countRuns(this->SelectedLineIds->GetPointer(0),
-                                                 this->SelectedLineIds->GetNumberOfValues(),
-                                                 pointCount / this->Stride, this->Stride);
+  const vtkIdType runCount = pointCount / this->Stride;
+  if (marked)
+    this->Painted->highlights =
+        countMarked(this->RemainderSelection, this->NumberOfRemainderRows, runCount, this->Stride);
+  else
+  {
+    this->FindSelectedRuns();
+    this->Painted->highlights =
+        Talmesh::countRuns(this->SelectedLineIds->GetPointer(0),
+                           this->SelectedLineIds->GetNumberOfValues(), runCount, this->Stride);
+  }
   this->Painted->countedFor = source;
 }
 
@@ -263,10 +278,10 @@ void vtkPlotLineSet::PaintHighlights(vtkContext2D* painter, const Talmesh::Aggre
   };
   this->Painted->highlighted.paint(painter, target, key,
                                    [&] {
-                                     return countLines(this->Painted->store.get(), runs,
+                                     return countLines(this->GetPictureStore().get(), runs,
                                                        this->Painted->highlights, pen, target);
                                    },
-                                   {this->Painted->store.get(), content});
+                                   {this->GetPictureStore().get(), content});
 }
 
 void vtkPlotLineSet::PaintSums(vtkContext2D* painter, Talmesh::RunLines& runs)

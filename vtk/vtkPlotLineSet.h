@@ -82,13 +82,6 @@ public:
   vtkBooleanMacro(BreakAtGaps, int);
   ///@}
 
-  ///@{
-  /// Where pictures are looked for that an earlier item of the same lines has made, and where this
-  /// one's go. Null, which is the default, for nowhere.
-  void SetPictureStore(std::shared_ptr<Talmesh::PictureStore> store);
-  const std::shared_ptr<Talmesh::PictureStore>& GetPictureStore() const;
-  ///@}
-
 protected:
   vtkPlotLineSet();
   ~vtkPlotLineSet() override;

@@ -3,8 +3,10 @@
 #include "vtk/CachedLogarithms.h"
 
 #include <vtkAxis.h>
+#include <vtkContext2D.h>
 #include <vtkContextMapper2D.h>
 #include <vtkObjectFactory.h>
+#include <vtkPen.h>
 #include <vtkPoints2D.h>
 #include <vtkTable.h>
 
@@ -28,6 +30,12 @@ bool vtkPlotSafeLine::Paint(vtkContext2D* painter)
 {
   constexpr vtkIdType fewestOfALine = 2;
   if (Points && Points->GetNumberOfPoints() < fewestOfALine)
+    return vtkPlotPoints::Paint(painter);
+  if (!Visible || !Points)
+    return false;
+  painter->ApplyPen(Pen);
+  if (PolyLine &&
+      Curve.paint(painter, this, Points, BadPoints, {static_cast<double>(Points->GetMTime())}))
     return vtkPlotPoints::Paint(painter);
   return vtkPlotLine::Paint(painter);
 }

@@ -1,12 +1,15 @@
 #ifndef vtkPlotSafeLine_h
 #define vtkPlotSafeLine_h
 
+#include "vtk/CurvePicture.h"
+
 #include <vtkPlotLine.h>
 
 /// A line plot that paints a single point without complaint: its marker, if it has one, and no
 /// line. VTK's own reports an error at every painting. On logarithmic axes its points lie where the
 /// chart's axes have their values (vtk/CachedLogarithms.h). It goes by the name of the class that
-/// it stands in for, which clients may ask for.
+/// it stands in for, which clients may ask for. Devices that take pictures of lines
+/// (vtk/AggregateDevice.h), as the screen does, get one of it, with smooth edges.
 class vtkPlotSafeLine : public vtkPlotLine
 {
 public:
@@ -26,6 +29,8 @@ protected:
 private:
   vtkPlotSafeLine(const vtkPlotSafeLine&) = delete;
   void operator=(const vtkPlotSafeLine&) = delete;
+
+  Talmesh::CurvePicture Curve;
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "vtk/vtkPlotStepLine.h"
 
+#include "vtk/CurvePicture.h"
 #include "vtk/PlotItemPainting.h"
 
 #include <vtkContext2D.h>
@@ -50,6 +51,11 @@ void fillStaircase(const float* points, vtkIdType count, const Ends& ends, float
 }
 } // namespace
 
+vtkPlotStepLine::vtkPlotStepLine()
+    : Curve(std::make_unique<Talmesh::CurvePicture>())
+{
+}
+
 vtkPlotStepLine::~vtkPlotStepLine()
 {
   if (this->StepPoints)
@@ -98,8 +104,18 @@ bool vtkPlotStepLine::Paint(vtkContext2D* painter)
   painter->ApplyPen(this->Pen);
   const bool hasBadPoints = this->BadPoints && this->BadPoints->GetNumberOfTuples() > 0;
   if (!hasBadPoints && this->IsFilled)
-    painter->DrawPoly(this->StepPoints);
+    this->DrawStaircase(painter);
   return true;
+}
+
+// The staircase is modified at every update, the points it is made of only when they change.
+void vtkPlotStepLine::DrawStaircase(vtkContext2D* painter)
+{
+  const vtkRectd shift = this->GetShiftScale();
+  const Talmesh::CachedPicture::Key key{double(this->Points->GetMTime()), double(this->LogY),
+                                        shift.GetY(), shift.GetHeight()};
+  if (!this->Curve->paint(painter, this, this->StepPoints, nullptr, key))
+    painter->DrawPoly(this->StepPoints);
 }
 
 bool vtkPlotStepLine::PaintLegend(vtkContext2D* painter, const vtkRectf& rect, int)

@@ -3,6 +3,7 @@
 #include "plot/PlotContainer.h"
 #include "widgets/ExportName.h"
 #include "widgets/PdfContextDevice.h"
+#include "widgets/PixelSampling.h"
 #include "widgets/PlotInteractorStyle.h"
 #include "widgets/TemporaryContextDevice.h"
 
@@ -48,6 +49,7 @@ VtkPlotWidget::VtkPlotWidget(QWidget* parent)
   interactor()->SetInteractorStyle(style);
   ignoreLetters(interactor());
   window->LineSmoothingOn();
+  sampling = std::make_unique<Talmesh::PixelSampling>(window, view->GetScene());
 }
 
 VtkPlotWidget::~VtkPlotWidget() = default;

@@ -9,10 +9,17 @@
 #include <QPointer>
 #include <QString>
 
+#include <memory>
+
 class PlotContainer;
 class vtkContextView;
+namespace Talmesh
+{
+class PixelSampling;
+}
 
-/// Shows one plot container and exports its picture. A new widget shows the example plot.
+/// Shows one plot container and exports its picture. A new widget shows the example plot. The
+/// window's samples of a pixel are taken for charts that need them to look smooth.
 ///
 /// The program must set QVTKOpenGLNativeWidget::defaultFormat() as QSurfaceFormat's default before
 /// it makes its QApplication.
@@ -47,6 +54,7 @@ private:
 
   vtkSmartPointer<vtkContextView> view;
   QPointer<PlotContainer> container;
+  std::unique_ptr<Talmesh::PixelSampling> sampling;
 };
 
 #endif
