@@ -1,109 +1,119 @@
 #include "vtk/PaintedLines.h"
 
 #include "stats/ParallelParts.h"
-#include "vtk/IntervalSink.h"
+#include "vtk/PaintedColumns.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
+#include <memory>
 #include <thread>
 
 namespace Talmesh
 {
 namespace
 {
-/// Pixels that are painted together, of 16 bytes each: few enough for a cache, and many enough to
-/// make up for each slice's following all lines for itself.
-constexpr int pixelsOfSlice = 1 << 16;
+/// Columns of pixels that are painted together: few, so that most lines keep to a part of their
+/// height there.
+constexpr int columnsOfSlice = 32;
+/// Lines that pass all slices of a thread before the next ones do, while they are in its cache.
+constexpr std::size_t linesOfBlock = 4096;
 
-std::size_t columnsOfSlice(int width, int rows, int parts)
+/// The segments of a line that pass between two places across, and the heights between which they
+/// do so.
+struct Passage
 {
-  const int cores = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
-  return static_cast<std::size_t>(std::clamp(pixelsOfSlice / (rows * parts), 1, width / cores + 1));
+  std::int64_t first = -1; ///< segments, none if negative
+  std::int64_t last = -1;
+  double low = std::numeric_limits<double>::infinity();
+  double high = -std::numeric_limits<double>::infinity();
+
+  void include(double height)
+  {
+    low = std::min(low, height);
+    high = std::max(high, height);
+  }
+};
+
+/// @param left in the coordinates of the points, not beyond @p right
+Passage passageOf(const float* points, std::int64_t count, float left, float right)
+{
+  Passage passage;
+  for (std::int64_t i = 0; i + 1 < count; ++i)
+  {
+    const float* const from = points + 2 * i;
+    const float* const to = from + 2;
+    // False for what is no number, to which no line leads.
+    if (!(std::max(from[0], to[0]) >= left && std::min(from[0], to[0]) <= right))
+      continue;
+    if (passage.first < 0)
+      passage.first = i;
+    passage.last = i;
+    const double step = static_cast<double>(to[0]) - from[0];
+    const double slope = (static_cast<double>(to[1]) - from[1]) / step;
+    for (const float place : {left, right})
+    {
+      const double along = std::clamp<double>(static_cast<double>(place) - from[0],
+                                              std::min(step, 0.0), std::max(step, 0.0));
+      passage.include(step == 0.0 ? from[1] : from[1] + slope * along);
+    }
+    if (step == 0.0)
+      passage.include(to[1]);
+  }
+  return passage;
 }
 
-/// Of no colour at all, so that thousands of lines do not blend what was there before them to
-/// numbers so small that processors take a hundred times as long over them.
-constexpr float darkest = 1.0e-6f;
-
-/// Red, green, blue and opacity, 0 to 1, colours multiplied by the opacity.
-using Paint = std::array<float, 4>;
-
-/// Pixels in columns, painted over with one colour after another.
-class PaintedColumns : public IntervalSink
+/// A few columns of the picture, and what paints them.
+struct Slice
 {
-public:
-  PaintedColumns(int columns, int rowCount, double lineOpacity)
-      : rows(rowCount)
-      , opacity(static_cast<float>(lineOpacity))
-      , pixels(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rowCount), Paint{})
+  Slice(int firstColumn, int columnCount, int parts, int height, const LinePen& pen)
+      : first(firstColumn)
+      , columns(columnCount)
+      , painted(parts * columnCount, height, pen.opacity)
+      , tracer(painted, parts * columnCount, height, {pen.width, pen.dotSize, parts})
+      , hasDots(pen.dotSize > 0.0)
+      , margin(0.5 * pen.width + 2.0)
   {
   }
 
-  void setColor(const LineColor& next)
+  void paint(const LinesToCount& lines, std::size_t run, const LineColor& color, PixelMap map)
   {
-    for (std::size_t i = 0; i < next.size(); ++i)
-      color[i] = std::max(static_cast<float>(next[i]) / 255.0f, darkest);
-    color[3] = 1.0f;
+    map.shiftX -= first;
+    CountedRun line = lines.runs[run];
+    if (!hasDots && !cut(line, lines.points, map))
+      return;
+    painted.setColor(color);
+    tracer.trace(lines.points, lines.broken, line, map);
   }
 
-  void add(int first, int end, const float* low, const float* high, std::int32_t weight) override
+  /// Leaves of a line what may pass the columns.
+  /// @return whether anything of it can be seen there
+  bool cut(CountedRun& line, const float* points, const PixelMap& map)
   {
-    repeats = weight;
-    whole = opacityOf(1.0f);
-    for (int column = first; column < end; ++column)
-    {
-      const float bottom = std::max(low[column], 0.0f);
-      const float top = std::min(high[column], static_cast<float>(rows));
-      if (low[column] < high[column] && bottom < top)
-        addTo(column, bottom, top);
-    }
+    const double ends[2] = {(-margin - map.shiftX) / map.scaleX,
+                            (columns + margin - map.shiftX) / map.scaleX};
+    const Passage passage = passageOf(points + 2 * line.first, line.count,
+                                      static_cast<float>(std::min(ends[0], ends[1])),
+                                      static_cast<float>(std::max(ends[0], ends[1])));
+    if (passage.first < 0)
+      return false;
+    const double heights[2] = {passage.low * map.scaleY + map.shiftY,
+                               passage.high * map.scaleY + map.shiftY};
+    if (!painted.isOpen(std::min(heights[0], heights[1]) - margin,
+                        std::max(heights[0], heights[1]) + margin))
+      return false;
+    line.first += passage.first;
+    line.count = passage.last - passage.first + 2;
+    return true;
   }
 
-  const Paint& at(int column, int row) const
-  {
-    return pixels[static_cast<std::size_t>(column) * static_cast<std::size_t>(rows) +
-                  static_cast<std::size_t>(row)];
-  }
-
-private:
-  /// Of lines that cover a part of a pixel.
-  float opacityOf(float part) const
-  {
-    const float once = opacity * part;
-    return repeats == 1 ? once : 1.0f - std::pow(1.0f - once, static_cast<float>(repeats));
-  }
-
-  void addTo(int column, float low, float high)
-  {
-    Paint* const pixel =
-        pixels.data() + static_cast<std::size_t>(column) * static_cast<std::size_t>(rows);
-    const int first = static_cast<int>(low);
-    const int last = static_cast<int>(high);
-    // No pixel can be thought to lie over a copy, which so stays in registers.
-    const Paint over = color;
-    if (first == last)
-      return cover(pixel[first], over, opacityOf(high - low));
-    cover(pixel[first], over, opacityOf(static_cast<float>(first + 1) - low));
-    const float inner = whole;
-    for (int row = first + 1; row < last; ++row)
-      cover(pixel[row], over, inner);
-    if (last < rows)
-      cover(pixel[last], over, opacityOf(high - static_cast<float>(last)));
-  }
-
-  static void cover(Paint& pixel, const Paint& over, float part)
-  {
-    for (std::size_t i = 0; i < pixel.size(); ++i)
-      pixel[i] += part * (over[i] - pixel[i]);
-  }
-
-  int rows;
-  float opacity;
-  Paint color{};
-  std::int32_t repeats = 1;
-  float whole = 0.0f; ///< opacity of a pixel that is covered entirely
-  std::vector<Paint> pixels;
+  int first;
+  int columns;
+  PaintedColumns painted;
+  RunTracer tracer;
+  bool hasDots;
+  double margin; ///< pixels that a line reaches beyond where it runs
 };
 
 unsigned char levelOf(float part)
@@ -115,18 +125,32 @@ unsigned char levelOf(float part)
 void takeMean(const PaintedColumns& columns, int firstPart, int parts, int row,
               unsigned char* pixel)
 {
-  Paint sum{};
+  PaintedColumns::Paint sum{};
   for (int part = firstPart; part < firstPart + parts; ++part)
   {
-    const Paint& paint = columns.at(part, row);
-    for (std::size_t i = 0; i < sum.size(); ++i)
+    const PaintedColumns::Paint& paint = columns.at(part, row);
+    for (std::size_t i = 0; i < 3; ++i)
       sum[i] += paint[i];
+    sum[3] += 1.0f - paint[3];
   }
   if (sum[3] <= 0.0f)
     return;
   for (std::size_t i = 0; i < 3; ++i)
     pixel[i] = levelOf(sum[i] / sum[3]);
   pixel[3] = levelOf(sum[3] / static_cast<float>(parts));
+}
+
+void putInto(std::vector<unsigned char>& image, int width, int height, const Slice& slice,
+             int parts)
+{
+  for (int row = 0; row < height; ++row)
+  {
+    unsigned char* const pixels =
+        image.data() + 4 * (static_cast<std::size_t>(row) * static_cast<std::size_t>(width) +
+                            static_cast<std::size_t>(slice.first));
+    for (int column = 0; column < slice.columns; ++column)
+      takeMean(slice.painted, parts * column, parts, row, pixels + 4 * column);
+  }
 }
 } // namespace
 
@@ -138,29 +162,33 @@ std::vector<unsigned char> paintLines(const LinesToCount& lines,
   if (image.empty())
     return image;
   const int parts = columnsPerPixel(pen, lines.runs.size(), width, height);
-  const auto paintSlice = [&](std::size_t first, std::size_t end)
+  const int sliceCount = (width - 1) / columnsOfSlice + 1;
+  const auto cores = std::max(1u, std::thread::hardware_concurrency());
+  const auto paintSlices = [&](std::size_t firstSlice, std::size_t endSlice)
   {
-    const int columns = static_cast<int>(end - first);
-    PaintedColumns painted(parts * columns, height, pen.opacity);
-    RunTracer tracer(painted, parts * columns, height, {pen.width, pen.dotSize, parts});
-    PixelMap moved = map;
-    moved.shiftX -= static_cast<double>(first);
-    for (std::size_t run = 0; run < lines.runs.size(); ++run)
+    std::vector<std::unique_ptr<Slice>> slices;
+    for (std::size_t i = firstSlice; i < endSlice; ++i)
     {
-      painted.setColor(colors[run]);
-      tracer.trace(lines.points, lines.broken, lines.runs[run], moved);
+      const int first = static_cast<int>(i) * columnsOfSlice;
+      slices.push_back(std::make_unique<Slice>(first, std::min(columnsOfSlice, width - first),
+                                               parts, height, pen));
     }
-    for (int row = 0; row < height; ++row)
+    for (std::size_t end = lines.runs.size(); end > 0;)
     {
-      unsigned char* const pixels =
-          image.data() +
-          4 * (static_cast<std::size_t>(row) * static_cast<std::size_t>(width) + first);
-      for (int column = 0; column < columns; ++column)
-        takeMean(painted, parts * column, parts, row, pixels + 4 * column);
+      const std::size_t begin = end - std::min(end, linesOfBlock);
+      for (const auto& slice : slices)
+      {
+        for (std::size_t run = end; run-- > begin;)
+          slice->paint(lines, run, colors[run], map);
+      }
+      end = begin;
     }
+    for (const auto& slice : slices)
+      putInto(image, width, height, *slice, parts);
   };
-  stats::inParallelParts(static_cast<std::size_t>(width), columnsOfSlice(width, height, parts),
-                         paintSlice);
+  // Neighbours are often alike: small parts leave no thread without work.
+  stats::inParallelParts(static_cast<std::size_t>(sliceCount),
+                         static_cast<std::size_t>(sliceCount) / (4 * cores) + 1, paintSlices);
   return image;
 }
 } // namespace Talmesh

@@ -1,8 +1,10 @@
 #include "vtk/ParallelLines.h"
 
 #include "vtk/AggregateTarget.h"
+#include "vtk/LineCounts.h"
 #include "vtk/PaintedLines.h"
 #include "vtk/PointInputs.h"
+#include "vtk/RowLines.h"
 
 #include <vtkAxis.h>
 #include <vtkChartParallelCoordinates.h>
@@ -17,7 +19,6 @@
 #include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
-#include <cmath>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -31,19 +32,11 @@ using Shapes = AggregateDevice::Shapes;
 /// Of VTK's highlighted lines.
 constexpr unsigned char selectedColor[4] = {255, 0, 0, 100};
 
-struct Axis
-{
-  vtkDataArray* values;
-  float x;
-  double minimum;
-  double scale;
-};
-
 /// Empty if a column has no numbers.
-std::vector<Axis> axesOf(vtkContextItem* item, vtkTable* table)
+std::vector<ParallelAxis> axesOf(vtkContextItem* item, vtkTable* table)
 {
   auto* chart = vtkChartParallelCoordinates::SafeDownCast(item->GetParent());
-  std::vector<Axis> axes;
+  std::vector<ParallelAxis> axes;
   if (!chart || !table)
     return axes;
   vtkStringArray* const columns = chart->GetVisibleColumns();
@@ -60,10 +53,10 @@ std::vector<Axis> axesOf(vtkContextItem* item, vtkTable* table)
   return axes;
 }
 
-CachedPicture::Key keyOf(const std::vector<Axis>& axes)
+CachedPicture::Key keyOf(const std::vector<ParallelAxis>& axes)
 {
   CachedPicture::Key key;
-  for (const Axis& axis : axes)
+  for (const ParallelAxis& axis : axes)
   {
     addColumn(key, axis.values);
     key.insert(key.end(), {double(axis.x), axis.minimum, axis.scale});
@@ -82,61 +75,6 @@ LinePen penOf(vtkPen* pen, const AggregateTarget& target)
 
 vtkStandardNewMacro(ParallelLines);
 
-/// Lines of table rows, like ones that follow each other as one.
-class ParallelLines::RowLines
-{
-public:
-  explicit RowLines(std::vector<Axis> shown)
-      : axes(std::move(shown))
-  {
-  }
-
-  void add(vtkIdType row, const LineColor& color)
-  {
-    const std::size_t first = points.size();
-    for (const Axis& axis : axes)
-    {
-      points.push_back(axis.x);
-      points.push_back(
-          static_cast<float>((axis.values->GetTuple1(row) - axis.minimum) * axis.scale));
-    }
-    const std::size_t length = points.size() - first;
-    if (first >= length && color == colors.back() &&
-        std::equal(points.begin() + static_cast<std::ptrdiff_t>(first), points.end(),
-                   points.begin() + static_cast<std::ptrdiff_t>(first - length)))
-    {
-      points.resize(first);
-      ++lines.runs.back().weight;
-      return;
-    }
-    lines.runs.push_back(
-        {static_cast<std::int64_t>(first / 2), static_cast<std::int64_t>(length / 2), 1});
-    colors.push_back(color);
-  }
-
-  PictureStore::Key content(bool coloured) const
-  {
-    PictureStore::Key key{double(lines.runs.size()), double(coloured)};
-    addContent(key, points.data(), points.size() * sizeof(float));
-    addContent(key, lines.runs.data(), lines.runs.size() * sizeof(CountedRun));
-    addContent(key, colors.data(), colors.size() * sizeof(LineColor));
-    return key;
-  }
-
-  const LinesToCount& toCount()
-  {
-    lines.points = points.data();
-    return lines;
-  }
-  const std::vector<LineColor>& lineColors() const { return colors; }
-
-private:
-  std::vector<Axis> axes;
-  std::vector<float> points;
-  LinesToCount lines;
-  std::vector<LineColor> colors;
-};
-
 struct ParallelLines::Layer
 {
   std::function<void(RowLines&)> gather;
@@ -150,20 +88,19 @@ vtkUnsignedCharArray* ParallelLines::LineColors()
              : nullptr;
 }
 
-bool ParallelLines::HasPictures(const AggregateTarget& target)
+bool ParallelLines::HasLines()
 {
   vtkTable* const table = this->Data->GetInput();
   vtkUnsignedCharArray* const colors = this->LineColors();
   const auto axes = table ? static_cast<vtkIdType>(axesOf(this, table).size()) : 0;
   return this->Visible && axes > 1 && this->Pen->GetLineType() == vtkPen::SOLID_LINE &&
-         !target.wantsShapes(Shapes::Corners, axes * table->GetNumberOfRows()) &&
          (!colors || colors->GetNumberOfTuples() >= table->GetNumberOfRows());
 }
 
 bool ParallelLines::Paint(vtkContext2D* painter)
 {
   const auto target = AggregateTarget::of(painter, this);
-  if (!target || !this->HasPictures(*target))
+  if (!target || !this->HasLines())
     return this->vtkPlotParallelCoordinates::Paint(painter);
   painter->ApplyPen(this->Pen);
   this->PaintAll(painter, *target);
@@ -191,6 +128,15 @@ CachedPicture::Pixels ParallelLines::Count(RowLines& rows, bool coloured, vtkPen
       drawLines(lines, target.map(), target.width(), target.height(), used), pen);
 }
 
+RowLines ParallelLines::Gathered(const Layer& layer, bool merged)
+{
+  RowLines rows(axesOf(this, this->Data->GetInput()));
+  layer.gather(rows);
+  if (merged)
+    rows.mergeAll();
+  return rows;
+}
+
 void ParallelLines::PaintLayer(vtkContext2D* painter, const AggregateTarget& target,
                                CachedPicture& layer, const CachedPicture::Key& key,
                                const Layer& content)
@@ -199,10 +145,7 @@ void ParallelLines::PaintLayer(vtkContext2D* painter, const AggregateTarget& tar
   const auto gathered = [&]() -> RowLines&
   {
     if (!rows)
-    {
-      rows.emplace(axesOf(this, this->Data->GetInput()));
-      content.gather(*rows);
-    }
+      rows.emplace(this->Gathered(content, false));
     return *rows;
   };
   layer.paint(painter, target, key,
@@ -227,7 +170,13 @@ void ParallelLines::PaintAll(vtkContext2D* painter, const AggregateTarget& targe
       rows.add(row, color);
     }
   };
-  this->PaintLayer(painter, target, this->Lines, key, {gather, colors != nullptr});
+  const Layer layer{gather, colors != nullptr};
+  const auto corners =
+      static_cast<vtkIdType>(axesOf(this, table).size()) * table->GetNumberOfRows();
+  if (target.wantsShapes(Shapes::Corners, corners))
+    this->Gathered(layer, colors == nullptr).draw(painter, layer.coloured);
+  else
+    this->PaintLayer(painter, target, this->Lines, key, layer);
 }
 
 void ParallelLines::PaintSelected(vtkContext2D* painter, const AggregateTarget& target)
@@ -246,6 +195,14 @@ void ParallelLines::PaintSelected(vtkContext2D* painter, const AggregateTarget& 
         rows.add(row, {});
     }
   };
-  this->PaintLayer(painter, target, this->SelectedLines, key, {gather, false});
+  const Layer layer{gather, false};
+  // Looking for like ones takes time, which a device that wants none is spared.
+  if (target.wantsShapes(Shapes::Highlights, 1))
+  {
+    RowLines rows = this->Gathered(layer, true);
+    if (target.wantsShapes(Shapes::Highlights, rows.count()))
+      return rows.draw(painter, false);
+  }
+  this->PaintLayer(painter, target, this->SelectedLines, key, layer);
 }
 } // namespace Talmesh

@@ -10,10 +10,12 @@
 namespace Talmesh
 {
 class AggregateTarget;
+class RowLines;
 
 /// A vtkPlotParallelCoordinates, by class name too, whose lines go as pictures to devices that take
 /// them of so many (vtk/AggregateDevice.h). Rows that follow each other with the same values, as
-/// those of a run over its parameters do, are then one line that counts as many times.
+/// those of a run over its parameters do, are then one line that counts as many times. Lines that
+/// such a device wants as shapes are drawn once each, with the opacity of all like ones.
 class ParallelLines : public vtkPlotParallelCoordinates
 {
 public:
@@ -32,13 +34,14 @@ private:
   ParallelLines(const ParallelLines&) = delete;
   void operator=(const ParallelLines&) = delete;
 
-  class RowLines;
   struct Layer;
 
-  bool HasPictures(const AggregateTarget& target);
+  bool HasLines();
   vtkUnsignedCharArray* LineColors();
   CachedPicture::Pixels Count(RowLines& rows, bool coloured, vtkPen* pen,
                               const AggregateTarget& target);
+  /// @param merged whether like lines are one wherever they stand
+  RowLines Gathered(const Layer& layer, bool merged);
   void PaintLayer(vtkContext2D* painter, const AggregateTarget& target, CachedPicture& layer,
                   const CachedPicture::Key& key, const Layer& content);
   void PaintAll(vtkContext2D* painter, const AggregateTarget& target);

@@ -124,12 +124,66 @@ TEST_F(ParallelLinesPicture, IsALineForEachRowOnAnyOtherDevice)
   EXPECT_TRUE(plain->calls(Kind::Image).empty());
   device->shapes = 16; // corners
   EXPECT_TRUE(paint().empty());
-  EXPECT_EQ(linesOf(device, 25).size(), 8u);
+  EXPECT_EQ(linesOf(device, 25).size(), 1u) << "like rows are one line";
   device->shapes = 15;
   EXPECT_EQ(paint().size(), 1u);
   device->shapes = 0;
   lines->GetPen()->SetLineType(vtkPen::DASH_LINE);
   EXPECT_TRUE(paint().empty());
+}
+
+TEST_F(ParallelLinesPicture, IsALineForLikeRowsWhereLinesAreWanted)
+{
+  lines->SetSelection(makeIds({5, 6, 0, 5, 99, -1}));
+  device->shapes = 16;
+  EXPECT_TRUE(paint().empty());
+  const auto sum = [](double once, int repeats)
+  { return static_cast<int>(std::lround(255 * (1 - std::pow(1 - once / 255.0, repeats)))); };
+  const auto first = linesOf(device, sum(25, 5));
+  ASSERT_EQ(first.size(), 1u);
+  EXPECT_EQ(first[0].points, (Points{{at(0, 0)[0], 0.0F}, {at(1, 0)[0], 1.0F}}));
+  EXPECT_EQ(first[0].penColor, (RecordingDevice::Color{0, 0, 0, sum(25, 5)}));
+  EXPECT_EQ(linesOf(device, sum(25, 2)).size(), 1u);
+  EXPECT_EQ(linesOf(device, 25).size(), 1u);
+  const auto selected = linesOf(device, sum(100, 3));
+  ASSERT_EQ(selected.size(), 1u) << "of the two rows, one of them listed twice";
+  EXPECT_EQ(selected[0].penColor, (RecordingDevice::Color{255, 0, 0, sum(100, 3)}));
+  EXPECT_EQ(linesOf(device, 100).size(), 1u);
+}
+
+TEST_F(ParallelLinesPicture, AsksForTheSelectedLinesByThemselves)
+{
+  lines->SetSelection(makeIds({5, 6, 5}));
+  device->shapes = 1; // corners, and highlights
+  EXPECT_EQ(paint().size(), 1u) << "of all lines";
+  EXPECT_EQ(linesOf(device, 100).size() + linesOf(device, 197).size(), 0u);
+  const int alpha = static_cast<int>(std::lround(255 * (1 - std::pow(1 - 100 / 255.0, 3))));
+  EXPECT_EQ(linesOf(device, alpha).size(), 1u);
+  lines->SetSelection(makeIds({5, 0}));
+  EXPECT_EQ(paint().size(), 2u);
+}
+
+TEST_F(ParallelLinesPicture, KeepsTheOrderOfColouredLines)
+{
+  table->AddColumn(makeColumn<vtkDoubleArray>("c", {0, 0, 1, 0, 0, 0, 0, 0}));
+  vtkNew<vtkLookupTable> colors;
+  colors->SetNumberOfTableValues(2);
+  colors->SetTableValue(0, 1, 0, 0, 1);
+  colors->SetTableValue(1, 0, 0, 1, 1);
+  colors->SetRange(0, 1);
+  lines->SetLookupTable(colors);
+  lines->SelectColorArray("c");
+  lines->ScalarVisibilityOn();
+  device->shapes = 16;
+  EXPECT_TRUE(paint().empty());
+  std::vector<int> reds;
+  for (const auto& call : device->calls(Kind::Poly))
+  {
+    if (call.points.size() == 2 && (call.penColor[0] == 255 || call.penColor[2] == 255))
+      reds.push_back(call.penColor[0]);
+  }
+  EXPECT_EQ(reds, (std::vector<int>{255, 0, 255, 255, 255}))
+      << "two rows, one, two, two of another line, and the last one";
 }
 
 TEST_F(ParallelLinesPicture, ShowsSelectedRowsOnTop)
