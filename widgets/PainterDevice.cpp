@@ -95,7 +95,20 @@ Talmesh::PixelGrid PainterDevice::pixelGrid() const
 
 QPainter& PainterDevice::Painter()
 {
+  this->EndMarkers();
+  return this->Surface();
+}
+
+QPainter& PainterDevice::Surface()
+{
   return this->Layer ? this->Layer->painter() : *this->Page;
+}
+
+void PainterDevice::EndMarkers()
+{
+  this->MarkersInARow = 0;
+  if (this->MarkersInLayer)
+    this->EndLayer();
 }
 
 QPointF PainterDevice::OnPage(double x, double y) const
@@ -205,18 +218,20 @@ void PainterDevice::DrawMarkers(int shape, bool highlight, float* points, int n,
     return;
   const double size = std::max(this->Pen->GetWidth(), 1.0f);
   const Talmesh::ClippedPoints left = this->Region(0.0).points(points, n, colors, components, size);
-  const bool asPicture = !this->Layer && left.size() > this->Limits.points;
-  if (asPicture)
+  // Items draw their markers stretch by stretch between the points that they leave out.
+  this->MarkersInARow += static_cast<vtkIdType>(left.size());
+  if (!this->Layer && this->MarkersInARow > this->Limits.points)
+  {
     this->BeginLayer();
+    this->MarkersInLayer = true;
+  }
   this->DrawShapes({shape, highlight, size}, left, components);
-  if (asPicture)
-    this->EndLayer();
 }
 
 void PainterDevice::DrawShapes(const Talmesh::MarkerShape& marker,
                                const Talmesh::ClippedPoints& places, int components)
 {
-  QPainter& painter = this->Painter();
+  QPainter& painter = this->Surface();
   const QPolygonF centres = this->OnPage(places);
   QColor color = Talmesh::colorOf(this->Pen->GetColor(), 4);
   for (int i = 0; i < centres.size(); ++i)

@@ -53,6 +53,9 @@ public:
   void Use(QPainter* painter, const QSize& scene, double resolution);
   void SetLimits(const ShapeLimits& limits) { this->Limits = limits; }
 
+  /// Ends what is still drawn as a picture.
+  void End() override { this->EndMarkers(); }
+
   /// What is drawn from one to the other becomes a picture.
   void BeginLayer();
   void EndLayer();
@@ -109,7 +112,10 @@ protected:
   ~PainterDevice() override;
 
 private:
+  /// Of anything but a marker.
   QPainter& Painter();
+  QPainter& Surface();
+  void EndMarkers();
   /// Where a point of the current coordinates is on the page.
   QPointF OnPage(double x, double y) const;
   QPolygonF OnPage(const Talmesh::ClippedPoints& piece) const;
@@ -128,6 +134,8 @@ private:
   double Resolution = 1.0;
   ShapeLimits Limits;
   std::unique_ptr<Talmesh::PainterLayer> Layer;
+  vtkIdType MarkersInARow = 0; ///< with nothing else drawn between them
+  bool MarkersInLayer = false; ///< whether the layer is that of markers only
   std::vector<std::array<double, 9>> Matrices;
   Talmesh::ClipRectangle Clip;
   bool Clips = false;

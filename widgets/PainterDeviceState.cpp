@@ -100,6 +100,7 @@ void PainterDevice::SetClipping(int* rectangle)
 
 void PainterDevice::EnableClipping(bool enable)
 {
+  this->EndMarkers();
   if (this->Clips && this->Limits.noneOfTheData)
     this->EndLayer();
   this->Clips = enable;
@@ -120,6 +121,8 @@ void PainterDevice::EnableClipping(bool enable)
 
 void PainterDevice::BeginLayer()
 {
+  if (this->MarkersInLayer)
+    this->EndLayer();
   this->Layer = std::make_unique<Talmesh::PainterLayer>(this->ClippedArea(), this->Resolution,
                                                         this->Scene.height());
 }
@@ -128,6 +131,7 @@ void PainterDevice::EndLayer()
 {
   if (!this->Layer)
     return;
+  this->MarkersInLayer = false;
   const auto finished = std::move(this->Layer);
   finished->putOn(*this->Page);
 }
