@@ -94,6 +94,29 @@ BENCHMARK(parallelCoordinatesOfExample)
     ->UseRealTime()
     ->Iterations(2);
 
+/// The same with lines that all differ, coloured by one column and then another.
+void parallelCoordinatesOfRows(benchmark::State& state)
+{
+  constexpr int parameters = 9;
+  BenchWindow window(static_cast<int>(state.range(0) / pointsOfPages), pointsOfPages, parameters);
+  int color = 0;
+  for (auto _ : state)
+  {
+    state.PauseTiming();
+    window.container.setPlotStyle(xyPlot);
+    window.paint(true);
+    window.container.getMetaData()->colorColumn = ++color;
+    state.ResumeTiming();
+    window.container.setPlotStyle(parallelCoordinates);
+    window.paint(true);
+  }
+}
+BENCHMARK(parallelCoordinatesOfRows)
+    ->Arg(1000000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(2);
+
 /// The most memory above that of an empty window while a table of 32 columns is shown and runs of
 /// it are selected. Says something only in a process that measures nothing else.
 void peakMemory(benchmark::State& state)

@@ -106,6 +106,7 @@ def rows():
         *[Row(f"allSelectedOfExample/{style}", f"all rows of the example study selected, style {style}")
           for style in (0, 3, 5, 6)],
         Row("parallelCoordinatesOfExample", "parallel coordinates of the example study"),
+        Row("parallelCoordinatesOfRows/1000000", "parallel coordinates of 1,000,000 rows, coloured"),
         Row("peakMemory/5000", "peak memory of 5,000 × 200 × 32 columns, in tables of 256 MB", (),
             (at_most("tables", 2.5, "2.5 tables"),)),
         Row("exportPdf/500", "PDF of 500 × 200, 50 selected", (QCP,)),
