@@ -140,7 +140,7 @@ bool vtkPlotLineSet::Paint(vtkContext2D* painter)
   }
   else
   {
-    this->FindHighlights(marked);
+    marked ? this->FindMarkedRuns() : this->FindSelectedRuns();
     this->PaintHighlights(painter, runs);
   }
   return true;
@@ -210,14 +210,6 @@ void vtkPlotLineSet::FindSelectedRuns()
     this->SelectedLineIds->SetValue(i, id < 0 ? -1 : id / this->Stride);
   }
   this->SelectedLineIds->Modified();
-}
-
-void vtkPlotLineSet::FindHighlights(bool marked)
-{
-  if (marked)
-    this->FindMarkedRuns();
-  else
-    this->FindSelectedRuns();
 }
 
 void vtkPlotLineSet::CountHighlights(bool marked)

@@ -106,7 +106,6 @@ private:
   void ReadMarkers(vtkTable* table, bool always);
   void FindMarkedRuns();
   void FindSelectedRuns();
-  void FindHighlights(bool marked);
   void CountHighlights(bool marked);
   void PaintHighlights(vtkContext2D* painter, Talmesh::RunLines& runs);
   void PaintHighlights(vtkContext2D* painter, const Talmesh::AggregateTarget& target,

@@ -1,13 +1,7 @@
 # Run by ctest; the variables come from tests/install/CMakeLists.txt.
 cmake_minimum_required(VERSION 3.24)
 
-function(run)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-  if(NOT result EQUAL 0)
-    string(JOIN " " command ${ARGN})
-    message(FATAL_ERROR "${command} ended with ${result}:\n${output}")
-  endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
 
 file(REMOVE_RECURSE "${WORK_TREE}")
 run(${CMAKE_COMMAND} -S "${PARENT_SOURCE}" -B "${WORK_TREE}" -G "${CMAKE_GENERATOR}"

@@ -138,6 +138,7 @@ TEST_F(DesignerPlugin, NamesHeadersThatDeclareTheClasses)
   {
     QFile header(QStringLiteral(TALMESH_INCLUDE_DIR "/") + candidate->includeFile());
     ASSERT_TRUE(header.open(QIODevice::ReadOnly)) << candidate->includeFile().toStdString();
-    EXPECT_TRUE(header.readAll().contains("class TALMESHPLOT_EXPORT " + candidate->name().toUtf8() + " : public"));
+    EXPECT_TRUE(header.readAll().contains("class TALMESHPLOT_EXPORT " + candidate->name().toUtf8() +
+                                          " : public"));
   }
 }

@@ -1,10 +1,9 @@
+#include "export/ExportedPage.h"
 #include "vtk/vtkPlotLineSet.h"
 
 #include <vtkPlotPoints.h>
 
 #include <cmath>
-
-#include "export/ExportedPage.h"
 
 using namespace Talmesh::app;
 using Talmesh::Vectors;

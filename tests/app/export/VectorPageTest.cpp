@@ -1,3 +1,4 @@
+#include "export/ExportedPage.h"
 #include "support/Pictures.h"
 #include "vtk/vtkPlotLineSet.h"
 
@@ -7,8 +8,6 @@
 
 #include <cstdlib>
 #include <string>
-
-#include "export/ExportedPage.h"
 
 using namespace Talmesh::app;
 using Talmesh::Vectors;
