@@ -34,7 +34,7 @@ struct ShapeLimits
 {
   vtkIdType bundle = VTK_ID_MAX;     ///< runs
   vtkIdType highlights = VTK_ID_MAX; ///< runs
-  vtkIdType points = VTK_ID_MAX;     ///< markers of one plot
+  vtkIdType points = VTK_ID_MAX; ///< markers with nothing else between them, of one plot or several
   /// Whether everything that charts clip, which is what they show of the data, becomes pictures.
   bool noneOfTheData = false;
 };
