@@ -7,7 +7,6 @@
 #include "vtk/vtkPlotStepLine.h"
 
 #include <vtkAxis.h>
-#include <vtkChartLegend.h>
 #include <vtkChartMatrix.h>
 #include <vtkChartParallelCoordinates.h>
 #include <vtkContextClip.h>
@@ -56,8 +55,9 @@ bool isSmoothAlone(vtkAbstractContextItem* item)
   // A polygon drawn with the mouse has slanted sides.
   if (auto* chart = dynamic_cast<vtkSelectableChartXY*>(item))
     return chart->GetActionToButton(vtkChart::SELECT_POLYGON) < 0;
-  return isOneOf<vtkAxis, vtkChartLegend, vtkChartMatrix, vtkChartParallelCoordinates,
-                 vtkContextClip, vtkContextTransform, vtkPlotGrid, vtkTooltipItem>(item);
+  // A legend is none: its markers are round.
+  return isOneOf<vtkAxis, vtkChartMatrix, vtkChartParallelCoordinates, vtkContextClip,
+                 vtkContextTransform, vtkPlotGrid, vtkTooltipItem>(item);
 }
 
 bool isSmooth(vtkAbstractContextItem* item)

@@ -84,12 +84,15 @@ PointStore::Key CachedPoints::ContentOfInputs()
     return {};
   PointStore::Key key =
       scaleInputs(this->XAxis, this->YAxis, this->UseIndexForXSeries, this->ShiftScale);
+  vtkIdType rows = -1;
   for (int series = this->UseIndexForXSeries ? 1 : 0; series < 2; ++series)
   {
     vtkDataArray* const column = this->Data->GetInputArrayToProcess(series, this->Data->GetInput());
     if (!column || column->GetNumberOfTuples() < fewestShared ||
-        !column->HasStandardMemoryLayout() || column->GetDataType() == VTK_BIT)
+        (rows >= 0 && column->GetNumberOfTuples() != rows) || !column->HasStandardMemoryLayout() ||
+        column->GetDataType() == VTK_BIT)
       return {};
+    rows = column->GetNumberOfTuples();
     const auto size = static_cast<std::size_t>(column->GetNumberOfValues()) *
                       static_cast<std::size_t>(column->GetDataTypeSize());
     key.insert(key.end(), {double(column->GetDataType()), double(column->GetNumberOfTuples()),

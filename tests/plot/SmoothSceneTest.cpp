@@ -48,7 +48,15 @@ TEST_F(SmoothScene, IsOneOfAxesAndOfLinesThatGoAsPictures)
   add<vtkPlotLineSet>();
   add<vtkPlotSafeLine>();
   add<vtkPlotStepLine>();
+  EXPECT_TRUE(isSmooth());
+}
+
+TEST_F(SmoothScene, IsNoneWithTheRoundMarkersOfALegend)
+{
+  add<vtkPlotLineSet>();
   chart->SetShowLegend(true);
+  EXPECT_FALSE(isSmooth());
+  chart->SetShowLegend(false);
   EXPECT_TRUE(isSmooth());
 }
 
