@@ -1,4 +1,5 @@
-# Read by ctest with `executable`, `target` and `environment` set: adds one test per suite.
+# Read by ctest with `executable`, `target`, `environment`, `listing` and `readers` set: adds one test per suite. Suites
+# of files whose paths match `readers` get that label.
 string(REGEX REPLACE "^test_" "" prefix "${target}")
 
 if(NOT EXISTS "${executable}")
@@ -7,25 +8,39 @@ if(NOT EXISTS "${executable}")
 endif()
 
 execute_process(
-  COMMAND "${executable}" --gtest_list_tests
-  OUTPUT_VARIABLE listing
+  COMMAND "${executable}" --gtest_list_tests "--gtest_output=json:${listing}"
+  OUTPUT_QUIET
   ERROR_VARIABLE errors
   RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
-  message(FATAL_ERROR "${executable} cannot list its tests: ${result}\n${listing}${errors}")
+  message(FATAL_ERROR "${executable} cannot list its tests: ${result}\n${errors}")
 endif()
 
-# A suite stands at the start of a line and ends in a dot; typed suites add a comment after it.
-string(REGEX MATCHALL "(^|\n)[A-Za-z_0-9/]+\\." suites "${listing}")
+# Names of suites, which are indented less than those of their cases, each followed by the files of its cases.
+file(READ "${listing}" text)
+string(REGEX MATCHALL "\n      \"name\": \"[A-Za-z_0-9\\/]+\"|\"file\": \"[^\"\n]*\"" lines "${text}")
+set(suites)
+foreach(line IN LISTS lines)
+  string(REGEX REPLACE "^[^:]*: \"|\"$|\\\\" "" value "${line}")
+  if(NOT line MATCHES "\"file\"")
+    set(suite "${value}")
+    list(APPEND suites "${suite}")
+    set(reads_files_${suite} OFF)
+  elseif(value MATCHES "${readers}")
+    set(reads_files_${suite} ON)
+  endif()
+endforeach()
 if(NOT suites)
   message(FATAL_ERROR "${executable} has no tests")
 endif()
 foreach(suite IN LISTS suites)
-  string(REGEX REPLACE "[\n.]" "" suite "${suite}")
   add_test("${prefix}.${suite}" "${executable}" "--gtest_filter=${suite}.*")
   set_tests_properties("${prefix}.${suite}" PROPERTIES
     TIMEOUT 600
     ENVIRONMENT "${environment}")
+  if(reads_files_${suite})
+    set_tests_properties("${prefix}.${suite}" PROPERTIES LABELS readers)
+  endif()
   # It looks for windows by their titles, which those of other suites may bear.
   if(suite STREQUAL "EndedProgram")
     set_tests_properties("${prefix}.${suite}" PROPERTIES RUN_SERIAL TRUE)

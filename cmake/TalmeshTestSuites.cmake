@@ -1,3 +1,6 @@
+# The tests of what reads files, which `./test --readers` runs under the sanitizers, by their sources.
+set(TALMESH_READER_TESTS "/tests/(app/(import|session)/|plot/([A-Za-z]*Dump[A-Za-z]*|DelimitedFiles)Test\\.cpp)")
+
 # talmesh_register_suites(TARGET): makes every suite of a GoogleTest executable one CTest test.
 # A process per test case would spend most of its time on loading VTK; a process per suite still keeps
 # a crash from taking other suites along. The suites are asked for when ctest runs, so none can be
@@ -13,6 +16,8 @@ function(talmesh_register_suites target)
 "set(executable [==[$<TARGET_FILE:${target}>]==])
 set(target ${target})
 set(environment [==[${environment}]==])
+set(listing [==[${CMAKE_CURRENT_BINARY_DIR}/${target}_suites.json]==])
+set(readers [==[${TALMESH_READER_TESTS}]==])
 include([==[${PROJECT_SOURCE_DIR}/cmake/AddTestSuites.cmake]==])
 ")
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${list}")

@@ -12,13 +12,28 @@ packages=(
   xvfb xauth libgl1-mesa-dri fonts-liberation fonts-dejavu-core locales
 )
 
+# Installed as far as the distribution has them.
+optional_packages=()
+
 say() { echo "$*" >&2; }
 
 missing_packages() {
-  local installed package
-  installed=" $(dpkg-query -W -f='${Package}=${db:Status-Status} ' "${packages[@]}" 2>/dev/null || true)"
-  for package in "${packages[@]}"; do
+  local installed package wanted=("${packages[@]}" "${optional_packages[@]}")
+  installed=" $(dpkg-query -W -f='${Package}=${db:Status-Status} ' "${wanted[@]}" 2>/dev/null || true)"
+  for package in "${wanted[@]}"; do
     [[ $installed == *" $package=installed "* ]] || echo "$package"
+  done
+}
+
+# known_packages PACKAGE...: these without the optional ones that apt does not know.
+known_packages() {
+  local package
+  for package in "$@"; do
+    if [[ " ${optional_packages[*]} " == *" $package "* ]] && ! apt-cache show "$package" >/dev/null 2>&1; then
+      say "This distribution has no $package."
+    else
+      echo "$package"
+    fi
   done
 }
 
@@ -49,13 +64,20 @@ install_packages() {
   as_root "${apt[@]}" update >&2 </dev/null
   # Images without manual pages lack this folder, and the Java packages that VTK pulls in need it.
   as_root mkdir -p /usr/share/man/man1
+  mapfile -t missing < <(known_packages "${missing[@]}")
+  ((${#missing[@]})) || return 0
   as_root "${apt[@]}" install --no-install-recommends "${missing[@]}" >&2 </dev/null
 }
 
 # build PRESET [TARGET...]: brings build/PRESET up to date. Ninja reruns CMake itself when a CMake file changes.
+# With ccache, where it is installed, what was compiled once is not compiled again.
 build() {
   local preset=$1 tree=$root/build/$1
   shift
+  if command -v ccache >/dev/null; then
+    export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
+  fi
   local cache=$tree/CMakeCache.txt
   if [[ -f $cache ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
     say "The checkout has moved: starting $tree afresh."

@@ -2,29 +2,12 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
+
+#include "EndedScript.h"
 
 namespace
 {
-
-struct Ended
-{
-  int status = -1;
-  QString output;
-  QString errors;
-};
-
-Ended bash(const QStringList& arguments)
-{
-  QProcess process;
-  process.start(QStringLiteral("bash"), arguments);
-  EXPECT_TRUE(process.waitForFinished(60000));
-  return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-          QString::fromUtf8(process.readAllStandardError())};
-}
-
-const QString sourceTree = QStringLiteral(TALMESH_SOURCE_DIR);
 
 /// The script in a tree of its own, where packages and build are there already, the display is not,
 /// and the viewer prints its arguments.
@@ -47,7 +30,7 @@ protected:
 
   QString argumentsFor(const QStringList& given)
   {
-    const Ended ended = bash(QStringList{folder.filePath("run")} + given);
+    const EndedScript ended = bash(QStringList{folder.filePath("run")} + given);
     EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();
     return QString(ended.output).replace(folder.path() + '/', QString());
   }
@@ -96,7 +79,7 @@ TEST(SetupScript, SaysInOneLineWhoMayInstallWhatIsMissing)
                          "dpkg-query() { :; }\n"
                          "PATH='" +
                          empty.path() + "' install_packages\n";
-  const Ended ended = bash({"-c", script});
+  const EndedScript ended = bash({"-c", script});
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.output, "");
   EXPECT_EQ(ended.errors, "Neither root nor sudo: let an administrator install first-package "
