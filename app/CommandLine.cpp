@@ -1,7 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/export/PictureFile.h"
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -69,15 +69,15 @@ using Reader = std::string (*)(const std::string& value, CommandLineOptions& opt
 
 std::string readStyle(const std::string& value, CommandLineOptions& options)
 {
-  if (const StyleName* found = findStyle(value))
+  if (const ViewerStyle* found = findStyle(value))
   {
     options.style = found->style;
     return {};
   }
-  std::string error = "unknown style " + value + "; the styles are";
-  for (const StyleName& known : styleNames())
-    error += std::string(known.style == xyPlot ? " " : ", ") + known.name;
-  return error;
+  std::string names;
+  for (const ViewerStyle& known : viewerStyles())
+    names += (names.empty() ? "" : ", ") + std::string(known.name);
+  return "unknown style " + value + "; the styles are " + names;
 }
 
 std::string readX(const std::string& value, CommandLineOptions& options)
@@ -285,7 +285,7 @@ std::string commandLineHelp()
       "  --version               the version\n"
       "\n"
       "Styles:\n";
-  for (const StyleName& style : styleNames())
+  for (const ViewerStyle& style : viewerStyles())
     help += std::string("  ") + style.name +
             std::string(26 - std::char_traits<char>::length(style.name), ' ') + style.title + "\n";
   return help;

@@ -1,7 +1,7 @@
 #include "plot/Margins.h"
 
-#include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
+#include "plot/StyleTable.h"
 
 namespace Talmesh::plot
 {
@@ -27,20 +27,8 @@ void applyMatrixBorders(const PlotState& state, vtkChartMatrix* matrix, int betw
 
 void updateMargins(PlotState& state)
 {
-  switch (state.metaData->getPlotStyle())
-  {
-  case xyPlot:
-    applyXYBorders(state);
-    break;
-  case multiPlot:
-    applyMultiPlotBorders(state);
-    break;
-  case selectionCdfPlot:
-    applySelectionPageBorders(state);
-    break;
-  default:
-    break;
-  }
+  if (const auto apply = currentStyle(state).applyBorders)
+    apply(state);
 }
 
 void applyXYBorders(PlotState& state)

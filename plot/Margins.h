@@ -8,8 +8,8 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// Applies margins and gutters to the chart of the current style; styles other than 0, 5 and 6
-/// take them when they are drawn.
+/// Applies margins and gutters to the chart of the current style, unless it takes them when it is
+/// drawn.
 void updateMargins(PlotState& state);
 
 /// Applies the margins to the XY chart, when there is one.

@@ -10,6 +10,7 @@
 #include "plot/PlotTable.h"
 #include "plot/SettingsSignals.h"
 #include "plot/SimpleTables.h"
+#include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 
@@ -22,7 +23,7 @@ void PlotContainer::setPlotData(vtkSmartPointer<vtkTable> data)
   d->derivedTables.clear();
   Talmesh::plot::replaceTable(*d, data);
   findParameterColumns();
-  if (d->metaData->getPlotStyle() == selectionCdfPlot)
+  if (Talmesh::plot::currentStyle(*d).ranksNewData)
     generateRankedParameters(d->table, 0);
 }
 
@@ -72,7 +73,7 @@ void PlotContainer::updateFromLinePlotTable(bool quartiles)
   if (!d->linePlotTable)
     return;
   Talmesh::plot::fillFromLinePlotTable(*d, d->linePlotTable);
-  if (d->metaData->getPlotStyle() == selectionCdfPlot)
+  if (Talmesh::plot::currentStyle(*d).ranksNewData)
     generateRankedParameters(d->table, 0);
   if (quartiles)
     generateQuartiles();

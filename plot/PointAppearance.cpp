@@ -4,6 +4,7 @@
 #include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
+#include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
 #include "vtk/vtkPlotErrorPoints.h"
 
@@ -52,17 +53,6 @@ void colorByColumn(PlotState& state, vtkPlotPoints* points)
   colorPoints(points, columnName(state.table, column), columnColors(range));
 }
 
-/// The pair plots below the anti-diagonal, then the main chart.
-void setMultiPlotMarkerSize(PlotState& state, double size)
-{
-  const std::size_t parameters = state.metaData->parameterColumns.size();
-  const auto resize = [&](int column, int row)
-  { setMarkerSize(firstPlot(state.chartMatrix->GetChart(vtkVector2i(column, row))), size); };
-  forEachPair(parameters, [&](const ParameterPair& pair) { resize(pair.column, pair.row); });
-  const int middle = static_cast<int>(parameters / 2);
-  resize(middle, middle);
-}
-
 } // namespace
 
 void setColorScheme(PlotState& state, const std::string& column, bool solid)
@@ -105,30 +95,42 @@ void setMarkerStyle(PlotState& state, int style)
 void setPointSize(PlotState& state, double size)
 {
   state.metaData->pointSize = size;
-  switch (state.metaData->getPlotStyle())
-  {
-  case scatterPlotMatrix:
-    state.scatterPlotMatrix->SetPlotMarkerSize(vtkScatterPlotMatrix::ACTIVEPLOT,
-                                               static_cast<float>(size * activePlotScale));
-    state.scatterPlotMatrix->SetPlotMarkerSize(vtkScatterPlotMatrix::SCATTERPLOT,
-                                               static_cast<float>(size));
-    break;
-  case multiPlot:
-    setMultiPlotMarkerSize(state, size);
-    break;
-  case xyPlot:
-    setMarkerSize(firstPlot(state.chartXY), size);
-    break;
-  default:
-    break;
-  }
+  if (const auto resize = currentStyle(state).resizeMarkers)
+    resize(state, size);
+}
+
+void resizeXYMarkers(PlotState& state, double size)
+{
+  setMarkerSize(firstPlot(state.chartXY), size);
+}
+
+void resizeScatterMatrixMarkers(PlotState& state, double size)
+{
+  state.scatterPlotMatrix->SetPlotMarkerSize(vtkScatterPlotMatrix::ACTIVEPLOT,
+                                             static_cast<float>(size * activePlotScale));
+  state.scatterPlotMatrix->SetPlotMarkerSize(vtkScatterPlotMatrix::SCATTERPLOT,
+                                             static_cast<float>(size));
+}
+
+void resizeMultiPlotMarkers(PlotState& state, double size)
+{
+  const std::size_t parameters = state.metaData->parameterColumns.size();
+  const auto resize = [&](int column, int row)
+  { setMarkerSize(firstPlot(state.chartMatrix->GetChart(vtkVector2i(column, row))), size); };
+  forEachPair(parameters, [&](const ParameterPair& pair) { resize(pair.column, pair.row); });
+  const int middle = static_cast<int>(parameters / 2);
+  resize(middle, middle);
 }
 
 void setLineWidth(PlotState& state, double width)
 {
   state.metaData->setLineWidth(width);
-  if (state.metaData->getPlotStyle() != scatterWithErrorBars)
-    return;
+  if (const auto widen = currentStyle(state).widenLines)
+    widen(state, width);
+}
+
+void widenErrorBars(PlotState& state, double width)
+{
   if (auto* errorBars = vtkPlotErrorPoints::SafeDownCast(firstPlot(state.chartXY)))
   {
     vtkSmartPointer<vtkPen> pen = errorBars->GetPen();

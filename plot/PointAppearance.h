@@ -26,8 +26,19 @@ void setMarkerStyle(PlotState& state, int style);
 /// Stores the marker size in pixels and applies it to the charts of the current style.
 void setPointSize(PlotState& state, double size);
 
-/// Stores the line width in pixels; in style 7 it becomes the width of the error bars.
+/// What the marker size is given to: the XY chart's first plot; all pairs of the scatter-plot
+/// matrix, with half as much again in the large chart; the first plots of the multi-plot page's
+/// pairs, below the anti-diagonal, and of its main chart.
+void resizeXYMarkers(PlotState& state, double size);
+void resizeScatterMatrixMarkers(PlotState& state, double size);
+void resizeMultiPlotMarkers(PlotState& state, double size);
+
+/// Stores the line width in pixels and applies it to lines of the current style that it is meant
+/// for at once.
 void setLineWidth(PlotState& state, double width);
+
+/// Makes `width` the width of the error bars in the XY chart.
+void widenErrorBars(PlotState& state, double width);
 
 } // namespace Talmesh::plot
 

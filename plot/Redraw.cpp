@@ -8,7 +8,6 @@
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/RankedTables.h"
-#include "plot/ReservedStyle.h"
 #include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
 #include "plot/StyleTable.h"
@@ -37,8 +36,7 @@ void dress(PlotState& state)
 /// @return whether that happened, or the container has ended
 bool cutSelection(PlotState& state)
 {
-  // A style that draws no rows needs no cut.
-  if (!currentScene(state) || builderOf(state.metaData->getPlotStyle()) == drawReservedStyle)
+  if (!currentScene(state) || !currentStyle(state).drawsRows)
     return false;
   const unsigned long before = state.drawings;
   const vtkSmartPointer<vtkSelectionUpdateCallback> callback = state.selectionUpdateCallback;
@@ -51,7 +49,7 @@ bool cutSelection(PlotState& state)
 bool build(PlotState& state, vtkContextScene* scene)
 {
   const unsigned long before = state.drawings;
-  builderOf(state.metaData->getPlotStyle())(state, scene);
+  currentStyle(state).build(state, scene);
   return state.drawings != before;
 }
 
@@ -78,7 +76,7 @@ bool draw(PlotState& state)
   }
   prepare(state);
   dropOutdatedRanks(state);
-  if (!showsXYChart(state.metaData->getPlotStyle()))
+  if (!currentStyle(state).showsXYChart)
     forgetChartLooks(state);
   const bool drawnWithin = build(state, currentScene(state));
   dress(state);

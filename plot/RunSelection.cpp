@@ -6,6 +6,7 @@
 #include "plot/RunLayout.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SelectionNodes.h"
+#include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 #include "vtk/RowCopies.h"
@@ -42,7 +43,7 @@ vtkDoubleArray* runsOfRows(vtkTable* table)
 
 vtkIdTypeArray* acceptedRows(const PlotState& state)
 {
-  if (state.metaData->getPlotStyle() != selectionCdfPlot)
+  if (!currentStyle(state).selectsAcceptedRuns)
     return nullptr;
   return vtkIdTypeArray::SafeDownCast(columnNamed(state.table, Talmesh::RemainderSelectionColumn));
 }

@@ -5,6 +5,7 @@
 #include "plot/ChartLifetime.h"
 #include "plot/LostColumns.h"
 #include "plot/PlotState.h"
+#include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
 #include "plot/Titles.h"
 
@@ -92,20 +93,6 @@ void dressSeries(StackingPlot* plot, vtkChartXY* chart)
   chart->SetShowLegend(true);
 }
 
-void addBands(PlotState& state, bool total)
-{
-  vtkChartXY* chart = state.chartXY;
-  auto* bands = vtkPlotStacked::SafeDownCast(chart->AddPlot(vtkChart::STACKED));
-  dressLeftAxis(chart->GetAxis(vtkAxis::LEFT), total);
-  chart->GetAxis(vtkAxis::BOTTOM)->SetTitle("Time [s]");
-  if (isTimeAxis(vtkDataArray::SafeDownCast(columnNamed(state.table, "Time")), state.table))
-  {
-    bands->SetInputArray(0, "Time");
-    feedSeries(bands, state.table);
-  }
-  dressSeries(bands, chart);
-}
-
 /// Upright labels take their length from the height of the plot, so long ones are written smaller.
 int labelFontSize(vtkStringArray* names)
 {
@@ -131,7 +118,23 @@ void labelCategories(vtkAxis* axis, vtkStringArray* names)
   axis->SetTitle("Species");
 }
 
-void addBars(PlotState& state, bool total)
+} // namespace
+
+void addSobolBands(PlotState& state, bool total)
+{
+  vtkChartXY* chart = state.chartXY;
+  auto* bands = vtkPlotStacked::SafeDownCast(chart->AddPlot(vtkChart::STACKED));
+  dressLeftAxis(chart->GetAxis(vtkAxis::LEFT), total);
+  chart->GetAxis(vtkAxis::BOTTOM)->SetTitle("Time [s]");
+  if (isTimeAxis(vtkDataArray::SafeDownCast(columnNamed(state.table, "Time")), state.table))
+  {
+    bands->SetInputArray(0, "Time");
+    feedSeries(bands, state.table);
+  }
+  dressSeries(bands, chart);
+}
+
+void addSobolBars(PlotState& state, bool total)
 {
   vtkChartXY* chart = state.chartXY;
   auto* bars = vtkPlotBar::SafeDownCast(chart->AddPlot(vtkChart::BAR));
@@ -145,8 +148,6 @@ void addBars(PlotState& state, bool total)
   dressSeries(bars, chart);
 }
 
-} // namespace
-
 void buildSobolChart(PlotState& state, bool total)
 {
   freeChartsSetAside();
@@ -157,10 +158,8 @@ void buildSobolChart(PlotState& state, bool total)
   state.tableOfResults = state.table;
   // Its rows are none that the selection speaks of, and a selection would replace it.
   state.chartXY->SetAnnotationLink(nullptr);
-  if (state.metaData->getPlotStyle() == reservedStyle2)
-    addBands(state, total);
-  else if (state.metaData->getPlotStyle() == reservedStyle1)
-    addBars(state, total);
+  if (const auto add = currentStyle(state).addSobolIndices)
+    add(state, total);
   state.chartXY->Update();
   setPlotTitle(state, state.metaData->title);
 }

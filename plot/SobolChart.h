@@ -6,12 +6,17 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// Replaces the XY chart by a new one, without scene, that shows the table's sensitivity indices:
-/// in style 2 as bands stacked over the column "Time", in style 1 as one stacked bar per row,
-/// labelled by the string column "Name". The series are all columns but the last. Any other style
-/// gives an empty chart with the title. `total` chooses the left axis: a range from 0 for total
-/// indices, 0 to 1 otherwise.
+/// Replaces the XY chart by a new one, without scene, that shows the table's sensitivity indices
+/// as the current style does; one that knows no indices gives an empty chart with the title.
+/// `total` chooses the left axis: a range from 0 for total indices, 0 to 1 otherwise. The series
+/// are all columns but the last.
 void buildSobolChart(PlotState& state, bool total);
+
+/// The indices as bands stacked over the column "Time".
+void addSobolBands(PlotState& state, bool total);
+
+/// The indices as one stacked bar per row, labelled by the string column "Name".
+void addSobolBars(PlotState& state, bool total);
 
 } // namespace Talmesh::plot
 

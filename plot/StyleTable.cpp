@@ -1,14 +1,21 @@
 #include "plot/StyleTable.h"
 
+#include "external/PlotMetaData.h"
 #include "plot/ErrorBarChart.h"
 #include "plot/FitParameterPage.h"
+#include "plot/Margins.h"
 #include "plot/MultiPlotPage.h"
 #include "plot/ParallelCoordinatesChart.h"
+#include "plot/PlotState.h"
+#include "plot/PointAppearance.h"
 #include "plot/PointChart3D.h"
 #include "plot/ReservedStyle.h"
 #include "plot/ScatterMatrix.h"
 #include "plot/SelectionPage.h"
+#include "plot/SobolChart.h"
 #include "plot/XYChart.h"
+
+#include <algorithm>
 
 namespace Talmesh::plot
 {
@@ -16,49 +23,101 @@ namespace Talmesh::plot
 namespace
 {
 
-struct StyleEntry
+StyleRow xyRow()
 {
-  plotStyles style;
-  StyleBuilder builder;
-  bool hasXYChart;
-};
+  StyleRow row{xyPlot, drawXYChart};
+  row.applyBorders = applyXYBorders;
+  row.resizeMarkers = resizeXYMarkers;
+  row.showsXYChart = true;
+  return row;
+}
 
-constexpr StyleEntry styleTable[] = {
-    {xyPlot, drawXYChart, true},
-    {scatterPlotMatrix, drawScatterMatrix, false},
-    {xyzPlot, drawPointChart3D, false},
-    {multiPlot, drawMultiPlotPage, true},
-    {selectionCdfPlot, drawSelectionPage, true},
-    {scatterWithErrorBars, drawErrorBarChart, true},
-    {fitParameterDistribution, drawFitParameterPage, false},
-    {parallelCoordinates, drawParallelCoordinates, false},
-};
-
-/// The other styles show a title on the XY chart.
-constexpr StyleBuilder otherBuilder = drawReservedStyle;
-
-const StyleEntry* entryOf(plotStyles style)
+/// A title on the XY chart, or the sensitivity indices that a client has put there.
+StyleRow reservedRow(plotStyles style)
 {
-  for (const StyleEntry& entry : styleTable)
-  {
-    if (entry.style == style)
-      return &entry;
-  }
-  return nullptr;
+  StyleRow row{style, drawReservedStyle};
+  row.showsXYChart = true;
+  row.drawsRows = false;
+  return row;
+}
+
+StyleRow sobolBarRow()
+{
+  StyleRow row = reservedRow(reservedStyle1);
+  row.addSobolIndices = addSobolBars;
+  return row;
+}
+
+StyleRow sobolBandRow()
+{
+  StyleRow row = reservedRow(reservedStyle2);
+  row.addSobolIndices = addSobolBands;
+  return row;
+}
+
+StyleRow scatterMatrixRow()
+{
+  StyleRow row{scatterPlotMatrix, drawScatterMatrix};
+  row.resizeMarkers = resizeScatterMatrixMarkers;
+  return row;
+}
+
+StyleRow multiPlotRow()
+{
+  StyleRow row{multiPlot, drawMultiPlotPage};
+  row.applyBorders = applyMultiPlotBorders;
+  row.resizeMarkers = resizeMultiPlotMarkers;
+  row.showsXYChart = true;
+  return row;
+}
+
+StyleRow selectionPageRow()
+{
+  StyleRow row{selectionCdfPlot, drawSelectionPage};
+  row.applyBorders = applySelectionPageBorders;
+  row.showsXYChart = true;
+  row.ranksNewData = true;
+  row.selectsAcceptedRuns = true;
+  return row;
+}
+
+StyleRow errorBarRow()
+{
+  StyleRow row{scatterWithErrorBars, drawErrorBarChart};
+  row.widenLines = widenErrorBars;
+  row.showsXYChart = true;
+  return row;
 }
 
 } // namespace
 
-StyleBuilder builderOf(plotStyles style)
+const std::vector<StyleRow>& styleTable()
 {
-  const StyleEntry* entry = entryOf(style);
-  return entry ? entry->builder : otherBuilder;
+  static const std::vector<StyleRow> table = {xyRow(),
+                                              sobolBarRow(),
+                                              sobolBandRow(),
+                                              scatterMatrixRow(),
+                                              {xyzPlot, drawPointChart3D},
+                                              multiPlotRow(),
+                                              selectionPageRow(),
+                                              errorBarRow(),
+                                              {fitParameterDistribution, drawFitParameterPage},
+                                              {parallelCoordinates, drawParallelCoordinates}};
+  return table;
 }
 
-bool showsXYChart(plotStyles style)
+const StyleRow& styleRow(plotStyles style)
 {
-  const StyleEntry* entry = entryOf(style);
-  return !entry || entry->hasXYChart;
+  static const StyleRow other = reservedRow(static_cast<plotStyles>(parallelCoordinates + 1));
+  const std::vector<StyleRow>& table = styleTable();
+  const auto found = std::find_if(table.begin(), table.end(),
+                                  [style](const StyleRow& row) { return row.style == style; });
+  return found == table.end() ? other : *found;
+}
+
+const StyleRow& currentStyle(const PlotState& state)
+{
+  return styleRow(state.metaData->getPlotStyle());
 }
 
 } // namespace Talmesh::plot

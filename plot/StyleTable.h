@@ -3,6 +3,8 @@
 
 #include "external/PlotStyles.h"
 
+#include <vector>
+
 class vtkContextScene;
 
 namespace Talmesh::plot
@@ -10,15 +12,40 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// Builds the chart of one plot style into `scene`.
-using StyleBuilder = void (*)(PlotState& state, vtkContextScene* scene);
+/// Everything in which one plot style differs from another. A function that is null does nothing.
+struct StyleRow
+{
+  plotStyles style;
+  /// Builds the chart into `scene`; never null.
+  void (*build)(PlotState& state, vtkContextScene* scene);
+  /// Gives the chart that is shown margins and gutters that have changed. Other styles take them
+  /// when they are drawn.
+  void (*applyBorders)(PlotState& state) = nullptr;
+  /// Gives the settings' point size, in pixels, to the markers that it is meant for.
+  void (*resizeMarkers)(PlotState& state, double size) = nullptr;
+  /// Gives the settings' line width, in pixels, to lines that are shown already.
+  void (*widenLines)(PlotState& state, double width) = nullptr;
+  /// Adds the sensitivity indices of the table, `total` or first-order ones, to the XY chart.
+  void (*addSobolIndices)(PlotState& state, bool total) = nullptr;
+  /// An XY chart is shown, alone or as the main one of a page: one whose left axis can be
+  /// logarithmic and which can have a legend.
+  bool showsXYChart = false;
+  /// Rows of the table are drawn, so a drawing cuts the selection to it.
+  bool drawsRows = true;
+  /// New data are ranked as soon as they arrive.
+  bool ranksNewData = false;
+  /// The runs selected are those that the last split accepted, not all with a selected row.
+  bool selectsAcceptedRuns = false;
+};
 
-/// The builder of `style`. Every value that names no chart gets the reserved style's builder.
-StyleBuilder builderOf(plotStyles style);
+/// A row per plot style, in the order of their numbers.
+const std::vector<StyleRow>& styleTable();
 
-/// Whether the style shows an XY chart, alone or as the main one of a page: one whose left axis can
-/// be logarithmic and which can have a legend.
-bool showsXYChart(plotStyles style);
+/// The row of `style`; values that name no chart have one that draws like the reserved styles.
+const StyleRow& styleRow(plotStyles style);
+
+/// The row of the style that the settings ask for.
+const StyleRow& currentStyle(const PlotState& state);
 
 } // namespace Talmesh::plot
 

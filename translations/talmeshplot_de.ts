@@ -593,7 +593,7 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
-    <name>StyleNames</name>
+    <name>ViewerStyles</name>
     <message>
         <source>XY plot</source>
         <translation>XY-Diagramm</translation>

@@ -1,6 +1,7 @@
 #include "app/comparison/ComparisonSettings.h"
 
 #include "app/comparison/ThresholdBox.h"
+#include "app/styles/ViewerStyles.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -176,19 +177,18 @@ void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles st
 
 void ComparisonSettings::enableControls()
 {
-  const bool distributionsShown = hasParameters && shownStyle == selectionCdfPlot;
-  showState(distributions, distributionsShown);
+  showState(distributions, hasParameters && shownStyle == selectionCdfPlot);
   showState(pairs, hasParameters && shownStyle == multiPlot);
   // The thresholds also say what the table of results calls significant, in every style.
   for (QWidget* control :
        std::initializer_list<QWidget*>{distributions, pairs, pThreshold, ksThreshold})
     control->setEnabled(hasParameters);
-  density->setEnabled(distributionsShown);
-  commonDensityScale->setEnabled(distributionsShown && density->isChecked());
-  bands->setEnabled(distributionsShown);
-  logParameterAxes->setEnabled(
-      distributionsShown ||
-      (hasParameters && (shownStyle == multiPlot || shownStyle == fitParameterDistribution)));
+  const ViewerStyle& style = viewerStyle(shownStyle);
+  const bool hasCurves = hasParameters && style.showsDistributions;
+  density->setEnabled(hasCurves);
+  commonDensityScale->setEnabled(hasCurves && density->isChecked());
+  bands->setEnabled(hasCurves);
+  logParameterAxes->setEnabled(hasParameters && style.comparesRuns);
 }
 
 } // namespace Talmesh::app

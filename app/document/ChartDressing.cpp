@@ -4,6 +4,7 @@
 #include "app/comparison/ComparisonResults.h"
 #include "app/document/FurtherSeries.h"
 #include "app/import/ColumnRoles.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/TableColumns.h"
@@ -68,14 +69,12 @@ void nameAxes(const PlotContainer& container, vtkChartXYZ* chart)
   chart->SetZAxisLabel(name(settings.zColumns));
 }
 
-/// The scatter-plot matrix has titles above and tick labels to the right, which the other charts do
-/// not.
 void makeRoom(PlotContainer& container)
 {
-  const bool matrix = container.getMetaData()->getPlotStyle() == scatterPlotMatrix;
-  container.setTopMargin(matrix ? 45 : 30);
-  container.setRightMargin(matrix ? 60 : 30);
-  container.setBottomMargin(matrix ? 50 : 45);
+  const PageRoom& room = styleOf(*container.getMetaData()).room;
+  container.setTopMargin(room.top);
+  container.setRightMargin(room.right);
+  container.setBottomMargin(room.bottom);
 }
 
 void dress3DChart(PlotContainer& container)

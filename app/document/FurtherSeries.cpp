@@ -1,6 +1,7 @@
 #include "app/document/FurtherSeries.h"
 
 #include "app/import/ColumnRoles.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/ContainerAccess.h"
@@ -66,7 +67,7 @@ void addFurtherSeries(PlotContainer& container)
 {
   vtkChartXY* chart = container.getChartXY();
   const PlotMetaData& settings = *container.getMetaData();
-  if (!chart || settings.getPlotStyle() != xyPlot || chart->GetNumberOfPlots() == 0)
+  if (!chart || !styleOf(settings).hasSeries || chart->GetNumberOfPlots() == 0)
     return;
   freeLeftAxis(container, chart);
   vtkNew<vtkColorSeries> colours;

@@ -1,6 +1,7 @@
 #include "app/document/GroupedPlots.h"
 
 #include "app/import/TranslatedText.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/ContainerAccess.h"
 #include "plot/Decorations.h"
@@ -49,7 +50,7 @@ DrawnRuns drawnRuns(const PlotContainer& container)
   drawn.y = plot::doubleColumn(container.getTable(), plot::firstOf(settings.yColumns));
   drawn.stride = settings.getStride();
   vtkChartXY* chart = container.getChartXY();
-  const bool usable = settings.getPlotStyle() == xyPlot && chart && chart->GetNumberOfPlots() > 0 &&
+  const bool usable = styleOf(settings).hasSeries && chart && chart->GetNumberOfPlots() > 0 &&
                       drawn.x && drawn.y && drawn.stride > 0;
   if (!usable)
     return drawn;

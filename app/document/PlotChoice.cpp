@@ -2,6 +2,7 @@
 
 #include "app/import/ColumnRoles.h"
 #include "app/import/TranslatedText.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/TableColumns.h"
@@ -89,16 +90,6 @@ bool operator==(const PlotChoice& left, const PlotChoice& right)
   return values(left) == values(right);
 }
 
-bool hasLegend(plotStyles style)
-{
-  return hasLogarithmicY(style) || style == scatterWithErrorBars;
-}
-
-bool hasLogarithmicY(plotStyles style)
-{
-  return style == xyPlot || style == multiPlot || style == selectionCdfPlot;
-}
-
 PlotChoice choiceOf(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
@@ -136,9 +127,10 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
   const std::string error = whyNotDone([&container] { container.redraw(); });
   if (!error.empty())
     return error;
-  if (hasLogarithmicY(choice.style))
+  const PlotControls& controls = viewerStyle(choice.style).controls;
+  if (controls.logY)
     container.setLogScaleY(choice.logY);
-  if (hasLegend(choice.style))
+  if (controls.legend)
     container.setShowLegend(choice.legend);
   return {};
 }

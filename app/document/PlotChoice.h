@@ -29,11 +29,6 @@ struct PlotChoice
 
 bool operator==(const PlotChoice& left, const PlotChoice& right);
 
-/// Whether the style has a chart that can have a legend, and one whose y axis can be logarithmic:
-/// error bars are lengths on a linear one.
-bool hasLegend(plotStyles style);
-bool hasLogarithmicY(plotStyles style);
-
 /// What a container now shows; legend and logarithmic y axis as its XY chart has them.
 PlotChoice choiceOf(const PlotContainer& container);
 

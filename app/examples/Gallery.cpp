@@ -5,6 +5,7 @@
 #include "app/document/TimeCourses.h"
 #include "app/examples/PublishedViews.h"
 #include "app/examples/StatisticsViews.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
@@ -101,7 +102,7 @@ std::string drawLastPoints(const Study& study, Document& document, plotStyles st
     choice.x = parameters[0];
     choice.z = parameters[1];
   }
-  if (style == parallelCoordinates)
+  if (viewerStyle(style).hasColumnsAsAxes)
     choice.y = plottedAndParameters(*document.container());
   return showChoice(document, choice);
 }

@@ -1,6 +1,7 @@
 #include "app/memory/PaintingMemory.h"
 
 #include "app/import/TranslatedText.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
@@ -21,55 +22,24 @@ namespace
 
 /// A point is kept by its plot, by the painter and by the driver, in two floats each.
 constexpr std::size_t bytesPerPoint = 3 * 2 * sizeof(float);
-/// With fewer chosen columns, parallel coordinates show all.
-constexpr std::size_t fewestChosenAxes = 3;
 
 /// A pixel is kept by what is painted on, by the layer and the counters of both threads that runs
 /// are counted with, by their opacity, and by the picture of the runs while highlighted ones are
 /// counted.
 constexpr std::size_t bytesPerPixel = 4 + 4 + 2 * 4 + 1 + 4;
 
-std::size_t pairsOf(std::size_t columns)
-{
-  return columns * (columns - 1) / 2;
-}
-
 std::size_t bytesPerRow(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
-  const auto columns = static_cast<std::size_t>(container.getTable()->GetNumberOfColumns());
-  const std::size_t chosen = settings.yColumns.size();
-  const std::size_t parameters = settings.parameterColumns.size();
-  switch (settings.getPlotStyle())
-  {
-  case scatterPlotMatrix:
-  {
-    const std::size_t shown = settings.getLimitColumVisibility() ? parameters + 2 : columns;
-    return pairsOf(shown) * bytesPerPoint;
-  }
-  case multiPlot:
-    // The pairs and the main chart, which goes with them.
-    return (pairsOf(parameters) + std::min<std::size_t>(parameters, 1)) * bytesPerPoint;
-  case fitParameterDistribution:
-    return (pairsOf(parameters) + parameters) * bytesPerPoint;
-  case selectionCdfPlot:
-    // The runs; the curves of the parameters have few points.
-    return bytesPerPoint;
-  case parallelCoordinates:
-    return (chosen < fewestChosenAxes ? columns : chosen) * bytesPerPoint;
-  default:
-    return std::max<std::size_t>(chosen, 1) * bytesPerPoint;
-  }
+  const PageColumns columns = pageColumns(settings, container.getTable()->GetNumberOfColumns());
+  return styleOf(settings).pointsOfRow(columns) * bytesPerPoint;
 }
 
 /// Pages that compare selected runs with others hold copies of both.
 std::size_t splitBytesPerRow(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
-  const plotStyles style = settings.getPlotStyle();
-  const bool compares =
-      style == multiPlot || style == fitParameterDistribution || style == selectionCdfPlot;
-  if (!compares || settings.parameterColumns.empty())
+  if (!styleOf(settings).comparesRuns || settings.parameterColumns.empty())
     return 0;
   return static_cast<std::size_t>(container.getTable()->GetNumberOfColumns()) * sizeof(double);
 }

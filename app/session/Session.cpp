@@ -4,6 +4,7 @@
 #include "app/import/Utf8Text.h"
 #include "app/session/DumpedTable.h"
 #include "app/session/SessionTable.h"
+#include "app/styles/ViewerStyles.h"
 #include "plot/ContainerAccess.h"
 #include "plot/DumpLayout.h"
 #include "plot/PlotContainer.h"
@@ -26,8 +27,6 @@ namespace
 
 /// The part of the progress that reading the bytes takes; the rest is what is made of them.
 constexpr double readingPart = 0.3;
-/// With fewer y columns parallel coordinates show all columns.
-constexpr double fewestChosenAxes = 3.0;
 
 /// The part of the plane that is shown.
 void copyWindow(const plot::PlotState& state, SessionSettings& settings)
@@ -50,32 +49,6 @@ bool areSomeOf(const std::vector<int>& named, std::vector<int> found)
   std::sort(found.begin(), found.end());
   return !sorted.empty() && std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end() &&
          std::includes(found.begin(), found.end(), sorted.begin(), sorted.end());
-}
-
-/// Charts of the page that the container's settings call for, or axes of parallel coordinates.
-double chartCount(const PlotContainer& container)
-{
-  const PlotMetaData& settings = *container.getMetaData();
-  const auto parameters = static_cast<double>(settings.parameterColumns.size());
-  const auto columns = static_cast<double>(container.getTable()->GetNumberOfColumns());
-  const auto chosen = static_cast<double>(settings.yColumns.size());
-  switch (settings.getPlotStyle())
-  {
-  case scatterPlotMatrix:
-  {
-    const double shown = settings.getLimitColumVisibility() ? parameters + 2.0 : columns;
-    return shown * shown;
-  }
-  case multiPlot:
-  case fitParameterDistribution:
-    return parameters * parameters;
-  case selectionCdfPlot:
-    return parameters;
-  case parallelCoordinates:
-    return chosen < fewestChosenAxes ? columns : chosen;
-  default:
-    return 1.0;
-  }
 }
 
 vtkSmartPointer<vtkSelection> selectionOf(vtkIntArray* flags)
@@ -219,7 +192,9 @@ void restoreSettings(const RestoredSession& session, PlotContainer& container)
   const QSignalBlocker silent(&settings);
   if (!areSomeOf(settings.parameterColumns, found))
     settings.parameterColumns = found;
-  if (chartCount(container) > mostRestoredCharts)
+  const PageColumns columnsOfPage =
+      pageColumns(settings, container.getTable()->GetNumberOfColumns());
+  if (styleOf(settings).charts(columnsOfPage) > mostRestoredCharts)
     settings.setPlotStyle(xyPlot);
   container.setLogScaleY(session.settings.logY);
   container.setShowLegend(session.settings.legend);

@@ -12,6 +12,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -77,7 +78,7 @@ std::string saveSession(const QString& path, const SessionSource& source,
 OpenedSession openSession(const QString& path, const ImportProgress& progress = {});
 
 /// Charts of one page that a session brings back; a page of more opens as an XY plot.
-inline constexpr int mostRestoredCharts = 60 * 60;
+inline constexpr std::size_t mostRestoredCharts = 60 * 60;
 
 /// Restores further columns and settings in a container that shows the session's study. The
 /// parameters are those that the container has found, or as many of them as the session names. Does

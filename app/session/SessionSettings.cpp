@@ -2,7 +2,7 @@
 
 #include "app/import/TranslatedText.h"
 #include "app/session/SettingsReader.h"
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -113,7 +113,7 @@ QJsonObject objectOf(const CoordinateWindow& window)
 QJsonObject objectOf(const PlotMetaData& plot)
 {
   QJsonObject object;
-  const StyleName* style = findStyle(plot.getPlotStyle());
+  const ViewerStyle* style = findStyle(plot.getPlotStyle());
   object["style"] = QLatin1String(style ? style->name : "");
   for (const Switch& option : switches)
     object[QLatin1String(option.name)] = (plot.*option.get)();
@@ -159,7 +159,7 @@ void readWindow(const QJsonObject& stored, CoordinateWindow& window)
 void readPlot(const QJsonObject& object, int columns, PlotMetaData& plot)
 {
   const SettingsReader reader(object, columns);
-  if (const StyleName* style = findStyle(object["style"].toString().toStdString()))
+  if (const ViewerStyle* style = findStyle(object["style"].toString().toStdString()))
     plot.setPlotStyle(style->style);
   for (const Switch& option : switches)
     (plot.*option.set)(object[QLatin1String(option.name)].toBool((plot.*option.get)()));

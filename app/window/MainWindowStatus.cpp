@@ -1,5 +1,6 @@
 #include "app/comparison/ComparisonDock.h"
 #include "app/document/OwnChart.h"
+#include "app/styles/ViewerStyles.h"
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
 #include "app/window/MainWindow.h"
@@ -129,7 +130,7 @@ bool MainWindow::sayWhatIsLinear()
 {
   const PlotContainer& container = *shown.container();
   const PlotChoice choice = choiceOf(container);
-  if (shown.study().chart || !hasLegend(choice.style))
+  if (shown.study().chart || !viewerStyle(choice.style).controls.logX)
     return false;
   const bool linear =
       (choice.logX && !container.showsLogScaleX()) || (choice.logY && !container.showsLogScaleY());

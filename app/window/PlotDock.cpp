@@ -1,7 +1,7 @@
 #include "app/window/PlotDock.h"
 
 #include "app/import/ColumnRoles.h"
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -31,11 +31,6 @@ QComboBox* makeColumnBox(const QString& name)
   return box;
 }
 
-bool isOffered(plotStyles offered)
-{
-  return offered != reservedStyle1 && offered != reservedStyle2;
-}
-
 void fill(QComboBox* box, const QStringList& names)
 {
   const QSignalBlocker silent(box);
@@ -53,8 +48,8 @@ PlotDock::PlotDock(QWidget* parent)
     , z(makeColumnBox(QStringLiteral("z")))
 {
   setObjectName(QStringLiteral("plotDock"));
-  for (const StyleName& known : styleNames())
-    if (isOffered(known.style))
+  for (const ViewerStyle& known : viewerStyles())
+    if (known.offered)
       style->addItem(titleOf(known), static_cast<int>(known.style));
   y->setObjectName(QStringLiteral("y"));
   y->setMinimumHeight(6 * y->fontMetrics().lineSpacing());
@@ -205,16 +200,13 @@ void PlotDock::enableControls()
     box->setEnabled(offered);
     box->setChecked(offered && wished);
   };
-  const plotStyles chosen = choice().style;
-  const bool xy = chosen == xyPlot;
-  lines->setEnabled(xy || chosen == selectionCdfPlot);
-  offer(legend, hasLegend(chosen), wishedLegend);
-  // The pages of runs draw their time courses with it too.
-  logX->setEnabled(xy || chosen == multiPlot || chosen == selectionCdfPlot ||
-                   chosen == scatterWithErrorBars);
-  offer(logY, hasLogarithmicY(chosen), wishedLogY);
-  z->setEnabled(chosen == xyzPlot || chosen == scatterWithErrorBars);
-  x->setEnabled(chosen != parallelCoordinates);
+  const PlotControls& acting = viewerStyle(choice().style).controls;
+  lines->setEnabled(acting.lines);
+  offer(legend, acting.legend, wishedLegend);
+  logX->setEnabled(acting.logX);
+  offer(logY, acting.logY, wishedLogY);
+  z->setEnabled(acting.z);
+  x->setEnabled(acting.x);
 }
 
 } // namespace Talmesh::app

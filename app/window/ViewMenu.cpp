@@ -1,6 +1,6 @@
 #include "app/window/ViewMenu.h"
 
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 #include "app/window/PlotDock.h"
 
 #include <QCheckBox>
@@ -27,9 +27,9 @@ void ViewMenu::addSwitch(QCheckBox* box, const QString& text, const QString& key
 
 void ViewMenu::addStyles()
 {
-  for (const StyleName& style : styleNames())
+  for (const ViewerStyle& style : viewerStyles())
   {
-    if (style.style == reservedStyle1 || style.style == reservedStyle2)
+    if (!style.offered)
       continue;
     QAction* action = addAction(titleOf(style));
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(static_cast<int>(style.style))));

@@ -1,6 +1,6 @@
 #include "app/CommandLine.h"
 
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 
 #include <gtest/gtest.h>
 
@@ -87,9 +87,9 @@ TEST(CommandLine, GivesHelpHoweverWrongTheRestIs)
 
 TEST(CommandLine, KnowsEveryStyleByItsEnumerator)
 {
-  for (const StyleName& style : styleNames())
+  for (const ViewerStyle& style : viewerStyles())
     EXPECT_EQ(parsed({"--style", style.name}).style, style.style);
-  EXPECT_EQ(styleNames().size(), 10u);
+  EXPECT_EQ(viewerStyles().size(), 10u);
 }
 
 TEST(CommandLine, RefusesAnUnknownStyleAndNamesTheKnownOnes)
@@ -203,7 +203,7 @@ TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
   for (const char* word : {"FILE", "--style", "--x", "--y", "--z", "--export", "--gallery",
                            "--size", "--paper", "--dpi", "--vector", "--help", "--version"})
     EXPECT_NE(help.find(word), std::string::npos) << word;
-  for (const StyleName& style : styleNames())
+  for (const ViewerStyle& style : viewerStyles())
     EXPECT_NE(help.find(style.name), std::string::npos) << style.name;
   EXPECT_EQ(help.back(), '\n');
 }

@@ -32,15 +32,17 @@ const Reach& reachableRooms()
 {
   static const Reach rooms{
       {"import", {"import"}},
-      {"memory", {"memory", "import"}},
-      {"comparison", {"comparison", "import"}},
-      {"session", {"session", "import"}},
+      {"styles", {"styles"}},
+      {"memory", {"memory", "styles", "import"}},
+      {"comparison", {"comparison", "styles", "import"}},
+      {"session", {"session", "styles", "import"}},
       {"tasks", {"tasks", "import"}},
-      {"document", {"document", "session", "comparison", "memory", "import"}},
+      {"document", {"document", "session", "comparison", "memory", "styles", "import"}},
       {"export", {"export", "memory", "import"}},
-      {"examples", {"examples", "export", "document", "session", "comparison", "import"}},
+      {"examples", {"examples", "export", "document", "session", "comparison", "styles", "import"}},
       {"window",
-       {"window", "examples", "export", "document", "tasks", "session", "comparison", "import"}},
+       {"window", "examples", "export", "document", "tasks", "session", "comparison", "styles",
+        "import"}},
   };
   return rooms;
 }

@@ -2,7 +2,7 @@
 
 #include "app/document/ShownStudy.h"
 #include "app/import/ColumnRoles.h"
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/PlotScene.h"
@@ -133,7 +133,7 @@ TEST_F(PlotChoiceOfRuns, LeavesASeriesOfAMissingColumnEmpty)
 TEST_F(PlotChoiceOfRuns, SwitchesThroughAllStylesTwice)
 {
   for (int round = 0; round < 2; ++round)
-    for (const StyleName& style : styleNames())
+    for (const ViewerStyle& style : viewerStyles())
     {
       choice.style = style.style;
       EXPECT_EQ(applyChoice(container, choice), "") << style.name;

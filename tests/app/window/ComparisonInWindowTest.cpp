@@ -4,7 +4,7 @@
 #include "app/comparison/ComparisonModel.h"
 #include "app/comparison/ComparisonTable.h"
 #include "app/document/SelectionController.h"
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 #include "app/window/PlotDock.h"
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
@@ -107,7 +107,7 @@ TEST_F(ComparisonInWindow, TakesThePValuesOffTheChartsWithTheSelection)
 TEST_F(ComparisonInWindow, FillsTheTableInEveryStyle)
 {
   open();
-  for (const StyleName& style : styleNames())
+  for (const ViewerStyle& style : viewerStyles())
   {
     SCOPED_TRACE(style.name);
     PlotChoice choice = window.plotDock()->choice();

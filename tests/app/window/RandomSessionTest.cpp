@@ -1,7 +1,7 @@
 #include "app/comparison/ComparisonDock.h"
 #include "app/comparison/ComparisonResults.h"
 #include "app/document/SelectionController.h"
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
 #include "external/ParameterSelection.h"
@@ -98,7 +98,7 @@ protected:
 
   const char* changePlot()
   {
-    const std::vector<StyleName>& styles = styleNames();
+    const std::vector<ViewerStyle>& styles = viewerStyles();
     PlotChoice choice = window.plotDock()->choice();
     switch (below(4))
     {

@@ -1,5 +1,5 @@
 #include "app/session/RunSelectionFile.h"
-#include "app/session/StyleNames.h"
+#include "app/styles/ViewerStyles.h"
 
 #include <QDropEvent>
 #include <QMenu>
@@ -179,7 +179,7 @@ TEST_F(UnsavedWork, IsAlsoHowASessionIsShown)
 TEST_F(UnsavedWork, IsNoneInASessionOfAnyStyleThatWasJustOpened)
 {
   select({20, 40});
-  for (const StyleName& style : styleNames())
+  for (const ViewerStyle& style : viewerStyles())
   {
     chooseStyle(style.style);
     saveAndOpen("a.talmesh");
