@@ -139,6 +139,89 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>RunFilter</name>
+    <message>
+        <source>a condition is wanted here, such as &quot;max(A) &gt; 1&quot;</source>
+        <translation>hier wird eine Bedingung gebraucht, etwa &quot;max(A) &gt; 1&quot;</translation>
+    </message>
+    <message>
+        <source>a number is wanted here, not a condition</source>
+        <translation>hier wird eine Zahl gebraucht, keine Bedingung</translation>
+    </message>
+    <message>
+        <source>&quot;over&quot; joins two items of a line, as in &quot;through(B over A, 0, 1, 2, 3)&quot;</source>
+        <translation>&quot;over&quot; verbindet zwei Größen einer Linie, etwa in &quot;through(B over A, 0, 1, 2, 3)&quot;</translation>
+    </message>
+    <message>
+        <source>the name of an item is wanted here</source>
+        <translation>hier wird der Name einer Größe gebraucht</translation>
+    </message>
+    <message>
+        <source>%1 changes during a run: say max(%1), final(%1) or another number of it</source>
+        <translation>%1 ändert sich während eines Laufs: max(%1), final(%1) oder eine andere Zahl davon</translation>
+    </message>
+    <message>
+        <source>%1 takes an item and three or more points, each a time and a value</source>
+        <translation>%1 verlangt eine Größe und mindestens drei Punkte, je eine Zeit und ein Wert</translation>
+    </message>
+    <message>
+        <source>%1 takes one or more numbers</source>
+        <translation>%1 verlangt eine oder mehr Zahlen</translation>
+    </message>
+    <message>
+        <source>%1 takes one number</source>
+        <translation>%1 verlangt eine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 takes one item and nothing else</source>
+        <translation>%1 verlangt eine Größe und sonst nichts</translation>
+    </message>
+    <message>
+        <source>%1 takes an item and one number</source>
+        <translation>%1 verlangt eine Größe und eine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 takes an item and %2 numbers</source>
+        <translation>%1 verlangt eine Größe und %2 Zahlen</translation>
+    </message>
+    <message>
+        <source>%1 takes an item and at most one number</source>
+        <translation>%1 verlangt eine Größe und höchstens eine Zahl</translation>
+    </message>
+    <message>
+        <source>there is no function %1; there are %2</source>
+        <translation>es gibt keine Funktion %1; es gibt %2</translation>
+    </message>
+    <message>
+        <source>%1 takes an item: the name of a column</source>
+        <translation>%1 verlangt eine Größe: den Namen einer Spalte</translation>
+    </message>
+    <message>
+        <source>%1 looks at one item over time</source>
+        <translation>%1 betrachtet eine Größe über der Zeit</translation>
+    </message>
+    <message>
+        <source>&quot;)&quot; is missing here</source>
+        <translation>hier fehlt &quot;)&quot;</translation>
+    </message>
+    <message>
+        <source>the closing double quote is missing</source>
+        <translation>das schließende Anführungszeichen fehlt</translation>
+    </message>
+    <message>
+        <source>a name or a number is missing here</source>
+        <translation>hier fehlt ein Name oder eine Zahl</translation>
+    </message>
+    <message>
+        <source>parentheses are nested too deep here</source>
+        <translation>hier sind zu viele Klammern ineinander geschachtelt</translation>
+    </message>
+    <message>
+        <source>an operator is missing here</source>
+        <translation>hier fehlt ein Zeichen dazwischen</translation>
+    </message>
+</context>
+<context>
     <name>RunGrouping</name>
     <message>
         <source>1 point</source>

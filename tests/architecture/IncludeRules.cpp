@@ -35,14 +35,15 @@ const Reach& reachableRooms()
       {"styles", {"styles"}},
       {"memory", {"memory", "styles", "import"}},
       {"comparison", {"comparison", "styles", "import"}},
+      {"runs", {"runs", "import"}},
       {"session", {"session", "styles", "import"}},
       {"tasks", {"tasks", "import"}},
-      {"document", {"document", "session", "comparison", "memory", "styles", "import"}},
+      {"document", {"document", "session", "runs", "comparison", "memory", "styles", "import"}},
       {"export", {"export", "memory", "import"}},
       {"examples", {"examples", "export", "document", "session", "comparison", "styles", "import"}},
       {"window",
-       {"window", "examples", "export", "document", "tasks", "session", "comparison", "styles",
-        "import"}},
+       {"window", "examples", "export", "document", "tasks", "session", "runs", "comparison",
+        "styles", "import"}},
   };
   return rooms;
 }

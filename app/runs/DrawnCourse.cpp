@@ -1,0 +1,238 @@
+#include "app/runs/DrawnCourse.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+double placeOf(double value, bool logarithmic)
+{
+  if (!logarithmic)
+    return value;
+  return value > 0 ? std::log10(value) : std::numeric_limits<double>::quiet_NaN();
+}
+
+DrawnPoint placeOf(const DrawnPoint& point, const DrawnScale& scale)
+{
+  return {placeOf(point.x, scale.logX), placeOf(point.y, scale.logY)};
+}
+
+/// In places along the axes. A side below all that a logarithmic axis shows lies infinitely far
+/// down.
+DrawnWindow placeOf(const DrawnWindow& window, const DrawnScale& scale)
+{
+  const auto side = [](double value, bool logarithmic)
+  {
+    return logarithmic && value <= 0 ? -std::numeric_limits<double>::infinity()
+                                     : placeOf(value, logarithmic);
+  };
+  const auto [x0, x1] = std::minmax({side(window.x0, scale.logX), side(window.x1, scale.logX)});
+  const auto [y0, y1] = std::minmax({side(window.y0, scale.logY), side(window.y1, scale.logY)});
+  return {x0, x1, y0, y1};
+}
+
+bool isDrawn(const DrawnPoint& point)
+{
+  return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+/// Calls `meets(from, to)` for each piece of the line, in places, until it answers true. A point
+/// with nothing on either side is a piece of no length.
+template <typename Meets>
+bool anyPiece(const RunCourse& course, const DrawnScale& scale, const Meets& meets)
+{
+  DrawnPoint before{0, 0};
+  bool hasBefore = false;
+  for (std::size_t i = 0; i < course.size; ++i)
+  {
+    const DrawnPoint point = placeOf(DrawnPoint{course.x[i], course.y[i]}, scale);
+    const bool drawn = isDrawn(point);
+    if (drawn && meets(hasBefore ? before : point, point))
+      return true;
+    before = point;
+    hasBefore = drawn;
+  }
+  return false;
+}
+
+/// The part of a piece, from 0 to 1 along it, in which one coordinate lies between two limits.
+struct Part
+{
+  double begin = 0;
+  double end = 1;
+  bool isEmpty() const { return !(begin <= end); }
+
+  void clip(double from, double to, double low, double high)
+  {
+    if (from == to)
+    {
+      if (from < low || from > high)
+        end = -1;
+      return;
+    }
+    // A piece from or to infinity is nowhere in between.
+    const double length = to - from;
+    const auto [first, last] = std::minmax({(low - from) / length, (high - from) / length});
+    begin = std::max(begin, first);
+    end = std::min(end, last);
+  }
+};
+
+double along(double from, double to, double part)
+{
+  return part <= 0 ? from : part >= 1 ? to : from + (to - from) * part;
+}
+
+/// Positive where `point` lies left of the way from `from` to `to`.
+double sideOf(const DrawnPoint& from, const DrawnPoint& to, const DrawnPoint& point)
+{
+  return (to.x - from.x) * (point.y - from.y) - (to.y - from.y) * (point.x - from.x);
+}
+
+bool isBetween(const DrawnPoint& from, const DrawnPoint& to, const DrawnPoint& point)
+{
+  return std::min(from.x, to.x) <= point.x && point.x <= std::max(from.x, to.x) &&
+         std::min(from.y, to.y) <= point.y && point.y <= std::max(from.y, to.y);
+}
+
+bool areOpposite(double left, double right)
+{
+  return (left > 0 && right < 0) || (left < 0 && right > 0);
+}
+
+bool meet(const DrawnPoint& a, const DrawnPoint& b, const DrawnPoint& c, const DrawnPoint& d)
+{
+  const double sideA = sideOf(c, d, a);
+  const double sideB = sideOf(c, d, b);
+  const double sideC = sideOf(a, b, c);
+  const double sideD = sideOf(a, b, d);
+  if (areOpposite(sideA, sideB) && areOpposite(sideC, sideD))
+    return true;
+  return (sideA == 0 && isBetween(c, d, a)) || (sideB == 0 && isBetween(c, d, b)) ||
+         (sideC == 0 && isBetween(a, b, c)) || (sideD == 0 && isBetween(a, b, d));
+}
+
+bool surrounds(const std::vector<DrawnPoint>& corners, const DrawnPoint& point)
+{
+  bool inside = false;
+  for (std::size_t i = 0, before = corners.size() - 1; i < corners.size(); before = i++)
+  {
+    const DrawnPoint& a = corners[i];
+    const DrawnPoint& b = corners[before];
+    if ((a.y > point.y) != (b.y > point.y) &&
+        point.x < a.x + (b.x - a.x) * ((point.y - a.y) / (b.y - a.y)))
+      inside = !inside;
+  }
+  return inside;
+}
+
+double distance(const DrawnPoint& from, const DrawnPoint& to, const DrawnPoint& point)
+{
+  const double lengthX = to.x - from.x;
+  const double lengthY = to.y - from.y;
+  const double square = lengthX * lengthX + lengthY * lengthY;
+  const double part =
+      square > 0
+          ? std::clamp(((point.x - from.x) * lengthX + (point.y - from.y) * lengthY) / square, 0.0,
+                       1.0)
+          : 0.0;
+  return std::hypot(from.x + lengthX * part - point.x, from.y + lengthY * part - point.y);
+}
+
+} // namespace
+
+bool passesThrough(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)
+{
+  const DrawnWindow places = placeOf(window, scale);
+  return anyPiece(course, scale,
+                  [&places](const DrawnPoint& from, const DrawnPoint& to)
+                  {
+                    Part part;
+                    part.clip(from.x, to.x, places.x0, places.x1);
+                    part.clip(from.y, to.y, places.y0, places.y1);
+                    return !part.isEmpty();
+                  });
+}
+
+bool staysInside(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)
+{
+  const DrawnWindow places = placeOf(window, scale);
+  bool covered = false;
+  const bool leaves = anyPiece(course, scale,
+                               [&places, &covered](const DrawnPoint& from, const DrawnPoint& to)
+                               {
+                                 Part part;
+                                 part.clip(from.x, to.x, places.x0, places.x1);
+                                 if (part.isEmpty())
+                                   return false;
+                                 covered = true;
+                                 const auto isOutside = [&](double place)
+                                 {
+                                   const double y = along(from.y, to.y, place);
+                                   return !(places.y0 <= y && y <= places.y1);
+                                 };
+                                 return isOutside(part.begin) || isOutside(part.end);
+                               });
+  return covered && !leaves;
+}
+
+bool crossesLine(const RunCourse& course, const DrawnPoint& from, const DrawnPoint& to,
+                 const DrawnScale& scale)
+{
+  const DrawnPoint begin = placeOf(from, scale);
+  const DrawnPoint end = placeOf(to, scale);
+  if (!isDrawn(begin) || !isDrawn(end))
+    return false;
+  return anyPiece(course, scale,
+                  [&](const DrawnPoint& a, const DrawnPoint& b) { return meet(a, b, begin, end); });
+}
+
+bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corners,
+                   const DrawnScale& scale)
+{
+  std::vector<DrawnPoint> places;
+  for (const DrawnPoint& corner : corners)
+  {
+    const DrawnPoint place = placeOf(corner, scale);
+    if (isDrawn(place))
+      places.push_back(place);
+  }
+  if (places.size() < 3)
+    return false;
+  return anyPiece(course, scale,
+                  [&places](const DrawnPoint& a, const DrawnPoint& b)
+                  {
+                    if (surrounds(places, a) || surrounds(places, b))
+                      return true;
+                    for (std::size_t i = 0, last = places.size() - 1; i < places.size(); last = i++)
+                    {
+                      if (meet(a, b, places[last], places[i]))
+                        return true;
+                    }
+                    return false;
+                  });
+}
+
+double distanceFrom(const RunCourse& course, const DrawnPoint& point, double unitsX, double unitsY,
+                    const DrawnScale& scale)
+{
+  const auto inUnits = [&](const DrawnPoint& place) {
+    return DrawnPoint{place.x / unitsX, place.y / unitsY};
+  };
+  const DrawnPoint target = inUnits(placeOf(point, scale));
+  double nearest = std::numeric_limits<double>::infinity();
+  anyPiece(course, scale,
+           [&](const DrawnPoint& from, const DrawnPoint& to)
+           {
+             nearest = std::min(nearest, distance(inUnits(from), inUnits(to), target));
+             return false;
+           });
+  return nearest;
+}
+
+} // namespace Talmesh::app
