@@ -676,49 +676,6 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
-    <name>ViewerStyles</name>
-    <message>
-        <source>XY plot</source>
-        <translation>XY-Diagramm</translation>
-    </message>
-    <message>
-        <source>Reserved style 1</source>
-        <translation>Reservierte Darstellung 1</translation>
-    </message>
-    <message>
-        <source>Reserved style 2</source>
-        <translation>Reservierte Darstellung 2</translation>
-    </message>
-    <message>
-        <source>Scatter-plot matrix</source>
-        <translation>Streudiagramm-Matrix</translation>
-    </message>
-    <message>
-        <source>3-D points</source>
-        <translation>3D-Punkte</translation>
-    </message>
-    <message>
-        <source>Multi-plot matrix</source>
-        <translation>Diagramm-Matrix</translation>
-    </message>
-    <message>
-        <source>Selection CDFs</source>
-        <translation>Verteilungen der Auswahl</translation>
-    </message>
-    <message>
-        <source>Scatter with error bars</source>
-        <translation>Punkte mit Fehlerbalken</translation>
-    </message>
-    <message>
-        <source>Fit-parameter distributions</source>
-        <translation>Verteilungen der Fitparameter</translation>
-    </message>
-    <message>
-        <source>Parallel coordinates</source>
-        <translation>Parallele Koordinaten</translation>
-    </message>
-</context>
-<context>
     <name>TableText</name>
     <message>
         <source>the file is empty</source>
@@ -1571,6 +1528,49 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>this cannot be done: %1</source>
         <translation>das ist nicht möglich: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerStyles</name>
+    <message>
+        <source>XY plot</source>
+        <translation>XY-Diagramm</translation>
+    </message>
+    <message>
+        <source>Reserved style 1</source>
+        <translation>Reservierte Darstellung 1</translation>
+    </message>
+    <message>
+        <source>Reserved style 2</source>
+        <translation>Reservierte Darstellung 2</translation>
+    </message>
+    <message>
+        <source>Scatter-plot matrix</source>
+        <translation>Streudiagramm-Matrix</translation>
+    </message>
+    <message>
+        <source>3-D points</source>
+        <translation>3D-Punkte</translation>
+    </message>
+    <message>
+        <source>Multi-plot matrix</source>
+        <translation>Diagramm-Matrix</translation>
+    </message>
+    <message>
+        <source>Selection CDFs</source>
+        <translation>Verteilungen der Auswahl</translation>
+    </message>
+    <message>
+        <source>Scatter with error bars</source>
+        <translation>Punkte mit Fehlerbalken</translation>
+    </message>
+    <message>
+        <source>Fit-parameter distributions</source>
+        <translation>Verteilungen der Fitparameter</translation>
+    </message>
+    <message>
+        <source>Parallel coordinates</source>
+        <translation>Parallele Koordinaten</translation>
     </message>
 </context>
 </TS>
