@@ -4,6 +4,7 @@
 #include "widgets/ExportName.h"
 #include "widgets/PdfContextDevice.h"
 #include "widgets/PixelSampling.h"
+#include "widgets/PlotContextActor.h"
 #include "widgets/PlotInteractorStyle.h"
 #include "widgets/TemporaryContextDevice.h"
 
@@ -15,6 +16,7 @@
 #include <vtkInteractorObserver.h>
 #include <vtkNew.h>
 #include <vtkRenderWindowInteractor.h>
+#include <vtkRenderer.h>
 
 #include <QResizeEvent>
 
@@ -34,8 +36,10 @@ void ignoreLetters(vtkRenderWindowInteractor* interactor)
 VtkPlotWidget::VtkPlotWidget(QWidget* parent)
     : QVTKOpenGLNativeWidget(parent)
     , view(vtkSmartPointer<vtkContextView>::New())
+    , actor(vtkSmartPointer<PlotContextActor>::New())
     , container(new PlotContainer(this))
 {
+  surviveFailures();
   view->GetScene()->AddItem(container->getItem());
   container->example();
   container->redraw();
@@ -53,6 +57,24 @@ VtkPlotWidget::VtkPlotWidget(QWidget* parent)
 }
 
 VtkPlotWidget::~VtkPlotWidget() = default;
+
+/// Exceptions of items must not pass through a frame of VTK's or an event of Qt's. They leave
+/// updatePlot() and printPlot(), or an event of their own after a frame that others have begun.
+void VtkPlotWidget::surviveFailures()
+{
+  vtkRenderer* renderer = view->GetRenderer();
+  renderer->RemoveAllViewProps();
+  actor->SetScene(view->GetScene());
+  renderer->AddActor(actor);
+  // The view may be kept beyond the widget.
+  actor->SetFailureHandler(
+      [widget = QPointer<VtkPlotWidget>(this)]
+      {
+        if (widget)
+          QMetaObject::invokeMethod(
+              widget, [widget] { widget->actor->ThrowFailure(); }, Qt::QueuedConnection);
+      });
+}
 
 void VtkPlotWidget::setPlotContainer(PlotContainer* replacement)
 {
@@ -84,11 +106,13 @@ void VtkPlotWidget::updatePlot(bool clear)
       view->GetScene()->AddItem(container->getItem());
   }
   view->Render();
+  actor->ThrowFailure();
 }
 
 void VtkPlotWidget::printPlot(QString fileName)
 {
   makeFramebufferReady();
+  actor->ThrowFailure();
   vtkNew<PdfContextDevice> device;
   const TemporaryContextDevice exchanged(*this, device);
   vtkNew<vtkGL2PSExporter> exporter;
@@ -100,6 +124,7 @@ void VtkPlotWidget::printPlot(QString fileName)
   exporter->SilentOn();
   exporter->SetFilePrefix(exportPrefix(fileName).toLocal8Bit().constData());
   exporter->Write();
+  actor->ThrowFailure();
 }
 
 void VtkPlotWidget::makeFramebufferReady()

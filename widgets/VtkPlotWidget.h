@@ -12,6 +12,7 @@
 #include <memory>
 
 class PlotContainer;
+class PlotContextActor;
 class vtkContextView;
 namespace Talmesh
 {
@@ -20,6 +21,10 @@ class PixelSampling;
 
 /// Shows one plot container and exports its picture. A new widget shows the example plot. The
 /// window's samples of a pixel are taken for charts that need them to look smooth.
+///
+/// What an item throws while it is painted, as for want of memory, leaves updatePlot() and
+/// printPlot(); of other frames it leaves an event of its own, for QCoreApplication::notify() to
+/// catch. The widget can be painted again, and destroyed, at any time.
 ///
 /// The program must set QVTKOpenGLNativeWidget::defaultFormat() as QSurfaceFormat's default before
 /// it makes its QApplication.
@@ -50,9 +55,11 @@ public slots:
   void updatePlot(bool clear = true);
 
 private:
+  void surviveFailures();
   void makeFramebufferReady();
 
   vtkSmartPointer<vtkContextView> view;
+  vtkSmartPointer<PlotContextActor> actor;
   QPointer<PlotContainer> container;
   std::unique_ptr<Talmesh::PixelSampling> sampling;
 };
