@@ -57,8 +57,8 @@ std::string bytesOf(const QString& argument)
   return QFile::encodeName(argument).toStdString();
 }
 
-/// A name in the encoding of the user's terminal as UTF-8.
-std::string columnName(const std::string& typed)
+/// A name or a condition in the encoding of the user's terminal as UTF-8.
+std::string typedText(const std::string& typed)
 {
   return QString::fromLocal8Bit(typed.c_str()).toStdString();
 }
@@ -82,7 +82,7 @@ std::string readStyle(const std::string& value, CommandLineOptions& options)
 
 std::string readX(const std::string& value, CommandLineOptions& options)
 {
-  options.x = columnName(value);
+  options.x = typedText(value);
   return {};
 }
 
@@ -92,14 +92,20 @@ std::string readY(const std::string& value, CommandLineOptions& options)
   {
     if (name.empty())
       return "--y has an empty name in " + value;
-    options.y.push_back(columnName(name));
+    options.y.push_back(typedText(name));
   }
   return {};
 }
 
 std::string readZ(const std::string& value, CommandLineOptions& options)
 {
-  options.z = columnName(value);
+  options.z = typedText(value);
+  return {};
+}
+
+std::string readSelect(const std::string& value, CommandLineOptions& options)
+{
+  options.select.push_back(typedText(value));
   return {};
 }
 
@@ -181,11 +187,17 @@ struct Option
 };
 
 /// In the order in which they are read.
-constexpr Option optionsWithValue[] = {
-    {"style", readStyle},   {"x", readX},           {"y", readY},
-    {"z", readZ},           {"export", readExport}, {"gallery", readGallery},
-    {"size", readPixels},   {"paper", readPaper},   {"dpi", readResolution},
-    {"vector", readVectors}};
+constexpr Option optionsWithValue[] = {{"style", readStyle},
+                                       {"x", readX},
+                                       {"y", readY},
+                                       {"z", readZ},
+                                       {"select", readSelect},
+                                       {"export", readExport},
+                                       {"gallery", readGallery},
+                                       {"size", readPixels},
+                                       {"paper", readPaper},
+                                       {"dpi", readResolution},
+                                       {"vector", readVectors}};
 
 std::string readOption(const QCommandLineParser& line, const Option& option,
                        CommandLineOptions& options)
@@ -271,6 +283,8 @@ std::string commandLineHelp()
       "  --x NAME                the column for the x axis\n"
       "  --y NAME[,NAME...]      the columns to plot\n"
       "  --z NAME                the column for the third axis, or the error bars\n"
+      "  --select CONDITION      select the runs that meet it, such as 'max(TetR) > 150'; several\n"
+      "                          of them add up\n"
       "  --export FILE           write FILE.png, FILE.pdf or FILE.csv and open no window;\n"
       "                          may be given several times\n"
       "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"

@@ -220,6 +220,18 @@ p, li { white-space: pre-wrap; }
         <source>an operator is missing here</source>
         <translation>hier fehlt ein Zeichen dazwischen</translation>
     </message>
+    <message>
+        <source>column %1 does not hold numbers</source>
+        <translation>Spalte %1 enthält keine Zahlen</translation>
+    </message>
+    <message>
+        <source>%1: at character %2: %3</source>
+        <translation>%1: beim Zeichen %2: %3</translation>
+    </message>
+    <message>
+        <source>This table has no runs to select.</source>
+        <translation>Diese Tabelle hat keine Läufe, die sich auswählen ließen.</translation>
+    </message>
 </context>
 <context>
     <name>RunGrouping</name>

@@ -3,6 +3,7 @@
 #include "app/document/PlotSession.h"
 #include "app/document/ShownChart.h"
 #include "app/document/ShownStudy.h"
+#include "app/document/TableRuns.h"
 #include "app/memory/PaintingMemory.h"
 #include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
@@ -119,6 +120,8 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   shown.columns = container.getLabels();
   PlotChoice wished = shown.choice;
   std::string failure = chooseByName(container, wishes, wished);
+  if (failure.empty() && !wishes.select.empty())
+    failure = selectWhere(container, wishes.select);
   if (failure.empty())
     shown.choice = wished;
   drawSilently();

@@ -10,13 +10,16 @@
 namespace Talmesh::app
 {
 
-/// What a plot should show, by name. Names are UTF-8; empty for the default.
+/// What a plot should show, by name, and which runs should be selected. All is UTF-8; empty for the
+/// default.
 struct PlotWishes
 {
   std::optional<plotStyles> style;
   std::string x;
   std::vector<std::string> y;
   std::string z;
+  /// Conditions in words; the runs that meet any of them are selected.
+  std::vector<std::string> select;
 };
 
 /// What the viewer should open first.

@@ -207,3 +207,11 @@ TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
     EXPECT_NE(help.find(style.name), std::string::npos) << style.name;
   EXPECT_EQ(help.back(), '\n');
 }
+
+TEST(CommandLine, CollectsConditionsWhichMayHoldCommas)
+{
+  const ParsedCommandLine line =
+      parseCommandLine({"--select", "at(TetR, 9000) > 1", "--select=k<2", "runs.csv"});
+  EXPECT_EQ(line.error, "");
+  EXPECT_EQ(line.options.select, (std::vector<std::string>{"at(TetR, 9000) > 1", "k<2"}));
+}

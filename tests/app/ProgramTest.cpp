@@ -262,3 +262,21 @@ TEST_F(Program, ShowsTheLegendOfASessionInTheXYPlot)
   EXPECT_NE(exported(true), plain);
   EXPECT_EQ(exported(false), plain);
 }
+
+TEST_F(Program, SelectsRunsByWords)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  const auto exported = [&](const QStringList& options)
+  {
+    expectSuccess(QStringList{csv, "--size", "420x280", "--export", path("plot.png")} + options);
+    return QImage(path("plot.png"));
+  };
+  const QImage plain = exported({});
+  const QImage some = exported({"--select", "run = 0"});
+  EXPECT_NE(some, plain);
+  EXPECT_NE(exported({"--select", "run = 0", "--select", "run = 1"}), some);
+  const Ended wrong = run({csv, "--select", "max(X) >", "--export", path("plot.png")});
+  EXPECT_EQ(wrong.status, 1);
+  EXPECT_EQ(wrong.errors,
+            "talmesh-plot: max(X) >: at character 9: a name or a number is missing here\n");
+}

@@ -1,0 +1,140 @@
+#include "app/document/TableRuns.h"
+
+#include "app/document/PlotChoice.h"
+#include "app/import/TranslatedText.h"
+#include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
+#include "plot/PlotContainer.h"
+#include "plot/RunSelection.h"
+#include "plot/RunSplit.h"
+#include "plot/SelectionNodes.h"
+#include "plot/TableColumns.h"
+#include "plot/TypedColumns.h"
+
+#include <vtkAnnotationLink.h>
+#include <vtkIntArray.h>
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace Talmesh::app
+{
+
+std::vector<bool> combineRuns(std::vector<bool> before, const std::vector<bool>& hit,
+                              RunCombination how)
+{
+  for (std::size_t run = 0; run < before.size(); ++run)
+  {
+    const bool was = how != RunCombination::Replace && before[run];
+    if (how == RunCombination::Subtract)
+      before[run] = was && !hit[run];
+    else if (how == RunCombination::Toggle)
+      before[run] = was != hit[run];
+    else
+      before[run] = was || hit[run];
+  }
+  return before;
+}
+
+TableRuns::TableRuns(PlotContainer& shown)
+    : container(shown)
+    , points(static_cast<std::size_t>(std::max(0, shown.getMetaData()->getStride())))
+    , times(plot::doubleColumn(shown.getTable(), plot::timeColumnOf(stateOf(shown))))
+    , positions(times ? 0 : points)
+{
+  for (const plot::PlacedRun& run : plot::wholeRuns(stateOf(shown)))
+    runs.push_back({run.index, run.firstRow});
+  std::iota(positions.begin(), positions.end(), 0.0);
+}
+
+double TableRuns::runNumber(std::size_t run) const
+{
+  return runs[run].number;
+}
+
+Result<int> TableRuns::column(const std::string& name) const
+{
+  const FoundColumn found = findColumn(container, name);
+  if (!found.error.empty())
+    return Result<int>::failed(found.error);
+  if (!plot::doubleColumn(container.getTable(), found.column))
+    return Result<int>::failed(
+        withValues(translated("RunFilter", "column %1 does not hold numbers"), {name}));
+  return found.column;
+}
+
+bool TableRuns::isOfWholeRun(int column) const
+{
+  const std::vector<int>& parameters = container.getMetaData()->parameterColumns;
+  return std::find(parameters.begin(), parameters.end(), column) != parameters.end() ||
+         plot::columnName(container.getTable(), column) == plot::runIndexLabel;
+}
+
+RunCourse TableRuns::course(std::size_t run, int column, int over) const
+{
+  const vtkIdType row = runs[run].firstRow;
+  const auto valuesOf = [this, row](int of)
+  { return plot::doubleColumn(container.getTable(), of)->GetPointer(row); };
+  const double* x = over >= 0 ? valuesOf(over) : times ? times->GetPointer(row) : positions.data();
+  return {x, valuesOf(column), points};
+}
+
+std::vector<bool> TableRuns::selected() const
+{
+  std::vector<bool> any(runs.size(), false);
+  const auto flags = vtkSmartPointer<vtkIntArray>::Take(container.getCurrentSelection());
+  if (!flags)
+    return any;
+  for (std::size_t run = 0; run < runs.size(); ++run)
+  {
+    const int* first = flags->GetPointer(runs[run].firstRow);
+    any[run] = std::any_of(first, first + points, [](int flag) { return flag != 0; });
+  }
+  return any;
+}
+
+void TableRuns::select(const std::vector<bool>& wanted)
+{
+  std::vector<vtkIdType> rows;
+  for (std::size_t run = 0; run < runs.size(); ++run)
+  {
+    if (!wanted[run])
+      continue;
+    for (std::size_t point = 0; point < points; ++point)
+      rows.push_back(runs[run].firstRow + static_cast<vtkIdType>(point));
+  }
+  container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+}
+
+std::string describe(const FilterFault& fault, const std::string& words)
+{
+  // Bytes that continue a character of UTF-8 begin with the bits 10.
+  const auto begin = words.begin();
+  const auto character = std::count_if(begin, begin + static_cast<std::ptrdiff_t>(fault.position),
+                                       [](char byte) { return (byte & 0xC0) != 0x80; });
+  return withValues(translated("RunFilter", "%1: at character %2: %3"),
+                    {words, std::to_string(character + 1), fault.text});
+}
+
+std::string selectWhere(PlotContainer& container, const std::vector<std::string>& conditions)
+{
+  TableRuns runs(container);
+  if (runs.numberOfRuns() == 0)
+    return translated("RunFilter", "This table has no runs to select.");
+  std::vector<bool> wanted(runs.numberOfRuns(), false);
+  for (const std::string& words : conditions)
+  {
+    FilterFault fault;
+    const RunFilter filter = RunFilter::read(words, runs, fault);
+    if (!fault.text.empty())
+      return describe(fault, words);
+    wanted = combineRuns(wanted, filter.select(runs, {}).value(), RunCombination::Add);
+  }
+  runs.select(wanted);
+  return {};
+}
+
+} // namespace Talmesh::app
