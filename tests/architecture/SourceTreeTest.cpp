@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,26 @@ std::string textOf(const std::string& path)
 {
   std::ifstream file(fs::path(TALMESH_SOURCE_DIR) / path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// The texts of all documents, one behind the other.
+std::string documents()
+{
+  const fs::path root(TALMESH_SOURCE_DIR);
+  std::string text = textOf("README.md");
+  for (const auto& entry : fs::directory_iterator(root / "docs"))
+    if (entry.path().extension() == ".md")
+      text += textOf(fs::relative(entry.path(), root).generic_string());
+  return text;
+}
+
+std::set<std::string> wordsOf(const std::string& text)
+{
+  const std::regex word("[A-Za-z0-9_]+");
+  std::set<std::string> words;
+  for (std::sregex_iterator match(text.begin(), text.end(), word), end; match != end; ++match)
+    words.insert(match->str());
+  return words;
 }
 
 template <typename Rule>
@@ -129,6 +150,32 @@ TEST(SourceTree, HighlightColourIsWrittenInOnePlace)
     if (std::regex_search(textOf(path), colour))
       places.push_back(path);
   EXPECT_EQ(places, std::vector<std::string>{"vtk/HighlightColor.h"});
+}
+
+TEST(SourceTree, DocumentsNameEveryHeaderOfTheViewer)
+{
+  const std::set<std::string> named = wordsOf(documents());
+  std::string unnamed;
+  for (const std::string& path : sourcesIn({"app"}))
+    if (fs::path(path).extension() == ".h" && named.count(fs::path(path).stem().string()) == 0)
+      unnamed += path + "\n";
+  EXPECT_EQ(unnamed, "") << "name it in docs/viewer.md";
+}
+
+TEST(SourceTree, DocumentsNameFilesThatExist)
+{
+  const std::string text = documents();
+  const std::regex file("`((?:export|external|stats|vtk|plot|widgets|app|cmake|tests|fuzz)/"
+                        "[A-Za-z0-9_/-]+\\.(?:cpp|h|ui|cmake|txt|sh))`");
+  // What adding-a-plot-style.md has the reader make.
+  const std::set<std::string> imagined = {"plot/SpectrumChart.h",
+                                          "tests/plot/SpectrumChartTest.cpp"};
+  std::string missing;
+  for (std::sregex_iterator match(text.begin(), text.end(), file), end; match != end; ++match)
+    if (imagined.count((*match)[1]) == 0 &&
+        !fs::exists(fs::path(TALMESH_SOURCE_DIR) / (*match)[1].str()))
+      missing += (*match)[1].str() + "\n";
+  EXPECT_EQ(missing, "");
 }
 
 TEST(SourceTree, GuardsAreNamedAfterTheirFile)
