@@ -1,0 +1,52 @@
+#ifndef ExchangeUnits_h
+#define ExchangeUnits_h
+
+#include "stats/ParameterSets.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace Talmesh::stats
+{
+/// What is independent in a study.
+enum class IndependentUnit
+{
+  run,
+  /// The runs of equal parameters.
+  parameterSet,
+  /// The runs of a base sample of a Saltelli design.
+  baseSample
+};
+
+/// The runs of a study as units that stay together when a selection is permuted.
+///
+/// A unit is made of cells in an order that means the same in all units of its class: a run, or the
+/// runs of one set of parameters.
+struct ExchangeUnits
+{
+  IndependentUnit kind = IndependentUnit::run;
+  std::vector<std::uint32_t> cellOfRun;
+  std::vector<std::uint32_t> runsOfCell;
+  /// First cell of each unit, then the number of cells.
+  std::vector<std::uint32_t> firstCell;
+  /// Units that may change places: those of as many cells of as many runs. In order of their size.
+  std::vector<std::vector<std::uint32_t>> classes;
+
+  std::size_t units() const { return firstCell.empty() ? 0 : firstCell.size() - 1; }
+  std::size_t runs() const { return cellOfRun.size(); }
+  std::size_t runsOfUnit(std::size_t unit) const;
+  /// Ways to permute the units within their classes; infinite for many.
+  double arrangements() const;
+};
+
+/// With fewer arrangements no p below 0.05 exists, and permuting tells nothing.
+constexpr double fewestArrangements = 20.0;
+
+/// Base samples where the runs, or the sets of as many runs each in the order of their first runs,
+/// are a Saltelli design; else sets where some set has several runs; else single runs.
+/// @throws as runsIn() does
+ExchangeUnits exchangeUnits(const ParameterColumns& columns);
+} // namespace Talmesh::stats
+
+#endif

@@ -1,0 +1,87 @@
+#ifndef ParameterComparison_h
+#define ParameterComparison_h
+
+#include "stats/GroupContrast.h"
+
+#include <cstddef>
+#include <limits>
+
+/// What a comparison of selected runs with the others says of one parameter.
+namespace Talmesh::stats
+{
+/// How a p-value was found.
+enum class TestMethod
+{
+  none,
+  /// Kolmogorov-Smirnov, exact for the ties there are (stats/TiedKolmogorovSmirnov.h).
+  exactDistribution,
+  /// Kolmogorov-Smirnov, the limit for large samples.
+  asymptoticDistribution,
+  /// Mann-Whitney, exact for the ties there are (stats/MannWhitney.h).
+  exactRankSum,
+  /// Mann-Whitney by the normal distribution, with ties and continuity correction.
+  normalRankSum,
+  /// Fisher's exact test of the counts per value (stats/LevelCounts.h).
+  exactCounts,
+  /// The counts per value by the chi-squared distribution.
+  chiSquaredCounts,
+  /// Permutations of whole parameter sets (stats/SelectionPermutation.h).
+  permutedSets,
+  /// Permutations of the base samples of a Saltelli design.
+  permutedBaseSamples
+};
+
+/// Why there is no p-value. What comes first here is told where several hold.
+enum class NotTested
+{
+  /// There is one.
+  tested,
+  /// No run of one of the groups has a value.
+  emptyGroup,
+  /// All runs have the same value.
+  constant,
+  /// The selection was made by this parameter.
+  chosenByParameter,
+  /// More values than a table of counts has rows (`mostLevels`).
+  tooManyLevels,
+  /// The independent units have fewer than `fewestArrangements` arrangements.
+  tooFewUnits,
+  /// The user has given up.
+  cancelled
+};
+
+/// One row of the table. What does not exist is NaN.
+struct ParameterComparison
+{
+  static constexpr double none = std::numeric_limits<double>::quiet_NaN();
+
+  /// Position among the parameters.
+  std::size_t parameter = 0;
+  /// Runs with a value of this parameter.
+  std::size_t selected = 0;
+  std::size_t others = 0;
+  /// Different values of all these runs.
+  std::size_t levels = 0;
+
+  /// Largest distance of the two empirical distribution functions, in [0, 1].
+  double distance = none;
+  /// Bounds for the distance of the true distributions; only where the runs are independent.
+  Interval interval{none, none};
+  Direction direction = Direction::none;
+  /// Probability that the value of a selected run exceeds another's, ties count half.
+  double superiority = none;
+  /// Median of the selected runs less that of the others.
+  double medianDifference = none;
+
+  /// In (0, 1], but 0 where it is below what doubles hold.
+  double p = none;
+  /// For the number of parameters with a p; at least p.
+  double adjusted = none;
+  TestMethod method = TestMethod::none;
+  NotTested reason = NotTested::tested;
+  /// Permutations behind p; 0 for other methods.
+  std::size_t permutations = 0;
+};
+} // namespace Talmesh::stats
+
+#endif

@@ -1,0 +1,78 @@
+#ifndef RunComparison_h
+#define RunComparison_h
+
+#include "stats/ExchangeUnits.h"
+#include "stats/ParameterComparison.h"
+#include "stats/RankStatistic.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace Talmesh::stats
+{
+enum class Adjustment
+{
+  /// False discovery rate (stats/FalseDiscovery.h).
+  benjaminiHochberg,
+  /// Probability of any false rejection (stats/FamilyWiseError.h).
+  holm,
+  /// The same by permutations common to all parameters, which uses how they hang together
+  /// (stats/SelectionPermutation.h). Also for single runs, where p itself comes from no
+  /// permutation.
+  maxT
+};
+
+struct ComparisonPlan
+{
+  ComparedBy comparedBy = ComparedBy::distribution;
+  Adjustment adjustment = Adjustment::benjaminiHochberg;
+  double confidence = 0.95;
+  /// At least 9,999 are made.
+  std::size_t permutations = 9'999;
+  std::uint64_t seed = 1;
+  /// Parameters by which the selection was made, by position.
+  std::vector<std::size_t> chosenBy;
+  /// As in `PermutationPlan`. Heard before the first parameter, too.
+  std::function<bool(double)> progress;
+};
+
+/// What is independent in a study, in a few numbers.
+struct UnitSummary
+{
+  IndependentUnit kind = IndependentUnit::run;
+  std::size_t units = 0;
+  /// Runs of the smallest and of the largest unit: "12 sets of 10 runs".
+  std::size_t fewestRuns = 0;
+  std::size_t mostRuns = 0;
+};
+
+struct RunComparison
+{
+  UnitSummary units;
+  /// In the order of the columns.
+  std::vector<ParameterComparison> parameters;
+  /// Seed and number of the permutations, if any were made.
+  std::uint64_t seed = 0;
+  std::size_t permutations = 0;
+  bool cancelled = false;
+};
+
+/// Compares the selected runs with the others, parameter by parameter.
+///
+/// Independent are single runs, sets of runs with equal parameters, or the base samples of a
+/// Saltelli design (stats/ExchangeUnits.h). Single runs are tested exactly where that is feasible,
+/// otherwise whole units are permuted. Runs without a value of a parameter are left out of its row.
+///
+/// O(parameters N log N), and what the tests take: see their headers. Runs parameters and
+/// permutations on all cores.
+/// @param columns a vector per parameter, a value per run
+/// @param selected an entry per run, 0 for the others
+/// @throws std::invalid_argument for columns and selections of different lengths;
+///   std::length_error as runsIn() does
+RunComparison compareRuns(const ParameterColumns& columns, const std::vector<char>& selected,
+                          const ComparisonPlan& plan = {});
+} // namespace Talmesh::stats
+
+#endif
