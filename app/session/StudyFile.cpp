@@ -44,6 +44,16 @@ void endAtLine(QFile& file, std::string& bytes)
     bytes.erase(bytes.rfind('\n') + 1);
 }
 
+/// What QFile::read() returns.
+qint64 append(QFile& file, std::string& bytes, qint64 most)
+{
+  const std::size_t before = bytes.size();
+  bytes.resize(before + static_cast<std::size_t>(most));
+  const qint64 got = file.read(&bytes[before], most);
+  bytes.resize(before + static_cast<std::size_t>(std::max<qint64>(got, 0)));
+  return got;
+}
+
 FileBytes readBytes(const QString& path, const ImportProgress& progress)
 {
   FileBytes read;
@@ -60,24 +70,23 @@ FileBytes readBytes(const QString& path, const ImportProgress& progress)
     return read;
 
   const qint64 size = file.size();
-  read.bytes.resize(static_cast<std::size_t>(size));
   qint64 filled = 0;
   while (filled < size)
   {
-    const qint64 got =
-        file.read(&read.bytes[static_cast<std::size_t>(filled)], std::min(chunk, size - filled));
+    const qint64 got = append(file, read.bytes, std::min(chunk, size - filled));
     if (got < 0)
       read.error = withValues(translated("StudyFile", "cannot be read: %1"),
                               {file.errorString().toStdString()});
-    if (got <= 0)
+    // A zero byte is in no table: what was read is refused, however much lies behind it.
+    if (got <= 0 || read.bytes.find('\0', static_cast<std::size_t>(filled)) != std::string::npos)
       break;
     filled += got;
+    read.bytes.reserve(static_cast<std::size_t>(size));
     read.cancelled = progress && !progress(readingPart * static_cast<double>(filled) /
                                            static_cast<double>(size));
     if (read.cancelled)
       break;
   }
-  read.bytes.resize(static_cast<std::size_t>(filled));
   if (filled == size && !read.cancelled)
     endAtLine(file, read.bytes);
   return read;

@@ -48,6 +48,18 @@ TEST(StudyFile, BeginsItsErrorsWithTheFile)
   EXPECT_EQ(openStudyFile(empty).error(), empty.toStdString() + ": the file is empty");
 }
 
+TEST(StudyFile, ReadsNoFurtherThanAZeroByte)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("sparse.csv"));
+  write(path, "time,a\n0,1\n");
+  ASSERT_TRUE(QFile::resize(path, qint64(64) << 20));
+  int reports = 0;
+  const Result<OpenedStudy> opened = openStudyFile(path, [&reports](double) { return ++reports; });
+  EXPECT_EQ(opened.error(), path.toStdString() + ": not a table: the file holds binary data");
+  EXPECT_EQ(reports, 0);
+}
+
 TEST(StudyFile, CanBeCancelledWhileItReads)
 {
   const QTemporaryDir folder;
