@@ -98,9 +98,7 @@ bool shownRange(vtkChart* chart, const vtkAxis* axis, double range[2])
 
 bool hasLogarithms(const double range[2])
 {
-  return range[0] > 0.0 && range[0] * range[1] > 0.0 &&
-         range[1] >= static_cast<double>(std::numeric_limits<float>::min()) &&
-         range[0] <= static_cast<double>(std::numeric_limits<float>::max());
+  return range[0] > 0.0 && range[0] * range[1] > 0.0;
 }
 
 void settleLogScales(vtkChart* chart)

@@ -12,7 +12,7 @@ namespace Talmesh
 bool shownRange(vtkChart* chart, const vtkAxis* axis, double range[2]);
 
 /// Whether data in [range[0], range[1]] can be drawn on a logarithmic axis: nothing is 0 or below,
-/// and some of it has a logarithm in single precision, in which VTK takes it.
+/// nor is the product of the ends rounded to 0, which VTK takes for a range that reaches zero.
 bool hasLogarithms(const double range[2]);
 
 /// Makes the axes of `chart` that are to be logarithmic so exactly when what is plotted along them
