@@ -31,8 +31,12 @@ protected:
                         "echo \"$*\" | sed \"s|$PWD/||g\"\n"
                         "case \"$*\" in $FAILING) exit 1 ;; esac\n");
     formatterOfVersion("14.0.6");
-    for (const char* name : {"read_dump", "run_table", "session", "container"})
-      write(QStringLiteral("build/fuzz/bin/fuzz_") + name, "#!/bin/sh\ntold ${0##*/}\n");
+    for (const char* name : {"container", "session"})
+    {
+      write(QStringLiteral("fuzz/corpus/%1/seed").arg(name), "");
+      write(QStringLiteral("build/fuzz/bin/fuzz_%1").arg(name),
+            "#!/bin/sh\nfor last; do :; done\ntold ${0##*/} $last\n");
+    }
     write("plot/Chart.cpp", "");
   }
 
@@ -73,9 +77,9 @@ const QString fastChecks =
                    "build dev test_architecture\n"
                    "ctest --preset dev -R ^(architecture|translations)\\.\n");
 const QString tests = QStringLiteral("build dev\nctest --preset dev\n");
-const QString fuzzers =
-    QStringLiteral("build fuzz fuzz_read_dump fuzz_run_table fuzz_session fuzz_container\n"
-                   "fuzz_read_dump\nfuzz_run_table\nfuzz_session\nfuzz_container\n");
+const QString fuzzers = QStringLiteral("build fuzz fuzzers\n"
+                                       "fuzz_container fuzz/corpus/container\n"
+                                       "fuzz_session fuzz/corpus/session\n");
 const QString readers =
     QStringLiteral("build asan test_app test_plot\nctest --preset asan -L ^readers$\n");
 
@@ -110,7 +114,7 @@ TEST_F(TestScript, EndsAtTheFirstStageThatFailsAndNamesIt)
       {"*Chart.cpp", "check_format", "format ./plot/Chart.cpp\n"},
       {"*architecture|*", "check_rules", "translations)\\.\n"},
       {"ctest --preset dev", "run_tests", "\nctest --preset dev\n"},
-      {"fuzz_session", "run_fuzzers", "\nfuzz_session\n"},
+      {"fuzz_container*", "run_fuzzers", "\nfuzz_container fuzz/corpus/container\n"},
       {"*readers$", "run_readers", "-L ^readers$\n"},
   };
   for (const auto& stage : stages)
