@@ -331,6 +331,21 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>SelectionController</name>
+    <message>
+        <source>%1: none of its runs is in this table: %2</source>
+        <translation>%1: keiner der Läufe steht in dieser Tabelle: %2</translation>
+    </message>
+    <message>
+        <source>%1: 1 of its %3 runs is not in this table: %2</source>
+        <translation>%1: 1 der %3 Läufe steht nicht in dieser Tabelle: %2</translation>
+    </message>
+    <message>
+        <source>%1: %4 of its %3 runs are not in this table: %2</source>
+        <translation>%1: %4 der %3 Läufe stehen nicht in dieser Tabelle: %2</translation>
+    </message>
+</context>
+<context>
     <name>SelectionHistory</name>
     <message>
         <source>Clear Selection</source>
@@ -1326,18 +1341,6 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>%1 of %2 rows selected</source>
         <translation>%1 von %2 Zeilen ausgewählt</translation>
-    </message>
-    <message>
-        <source>%1: none of its runs is in this table: %2</source>
-        <translation>%1: keiner der Läufe steht in dieser Tabelle: %2</translation>
-    </message>
-    <message>
-        <source>%1: 1 of its %3 runs is not in this table: %2</source>
-        <translation>%1: 1 der %3 Läufe steht nicht in dieser Tabelle: %2</translation>
-    </message>
-    <message>
-        <source>%1: %4 of its %3 runs are not in this table: %2</source>
-        <translation>%1: %4 der %3 Läufe stehen nicht in dieser Tabelle: %2</translation>
     </message>
 </context>
 <context>

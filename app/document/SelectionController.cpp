@@ -101,16 +101,15 @@ std::string noteOnMissing(const QString& path, const std::set<int>& missing, std
     }
     indices.append(QString::number(run));
   }
-  QString text;
+  std::string text;
   if (missing.size() == wanted)
-    text = SelectionController::tr("%1: none of its runs is in this table: %2");
+    text = translated("SelectionController", "%1: none of its runs is in this table: %2");
   else if (missing.size() == 1)
-    text = SelectionController::tr("%1: 1 of its %3 runs is not in this table: %2");
+    text = translated("SelectionController", "%1: 1 of its %3 runs is not in this table: %2");
   else
-    text = SelectionController::tr("%1: %4 of its %3 runs are not in this table: %2");
-  return withValues(text.toStdString(),
-                    {path.toStdString(), indices.join(QStringLiteral(", ")).toStdString(),
-                     std::to_string(wanted), std::to_string(missing.size())});
+    text = translated("SelectionController", "%1: %4 of its %3 runs are not in this table: %2");
+  return withValues(text, {path.toStdString(), indices.join(QStringLiteral(", ")).toStdString(),
+                           std::to_string(wanted), std::to_string(missing.size())});
 }
 
 } // namespace
