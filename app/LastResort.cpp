@@ -38,6 +38,9 @@ constexpr int patience = 10000; ///< milliseconds
 std::atomic<bool> saidWhy{false};
 std::atomic_flag ending = ATOMIC_FLAG_INIT;
 
+/// Of sanitizers and of libraries that VTK is linked with.
+std::array<struct sigaction, NSIG> handlersBefore;
+
 [[noreturn]] void endWithoutMemory()
 {
   // Another thread is ending the program, and would be cut short.
@@ -53,14 +56,15 @@ std::atomic_flag ending = ATOMIC_FLAG_INIT;
 
 /// A null pointer that was used, or an abort, when memory has run out. It may call only what is
 /// allowed in signal handlers.
-void endIfMemoryIsShort(int)
+void endIfMemoryIsShort(int signal)
 {
   void* probe =
       ::mmap(nullptr, spareMemory, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   if (probe != MAP_FAILED)
   {
-    // The crash has another cause. Its signal comes again and finds no handler.
+    // The crash has another cause. Its signal comes again and finds the handler of before.
     ::munmap(probe, spareMemory);
+    ::sigaction(signal, &handlersBefore[static_cast<std::size_t>(signal)], nullptr);
     return;
   }
   endWithoutMemory();
@@ -86,15 +90,10 @@ void endUncaught()
 
 void catchSignal(int signal)
 {
-  struct sigaction present = {};
-  ::sigaction(signal, nullptr, &present);
-  // Sanitizers have handlers of their own.
-  if (present.sa_handler != SIG_DFL)
-    return;
   struct sigaction wanted = {};
   wanted.sa_handler = endIfMemoryIsShort;
-  wanted.sa_flags = SA_RESETHAND | SA_ONSTACK;
-  ::sigaction(signal, &wanted, nullptr);
+  wanted.sa_flags = SA_ONSTACK;
+  ::sigaction(signal, &wanted, &handlersBefore[static_cast<std::size_t>(signal)]);
 }
 
 /// Whether the system gives that many threads at once.
