@@ -25,8 +25,18 @@ vtkSmartPointer<vtkTable> namedByPosition(vtkTable* curves)
   return table;
 }
 
-/// One spectrum. A single value is its own, which VTK since 9.2 leaves as it is: without an
-/// imaginary part.
+/// Newer versions of VTK find no spectrum of single values.
+vtkSmartPointer<vtkTable> spectraOf(vtkTable* curves)
+{
+  if (curves->GetNumberOfRows() == 1)
+    return curves;
+  vtkNew<vtkTableFFT> transform;
+  transform->SetInputData(namedByPosition(curves));
+  transform->Update();
+  return transform->GetOutput();
+}
+
+/// One spectrum. That of a single value is the value, without an imaginary part.
 class Spectrum
 {
 public:
@@ -73,10 +83,7 @@ double roundingNoise(const Spectrum& spectrum)
 
 vtkSmartPointer<vtkTable> spectralFeatures(vtkTable* curves, SpectralFeature feature)
 {
-  vtkNew<vtkTableFFT> transform;
-  transform->SetInputData(namedByPosition(curves));
-  transform->Update();
-  vtkTable* spectra = transform->GetOutput();
+  const vtkSmartPointer<vtkTable> spectra = spectraOf(curves);
   auto features = vtkSmartPointer<vtkTable>::New();
   for (int i = 0; i < spectra->GetNumberOfColumns(); ++i)
   {

@@ -12,9 +12,11 @@
 #include <vtkIdTypeArray.h>
 #include <vtkObjectFactory.h>
 #include <vtkPlot.h>
+#include <vtkPlotParallelCoordinates.h>
 #include <vtkStringArray.h>
 #include <vtkTable.h>
 
+#include <algorithm>
 #include <cmath>
 
 vtkStandardNewMacro(vtkSelectableParallelCoordinates);
@@ -86,30 +88,48 @@ void vtkSelectableParallelCoordinates::ShowSelection()
   ShownRows = RowsNow();
 }
 
-bool vtkSelectableParallelCoordinates::IsOverAxis(const vtkContextMouseEvent& mouse)
+int vtkSelectableParallelCoordinates::AxisUnder(const vtkContextMouseEvent& mouse)
 {
   const vtkVector2f position = mouse.GetScenePos();
   if (position.GetY() <= static_cast<float>(Point1[1]) ||
       position.GetY() >= static_cast<float>(Point2[1]))
-    return false;
+    return -1;
   for (int i = 0; i < static_cast<int>(GetNumberOfAxes()); ++i)
   {
     if (std::fabs(GetAxis(i)->GetPoint1()[0] - position.GetX()) < reach)
-      return true;
+      return i;
   }
-  return false;
+  return -1;
 }
+
+/// From 0 at the lower end of the axes to 1 at the upper one.
+float vtkSelectableParallelCoordinates::HeightOnAxis(const vtkContextMouseEvent& mouse)
+{
+  const float low = static_cast<float>(Point1[1]);
+  const float high = static_cast<float>(Point2[1]);
+  return std::clamp((mouse.GetScenePos().GetY() - low) / (high - low), 0.0F, 1.0F);
+}
+
+#if TALMESH_VTK_KEEPS_RESET_BRUSHES
+void vtkSelectableParallelCoordinates::BrushAlone(float to)
+{
+  auto* lines = vtkPlotParallelCoordinates::SafeDownCast(GetPlot(0));
+  lines->ResetSelectionRange();
+  lines->SetSelectionRange(BrushedAxis, std::min(BrushedFrom, to), std::max(BrushedFrom, to));
+}
+#endif
 
 bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::plot::HandlerScope running;
   const bool selects = mouse.GetButton() == Actions.Select();
-  Brushing = selects && IsOverAxis(mouse);
-  if (Brushing)
+  BrushedAxis = selects ? AxisUnder(mouse) : -1;
+  BrushedFrom = HeightOnAxis(mouse);
+  if (BrushedAxis >= 0)
     ResetAxesSelection();
   const bool handled = Superclass::MouseButtonPressEvent(mouse);
   // VTK's chart takes the rows of the former brush off the plot.
-  if (Brushing)
+  if (BrushedAxis >= 0)
     ShowSelection();
   return handled;
 }
@@ -121,15 +141,18 @@ bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextM
     return true;
   vtkPlot* plot = GetPlot(0);
   const bool selects = mouse.GetButton() == Actions.Select();
-  if (!selects || !Brushing || !AnnotationLink || !plot->GetInput())
+  if (!selects || BrushedAxis < 0 || !AnnotationLink || !plot->GetInput())
     return Superclass::MouseButtonReleaseEvent(mouse);
-  Brushing = false;
   const vtkSmartPointer<vtkObject> kept = this;
   const vtkSmartPointer<vtkAnnotationLink> link = AnnotationLink;
   // Without a link the rows brushed stay in the plot.
   SetAnnotationLink(nullptr);
   plot->SetSelection(vtkNew<vtkIdTypeArray>());
   const bool handled = Superclass::MouseButtonReleaseEvent(mouse);
+#if TALMESH_VTK_KEEPS_RESET_BRUSHES
+  BrushAlone(HeightOnAxis(mouse));
+#endif
+  BrushedAxis = -1;
   SetAnnotationLink(link);
   KeepsBrush = true;
   Talmesh::plot::selectRows(

@@ -35,11 +35,17 @@ private:
 
   bool HasColumns();
   vtkIdType RowsNow();
-  bool IsOverAxis(const vtkContextMouseEvent& mouse);
+  /// The index of the axis that a press there brushes; -1 for none.
+  int AxisUnder(const vtkContextMouseEvent& mouse);
+  float HeightOnAxis(const vtkContextMouseEvent& mouse);
+#if TALMESH_VTK_KEEPS_RESET_BRUSHES
+  void BrushAlone(float to);
+#endif
 
   vtkTimeStamp Shown;
   vtkIdType ShownRows = 0; ///< of the table at that time
-  bool Brushing = false;
+  int BrushedAxis = -1;    ///< while the button is down; -1 for none
+  float BrushedFrom = 0.0; ///< height on the axis
   /// The brush still to be seen is that of the selection to be shown next.
   bool KeepsBrush = false;
 };

@@ -20,6 +20,11 @@ public:
   bool Paint(vtkContext2D* painter) override;
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
 
+#if TALMESH_VTK_MATRIX_LEAVES_AXES
+  void Update() override;
+  bool SetActivePlot(const vtkVector2i& position) override;
+#endif
+
 protected:
   vtkSelectableScatterPlotMatrix();
   ~vtkSelectableScatterPlotMatrix() override = default;
@@ -27,6 +32,10 @@ protected:
 private:
   vtkSelectableScatterPlotMatrix(const vtkSelectableScatterPlotMatrix&) = delete;
   void operator=(const vtkSelectableScatterPlotMatrix&) = delete;
+
+#if TALMESH_VTK_MATRIX_LEAVES_AXES
+  void GiveExtent(const vtkVector2i& position);
+#endif
 
   /// Takes VTK's wishes to paint again.
   vtkNew<vtkContextScene> Wishes;

@@ -2,12 +2,15 @@
 #define ClippedDrawing_h
 
 #include "vtk/ClipRegion.h"
+#include "vtk/PlainPoints.h"
 #include "vtk/VtkCompat.h"
 
 #include <vtkMatrix3x3.h>
 #include <vtkNew.h>
 #include <vtkPen.h>
 #include <vtkRenderingCoreEnums.h>
+
+#include <cstdint>
 
 class vtkImageData;
 
@@ -19,6 +22,9 @@ class ClippedDrawing : public Device
 {
 public:
   TALMESH_VTK_ABSTRACT_TYPE(ClippedDrawing, Device);
+
+  using Device::DrawPoints;
+  using Device::DrawPointSprites;
 
   void SetClipping(int* rectangle) override
   {
@@ -76,6 +82,7 @@ public:
   void DrawMarkers(int shape, bool highlight, float* points, int n, unsigned char* colors = nullptr,
                    int components = 0) override
   {
+    const DrawingNumbers drawing(this);
     if (!this->Clips)
       return Device::DrawMarkers(shape, highlight, points, n, colors, components);
     const double reach = shape == VTK_MARKER_CIRCLE ? 0.0 : 0.5 * this->Pen->GetWidth();
@@ -84,6 +91,20 @@ public:
       Device::DrawMarkers(shape, highlight, left.points.data(), left.size(), left.colorData(),
                           components);
   }
+
+#if TALMESH_VTK_DRAWS_ARRAYS
+  /// As plain numbers: VTK's device reads colours that are not there. It draws numbers as arrays in
+  /// its turn.
+  void DrawMarkers(int shape, bool highlight, vtkDataArray* positions, vtkUnsignedCharArray* colors,
+                   std::uintptr_t cache) override
+  {
+    if (this->DrawsNumbers)
+      return Device::DrawMarkers(shape, highlight, positions, colors, cache);
+    const Talmesh::PlainPoints plain(positions, colors);
+    this->DrawMarkers(shape, highlight, plain.points(), plain.size(), plain.colorData(),
+                      plain.components());
+  }
+#endif
 
   void DrawQuad(float* points, int n) override
   {
@@ -124,6 +145,22 @@ protected:
   ~ClippedDrawing() override = default;
 
 private:
+  class DrawingNumbers
+  {
+  public:
+    explicit DrawingNumbers(ClippedDrawing* by)
+        : device(by)
+    {
+      device->DrawsNumbers = true;
+    }
+    ~DrawingNumbers() { device->DrawsNumbers = false; }
+    DrawingNumbers(const DrawingNumbers&) = delete;
+    DrawingNumbers& operator=(const DrawingNumbers&) = delete;
+
+  private:
+    ClippedDrawing* device;
+  };
+
   Talmesh::ClipRegion Region()
   {
     vtkNew<vtkMatrix3x3> matrix;
@@ -133,6 +170,7 @@ private:
 
   Talmesh::ClipRectangle Rectangle;
   bool Clips = false;
+  bool DrawsNumbers = false;
 };
 
 #endif

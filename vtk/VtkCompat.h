@@ -31,14 +31,30 @@ class vtkStdString;
 using VtkDrawnText = vtkStdString;
 #endif
 
-/// What a subclass of vtkPlotPoints calls to read its columns again.
 #if VTK_VERSION_NUMBER < VTK_VERSION_CHECK(9, 2, 0)
-#define TALMESH_VTK_UPDATE_CACHE(table) UpdateTableCache(table)
-#define TALMESH_VTK_CHARTS_READ_COLUMNS 0
+#define TALMESH_VTK_SINCE_9_2 0
 #else
-#define TALMESH_VTK_UPDATE_CACHE(table) UpdateCache()
-/// Charts may have their plots read their columns again by themselves.
-#define TALMESH_VTK_CHARTS_READ_COLUMNS 1
+#define TALMESH_VTK_SINCE_9_2 1
 #endif
+
+/// What a subclass of vtkPlotPoints calls to read its columns again.
+#if TALMESH_VTK_SINCE_9_2
+#define TALMESH_VTK_UPDATE_CACHE(table) UpdateCache()
+#else
+#define TALMESH_VTK_UPDATE_CACHE(table) UpdateTableCache(table)
+#endif
+
+/// Charts may have their plots read their columns again by themselves.
+#define TALMESH_VTK_CHARTS_READ_COLUMNS TALMESH_VTK_SINCE_9_2
+
+/// Items hand over points as arrays too, for graphics cards that keep them.
+#define TALMESH_VTK_DRAWS_ARRAYS TALMESH_VTK_SINCE_9_2
+
+/// Parallel coordinates keep a brush that was reset as an empty one, which filters all rows.
+#define TALMESH_VTK_KEEPS_RESET_BRUSHES TALMESH_VTK_SINCE_9_2
+
+/// The scatter-plot matrix leaves axes of a single value without extent, and with each new layout
+/// gives the large chart the axes of its cell instead of those of the pair that it shows.
+#define TALMESH_VTK_MATRIX_LEAVES_AXES TALMESH_VTK_SINCE_9_2
 
 #endif

@@ -66,7 +66,12 @@ void vtkPlotStepLine::Update()
 {
   vtkTable* table = this->Data->GetInput();
   this->Superclass::Update();
-  if (this->Visible && table)
+  if (!this->Visible)
+    return;
+  // Without an input newer versions of VTK leave it.
+  if (!table)
+    this->ValidPointMask = nullptr;
+  else
     this->UpdateStepPointsCache(table);
 }
 

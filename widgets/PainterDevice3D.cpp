@@ -1,5 +1,6 @@
 #include "widgets/PainterDevice3D.h"
 
+#include "vtk/PlainPoints.h"
 #include "widgets/PainterDevice.h"
 #include "widgets/PainterShapes.h"
 
@@ -117,6 +118,22 @@ void PainterDevice3D::DrawTriangleMesh(const float* mesh, int n, const unsigned 
                             this->Projected(mesh, colors, components, i + 1),
                             this->Projected(mesh, colors, components, i + 2)});
 }
+
+#if TALMESH_VTK_DRAWS_ARRAYS
+void PainterDevice3D::DrawPoints(vtkDataArray* positions, vtkUnsignedCharArray* colors,
+                                 std::uintptr_t)
+{
+  const Talmesh::PlainPoints plain(positions, colors);
+  this->DrawPoints(plain.points(), plain.size(), plain.colorData(), plain.components());
+}
+
+void PainterDevice3D::DrawTriangleMesh(vtkDataArray* mesh, vtkUnsignedCharArray* colors,
+                                       std::uintptr_t)
+{
+  const Talmesh::PlainPoints plain(mesh, colors);
+  this->DrawTriangleMesh(plain.points(), plain.size(), plain.colorData(), plain.components());
+}
+#endif
 
 void PainterDevice3D::Paint(const Shape& shape)
 {

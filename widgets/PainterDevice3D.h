@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <vector>
 
@@ -38,6 +39,10 @@ public:
                   int components = 0) override;
   void DrawTriangleMesh(const float* mesh, int n, const unsigned char* colors,
                         int components) override;
+#if TALMESH_VTK_DRAWS_ARRAYS
+  void DrawPoints(vtkDataArray* positions, vtkUnsignedCharArray* colors, std::uintptr_t) override;
+  void DrawTriangleMesh(vtkDataArray* mesh, vtkUnsignedCharArray* colors, std::uintptr_t) override;
+#endif
   void ApplyPen(vtkPen* pen) override;
   void ApplyBrush(vtkBrush* brush) override;
 
