@@ -1,5 +1,5 @@
-#include "stats/SelectionPermutation.h"
 #include "stats/RunComparison.h"
+#include "stats/SelectionPermutation.h"
 #include "stats/SimulatedStudies.h"
 #include "stats/TiedKolmogorovSmirnov.h"
 
