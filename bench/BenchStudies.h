@@ -3,8 +3,8 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/SelectionNodes.h"
 #include "support/ParameterStudy.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkContextScene.h>
@@ -63,7 +63,7 @@ struct ShownStudy
       for (int point = 0; point < studyPoints; ++point)
         rows.push_back(vtkIdType(run) * studyPoints + point);
     }
-    return Talmesh::plot::makeRowSelection(rows);
+    return Talmesh::makeRowSelection(rows);
   }
 
   int runs;

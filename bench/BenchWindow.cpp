@@ -2,7 +2,7 @@
 
 #include "app/export/PictureFile.h"
 #include "external/PlotMetaData.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkAxis.h>
@@ -139,7 +139,7 @@ vtkSmartPointer<vtkSelection> BenchWindow::runsOf(int choice) const
   for (int run = 0; run < runs; ++run)
     for (int point = 0; point < points && isSelected(run, choice); ++point)
       rows.push_back(static_cast<vtkIdType>(run) * points + point);
-  return Talmesh::plot::makeRowSelection(rows);
+  return Talmesh::makeRowSelection(rows);
 }
 
 void BenchWindow::select(int choice)

@@ -7,11 +7,11 @@
 #include "plot/KsComparison.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
-#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "stats/GridDensity.h"
 #include "stats/RankedParameter.h"
 #include "vtk/KeptMemory.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkChartXY.h>
@@ -61,7 +61,7 @@ void allSelectedOfExample(benchmark::State& state)
   std::iota(rows.begin(), rows.end(), 0);
   for (auto _ : state)
   {
-    const auto all = Talmesh::plot::makeRowSelection(rows);
+    const auto all = Talmesh::makeRowSelection(rows);
     measure(state, "selection", [&] { container.getAnnotationLink()->SetCurrentSelection(all); });
     measure(state, "its frame", [&] { window.paint(true); });
     measure(state, "redraw", [&] { container.redraw(); });

@@ -22,6 +22,8 @@ set(TALMESH_PUBLIC_HEADERS
   external/vtkPrepareKMeansTable.h
   plot/KsStatistics.h
   plot/PlotContainer.h
+  plot/PlotContainerTypes.h
+  plot/PlotOptions.h
   plot/vtkSelectionUpdateCallback.h
   plot/vtkShiftScaleCallback.h
   stats/KolmogorovSmirnov.h

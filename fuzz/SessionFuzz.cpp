@@ -1,6 +1,6 @@
-#include "app/import/SelectionMarks.h"
 #include "app/session/DumpedTable.h"
 #include "app/session/SessionSettings.h"
+#include "plot/SelectionFlags.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -29,7 +29,7 @@ void checkColumns(vtkTable* table, vtkIdType rows)
   for (vtkIdType column = 0; column < table->GetNumberOfColumns(); ++column)
   {
     const char* name = table->GetColumnName(column);
-    require(!name || !isSelectionMark(name));
+    require(!name || !Talmesh::plot::isSelectionMark(name));
     require(table->GetColumn(column)->GetNumberOfTuples() == rows);
   }
 }

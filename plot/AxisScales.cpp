@@ -2,9 +2,9 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
-#include "plot/vtkSelectableChartXY.h"
 #include "vtk/LogScales.h"
 #include "vtk/vtkGuardedAxis.h"
+#include "vtk/vtkSelectableChartXY.h"
 
 #include <vtkAxis.h>
 

@@ -1,10 +1,11 @@
 #include "plot/ChartLifetime.h"
 
 #include "plot/AxisScales.h"
-#include "plot/HandlerScope.h"
 #include "plot/PlotState.h"
-#include "plot/vtkSelectableChartXY.h"
+#include "vtk/HandlerScope.h"
+#include "vtk/vtkSelectableChartXY.h"
 
+#include <vtkAxis.h>
 #include <vtkContextScene.h>
 
 #include <QCoreApplication>
@@ -55,6 +56,19 @@ void freeFromEventLoop(QCoreApplication* application)
   QMetaObject::invokeMethod(application, free, Qt::QueuedConnection);
 }
 
+/// VTK has no operation for it; the values are those of its constructor.
+void restoreAxis(vtkAxis* axis)
+{
+  axis->SetBehavior(vtkAxis::AUTO);
+  axis->SetCustomTickPositions(nullptr, nullptr);
+  axis->SetNumberOfTicks(-1);
+  axis->SetTicksVisible(true);
+  axis->SetLabelsVisible(true);
+  axis->SetNotation(vtkAxis::STANDARD_NOTATION);
+  axis->SetPrecision(2);
+  axis->SetMargins(15, 5);
+}
+
 bool isMatrixCell(const PlotState& state)
 {
   return state.chartXY && state.chartXY->GetParent() == state.chartMatrix;
@@ -84,6 +98,18 @@ void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene*
   state.sceneLink.watch(scene);
   chart->SetScene(scene);
   state.currentChart = chart;
+}
+
+vtkChartXY* reuseChartXY(PlotState& state, vtkContextScene* scene)
+{
+  leaveSobolChart(state);
+  ensureStandaloneChart(state);
+  showChart(state, state.chartXY, scene);
+  state.chartXY->ClearPlots();
+  state.chartXY->SetInteractive(true);
+  restoreAxis(state.chartXY->GetAxis(vtkAxis::BOTTOM));
+  restoreAxis(state.chartXY->GetAxis(vtkAxis::LEFT));
+  return state.chartXY;
 }
 
 void addToSceneItems(PlotState& state)

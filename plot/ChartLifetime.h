@@ -27,6 +27,11 @@ void ensureStandaloneChart(PlotState& state);
 /// the widget replaces them.
 void showChart(PlotState& state, vtkAbstractContextItem* chart, vtkContextScene* scene);
 
+/// The XY chart, shown in `scene` (which may be null) and ready for other data: without plots and
+/// with bottom and left axis as a new chart has them, so that nothing of a distribution or of Sobol
+/// results shows through. Titles, the legend and the wish for a logarithmic left axis stay.
+vtkChartXY* reuseChartXY(PlotState& state, vtkContextScene* scene);
+
 /// Adds the chart now shown to the items of its scene, if it has one, unless it is one of them.
 void addToSceneItems(PlotState& state);
 

@@ -167,7 +167,7 @@ void clusterTimeSeries(PlotState& state, int clusters, int mode)
   const auto time = copiedTime(state, compared.runs.positions);
   state.decorationTable->AddColumn(time);
   compared.byColumn->AddColumn(time);
-  if (state.diagnosticsShown)
+  if (state.options.showsDiagnostics)
     reportSizes(state.clusterMembership, compared.byColumn);
   drawCurves(state, compared.byColumn);
 }

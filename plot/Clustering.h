@@ -22,7 +22,7 @@ struct PlotState;
 /// listed, or one per run if that is more: the others are empty, and a mistyped number of clusters
 /// must not exhaust the memory. The compared curves are added to the XY chart, when there is one,
 /// in the colours of their clusters. Two lines on standard output tell the number of runs and the
-/// size of the table of curves, unless `diagnosticsShown` is off.
+/// size of the table of curves, unless the options keep remarks to themselves.
 ///
 /// With fewer than one cluster or without a whole run there is no membership afterwards, and
 /// standard error says so.

@@ -4,12 +4,11 @@
 #include "external/ScientificFormat.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
-#include "plot/ChartReuse.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
+#include "plot/PlotTexts.h"
 #include "plot/TableColumns.h"
-#include "plot/Titles.h"
 
 #include <vtkAxis.h>
 #include <vtkPlot.h>

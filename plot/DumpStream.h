@@ -1,7 +1,11 @@
 #ifndef DumpStream_h
 #define DumpStream_h
 
+#include "export/ViewerExport.h"
+
 #include <QDataStream>
+
+class QIODevice;
 
 namespace Talmesh::plot
 {
@@ -37,6 +41,11 @@ private:
 
   QDataStream stream;
 };
+
+/// Whether the next bytes of a device that can be sought in are laid out as `writeDump` does and
+/// end where the last column does. Only counts, names and kinds are read, so it is known at once
+/// however many values there are. Leaves the device somewhere in them.
+TALMESHPLOT_VIEWER_EXPORT bool isWholeDump(QIODevice& device, qint64 size);
 
 } // namespace Talmesh::plot
 

@@ -2,13 +2,13 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
-#include "plot/ChartReuse.h"
+#include "plot/ChartLifetime.h"
 #include "plot/Margins.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTexts.h"
 #include "plot/PointAppearance.h"
 #include "plot/TableColumns.h"
-#include "plot/TickLabels.h"
 #include "vtk/vtkPlotErrorPoints.h"
 
 #include <vtkAxis.h>

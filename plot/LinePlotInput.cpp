@@ -6,9 +6,9 @@
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
+#include "plot/PlotTexts.h"
 #include "plot/SettingsSignals.h"
 #include "plot/TableColumns.h"
-#include "plot/Titles.h"
 
 #include <vtkColorSeries.h>
 #include <vtkPlot.h>

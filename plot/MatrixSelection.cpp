@@ -2,7 +2,7 @@
 
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
 #include <vtkSelection.h>

@@ -7,8 +7,8 @@
 #include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTexts.h"
 #include "plot/TableColumns.h"
-#include "plot/TickLabels.h"
 
 #include <vtkAxis.h>
 #include <vtkPlot.h>

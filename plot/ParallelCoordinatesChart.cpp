@@ -5,9 +5,10 @@
 #include "plot/FiniteTable.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionModes.h"
+#include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 #include "vtk/ParallelLines.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAxis.h>
 #include <vtkLookupTable.h>

@@ -1,9 +1,9 @@
 #include "plot/ParameterCells.h"
 
 #include "external/PlotMetaData.h"
-#include "plot/DecadeTicks.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
+#include "vtk/LogScales.h"
 
 #include <vtkAxis.h>
 #include <vtkChart.h>

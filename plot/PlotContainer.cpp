@@ -11,11 +11,11 @@
 #include "plot/Redraw.h"
 #include "plot/SelectionFlags.h"
 #include "plot/SettingsSignals.h"
-#include "plot/vtkSelectableChartMatrix.h"
-#include "plot/vtkSelectableParallelCoordinates.h"
-#include "plot/vtkSelectableScatterPlotMatrix.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
+#include "vtk/vtkSelectableChartMatrix.h"
+#include "vtk/vtkSelectableParallelCoordinates.h"
+#include "vtk/vtkSelectableScatterPlotMatrix.h"
 
 #include <vtkCommand.h>
 
@@ -54,9 +54,7 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.horizontalGutter = from.horizontalGutter;
   to.verticalGutter = from.verticalGutter;
   to.useIndexForXSeries = from.useIndexForXSeries;
-  to.keepsScatterPair = from.keepsScatterPair;
-  to.diagnosticsShown = from.diagnosticsShown;
-  to.breakLinesAtGaps = from.breakLinesAtGaps;
+  to.options = from.options;
 }
 
 } // namespace
@@ -204,11 +202,6 @@ PlotMetaData* PlotContainer::getMetaData() const
   return d->metaData;
 }
 
-vtkTable* PlotContainer::getTable() const
-{
-  return d->table;
-}
-
 vtkChartXY* PlotContainer::getChartXY() const
 {
   return d->chartXY;
@@ -217,60 +210,4 @@ vtkChartXY* PlotContainer::getChartXY() const
 vtkChartMatrix* PlotContainer::getChartMatrix() const
 {
   return d->chartMatrix;
-}
-
-vtkAnnotationLink* PlotContainer::getAnnotationLink() const
-{
-  return d->annotationLink;
-}
-
-const std::vector<vtkSmartPointer<vtkTable>>& PlotContainer::getDerivedTables() const
-{
-  return d->derivedTables;
-}
-
-const std::vector<Talmesh::TypedConcentrationName>& PlotContainer::getColumnItems() const
-{
-  return d->columnItems;
-}
-
-vtkTable* PlotContainer::getQuartileTable() const
-{
-  return d->quartileTable;
-}
-
-vtkIntArray* PlotContainer::getClusterMembership() const
-{
-  return d->clusterMembership;
-}
-
-const std::vector<PlotContainer::KsStatistics>& PlotContainer::getKsResults() const
-{
-  return d->ksResults;
-}
-
-bool PlotContainer::getUseIndexForXSeries() const
-{
-  return d->useIndexForXSeries;
-}
-
-void PlotContainer::setUseIndexForXSeries(bool use)
-{
-  d->useIndexForXSeries = use;
-  dirty();
-}
-
-void PlotContainer::setKeepsScatterPair(bool keep)
-{
-  d->keepsScatterPair = keep;
-}
-
-bool PlotContainer::getBreakLinesAtGaps() const
-{
-  return d->breakLinesAtGaps;
-}
-
-void PlotContainer::setBreakLinesAtGaps(bool breaks)
-{
-  d->breakLinesAtGaps = breaks;
 }

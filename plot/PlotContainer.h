@@ -5,6 +5,8 @@
 #include "../external/PlotStyles.h"
 #include "../external/TypedConcentrationName.h"
 #include "../plot/KsStatistics.h"
+#include "../plot/PlotContainerTypes.h"
+#include "../plot/PlotOptions.h"
 
 #include <vtkSmartPointer.h>
 
@@ -17,32 +19,7 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
-
-class Distribution;
-class FitSettings;
-struct LinePlotTable;
-class PlotMetaData;
-class QByteArray;
-class vtkAbstractContextItem;
-class vtkAnnotationLink;
-class vtkChartMatrix;
-class vtkChartXY;
-class vtkContextScene;
-class vtkIntArray;
-class vtkPlot;
-class vtkTable;
-struct FitRun;
-struct LinePlotData;
-struct ParameterSelection;
-struct SobolPostProcessResult;
-
-namespace Talmesh::plot
-{
-struct ContainerAccess;
-struct PlotState;
-} // namespace Talmesh::plot
 
 /// One plot: a table of data, the settings that say how to show it, and the charts that show it.
 ///
@@ -58,12 +35,10 @@ class TALMESHPLOT_EXPORT PlotContainer : public QObject
 
 public:
   using KsStatistics = ::KsStatistics;
-
   explicit PlotContainer(QObject* parent);
-  /// An independent container with a deep copy of the data, the settings, the remembered axis
-  /// windows and the selection; derived results are not copied. It has no parallel-coordinates
-  /// chart and cannot draw style 9. The copy draws itself once without a scene, with what that
-  /// means for redraw().
+  /// An independent container with deep copies of data, settings, remembered axis windows and
+  /// selection, without derived results. It has no parallel-coordinates chart and cannot draw style
+  /// 9. The copy draws itself once without a scene, with what that means for redraw().
   PlotContainer(const PlotContainer& other);
   PlotContainer& operator=(const PlotContainer&) = delete;
   ~PlotContainer() override;
@@ -94,31 +69,24 @@ public:
   vtkIntArray* getClusterMembership() const;
   /// One test result per parameter; empty before the first test.
   const std::vector<KsStatistics>& getKsResults() const;
+  /// The samples of the tests that followed a selection; empty after other tests and before any.
+  const std::vector<TestedSamples>& getTestedSamples() const;
 
   /// Whether the row index stands in for the x series; false at first.
   bool getUseIndexForXSeries() const;
-  /// Uses the row index as x series where a style knows that, and marks the scene for painting.
+  /// Where a style knows that. Marks the scene for painting.
   void setUseIndexForXSeries(bool use);
 
-  /// Lets the scatter-plot matrix keep the pair in its large chart through redraws with the same
-  /// columns. Otherwise each redraw with limited columns makes it the first x and y column.
-  void setKeepsScatterPair(bool keep);
+  const PlotOptions& getOptions() const;
+  void setOptions(const PlotOptions& options);
 
-  /// Whether lines of runs end at missing values, see vtkPlotLineSet::SetBreakAtGaps; false at
-  /// first.
-  bool getBreakLinesAtGaps() const;
-  /// Takes effect with the next redraw.
-  void setBreakLinesAtGaps(bool breaks);
-
-  /// Draws the decoration lines with the next redraw. Its last column is their common x.
-  /// Null draws none. `show` switches them on or off.
+  /// Draws the decoration lines, here and below, with the next redraw. Its last column is their
+  /// common x. Null draws none. `show` switches them on or off.
   void setDecorations(vtkSmartPointer<vtkTable> decorations, bool show);
   bool getShowDecorations() const;
-  /// Takes effect with the next redraw.
   void setShowDecorations(bool show);
 
-  /// @name Data input
-  /// @{
+  // Data input
   /// Appends a table over the arrays of `table`, which stays the caller's and must outlive it.
   void setLinePlotTableAsAdditionalData(LinePlotTable* table);
   /// Shows a shared line-plot table, whose arrays are used in place, and chooses its time column.
@@ -141,7 +109,6 @@ public:
   /// Shows y over x, with error bars when `error` has as many values as x. When x and y differ in
   /// length the chart's title says so and the settings stay silenced.
   void setSimpleXYPlot(std::vector<double>& x, std::vector<double>& y, std::vector<double>& error);
-  /// Names of all table columns in column order.
   QStringList getLabels() const;
   /// Replaces the table by a comma-separated file with names in its first line. Does not draw.
   void loadData(std::string fileName);
@@ -149,10 +116,8 @@ public:
   /// that the settings use.
   /// @return for an empty file name the text, allocated with new[] and the caller's; otherwise null
   char* saveData(std::string fileName, bool keepAll);
-  /// @}
 
-  /// @name Appearance
-  /// @{
+  // Appearance
   /// Solid colour of point plots, components 0 to 255. Like all setters up to setYLabel it stores
   /// the value in the settings and applies it to the charts now shown, if they have such a thing.
   void setColor(int r, int g, int b, int a);
@@ -162,9 +127,8 @@ public:
   void useColors(vtkPlot* plot);
   /// A value of vtkPlotPoints' marker enumeration.
   void setMarkerStyle(int style);
-  /// In pixels.
+  /// In pixels, as the width.
   void setPointSize(double size);
-  /// In pixels.
   void setLineWidth(double width);
   void setPlotTitle(std::string title);
   void setXLabel(std::string label);
@@ -181,7 +145,8 @@ public:
   bool showsLogScaleY() const;
   /// Adds the decoration lines to the XY chart; `scene` is ignored.
   void drawDecorations(vtkContextScene* scene);
-  /// Margins and gutters are in pixels; setting one calls updateMargins().
+  /// Margins and gutters are in pixels; setting one calls updateMargins(), which applies them to
+  /// the chart of the current style.
   int getLeftMargin() const;
   int getTopMargin() const;
   int getBottomMargin() const;
@@ -194,12 +159,9 @@ public:
   void setRightMargin(int pixels);
   void setHorizontalGutter(int pixels);
   void setVerticalGutter(int pixels);
-  /// Applies margins and gutters to the chart of the current style.
   void updateMargins();
-  /// @}
 
-  /// @name Selection
-  /// @{
+  // Selection
   /// A new array named "selected points" with 1 for every selected table row and 0 otherwise, the
   /// caller's; null when nothing can be said of the rows.
   vtkIntArray* getCurrentSelection() const;
@@ -212,15 +174,8 @@ public:
   /// Ranks the parameters of the given runs as a further data set and draws. An exception from the
   /// ranking leaves everything as it was.
   void setExternalSelection(ParameterSelection* runs);
-  /// @}
 
-  /// @name Statistics
-  /// @{
-  /// Whether remarks on computed tables go to standard output: the sizes of a clustering, and
-  /// parameters with fewer values than others. True at first; a program that shows its results
-  /// otherwise switches them off.
-  bool getDiagnosticsShown() const;
-  void setDiagnosticsShown(bool show);
+  // Statistics
   /// Builds the rank and density tables of the settings' parameter columns of `source` in slots
   /// `tableIndex` and `tableIndex` + 1 of the derived tables.
   void generateRankedParameters(vtkSmartPointer<vtkTable> source, std::size_t tableIndex);
@@ -230,6 +185,8 @@ public:
   /// Rebuilds the table of quartiles per time point from the first y column. A stride below 1
   /// leaves the old one in place.
   void generateQuartiles();
+  /// As above, unless the table is that of the present first x and y column and stride.
+  void refreshQuartiles();
   /// Groups the runs into `clusters` clusters by the shape of the first y column. `mode` 2 compares
   /// phase spectra, 3 magnitude spectra, any other value the time series.
   void clusterTimeSeries(int clusters, int mode);
@@ -237,33 +194,24 @@ public:
   /// are the caller's. The list is expected to be empty: runs go to its entry of their number.
   void selectionsFromClusters(std::string const& prefix,
                               std::vector<ParameterSelection*>& selections);
-  /// @}
 
-  /// @name Changes of the data in place
-  /// @{
-  /// Multiplies run t of a double column by factors[t], one per whole run, the caller's; null
-  /// scales nothing.
+  // Changes of the data in place
+  /// Multiplies run t of a double column by factors[t], one per whole run; null scales nothing.
   void scaleColumn(double* factors, int column);
   /// Divides each run of a double column by its own maximum, which counts as at least 0.
   void scaleRelativeToMaxWithinTrajectory(int column);
   /// Multiplies, or divides, a double column by another row by row. Does not draw.
   void scaleColumnByColumn(int column, int byColumn, bool divide);
-  /// Reduces the table to the columns that the settings use and adds the flags of the selected
-  /// rows.
+  /// Reduces the table to the columns that the settings use and adds flags of the selected rows.
   void shrinkToColumnSelection();
-  /// @}
 
-  /// @name Pages and special plots
-  /// @{
-  /// Draw the page of style 5, 6 or 8 into `scene` whatever the present style.
-  /// @throws std::out_of_range when a pair plot would be titled by a parameter column with a name
-  ///   shorter than 11 characters
+  // Pages and special plots
+  /// Draw the page of style 5, 6 or 8, or the chart of style 7, into `scene` in any present style.
+  /// @throws std::out_of_range, the first two, when the column of a parameter that would be shown
+  ///   has a name shorter than 11 characters
   void drawMulitPlot(vtkContextScene* scene);
-  /// @throws std::out_of_range when a parameter would be shown whose column has a name shorter than
-  ///   11 characters
   void drawSelectionCdfPlot(vtkContextScene* scene);
   void drawFitParameterDistributionPlot(vtkContextScene* scene);
-  /// Draws the chart of style 7 into `scene`.
   void drawScatterPlotWithErrorBars(vtkContextScene* scene);
   /// Replaces the table by the first-order or `total` sensitivity indices: of all outputs at one
   /// time point, or of one output over time. Shows them as style 1 or 2 does. Null is ignored.
@@ -279,47 +227,38 @@ public:
   /// Shows the density of a distribution, whose values become the table. Null is ignored. An
   /// exception from the distribution leaves everything as it was.
   void setDistribution(Distribution* distribution);
-  /// @}
 
-  /// @name Binary dump
-  /// @{
+  // Binary dump
   /// A new byte array, the caller's, that holds the typed items and the table.
   QByteArray* binaryDump();
-  /// Replaces items and table by those of a dump, which is only read; null is ignored. Then,
-  /// however damaged the dump: flags in the last column become the current selection, the settings'
+  /// Replaces items and table by those of a dump, which is only read; null is ignored. However
+  /// damaged it is, then flags in the last column become the current selection, the settings'
   /// stored window is remembered, the quartiles are computed anew and no selection update is
-  /// pending.
-  ///
-  /// Reading does not draw, but a selection that it restores is a change like any other. With
+  /// pending. It does not draw, but a selection that it restores is a change like any other: with
   /// parameter columns in the settings the runs are split, ranked by the bounds known before, and
   /// redraw() is called; without a scene that writes its line and leaves the settings silenced.
   void readDump(QByteArray* data);
-  /// @}
 
-  /// @name Steps of every drawing
-  /// @{
-  /// Has every redraw(), whoever asks for it, end with `complete`: when the chart is built, has
-  /// its point size, marker, decorations and logarithmic x axis, is getItem() and stands in its
+  // Steps of every drawing
+  /// Has every redraw(), whoever asks for it, end with `complete`: when the chart is built, dressed
+  /// with point size, marker, decorations and logarithmic x axis, is getItem() and stands in its
   /// scene, but before the settings speak again. There the client adds what the library does not
   /// know of, such as further plots. Redraws that draw nothing, for want of a scene, have no steps;
   /// of a drawing within a drawing the steps run once for the page that is shown.
   ///
-  /// Steps run in order of registration. Settings are silent in each of them. They live until the
-  /// container or `owner`, which is not null, dies, or until removeDrawingSteps(), which may be
-  /// called by a step; one that is registered by a step runs from the next drawing on. A copy of
-  /// the container has none. A step must not end the container.
-  ///
-  /// An exception from a step ends the drawing like one from the style's builder, see redraw(): the
-  /// steps after it do not run, and the settings speak again. A redraw that a completion asks for,
-  /// directly or by a change of settings or selection, follows when all completions are done, once
-  /// however many ask; what the completions of that one ask for is ignored.
+  /// Steps run in order of registration, with silent settings, and must not end the container. They
+  /// live until the container or `owner`, which is not null, dies, or until removeDrawingSteps(),
+  /// which a step may call; one registered by a step runs from the next drawing on. A copy of the
+  /// container has none. An exception from a step ends the drawing like one from the style's
+  /// builder: the steps after it do not run, and the settings speak again. A redraw that
+  /// completions ask for, directly or by a change of settings or selection, follows once all are
+  /// done; what those of that one ask for is ignored.
   void addCompletion(const QObject* owner, std::function<void()> complete);
-  /// As above, but `prepare` runs before the style's builder, which draws what it leaves behind. A
-  /// redraw that it asks for is this one.
+  /// As above, but `prepare` runs before the style's builder. A redraw that it asks for is this
+  /// one.
   void addPreparation(const QObject* owner, std::function<void()> prepare);
   /// Drops all completions and preparations of `owner`.
   void removeDrawingSteps(const QObject* owner);
-  /// @}
 
 public slots:
   /// Uses `data` as the table, shared and not copied. Does not draw. Null is ignored.
@@ -354,7 +293,6 @@ private:
 
   void connectParts();
   void drawOrReport();
-
   std::unique_ptr<Talmesh::plot::PlotState> d;
 };
 

@@ -4,11 +4,31 @@
 #include "plot/Margins.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTexts.h"
 #include "plot/PointAppearance.h"
-#include "plot/TickLabels.h"
-#include "plot/Titles.h"
 
 #include <vtkAxis.h>
+
+bool PlotContainer::getUseIndexForXSeries() const
+{
+  return d->useIndexForXSeries;
+}
+
+void PlotContainer::setUseIndexForXSeries(bool use)
+{
+  d->useIndexForXSeries = use;
+  dirty();
+}
+
+const PlotOptions& PlotContainer::getOptions() const
+{
+  return d->options;
+}
+
+void PlotContainer::setOptions(const PlotOptions& options)
+{
+  d->options = options;
+}
 
 void PlotContainer::setColor(int r, int g, int b, int a)
 {

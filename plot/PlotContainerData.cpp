@@ -1,20 +1,34 @@
 #include "external/LinePlotData.h"
 #include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
+#include "plot/BinaryDump.h"
+#include "plot/ColumnReduction.h"
+#include "plot/ColumnScaling.h"
 #include "plot/DelimitedFiles.h"
+#include "plot/DumpRestore.h"
 #include "plot/LinePlotInput.h"
 #include "plot/LineTableInput.h"
 #include "plot/PlotColumns.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
+#include "plot/SelectionFlags.h"
 #include "plot/SettingsSignals.h"
-#include "plot/SimpleTables.h"
 #include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 
 #include <QString>
+
+vtkTable* PlotContainer::getTable() const
+{
+  return d->table;
+}
+
+const std::vector<Talmesh::TypedConcentrationName>& PlotContainer::getColumnItems() const
+{
+  return d->columnItems;
+}
 
 void PlotContainer::setPlotData(vtkSmartPointer<vtkTable> data)
 {
@@ -156,4 +170,37 @@ char* PlotContainer::saveData(std::string fileName, bool keepAll)
   if (!keepAll)
     shrinkToColumnSelection();
   return Talmesh::plot::writeDelimited(d->table, fileName);
+}
+
+void PlotContainer::scaleColumn(double* factors, int column)
+{
+  Talmesh::plot::scaleColumn(*d, factors, column);
+}
+
+void PlotContainer::scaleRelativeToMaxWithinTrajectory(int column)
+{
+  Talmesh::plot::scaleToRunMaximum(*d, column);
+}
+
+void PlotContainer::scaleColumnByColumn(int column, int byColumn, bool divide)
+{
+  Talmesh::plot::scaleColumnByColumn(*d, column, byColumn, divide);
+}
+
+void PlotContainer::shrinkToColumnSelection()
+{
+  Talmesh::plot::reduceToUsedColumns(*d);
+  if (vtkSmartPointer<vtkIntArray> flags = Talmesh::plot::selectionFlags(*d))
+    Talmesh::plot::appendFlagColumn(*d, flags);
+}
+
+QByteArray* PlotContainer::binaryDump()
+{
+  return new QByteArray(Talmesh::plot::writeDump(*d));
+}
+
+void PlotContainer::readDump(QByteArray* data)
+{
+  if (data)
+    Talmesh::plot::restoreDump(*d, *data);
 }

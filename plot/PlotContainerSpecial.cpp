@@ -5,13 +5,31 @@
 #include "external/SobolPostProcessResult.h"
 #include "plot/DistributionChart.h"
 #include "plot/ErrorBarChart.h"
+#include "plot/FitParameterPage.h"
+#include "plot/MultiPlotPage.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
 #include "plot/Residuals.h"
+#include "plot/SelectionPage.h"
 #include "plot/SettingsSignals.h"
 #include "plot/SobolChart.h"
 #include "plot/SobolTables.h"
+
+void PlotContainer::drawMulitPlot(vtkContextScene* scene)
+{
+  Talmesh::plot::drawMultiPlotPage(*d, scene);
+}
+
+void PlotContainer::drawSelectionCdfPlot(vtkContextScene* scene)
+{
+  Talmesh::plot::drawSelectionPage(*d, scene);
+}
+
+void PlotContainer::drawFitParameterDistributionPlot(vtkContextScene* scene)
+{
+  Talmesh::plot::drawFitParameterPage(*d, scene);
+}
 
 void PlotContainer::drawScatterPlotWithErrorBars(vtkContextScene* scene)
 {

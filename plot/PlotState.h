@@ -6,10 +6,11 @@
 #include "external/TypedConcentrationName.h"
 #include "plot/AxisScales.h"
 #include "plot/AxisWindows.h"
+#include "plot/DerivedInputs.h"
 #include "plot/DrawingSteps.h"
 #include "plot/KsStatistics.h"
 #include "plot/MatrixSelection.h"
-#include "plot/RankedInputs.h"
+#include "plot/PlotOptions.h"
 #include "plot/SceneLink.h"
 #include "vtk/PictureStore.h"
 
@@ -110,12 +111,10 @@ struct PlotState
   bool selectionUpdatePending = false;
   /// The row index stands in for the x series.
   bool useIndexForXSeries = false;
-  /// Lines of runs end at missing values instead of leading on into the next run.
-  bool breakLinesAtGaps = false;
   /// One test result per ranked parameter; empty before a test.
   std::vector<KsStatistics> ksResults;
-  /// Whether remarks on computed tables go to standard output.
-  bool diagnosticsShown = true;
+  /// The samples of those results; empty after tests that followed no selection.
+  std::vector<TestedSamples> testedSamples;
   /// Quartiles of the runs, one row per position within a run.
   vtkSmartPointer<vtkTable> quartileTable;
 
@@ -123,6 +122,8 @@ struct PlotState
   boost::unordered_map<ReducedMetaData, WindowScales> windowScales;
   /// What the plot table was last ranked with; none before the first time.
   std::optional<RankedInputs> rankedInputs;
+  /// What `quartileTable` was computed from; none before the first time.
+  std::optional<QuartileInputs> quartileInputs;
   /// The scenes that the charts were put into.
   SceneLink sceneLink;
   /// The tie to the selection that the scatter-plot matrix keeps for itself.
@@ -135,8 +136,8 @@ struct PlotState
   vtkWeakPointer<vtkChartXY> sobolChart;
   /// The table last made of Sobol results or of a distribution.
   vtkWeakPointer<vtkTable> tableOfResults;
-  /// Whether a redraw leaves the scatter-plot matrix the pair that the user chose.
-  bool keepsScatterPair = false;
+  /// What the program has otherwise than a container does by itself.
+  PlotOptions options;
   /// Counts the redraws completed, so that a drawing notices when one ran inside it. One that an
   /// exception ended does not count: the drawing around it still has a page to fill.
   unsigned long drawings = 0;

@@ -80,6 +80,19 @@ vtkSmartPointer<vtkDoubleArray> timeColumn(const PlotState& state, vtkIdType cou
                       boost::make_shared<vtkSmartPointer<vtkDoubleArray>>(source));
 }
 
+ColumnVersion versionOf(const PlotState& state, int column)
+{
+  vtkAbstractArray* array = columnAt(state.table, column);
+  return {column, array ? array->GetMTime() : 0};
+}
+
+QuartileInputs quartileInputsNow(const PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  return {settings.getStride(), versionOf(state, firstOf(settings.xColumns)),
+          versionOf(state, firstOf(settings.yColumns))};
+}
+
 } // namespace
 
 void generateQuartiles(PlotState& state)
@@ -91,6 +104,15 @@ void generateQuartiles(PlotState& state)
   addPairs(summary, "QRange", lowerColumn, upperColumn);
   summary->AddColumn(timeColumn(state, summary->GetNumberOfRows()));
   state.quartileTable = summary;
+  state.quartileInputs = quartileInputsNow(state);
+}
+
+void refreshQuartiles(PlotState& state)
+{
+  const bool current = state.quartileTable && state.quartileInputs &&
+                       *state.quartileInputs == quartileInputsNow(state);
+  if (!current)
+    generateQuartiles(state);
 }
 
 } // namespace Talmesh::plot

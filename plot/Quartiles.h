@@ -23,6 +23,10 @@ struct PlotState;
 /// or is too short is copied instead.
 void generateQuartiles(PlotState& state);
 
+/// As above, unless the table is that of the present first x and y column and stride. A column
+/// counts as changed when VTK was told so.
+void refreshQuartiles(PlotState& state);
+
 } // namespace Talmesh::plot
 
 #endif

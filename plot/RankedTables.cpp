@@ -204,7 +204,7 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
     if (!ranked.parameters[k])
       continue;
     stats::RankedParameter& parameter = *ranked.parameters[k];
-    if (parameter.valueCount != ranked.positions && state.diagnosticsShown)
+    if (parameter.valueCount != ranked.positions && state.options.showsDiagnostics)
       reportLength(parameter.valueCount, ranked.positions);
     noteValueCount(ranks, labels[k], parameter.valueCount);
     addColumn(ranks, rankPrefix + labels[k], parameter.ranks);

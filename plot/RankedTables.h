@@ -31,8 +31,8 @@ struct PlotState;
 /// A parameter without a column or without a typed item, or with a column that is not numeric, is
 /// skipped. If the numbers of parameters and of bounds differ, standard error says so once and the
 /// extents of the values stand in; a parameter shorter than the longest one is reported on standard
-/// output unless `diagnosticsShown` is off. Ranking the plot table sets the settings' flag
-/// `rankedDataCurrent`.
+/// output unless the options keep remarks to themselves. Ranking the plot table sets the settings'
+/// flag `rankedDataCurrent`.
 /// @param source null counts as a table without columns
 void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
                               std::size_t tableIndex);

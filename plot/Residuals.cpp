@@ -5,12 +5,11 @@
 #include "external/PlotMetaData.h"
 #include "external/Standardize.h"
 #include "plot/ChartLifetime.h"
-#include "plot/ChartReuse.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTexts.h"
 #include "plot/PointAppearance.h"
 #include "plot/TableColumns.h"
-#include "plot/Titles.h"
 
 #include <vtkAxis.h>
 #include <vtkPlotPoints.h>

@@ -2,14 +2,13 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
-#include "plot/RunCursor.h"
 #include "plot/RunLayout.h"
 #include "plot/SelectionFlags.h"
-#include "plot/SelectionNodes.h"
 #include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
 #include "vtk/RowCopies.h"
+#include "vtk/RowSelections.h"
 #include "vtk/SelectionColumns.h"
 
 #include <vtkIdTypeArray.h>

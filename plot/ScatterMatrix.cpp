@@ -5,6 +5,7 @@
 #include "plot/FiniteTable.h"
 #include "plot/Margins.h"
 #include "plot/PlotState.h"
+#include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 
 #include <algorithm>
@@ -122,7 +123,7 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   showColumns(state, columnsToShow(state));
   retireCells(dropped, scene);
   const bool limited = state.metaData->getLimitColumVisibility();
-  const bool mayKeepPair = shown && (state.keepsScatterPair || !limited);
+  const bool mayKeepPair = shown && (state.options.keepsScatterPair || !limited);
   if (mayKeepPair && sameNames(namesBefore, state.scatterPlotMatrix->GetVisibleColumns()))
     activateAgain(state.scatterPlotMatrix, pairBefore);
   else if (limited)

@@ -1,9 +1,9 @@
 #include "plot/SelectionFlags.h"
 
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
 #include "vtk/CombinedSelection.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLayers.h>
 #include <vtkIdTypeArray.h>
@@ -14,13 +14,15 @@
 namespace Talmesh::plot
 {
 
-std::vector<bool> markedRows(vtkSelection* selection, vtkTable* table)
+std::vector<int> columnsOfAll(const PlotState& state)
 {
-  const vtkIdType rows = table->GetNumberOfRows();
-  const auto copy = Talmesh::combineSelections(selection, nullptr);
-  const auto indices = Talmesh::toRowIndices(copy.selection, table);
-  return indices ? Talmesh::selectedRows(indices, rows).marked
-                 : std::vector<bool>(static_cast<std::size_t>(rows), false);
+  std::vector<int> columns;
+  for (int column = 0; column < static_cast<int>(state.table->GetNumberOfColumns()); ++column)
+  {
+    if (state.options.showsSelectionMarks || !isSelectionMark(columnName(state.table, column)))
+      columns.push_back(column);
+  }
+  return columns;
 }
 
 vtkSmartPointer<vtkIntArray> selectionFlags(const PlotState& state)

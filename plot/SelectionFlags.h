@@ -2,14 +2,13 @@
 #define SelectionFlags_h
 
 #include "export/ViewerExport.h"
+#include "vtk/SelectionColumns.h"
 
 #include <vtkIntArray.h>
 #include <vtkSmartPointer.h>
 
+#include <string>
 #include <vector>
-
-class vtkSelection;
-class vtkTable;
 
 namespace Talmesh::plot
 {
@@ -19,9 +18,16 @@ struct PlotState;
 /// Name of the column that keeps a selection with its table.
 inline constexpr char selectionFlagColumn[] = "selected points";
 
-/// Whether `selection`, which may be null and is not changed, names each row of `table`. No row is
-/// named when VTK cannot say which.
-TALMESHPLOT_VIEWER_EXPORT std::vector<bool> markedRows(vtkSelection* selection, vtkTable* table);
+/// Whether a column of that name is one in which rows are marked for the selection of the moment.
+inline bool isSelectionMark(const std::string& name)
+{
+  return name == selectionFlagColumn || name == ComplementSelectionColumn ||
+         name == ReducedSelectionColumn || name == RemainderSelectionColumn ||
+         name == OriginalRowIdsColumn;
+}
+
+/// The columns that a style shows which shows all of them.
+std::vector<int> columnsOfAll(const PlotState& state);
 
 /// One flag per table row: 1 where the annotation link's selection or one of its contributing
 /// annotations names the row, 0 elsewhere. Neither selection nor annotations are changed.

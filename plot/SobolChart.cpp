@@ -3,11 +3,11 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
-#include "plot/LostColumns.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTexts.h"
 #include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
-#include "plot/Titles.h"
+#include "vtk/LostColumns.h"
 
 #include <vtkAxis.h>
 #include <vtkChartLegend.h>

@@ -9,7 +9,6 @@
 #include "plot/PlotState.h"
 #include "plot/PointAppearance.h"
 #include "plot/PointChart3D.h"
-#include "plot/ReservedStyle.h"
 #include "plot/ScatterMatrix.h"
 #include "plot/SelectionPage.h"
 #include "plot/SobolChart.h"

@@ -62,7 +62,7 @@ vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
     auto lines = vtkSmartPointer<vtkPlotLineSet>::New();
     lines->SetStride(state.metaData->getStride());
     lines->SetOnlyShowSelected(onlyShowSelected);
-    lines->SetBreakAtGaps(state.breakLinesAtGaps);
+    lines->SetBreakAtGaps(state.options.breaksLinesAtGaps);
     lines->SetPictureStore(state.pictures);
     return lines;
   }

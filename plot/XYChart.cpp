@@ -6,10 +6,9 @@
 #include "plot/Margins.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
+#include "plot/PlotTexts.h"
 #include "plot/PointAppearance.h"
 #include "plot/TableColumns.h"
-#include "plot/TickLabels.h"
-#include "plot/Titles.h"
 #include "plot/vtkShiftScaleCallback.h"
 #include "vtk/vtkPlotLineSet.h"
 
@@ -28,7 +27,7 @@ vtkPlot* addRuns(PlotState& state)
   vtkNew<vtkPlotLineSet> runs;
   runs->SetStride(state.metaData->getStride());
   runs->SetOnlyShowSelected(0);
-  runs->SetBreakAtGaps(state.breakLinesAtGaps);
+  runs->SetBreakAtGaps(state.options.breaksLinesAtGaps);
   runs->SetPictureStore(state.pictures);
   state.chartXY->AddPlot(runs);
   return runs;
@@ -93,6 +92,15 @@ void drawXYChart(PlotState& state, vtkContextScene* scene)
   dressLeftAxis(state, window);
   useColors(state, nullptr);
   state.chartXY->SetTitle(state.metaData->title);
+}
+
+void drawReservedStyle(PlotState& state, vtkContextScene* scene)
+{
+  ensureStandaloneChart(state);
+  showChart(state, state.chartXY, scene);
+  if (state.chartXY != state.sobolChart.Get())
+    state.chartXY->ClearPlots();
+  setPlotTitle(state, "Not yet implemented");
 }
 
 } // namespace Talmesh::plot

@@ -1,6 +1,6 @@
 #include "widgets/PixelSampling.h"
 
-#include "plot/SmoothScene.h"
+#include "vtk/SmoothScene.h"
 
 #include <vtkCommand.h>
 #include <vtkContextScene.h>
@@ -26,7 +26,7 @@ void PixelSampling::adapt()
   // Somebody has set the window anew.
   if (samples > 0)
     wanted = 0;
-  const bool smooth = plot::isSmoothOnScreen(*scene);
+  const bool smooth = isSmoothOnScreen(*scene);
   if (smooth && samples > 0)
   {
     wanted = samples;

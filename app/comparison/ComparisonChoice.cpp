@@ -2,43 +2,9 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/TableColumns.h"
-
-#include <vtkTable.h>
-
-#include <QString>
-#include <QVariant>
 
 namespace Talmesh::app
 {
-
-namespace
-{
-
-/// Under this name a container remembers which quartiles it has and what of.
-constexpr const char* quartileSource = "talmeshQuartileSource";
-
-QString sourceOfQuartiles(const PlotContainer& container)
-{
-  const PlotMetaData& settings = *container.getMetaData();
-  const auto stateOf = [&container](int column)
-  {
-    vtkAbstractArray* array = plot::columnAt(container.getTable(), column);
-    return QStringLiteral("%1:%2 ").arg(column).arg(array ? array->GetMTime() : 0);
-  };
-  return stateOf(plot::firstOf(settings.xColumns)) + stateOf(plot::firstOf(settings.yColumns)) +
-         QString::number(settings.getStride());
-}
-
-/// Tells one computation of the quartiles from another: others compute them too, and for other
-/// columns. The table itself counts as changed with every drawing, its columns do not.
-QString quartilesNow(const PlotContainer& container)
-{
-  vtkAbstractArray* range = plot::columnNamed(container.getQuartileTable(), "Range");
-  return range ? QStringLiteral(" %1").arg(range->GetMTime()) : QString();
-}
-
-} // namespace
 
 ComparisonChoice comparisonChoiceOf(const PlotContainer& container)
 {
@@ -69,14 +35,8 @@ void writeComparisonChoice(PlotContainer& container, const ComparisonChoice& cho
 
 void refreshQuartiles(PlotContainer& container)
 {
-  if (!container.getMetaData()->getShowQuantiles())
-    return;
-  const QString source = sourceOfQuartiles(container);
-  if (container.getQuartileTable() &&
-      container.property(quartileSource).toString() == source + quartilesNow(container))
-    return;
-  container.generateQuartiles();
-  container.setProperty(quartileSource, source + quartilesNow(container));
+  if (container.getMetaData()->getShowQuantiles())
+    container.refreshQuartiles();
 }
 
 } // namespace Talmesh::app

@@ -48,7 +48,6 @@ std::string Document::open(const OpenedStudy& opened, const PlotWishes& wishes)
   leave(opened.study.chart != nullptr);
   // A container remembers much of what it showed before, so each study gets its own.
   auto* container = new PlotContainer(this);
-  container->setDiagnosticsShown(false);
   show(container);
   shown = {opened.study, container, {}, {}};
   std::string failure;

@@ -33,7 +33,7 @@ vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotContainer& conta
     vtkNew<vtkPlotLineSet> runs;
     runs->SetStride(settings.getStride());
     runs->SetOnlyShowSelected(0);
-    runs->SetBreakAtGaps(container.getBreakLinesAtGaps());
+    runs->SetBreakAtGaps(container.getOptions().breaksLinesAtGaps);
     if (auto* first = vtkPlotLineSet::SafeDownCast(chart->GetPlot(0)))
       runs->SetPictureStore(first->GetPictureStore());
     chart->AddPlot(runs);

@@ -203,7 +203,7 @@ void showQuartileBands(PlotContainer& container)
   const DrawnRuns drawn = drawnRuns(container);
   if (!drawn.chart)
     return;
-  container.generateQuartiles();
+  container.refreshQuartiles();
   const vtkIdType before = drawn.chart->GetNumberOfPlots();
   plot::addQuartileBands(stateOf(container));
   for (vtkIdType i = before; i < drawn.chart->GetNumberOfPlots(); ++i)

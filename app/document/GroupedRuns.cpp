@@ -3,7 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunLayout.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkIntArray.h>
@@ -118,7 +118,7 @@ void GroupedRuns::select(int group)
   for (std::size_t run = 0; run < named.groupOfRun.size(); ++run)
     if (named.groupOfRun[run] == group && static_cast<vtkIdType>(run) < layout.runs())
       rows.push_back(layout.firstRow(static_cast<vtkIdType>(run)));
-  container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+  container->getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
 }
 
 /// The columns over x that can be scaled.

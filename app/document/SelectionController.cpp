@@ -7,8 +7,8 @@
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
 #include "plot/RunSplit.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
 #include <vtkIntArray.h>
@@ -207,13 +207,13 @@ void SelectionController::selectAll()
 {
   if (container)
     container->getAnnotationLink()->SetCurrentSelection(
-        plot::makeRowSelection(rowsOfEverything(*container)));
+        makeRowSelection(rowsOfEverything(*container)));
 }
 
 void SelectionController::clear()
 {
   if (container)
-    container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection({}));
+    container->getAnnotationLink()->SetCurrentSelection(makeRowSelection({}));
 }
 
 std::string SelectionController::save(const QString& path) const
@@ -243,7 +243,7 @@ std::string SelectionController::load(const QString& path)
   }
   // A file may well say that nothing is selected.
   if (!rows.empty() || wanted.empty())
-    container->getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+    container->getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
   return missing.empty() ? std::string() : noteOnMissing(path, missing, wanted.size());
 }
 

@@ -2,7 +2,7 @@
 
 #include "plot/PlotContainer.h"
 #include "plot/SelectionFlags.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkCommand.h>
@@ -41,7 +41,7 @@ vtkSmartPointer<vtkSelection> selectionOf(const std::vector<bool>& rows)
     if (rows[row])
       list.push_back(static_cast<vtkIdType>(row));
   }
-  return plot::makeRowSelection(list);
+  return makeRowSelection(list);
 }
 
 } // namespace
@@ -60,7 +60,7 @@ struct FollowedContainer
     if (!container || !link)
       return std::make_shared<const std::vector<bool>>();
     return std::make_shared<const std::vector<bool>>(
-        plot::markedRows(link->GetCurrentSelection(), container->getTable()));
+        markedRows(link->GetCurrentSelection(), container->getTable()));
   }
 
   /// Selects `rows` without recording that.

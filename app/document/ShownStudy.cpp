@@ -39,9 +39,13 @@ std::array<int, 4> seriesColour(std::size_t runs)
 void showStudy(const Study& study, PlotContainer& container)
 {
   PlotMetaData& settings = *container.getMetaData();
+  PlotOptions options;
+  options.showsDiagnostics = false;
   // Each selection draws, and would take the pair that the user looks at away.
-  container.setKeepsScatterPair(true);
-  container.setBreakLinesAtGaps(true);
+  options.keepsScatterPair = true;
+  options.breaksLinesAtGaps = true;
+  options.showsSelectionMarks = false;
+  container.setOptions(options);
   settings.sourceName = study.name;
   if (study.chart)
     return;

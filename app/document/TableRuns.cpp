@@ -7,9 +7,9 @@
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
 #include "plot/RunSplit.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
 #include "plot/TypedColumns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkIntArray.h>
@@ -106,7 +106,7 @@ void TableRuns::select(const std::vector<bool>& wanted)
     for (std::size_t point = 0; point < points; ++point)
       rows.push_back(runs[run].firstRow + static_cast<vtkIdType>(point));
   }
-  container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+  container.getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
 }
 
 std::string describe(const FilterFault& fault, const std::string& words)

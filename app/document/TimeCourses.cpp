@@ -87,7 +87,9 @@ void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t ite
   if (time < 0 || run >= runs.numberOfTrajectories)
     return;
   RunCourses courses(runs, time, run);
-  container.setBreakLinesAtGaps(true);
+  PlotOptions options = container.getOptions();
+  options.breaksLinesAtGaps = true;
+  container.setOptions(options);
   container.setLinePlotData(&courses.record);
   std::vector<TypedConcentrationName> shown;
   for (const auto& series : courses.record.series)

@@ -2,9 +2,9 @@
 
 #include "app/import/RunGrouping.h"
 #include "app/import/RunTableBuilder.h"
-#include "app/import/SelectionMarks.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
+#include "plot/SelectionFlags.h"
 
 #include <vtkDoubleArray.h>
 #include <vtkNew.h>
@@ -53,7 +53,7 @@ LeftOutColumns leftOutOf(const TableText& text)
   for (std::size_t i = 0; i < text.columns.size(); ++i)
   {
     const ColumnHeader& header = text.roles.headers[i];
-    const bool marks = !header.typed && isSelectionMark(header.name);
+    const bool marks = !header.typed && plot::isSelectionMark(header.name);
     leftOut.flags.push_back(marks || isTextColumn(text.columns[i]));
     if (marks)
       leftOut.notes.push_back(withValues(

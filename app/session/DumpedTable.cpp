@@ -1,11 +1,11 @@
 #include "app/session/DumpedTable.h"
 
-#include "app/import/SelectionMarks.h"
 #include "app/import/TranslatedText.h"
 #include "external/PlotMetaData.h"
 #include "plot/BinaryDump.h"
 #include "plot/ColumnList.h"
 #include "plot/PlotState.h"
+#include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 
 #include <boost/make_shared.hpp>
@@ -83,7 +83,7 @@ public:
       plot::ColumnList::Name name;
       if (column && column->GetName())
         name = column->GetName();
-      if (!column || (name && isSelectionMark(*name)))
+      if (!column || (name && plot::isSelectionMark(*name)))
         continue;
       left.add(name, column);
     }

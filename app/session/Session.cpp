@@ -6,10 +6,10 @@
 #include "app/session/SessionTable.h"
 #include "app/styles/ViewerStyles.h"
 #include "plot/ContainerAccess.h"
-#include "plot/DumpLayout.h"
+#include "plot/DumpStream.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAbstractArray.h>
 
@@ -57,7 +57,7 @@ vtkSmartPointer<vtkSelection> selectionOf(vtkIntArray* flags)
   for (vtkIdType row = 0; row < flags->GetNumberOfValues(); ++row)
     if (flags->GetValue(row) == 1)
       rows.push_back(row);
-  return plot::makeRowSelection(rows);
+  return makeRowSelection(rows);
 }
 
 int columnCount(const DumpedTable& table)

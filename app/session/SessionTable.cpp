@@ -1,6 +1,5 @@
 #include "app/session/SessionTable.h"
 
-#include "app/import/SelectionMarks.h"
 #include "app/session/DumpedTable.h"
 #include "plot/BinaryDump.h"
 #include "plot/BorrowedColumn.h"
@@ -37,7 +36,7 @@ void addItems(plot::PlotState& dumped, const Study& study, vtkTable* shown)
 
 bool isKept(const std::string& name)
 {
-  return !name.empty() && !isSelectionMark(name);
+  return !name.empty() && !plot::isSelectionMark(name);
 }
 
 void addFurtherColumns(vtkTable* dumped, vtkTable* shown)

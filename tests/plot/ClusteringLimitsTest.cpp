@@ -93,13 +93,15 @@ TEST_F(ClusteringLimits, TakeATimeThatGrowsWithTheLengthOfTheRuns)
 TEST_F(ClusteringLimits, RemarksOnStandardOutputCanBeSwitchedOff)
 {
   setRuns({1, 2, 3, 3, 1, 2}, 3);
-  EXPECT_TRUE(container.getDiagnosticsShown());
-  container.setDiagnosticsShown(false);
+  PlotOptions options = container.getOptions();
+  EXPECT_TRUE(options.showsDiagnostics);
+  options.showsDiagnostics = false;
+  container.setOptions(options);
   EXPECT_EQ(cluster(2), (std::vector<int>{0, 1}));
   EXPECT_EQ(output, "");
   CapturedOutput standardOutput(std::cout);
   const PlotContainer copy(container);
-  EXPECT_FALSE(copy.getDiagnosticsShown());
+  EXPECT_FALSE(copy.getOptions().showsDiagnostics);
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 #include "plot/ContainerAccess.h"
-#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
 #include "support/CapturedOutput.h"
 #include "support/LineTables.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
 #include <vtkIntArray.h>
@@ -190,7 +190,7 @@ TEST_F(ContainerCopy, LetsSettingsItemsAndWindowsFollowTheColumnsBehindOldFlags)
   settings().colorColumn = 2;
   state.coordinateWindows[{2, 3, 0}] = {1, 2, 3, 4, true};
   state.windowScales[{2, 3, 0}] = {true, false};
-  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2}));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({2}));
   const auto copy = copied();
   EXPECT_EQ(copy->getLabels(), (QStringList{"a", "b", "c", "selected points"}));
   EXPECT_EQ(copy->getMetaData()->xColumns, std::vector<int>{1});

@@ -1,5 +1,4 @@
 #include "plot/ContainerAccess.h"
-#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "plot/vtkShiftScaleCallback.h"
 #include "support/LineTables.h"
@@ -7,6 +6,7 @@
 #include "support/PlotStyleCount.h"
 #include "support/RecordingDevice.h"
 #include "support/VtkErrors.h"
+#include "vtk/RowSelections.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkCommand.h>
@@ -90,7 +90,7 @@ public:
   {
     if (link)
     {
-      link->SetCurrentSelection(Talmesh::plot::makeRowSelection({1}));
+      link->SetCurrentSelection(Talmesh::makeRowSelection({1}));
       link->InvokeEvent(vtkCommand::AnnotationChangedEvent);
     }
     if (chart)

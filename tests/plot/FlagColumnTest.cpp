@@ -2,8 +2,8 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
-#include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
@@ -23,7 +23,7 @@
 
 #include "CurrentFlags.h"
 
-using Talmesh::plot::makeRowSelection;
+using Talmesh::makeRowSelection;
 
 namespace
 {
@@ -126,7 +126,7 @@ TEST(FlagColumn, IsPutLastInPlaceOfAnOlderOne)
 
 TEST(RowSelection, OfNoListSelectsNoRow)
 {
-  const auto selection = Talmesh::plot::wrapRowSelection(nullptr);
+  const auto selection = Talmesh::wrapRowSelection(nullptr);
   ASSERT_EQ(selection->GetNumberOfNodes(), 1U);
   auto* list = vtkIdTypeArray::SafeDownCast(selection->GetNode(0)->GetSelectionList());
   ASSERT_NE(list, nullptr);

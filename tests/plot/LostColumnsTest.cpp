@@ -1,11 +1,11 @@
-#include "plot/LostColumns.h"
+#include "vtk/LostColumns.h"
 
 #include "plot/TableColumns.h"
-#include "plot/vtkSelectableChartXY.h"
 #include "support/ParameterStudy.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
 #include "support/VtkErrors.h"
+#include "vtk/vtkSelectableChartXY.h"
 
 #include <vtkChartParallelCoordinates.h>
 #include <vtkDataSetAttributes.h>
@@ -190,7 +190,7 @@ TEST_F(LostPlot, IsLookedForInTimeInProportionToThousands)
     plot->SetInputData(table, name, name);
   }
   const std::clock_t start = std::clock();
-  Talmesh::plot::LostColumns lost;
+  Talmesh::LostColumns lost;
   for (int painting = 0; painting < 3; ++painting)
     lost.hidePlots(many);
   EXPECT_LT(std::clock() - start, 5 * CLOCKS_PER_SEC);

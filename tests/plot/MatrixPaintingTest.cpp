@@ -1,6 +1,6 @@
-#include "plot/vtkSelectableScatterPlotMatrix.h"
 #include "support/PlotFixture.h"
 #include "support/RecordingDevice.h"
+#include "vtk/vtkSelectableScatterPlotMatrix.h"
 
 #include <vtkAbstractContextItem.h>
 #include <vtkContext2D.h>

@@ -1,9 +1,9 @@
 #include "external/PlotMetaData.h"
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "support/Reaction.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
 #include <vtkIdTypeArray.h>
@@ -25,7 +25,7 @@
 
 using SampleRuns::selectedRows;
 using SampleRuns::valuesOf;
-using Talmesh::plot::makeRowSelection;
+using Talmesh::makeRowSelection;
 
 namespace
 {

@@ -42,10 +42,12 @@ TEST_F(RedrawDetails, BreakLinesAtGapsWhereAsked)
   const auto breaks = [this]
   { return vtkPlotLineSet::SafeDownCast(chart()->GetPlot(0))->GetBreakAtGaps(); };
   EXPECT_FALSE(breaks());
-  container.setBreakLinesAtGaps(true);
+  PlotOptions options;
+  options.breaksLinesAtGaps = true;
+  container.setOptions(options);
   container.redraw();
   EXPECT_TRUE(breaks());
-  EXPECT_TRUE(PlotContainer(container).getBreakLinesAtGaps());
+  EXPECT_TRUE(PlotContainer(container).getOptions().breaksLinesAtGaps);
 }
 
 TEST_F(RedrawDetails, ReturnToPointsWhenLinesAreSwitchedOff)

@@ -2,10 +2,10 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "support/CapturedOutput.h"
 #include "support/PlotFixture.h"
 #include "support/SampleTables.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAxis.h>
 #include <vtkContextMapper2D.h>
@@ -203,7 +203,7 @@ TEST_F(Redraw, CutsASelectionThatNamesRowsBeyondTheTable)
   vtkNew<vtkIdTypeArray> rows;
   for (const vtkIdType row : {1, 4, 5, 1000000})
     rows->InsertNextValue(row);
-  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::wrapRowSelection(rows));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::wrapRowSelection(rows));
   scene.render(container);
   EXPECT_EQ(rows->GetNumberOfValues(), 4) << "the client's own list stays";
   auto* kept = vtkIdTypeArray::SafeDownCast(

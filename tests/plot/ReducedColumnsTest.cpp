@@ -1,11 +1,11 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "support/CapturedOutput.h"
 #include "support/PageFixture.h"
 #include "support/ParameterStudy.h"
 #include "support/SampleRuns.h"
 #include "support/SampleTables.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkIntArray.h>
 
@@ -45,7 +45,7 @@ protected:
 
   void select(const std::vector<vtkIdType>& rows)
   {
-    container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+    container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
   }
 
   /// Makes column `column` an older column of flags.

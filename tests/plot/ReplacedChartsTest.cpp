@@ -1,12 +1,12 @@
 #include "plot/ContainerAccess.h"
-#include "plot/HandlerScope.h"
-#include "plot/SelectionNodes.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
 #include "support/Reaction.h"
 #include "support/SampleRuns.h"
 #include "support/SoundPicture.h"
 #include "support/VtkErrors.h"
+#include "vtk/HandlerScope.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
 #include <vtkNew.h>
@@ -54,7 +54,7 @@ TEST_F(ReplacedCharts, SurviveARedrawFromTheirOwnHandler)
     vtkNew<Reaction> intruder;
     intruder->react = [&]
     {
-      const Talmesh::plot::HandlerScope running;
+      const Talmesh::HandlerScope running;
       drawStyle(style);
     };
     vtkChartXY* bare = chart();
@@ -118,7 +118,7 @@ TEST_P(ReplacedChartsOfRuns, SurviveARedrawFromTheirOwnHandler)
       int calls = 0;
       intruder->react = [&]
       {
-        const Talmesh::plot::HandlerScope running;
+        const Talmesh::HandlerScope running;
         ++calls;
         drawStyle(style);
       };
@@ -146,9 +146,9 @@ TEST_P(ReplacedChartsOfRuns, SurviveASelectionFromTheirOwnHandler)
     vtkNew<Reaction> intruder;
     intruder->react = [&]
     {
-      const Talmesh::plot::HandlerScope running;
+      const Talmesh::HandlerScope running;
       const auto row = static_cast<vtkIdType>(i);
-      container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({row}));
+      container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({row}));
     };
     const unsigned long tag = bare->AddObserver(vtkCommand::SelectionChangedEvent, intruder);
     bare->InvokeEvent(vtkCommand::SelectionChangedEvent);

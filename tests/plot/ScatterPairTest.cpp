@@ -49,7 +49,9 @@ TEST_F(ScatterPair, IsXAndYAgainAfterEveryDrawing)
 
 TEST_F(ScatterPair, StaysTheUsersWhereThatIsWanted)
 {
-  container.setKeepsScatterPair(true);
+  PlotOptions options;
+  options.keepsScatterPair = true;
+  container.setOptions(options);
   scene.render(container);
   EXPECT_EQ(pair(), timeAndMolecule);
   ASSERT_TRUE(pairs()->SetActivePlot(vtkVector2i(2, 0)));

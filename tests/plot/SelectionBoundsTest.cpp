@@ -1,11 +1,11 @@
 #include "plot/ContainerAccess.h"
 #include "plot/DerivedTables.h"
-#include "plot/SelectionNodes.h"
 #include "support/ParameterStudy.h"
 #include "support/PlotFixture.h"
 #include "support/Reaction.h"
 #include "support/SampleRuns.h"
 #include "support/VtkErrors.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
 #include <vtkDataSetAttributes.h>
@@ -41,7 +41,7 @@ vtkSmartPointer<vtkTable> tableWithIds(vtkIdType rows)
 
 vtkSmartPointer<vtkSelection> selectionOf(const std::vector<vtkIdType>& ids, int content)
 {
-  auto selection = Talmesh::plot::makeRowSelection(ids);
+  auto selection = Talmesh::makeRowSelection(ids);
   selection->GetNode(0)->SetContentType(content);
   selection->GetNode(0)->GetSelectionList()->SetName("id");
   return selection;
@@ -112,7 +112,7 @@ TEST_F(SelectionBounds, AreNotThoseOfAnEmptyTable)
   {
     SCOPED_TRACE(style);
     container.setPlotData(plainTable());
-    select(Talmesh::plot::makeRowSelection({1, 3}));
+    select(Talmesh::makeRowSelection({1, 3}));
     container.setPlotData(vtkSmartPointer<vtkTable>::New());
     drawStyle(style);
     scene.render(container);
@@ -127,7 +127,7 @@ TEST_F(SelectionBounds, AreNotThoseOfAnEmptyTable)
 TEST_F(SelectionBounds, LeaveItToTheContainerToReactToWhatIsSelectedInAnswer)
 {
   container.setLinePlotTable(parameterStudy(6, 4, 2), true);
-  select(Talmesh::plot::makeRowSelection({2, 23}));
+  select(Talmesh::makeRowSelection({2, 23}));
   bool answered = false;
   vtkNew<Reaction> reaction;
   reaction->react = [&]
@@ -135,7 +135,7 @@ TEST_F(SelectionBounds, LeaveItToTheContainerToReactToWhatIsSelectedInAnswer)
     if (!answered)
     {
       answered = true;
-      select(Talmesh::plot::makeRowSelection({8}));
+      select(Talmesh::makeRowSelection({8}));
     }
   };
   container.getAnnotationLink()->AddObserver(vtkCommand::AnnotationChangedEvent, reaction);
@@ -159,7 +159,7 @@ protected:
   void drawShorterTable()
   {
     container.setPlotData(tableWithIds(10));
-    select(Talmesh::plot::makeRowSelection({2, 9}));
+    select(Talmesh::makeRowSelection({2, 9}));
     container.redraw();
     reaction->react = [this]
     {

@@ -2,8 +2,8 @@
 
 #include "plot/ColumnReduction.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
@@ -24,7 +24,7 @@
 
 #include "CurrentFlags.h"
 
-using Talmesh::plot::makeRowSelection;
+using Talmesh::makeRowSelection;
 
 namespace
 {

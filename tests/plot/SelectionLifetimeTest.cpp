@@ -1,10 +1,10 @@
 #include "external/PlotMetaData.h"
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "support/CapturedOutput.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkCommand.h>
@@ -18,7 +18,7 @@
 #include <set>
 #include <vector>
 
-using Talmesh::plot::makeRowSelection;
+using Talmesh::makeRowSelection;
 
 namespace
 {

@@ -43,7 +43,7 @@ protected:
     for (int run = first; run < manyRuns; run += 10)
       for (int point = 0; point < manyPoints; ++point)
         rows.push_back(run * manyPoints + point);
-    container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+    container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
   }
 
   vtkTable* rowsOf(std::size_t dataSet)
@@ -147,7 +147,7 @@ TEST_F(SelectionMemory, OfPartsAndMarksThatAreHeldIsNotUsedForThoseOfTheNextSele
   {
     std::vector<vtkIdType> rows(runs / 2 * manyPoints);
     std::iota(rows.begin(), rows.end(), first * manyPoints);
-    container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection(rows));
+    container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
   };
   selectRunsFrom(0);
   const vtkSmartPointer<vtkTable> part = rowsOf(2);

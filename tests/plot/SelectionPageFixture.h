@@ -2,10 +2,10 @@
 #define SelectionPageFixture_h
 
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "support/PageFixture.h"
 #include "support/ParameterStudy.h"
 #include "support/PlotFixture.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAxis.h>
 
@@ -34,7 +34,7 @@ protected:
   {
     std::vector<vtkIdType> rows(static_cast<std::size_t>(count * points));
     std::iota(rows.begin(), rows.end(), 0);
-    container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+    container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
   }
 
   static std::array<int, 3> colorOf(vtkPlot* plot)

@@ -22,7 +22,7 @@ protected:
     auto& callback = *stateOf(container).selectionUpdateCallback;
     PlotContainer* const listener = callback.Container;
     callback.Container = nullptr;
-    container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+    container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
     callback.Container = listener;
   }
 
@@ -186,7 +186,7 @@ TEST_F(SelectionPageNesting, FollowsASelectionThatACompletionMakes)
                             if (std::exchange(made, true))
                               return;
                             container.getAnnotationLink()->SetCurrentSelection(
-                                Talmesh::plot::makeRowSelection({0}));
+                                Talmesh::makeRowSelection({0}));
                           });
   container.redraw();
   // Curves of all, of the selected and of the other runs.

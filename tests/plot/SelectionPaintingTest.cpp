@@ -1,8 +1,8 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "support/RecordingDevice.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkContext2D.h>
 #include <vtkSelection.h>
@@ -53,7 +53,7 @@ protected:
 
   void select(const std::vector<vtkIdType>& rows)
   {
-    plot.container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+    plot.container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
   }
 
   SampleRuns::Plot plot{SampleRuns::runs(3, 3)};

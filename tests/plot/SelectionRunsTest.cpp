@@ -2,9 +2,9 @@
 #include "external/PlotMetaData.h"
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
 #include "support/SilentSettings.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkFloatArray.h>
@@ -20,7 +20,7 @@
 #include <set>
 #include <vector>
 
-using Talmesh::plot::makeRowSelection;
+using Talmesh::makeRowSelection;
 
 namespace
 {

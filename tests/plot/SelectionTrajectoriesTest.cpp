@@ -93,7 +93,9 @@ TEST_F(SelectionTrajectories, DrawsRunsAsALineSetOrAsPoints)
 TEST_F(SelectionTrajectories, BreaksLinesAtGapsWhereAsked)
 {
   draw(3);
-  container.setBreakLinesAtGaps(true);
+  PlotOptions options;
+  options.breaksLinesAtGaps = true;
+  container.setOptions(options);
   settings().setPlotLine(true);
   auto* lines = vtkPlotLineSet::SafeDownCast(container.getChartXY()->GetPlot(0));
   ASSERT_NE(lines, nullptr);

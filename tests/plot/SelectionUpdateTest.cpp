@@ -2,12 +2,12 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/RunSplit.h"
-#include "plot/SelectionNodes.h"
 #include "plot/vtkSelectionUpdateCallback.h"
 #include "support/CapturedOutput.h"
 #include "support/Reaction.h"
 #include "support/SampleRuns.h"
 #include "support/SilentSettings.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotation.h>
 #include <vtkAnnotationLayers.h>
@@ -27,7 +27,7 @@
 #include <vector>
 
 using SampleRuns::valuesOf;
-using Talmesh::plot::makeRowSelection;
+using Talmesh::makeRowSelection;
 
 namespace
 {

@@ -1,6 +1,6 @@
-#include "plot/HandlerScope.h"
 #include "support/PlotFixture.h"
 #include "support/Reaction.h"
+#include "vtk/HandlerScope.h"
 
 #include <vtkCommand.h>
 #include <vtkContextMouseEvent.h>
@@ -69,7 +69,7 @@ TEST_F(SetAsideCharts, AreFreedByTheNextSensitivities)
 
 TEST_F(SetAsideCharts, LiveOnWhileAHandlerRuns)
 {
-  const Talmesh::plot::HandlerScope running;
+  const Talmesh::HandlerScope running;
   drawOftenIn(xyzPlot);
   EXPECT_EQ(alive(), 6);
 }
@@ -77,7 +77,7 @@ TEST_F(SetAsideCharts, LiveOnWhileAHandlerRuns)
 TEST_F(SetAsideCharts, OutliveAnEventLoopWithinAHandler)
 {
   {
-    const Talmesh::plot::HandlerScope running;
+    const Talmesh::HandlerScope running;
     drawOftenIn(xyzPlot);
     QCoreApplication::processEvents();
     EXPECT_EQ(alive(), 6);
@@ -184,7 +184,7 @@ TEST(ChartsOfDeadContainers, LiveOnUntilTheHandlerEndsAndAnotherDraws)
   other.setScene(scene.scene());
   vtkWeakPointer<vtkChartXY> chart;
   {
-    const Talmesh::plot::HandlerScope running;
+    const Talmesh::HandlerScope running;
     PlotContainer container(nullptr);
     chart = container.getChartXY();
   }

@@ -1,6 +1,6 @@
-#include "plot/SelectionNodes.h"
 #include "support/PlotFixture.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkChartParallelCoordinates.h>
 #include <vtkInformation.h>
@@ -18,7 +18,7 @@
 namespace
 {
 
-using Talmesh::plot::makeRowSelection;
+using Talmesh::makeRowSelection;
 using Ids = std::vector<double>;
 
 /// What the plots of a chart show as selected while their container has other data already.

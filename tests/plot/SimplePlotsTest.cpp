@@ -1,8 +1,8 @@
-#include "plot/SelectionNodes.h"
 #include "support/CapturedOutput.h"
 #include "support/PlotFixture.h"
 #include "support/PlotStyleCount.h"
 #include "support/Reaction.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
 #include <vtkFloatArray.h>
@@ -158,7 +158,7 @@ TEST_F(SimplePlots, UnblockTheSettingsAlsoWhereADrawingIsLeftByAnException)
 {
   // Cut by the drawing, which whoever watches the selection hears.
   const vtkSmartPointer<vtkAnnotationLink> link = container.getAnnotationLink();
-  link->SetCurrentSelection(Talmesh::plot::makeRowSelection({3}));
+  link->SetCurrentSelection(Talmesh::makeRowSelection({3}));
   vtkNew<Reaction> throwing;
   throwing->react = [] { throw 7; };
   link->AddObserver(vtkCommand::AnnotationChangedEvent, throwing);

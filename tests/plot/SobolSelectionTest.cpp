@@ -1,6 +1,6 @@
 #include "external/Distribution.h"
 #include "plot/ContainerAccess.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkContextMouseEvent.h>
 
@@ -21,7 +21,7 @@ protected:
   {
     SampleRuns::load(container, SampleRuns::runs(30, 4));
     container.redraw();
-    container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({1, 90}));
+    container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({1, 90}));
     container.getMetaData()->blockSignals(true);
     container.setPlotStyle(reservedStyle1);
     container.setSobolPostprocessResult(&result, true, false, 0, 0);
@@ -73,7 +73,7 @@ TEST_F(SobolSelection, OfAProgramIsKeptWithoutAReaction)
   const vtkSmartPointer<vtkChartXY> before = chart();
   const std::string title = before->GetTitle();
   const unsigned long drawings = stateOf(container).drawings;
-  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({2, 70}));
   container.annotationUpdate();
   EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({2, 70}));
   EXPECT_EQ(stateOf(container).drawings, drawings);
@@ -87,7 +87,7 @@ TEST_F(SobolSelection, OfAProgramLeavesADistributionAlone)
   container.setDistribution(&uniform);
   const vtkSmartPointer<vtkChartXY> before = chart();
   const unsigned long drawings = stateOf(container).drawings;
-  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({2, 70}));
   EXPECT_EQ(SampleRuns::selectedRows(container), std::set<vtkIdType>({2, 70}));
   EXPECT_EQ(stateOf(container).drawings, drawings);
   EXPECT_FALSE(before->GetInteractive());
@@ -98,7 +98,7 @@ TEST_F(SobolSelection, ComparesRunsAgainOnceTheyAreTheTable)
   SampleRuns::load(container, SampleRuns::runs(30, 4));
   container.getMetaData()->setPlotStyle(selectionCdfPlot);
   container.setScene(scene.scene());
-  container.getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({2, 70}));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({2, 70}));
   EXPECT_EQ(container.getDerivedTables().size(), 8U);
 }
 

@@ -1,8 +1,8 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkIdTypeArray.h>
 #include <vtkPlotPoints.h>
@@ -102,7 +102,7 @@ TEST_P(SelectionClick, LooksForPointsAsFarAsTheTooltipDoes)
       pixelOf({1.0, 11.0}, chart->GetAxis(vtkAxis::BOTTOM), chart->GetAxis(vtkAxis::LEFT));
   clickPixel(at + QPoint(4, -3));
   EXPECT_EQ(runs(), Runs{1});
-  container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection({}));
+  container().getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({}));
   clickPixel(at + QPoint(8, 0));
   EXPECT_EQ(runs(), Runs());
 }

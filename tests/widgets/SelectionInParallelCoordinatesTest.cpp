@@ -1,6 +1,6 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkIdTypeArray.h>
 #include <vtkPlot.h>
@@ -60,7 +60,7 @@ protected:
 
   void select(const std::vector<vtkIdType>& rows)
   {
-    container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+    container().getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
     widget.updatePlot(true);
   }
 
@@ -131,8 +131,8 @@ TEST_F(SelectionInParallelCoordinates, HighlightsAnOlderSelection)
 
 TEST_F(SelectionInParallelCoordinates, HighlightsEveryNodeAndSkipsRowsThatAreNotThere)
 {
-  const auto two = Talmesh::plot::makeRowSelection({7});
-  two->AddNode(Talmesh::plot::makeRowSelection({2, 500})->GetNode(0));
+  const auto two = Talmesh::makeRowSelection({7});
+  two->AddNode(Talmesh::makeRowSelection({2, 500})->GetNode(0));
   container().getAnnotationLink()->SetCurrentSelection(two);
   widget.updatePlot(true);
   EXPECT_EQ(highlighted(), Values({2, 7}));
@@ -156,7 +156,7 @@ TEST_F(SelectionInParallelCoordinates, LeavesTheListsOfOthersAlone)
   vtkNew<vtkIdTypeArray> rows;
   rows->InsertNextValue(0);
   container().getMetaData()->parameterColumns.clear();
-  container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::wrapRowSelection(rows));
+  container().getAnnotationLink()->SetCurrentSelection(Talmesh::wrapRowSelection(rows));
   widget.updatePlot(true);
   brushRun(1);
   EXPECT_EQ(SampleRuns::valuesOf(rows), Values({0}));

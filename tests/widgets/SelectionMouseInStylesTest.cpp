@@ -100,7 +100,9 @@ TEST_F(SelectionMouseInStyles, PansTheLargeChartOfTheMatrixWithItsAxes)
 
 TEST_F(SelectionMouseInStyles, KeepsThePairOfTheMatrixThroughASelection)
 {
-  container().setKeepsScatterPair(true);
+  PlotOptions options;
+  options.keepsScatterPair = true;
+  container().setOptions(options);
   showMatrix();
   const vtkVector2i chosen(0, 0);
   ASSERT_NE(matrix()->GetActivePlot(), chosen);

@@ -1,7 +1,7 @@
 #include "SelectionMouse.h"
 
 #include "plot/PlotFeed.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkIdTypeArray.h>
@@ -113,7 +113,7 @@ TEST_P(SelectionMouseOverRuns, LeavesTheListsOfOthersAlone)
 {
   vtkNew<vtkIdTypeArray> rows;
   rows->InsertNextValue(0);
-  container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::wrapRowSelection(rows));
+  container().getAnnotationLink()->SetCurrentSelection(Talmesh::wrapRowSelection(rows));
   widget.updatePlot(true);
   dragAround(1, 1);
   EXPECT_EQ(valuesOf(rows), Values({0}));
@@ -121,8 +121,8 @@ TEST_P(SelectionMouseOverRuns, LeavesTheListsOfOthersAlone)
 
 TEST_P(SelectionMouseOverRuns, AddsToRowsInAnyOrderAndForm)
 {
-  const auto two = Talmesh::plot::makeRowSelection({7, 1, 1});
-  two->AddNode(Talmesh::plot::makeRowSelection({4})->GetNode(0));
+  const auto two = Talmesh::makeRowSelection({7, 1, 1});
+  two->AddNode(Talmesh::makeRowSelection({4})->GetNode(0));
   container().getAnnotationLink()->SetCurrentSelection(two);
   widget.updatePlot(true);
   dragAround(0, 0, Qt::ControlModifier);

@@ -7,7 +7,7 @@
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkAnnotationLink.h>
@@ -65,7 +65,7 @@ protected:
 
   void selectRows(const std::vector<vtkIdType>& rows)
   {
-    container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+    container().getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
   }
 
   std::unique_ptr<VtkPlotWidget> widget;

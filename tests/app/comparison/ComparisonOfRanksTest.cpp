@@ -4,8 +4,8 @@
 #include "app/export/PictureFile.h"
 #include "plot/DerivedTables.h"
 #include "plot/PlotContainer.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
+#include "vtk/RowSelections.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkAnnotationLink.h>
@@ -26,7 +26,7 @@ TEST(ComparisonOfRanks, CountsNoValuesThatTheRankingHasCounted)
   PlotContainer& container = *widget->plotContainer();
   showStudy(sampleStudy(sampleRuns(12, 3)), container);
   applyChoice(container, choiceOf(container));
-  container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection({0, 3, 6, 9, 12}));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({0, 3, 6, 9, 12}));
   const Comparison before = comparisonOf(container);
   ASSERT_EQ(before.state, Comparison::State::compared);
   ASSERT_EQ(before.parameters.front().obstacle, TestObstacle::none);

@@ -2,9 +2,9 @@
 
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAbstractArray.h>
 #include <vtkAnnotationLink.h>
@@ -21,8 +21,8 @@
 #include <string>
 #include <vector>
 
+using Talmesh::makeRowSelection;
 using Talmesh::app::SelectionController;
-using Talmesh::plot::makeRowSelection;
 
 namespace
 {

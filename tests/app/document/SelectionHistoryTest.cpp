@@ -1,7 +1,7 @@
 #include "app/document/SelectionHistory.h"
 
-#include "plot/SelectionNodes.h"
 #include "support/SampleRuns.h"
+#include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkIdTypeArray.h>
@@ -20,8 +20,8 @@
 #include <set>
 #include <vector>
 
+using Talmesh::makeRowSelection;
 using Talmesh::app::SelectionHistory;
-using Talmesh::plot::makeRowSelection;
 
 namespace
 {

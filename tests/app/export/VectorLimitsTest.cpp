@@ -5,8 +5,8 @@
 #include "app/export/PictureFile.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/SelectionNodes.h"
 #include "support/PdfPages.h"
+#include "vtk/RowSelections.h"
 #include "widgets/ScenePainter.h"
 #include "widgets/VtkPlotWidget.h"
 
@@ -53,7 +53,7 @@ protected:
   {
     std::vector<vtkIdType> rows(static_cast<std::size_t>(runs * points));
     std::iota(rows.begin(), rows.end(), 0);
-    container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+    container().getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
   }
 
   /// How many pictures the page has, not counting their opacities.

@@ -4,8 +4,8 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
+#include "vtk/RowSelections.h"
 
 #include <algorithm>
 #include <vector>
@@ -174,7 +174,7 @@ TEST_F(Session, RestoresTheSelectionWithoutMarkingTheTable)
   const Study study = sampleStudy();
   PlotContainer container(nullptr);
   showStudy(study, container);
-  container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection({4, 5, 11}));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({4, 5, 11}));
   save(study, container);
   PlotContainer& again = reopen();
   const auto flags = vtkSmartPointer<vtkIntArray>::Take(again.getCurrentSelection());

@@ -1,7 +1,7 @@
 #include "app/document/ShownStudy.h"
 #include "external/PlotMetaData.h"
-#include "plot/SelectionNodes.h"
 #include "plot/TableColumns.h"
+#include "vtk/RowSelections.h"
 
 #include <QFile>
 
@@ -88,7 +88,7 @@ TEST_F(TableInSession, FindsColumnsBehindTheMarksOfASelection)
   PlotContainer container(nullptr);
   showStudy(study, container);
   const QStringList before = container.getLabels();
-  container.getAnnotationLink()->SetCurrentSelection(plot::makeRowSelection({4, 5, 6, 7}));
+  container.getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection({4, 5, 6, 7}));
   ASSERT_GT(container.getLabels().size(), before.size());
   container.addColumn(std::vector<double>(12, 3.0), "later");
   container.getMetaData()->yColumns = {0, static_cast<int>(container.getLabels().size()) - 1};

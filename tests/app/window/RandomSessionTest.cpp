@@ -7,7 +7,7 @@
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/SelectionNodes.h"
+#include "vtk/RowSelections.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkAnnotationLink.h>
@@ -150,7 +150,7 @@ protected:
     case 1:
       for (int count = below(40); count > 0; --count)
         rows.push_back(below(runCount * pointsPerRun + 5));
-      container().getAnnotationLink()->SetCurrentSelection(Talmesh::plot::makeRowSelection(rows));
+      container().getAnnotationLink()->SetCurrentSelection(Talmesh::makeRowSelection(rows));
       return "select rows";
     case 2:
       window.selectionController()->selectAll();
