@@ -3,13 +3,15 @@
 
 #include <cstddef>
 
+class vtkTable;
+
 namespace Talmesh::plot
 {
 
 struct PlotState;
 
 /// Fills `ksResults` with the Kolmogorov-Smirnov test of every parameter of two rank tables, in
-/// their order.
+/// their order, and empties `testedSamples`.
 ///
 /// `first` and `second` are slots of the derived tables. Every odd column, 1, 3, ..., holds the
 /// ascending values of one parameter; the first table says how many there are. A column that is
@@ -23,6 +25,17 @@ void testKolmogorovSmirnov(PlotState& state, std::size_t first, std::size_t seco
 /// ranked: it has no columns in that table and gets the result of empty samples, a distance of 0
 /// with p = 1.
 void alignResults(PlotState& state, std::size_t first);
+
+/// A group of runs that was compared with another.
+struct ComparedGroup
+{
+  vtkTable* rows;  ///< of its runs
+  vtkTable* ranks; ///< of its parameters
+  std::size_t runs;
+};
+
+/// Fills `testedSamples` with what was compared, in the order of the settings' parameter list.
+void noteSamples(PlotState& state, const ComparedGroup& selected, const ComparedGroup& others);
 
 } // namespace Talmesh::plot
 

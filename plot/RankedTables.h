@@ -1,8 +1,6 @@
 #ifndef RankedTables_h
 #define RankedTables_h
 
-#include "export/ViewerExport.h"
-
 #include <vtkSmartPointer.h>
 
 #include <cstddef>
@@ -39,8 +37,7 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
 
 /// How many values of the parameter with this label were ranked into `ranks`, before its columns
 /// were filled up to those of the longest parameter; nothing for one that was skipped.
-TALMESHPLOT_VIEWER_EXPORT std::optional<std::size_t> rankedValueCount(vtkTable* ranks,
-                                                                      const std::string& label);
+std::optional<std::size_t> rankedValueCount(vtkTable* ranks, const std::string& label);
 
 /// Whether slots 0 and 1 hold a rank and a density table, rather than nothing or additional data
 /// that came before any ranking. Tables without columns count: no parameter could be ranked.

@@ -12,6 +12,8 @@
 #include <vtkIdTypeArray.h>
 #include <vtkNew.h>
 
+#include <algorithm>
+#include <initializer_list>
 #include <new>
 #include <string>
 #include <vector>
@@ -111,6 +113,21 @@ private:
   Names taken;
 };
 
+/// The number of runs with a row that one of the columns marks. A selection covers some rows of
+/// every run, so that the numbers of rows do not tell it.
+std::size_t markedRuns(const PlotState& state, std::initializer_list<const char*> columns)
+{
+  const vtkIdType stride = std::max(state.metaData->getStride(), 1);
+  const vtkIdType rows = state.table->GetNumberOfRows();
+  std::vector<bool> marked(static_cast<std::size_t>(rows / stride + 1), false);
+  for (const char* name : columns)
+    if (auto* marks = vtkIdTypeArray::SafeDownCast(columnNamed(state.table, name)))
+      for (vtkIdType row = 0; row < std::min(rows, marks->GetNumberOfTuples()); ++row)
+        if (marks->GetTypedComponent(row, 0) != 0)
+          marked[static_cast<std::size_t>(row / stride)] = true;
+  return static_cast<std::size_t>(std::count(marked.begin(), marked.end(), true));
+}
+
 } // namespace
 
 int timeColumnOf(const PlotState& state)
@@ -141,6 +158,8 @@ RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
   split.selected = vtkSmartPointer<vtkTable>::New();
   split.selected->ShallowCopy(filter->GetOutput(0));
   split.remaining = filter->GetOutput(1);
+  split.selectedRuns = markedRuns(state, {RemainderSelectionColumn});
+  split.remainingRuns = markedRuns(state, {ComplementSelectionColumn, ReducedSelectionColumn});
   return split;
 }
 

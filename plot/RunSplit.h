@@ -6,6 +6,8 @@
 #include <vtkSmartPointer.h>
 #include <vtkTable.h>
 
+#include <cstddef>
+
 class vtkAnnotationLink;
 
 namespace Talmesh::plot
@@ -20,6 +22,9 @@ struct RunSplit
   vtkSmartPointer<vtkTable> selected;
   /// The rows to compare them with; null if there is no such table.
   vtkSmartPointer<vtkTable> remaining;
+  /// How many runs the two have rows of.
+  std::size_t selectedRuns = 0;
+  std::size_t remainingRuns = 0;
 };
 
 /// Position of the column that holds the time of each row: the first with "Value", "Time" or

@@ -45,6 +45,10 @@ void compareRuns(PlotContainer& container, vtkAnnotationLink* link)
   const std::size_t remaining = addDataSet(container, split.remaining);
   container.ksTestSelection(selected, remaining);
   Talmesh::plot::alignResults(stateOf(container), selected);
+  const auto& tables = container.getDerivedTables();
+  Talmesh::plot::noteSamples(stateOf(container),
+                             {split.selected, tables[selected], split.selectedRuns},
+                             {split.remaining, tables[remaining], split.remainingRuns});
 }
 
 /// VTK's event dispatch, from which the callback is called, must not be left by an exception.
