@@ -40,16 +40,8 @@ void showColumns(PlotState& state)
 {
   state.parallelCoordinates->SetColumnVisibilityAll(false);
   const std::vector<int>& chosen = state.metaData->yColumns;
-  if (chosen.size() >= fewestChosenAxes)
-  {
-    for (const int column : chosen)
-      showColumn(state, column);
-  }
-  else
-  {
-    for (int column = 0; column < state.table->GetNumberOfColumns(); ++column)
-      showColumn(state, column);
-  }
+  for (const int column : chosen.size() >= fewestChosenAxes ? chosen : columnsOfAll(state))
+    showColumn(state, column);
 }
 
 void colorLines(PlotState& state)

@@ -9,7 +9,6 @@
 #include "plot/TableColumns.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace Talmesh::plot
 {
@@ -27,9 +26,7 @@ std::vector<int> columnsToShow(const PlotState& state)
                    state.metaData->parameterColumns.end());
     return columns;
   }
-  std::vector<int> columns(static_cast<std::size_t>(state.table->GetNumberOfColumns()));
-  std::iota(columns.begin(), columns.end(), 0);
-  return columns;
+  return columnsOfAll(state);
 }
 
 void showColumns(vtkScatterPlotMatrix* matrix, vtkStringArray* names)

@@ -114,6 +114,39 @@ TEST_F(RedrawStyles, ShowsAllAxesForTwoYColumnsAndOnlyThreeForThree)
   EXPECT_GT(scene.paintedPixels(), 500);
 }
 
+TEST_F(RedrawStyles, CanLeaveSelectionMarksOutOfAllColumns)
+{
+  for (const char* mark : {"selected points", "vtkRemainderSelection", "vtkOriginalRowIds"})
+  {
+    const auto rows = static_cast<std::size_t>(container.getTable()->GetNumberOfRows());
+    std::vector<double> values(rows, 0.0);
+    values.front() = 1.0;
+    container.addColumn(values, mark);
+  }
+  settings().setLimitColumVisibility(false);
+  settings().yColumns = {1, 2};
+  vtkStringArray* axes = stateOf(container).parallelCoordinates->GetVisibleColumns();
+  const auto pairs = [this]
+  { return stateOf(container).scatterPlotMatrix->GetVisibleColumns()->GetNumberOfValues(); };
+  PlotOptions options;
+  EXPECT_TRUE(options.showsSelectionMarks);
+  for (const bool shown : {true, false, true})
+  {
+    options.showsSelectionMarks = shown;
+    container.setOptions(options);
+    setStyle(9);
+    EXPECT_EQ(axes->GetNumberOfValues(), shown ? 7 : 4);
+    setStyle(3);
+    EXPECT_EQ(pairs(), shown ? 7 : 4);
+  }
+  // What is asked for by its column is shown.
+  options.showsSelectionMarks = false;
+  container.setOptions(options);
+  settings().yColumns = {1, 2, 5};
+  setStyle(9);
+  EXPECT_EQ(axes->GetNumberOfValues(), 3);
+}
+
 TEST_F(RedrawStyles, ColorsParallelCoordinatesByTheColorColumn)
 {
   settings().colorColumn = 2;

@@ -1,3 +1,10 @@
+#include <vtkChartParallelCoordinates.h>
+#include <vtkStringArray.h>
+#include <vtkTable.h>
+
+#include <string>
+#include <vector>
+
 #include "window/SelectionInWindow.h"
 
 namespace
@@ -43,6 +50,26 @@ TEST_F(SelectionInEveryStyle, SurvivesAChangeOfStyleAndColumns)
   window.plotDock()->setChoice(choice);
   emit window.plotDock()->choiceChanged();
   EXPECT_EQ(runs(), Runs{1});
+}
+
+TEST_F(SelectionInEveryStyle, GivesParallelCoordinatesNoFurtherAxes)
+{
+  const auto axes = [this]
+  {
+    auto* chart = vtkChartParallelCoordinates::SafeDownCast(container().getItem());
+    std::vector<std::string> names;
+    for (vtkIdType i = 0; chart && i < chart->GetVisibleColumns()->GetNumberOfValues(); ++i)
+      names.push_back(chart->GetVisibleColumns()->GetValue(i));
+    return names;
+  };
+  choose(parallelCoordinates);
+  const std::vector<std::string> before = axes();
+  EXPECT_GT(before.size(), 3u);
+  choose(xyPlot);
+  dragAround(1, 1);
+  ASSERT_TRUE(container().getTable()->GetColumnByName("vtkRemainderSelection"));
+  choose(parallelCoordinates);
+  EXPECT_EQ(axes(), before);
 }
 
 TEST_F(SelectionInEveryStyle, SplitsTheRunsForTheStatistics)
