@@ -1,17 +1,14 @@
 #include "widgets/VtkPlotWidget.h"
 
 #include "plot/PlotContainer.h"
-#include "widgets/ExportName.h"
-#include "widgets/PdfContextDevice.h"
+#include "widgets/PdfPrinting.h"
 #include "widgets/PixelSampling.h"
 #include "widgets/PlotContextActor.h"
 #include "widgets/PlotInteractorStyle.h"
-#include "widgets/TemporaryContextDevice.h"
 
 #include <vtkCallbackCommand.h>
 #include <vtkContextScene.h>
 #include <vtkContextView.h>
-#include <vtkGL2PSExporter.h>
 #include <vtkGenericOpenGLRenderWindow.h>
 #include <vtkInteractorObserver.h>
 #include <vtkNew.h>
@@ -113,17 +110,7 @@ void VtkPlotWidget::printPlot(QString fileName)
 {
   makeFramebufferReady();
   actor->ThrowFailure();
-  vtkNew<PdfContextDevice> device;
-  const TemporaryContextDevice exchanged(*this, device);
-  vtkNew<vtkGL2PSExporter> exporter;
-  exporter->SetRenderWindow(renderWindow());
-  exporter->SetFileFormatToPDF();
-  exporter->SetSortToOff();
-  exporter->CompressOff();
-  exporter->SimpleLineOffsetOff();
-  exporter->SilentOn();
-  exporter->SetFilePrefix(exportPrefix(fileName).toLocal8Bit().constData());
-  exporter->Write();
+  printPdf(*this, fileName);
   actor->ThrowFailure();
 }
 

@@ -1,4 +1,4 @@
-#include "widgets/ExportName.h"
+#include "widgets/PdfPrinting.h"
 
 #include <gtest/gtest.h>
 
