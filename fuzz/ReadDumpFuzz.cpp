@@ -1,6 +1,6 @@
 #include "external/PlotMetaData.h"
 #include "plot/BinaryDump.h"
-#include "plot/DumpRestore.h"
+#include "plot/BinaryDump.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 

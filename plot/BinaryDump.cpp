@@ -1,9 +1,13 @@
 #include "plot/BinaryDump.h"
 
+#include "external/PlotMetaData.h"
+#include "plot/AxisWindows.h"
 #include "plot/ColumnList.h"
 #include "plot/DumpStream.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
+#include "plot/Quartiles.h"
+#include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 
 #include <algorithm>
@@ -254,6 +258,21 @@ void readDump(PlotState& state, const QByteArray& bytes, double zeroBytes)
   std::cerr << "void PlotContainer::readDump(QByteArray*): the data end too early or name too many "
                "columns, the table stays empty"
             << std::endl;
+}
+
+void restoreDump(PlotState& state, const QByteArray& bytes, double zeroBytes)
+{
+  readDump(state, bytes, zeroBytes);
+  selectFlaggedRows(state);
+  const CoordinateWindow& stored = state.metaData->storedCoordinateWindow;
+  if (stored.valid)
+  {
+    // Its scales are not known.
+    state.windowScales.erase(currentKey(state));
+    state.coordinateWindows[currentKey(state)] = stored;
+  }
+  generateQuartiles(state);
+  state.selectionUpdatePending = false;
 }
 
 } // namespace Talmesh::plot

@@ -37,6 +37,10 @@ inline constexpr qint64 mostColumnBytes = 64 * 1024 * 1024;
 TALMESHPLOT_VIEWER_EXPORT void readDump(PlotState& state, const QByteArray& bytes,
                                         double zeroBytes = mostZeroBytes);
 
+/// As above, and brings along what belongs to a table: the selection of its flag column, the axis
+/// window that is stored with the settings, and the quartiles. Does not draw.
+void restoreDump(PlotState& state, const QByteArray& bytes, double zeroBytes = mostZeroBytes);
+
 } // namespace Talmesh::plot
 
 #endif

@@ -5,7 +5,6 @@
 #include "plot/ColumnReduction.h"
 #include "plot/ColumnScaling.h"
 #include "plot/DelimitedFiles.h"
-#include "plot/DumpRestore.h"
 #include "plot/LinePlotInput.h"
 #include "plot/LineTableInput.h"
 #include "plot/PlotColumns.h"
