@@ -4,6 +4,7 @@
 #include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
+#include "plot/SelectionFlags.h"
 
 #include <vtkAbstractContextItem.h>
 #include <vtkContextScene.h>
@@ -28,10 +29,26 @@ constexpr std::size_t bytesPerPoint = 3 * 2 * sizeof(float);
 /// counted.
 constexpr std::size_t bytesPerPixel = 4 + 4 + 2 * 4 + 1 + 4;
 
+/// Those that a style shows which shows all.
+vtkIdType shownColumns(const PlotContainer& container)
+{
+  vtkTable* table = container.getTable();
+  vtkIdType columns = table->GetNumberOfColumns();
+  if (container.getOptions().showsSelectionMarks)
+    return columns;
+  for (vtkIdType i = 0; i < table->GetNumberOfColumns(); ++i)
+  {
+    const char* name = table->GetColumn(i)->GetName();
+    if (name && plot::isSelectionMark(name))
+      --columns;
+  }
+  return columns;
+}
+
 std::size_t bytesPerRow(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
-  const PageColumns columns = pageColumns(settings, container.getTable()->GetNumberOfColumns());
+  const PageColumns columns = pageColumns(settings, shownColumns(container));
   return styleOf(settings).pointsOfRow(columns) * bytesPerPoint;
 }
 

@@ -18,6 +18,7 @@
 #include <fstream>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "SampleStudies.h"
 
@@ -53,6 +54,19 @@ TEST(PaintingMemory, IsThatOfEveryPairAndEveryAxisOfARow)
   // The parameter k and two more are three pairs.
   EXPECT_EQ(neededBy(scatterPlotMatrix) - pixels, 3 * (plain - pixels));
   EXPECT_EQ(neededBy(parallelCoordinates) - pixels, columns * (plain - pixels));
+}
+
+TEST(PaintingMemory, IsNoneForMarksOfASelection)
+{
+  PlotContainer container(nullptr);
+  showStudy(sampleStudy(sampleRuns(10, 100)), container);
+  container.getMetaData()->blockSignals(true);
+  container.getMetaData()->setPlotStyle(parallelCoordinates);
+  const std::size_t before = memoryToPaint(container, {100, 100});
+  container.addColumn(std::vector<double>(1000, 0.0), "vtkRemainderSelection");
+  EXPECT_EQ(memoryToPaint(container, {100, 100}), before);
+  container.addColumn(std::vector<double>(1000, 0.0), "further");
+  EXPECT_GT(memoryToPaint(container, {100, 100}), before);
 }
 
 TEST(PaintingMemory, IsThatOfEveryChartOfAPage)
