@@ -1,10 +1,12 @@
 #include "plot/ColumnScaling.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/ParallelCoordinatesChart.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
 #include "plot/Quartiles.h"
 #include "plot/Redraw.h"
+#include "plot/ScatterMatrix.h"
 #include "plot/TableColumns.h"
 #include "stats/RunScaling.h"
 
@@ -38,6 +40,8 @@ void announce(PlotState& state, vtkDoubleArray* column)
   column->Modified();
   state.table->Modified();
   tableChanged(state);
+  renewMatrixCopies(state);
+  renewLineCopies(state);
 }
 
 void finish(PlotState& state)

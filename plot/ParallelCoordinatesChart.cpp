@@ -96,4 +96,16 @@ void drawParallelCoordinates(PlotState& state, vtkContextScene* scene)
     state.parallelCoordinates->GetAxis(axis)->GetLabelProperties()->SetOrientation(labelRotation);
 }
 
+void renewLineCopies(PlotState& state)
+{
+  vtkPlot* plot = state.parallelCoordinates && state.currentChart == state.parallelCoordinates
+                      ? state.parallelCoordinates->GetPlot(0)
+                      : nullptr;
+  if (!plot)
+    return;
+  const vtkSmartPointer<vtkTable> finite = withoutInfinities(state.table);
+  if (finite != state.table || plot->GetInput() != state.table)
+    plot->vtkPlot::SetInputData(finite);
+}
+
 } // namespace Talmesh::plot

@@ -15,6 +15,10 @@ struct PlotState;
 /// A copied container has no such chart: one line on standard error says so and nothing is drawn.
 void drawParallelCoordinates(PlotState& state, vtkContextScene* scene);
 
+/// Has the chart, if it is the one now shown, show the present values of columns that it has copies
+/// of or needs some of, see withoutInfinities(). To be called when values have changed in place.
+void renewLineCopies(PlotState& state);
+
 } // namespace Talmesh::plot
 
 #endif

@@ -7,6 +7,7 @@
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
+#include "plot/vtkSelectableScatterPlotMatrix.h"
 
 #include <algorithm>
 
@@ -142,6 +143,16 @@ void feedScatterMatrixFrom(PlotState& state, vtkTable* copy)
   showColumns(matrix, names);
   retireCells(dropped, matrix->GetScene());
   activateAgain(matrix, active);
+}
+
+void renewMatrixCopies(PlotState& state)
+{
+  if (state.currentChart != state.scatterPlotMatrix)
+    return;
+  const auto* matrix = vtkSelectableScatterPlotMatrix::SafeDownCast(state.scatterPlotMatrix);
+  const vtkSmartPointer<vtkTable> finite = withoutInfinities(state.table);
+  if (finite != state.table || (matrix && matrix->GetShownTable() != state.table))
+    feedScatterMatrixFrom(state, finite);
 }
 
 } // namespace Talmesh::plot

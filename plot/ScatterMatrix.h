@@ -21,6 +21,11 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene);
 /// still has all columns of `copy`.
 void feedScatterMatrixFrom(PlotState& state, vtkTable* copy);
 
+/// Has the matrix, if it is the chart now shown, show the present values of columns that it has
+/// copies of or needs some of, see withoutInfinities(). To be called when values have changed in
+/// place.
+void renewMatrixCopies(PlotState& state);
+
 } // namespace Talmesh::plot
 
 #endif

@@ -177,3 +177,8 @@ bool vtkSelectableScatterPlotMatrix::SetActivePlot(const vtkVector2i& position)
   return true;
 }
 #endif
+
+vtkTable* vtkSelectableScatterPlotMatrix::GetShownTable() const
+{
+  return this->Input;
+}

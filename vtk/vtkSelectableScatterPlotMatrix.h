@@ -19,6 +19,8 @@ public:
   vtkChart* GetChart(const vtkVector2i& position) override;
   bool Paint(vtkContext2D* painter) override;
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
+  /// The table given with SetInput().
+  vtkTable* GetShownTable() const;
 
 #if TALMESH_VTK_MATRIX_LEAVES_AXES
   void Update() override;

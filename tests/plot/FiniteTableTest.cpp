@@ -106,4 +106,77 @@ TEST_F(InfiniteValues, AreNotNeededToPaintTheLargestNumbersInParallelCoordinates
   EXPECT_GT(painted, scene.paintedPixels() / 2) << "no fewer lines than of other values";
 }
 
+/// What the charts have of a column after it was scaled without a redraw.
+class ScaledInfiniteValues : public InfiniteValues
+{
+protected:
+  ScaledInfiniteValues()
+  {
+    settings().setStride(4);
+    settings().yColumns = {};
+  }
+
+  void scale(int column, double factor) { container.scaleColumn(&factor, column); }
+
+  vtkTable* matrixTable()
+  {
+    auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+    return matrix->GetChart(vtkVector2i(0, 0))->GetPlot(0)->GetInput();
+  }
+  vtkTable* linesTable()
+  {
+    auto* lines = vtkChartParallelCoordinates::SafeDownCast(container.getItem());
+    return lines->GetPlot(0)->GetInput();
+  }
+
+  static void expectScaled(vtkTable* table)
+  {
+    const auto found = SampleRuns::valuesOf(table->GetColumnByName("b"));
+    ASSERT_EQ(found.size(), 4U);
+    EXPECT_EQ(found[0], 10);
+    EXPECT_TRUE(std::isnan(found[1]));
+    EXPECT_EQ(found[3], 70);
+  }
+};
+
+TEST_F(ScaledInfiniteValues, AreThoseOfTheMatrixAtOnce)
+{
+  drawStyle(scatterPlotMatrix);
+  scene.render(container);
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(container.getItem());
+  matrix->SetActivePlot(vtkVector2i(0, 1));
+  scale(1, 10.0);
+  expectScaled(matrixTable());
+  EXPECT_EQ(matrix->GetActivePlot(), vtkVector2i(0, 1));
+  expectSoundPicture(scene, container);
+}
+
+TEST_F(ScaledInfiniteValues, AreThoseOfParallelCoordinatesAtOnce)
+{
+  drawStyle(parallelCoordinates);
+  scene.render(container);
+  const int before = scene.paintedPixels();
+  scale(1, 10.0);
+  expectScaled(linesTable());
+  expectSoundPicture(scene, container);
+  container.redraw();
+  expectSoundPicture(scene, container);
+  EXPECT_GT(scene.paintedPixels(), before / 2);
+}
+
+TEST_F(ScaledInfiniteValues, AreKeptFromTheChartsWhenTheyArise)
+{
+  container.setPlotData(tableOf({{"a", {0, 1, 2, 3}}, {"b", {1, 1e300, 3, 7}}}));
+  for (const int style : {scatterPlotMatrix, parallelCoordinates})
+  {
+    drawStyle(style);
+    scene.render(container);
+    scale(1, 1e10);
+    vtkTable* shown = style == scatterPlotMatrix ? matrixTable() : linesTable();
+    EXPECT_TRUE(std::isnan(shown->GetValueByName(1, "b").ToDouble())) << style;
+    expectSoundPicture(scene, container);
+    container.getTable()->SetValueByName(1, "b", 1e300);
+  }
+}
+
 } // namespace
