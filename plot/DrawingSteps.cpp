@@ -12,7 +12,7 @@ namespace Talmesh::plot
 {
 
 void addStep(PlotState& state, DrawingMoment moment, const QObject* owner,
-             std::function<void()> run)
+             std::function<bool()> run)
 {
   state.steps.list.push_back(
       std::make_shared<DrawingStep>(DrawingStep{owner, moment, std::move(run)}));
@@ -31,7 +31,7 @@ void removeSteps(PlotState& state, const QObject* owner)
   list.erase(std::remove_if(list.begin(), list.end(), isDropped), list.end());
 }
 
-void runSteps(PlotState& state, DrawingMoment moment)
+bool runSteps(PlotState& state, DrawingMoment moment)
 {
   // Also those of owners that have died are dropped here.
   removeSteps(state, nullptr);
@@ -41,10 +41,13 @@ void runSteps(PlotState& state, DrawingMoment moment)
   {
     if (step->moment != moment || !step->owner)
       continue;
-    step->run();
+    const bool goesOn = step->run();
     // Some operations end with settings that speak.
     blockSettings(state);
+    if (!goesOn)
+      return false;
   }
+  return true;
 }
 
 } // namespace Talmesh::plot

@@ -12,9 +12,11 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// When a step runs: before the style's builder, or after all that a redraw does to its chart.
+/// When a step runs: before anything is made for a drawing, which it may refuse; before the style's
+/// builder; or after all that a redraw does to its chart.
 enum class DrawingMoment
 {
+  question,
   before,
   after
 };
@@ -25,7 +27,8 @@ struct DrawingStep
   /// The step is dropped with it.
   QPointer<const QObject> owner;
   DrawingMoment moment = DrawingMoment::after;
-  std::function<void()> run;
+  /// Whether the steps after it may run, too.
+  std::function<bool()> run;
 };
 
 /// What clients do in every redraw of a container, and whether they are doing it now. What they
@@ -37,18 +40,21 @@ struct DrawingSteps
   bool running = false;
   /// A redraw was asked for while steps ran.
   bool again = false;
+  /// The reaction to a selection was refused; the next drawing makes up for it.
+  bool reactionOwed = false;
 };
 
 /// @param owner not null
 void addStep(PlotState& state, DrawingMoment moment, const QObject* owner,
-             std::function<void()> run);
+             std::function<bool()> run);
 
 /// Drops all steps of an owner at once, those not yet run in the present drawing too.
 void removeSteps(PlotState& state, const QObject* owner);
 
-/// Runs the steps of one moment.
+/// Runs the steps of one moment, up to one that says no.
+/// @return whether none did
 /// @throws what a step throws, which ends those after it
-void runSteps(PlotState& state, DrawingMoment moment);
+bool runSteps(PlotState& state, DrawingMoment moment);
 
 } // namespace Talmesh::plot
 

@@ -57,6 +57,16 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.options = from.options;
 }
 
+/// A step that does not refuse the drawing.
+std::function<bool()> goingOn(std::function<void()> step)
+{
+  return [step = std::move(step)]
+  {
+    step();
+    return true;
+  };
+}
+
 } // namespace
 
 PlotContainer::PlotContainer(QObject* parent)
@@ -164,12 +174,19 @@ void PlotContainer::drawOrReport()
 
 void PlotContainer::addCompletion(const QObject* owner, std::function<void()> complete)
 {
-  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::after, owner, std::move(complete));
+  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::after, owner,
+                         goingOn(std::move(complete)));
 }
 
 void PlotContainer::addPreparation(const QObject* owner, std::function<void()> prepare)
 {
-  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::before, owner, std::move(prepare));
+  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::before, owner,
+                         goingOn(std::move(prepare)));
+}
+
+void PlotContainer::addCondition(const QObject* owner, std::function<bool()> allows)
+{
+  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::question, owner, std::move(allows));
 }
 
 void PlotContainer::removeDrawingSteps(const QObject* owner)

@@ -257,7 +257,11 @@ public:
   /// As above, but `prepare` runs before the style's builder. A redraw that it asks for is this
   /// one.
   void addPreparation(const QObject* owner, std::function<void()> prepare);
-  /// Drops all completions and preparations of `owner`.
+  /// As above, but `allows` is asked before anything is done for a drawing, also before the runs
+  /// are divided and tested because others are selected. With false the page stays as it is; what
+  /// was selected meanwhile is made up for by the next drawing that is allowed.
+  void addCondition(const QObject* owner, std::function<bool()> allows);
+  /// Drops all completions, preparations and conditions of `owner`.
   void removeDrawingSteps(const QObject* owner);
 
 public slots:

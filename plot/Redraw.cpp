@@ -15,7 +15,10 @@
 
 #include <vtkCommand.h>
 
+#include <QSignalBlocker>
+
 #include <iostream>
+#include <utility>
 
 namespace Talmesh::plot
 {
@@ -43,6 +46,21 @@ bool cutSelection(PlotState& state)
   cutSelectionToTable(state);
   // Who ends the container has no state any more.
   return !callback->Container || state.drawings != before;
+}
+
+/// Makes up for a reaction to the selection that was refused.
+/// @return whether it has drawn the page, was refused once more, or the container has ended
+bool reactLate(PlotState& state)
+{
+  if (!std::exchange(state.steps.reactionOwed, false))
+    return false;
+  const unsigned long before = state.drawings;
+  const vtkSmartPointer<vtkSelectionUpdateCallback> callback = state.selectionUpdateCallback;
+  callback->Execute(state.annotationLink, 0, nullptr);
+  if (!callback->Container)
+    return true;
+  unblockSettings(state);
+  return state.drawings != before || state.steps.reactionOwed;
 }
 
 /// @return whether a drawing ran inside the builder, which is the one that is shown
@@ -74,6 +92,14 @@ bool draw(PlotState& state)
     std::cout << "void PlotContainer::redraw(): invalid scene" << std::endl;
     return false;
   }
+  if (!mayDraw(state))
+  {
+    unblockSettings(state);
+    return false;
+  }
+  if (reactLate(state))
+    return false;
+  blockSettings(state);
   prepare(state);
   dropOutdatedRanks(state);
   if (!currentStyle(state).showsXYChart)
@@ -88,6 +114,12 @@ bool draw(PlotState& state)
 }
 
 } // namespace
+
+bool mayDraw(PlotState& state)
+{
+  const QSignalBlocker silence(state.metaData);
+  return runSteps(state, DrawingMoment::question);
+}
 
 void redraw(PlotState& state)
 {

@@ -14,6 +14,10 @@ struct PlotState;
 /// @throws whatever the style's builder or a step throws; the settings are then silenced
 void redraw(PlotState& state);
 
+/// Asks the clients' conditions whether what the settings say may be drawn, and what a drawing
+/// needs computed. The settings speak afterwards if they did before.
+bool mayDraw(PlotState& state);
+
 /// Asks the scene of the chart now shown, if any, to paint again.
 void markDirty(PlotState& state);
 

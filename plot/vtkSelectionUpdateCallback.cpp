@@ -7,6 +7,7 @@
 #include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
+#include "plot/Redraw.h"
 #include "plot/RunSplit.h"
 #include "plot/SelectionBounds.h"
 #include "plot/SettingsSignals.h"
@@ -66,6 +67,18 @@ void reportFailure(PlotContainer& container, const std::function<void()>& step)
   }
 }
 
+/// Comparisons of a selection that is gone are not kept either.
+bool isRefused(PlotContainer& container)
+{
+  Talmesh::plot::PlotState& state = stateOf(container);
+  reportFailure(container, [&] { state.steps.reactionOwed = !Talmesh::plot::mayDraw(state); });
+  if (!state.steps.reactionOwed)
+    return false;
+  state.derivedTables.resize(Talmesh::plot::ownSlots);
+  state.ksResults.clear();
+  return true;
+}
+
 } // namespace
 
 void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*)
@@ -83,6 +96,8 @@ void vtkSelectionUpdateCallback::Execute(vtkObject* caller, unsigned long, void*
   if (link == container.getAnnotationLink())
     reportFailure(container, [&] { Talmesh::plot::cutSelectionToTable(stateOf(container)); });
   if (!this->Container || container.getMetaData()->parameterColumns.empty())
+    return;
+  if (isRefused(container))
     return;
   reportFailure(container,
                 [&]

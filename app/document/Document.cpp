@@ -8,9 +8,6 @@
 #include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
 
-#include <QScopedValueRollback>
-
-#include <stdexcept>
 #include <utility>
 
 namespace Talmesh::app
@@ -68,23 +65,36 @@ void Document::show(PlotContainer* container)
   disconnect(settingsHeard);
   ownChart = nullptr;
   shown.container = container;
-  container->addPreparation(this, [this] { requireMemory(); });
-  container->addCompletion(this, [this] { ++drawings; });
-  {
-    const QScopedValueRollback<bool> guard(refusable, true);
-    error = whyNotDone([this] { stage(*shown.container); });
-  }
+  container->addCondition(this, [this] { return hasMemoryToDraw(); });
+  container->addCompletion(this,
+                           [this]
+                           {
+                             ++drawings;
+                             error.clear();
+                           });
+  error = whyNotDrawn([this] { stage(*shown.container); });
   // Connected after the container's own answer, which draws.
   settingsHeard = connect(container->getMetaData(), &PlotMetaData::redrawNeeded, this,
                           &Document::followSettings);
 }
 
-/// Within a drawing, when the settings say what it will be. Nobody would catch a refusal of one
-/// that the container begins by itself.
-void Document::requireMemory() const
+/// Asked when the settings say what will be drawn, also of drawings that the container begins by
+/// itself.
+bool Document::hasMemoryToDraw()
 {
-  if (refusable && !isThere(memoryToDraw(*shown.container)))
-    throw std::runtime_error(missingMemory());
+  if (isThere(memoryToDraw(*shown.container)))
+    return true;
+  error = cannotDraw(missingMemory());
+  return false;
+}
+
+/// Draws.
+/// @return as `whyNotDone`, also of a drawing that was refused
+std::string Document::whyNotDrawn(const std::function<void()>& drawing)
+{
+  error.clear();
+  const std::string failure = whyNotDone(drawing);
+  return failure.empty() ? error : failure;
 }
 
 /// The container has drawn what was changed in its settings.
@@ -209,13 +219,13 @@ void Document::drawSilently()
 {
   if (!shown.container)
     return;
-  const QScopedValueRollback<bool> guard(refusable, true);
+  const auto draw = [this] { return whyNotDrawn([this] { shown.container->redraw(); }); };
   if (!shown.study.chart)
   {
-    error = applyChoice(*shown.container, shown.choice);
+    error = applyChoice(*shown.container, shown.choice, draw);
     return;
   }
-  error = whyNotDone([this] { shown.container->redraw(); });
+  error = draw();
   shown.choice = choiceOf(*shown.container);
 }
 

@@ -44,7 +44,7 @@ public:
   ~Document() override;
 
   /// What tells, in place of `hasMemory`, whether there are so many bytes for a drawing. Without
-  /// them what the document draws is not begun, and the drawing error says so.
+  /// them no drawing is begun, whoever asks for it, and the drawing error says so.
   void setMemoryCheck(std::function<bool(std::size_t)> enough) { isThere = std::move(enough); }
 
   /// Shows a study, which was opened without an error, in a container of its own: with what its
@@ -113,7 +113,8 @@ private:
     PlotChoice choice;
   };
 
-  void requireMemory() const;
+  bool hasMemoryToDraw();
+  std::string whyNotDrawn(const std::function<void()>& drawing);
   void leave(bool forOwnChart);
   void show(PlotContainer* container);
   std::string openData(const OpenedStudy& opened, const PlotWishes& wishes);
@@ -135,8 +136,6 @@ private:
   GroupedRuns grouped;
   std::string error;
   std::function<bool(std::size_t)> isThere;
-  /// A drawing that can be refused is under way.
-  bool refusable = false;
   QMetaObject::Connection settingsHeard;
   /// Drawings of the container now shown that came to their end, whoever asked for them.
   unsigned long drawings = 0;

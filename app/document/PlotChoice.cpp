@@ -108,6 +108,11 @@ PlotChoice choiceOf(const PlotContainer& container)
   return choice;
 }
 
+std::string cannotDraw(const std::string& why)
+{
+  return withValues(translated("PlotChoice", "cannot draw this: %1"), {why});
+}
+
 std::string whyNotDone(const std::function<void()>& drawing)
 {
   try
@@ -116,15 +121,16 @@ std::string whyNotDone(const std::function<void()>& drawing)
   }
   catch (const std::exception& failure)
   {
-    return withValues(translated("PlotChoice", "cannot draw this: %1"), {failure.what()});
+    return cannotDraw(failure.what());
   }
   return {};
 }
 
-std::string applyChoice(PlotContainer& container, const PlotChoice& choice)
+std::string applyChoice(PlotContainer& container, const PlotChoice& choice,
+                        const std::function<std::string()>& draw)
 {
   writeSettings(container, choice);
-  const std::string error = whyNotDone([&container] { container.redraw(); });
+  const std::string error = draw ? draw() : whyNotDone([&container] { container.redraw(); });
   if (!error.empty())
     return error;
   const PlotControls& controls = viewerStyle(choice.style).controls;

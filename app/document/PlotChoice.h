@@ -32,14 +32,19 @@ bool operator==(const PlotChoice& left, const PlotChoice& right);
 /// What a container now shows; legend and logarithmic y axis as its XY chart has them.
 PlotChoice choiceOf(const PlotContainer& container);
 
+/// Says that there is no drawing, and why.
+std::string cannotDraw(const std::string& why);
+
 /// Does what draws.
 /// @return why it could not be drawn, in one line; empty on success
 std::string whyNotDone(const std::function<void()>& drawing);
 
 /// Makes the container show the choice: draws it, labels the axes, and writes what only an XY chart
 /// keeps. Does not render.
+/// @param draw what draws, and says why it has not as `whyNotDone` does; redraw() without it
 /// @return as `whyNotDone`
-std::string applyChoice(PlotContainer& container, const PlotChoice& choice);
+std::string applyChoice(PlotContainer& container, const PlotChoice& choice,
+                        const std::function<std::string()>& draw = {});
 
 /// A column, or why there is none.
 struct FoundColumn

@@ -1,6 +1,9 @@
 #include "app/memory/PaintingMemory.h"
+#include "support/CapturedOutput.h"
 
 #include <vtkChartMatrix.h>
+
+#include <iostream>
 
 #include "document/DocumentScene.h"
 
@@ -97,10 +100,38 @@ TEST_F(DocumentOfMuch, CountsTheCopiesOfThePageThatComparesRuns)
   EXPECT_EQ(asked - memoryToPaint(container(), QSize(640, 480)), 6U * 8U * 6U * 8U);
 }
 
-TEST_F(DocumentOfMuch, GoesOnAfterASelectionThatLeavesLittle)
+TEST_F(DocumentOfMuch, RefusesThePageOfASelectionThatLeavesTooLittle)
 {
   EXPECT_EQ(open(), "");
+  countDrawings();
   there = 0;
+  const CapturedOutput errors(std::cerr);
   select({0, 2});
+  EXPECT_EQ(errors.text(), "");
   EXPECT_EQ(selectedRuns(), (std::set<int>{0, 2}));
+  EXPECT_EQ(drawings, 0);
+  EXPECT_EQ(announced, 1);
+  EXPECT_EQ(document.drawingError(), refusal);
+  EXPECT_TRUE(container().getKsResults().empty());
+  there = std::size_t{1} << 40U;
+  document.draw();
+  EXPECT_EQ(document.drawingError(), "");
+  EXPECT_EQ(container().getKsResults().size(), 2U) << "compared as soon as there is memory";
+}
+
+TEST_F(DocumentOfMuch, RefusesWhatASettingBegins)
+{
+  EXPECT_EQ(open(), "");
+  countDrawings();
+  there = 0;
+  const CapturedOutput errors(std::cerr);
+  settings().setPThreshold(0.011);
+  EXPECT_EQ(errors.text(), "");
+  EXPECT_EQ(drawings, 0);
+  EXPECT_EQ(announced, 1);
+  EXPECT_EQ(document.drawingError(), refusal);
+  there = std::size_t{1} << 40U;
+  settings().setPThreshold(0.012);
+  EXPECT_EQ(drawings, 1);
+  EXPECT_EQ(document.drawingError(), "");
 }
