@@ -3,12 +3,20 @@
 #include "plot/PlotContainer.h"
 
 #include <vtkAbstractContextItem.h>
+#include <vtkGenericRenderWindowInteractor.h>
+#include <vtkInteractorObserver.h>
 #include <vtkNew.h>
 #include <vtkUnsignedCharArray.h>
 
 PlotScene::PlotScene(int width, int height)
     : view(vtkSmartPointer<vtkContextView>::New())
 {
+  // The view's own opens a connection to the display that is never closed, and a display has places
+  // for a few hundred.
+  const vtkSmartPointer<vtkInteractorObserver> style = view->GetInteractor()->GetInteractorStyle();
+  const vtkNew<vtkGenericRenderWindowInteractor> interactor;
+  view->SetInteractor(interactor);
+  interactor->SetInteractorStyle(style);
   view->GetRenderWindow()->SetOffScreenRendering(1);
   view->GetRenderWindow()->SetSize(width, height);
 }

@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/CapturedOutput.h"
+#include "support/OpenSockets.h"
 #include "support/Pictures.h"
 #include "support/SampleTables.h"
 #include "support/VtkErrors.h"
@@ -132,6 +133,22 @@ TEST(VtkPlotWidget, SurvivesTheDeathOfItsContainer)
   widget.updatePlot(false);
   widget.updatePlot(true);
   QApplication::processEvents();
+}
+
+TEST(VtkPlotWidget, LeavesNoConnectionToTheDisplayBehind)
+{
+  const auto showOne = []
+  {
+    VtkPlotWidget widget;
+    widget.resize(400, 300);
+    widget.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+    widget.grabFramebuffer();
+  };
+  showOne();
+  const int before = openSockets();
+  showOne();
+  EXPECT_EQ(openSockets(), before);
 }
 
 class PdfExport : public ::testing::Test
