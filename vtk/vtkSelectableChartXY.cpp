@@ -16,50 +16,23 @@
 #include <vtkCommand.h>
 #include <vtkContextMouseEvent.h>
 #include <vtkContextScene.h>
-#include <vtkContextTransform.h>
-#include <vtkIdTypeArray.h>
-#include <vtkMatrix3x3.h>
 #include <vtkObjectFactory.h>
 #include <vtkPen.h>
 #include <vtkPlot.h>
 #include <vtkTable.h>
 #include <vtkTooltipItem.h>
-#include <vtkTransform2D.h>
 #include <vtkVectorOperators.h>
 
-#include <algorithm>
 #include <cmath>
+#include <utility>
 
 vtkStandardNewMacro(vtkSelectableChartXY);
 
 namespace
 {
 
-/// Pixels; as far as VTK's own charts look for a point.
-constexpr float reach = 5.0F;
 /// Pixels; a smaller extent is none.
 constexpr float smallestExtent = 0.5F;
-
-/// The plot at `index` of a corner if it takes selections, otherwise null.
-vtkPlot* selectablePlot(vtkContextTransform* corner, unsigned int index)
-{
-  auto* plot = vtkPlot::SafeDownCast(corner->GetItem(index));
-  return plot && plot->GetVisible() && plot->GetSelectable() && plot->GetInput() ? plot : nullptr;
-}
-
-vtkVector2f inCorner(vtkContextTransform* corner, const vtkVector2f& pixel)
-{
-  vtkVector2f point;
-  corner->GetTransform()->InverseTransformPoints(pixel.GetData(), point.GetData(), 1);
-  return point;
-}
-
-vtkVector2f reachIn(vtkContextTransform* corner)
-{
-  vtkMatrix3x3* matrix = corner->GetTransform()->GetMatrix();
-  return {static_cast<float>(std::fabs(reach / matrix->GetElement(0, 0))),
-          static_cast<float>(std::fabs(reach / matrix->GetElement(1, 1)))};
-}
 
 } // namespace
 
@@ -81,17 +54,6 @@ vtkSelectableChartXY::vtkSelectableChartXY()
     RemoveItem(item);
     AddItem(item);
   }
-}
-
-void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
-{
-  if (!table)
-  {
-    table = of;
-    rows.assign(static_cast<std::size_t>(table->GetNumberOfRows()), false);
-  }
-  if (row >= 0 && row < static_cast<vtkIdType>(rows.size()))
-    rows[static_cast<std::size_t>(row)] = true;
 }
 
 vtkPlot* vtkSelectableChartXY::AddPlot(int type, unsigned int blockIndex)
@@ -130,6 +92,17 @@ void vtkSelectableChartXY::EndDrag()
   MouseBox.SetWidth(0.0F);
   MouseBox.SetHeight(0.0F);
   DrawBox = false;
+}
+
+bool vtkSelectableChartXY::CancelDrag()
+{
+  if (!DrawBox)
+    return false;
+  EndDrag();
+  Cancelled = true;
+  if (Scene)
+    Scene->SetDirty(true);
+  return true;
 }
 
 void vtkSelectableChartXY::SettleScales()
@@ -208,6 +181,7 @@ bool vtkSelectableChartXY::KeyPressEvent(const vtkContextKeyEvent& key)
 bool vtkSelectableChartXY::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
+  Cancelled = false;
   if (SelectsRows(mouse) && !AnnotationLink)
     return false;
   return Superclass::MouseButtonPressEvent(mouse);
@@ -216,7 +190,7 @@ bool vtkSelectableChartXY::MouseButtonPressEvent(const vtkContextMouseEvent& mou
 bool vtkSelectableChartXY::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
-  if (!Scene)
+  if (std::exchange(Cancelled, false) || !Scene)
   {
     EndDrag();
     return true;
@@ -243,55 +217,4 @@ bool vtkSelectableChartXY::MouseButtonReleaseEvent(const vtkContextMouseEvent& m
                       GetMouseSelectionMode(mouse, SelectionMode));
   InvokeEvent(vtkCommand::SelectionChangedEvent);
   return true;
-}
-
-vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsBetween(const vtkVector2f& from,
-                                                             const vtkVector2f& to) const
-{
-  Hits hits;
-  for (vtkContextTransform* corner : GetTransforms())
-  {
-    const vtkVector2f a = inCorner(corner, from);
-    const vtkVector2f b = inCorner(corner, to);
-    const vtkVector2f low(std::min(a.GetX(), b.GetX()), std::min(a.GetY(), b.GetY()));
-    const vtkVector2f high(std::max(a.GetX(), b.GetX()), std::max(a.GetY(), b.GetY()));
-    for (unsigned int i = 0; i < corner->GetNumberOfItems(); ++i)
-    {
-      vtkPlot* plot = selectablePlot(corner, i);
-      if (!plot)
-        continue;
-      // Asked once: it takes longer than all that is done for a row.
-      vtkTable* const input = plot->GetInput();
-      hits.Add(input, -1);
-      // The plot writes into its list, which may be that of the link and of other plots.
-      plot->SetSelection(vtkNew<vtkIdTypeArray>());
-      plot->SelectPoints(low, high);
-      vtkIdTypeArray* rows = plot->GetSelection();
-      for (vtkIdType k = 0; k < rows->GetNumberOfValues(); ++k)
-        hits.Add(input, rows->GetValue(k));
-    }
-  }
-  return hits;
-}
-
-vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsAt(const vtkVector2f& position) const
-{
-  Hits hits;
-  for (vtkContextTransform* corner : GetTransforms())
-  {
-    for (unsigned int i = corner->GetNumberOfItems(); i-- > 0;)
-    {
-      vtkPlot* plot = selectablePlot(corner, i);
-      vtkVector2f location;
-      vtkIdType segment = -1;
-      const vtkIdType row = plot ? plot->GetNearestPoint(inCorner(corner, position),
-                                                         reachIn(corner), &location, &segment)
-                                 : -1;
-      if (row < 0)
-        continue;
-      hits.Add(plot->GetInput(), row);
-      return hits;
-    }
-  }
-  return hits;
 }

@@ -50,8 +50,12 @@ public:
   bool MouseWheelEvent(const vtkContextMouseEvent& mouse, int delta) override;
   bool KeyPressEvent(const vtkContextKeyEvent& key) override;
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
-  /// Does nothing once the chart has lost its place in the scene since the button was pressed.
+  /// Does nothing once the chart has lost its place in the scene since the button was pressed, or
+  /// after CancelDrag().
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
+  /// Takes the rectangle away that the mouse is drawing.
+  /// @return whether there was one
+  bool CancelDrag();
 
   using vtkChartXY::AddPlot;
   /// Lines are vtkPlotSafeLine, points Talmesh::PointCloud, which draws very many of them faster
@@ -82,6 +86,7 @@ private:
 
   Talmesh::LostColumns Lost;
   Talmesh::PlotScales Scales; ///< with which the plots were updated last
+  bool Cancelled = false;     ///< the button is still down
 
   bool SelectsRows(const vtkContextMouseEvent& mouse);
   void EndDrag();

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 vtkStandardNewMacro(vtkSelectableParallelCoordinates);
 
@@ -122,6 +123,7 @@ void vtkSelectableParallelCoordinates::BrushAlone(float to)
 bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
+  Cancelled = false;
   const bool selects = mouse.GetButton() == Actions.Select();
   BrushedAxis = selects ? AxisUnder(mouse) : -1;
   BrushedFrom = HeightOnAxis(mouse);
@@ -134,10 +136,28 @@ bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMou
   return handled;
 }
 
+bool vtkSelectableParallelCoordinates::MouseMoveEvent(const vtkContextMouseEvent& mouse)
+{
+  const Talmesh::HandlerScope running;
+  return Cancelled || Superclass::MouseMoveEvent(mouse);
+}
+
+bool vtkSelectableParallelCoordinates::CancelDrag()
+{
+  if (BrushedAxis < 0)
+    return false;
+  BrushedAxis = -1;
+  Cancelled = true;
+  ResetAxesSelection();
+  if (Scene)
+    Scene->SetDirty(true);
+  return true;
+}
+
 bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
-  if (!Scene)
+  if (std::exchange(Cancelled, false) || !Scene)
     return true;
   vtkPlot* plot = GetPlot(0);
   const bool selects = mouse.GetButton() == Actions.Select();

@@ -19,8 +19,13 @@ public:
   /// Paints nothing any more once a column of an axis has gone from the table: VTK reads it.
   bool Paint(vtkContext2D* painter) override;
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
-  /// Does nothing once the chart has lost its place in the scene since the button was pressed.
+  bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
+  /// Does nothing once the chart has lost its place in the scene since the button was pressed, or
+  /// after CancelDrag().
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
+  /// Takes the brush away that the mouse is drawing.
+  /// @return whether there was one
+  bool CancelDrag();
 
   /// Highlights the rows that the link's selection names.
   void ShowSelection();
@@ -46,6 +51,7 @@ private:
   vtkIdType ShownRows = 0; ///< of the table at that time
   int BrushedAxis = -1;    ///< while the button is down; -1 for none
   float BrushedFrom = 0.0; ///< height on the axis
+  bool Cancelled = false;  ///< the button is still down
   /// The brush still to be seen is that of the selection to be shown next.
   bool KeepsBrush = false;
 };

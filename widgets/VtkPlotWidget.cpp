@@ -1,6 +1,7 @@
 #include "widgets/VtkPlotWidget.h"
 
 #include "plot/PlotContainer.h"
+#include "vtk/CancelledDrags.h"
 #include "widgets/PdfPrinting.h"
 #include "widgets/PixelSampling.h"
 #include "widgets/PlotContextActor.h"
@@ -104,6 +105,14 @@ void VtkPlotWidget::updatePlot(bool clear)
   }
   view->Render();
   actor->ThrowFailure();
+}
+
+bool VtkPlotWidget::cancelDrag()
+{
+  if (!Talmesh::cancelDrags(*view->GetScene()))
+    return false;
+  updatePlot(false);
+  return true;
 }
 
 void VtkPlotWidget::printPlot(QString fileName)

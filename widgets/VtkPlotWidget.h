@@ -44,6 +44,11 @@ public:
   /// The view whose scene holds the chart.
   vtkContextView* contextView() const;
 
+  /// Takes away what the mouse is drawing to select or to enlarge: the release of its button then
+  /// does nothing. Paints.
+  /// @return whether there was anything
+  bool cancelDrag();
+
   /// Writes the picture as a vector PDF named `fileName` without its last ".pdf", followed by
   /// ".pdf". A ".pdf" that starts at position 0 or 1 stays in the name. A failure is reported
   /// through VTK's error output only. Works for a widget that was never shown.

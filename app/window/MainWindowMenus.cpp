@@ -49,7 +49,8 @@ void MainWindow::makeFileMenu()
 
 void MainWindow::makeSelectionMenu()
 {
-  auto* menu = new SelectionMenu(shown.selection(), this);
+  auto* menu = new SelectionMenu(
+      shown.selection(), [this] { return plot->cancelDrag(); }, this);
   connect(menu, &SelectionMenu::failed, this, &MainWindow::showError);
   connect(menu, &SelectionMenu::kept, this,
           [this]

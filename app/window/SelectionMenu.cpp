@@ -3,10 +3,13 @@
 #include "app/document/SelectionController.h"
 #include "app/window/FileDialogs.h"
 
+#include <utility>
+
 namespace Talmesh::app
 {
 
-SelectionMenu::SelectionMenu(SelectionController& changed, QWidget* window)
+SelectionMenu::SelectionMenu(SelectionController& changed, std::function<bool()> interrupts,
+                             QWidget* window)
     : QMenu(tr("&Selection"), window)
     , selection(changed)
 {
@@ -14,7 +17,12 @@ SelectionMenu::SelectionMenu(SelectionController& changed, QWidget* window)
   addSeparator();
   all = addAction(tr("Select &all"), &selection, &SelectionController::selectAll);
   all->setShortcut(QKeySequence::SelectAll);
-  nothing = addAction(tr("Select &nothing"), &selection, &SelectionController::clear);
+  nothing = addAction(tr("Select &nothing"), &selection,
+                      [this, interrupts = std::move(interrupts)]
+                      {
+                        if (!interrupts())
+                          selection.clear();
+                      });
   nothing->setShortcut(QKeySequence(Qt::Key_Escape));
   addSeparator();
   addFiles();

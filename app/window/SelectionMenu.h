@@ -3,6 +3,7 @@
 
 #include <QMenu>
 
+#include <functional>
 #include <string>
 
 namespace Talmesh::app
@@ -18,7 +19,9 @@ class SelectionMenu : public QMenu
 public:
   /// @param selection outlives the menu
   /// @param window the parent of the menu and of all questions
-  SelectionMenu(SelectionController& selection, QWidget* window);
+  /// @param interrupts what the key that selects nothing ends instead, and whether there was
+  /// anything: a rectangle that is being drawn
+  SelectionMenu(SelectionController& selection, std::function<bool()> interrupts, QWidget* window);
 
   /// Whether the keys that select mean the plot: on another page they belong to what it lists.
   void setSelecting(bool on);

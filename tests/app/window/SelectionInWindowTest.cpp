@@ -56,6 +56,25 @@ TEST_F(SelectionInWindow, IsEverythingOrNothingFromTheKeyboard)
   EXPECT_EQ(runs(), Runs{});
 }
 
+TEST_F(SelectionInWindow, StaysWhenEscapeEndsADrag)
+{
+  dragAround(1, 2);
+  const Rows before = flags();
+  ASSERT_FALSE(before.empty());
+  const QPoint start = pixelOfPoint(0, 1) - QPoint(20, 20);
+  const QPoint end = start + QPoint(40, 40);
+  QTest::mousePress(&plot(), Qt::RightButton, Qt::NoModifier, start);
+  QMouseEvent move(QEvent::MouseMove, end, plot().mapToGlobal(end), Qt::NoButton, Qt::RightButton,
+                   Qt::NoModifier);
+  QCoreApplication::sendEvent(&plot(), &move);
+  press(QKeySequence(Qt::Key_Escape));
+  QTest::mouseRelease(&plot(), Qt::RightButton, Qt::NoModifier, end);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(flags(), before);
+  press(QKeySequence(Qt::Key_Escape));
+  EXPECT_EQ(flags(), Rows());
+}
+
 TEST_F(SelectionInWindow, IsSavedAndLoaded)
 {
   dragAround(1, 1);
