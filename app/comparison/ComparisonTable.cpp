@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -276,6 +277,9 @@ void ComparisonTable::chooseFileAndSave()
   dialog->setOptions(getFileDialogOption());
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(QStringLiteral("csv"));
+  const QString base = QFileInfo(window()->windowFilePath()).completeBaseName();
+  if (!base.isEmpty())
+    dialog->selectFile(base + QStringLiteral("-comparison.csv"));
   connect(dialog, &QFileDialog::fileSelected, this,
           [this, text = commaText()](const QString& path)
           {

@@ -1,6 +1,7 @@
 #include "app/window/ExportController.h"
 
 #include "app/export/ExportDialog.h"
+#include "app/window/FileDialogs.h"
 #include "widgets/VtkPlotWidget.h"
 #include "widgets/WidgetSupport.h"
 
@@ -28,6 +29,7 @@ void ExportController::choose()
   const auto suffixOfFilter = [dialog](const QString& filter)
   { dialog->setDefaultSuffix(filter.section(QStringLiteral("*."), 1).left(3)); };
   suffixOfFilter(dialog->selectedNameFilter());
+  suggestName(*dialog);
   connect(dialog, &QFileDialog::filterSelected, dialog, suffixOfFilter);
   connect(dialog, &QFileDialog::fileSelected, this, &ExportController::askForSize);
   dialog->open();

@@ -2,6 +2,8 @@
 
 #include "widgets/WidgetSupport.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 namespace Talmesh::app
@@ -37,8 +39,17 @@ QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& fil
   QFileDialog* dialog = makeDialog(parent, title, filter, std::move(chosen));
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(suffix);
+  suggestName(*dialog);
   dialog->open();
   return dialog;
+}
+
+void suggestName(QFileDialog& dialog)
+{
+  const QString shown = dialog.parentWidget()->window()->windowFilePath();
+  const QString base = QFileInfo(shown).completeBaseName();
+  if (!base.isEmpty())
+    dialog.selectFile(base + QLatin1Char('.') + dialog.defaultSuffix());
 }
 
 } // namespace Talmesh::app

@@ -22,10 +22,14 @@ using FileChosen = std::function<void(const QString&)>;
 QFileDialog* askToOpen(QWidget* parent, const QString& title, const QString& filter,
                        FileChosen chosen);
 
-/// The same for a file to write.
+/// The same for a file to write, with a name suggested.
 /// @param suffix appended to names without one, given without its dot
 QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& filter,
                        const QString& suffix, FileChosen chosen);
+
+/// Suggests the name of what the window of the dialog's parent shows, with the dialog's default
+/// suffix.
+void suggestName(QFileDialog& dialog);
 
 } // namespace Talmesh::app
 

@@ -107,6 +107,8 @@ void MainWindow::showStudy()
   }
   size->setText(shown.size());
   clock.follow(shown.container()->getAnnotationLink());
+  // Dialogs suggest names of files from it.
+  setWindowFilePath(QString::fromStdString(study.name));
   setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
 }
 

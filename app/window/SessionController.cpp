@@ -110,6 +110,8 @@ void SessionController::saveAs(const Step& then)
   QFileDialog* dialog = askToSave(&window, tr("Save session"), tr("Sessions (*.talmesh)"),
                                   QLatin1String(sessionSuffix),
                                   [this, then](const QString& path) { saveOver(path, then); });
+  if (!record.origin().path.isEmpty())
+    dialog->selectFile(record.origin().path);
   // Another study has another container: this one is no longer there to be saved.
   connect(&now->container, &QObject::destroyed, dialog, &QDialog::reject);
 }

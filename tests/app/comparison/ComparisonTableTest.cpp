@@ -235,9 +235,11 @@ TEST_F(TableOfAComparison, IsSavedAsItWasWhenTheUserAskedForIt)
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("comparison.csv"));
   const QString asked = table.commaText();
+  table.setWindowFilePath(QStringLiteral("runs.csv"));
   table.chooseFileAndSave();
   auto* dialog = table.findChild<QFileDialog*>();
   ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(dialog->selectedFiles().value(0).endsWith("/runs-comparison.csv"));
   table.setComparison({Comparison::State::nothingSelected, {}});
   QSignalSpy said(&table, &ComparisonTable::said);
   emit dialog->fileSelected(path);

@@ -1,6 +1,7 @@
 #include "app/session/SessionFile.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -48,6 +49,27 @@ TEST_F(SavingInWindow, WritesNoOtherStudyThanTheOneThatItsDialogWasOpenedFor)
   openSample();
   EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isNull(); }, patience));
   EXPECT_EQ(window->windowTitle(), "runs.csv - Talmesh Plot");
+}
+
+TEST_F(SavingInWindow, SuggestsTheNameOfTheStudy)
+{
+  openSample();
+  const auto suggested = [this](QAction* entry)
+  {
+    EXPECT_NE(entry, nullptr);
+    entry->trigger();
+    QFileDialog* dialog = fileDialog();
+    const QString name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+    delete dialog;
+    return name;
+  };
+  EXPECT_EQ(suggested(fileEntry(QStringLiteral("Save session"))), "runs.talmesh");
+  EXPECT_EQ(suggested(fileEntry(QStringLiteral("Export"))), "runs.png");
+  QAction* runs = nullptr;
+  for (QAction* entry : window->findChildren<QAction*>())
+    if (entry->shortcut() == QKeySequence(QStringLiteral("Ctrl+Shift+S")))
+      runs = entry;
+  EXPECT_EQ(suggested(runs), "runs.json");
 }
 
 TEST_F(SavingInWindow, GoesThroughTheDialog)
