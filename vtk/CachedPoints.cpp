@@ -272,7 +272,7 @@ PointInputs CachedPoints::Inputs() const
 void CachedPoints::CacheLogarithms()
 {
   vtkDataArray* columns[2];
-  if ((this->LogX || this->LogY) && this->Points &&
+  if ((this->LogX || this->LogY) && this->XAxis && this->YAxis && this->Points &&
       this->GetDataArrays(this->Data->GetInput(), columns))
     cacheLogarithms({this->Points, columns[0], columns[1], this->LogX ? this->XAxis : nullptr,
                      this->LogY ? this->YAxis : nullptr, this->ShiftScale});

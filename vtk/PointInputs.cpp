@@ -30,8 +30,10 @@ void addColumn(std::vector<double>& key, vtkAbstractArray* column)
 PointInputs scaleInputs(vtkAxis* x, vtkAxis* y, bool useIndexForX, const vtkRectd& shiftScale)
 {
   PointInputs inputs;
-  addScale(inputs, x);
-  addScale(inputs, y);
+  // Items take no logarithms unless they have both axes.
+  const bool placed = x && y;
+  addScale(inputs, placed ? x : nullptr);
+  addScale(inputs, placed ? y : nullptr);
   inputs.insert(inputs.end(), {shiftScale.GetX(), shiftScale.GetY(), shiftScale.GetWidth(),
                                shiftScale.GetHeight(), double(useIndexForX)});
   return inputs;

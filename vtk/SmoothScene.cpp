@@ -6,6 +6,7 @@
 #include "vtk/vtkPlotStepLine.h"
 #include "vtk/vtkSelectableChartXY.h"
 
+#include <vtkAnnotationLink.h>
 #include <vtkAxis.h>
 #include <vtkChartMatrix.h>
 #include <vtkChartParallelCoordinates.h>
@@ -16,6 +17,8 @@
 #include <vtkPen.h>
 #include <vtkPlotGrid.h>
 #include <vtkRenderingCoreEnums.h>
+#include <vtkSelection.h>
+#include <vtkSelectionNode.h>
 #include <vtkTooltipItem.h>
 
 namespace Talmesh
@@ -48,13 +51,40 @@ bool isSmoothPlot(vtkPlot* plot)
   return isOneOf<vtkPlotLineSet, vtkPlotStepLine, ParallelLines>(plot);
 }
 
+bool isAnythingSelected(vtkAnnotationLink* link)
+{
+  vtkSelection* selection = link ? link->GetCurrentSelection() : nullptr;
+  for (unsigned int i = 0; selection && i < selection->GetNumberOfNodes(); ++i)
+  {
+    vtkAbstractArray* list = selection->GetNode(i)->GetSelectionList();
+    if (list && list->GetNumberOfValues() > 0)
+      return true;
+  }
+  return false;
+}
+
+/// A chart hands what was selected elsewhere to its plots only when it is painted.
+bool willMarkLines(vtkSelectableChartXY* chart)
+{
+  if (!isAnythingSelected(chart->GetAnnotationLink()))
+    return false;
+  for (vtkIdType i = 0; i < chart->GetNumberOfPlots(); ++i)
+  {
+    vtkPlot* plot = chart->GetPlot(i);
+    if (dynamic_cast<vtkPlotSafeLine*>(plot) && plot->GetVisible() && plot->GetSelectable() &&
+        plot->GetInput())
+      return true;
+  }
+  return false;
+}
+
 bool isSmoothAlone(vtkAbstractContextItem* item)
 {
   if (auto* plot = vtkPlot::SafeDownCast(item))
     return isSmoothPlot(plot);
   // A polygon drawn with the mouse has slanted sides.
   if (auto* chart = dynamic_cast<vtkSelectableChartXY*>(item))
-    return chart->GetActionToButton(vtkChart::SELECT_POLYGON) < 0;
+    return chart->GetActionToButton(vtkChart::SELECT_POLYGON) < 0 && !willMarkLines(chart);
   // A legend is none: its markers are round.
   return isOneOf<vtkAxis, vtkChartMatrix, vtkChartParallelCoordinates, vtkContextClip,
                  vtkContextTransform, vtkPlotGrid, vtkTooltipItem>(item);

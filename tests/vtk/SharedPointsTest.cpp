@@ -1,3 +1,4 @@
+#include "support/VtkErrors.h"
 #include "vtk/PictureStore.h"
 #include "vtk/vtkPlotLineSet.h"
 
@@ -119,6 +120,38 @@ TEST_F(SharedPoints, AreOthersOfOtherDataScalesAndFewRows)
 
   const auto few = show(waves(3, false, 100));
   EXPECT_NE(show(waves(3, false, 100))->Points, few->Points);
+}
+
+TEST_F(SharedPoints, AreNoLogarithmsForAnItemWithoutBothAxes)
+{
+  y->SetRange(1.0, 10.0);
+  y->SetLogScale(true);
+  y->Update();
+  const auto logarithmic = show(waves(3));
+  auto plain = makeExposed<Item>();
+  plain->SetPictureStore(store);
+  plain->SetInputData(waves(3), "x", "y");
+  plain->SetYAxis(y);
+  plain->Update();
+  EXPECT_NE(plain->Points, logarithmic->Points);
+  EXPECT_EQ(pointOf(plain, 0).second, 3.0F);
+}
+
+/// VTK refuses such columns, and leaves an item the points that it had before.
+TEST_F(SharedPoints, AreNotThoseOfColumnsOfDifferentLengths)
+{
+  const auto uneven = []
+  {
+    const auto table = waves(3);
+    vtkDoubleArray::SafeDownCast(table->GetColumnByName("y"))->InsertNextValue(5.0);
+    return table;
+  };
+  const VtkErrors reports;
+  const auto first = show(waves(3, false, 100));
+  first->SetInputData(uneven(), "x", "y");
+  first->Update();
+  ASSERT_NE(first->Points, nullptr);
+  EXPECT_EQ(show(uneven())->Points, nullptr);
 }
 
 TEST_F(SharedPoints, StayAsTheyAreWhenOneOfTheItemsGetsOtherData)

@@ -1,11 +1,13 @@
 #include "vtk/SmoothScene.h"
 
 #include "support/SampleTables.h"
+#include "vtk/RowSelections.h"
 #include "vtk/vtkPlotLineSet.h"
 #include "vtk/vtkPlotSafeLine.h"
 #include "vtk/vtkPlotStepLine.h"
 #include "vtk/vtkSelectableChartXY.h"
 
+#include <vtkAnnotationLink.h>
 #include <vtkChartMatrix.h>
 #include <vtkChartXYZ.h>
 #include <vtkContextScene.h>
@@ -73,6 +75,21 @@ TEST_F(SmoothScene, IsNoneWithADashedLine)
   dash(add<vtkPlotLineSet>());
   dash(add<vtkPlotSafeLine>());
   dash(add<vtkPlotStepLine>());
+}
+
+TEST_F(SmoothScene, IsNoneWithALineThatWillMarkWhatWasSelectedElsewhere)
+{
+  const vtkNew<vtkAnnotationLink> link;
+  chart->SetAnnotationLink(link);
+  const auto line = add<vtkPlotSafeLine>();
+  EXPECT_TRUE(isSmooth());
+  link->SetCurrentSelection(Talmesh::makeRowSelection({1}));
+  EXPECT_FALSE(isSmooth());
+  line->SetSelectable(false);
+  EXPECT_TRUE(isSmooth());
+  line->SetSelectable(true);
+  link->SetCurrentSelection(Talmesh::makeRowSelection({}));
+  EXPECT_TRUE(isSmooth());
 }
 
 TEST_F(SmoothScene, IsNoneWithALineThatHasMarkers)
