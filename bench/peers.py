@@ -1,12 +1,16 @@
 #!/usr/bin/python3
-"""Measures one row with pandas, SciPy or matplotlib: peers.py ROW, where ROW is a name of talmesh_bench.
+"""Measures one row with pandas, SciPy, matplotlib or R: peers.py ROW, where ROW is a name of talmesh_bench.
 
-Prints the milliseconds of one go. The data are those of BenchRuns.h.
+Prints the milliseconds of one go, or what is not installed with status 77. The data are those of BenchRuns.h.
 """
 
 import os
+import shutil
+import subprocess
 import sys
+import tempfile
 import time
+from pathlib import Path
 
 import numpy as np
 
@@ -14,6 +18,7 @@ TIME_SPAN = 20.0
 NOISE = 0.05
 WINDOW = (800, 600)
 DENSITY_LOCATIONS = 200
+NOT_INSTALLED = 77
 
 
 def fraction(run, number):
@@ -131,6 +136,20 @@ def read_table():
     return milliseconds(lambda: pandas.read_csv(os.environ["TALMESH_BENCH_CSV"], engine="c"))
 
 
+def clusters(runs, points):
+    """k-means of the runs by R."""
+    program = shutil.which("Rscript")
+    if not program:
+        print("R is not installed")
+        sys.exit(NOT_INSTALLED)
+    with tempfile.NamedTemporaryFile(suffix=".runs") as file:
+        waves(runs, points)[1].tofile(file.name)
+        script = Path(__file__).with_name("peers.R")
+        ended = subprocess.run([program, str(script), file.name, str(runs), str(points)], stdout=subprocess.PIPE,
+                               text=True, check=True)
+    return float(ended.stdout)
+
+
 def main():
     name, *numbers = sys.argv[1].split("/")
     sizes = [int(number) for number in numbers]
@@ -138,6 +157,8 @@ def main():
         print(statistics(sizes[0]))
     elif name == "importFile":
         print(read_table())
+    elif name == "clusterRuns":
+        print(clusters(*sizes))
     else:
         print(frame(name, *sizes))
 
