@@ -7,7 +7,7 @@
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
-#include "plot/vtkSelectableScatterPlotMatrix.h"
+#include "vtk/vtkSelectableScatterPlotMatrix.h"
 
 #include <algorithm>
 
