@@ -32,20 +32,29 @@ constexpr std::size_t handlerStack = std::size_t{64} << 10U;
 constexpr int mostSharedThreads = 8;
 /// Those of the display's events and of the accessibility bus, which start next.
 constexpr int laterThreads = 2;
-constexpr int patience = 10000; ///< milliseconds
+constexpr int patience = 10000;        ///< milliseconds
+constexpr int speakingPatience = 2000; ///< milliseconds
+constexpr useconds_t millisecond = 1000;
 
 /// The reason is said; what fails on the way out, or in another thread, adds nothing.
 std::atomic<bool> saidWhy{false};
-std::atomic_flag ending = ATOMIC_FLAG_INIT;
+std::atomic_flag speaking = ATOMIC_FLAG_INIT;
 
 /// Of sanitizers and of libraries that VTK is linked with.
 std::array<struct sigaction, NSIG> handlersBefore;
 
+/// Waits until no other thread is about to say why, which would be cut short or come twice; for a
+/// while only, as it may be this thread that failed in saying it.
+void waitToSpeak()
+{
+  for (int waited = 0; speaking.test_and_set() && waited < speakingPatience; ++waited)
+    ::usleep(millisecond);
+}
+
+/// Never lets others speak again.
 [[noreturn]] void endWithoutMemory()
 {
-  // Another thread is ending the program, and would be cut short.
-  while (ending.test_and_set())
-    ::pause();
+  waitToSpeak();
   if (saidWhy)
     ::_exit(EXIT_FAILURE);
   // Without standard error there is only the status.
@@ -122,8 +131,10 @@ bool canStartThreads(int count)
 
 int fail(const std::string& message)
 {
+  waitToSpeak();
   std::cerr << "talmesh-plot: " << message << std::endl;
   saidWhy = true;
+  speaking.clear();
   return EXIT_FAILURE;
 }
 

@@ -4,10 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <new>
+#include <sstream>
 #include <stdexcept>
+#include <string>
+#include <thread>
+#include <unistd.h>
 
 using namespace Talmesh::app;
 
@@ -30,4 +35,38 @@ TEST(LastResort, SaysThatThereIsNotEnoughMemory)
   const CapturedOutput errors(std::cerr);
   EXPECT_EQ(endingClearly([]() -> int { throw std::bad_alloc(); }), EXIT_FAILURE);
   EXPECT_EQ(errors.text(), "talmesh-plot: there is not enough memory\n");
+}
+
+namespace
+{
+
+/// Writes to standard error when asked to, and then slowly, while another thread runs out of
+/// memory.
+class SlowLine : public std::stringbuf
+{
+protected:
+  int sync() override
+  {
+    if (str().back() != '\n')
+      return 0;
+    std::thread([] { throw std::bad_alloc(); }).detach();
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    const std::string line = str();
+    return ::write(STDERR_FILENO, line.data(), line.size()) < 0 ? -1 : 0;
+  }
+};
+
+} // namespace
+
+TEST(LastResort, SaysWhyOnceWhenAnotherThreadFailsMeanwhile)
+{
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(
+      {
+        installLastResort();
+        SlowLine slow;
+        std::cerr.rdbuf(&slow);
+        ::_exit(fail("over"));
+      },
+      ::testing::ExitedWithCode(EXIT_FAILURE), "^talmesh-plot: over\n$");
 }
