@@ -47,11 +47,12 @@ class SlowLine : public std::stringbuf
 protected:
   int sync() override
   {
-    if (str().back() != '\n')
+    const std::string line = str();
+    if (line.empty() || line.back() != '\n')
       return 0;
+    str(std::string());
     std::thread([] { throw std::bad_alloc(); }).detach();
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    const std::string line = str();
     return ::write(STDERR_FILENO, line.data(), line.size()) < 0 ? -1 : 0;
   }
 };
