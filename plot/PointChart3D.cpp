@@ -35,7 +35,14 @@ public:
   bool Paint(vtkContext2D* painter) override
   {
     painter->ApplyTextProp(GetAxesTextProperty());
-    return Superclass::Paint(painter);
+    return Scene && Superclass::Paint(painter);
+  }
+
+  // Without a scene of its own it is nowhere, as vtkSelectableChartXY.
+  bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
+  bool KeyPressEvent(const vtkContextKeyEvent& key) override
+  {
+    return Scene && Superclass::KeyPressEvent(key);
   }
 
 protected:

@@ -13,6 +13,8 @@ public:
   TALMESH_VTK_TYPE(vtkSelectableChartMatrix, vtkChartMatrix);
 
   vtkChart* GetChart(const vtkVector2i& position) override;
+  /// Paints nothing without a scene of its own, as vtkSelectableChartXY.
+  bool Paint(vtkContext2D* painter) override { return Scene && Superclass::Paint(painter); }
 
 protected:
   vtkSelectableChartMatrix() = default;

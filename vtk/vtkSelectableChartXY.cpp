@@ -128,7 +128,7 @@ void vtkSelectableChartXY::Update()
 bool vtkSelectableChartXY::Paint(vtkContext2D* painter)
 {
   const Talmesh::HandlerScope running;
-  return Superclass::Paint(painter);
+  return Scene && Superclass::Paint(painter);
 }
 
 // Plots that have just been told another shift and scale of this painting's axes must read their
@@ -175,7 +175,7 @@ bool vtkSelectableChartXY::MouseWheelEvent(const vtkContextMouseEvent& mouse, in
 bool vtkSelectableChartXY::KeyPressEvent(const vtkContextKeyEvent& key)
 {
   const Talmesh::HandlerScope running;
-  return Superclass::KeyPressEvent(key);
+  return Scene && Superclass::KeyPressEvent(key);
 }
 
 bool vtkSelectableChartXY::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)

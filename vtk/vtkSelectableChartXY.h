@@ -41,7 +41,10 @@ public:
   /// Hides plots whose columns have gone, then makes those of the axes logarithmic that are to be
   /// and may be.
   void SettleScales();
+  /// Paints nothing, and is nowhere, without a scene of its own: another one that lists it still
+  /// may ask, after the one that it was put into last has let it go.
   bool Paint(vtkContext2D* painter) override;
+  bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
   bool PaintChildren(vtkContext2D* painter) override;
   bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;

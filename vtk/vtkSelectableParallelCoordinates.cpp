@@ -63,6 +63,8 @@ vtkIdType vtkSelectableParallelCoordinates::RowsNow()
 bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
 {
   const Talmesh::HandlerScope running;
+  if (!Scene)
+    return false;
   if (!HasColumns())
     GetPlot(0)->SetVisible(false);
   if (AnnotationLink && AnnotationLink->GetMTime() > Shown)

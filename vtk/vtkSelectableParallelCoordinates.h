@@ -17,7 +17,9 @@ public:
   TALMESH_VTK_TYPE(vtkSelectableParallelCoordinates, vtkChartParallelCoordinates);
 
   /// Paints nothing any more once a column of an axis has gone from the table: VTK reads it.
+  /// So it does without a scene of its own, as vtkSelectableChartXY.
   bool Paint(vtkContext2D* painter) override;
+  bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
   /// Does nothing once the chart has lost its place in the scene since the button was pressed, or

@@ -106,6 +106,8 @@ vtkChart* vtkSelectableScatterPlotMatrix::GetChart(const vtkVector2i& position)
 bool vtkSelectableScatterPlotMatrix::Paint(vtkContext2D* painter)
 {
   const Talmesh::HandlerScope running;
+  if (!Scene)
+    return false;
   // New cells get their scene here.
   Update();
   const auto roomBefore = SpecificResize;

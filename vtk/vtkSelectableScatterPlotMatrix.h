@@ -17,7 +17,9 @@ public:
   TALMESH_VTK_TYPE(vtkSelectableScatterPlotMatrix, vtkScatterPlotMatrix);
 
   vtkChart* GetChart(const vtkVector2i& position) override;
+  /// Paints nothing and is nowhere without a scene of its own, as vtkSelectableChartXY.
   bool Paint(vtkContext2D* painter) override;
+  bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
   /// The table given with SetInput().
   vtkTable* GetShownTable() const;
