@@ -72,6 +72,7 @@ public:
   void DrawPoints(float* points, int n, unsigned char* colors, int components) override;
   void DrawPointSprites(vtkImageData* sprite, float* points, int n, unsigned char* colors,
                         int components) override;
+  using vtkContextDevice2D::DrawMarkers;
   void DrawMarkers(int shape, bool highlight, float* points, int n, unsigned char* colors,
                    int components) override;
   void DrawQuad(float* points, int n) override;
