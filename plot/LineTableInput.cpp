@@ -1,5 +1,6 @@
 #include "plot/LineTableInput.h"
 
+#include "external/ColumnNames.h"
 #include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
 #include "plot/BorrowedColumn.h"
@@ -66,7 +67,7 @@ void chooseLineTableColumns(PlotState& state)
   int x = time;
   if (time < 0)
     x = parameters.empty() ? static_cast<int>(state.columnItems.size()) - 1
-                           : parameters.front() - 2;
+                           : parameters.front() - timeBeforeParameters;
   setFirst(settings.xColumns, x);
   setFirst(settings.yColumns, 0);
   setFirst(settings.zColumns, 1);

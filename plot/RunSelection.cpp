@@ -1,12 +1,12 @@
 #include "plot/RunSelection.h"
 
+#include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/RunLayout.h"
 #include "plot/SelectionFlags.h"
 #include "plot/StyleTable.h"
 #include "plot/TableColumns.h"
-#include "plot/TypedColumns.h"
 #include "vtk/RowCopies.h"
 #include "vtk/RowSelections.h"
 #include "vtk/SelectionColumns.h"
@@ -29,7 +29,7 @@ int indexColumn(vtkTable* table)
 {
   for (int column = 0; column < table->GetNumberOfColumns(); ++column)
   {
-    if (columnName(table, column).find("Index") != std::string::npos)
+    if (labelsRunIndex(columnName(table, column)))
       return column;
   }
   return noColumn;
@@ -37,7 +37,7 @@ int indexColumn(vtkTable* table)
 
 vtkDoubleArray* runsOfRows(vtkTable* table)
 {
-  return vtkDoubleArray::SafeDownCast(columnNamed(table, runIndexLabel));
+  return vtkDoubleArray::SafeDownCast(columnNamed(table, selectionPairToString(runIndexItem())));
 }
 
 vtkIdTypeArray* acceptedRows(const PlotState& state)
@@ -143,7 +143,7 @@ vtkSmartPointer<vtkTable> tableOfRuns(const PlotState& state, const std::set<int
   const int stride = state.metaData->getStride();
   int column = indexColumn(state.table);
   if (column == noColumn)
-    column = firstOf(state.metaData->parameterColumns) - 1;
+    column = firstOf(state.metaData->parameterColumns) - runIndexBeforeParameters;
   auto* runsOfRows = doubleColumn(state.table, column);
   if (!runsOfRows || stride < 1)
     return nullptr;

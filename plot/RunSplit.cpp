@@ -1,5 +1,6 @@
 #include "plot/RunSplit.h"
 
+#include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
@@ -30,16 +31,6 @@ enum LinkPort
   annotationsPort = 0,
   selectionPort = 2
 };
-
-bool namesTime(const std::string& name)
-{
-  for (const char* word : {"Value", "Time", "Period"})
-  {
-    if (name.find(word) != std::string::npos)
-      return true;
-  }
-  return false;
-}
 
 using Names = std::vector<std::string>;
 
@@ -134,10 +125,10 @@ int timeColumnOf(const PlotState& state)
 {
   for (int column = 0; column < state.table->GetNumberOfColumns(); ++column)
   {
-    if (namesTime(columnName(state.table, column)))
+    if (labelsTime(columnName(state.table, column)))
       return column;
   }
-  return firstOf(state.metaData->parameterColumns) - 2;
+  return firstOf(state.metaData->parameterColumns) - timeBeforeParameters;
 }
 
 RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)

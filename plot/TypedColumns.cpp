@@ -18,21 +18,6 @@ void findParameterColumns(PlotState& state)
   }
 }
 
-int timeItem(const std::vector<Talmesh::TypedConcentrationName>& items)
-{
-  int chosen = -1;
-  for (std::size_t i = 0; i < items.size(); ++i)
-  {
-    if (items[i].first != Talmesh::TimeOrValue)
-      continue;
-    if (items[i].second == "Time [s]")
-      return static_cast<int>(i);
-    if (items[i].second == "Value" || chosen < 0)
-      chosen = static_cast<int>(i);
-  }
-  return chosen;
-}
-
 std::string parameterLabel(const PlotState& state, std::size_t parameter)
 {
   // A negative index becomes one beyond every list.

@@ -1,7 +1,7 @@
 #include "app/document/TimeCourses.h"
 
+#include "external/ColumnNames.h"
 #include "plot/PlotContainer.h"
-#include "plot/TypedColumns.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,13 +14,6 @@ namespace Talmesh::app
 
 namespace
 {
-
-constexpr const char* runIndexName = "Run Index";
-
-bool isRunIndex(const TypedConcentrationName& item)
-{
-  return item.first == TimeOrValue && item.second == runIndexName;
-}
 
 bool isCourse(const TypedConcentrationName& item)
 {
@@ -39,9 +32,9 @@ int timeOfCourses(const LinePlotTable& runs)
 {
   std::vector<TypedConcentrationName> items = runs.items;
   for (TypedConcentrationName& item : items)
-    if (isRunIndex(item))
+    if (item == runIndexItem())
       item.first = UndefinedType;
-  const int time = plot::timeItem(items);
+  const int time = timeItem(items);
   return time >= 0 && runs.values[static_cast<std::size_t>(time)] ? time : -1;
 }
 
@@ -49,7 +42,7 @@ std::vector<int> shownRunNumbers(const LinePlotTable& runs)
 {
   std::vector<int> places(runs.numberOfTrajectories);
   std::iota(places.begin(), places.end(), 0);
-  const auto found = std::find_if(runs.items.begin(), runs.items.end(), isRunIndex);
+  const auto found = std::find(runs.items.begin(), runs.items.end(), runIndexItem());
   const auto item = static_cast<std::size_t>(found - runs.items.begin());
   if (found == runs.items.end() || !runs.values[item])
     return places;

@@ -1,5 +1,7 @@
 #include "app/examples/ExampleStudy.h"
 
+#include "external/ColumnNames.h"
+
 #include <boost/make_shared.hpp>
 
 #include <cmath>
@@ -64,10 +66,10 @@ void storeRun(LinePlotTable& table, std::size_t run, const RepressilatorParamete
 
 std::vector<TypedConcentrationName> exampleItems()
 {
-  return {{Molecule, "TetR"},        {Molecule, "LacI"},         {Molecule, "cI"},
-          {Pattern, "tetR mRNA"},    {Pattern, "lacI mRNA"},     {Pattern, "cI mRNA"},
-          {TimeOrValue, "Time [s]"}, {TimeOrValue, "Run Index"}, {Parameter, "alpha"},
-          {Parameter, "alpha0"},     {Parameter, "beta"},        {Parameter, "n"}};
+  return {{Molecule, "TetR"},          {Molecule, "LacI"},     {Molecule, "cI"},
+          {Pattern, "tetR mRNA"},      {Pattern, "lacI mRNA"}, {Pattern, "cI mRNA"},
+          {TimeOrValue, timeItemName}, runIndexItem(),         {Parameter, "alpha"},
+          {Parameter, "alpha0"},       {Parameter, "beta"},    {Parameter, "n"}};
 }
 
 const std::vector<ParameterRange>& exampleParameterRanges()

@@ -2,6 +2,7 @@
 
 #include "app/import/AsciiText.h"
 #include "app/import/Utf8Text.h"
+#include "external/ColumnNames.h"
 
 #include <algorithm>
 #include <array>
@@ -109,13 +110,13 @@ int rankOfTime(const ColumnHeader& header)
   constexpr int none = 4;
   if (!header.typed || header.kind != TimeOrValue)
     return none;
-  if (header.name == "Time [s]")
+  if (header.name == timeItemName)
     return 0;
   if (isTimeName(header.name))
     return 1;
   if (header.name.find("Time") != std::string::npos)
     return 2;
-  return plotsTakeForTime(header.name) ? 3 : none;
+  return labelsTime(header.name) ? 3 : none;
 }
 
 int timeColumnAmong(const std::vector<ColumnHeader>& headers)
@@ -202,17 +203,9 @@ bool isTimeName(std::string_view name)
          isOneOf(withoutSeparators(withoutTimeUnit(cut.name)), timeWords);
 }
 
-bool plotsTakeForTime(std::string_view label)
-{
-  constexpr std::array<std::string_view, 3> words = {"Value", "Time", "Period"};
-  return std::any_of(words.begin(), words.end(),
-                     [label](std::string_view word)
-                     { return label.find(word) != std::string_view::npos; });
-}
-
 std::string plottedTimeName(const std::string& name)
 {
-  if (plotsTakeForTime(name))
+  if (labelsTime(name))
     return name;
   const std::size_t word = leadingTimeWord(name);
   return word > 0 ? "Time" + name.substr(word) : "Time (" + name + ")";

@@ -56,11 +56,7 @@ std::string_view withoutCommentMark(std::string_view name);
 /// temperature, "T [s]" is not.
 bool isTimeName(std::string_view name);
 
-/// Whether the plots take a column of this label for the time when they compare runs: it contains
-/// Value, Time or Period.
-bool plotsTakeForTime(std::string_view label);
-
-/// A name of time that plotsTakeForTime() knows: the name itself, else with its leading word
+/// A name of time that labelsTime() knows: the name itself, else with its leading word
 /// written "Time" ("t [s]" gives "Time [s]"), else in parentheses behind that ("Time (Zeit)").
 std::string plottedTimeName(const std::string& name);
 

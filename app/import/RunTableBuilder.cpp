@@ -1,6 +1,7 @@
 #include "app/import/RunTableBuilder.h"
 
 #include "app/import/StackedColumns.h"
+#include "external/ColumnNames.h"
 
 #include <boost/make_shared.hpp>
 
@@ -16,8 +17,6 @@ namespace Talmesh::app
 
 namespace
 {
-
-constexpr const char* runIndexName = "Run Index";
 
 /// A range around a value that stands in some runs while others have none or an infinite one. The
 /// plots leave out a parameter whose range is a single value.

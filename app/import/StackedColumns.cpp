@@ -1,6 +1,7 @@
 #include "app/import/StackedColumns.h"
 
 #include "app/import/ColumnRoles.h"
+#include "external/ColumnNames.h"
 
 #include <algorithm>
 
@@ -30,32 +31,25 @@ bool hasTime(const Columns& columns)
 }
 
 /// Whether selections and comparisons of runs find the time and the run index by parts of their
-/// names. Without any such name they take the time two columns before the first parameter, where
-/// line-plot tables have it.
+/// names. Without any such name they take those in front of the first parameter.
 bool plotsFindTimeAndRuns(const Columns& columns)
 {
-  const auto namesIndex = [](const std::string& label)
-  { return label.find("Index") != std::string::npos; };
   const bool timeFound =
-      !hasTime(columns) || roleOfFirst(columns, plotsTakeForTime, Role::Time) == Role::Time;
-  return timeFound && roleOfFirst(columns, namesIndex, Role::RunIndex) == Role::RunIndex;
+      !hasTime(columns) || roleOfFirst(columns, labelsTime, Role::Time) == Role::Time;
+  return timeFound && roleOfFirst(columns, labelsRunIndex, Role::RunIndex) == Role::RunIndex;
 }
 
-/// Whether the plots put the time on the x axis: of the columns of its kind they choose "Time [s]",
-/// else "Value", else the first one.
+/// Whether the plots put the time on the x axis, or what is called a value.
 bool plotsPutTimeOnX(const Columns& columns)
 {
-  const StackedColumn* x = nullptr;
+  std::vector<TypedConcentrationName> items;
   for (const StackedColumn& column : columns)
-  {
-    if (column.item.first != TimeOrValue)
-      continue;
-    if (column.item.second == "Time [s]")
-      return column.role == Role::Time;
-    if (!x || column.item.second == "Value")
-      x = &column;
-  }
-  return !x || x->role == Role::Time || x->item.second == "Value";
+    items.push_back(column.item);
+  const int x = timeItem(items);
+  if (x < 0)
+    return true;
+  const StackedColumn& chosen = columns[static_cast<std::size_t>(x)];
+  return chosen.role == Role::Time || chosen.item.second == valueItemName;
 }
 
 template <typename Place>

@@ -1,5 +1,7 @@
 #include "app/import/ColumnRoles.h"
 
+#include "external/ColumnNames.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -139,7 +141,7 @@ TEST(ColumnRoles, GivesTimeANameThatThePlotsKnow)
   EXPECT_EQ(plottedTimeName("Sim Time"), "Sim Time");
   for (const char* name : {"time", "t [s]", "T (h)", "time_s", "timepoint", "Zeit [s]", "sim time"})
   {
-    EXPECT_TRUE(plotsTakeForTime(plottedTimeName(name))) << name;
+    EXPECT_TRUE(Talmesh::labelsTime(plottedTimeName(name))) << name;
     EXPECT_TRUE(isTimeName(plottedTimeName(name))) << name;
   }
 }
