@@ -2,6 +2,7 @@
 # other relative to their own folder, which works wherever they lie, and nothing that is not listed here.
 set(TALMESH_PUBLIC_HEADERS
   export/TalmeshPlotExport.h
+  external/ColumnNames.h
   external/CoordinateWindow.h
   external/Distribution.h
   external/FitRun.h
@@ -24,6 +25,7 @@ set(TALMESH_PUBLIC_HEADERS
   plot/PlotContainer.h
   plot/PlotContainerTypes.h
   plot/PlotOptions.h
+  plot/RunClustering.h
   plot/vtkSelectionUpdateCallback.h
   plot/vtkShiftScaleCallback.h
   stats/KolmogorovSmirnov.h

@@ -1,6 +1,7 @@
 #include "FuzzedContainer.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/RunClustering.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkChartXY.h>
@@ -207,6 +208,12 @@ FuzzedContainer::Actions FuzzedContainer::statisticsActions()
   return {
       [&] { plot.generateQuartiles(); },
       [&] { plot.clusterTimeSeries(choose.pick(5), choose.pick(4)); },
+      [&]
+      {
+        Talmesh::RunClustering clustering(plot, choose.pick(5), choose.pick(4));
+        clustering.compute();
+        clustering.handOver(plot);
+      },
       [&] { collectClusters(); },
       [&]
       { plot.generateRankedParameters(plot.getTable(), static_cast<std::size_t>(choose.pick(8))); },
@@ -228,5 +235,11 @@ FuzzedContainer::Actions FuzzedContainer::statisticsActions()
       [&] { plot.scaleColumnByColumn(choose.column(), choose.column(), choose.flip()); },
       [&] { plot.shrinkToColumnSelection(); },
       [&] { delete[] plot.saveData("", choose.flip()); },
+      [&]
+      {
+        PlotContainer::writeTable(plot.getTable(), [this](const char*, std::size_t, double)
+                                  { return choose.flip(); });
+      },
+      [&] { plot.withoutDrawing([&] { plot.redraw(); }); },
       [&] { plot.getLabels(); }};
 }

@@ -12,6 +12,8 @@
 #include "plot/TableColumns.h"
 #include "vtk/vtkShapeKMeansStatistics.h"
 
+#include <vtkAlgorithm.h>
+#include <vtkCommand.h>
 #include <vtkPlot.h>
 
 #include <algorithm>
@@ -33,29 +35,34 @@ constexpr vtkIdType longestEmptyList = 4096;
 constexpr double fullBrightness = 255.0;
 constexpr unsigned char curveAlpha = 180;
 
-/// What is compared, in both layouts.
-struct ComparedRuns
+/// Brings the runs into both layouts, or what of them is compared in their place.
+void findCompared(ClusteredRuns& clustered)
 {
-  RunMatrix runs;
-  vtkSmartPointer<vtkTable> byColumn; ///< one column per run; null without a run
-};
-
-ComparedRuns comparedRuns(const PlotState& state, int mode)
-{
-  ComparedRuns compared;
-  compared.runs = runsOf(state);
-  if (compared.runs.runs == 0)
-    return compared;
-  compared.byColumn = columnsOfRuns(compared.runs);
-  if (mode == phaseMode || mode == magnitudeMode)
-  {
-    const SpectralFeature feature =
-        mode == phaseMode ? SpectralFeature::phase : SpectralFeature::magnitude;
-    compared.byColumn = spectralFeatures(compared.byColumn, feature);
-    compared.runs = runsOfColumns(compared.byColumn);
-  }
-  return compared;
+  if (clustered.runs.runs == 0)
+    return;
+  clustered.curves = columnsOfRuns(clustered.runs);
+  if (clustered.mode != phaseMode && clustered.mode != magnitudeMode)
+    return;
+  const SpectralFeature feature =
+      clustered.mode == phaseMode ? SpectralFeature::phase : SpectralFeature::magnitude;
+  clustered.curves = spectralFeatures(clustered.curves, feature);
+  clustered.runs = runsOfColumns(clustered.curves);
 }
+
+/// Tells somebody how far an algorithm is, who may give it up.
+struct ProgressTeller
+{
+  const std::function<bool(double)>& goOn;
+  bool givenUp = false;
+
+  void tell(vtkObject* caller, unsigned long, void*)
+  {
+    auto* algorithm = vtkAlgorithm::SafeDownCast(caller);
+    givenUp = givenUp || (goOn && !goOn(algorithm->GetProgress()));
+    if (givenUp)
+      algorithm->SetAbortExecute(1);
+  }
+};
 
 /// One row per run. A column per position would take a time that grows with its square.
 vtkSmartPointer<vtkTable> observationTable(const RunMatrix& runs)
@@ -71,8 +78,9 @@ vtkSmartPointer<vtkTable> observationTable(const RunMatrix& runs)
   return table;
 }
 
-/// The cluster of every run; null where the assessment has none.
-vtkSmartPointer<vtkIntArray> closestClusters(const RunMatrix& runs, int clusters)
+/// The cluster of every run; null where the assessment has none, and when it is given up.
+vtkSmartPointer<vtkIntArray> closestClusters(const RunMatrix& runs, int clusters,
+                                             const std::function<bool(double)>& goOn)
 {
   const auto observations = observationTable(runs);
   vtkNew<vtkShapeKMeansStatistics> statistics;
@@ -83,7 +91,11 @@ vtkSmartPointer<vtkIntArray> closestClusters(const RunMatrix& runs, int clusters
   statistics->RequestSelectedColumns();
   statistics->SetAssessOption(true);
   statistics->SetDefaultNumberOfClusters(clusters);
+  ProgressTeller teller{goOn};
+  statistics->AddObserver(vtkCommand::ProgressEvent, &teller, &ProgressTeller::tell);
   statistics->Update();
+  if (teller.givenUp)
+    return nullptr;
   vtkTable* assessed = statistics->GetOutput(vtkStatisticsAlgorithm::OUTPUT_DATA);
   const int last = static_cast<int>(assessed->GetNumberOfColumns()) - 1;
   return vtkIntArray::SafeDownCast(columnAt(assessed, last));
@@ -152,24 +164,55 @@ void reportSizes(vtkIntArray* membership, vtkTable* curves)
 
 } // namespace
 
+ClusteredRuns runsToCluster(const PlotState& state, int clusters, int mode)
+{
+  ClusteredRuns clustered;
+  clustered.clusters = clusters;
+  clustered.mode = mode;
+  clustered.runs = runsOf(state);
+  clustered.time = copiedTime(state, clustered.runs.positions);
+  return clustered;
+}
+
+bool computeClusters(ClusteredRuns& clustered, const std::function<bool(double)>& goOn)
+{
+  findCompared(clustered);
+  if (clustered.clusters < 1 || !clustered.curves)
+    return true;
+  if (goOn && !goOn(0.0))
+    return false;
+  clustered.membership = closestClusters(clustered.runs, clustered.clusters, goOn);
+  if (goOn && !goOn(1.0))
+    return false;
+  if (!clustered.membership)
+    return true;
+  clustered.means = meanCurves(clustered.runs, clustered.membership, clustered.clusters);
+  clustered.means->AddColumn(clustered.time);
+  clustered.curves->AddColumn(clustered.time);
+  return true;
+}
+
+bool takeClusters(PlotState& state, const ClusteredRuns& clustered)
+{
+  state.clusterMembership = clustered.membership;
+  if (!clustered.membership)
+  {
+    reportNoMembership();
+    return false;
+  }
+  state.decorationTable = clustered.means;
+  if (state.options.showsDiagnostics)
+    reportSizes(clustered.membership, clustered.curves);
+  return true;
+}
+
 void clusterTimeSeries(PlotState& state, int clusters, int mode)
 {
   state.clusterMembership = nullptr;
-  const ComparedRuns compared = comparedRuns(state, mode);
-  if (clusters > 0 && compared.byColumn)
-    state.clusterMembership = closestClusters(compared.runs, clusters);
-  if (!state.clusterMembership)
-  {
-    reportNoMembership();
-    return;
-  }
-  state.decorationTable = meanCurves(compared.runs, state.clusterMembership, clusters);
-  const auto time = copiedTime(state, compared.runs.positions);
-  state.decorationTable->AddColumn(time);
-  compared.byColumn->AddColumn(time);
-  if (state.options.showsDiagnostics)
-    reportSizes(state.clusterMembership, compared.byColumn);
-  drawCurves(state, compared.byColumn);
+  ClusteredRuns clustered = runsToCluster(state, clusters, mode);
+  computeClusters(clustered);
+  if (takeClusters(state, clustered))
+    drawCurves(state, clustered.curves);
 }
 
 void appendClusterSelections(const PlotState& state, const std::string& prefix,

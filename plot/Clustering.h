@@ -1,6 +1,14 @@
 #ifndef Clustering_h
 #define Clustering_h
 
+#include "plot/RunTables.h"
+
+#include <vtkDoubleArray.h>
+#include <vtkIntArray.h>
+#include <vtkSmartPointer.h>
+#include <vtkTable.h>
+
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +35,34 @@ struct PlotState;
 /// With fewer than one cluster or without a whole run there is no membership afterwards, and
 /// standard error says so.
 void clusterTimeSeries(PlotState& state, int clusters, int mode);
+
+/// The numbers of a clustering, from the runs to what a container keeps of it.
+struct ClusteredRuns
+{
+  int clusters = 0;
+  int mode = 0;
+  RunMatrix runs;
+  /// A value per position within a run.
+  vtkSmartPointer<vtkDoubleArray> time;
+
+  /// What is compared, one column per run, and "Time"; null without a run.
+  vtkSmartPointer<vtkTable> curves;
+  /// Null where there is none.
+  vtkSmartPointer<vtkIntArray> membership;
+  vtkSmartPointer<vtkTable> means;
+};
+
+/// What is to be clustered. The values of the runs are those of the table, shared.
+ClusteredRuns runsToCluster(const PlotState& state, int clusters, int mode);
+
+/// Fills in the results, and touches nothing but the runs.
+/// @param goOn told the part that is done, from 0 to 1; false gives the work up
+/// @return whether it came to its end
+bool computeClusters(ClusteredRuns& clustered, const std::function<bool(double)>& goOn = {});
+
+/// Lets the state have membership and mean curves, as of clusterTimeSeries(). Draws no curves.
+/// @return whether there are any
+bool takeClusters(PlotState& state, const ClusteredRuns& clustered);
 
 /// Appends one new selection, the caller's, per cluster up to the highest in use, labelled `prefix`
 /// + " " + number, and puts run t into entry clusterMembership[t] of `selections`, counted from the

@@ -13,6 +13,7 @@
 #include <fstream>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <system_error>
 
 namespace Talmesh::plot
@@ -23,6 +24,8 @@ namespace
 
 constexpr char quote = '"';
 constexpr char escape = '\\';
+/// Enough to outweigh the writer's own work.
+constexpr vtkIdType rowsOfAPiece = 4096;
 
 /// Whether the text of a file says something else to VTK's reader than to everybody else: VTK takes
 /// a quote that is doubled within quotes for two strings, and a backslash for an escape.
@@ -151,6 +154,43 @@ vtkSmartPointer<vtkTable> withDoubledQuotes(vtkTable* table)
   return doubled;
 }
 
+/// A copy of some rows.
+vtkSmartPointer<vtkTable> someRows(vtkTable* table, vtkIdType first, vtkIdType count)
+{
+  auto rows = vtkSmartPointer<vtkTable>::New();
+  const int columns = static_cast<int>(table->GetNumberOfColumns());
+  for (int i = 0; i < columns; ++i)
+  {
+    vtkAbstractArray* column = table->GetColumn(i);
+    const auto part = vtkSmartPointer<vtkAbstractArray>::Take(column->NewInstance());
+    part->SetNumberOfComponents(column->GetNumberOfComponents());
+    part->SetNumberOfTuples(count);
+    // A client's columns may be of different lengths.
+    const vtkIdType there = std::clamp<vtkIdType>(column->GetNumberOfTuples() - first, 0, count);
+    auto* numbers = vtkDataArray::SafeDownCast(part);
+    if (numbers && there < count)
+      numbers->Fill(0.0);
+    if (there > 0)
+      part->InsertTuples(0, there, first, column);
+    rows->GetRowData()->AddArray(part);
+  }
+  // Named only afterwards, because arrays of one name would replace each other.
+  for (int i = 0; i < columns; ++i)
+    rows->GetColumn(i)->SetName(table->GetColumnName(i));
+  return rows;
+}
+
+/// The table is complete, as the writer needs it.
+std::string textOf(vtkTable* table)
+{
+  vtkNew<vtkDelimitedTextWriter> writer;
+  writer->SetInputData(table);
+  writer->WriteToOutputStringOn();
+  writer->Write();
+  const std::unique_ptr<char[]> text(writer->RegisterAndGetOutputString());
+  return text ? text.get() : "";
+}
+
 } // namespace
 
 vtkSmartPointer<vtkTable> readDelimited(const std::string& fileName)
@@ -163,6 +203,23 @@ vtkSmartPointer<vtkTable> readDelimited(const std::string& fileName)
   reader->SetForceDouble(true);
   reader->Update();
   return reader->GetOutput();
+}
+
+bool writeDelimitedInPieces(vtkTable* table,
+                            const std::function<bool(const char*, std::size_t, double)>& take)
+{
+  const vtkSmartPointer<vtkTable> whole = withDoubledQuotes(table);
+  const vtkIdType rows = whole->GetNumberOfRows();
+  const std::string head = textOf(someRows(whole, 0, 0));
+  bool taken = take(head.data(), head.size(), rows > 0 ? 0.0 : 1.0);
+  for (vtkIdType row = 0; row < rows && taken; row += rowsOfAPiece)
+  {
+    const vtkIdType count = std::min(rowsOfAPiece, rows - row);
+    const std::string text = textOf(someRows(whole, row, count));
+    taken = take(text.data() + head.size(), text.size() - head.size(),
+                 static_cast<double>(row + count) / static_cast<double>(rows));
+  }
+  return taken;
 }
 
 char* writeDelimited(vtkTable* table, const std::string& fileName)

@@ -3,6 +3,8 @@
 
 #include <vtkSmartPointer.h>
 
+#include <cstddef>
+#include <functional>
 #include <string>
 
 class vtkTable;
@@ -19,6 +21,11 @@ vtkSmartPointer<vtkTable> readDelimited(const std::string& fileName);
 /// texts stand between quotes, quotes in them are doubled.
 /// @return that string, allocated with new[] and the caller's to free; null when a file was written
 char* writeDelimited(vtkTable* table, const std::string& fileName);
+
+/// Writes the same text in pieces of some thousand rows, as PlotContainer::writeTable() says.
+bool writeDelimitedInPieces(
+    vtkTable* table,
+    const std::function<bool(const char* bytes, std::size_t size, double done)>& take);
 
 } // namespace Talmesh::plot
 

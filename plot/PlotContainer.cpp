@@ -194,6 +194,11 @@ void PlotContainer::removeDrawingSteps(const QObject* owner)
   Talmesh::plot::removeSteps(*d, owner);
 }
 
+void PlotContainer::withoutDrawing(const std::function<void()>& change)
+{
+  Talmesh::plot::withoutDrawing(*d, change);
+}
+
 void PlotContainer::dirty()
 {
   Talmesh::plot::markDirty(*d);

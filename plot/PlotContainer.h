@@ -116,6 +116,13 @@ public:
   /// that the settings use.
   /// @return for an empty file name the text, allocated with new[] and the caller's; otherwise null
   char* saveData(std::string fileName, bool keepAll);
+  /// Gets a piece of a text, and the part of it that is then written, from 0 to 1; false ends the
+  /// writing.
+  using TextTaker = std::function<bool(const char* bytes, std::size_t size, double done)>;
+  /// Writes a table as saveData() does, a few thousand rows at a time. Needs no container, and may
+  /// run in any thread that alone uses the table.
+  /// @return whether all of it was taken
+  static bool writeTable(vtkTable* table, const TextTaker& take);
 
   // Appearance
   /// Solid colour of point plots, components 0 to 255. Like all setters up to setYLabel it stores
@@ -263,6 +270,11 @@ public:
   void addCondition(const QObject* owner, std::function<bool()> allows);
   /// Drops all completions, preparations and conditions of `owner`.
   void removeDrawingSteps(const QObject* owner);
+
+  /// Runs a change of the container during which no redraw() draws, neither those that the change
+  /// asks for nor the container's own: of a client that draws when it is through with all of it.
+  /// The change must not end the container.
+  void withoutDrawing(const std::function<void()>& change);
 
 public slots:
   /// Uses `data` as the table, shared and not copied. Does not draw. Null is ignored.

@@ -203,3 +203,8 @@ void PlotContainer::readDump(QByteArray* data)
   if (data)
     Talmesh::plot::restoreDump(*d, *data);
 }
+
+bool PlotContainer::writeTable(vtkTable* table, const TextTaker& take)
+{
+  return !table || Talmesh::plot::writeDelimitedInPieces(table, take);
+}

@@ -15,6 +15,7 @@
 
 #include <vtkCommand.h>
 
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include <iostream>
@@ -132,6 +133,12 @@ void redraw(PlotState& state)
   // Twice at most: steps that ask in every drawing would never come to an end.
   if (draw(state) && state.steps.again)
     draw(state);
+}
+
+void withoutDrawing(PlotState& state, const std::function<void()>& change)
+{
+  const QScopedValueRollback<bool> guard(state.steps.running, true);
+  change();
 }
 
 void markDirty(PlotState& state)

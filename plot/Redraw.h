@@ -1,6 +1,8 @@
 #ifndef Redraw_h
 #define Redraw_h
 
+#include <functional>
+
 namespace Talmesh::plot
 {
 
@@ -17,6 +19,9 @@ void redraw(PlotState& state);
 /// Asks the clients' conditions whether what the settings say may be drawn, and what a drawing
 /// needs computed. The settings speak afterwards if they did before.
 bool mayDraw(PlotState& state);
+
+/// Runs a change, during which redraw() draws nothing.
+void withoutDrawing(PlotState& state, const std::function<void()>& change);
 
 /// Asks the scene of the chart now shown, if any, to paint again.
 void markDirty(PlotState& state);

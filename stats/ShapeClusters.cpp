@@ -193,7 +193,7 @@ std::size_t countChanges(const std::vector<int>& before, const std::vector<int>&
 } // namespace
 
 ClusterCentres findClusters(const Observations& observations, std::size_t clusters,
-                            const ClusterLimits& limits)
+                            const ClusterLimits& limits, const std::function<bool(double)>& goOn)
 {
   const Shapes shapes = shapesOf(observations);
   const double scale = sumScale(shapes);
@@ -202,6 +202,8 @@ ClusterCentres findClusters(const Observations& observations, std::size_t cluste
   centres.clusters =
       observations.positions == 0 ? 1 : centres.values.size() / observations.positions;
   std::vector<int> before(observations.count, -1);
+  const auto isWanted = [&]
+  { return !goOn || goOn(static_cast<double>(centres.iterations) / limits.iterations); };
   double changed = 1.0;
   do
   {
@@ -214,7 +216,7 @@ ClusterCentres findClusters(const Observations& observations, std::size_t cluste
               static_cast<double>(observations.count);
     before.swap(closest.cluster);
     ++centres.iterations;
-  } while (changed >= limits.tolerance && centres.iterations < limits.iterations);
+  } while (changed >= limits.tolerance && centres.iterations < limits.iterations && isWanted());
   return centres;
 }
 

@@ -2,6 +2,7 @@
 #define ShapeClusters_h
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 /// k-means clusters of observations by the shape of their courses (`stats/RunShape.h`).
@@ -52,8 +53,11 @@ struct ClosestCentres
 /// clusters on any number of threads.
 /// @param observations at least one
 /// @param clusters at least 1
+/// @param goOn told before each iteration but the first how many of those allowed are done, from 0
+/// to 1; when it says false, the centres are those found so far
 ClusterCentres findClusters(const Observations& observations, std::size_t clusters,
-                            const ClusterLimits& limits);
+                            const ClusterLimits& limits,
+                            const std::function<bool(double)>& goOn = {});
 
 /// @param centres as findClusters() gives them, `observations.positions` values for each cluster
 ClosestCentres closestCentres(const Observations& observations, const std::vector<double>& centres);

@@ -186,9 +186,14 @@ void vtkShapeKMeansStatistics::Learn(vtkTable* inData, vtkTable* inParameters,
     return;
   }
   const ObservationMatrix matrix(columns, inData->GetNumberOfRows());
+  const auto goOn = [this](double done)
+  {
+    this->UpdateProgress(done);
+    return this->GetAbortExecute() == 0;
+  };
   const Talmesh::stats::ClusterCentres centres = Talmesh::stats::findClusters(
       matrix.view(), static_cast<std::size_t>(this->DefaultNumberOfClusters),
-      {this->Tolerance, this->MaxNumIterations});
+      {this->Tolerance, this->MaxNumIterations}, goOn);
   outMeta->SetNumberOfBlocks(1);
   outMeta->SetBlock(0, modelOf(centres, columns, matrix.view().positions, this->KValuesArrayName));
   outMeta->GetMetaData(0U)->Set(vtkCompositeDataSet::NAME(), "Updated Cluster Centers");

@@ -14,7 +14,8 @@
 ///
 /// Differing from the base, the first centres are the first observations that differ in shape, no
 /// more than there are, and nothing is written about clusters that lost all members: their centres
-/// are 0, as the base leaves them. Equal input gives equal clusters.
+/// are 0, as the base leaves them. Equal input gives equal clusters. Progress is told before each
+/// iteration, and whoever then has execution aborted gets the model found so far.
 ///
 /// Another distance functor, centres given on the port LEARN_PARAMETERS, requested columns that are
 /// not numeric and a request that names no column are left to the base, which knows only columns of

@@ -77,6 +77,11 @@ void LinePlotWidget::removeData()
   form->selector->setSelectionOptions(none);
 }
 
+PlotSelector* LinePlotWidget::selector() const
+{
+  return form->selector;
+}
+
 void LinePlotWidget::emptyTable()
 {
   PlotContainer* container = form->plotter->plotContainer();

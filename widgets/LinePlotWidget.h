@@ -8,6 +8,7 @@
 #include <memory>
 
 struct LinePlotData;
+class PlotSelector;
 class QLabel;
 class Ui_LinePlotWidgetClass;
 
@@ -27,6 +28,9 @@ public:
   void setData(LinePlotData* series);
   /// Shows that there are no data; the selector and the table are emptied.
   void removeData();
+
+  /// The list from which the user picks, never null.
+  PlotSelector* selector() const;
 
 public slots:
   /// Shows or hides the legend.

@@ -78,10 +78,17 @@ void VtkPlotWidget::setPlotContainer(PlotContainer* replacement)
 {
   if (!replacement)
     return;
-  container = replacement;
-  container->setScene(view->GetScene());
+  placePlotContainer(replacement);
   container->redraw();
   updatePlot(true);
+}
+
+void VtkPlotWidget::placePlotContainer(PlotContainer* replacement)
+{
+  if (!replacement)
+    return;
+  container = replacement;
+  container->setScene(view->GetScene());
 }
 
 PlotContainer* VtkPlotWidget::plotContainer() const

@@ -39,6 +39,9 @@ public:
   /// Shows another container, which stays its owner's and must be replaced here before it dies.
   /// The container that the widget made stays the widget's child. Null is ignored.
   void setPlotContainer(PlotContainer* container);
+  /// The same without drawing it, for a container that is still to be filled: it is drawn by its
+  /// next redraw, and seen after `updatePlot`.
+  void placePlotContainer(PlotContainer* container);
   /// The container shown; null after it died.
   PlotContainer* plotContainer() const;
   /// The view whose scene holds the chart.

@@ -137,6 +137,45 @@ TEST_F(DelimitedFiles, AreWrittenUnderTheirName)
   EXPECT_FALSE(read(fileName).empty());
 }
 
+TEST_F(DelimitedFiles, AreWrittenInPiecesToo)
+{
+  std::vector<double> values(10000);
+  for (std::size_t i = 0; i < values.size(); ++i)
+    values[i] = 0.1 * static_cast<double>(i);
+  const vtkSmartPointer<vtkTable> table = tableOf({{"a \"quoted\"\nname", values}, {"b", values}});
+  addStringColumn(table, "words");
+  container.setPlotData(table);
+  std::string text;
+  std::vector<double> parts;
+  const auto take = [&](const char* bytes, std::size_t size, double done)
+  {
+    text.append(bytes, size);
+    parts.push_back(done);
+    return true;
+  };
+  EXPECT_TRUE(PlotContainer::writeTable(table, take));
+  EXPECT_EQ(text, savedText());
+  EXPECT_GT(parts.size(), 2U);
+  EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+  EXPECT_EQ(parts.back(), 1.0);
+  const vtkSmartPointer<vtkTable> empty = tableOf({{"a", {}}, {"b", {}}});
+  text.clear();
+  EXPECT_TRUE(PlotContainer::writeTable(empty, take));
+  EXPECT_EQ(text, "\"a\",\"b\"\n");
+}
+
+TEST_F(DelimitedFiles, AreWrittenNoFurtherThanTheyAreTaken)
+{
+  const vtkSmartPointer<vtkTable> table = tableOf({{"a", std::vector<double>(10000, 1.0)}});
+  for (const int allowed : {0, 1, 2})
+  {
+    int pieces = 0;
+    EXPECT_FALSE(PlotContainer::writeTable(table, [&](const char*, std::size_t, double)
+                                           { return pieces++ < allowed; }));
+    EXPECT_EQ(pieces, allowed + 1);
+  }
+}
+
 TEST_F(DelimitedFiles, LeaveTheContainerAsItIsWhenEverythingIsKept)
 {
   const vtkTable* before = container.getTable();

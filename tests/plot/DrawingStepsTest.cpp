@@ -52,6 +52,25 @@ TEST_F(DrawingSteps, RunInOrderOfRegistrationAroundEveryDrawing)
   EXPECT_EQ(taken(), "abCD") << "started by the library";
 }
 
+TEST_F(DrawingSteps, DoNotRunWhileTheClientWantsNoDrawing)
+{
+  complete("C");
+  container.withoutDrawing(
+      [this]
+      {
+        container.redraw();
+        settings().setStride(2);
+        container.setPlotCols(0, 2, 0, false);
+      });
+  EXPECT_EQ(taken(), "");
+  container.redraw();
+  EXPECT_EQ(taken(), "C") << "once, and again from now on";
+  EXPECT_THROW(container.withoutDrawing([] { throw std::runtime_error("a change that fails"); }),
+               std::runtime_error);
+  settings().setStride(1);
+  EXPECT_EQ(taken(), "C");
+}
+
 TEST_F(DrawingSteps, RunInEveryStyle)
 {
   complete("C");

@@ -95,6 +95,21 @@ TEST(ShapeClusters, EndAtTheGivenNumberOfAssignments)
   EXPECT_EQ(findClusters(rowsOf(values, 5), 4, {2.0, 50}).iterations, 1);
 }
 
+TEST(ShapeClusters, TellHowFarTheyAreAndEndWhenTheyAreNotWanted)
+{
+  Values values;
+  for (int i = 0; i < 40 * 5; ++i)
+    values.push_back(std::sin(1.7 * i * i));
+  Values parts;
+  const auto goOn = [&parts](double done)
+  {
+    parts.push_back(done);
+    return parts.size() < 2;
+  };
+  EXPECT_EQ(findClusters(rowsOf(values, 5), 4, {0.0, 4}, goOn).iterations, 2);
+  EXPECT_EQ(parts, (Values{0.25, 0.5}));
+}
+
 TEST(ParallelParts, CoverEveryItemOnce)
 {
   for (const std::size_t count : {0U, 1U, 7U, 8U, 1000U})
