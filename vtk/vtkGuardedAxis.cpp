@@ -1,14 +1,19 @@
 #include "vtk/vtkGuardedAxis.h"
 
+#include <vtkContext2D.h>
 #include <vtkDoubleArray.h>
 #include <vtkFloatArray.h>
 #include <vtkObjectFactory.h>
 #include <vtkStringArray.h>
+#include <vtkTextProperty.h>
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <limits>
+#include <string>
 #include <utility>
+#include <vector>
 
 vtkStandardNewMacro(vtkGuardedAxis);
 
@@ -62,6 +67,38 @@ int decadeStep(double span)
   }
 }
 
+float widthOf(vtkContext2D* painter, const std::string& text)
+{
+  float bounds[4] = {};
+  painter->ComputeStringBounds(text, bounds);
+  return bounds[2];
+}
+
+/// The text, or as much of its beginning and end as the width has room for, with three dots
+/// between. Never cuts a character of several bytes.
+std::string shortened(vtkContext2D* painter, vtkTextProperty* properties, const std::string& text,
+                      float width)
+{
+  if (text.empty() || !(width > 0.0F))
+    return text;
+  painter->ApplyTextProp(properties);
+  std::vector<std::size_t> starts;
+  for (std::size_t i = 0; i < text.size(); ++i)
+    if ((static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U)
+      starts.push_back(i);
+  std::string shown = text;
+  for (std::size_t kept = starts.size(); kept > 1 && widthOf(painter, shown) > width;)
+  {
+    // A fraction at a time: each width is found by laying the text out.
+    kept -= std::max<std::size_t>(1, kept / 16);
+    const std::size_t front = kept - kept / 2;
+    const std::size_t back = kept / 2;
+    shown = text.substr(0, starts[front]) + "..." +
+            (back > 0 ? text.substr(starts[starts.size() - back]) : std::string());
+  }
+  return shown;
+}
+
 } // namespace
 
 void vtkGuardedAxis::SetRange(double minimum, double maximum)
@@ -113,7 +150,13 @@ bool vtkGuardedAxis::Paint(vtkContext2D* painter)
     TickScenePositions->SetNumberOfTuples(
         std::min(TickScenePositions->GetNumberOfTuples(), TickLabels->GetNumberOfValues()));
   }
-  return Superclass::Paint(painter);
+  // Assigned, not set: what is painted is no change of the axis.
+  const auto title = Title;
+  if (Visible && Position != LEFT && Position != RIGHT)
+    Title = shortened(painter, TitleProperties, title, std::fabs(Point2[0] - Point1[0]));
+  const bool painted = Superclass::Paint(painter);
+  Title = title;
+  return painted;
 }
 
 bool vtkGuardedAxis::Walkable() const

@@ -214,3 +214,42 @@ TEST_F(GuardedAxis, KeepsTicksOfItsOwner)
 }
 
 } // namespace
+
+TEST_F(GuardedAxis, PaintsBeginningAndEndOfATitleThatIsWiderThanItself)
+{
+  // The recording device has 6 pixels for each byte, so 66 of them fit.
+  const std::string title =
+      "rate of phosphorylation " + std::string(200, 'x') + "\u00e4\u00e4 [1/s]";
+  RecordingPainter recording;
+  const auto paintedTitle = [&](const std::string& text, int position)
+  {
+    axis->SetPosition(position);
+    axis->SetPoint2(position == vtkAxis::BOTTOM ? 450.0F : 50.0F,
+                    position == vtkAxis::BOTTOM ? 50.0F : 450.0F);
+    axis->SetTitle(text);
+    axis->Update();
+    for (const std::string& shown : painted(recording))
+      if (shown.size() > 10)
+        return shown;
+    return std::string();
+  };
+  const std::string cut = paintedTitle(title, vtkAxis::BOTTOM);
+  EXPECT_LE(cut.size(), 66U);
+  EXPECT_GT(cut.size(), 55U) << "no shorter than it must be";
+  EXPECT_EQ(cut.rfind("rate of phosphorylation ", 0), 0U) << cut;
+  EXPECT_NE(cut.find("..."), std::string::npos) << cut;
+  EXPECT_EQ(cut.substr(cut.size() - 6), " [1/s]") << cut;
+  EXPECT_EQ(axis->GetTitle(), title) << "what is painted is no change of the axis";
+  const std::string fits(66, 'x');
+  EXPECT_EQ(paintedTitle(fits, vtkAxis::BOTTOM), fits);
+  EXPECT_EQ(paintedTitle(title, vtkAxis::LEFT), title) << "nothing stands above or below it";
+  for (std::size_t length = 60; length < 80; ++length)
+  {
+    std::string wide;
+    while (wide.size() < 2 * length)
+      wide += "\u00e4";
+    const std::string shown = paintedTitle(wide, vtkAxis::BOTTOM);
+    EXPECT_LE(shown.size(), 66U);
+    EXPECT_EQ(shown.size() % 2, 1U) << "a character is cut in two: " << shown;
+  }
+}
