@@ -244,7 +244,7 @@ std::string read(const QCommandLineParser& line, CommandLineOptions& options)
 
 } // namespace
 
-ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments)
+Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& arguments)
 {
   QCommandLineParser line;
   const QCommandLineOption help(QStringList{QStringLiteral("help"), QStringLiteral("h")});
@@ -257,16 +257,15 @@ ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments)
     all.append(QFile::decodeName(argument.c_str()));
 
   const bool sound = line.parse(all);
-  ParsedCommandLine parsed;
+  CommandLineOptions options;
   // Help is given however wrong the rest is.
-  parsed.options.help = line.isSet(help);
-  parsed.options.version = !parsed.options.help && line.isSet(version);
-  if (parsed.options.help || parsed.options.version)
-    return parsed;
-  parsed.error = sound ? read(line, parsed.options) : refusal(line, all.back());
-  if (!parsed.error.empty())
-    parsed.options = CommandLineOptions();
-  return parsed;
+  options.help = line.isSet(help);
+  options.version = !options.help && line.isSet(version);
+  if (options.help || options.version)
+    return options;
+  const std::string error = sound ? read(line, options) : refusal(line, all.back());
+  return error.empty() ? Result<CommandLineOptions>(options)
+                       : Result<CommandLineOptions>::failed(error);
 }
 
 std::string commandLineHelp()

@@ -2,6 +2,7 @@
 #define CommandLine_h
 
 #include "app/document/PlotWishes.h"
+#include "app/import/Result.h"
 #include "widgets/ScenePainter.h"
 
 #include <optional>
@@ -33,19 +34,11 @@ struct CommandLineOptions : OpeningWishes
   bool writesOnly() const { return !exports.empty() || !gallery.empty(); }
 };
 
-/// Options, or why there are none.
-struct ParsedCommandLine
-{
-  CommandLineOptions options;
-  /// One line without a line end; empty on success.
-  std::string error;
-};
-
 /// Reads the arguments after the program's name, as the system hands them over. A value follows its
 /// option as the next argument or behind "=". After "--" every argument is a file. `--y` may be
 /// repeated; a comma separates names. Nothing is checked against the disk. With `--help` or
 /// `--version` nothing else matters.
-ParsedCommandLine parseCommandLine(const std::vector<std::string>& arguments);
+Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& arguments);
 
 /// The text of `--help`, several lines, the last one ended.
 std::string commandLineHelp();

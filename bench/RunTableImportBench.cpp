@@ -41,9 +41,9 @@ void importTable(benchmark::State& state)
   const std::string text = tableOfRuns(static_cast<int>(state.range(0)));
   for (auto _ : state)
   {
-    const Talmesh::app::ImportedTable table = Talmesh::app::importRunTable(text);
-    if (!table.runs)
-      state.SkipWithError(table.error.c_str());
+    const auto table = Talmesh::app::importRunTable(text);
+    if (!table.hasValue())
+      state.SkipWithError(table.error().c_str());
   }
   state.SetComplexityN(state.range(0));
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));

@@ -51,11 +51,12 @@ void checkTable(vtkTable* table)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
-  const ImportedTable imported = importRunTable(text);
-  require(!imported.cancelled);
-  require((imported.runs ? 1 : 0) + (imported.table ? 1 : 0) + (imported.error.empty() ? 0 : 1) ==
-          1);
-  require(isOneLine(imported.error));
+  const Result<ImportedTable> read = importRunTable(text);
+  require(!read.isCancelled() && isOneLine(read.error()));
+  if (!read.hasValue())
+    return 0;
+  const ImportedTable& imported = read.value();
+  require((imported.runs != nullptr) != (imported.table != nullptr));
   for (const std::string& note : imported.notes)
     require(isOneLine(note));
   if (imported.runs)

@@ -70,11 +70,12 @@ int columnsOf(const DumpedTable& table)
 }
 
 /// @return the columns; -1 when there is no table
-int checkTable(const DumpedTable& table)
+int checkTable(const Result<DumpedTable>& read)
 {
-  require(!table.cancelled && isOneLine(table.error));
-  if (!table.error.empty())
+  require(!read.isCancelled() && isOneLine(read.error()));
+  if (!read.hasValue())
     return -1;
+  const DumpedTable& table = read.value();
   require((table.study.runs != nullptr) != (table.study.table != nullptr));
   const vtkIdType rows = rowsOf(table.study);
   require(rows > 0);
@@ -102,15 +103,15 @@ void checkLists(const PlotMetaData& plot)
 /// What was read can be written, and reads back as the same.
 void checkSettings(const QByteArray& text, int columns)
 {
-  const ReadSessionSettings read = readSettings(text, columns);
-  require(isOneLine(read.error));
-  if (!read.error.empty())
+  const Result<SessionSettings> read = readSettings(text, columns);
+  require(isOneLine(read.error()));
+  if (!read.hasValue())
     return;
-  checkLists(*read.settings.plot);
-  require(read.settings.parameterRanges.size() <= static_cast<std::size_t>(columns));
+  checkLists(*read.value().plot);
+  require(read.value().parameterRanges.size() <= static_cast<std::size_t>(columns));
   const QByteArray written =
-      settingsText(readSettings(settingsText(read.settings), columns).settings);
-  require(settingsText(readSettings(written, columns).settings) == written);
+      settingsText(readSettings(settingsText(read.value()), columns).value());
+  require(settingsText(readSettings(written, columns).value()) == written);
 }
 
 } // namespace
@@ -128,8 +129,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
   const int split = bytes.contains('\0') ? bytes.indexOf('\0') : bytes.size();
   const QByteArray text = bytes.left(split);
-  const SessionSettings settings = readSettings(text, mostSessionColumns).settings;
-  const DumpedTable table =
+  const Result<SessionSettings> read = readSettings(text, mostSessionColumns);
+  const SessionSettings settings = read.hasValue() ? read.value() : SessionSettings();
+  const Result<DumpedTable> table =
       readStudyDump(bytes.mid(split), settings.pointsPerRun, settings.parameterRanges);
   checkSettings(text, std::max(0, checkTable(table)));
   return 0;

@@ -11,6 +11,8 @@
 #include <vtkChartXY.h>
 #include <vtkTable.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <exception>
 #include <tuple>
@@ -141,12 +143,12 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice,
   return {};
 }
 
-FoundColumn findColumn(const PlotContainer& container, const std::string& name)
+Result<int> findColumn(const PlotContainer& container, const std::string& name)
 {
   vtkTable* table = container.getTable();
   const int whole = plot::columnIndex(table, name);
   if (whole >= 0)
-    return {whole, {}};
+    return whole;
   std::vector<int> matches;
   for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
     if (columnLabel(container, column) == name)
@@ -157,13 +159,30 @@ FoundColumn findColumn(const PlotContainer& container, const std::string& name)
   if (matches.empty())
     matches = columnsOfRole(table, name);
   if (matches.size() == 1)
-    return {matches.front(), {}};
+    return matches.front();
   if (matches.empty())
-    return {-1, withValues(translated("PlotChoice", "no such column: %1; the columns are %2"),
-                           {name, allNames(container)})};
-  return {-1, withValues(translated("PlotChoice", "more than one column is named %1: %2 and %3"),
-                         {name, plot::columnName(table, matches[0]),
-                          plot::columnName(table, matches[1])})};
+    return Result<int>::failed(
+        withValues(translated("PlotChoice", "no such column: %1; the columns are %2"),
+                   {name, allNames(container)}));
+  return Result<int>::failed(
+      withValues(translated("PlotChoice", "more than one column is named %1: %2 and %3"),
+                 {name, plot::columnName(table, matches[0]), plot::columnName(table, matches[1])}));
+}
+
+QString remarkOn(const PlotChoice& choice, const PlotContainer& container)
+{
+  const ViewerStyle& style = viewerStyle(choice.style);
+  if (choice.y.empty() && !style.hasColumnsAsAxes)
+    return QCoreApplication::translate("PlotChoice",
+                                       "No y column is ticked: nothing to show over x");
+  if (!style.controls.legend)
+    return {};
+  const PlotChoice drawn = choiceOf(container);
+  const bool linear =
+      (drawn.logX && !container.showsLogScaleX()) || (drawn.logY && !container.showsLogScaleY());
+  return linear ? QCoreApplication::translate(
+                      "PlotChoice", "Linear scale: a logarithmic one needs positive values")
+                : QString();
 }
 
 namespace
@@ -171,7 +190,7 @@ namespace
 
 /// Joins names again where a comma stood inside a column's name: the longest name that exists wins.
 /// @return the column, and how many of the names from `first` on are its name
-std::pair<FoundColumn, std::size_t>
+std::pair<Result<int>, std::size_t>
 findJoined(const PlotContainer& container, const std::vector<std::string>& names, std::size_t first)
 {
   for (std::size_t count = names.size() - first; count > 1; --count)
@@ -179,8 +198,8 @@ findJoined(const PlotContainer& container, const std::vector<std::string>& names
     std::string joined = names[first];
     for (std::size_t i = first + 1; i < first + count; ++i)
       joined += ',' + names[i];
-    const FoundColumn found = findColumn(container, joined);
-    if (found.error.empty())
+    const Result<int> found = findColumn(container, joined);
+    if (found.hasValue())
       return {found, count};
   }
   return {findColumn(container, names[first]), 1};
@@ -198,9 +217,10 @@ std::string chooseByName(const PlotContainer& container, const PlotWishes& wishe
   {
     if (name.empty() || !error.empty())
       return;
-    const FoundColumn found = findColumn(container, name);
-    error = found.error;
-    column = found.column;
+    const Result<int> found = findColumn(container, name);
+    error = found.error();
+    if (found.hasValue())
+      column = found.value();
   };
   choose(wishes.x, choice.x);
   choose(wishes.z, choice.z);
@@ -209,8 +229,9 @@ std::string chooseByName(const PlotContainer& container, const PlotWishes& wishe
   for (std::size_t i = 0; i < wishes.y.size() && error.empty();)
   {
     const auto [found, count] = findJoined(container, wishes.y, i);
-    error = found.error;
-    choice.y.push_back(found.column);
+    error = found.error();
+    if (found.hasValue())
+      choice.y.push_back(found.value());
     i += count;
   }
   return error;

@@ -2,6 +2,9 @@
 #define PlotChoice_h
 
 #include "app/document/PlotWishes.h"
+#include "app/import/Result.h"
+
+#include <QString>
 
 #include <functional>
 #include <string>
@@ -17,7 +20,7 @@ struct PlotChoice
 {
   plotStyles style = xyPlot;
   int x = 0;
-  /// The columns over x; the first one first in the legend. Never empty when applied.
+  /// The columns over x; the first one first in the legend. Without any, charts of y are empty.
   std::vector<int> y{1};
   int z = 2;
   /// Lines, one per run, instead of points in the XY plot.
@@ -46,17 +49,12 @@ std::string whyNotDone(const std::function<void()>& drawing);
 std::string applyChoice(PlotContainer& container, const PlotChoice& choice,
                         const std::function<std::string()>& draw = {});
 
-/// A column, or why there is none.
-struct FoundColumn
-{
-  int column = -1;
-  /// One line; empty on success.
-  std::string error;
-};
+/// How what a container has drawn differs from the choice, in one line; empty if it does not.
+QString remarkOn(const PlotChoice& choice, const PlotContainer& container);
 
 /// Finds a column by its whole name, else by its name without the kind, else by what a table's
 /// header calls its time or its runs, which may have got another name in the import.
-FoundColumn findColumn(const PlotContainer& container, const std::string& name);
+Result<int> findColumn(const PlotContainer& container, const std::string& name);
 
 /// Writes the style and the columns that the wishes name into `choice`. Names of y columns
 /// that a comma has parted count as one where a column has that name.

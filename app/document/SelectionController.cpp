@@ -168,11 +168,6 @@ void SelectionController::observe(PlotContainer* observed, QUndoStack& itsStack)
   group.setActiveStack(&itsStack);
 }
 
-void SelectionController::restartHistory()
-{
-  history.restart();
-}
-
 void SelectionController::stopObserving()
 {
   if (link)
@@ -226,10 +221,10 @@ std::string SelectionController::save(const QString& path) const
 
 std::string SelectionController::load(const QString& path)
 {
-  LoadedRunSelection loaded = loadRunSelection(path);
-  if (!loaded.error.empty())
-    return loaded.error;
-  const std::set<int>& wanted = loaded.selection.runs;
+  const Result<ParameterSelection> loaded = loadRunSelection(path);
+  if (!loaded.hasValue())
+    return loaded.error();
+  const std::set<int>& wanted = loaded.value().runs;
   std::set<int> missing = wanted;
   std::vector<vtkIdType> rows;
   const auto present = container ? plot::wholeRuns(stateOf(*container)) : Runs();

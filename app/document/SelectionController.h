@@ -35,8 +35,6 @@ public:
   /// followed last and to its history.
   void visit(PlotContainer* container);
   void endVisit();
-  /// For a table that has been replaced in the same container.
-  void restartHistory();
 
   /// Selects everything: every row, or, where runs are drawn as lines, the first row of each run if
   /// that counts as all runs everywhere.

@@ -29,6 +29,15 @@ public:
 
   static Result cancelled() { return Result(); }
 
+  /// What another result without a value says: why there is none, or that it was given up.
+  template <typename Other>
+  static Result without(const Result<Other>& other)
+  {
+    Result result;
+    result.reason = other.error();
+    return result;
+  }
+
   bool hasValue() const { return held.has_value(); }
   bool isCancelled() const { return !held && reason.empty(); }
   /// Why there is no value, in one line; empty with a value, and for what was given up.

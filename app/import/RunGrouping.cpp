@@ -66,7 +66,7 @@ std::vector<std::size_t> startsByTime(const RunColumns& columns)
   return starts;
 }
 
-RunGrouping groupByTime(const RunColumns& columns)
+Result<RunGrouping> groupByTime(const RunColumns& columns)
 {
   const std::vector<std::size_t> starts = startsByTime(columns);
   std::vector<std::size_t> lengths;
@@ -76,14 +76,14 @@ RunGrouping groupByTime(const RunColumns& columns)
   grouping.numberOfRuns = starts.size();
   grouping.pointsPerRun = usualLength(lengths);
   const std::size_t odd = oddRun(lengths, grouping.pointsPerRun);
+  if (odd == 0)
+    return Result<RunGrouping>::failed(unequalRun("0", lengths[0], grouping.pointsPerRun));
   if (odd < lengths.size())
-    grouping.error = withValues(
+    return Result<RunGrouping>::failed(withValues(
         translated("RunGrouping",
                    "run %1 (from line %2, where time falls back) has %3, other runs have %4"),
         {std::to_string(odd), std::to_string((*columns.lines)[starts[odd]]), points(lengths[odd]),
-         std::to_string(grouping.pointsPerRun)});
-  if (odd == 0 && !grouping.error.empty())
-    grouping.error = unequalRun("0", lengths[0], grouping.pointsPerRun);
+         std::to_string(grouping.pointsPerRun)}));
   grouping.indices.resize(grouping.numberOfRuns);
   std::iota(grouping.indices.begin(), grouping.indices.end(), 0.0);
   return grouping;
@@ -169,7 +169,7 @@ std::string orderByTime(const RunColumns& columns, RowsOfRuns& rows)
   return {};
 }
 
-RunGrouping groupByName(const RunColumns& columns)
+Result<RunGrouping> groupByName(const RunColumns& columns)
 {
   RowsOfRuns rows = rowsOfRuns(columns);
   const std::size_t count = rows.size();
@@ -179,13 +179,13 @@ RunGrouping groupByName(const RunColumns& columns)
   RunGrouping grouping;
   grouping.numberOfRuns = count;
   grouping.pointsPerRun = usualLength(lengths);
-  grouping.error = orderByTime(columns, rows);
+  const std::string unsorted = orderByTime(columns, rows);
+  if (!unsorted.empty())
+    return Result<RunGrouping>::failed(unsorted);
   const std::size_t odd = oddRun(lengths, grouping.pointsPerRun);
-  if (grouping.error.empty() && odd < count)
-    grouping.error =
-        unequalRun(quotedForMessage((*columns.names)[odd]), lengths[odd], grouping.pointsPerRun);
-  if (!grouping.error.empty())
-    return grouping;
+  if (odd < count)
+    return Result<RunGrouping>::failed(
+        unequalRun(quotedForMessage((*columns.names)[odd]), lengths[odd], grouping.pointsPerRun));
 
   grouping.runs.resize(count);
   std::iota(grouping.runs.begin(), grouping.runs.end(), 0);
@@ -209,7 +209,7 @@ RunGrouping groupByName(const RunColumns& columns)
 
 } // namespace
 
-RunGrouping groupRuns(const RunColumns& columns)
+Result<RunGrouping> groupRuns(const RunColumns& columns)
 {
   return columns.run ? groupByName(columns) : groupByTime(columns);
 }

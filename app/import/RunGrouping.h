@@ -1,6 +1,8 @@
 #ifndef RunGrouping_h
 #define RunGrouping_h
 
+#include "app/import/Result.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -35,8 +37,6 @@ struct RunGrouping
   /// The numbers of the runs: the names as numbers when all are different whole numbers, which
   /// also puts the runs into ascending order; else 0, 1, 2, ...
   std::vector<double> indices;
-  /// Why the rows are not runs of equal length, in one line; empty on success.
-  std::string error;
 };
 
 /// Finds the runs: by the run column, whose rows need not be contiguous, else by time: a run
@@ -44,7 +44,7 @@ struct RunGrouping
 /// time falls back are sorted by time when no two of them share one; otherwise two runs of the same
 /// name would be taken for one, which is an error. Messages count runs without a name from 0, as
 /// their indices do.
-RunGrouping groupRuns(const RunColumns& columns);
+Result<RunGrouping> groupRuns(const RunColumns& columns);
 
 } // namespace Talmesh::app
 

@@ -126,7 +126,7 @@ std::string noteOnMissingTime(const TableText& text, std::size_t pointsPerRun)
                           "There is no time column, so the rows are not taken for runs.");
 }
 
-RunGrouping groupingOf(const TableText& text)
+Result<RunGrouping> groupingOf(const TableText& text)
 {
   RunColumns columns;
   columns.rows = text.rows;
@@ -154,23 +154,21 @@ bool hasNumbers(const TableText& text)
 
 } // namespace
 
-ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress,
-                             const TextPassed& passed)
+Result<ImportedTable> importRunTable(std::string_view bytes, const ImportProgress& progress,
+                                     const TextPassed& passed)
 {
-  TableText text = readTableText(bytes, progress, passed);
-  ImportedTable imported;
-  imported.cancelled = text.cancelled;
-  imported.error = std::move(text.error);
-  if (imported.cancelled || !imported.error.empty())
-    return imported;
-  imported.error = hasNumbers(text) ? mistypedCell(text) : noNumbers();
-  if (!imported.error.empty())
-    return imported;
+  using Imported = Result<ImportedTable>;
+  Result<TableText> read = readTableText(bytes, progress, passed);
+  if (!read.hasValue())
+    return Imported::without(read);
+  TableText& text = read.value();
+  const std::string refused = hasNumbers(text) ? mistypedCell(text) : noNumbers();
+  if (!refused.empty())
+    return Imported::failed(refused);
   LeftOutColumns leftOut = leftOutOf(text);
   if (std::find(leftOut.flags.begin(), leftOut.flags.end(), false) == leftOut.flags.end())
-    imported.error = noNumbers();
-  if (!imported.error.empty())
-    return imported;
+    return Imported::failed(noNumbers());
+  ImportedTable imported;
   imported.notes = std::move(leftOut.notes);
   const auto addNote = [&imported](const std::string& note)
   {
@@ -183,12 +181,11 @@ ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progr
     imported.table = plainTable(text, leftOut.flags);
     return imported;
   }
-  const RunGrouping grouping = groupingOf(text);
-  imported.error = grouping.error;
-  if (!imported.error.empty())
-    return imported;
-  addNote(noteOnMissingTime(text, grouping.pointsPerRun));
-  const BuiltRuns built = buildRunTable(text, leftOut.flags, grouping);
+  const Result<RunGrouping> grouping = groupingOf(text);
+  if (!grouping.hasValue())
+    return Imported::without(grouping);
+  addNote(noteOnMissingTime(text, grouping.value().pointsPerRun));
+  const BuiltRuns built = buildRunTable(text, leftOut.flags, grouping.value());
   imported.runs = built.runs;
   for (const std::string& parameter : built.unvariedParameters)
     addNote(noteOnUnvaried(parameter));

@@ -2,6 +2,7 @@
 #define RunTableImport_h
 
 #include "app/import/ImportProgress.h"
+#include "app/import/Result.h"
 #include "app/import/TableText.h"
 #include "external/LinePlotTable.h"
 
@@ -17,17 +18,13 @@
 namespace Talmesh::app
 {
 
-/// What a user's table turned out to hold. Exactly one of `runs`, `table`, `error` and
-/// `cancelled` is set. Texts are UTF-8.
+/// What a user's table turned out to hold: runs or a table. Texts are UTF-8.
 struct ImportedTable
 {
   /// Runs of equal length, one after another.
   boost::shared_ptr<LinePlotTable> runs;
   /// A table of double columns without an order of rows: no time, no run, no typed header.
   vtkSmartPointer<vtkTable> table;
-  /// Why the text is not a table, in one line.
-  std::string error;
-  bool cancelled = false;
   /// What the user should know although the import succeeded, one line each.
   std::vector<std::string> notes;
 };
@@ -51,8 +48,8 @@ struct ImportedTable
 ///
 /// Needs memory in proportion to the size of the text, which it lets go as TextPassed says. Touches
 /// no object of other threads.
-ImportedTable importRunTable(std::string_view bytes, const ImportProgress& progress = {},
-                             const TextPassed& passed = {});
+Result<ImportedTable> importRunTable(std::string_view bytes, const ImportProgress& progress = {},
+                                     const TextPassed& passed = {});
 
 } // namespace Talmesh::app
 

@@ -83,6 +83,12 @@ Study lastPoints(const Study& study)
   return {study.name, last, nullptr};
 }
 
+int runsOverTime(const Study& study)
+{
+  const bool runs = study.runs && study.runs->pointsPerTrajectory > 1;
+  return runs ? static_cast<int>(study.runs->numberOfTrajectories) : 0;
+}
+
 std::string studySize(const Study& study)
 {
   if (study.runs)

@@ -32,6 +32,9 @@ struct Study
 /// table itself.
 Study lastPoints(const Study& study);
 
+/// How many runs of several points there are; 0 for data without runs over time.
+int runsOverTime(const Study& study);
+
 /// How much is loaded, in one line: "400 runs, 200 points each, 4 parameters". Parameters that are
 /// the same in all runs do not count; parameter values that are missing are named if there are any.
 std::string studySize(const Study& study);

@@ -98,16 +98,18 @@ public:
   {
   }
 
-  TableText read()
+  Result<TableText> read()
   {
     readHeaders();
-    if (table.error.empty())
+    if (error.empty())
       readRows();
-    if (table.error.empty() && !table.cancelled)
+    if (cancelled)
+      return Result<TableText>::cancelled();
+    if (error.empty())
       chooseRunColumn();
-    if (table.error.empty() && !table.cancelled)
-      table.error = ambiguousCell(table.columns);
-    return std::move(table);
+    if (error.empty())
+      error = ambiguousCell(table.columns);
+    return error.empty() ? Result<TableText>(std::move(table)) : Result<TableText>::failed(error);
   }
 
 private:
@@ -120,17 +122,16 @@ private:
     while (found && isBlankRecord(fields) && (fields.size() > 1 || !fields.front().empty()))
       found = records.next(fields);
     if (!found)
-      table.error = translated("TableText", "the file is empty");
+      error = translated("TableText", "the file is empty");
     else if (records.endedInsideQuotes())
-      table.error =
-          withValues(translated("TableText", "line %1: a quoted name is not closed"), {line()});
+      error = withValues(translated("TableText", "line %1: a quoted name is not closed"), {line()});
     else
       dropTrailingEmptyFields(1);
-    if (table.error.empty() && fields.size() > mostColumns)
-      table.error =
+    if (error.empty() && fields.size() > mostColumns)
+      error =
           withValues(translated("TableText", "the table has %1 columns; at most %2 can be read"),
                      {std::to_string(fields.size()), std::to_string(mostColumns)});
-    if (!table.error.empty())
+    if (!error.empty())
       return;
     const bool numbersOnly =
         std::all_of(fields.begin(), fields.end(),
@@ -138,8 +139,7 @@ private:
                     { return readNumber(field, commas()).kind == NumberText::Kind::Number; });
     if (numbersOnly)
     {
-      table.error =
-          translated("TableText", "the first line holds numbers, not the names of the columns");
+      error = translated("TableText", "the first line holds numbers, not the names of the columns");
       return;
     }
     std::vector<std::string> headers;
@@ -152,10 +152,10 @@ private:
 
   void readRows()
   {
-    while (table.error.empty() && records.next(fields))
+    while (error.empty() && records.next(fields))
     {
       if (records.endedInsideQuotes())
-        table.error =
+        error =
             withValues(translated("TableText", "line %1: a quoted field is not closed"), {line()});
       else if (table.columns.size() > 1 && isBlankRecord(fields))
         continue;
@@ -166,8 +166,8 @@ private:
       if (table.rows % rowsBetweenReports == 0 && !report())
         return;
     }
-    if (table.error.empty() && table.rows == 0)
-      table.error = translated("TableText", "the table has no rows below its headers");
+    if (error.empty() && table.rows == 0)
+      error = translated("TableText", "the table has no rows below its headers");
   }
 
   /// Columns that grow as they fill hold up to three times what they need. Memory that is asked for
@@ -188,9 +188,9 @@ private:
   {
     if (passed)
       passed(records.position());
-    table.cancelled = progress && !progress(static_cast<double>(records.position()) /
-                                            static_cast<double>(text.size()));
-    return !table.cancelled;
+    cancelled = progress && !progress(static_cast<double>(records.position()) /
+                                      static_cast<double>(text.size()));
+    return !cancelled;
   }
 
   bool rowFits()
@@ -198,7 +198,7 @@ private:
     dropTrailingEmptyFields(table.columns.size());
     if (fields.size() == table.columns.size())
       return true;
-    table.error =
+    error =
         fields.size() == 1
             ? withValues(translated("TableText", "line %1 has 1 field, the first line has %2"),
                          {line(), std::to_string(table.columns.size())})
@@ -253,7 +253,7 @@ private:
   void takeRuns(int column, RunNames& names)
   {
     if (names.unnamedLine > 0)
-      table.error = withValues(
+      error = withValues(
           translated("TableText", "line %1: the run has no name in the column %2"),
           {std::to_string(names.unnamedLine), quotedForMessage(table.roles.headers[column].name)});
     table.roles.runColumn = column;
@@ -273,17 +273,19 @@ private:
   /// One for each of the roles' run candidates.
   std::vector<RunNames> candidates;
   TableText table;
+  /// Why there is none, in one line.
+  std::string error;
+  bool cancelled = false;
 };
 
 } // namespace
 
-TableText readTableText(std::string_view bytes, const ImportProgress& progress,
-                        const TextPassed& passed)
+Result<TableText> readTableText(std::string_view bytes, const ImportProgress& progress,
+                                const TextPassed& passed)
 {
-  TableText table;
-  table.error = unreadable(bytes);
-  if (!table.error.empty())
-    return table;
+  const std::string refused = unreadable(bytes);
+  if (!refused.empty())
+    return Result<TableText>::failed(refused);
   return TableTextReader(withoutByteOrderMark(bytes), progress, passed).read();
 }
 

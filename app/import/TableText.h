@@ -3,6 +3,7 @@
 
 #include "app/import/ColumnRoles.h"
 #include "app/import/ImportProgress.h"
+#include "app/import/Result.h"
 
 #include <cstddef>
 #include <functional>
@@ -48,8 +49,6 @@ struct TableText
   /// The run of each row, into `runNames`; empty without a run column.
   std::vector<int> runOfRow;
   std::vector<std::string> runNames;
-  std::string error;
-  bool cancelled = false;
 };
 
 /// Told how many bytes of a text, from its first one on, will not be looked at again.
@@ -59,8 +58,8 @@ using TextPassed = std::function<void(std::size_t)>;
 /// beyond them and, in a table of several columns, blank rows, as spreadsheets leave them, are
 /// ignored. A column with a name of runs whose cells are numbers, not all of them whole, does not
 /// name runs, and the next one with such a name does.
-TableText readTableText(std::string_view bytes, const ImportProgress& progress,
-                        const TextPassed& passed = {});
+Result<TableText> readTableText(std::string_view bytes, const ImportProgress& progress,
+                                const TextPassed& passed = {});
 
 } // namespace Talmesh::app
 

@@ -169,39 +169,41 @@ std::string objectionTo(const ReadColumns& columns)
 
 } // namespace
 
-DumpedTable readStudyDump(const QByteArray& dump, int pointsPerRun,
-                          const std::vector<std::pair<double, double>>& ranges,
-                          const ImportProgress& progress)
+Result<DumpedTable> readStudyDump(const QByteArray& dump, int pointsPerRun,
+                                  const std::vector<std::pair<double, double>>& ranges,
+                                  const ImportProgress& progress)
 {
+  using Read = Result<DumpedTable>;
   PlotMetaData settings;
   plot::PlotState read;
   read.metaData = &settings;
   // A file has every value that was saved: zeros in their place would look like data.
   plot::readDump(read, dump, 0.0);
-  DumpedTable result;
-  result.cancelled = progress && !progress(dumpPart);
-  if (result.cancelled)
-    return result;
+  if (progress && !progress(dumpPart))
+    return Read::cancelled();
   const vtkIdType rows = read.table->GetNumberOfRows();
   ReadColumns columns(read.table);
-  result.error = objectionTo(columns);
-  if (!result.error.empty())
-    return result;
-  result.selected = vtkIntArray::SafeDownCast(columns.take(plot::selectionFlagColumn));
+  const std::string refused = objectionTo(columns);
+  if (!refused.empty())
+    return Read::failed(refused);
+  DumpedTable table;
+  table.selected = vtkIntArray::SafeDownCast(columns.take(plot::selectionFlagColumn));
+  bool complete = false;
   if (pointsPerRun > 0)
   {
     RunTaker taker(read.columnItems, columns, ranges);
-    result.study.runs = taker.take(rows, pointsPerRun, progress);
-    result.cancelled = taker.cancelled();
-    result.further = columns.rest();
+    table.study.runs = taker.take(rows, pointsPerRun, progress);
+    if (taker.cancelled())
+      return Read::cancelled();
+    table.further = columns.rest();
+    complete = table.study.runs != nullptr;
   }
   else
-    result.study.table = columns.rest();
-  const bool complete = pointsPerRun > 0 ? result.study.runs != nullptr
-                                         : rows > 0 && result.study.table->GetNumberOfColumns() > 0;
-  if (!complete && !result.cancelled)
-    result.error = damaged();
-  return result;
+  {
+    table.study.table = columns.rest();
+    complete = rows > 0 && table.study.table->GetNumberOfColumns() > 0;
+  }
+  return complete ? Read(table) : Read::failed(damaged());
 }
 
 } // namespace Talmesh::app

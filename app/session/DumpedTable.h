@@ -1,6 +1,7 @@
 #ifndef DumpedTable_h
 #define DumpedTable_h
 
+#include "app/import/Result.h"
 #include "app/import/RunTableImport.h"
 #include "app/import/Study.h"
 #include "app/import/TableText.h"
@@ -30,18 +31,15 @@ struct DumpedTable
   vtkSmartPointer<vtkTable> further;
   /// 1 for each selected row; null when nothing is known.
   vtkSmartPointer<vtkIntArray> selected;
-  /// One line; empty on success.
-  std::string error;
-  bool cancelled = false;
 };
 
 /// Reads a dump as dumpStudy() writes it. It is refused when a value is missing, an item has no
 /// column of its own or there are too many columns.
 /// @param pointsPerRun 0 for a table without runs
 /// @param ranges the bounds of the parameters; those that are missing are found from the values
-DumpedTable readStudyDump(const QByteArray& dump, int pointsPerRun,
-                          const std::vector<std::pair<double, double>>& ranges,
-                          const ImportProgress& progress = {});
+Result<DumpedTable> readStudyDump(const QByteArray& dump, int pointsPerRun,
+                                  const std::vector<std::pair<double, double>>& ranges,
+                                  const ImportProgress& progress = {});
 
 } // namespace Talmesh::app
 

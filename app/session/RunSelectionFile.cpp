@@ -96,11 +96,10 @@ std::string saveRunSelection(const QString& path, const ParameterSelection& sele
       .toStdString();
 }
 
-LoadedRunSelection loadRunSelection(const QString& path)
+Result<ParameterSelection> loadRunSelection(const QString& path)
 {
-  const auto failure = [&path](const QString& reason) {
-    return LoadedRunSelection{{}, QString("%1: %2").arg(path, reason).toStdString()};
-  };
+  const auto failure = [&path](const QString& reason)
+  { return Result<ParameterSelection>::failed(QString("%1: %2").arg(path, reason).toStdString()); };
   QFile file(path);
   // Opening a folder succeeds, and reading a pipe may never end.
   if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
@@ -115,9 +114,9 @@ LoadedRunSelection loadRunSelection(const QString& path)
   if (text.size() > largestFile)
     return failure(
         QCoreApplication::translate("RunSelectionFile", "too large for a selection of runs"));
-  LoadedRunSelection loaded;
-  const QString reason = readText(text, loaded.selection);
-  return reason.isEmpty() ? loaded : failure(reason);
+  ParameterSelection selection;
+  const QString reason = readText(text, selection);
+  return reason.isEmpty() ? Result<ParameterSelection>(selection) : failure(reason);
 }
 
 } // namespace Talmesh::app

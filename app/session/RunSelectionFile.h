@@ -1,6 +1,7 @@
 #ifndef RunSelectionFile_h
 #define RunSelectionFile_h
 
+#include "app/import/Result.h"
 #include "external/ParameterSelection.h"
 
 #include <QString>
@@ -18,17 +19,9 @@ namespace Talmesh::app
 /// @return why the file could not be written, in one line of UTF-8; empty on success
 std::string saveRunSelection(const QString& path, const ParameterSelection& selection);
 
-/// A selection of runs, or why there is none.
-struct LoadedRunSelection
-{
-  ParameterSelection selection;
-  /// One line of UTF-8 that begins with the file's name; empty on success.
-  std::string error;
-};
-
 /// Reads what saveRunSelection() writes. Only "format", "version" and "runs" must be there; run
-/// indices may come in any order and repeatedly.
-LoadedRunSelection loadRunSelection(const QString& path);
+/// indices may come in any order and repeatedly. Errors begin with the file's name.
+Result<ParameterSelection> loadRunSelection(const QString& path);
 
 } // namespace Talmesh::app
 

@@ -78,19 +78,21 @@ void dropStrangeGroups(SessionGroups& groups, const Study& study)
   groups.look.groupMeans = false;
 }
 
-/// Writes the session into `opened`, whose study is read.
-void readRest(OpenedSession& opened, const ReadSessionParts& file, const DumpedTable& table)
+/// @param study gets what the settings say of it
+Result<std::shared_ptr<const RestoredSession>> readRest(const ReadSessionParts& file,
+                                                        const DumpedTable& table, Study& study)
 {
-  ReadSessionSettings read = readSettings(file.parts.settings, columnCount(table));
-  opened.error = read.error;
-  if (!opened.error.empty())
-    return;
-  if (opened.study.runs)
-    read.settings.plot->setStride(read.settings.pointsPerRun);
-  dropStrangeGroups(read.settings.groups, opened.study);
-  opened.study.name = read.settings.name;
-  opened.session = std::make_shared<RestoredSession>(
-      RestoredSession{read.settings, file.end, table.further, table.selected});
+  using Rest = Result<std::shared_ptr<const RestoredSession>>;
+  const Result<SessionSettings> read = readSettings(file.parts.settings, columnCount(table));
+  if (!read.hasValue())
+    return Rest::without(read);
+  SessionSettings settings = read.value();
+  if (study.runs)
+    settings.plot->setStride(settings.pointsPerRun);
+  dropStrangeGroups(settings.groups, study);
+  study.name = settings.name;
+  return Rest(std::make_shared<const RestoredSession>(
+      RestoredSession{settings, file.end, table.further, table.selected}));
 }
 
 } // namespace
@@ -151,32 +153,34 @@ std::string saveSession(const QString& path, const SessionSource& source, QByteA
   }
 }
 
-OpenedSession openSession(const QString& path, const ImportProgress& progress)
+Result<OpenedSession> openSession(const QString& path, const ImportProgress& progress)
 {
-  OpenedSession opened;
+  using Opened = Result<OpenedSession>;
   const auto reading = [&progress](double done)
   { return !progress || progress(readingPart * done); };
-  const ReadSessionParts file = loadSessionFile(path, reading, plot::isWholeDump);
-  opened.error = file.error;
-  opened.cancelled = file.cancelled;
-  if (!opened.error.empty() || opened.cancelled)
-    return opened;
   const auto parsing = [&progress](double done)
   { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
-  opened.cancelled = !parsing(0.0);
-  if (opened.cancelled)
-    return opened;
+  const Result<ReadSessionParts> file = loadSessionFile(path, reading, plot::isWholeDump);
+  if (!file.hasValue())
+    return Opened::without(file);
+  if (!parsing(0.0))
+    return Opened::cancelled();
+  const SessionParts& parts = file.value().parts;
   // How many columns there are is known last: settings are read again for them.
-  const SessionSettings first = readSettings(file.parts.settings, mostSessionColumns).settings;
-  const DumpedTable table =
-      readStudyDump(file.parts.dump, first.pointsPerRun, first.parameterRanges, parsing);
-  opened.error = table.error;
-  opened.cancelled = table.cancelled;
-  if (!opened.error.empty() || opened.cancelled)
-    return opened;
-  opened.study = table.study;
-  readRest(opened, file, table);
-  if (opened.session && opened.study.name.empty())
+  const Result<SessionSettings> first = readSettings(parts.settings, mostSessionColumns);
+  if (!first.hasValue())
+    return Opened::without(first);
+  const Result<DumpedTable> table =
+      readStudyDump(parts.dump, first.value().pointsPerRun, first.value().parameterRanges, parsing);
+  if (!table.hasValue())
+    return Opened::without(table);
+  OpenedSession opened;
+  opened.study = table.value().study;
+  const auto rest = readRest(file.value(), table.value(), opened.study);
+  if (!rest.hasValue())
+    return Opened::without(rest);
+  opened.session = rest.value();
+  if (opened.study.name.empty())
     opened.study.name = QFileInfo(path).fileName().toStdString();
   return opened;
 }

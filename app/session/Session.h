@@ -2,6 +2,7 @@
 #define Session_h
 
 #include "app/import/ImportProgress.h"
+#include "app/import/Result.h"
 #include "app/import/Study.h"
 #include "app/session/SessionFile.h"
 #include "app/session/SessionSettings.h"
@@ -50,15 +51,12 @@ struct RestoredSession
   vtkSmartPointer<vtkIntArray> selected;
 };
 
-/// A session's study and the rest, or why there is none.
+/// A session's study and the rest.
 struct OpenedSession
 {
   Study study;
-  /// Null on failure.
+  /// Never null.
   std::shared_ptr<const RestoredSession> session;
-  /// One line of UTF-8 without the file's name; empty on success.
-  std::string error;
-  bool cancelled = false;
 };
 
 /// All that a session keeps beside its table, as it is now.
@@ -73,9 +71,9 @@ SessionParts sessionParts(const SessionSource& source);
 std::string saveSession(const QString& path, const SessionSource& source,
                         QByteArray* end = nullptr);
 
-/// Reads a session. May run in any thread.
+/// Reads a session. Errors do not name the file. May run in any thread.
 /// @param progress told while the bytes are read, and after each further step
-OpenedSession openSession(const QString& path, const ImportProgress& progress = {});
+Result<OpenedSession> openSession(const QString& path, const ImportProgress& progress = {});
 
 /// Charts of one page that a session brings back; a page of more opens as an XY plot.
 inline constexpr std::size_t mostRestoredCharts = 60 * 60;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -159,32 +160,27 @@ bool writeSession(QIODevice& device, const SessionParts& parts, QByteArray* end)
   return true;
 }
 
-ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress,
-                             const DumpCheck& check)
+Result<ReadSessionParts> readSession(QIODevice& device, const ImportProgress& progress,
+                                     const DumpCheck& check)
 {
-  ReadSessionParts read;
+  using Read = Result<ReadSessionParts>;
   const QByteArray bytes = device.read(headerSize);
-  read.error = objection(bytes, device.size());
-  if (read.error.empty() && endsInZeros(device))
-    read.error = translated("SessionFile", "the session is damaged");
-  if (!read.error.empty())
-    return read;
+  const std::string refused = objection(bytes, device.size());
+  if (!refused.empty())
+    return Read::failed(refused);
+  if (endsInZeros(device))
+    return Read::failed(translated("SessionFile", "the session is damaged"));
   const Header header = headerOf(bytes);
+  ReadSessionParts read;
   read.parts.settings = device.read(header.settingsSize);
   if (!passes(check, device, static_cast<qint64>(header.dumpSize)))
-    read.error = translated("SessionFile", "the session's table is damaged");
-  if (!read.error.empty())
-    return read;
-  read.cancelled =
-      !readDumpBytes(device, static_cast<qint64>(header.dumpSize), progress, read.parts.dump);
-  if (read.cancelled)
-    return read;
+    return Read::failed(translated("SessionFile", "the session's table is damaged"));
+  if (!readDumpBytes(device, static_cast<qint64>(header.dumpSize), progress, read.parts.dump))
+    return Read::cancelled();
   read.end = device.read(sessionChecksumSize);
-  if (read.end == checksumOf(bytes, read.parts))
-    return read;
-  read.parts = {};
-  read.error = translated("SessionFile", "the session is damaged");
-  return read;
+  return read.end == checksumOf(bytes, read.parts)
+             ? Read(std::move(read))
+             : Read::failed(translated("SessionFile", "the session is damaged"));
 }
 
 std::string saveSessionFile(const QString& path, const SessionParts& parts, QByteArray* end)
@@ -200,20 +196,19 @@ std::string saveSessionFile(const QString& path, const SessionParts& parts, QByt
                     {path.toStdString(), reason.toStdString()});
 }
 
-ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress,
-                                 const DumpCheck& check)
+Result<ReadSessionParts> loadSessionFile(const QString& path, const ImportProgress& progress,
+                                         const DumpCheck& check)
 {
+  using Read = Result<ReadSessionParts>;
   const QFileInfo info(path);
   QFile file(path);
   if (!info.exists())
-    return {{}, {}, translated("SessionFile", "there is no such file")};
+    return Read::failed(translated("SessionFile", "there is no such file"));
   if (!info.isFile())
-    return {{}, {}, translated("SessionFile", "this is not a file")};
+    return Read::failed(translated("SessionFile", "this is not a file"));
   if (!file.open(QIODevice::ReadOnly))
-    return {{},
-            {},
-            withValues(translated("SessionFile", "cannot be read: %1"),
-                       {file.errorString().toStdString()})};
+    return Read::failed(withValues(translated("SessionFile", "cannot be read: %1"),
+                                   {file.errorString().toStdString()}));
   return readSession(file, progress, check);
 }
 

@@ -2,6 +2,7 @@
 #define SessionFile_h
 
 #include "app/import/ImportProgress.h"
+#include "app/import/Result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -21,15 +22,12 @@ struct SessionParts
   QByteArray dump;
 };
 
-/// A session's parts, or why there are none.
+/// A session's parts as they were read.
 struct ReadSessionParts
 {
   SessionParts parts;
   /// The checksum that the session ended with.
   QByteArray end;
-  /// One line of UTF-8; empty on success.
-  std::string error;
-  bool cancelled = false;
 };
 
 /// More bytes of settings are neither written nor read.
@@ -64,8 +62,8 @@ using DumpCheck = std::function<bool(QIODevice& device, qint64 size)>;
 /// justify.
 /// @param progress told the part of the bytes that is read
 /// @param check refuses a table before it is read, which may take long
-ReadSessionParts readSession(QIODevice& device, const ImportProgress& progress = {},
-                             const DumpCheck& check = {});
+Result<ReadSessionParts> readSession(QIODevice& device, const ImportProgress& progress = {},
+                                     const DumpCheck& check = {});
 
 /// Writes a file, which takes the place of an older one only when it is complete on the disk. An
 /// empty dump stands for a table that is too large.
@@ -75,8 +73,8 @@ std::string saveSessionFile(const QString& path, const SessionParts& parts,
                             QByteArray* end = nullptr);
 
 /// Reads a regular file. Errors do not name it.
-ReadSessionParts loadSessionFile(const QString& path, const ImportProgress& progress = {},
-                                 const DumpCheck& check = {});
+Result<ReadSessionParts> loadSessionFile(const QString& path, const ImportProgress& progress = {},
+                                         const DumpCheck& check = {});
 
 } // namespace Talmesh::app
 

@@ -217,17 +217,14 @@ QByteArray settingsText(const SessionSettings& settings)
   return QJsonDocument(object).toJson();
 }
 
-ReadSessionSettings readSettings(const QByteArray& text, int columns)
+Result<SessionSettings> readSettings(const QByteArray& text, int columns)
 {
-  ReadSessionSettings read;
   const QJsonDocument document = QJsonDocument::fromJson(text);
   if (!document.isObject())
-  {
-    read.error = translated("SessionFile", "the session's settings are damaged");
-    return read;
-  }
+    return Result<SessionSettings>::failed(
+        translated("SessionFile", "the session's settings are damaged"));
   const QJsonObject object = document.object();
-  SessionSettings& settings = read.settings;
+  SessionSettings settings;
   const SettingsReader reader(object, columns);
   settings.name = readText(object["name"]);
   settings.pointsPerRun = reader.whole("pointsPerRun", 0, 0, std::numeric_limits<int>::max());
@@ -239,7 +236,7 @@ ReadSessionSettings readSettings(const QByteArray& text, int columns)
   settings.logY = object["logY"].toBool();
   settings.windowScales = {object["windowLogX"].toBool(), object["windowLogY"].toBool()};
   readPlot(object["plot"].toObject(), columns, *settings.plot);
-  return read;
+  return settings;
 }
 
 void copySettings(const PlotMetaData& from, PlotMetaData& to)

@@ -1,6 +1,7 @@
 #ifndef SessionSettings_h
 #define SessionSettings_h
 
+#include "app/import/Result.h"
 #include "app/session/SessionGroups.h"
 #include "app/session/SessionOrigin.h"
 #include "external/PlotMetaData.h"
@@ -41,19 +42,11 @@ struct SessionSettings
 /// The settings as one JSON object.
 QByteArray settingsText(const SessionSettings& settings);
 
-/// Settings, or why there are none.
-struct ReadSessionSettings
-{
-  SessionSettings settings;
-  /// One line; empty on success.
-  std::string error;
-};
-
 /// Reads settings for a table of `columns` columns. What is missing, mistyped or out of bounds
 /// keeps its first value, columns that the table does not have become -1: no column, and of a
 /// column that a list repeats the first entry counts. Texts are cut at 1000 characters, and there
 /// are at most as many ranges as columns.
-ReadSessionSettings readSettings(const QByteArray& text, int columns);
+Result<SessionSettings> readSettings(const QByteArray& text, int columns);
 
 /// Copies all values and options without announcing them.
 void copySettings(const PlotMetaData& from, PlotMetaData& to);

@@ -14,6 +14,7 @@
 #include <new>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -24,13 +25,6 @@ namespace
 constexpr qint64 chunk = 4 << 20;
 /// The part of the progress that reading the bytes takes.
 constexpr double readingPart = 0.1;
-
-struct FileBytes
-{
-  std::string bytes;
-  std::string error;
-  bool cancelled = false;
-};
 
 /// A file that grew since its size was asked for may be cut inside a number. Its last line is read
 /// to the end, or left out while it has none.
@@ -54,42 +48,43 @@ qint64 append(QFile& file, std::string& bytes, qint64 most)
   return got;
 }
 
-FileBytes readBytes(const QString& path, const ImportProgress& progress)
+Result<std::string> readBytes(const QString& path, const ImportProgress& progress)
 {
-  FileBytes read;
+  using Bytes = Result<std::string>;
   const QFileInfo info(path);
   QFile file(path);
+  const auto unreadable = [&file]
+  {
+    return Bytes::failed(withValues(translated("StudyFile", "cannot be read: %1"),
+                                    {file.errorString().toStdString()}));
+  };
   if (!info.exists())
-    read.error = translated("StudyFile", "there is no such file");
-  else if (!info.isFile())
-    read.error = translated("StudyFile", "this is not a file");
-  else if (!file.open(QIODevice::ReadOnly))
-    read.error = withValues(translated("StudyFile", "cannot be read: %1"),
-                            {file.errorString().toStdString()});
-  if (!read.error.empty())
-    return read;
+    return Bytes::failed(translated("StudyFile", "there is no such file"));
+  if (!info.isFile())
+    return Bytes::failed(translated("StudyFile", "this is not a file"));
+  if (!file.open(QIODevice::ReadOnly))
+    return unreadable();
 
   const qint64 size = file.size();
+  std::string bytes;
   qint64 filled = 0;
   while (filled < size)
   {
-    const qint64 got = append(file, read.bytes, std::min(chunk, size - filled));
+    const qint64 got = append(file, bytes, std::min(chunk, size - filled));
     if (got < 0)
-      read.error = withValues(translated("StudyFile", "cannot be read: %1"),
-                              {file.errorString().toStdString()});
+      return unreadable();
     // A zero byte is in no table: what was read is refused, however much lies behind it.
-    if (got <= 0 || read.bytes.find('\0', static_cast<std::size_t>(filled)) != std::string::npos)
+    if (got == 0 || bytes.find('\0', static_cast<std::size_t>(filled)) != std::string::npos)
       break;
     filled += got;
-    read.bytes.reserve(static_cast<std::size_t>(size));
-    read.cancelled = progress && !progress(readingPart * static_cast<double>(filled) /
-                                           static_cast<double>(size));
-    if (read.cancelled)
-      break;
+    bytes.reserve(static_cast<std::size_t>(size));
+    if (progress &&
+        !progress(readingPart * static_cast<double>(filled) / static_cast<double>(size)))
+      return Bytes::cancelled();
   }
-  if (filled == size && !read.cancelled)
-    endAtLine(file, read.bytes);
-  return read;
+  if (filled == size)
+    endAtLine(file, bytes);
+  return Bytes(std::move(bytes));
 }
 
 /// Gives the memory of a text back to the system while it is read, so that a table is not held
@@ -125,34 +120,30 @@ private:
   std::uintptr_t begin;
 };
 
-Result<OpenedStudy> openBytes(FileBytes& read, const ImportProgress& progress)
+Result<OpenedStudy> openBytes(std::string& bytes, const ImportProgress& progress)
 {
   const auto parsing = [&progress](double done)
   { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
-  PassedPages pages(read.bytes);
-  ImportedTable imported =
-      importRunTable(read.bytes, parsing, [&pages](std::size_t bytes) { pages.pass(bytes); });
-  if (!imported.error.empty())
-    return Result<OpenedStudy>::failed(imported.error);
-  if (imported.cancelled)
-    return Result<OpenedStudy>::cancelled();
+  PassedPages pages(bytes);
+  const Result<ImportedTable> imported =
+      importRunTable(bytes, parsing, [&pages](std::size_t passed) { pages.pass(passed); });
+  if (!imported.hasValue())
+    return Result<OpenedStudy>::without(imported);
   OpenedStudy opened;
-  opened.study.runs = imported.runs;
-  opened.study.table = imported.table;
-  opened.notes = imported.notes;
+  opened.study.runs = imported.value().runs;
+  opened.study.table = imported.value().table;
+  opened.notes = imported.value().notes;
   return opened;
 }
 
 Result<OpenedStudy> openFromSession(const QString& path, const ImportProgress& progress)
 {
-  const OpenedSession session = openSession(path, progress);
-  if (!session.error.empty())
-    return Result<OpenedStudy>::failed(session.error);
-  if (session.cancelled)
-    return Result<OpenedStudy>::cancelled();
+  const Result<OpenedSession> session = openSession(path, progress);
+  if (!session.hasValue())
+    return Result<OpenedStudy>::without(session);
   OpenedStudy opened;
-  opened.study = session.study;
-  opened.session = session.session;
+  opened.study = session.value().study;
+  opened.session = session.value().session;
   return opened;
 }
 
@@ -160,12 +151,8 @@ Result<OpenedStudy> open(const QString& path, const ImportProgress& progress)
 {
   if (isSessionFile(path))
     return openFromSession(path, progress);
-  FileBytes read = readBytes(path, progress);
-  if (!read.error.empty())
-    return Result<OpenedStudy>::failed(read.error);
-  if (read.cancelled)
-    return Result<OpenedStudy>::cancelled();
-  return openBytes(read, progress);
+  Result<std::string> read = readBytes(path, progress);
+  return read.hasValue() ? openBytes(read.value(), progress) : Result<OpenedStudy>::without(read);
 }
 
 /// What is thrown becomes an error.

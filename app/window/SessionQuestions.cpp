@@ -110,8 +110,9 @@ QMessageBox* askBeforeOverwriting(QWidget* window, const QString& path,
 QMessageBox* askAboutLeftWork(QWidget* window, const LeftWork& work,
                               std::function<void(LeftWorkAnswer)> answered)
 {
+  const Result<SessionSettings> settings = readSettings(peekSettings(work.path), 0);
   const QString name =
-      QString::fromStdString(readSettings(peekSettings(work.path), 0).settings.name);
+      settings.hasValue() ? QString::fromStdString(settings.value().name) : QString();
   QMessageBox* box = makeBox(
       window, "askAboutLeftWork",
       QCoreApplication::translate("SessionQuestions", "Bring back the unsaved work on \"%1\"?")

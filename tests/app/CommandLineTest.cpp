@@ -14,14 +14,14 @@ namespace
 
 CommandLineOptions parsed(const std::vector<std::string>& arguments)
 {
-  const ParsedCommandLine line = parseCommandLine(arguments);
-  EXPECT_EQ(line.error, "");
-  return line.options;
+  const Result<CommandLineOptions> line = parseCommandLine(arguments);
+  EXPECT_EQ(line.error(), "");
+  return line.hasValue() ? line.value() : CommandLineOptions();
 }
 
 std::string errorOf(const std::vector<std::string>& arguments)
 {
-  return parseCommandLine(arguments).error;
+  return parseCommandLine(arguments).error();
 }
 
 } // namespace
@@ -194,7 +194,7 @@ TEST(CommandLine, RefusesMorePixelsThanMemoryShouldHold)
 
 TEST(CommandLine, LeavesNoOptionsBesideAnError)
 {
-  EXPECT_EQ(parseCommandLine({"a.csv", "--bad"}).options.file, "");
+  EXPECT_FALSE(parseCommandLine({"a.csv", "--bad"}).hasValue());
 }
 
 TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)

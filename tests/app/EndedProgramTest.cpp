@@ -98,12 +98,13 @@ protected:
   /// Rows selected in the one file that was kept.
   int keptRows() const
   {
-    const OpenedSession kept = openSession(QDir(state).filePath(keptFiles().value(0)));
-    EXPECT_EQ(kept.error, "");
-    if (!kept.session || !kept.session->selected)
+    const Result<OpenedSession> kept = openSession(QDir(state).filePath(keptFiles().value(0)));
+    EXPECT_EQ(kept.error(), "");
+    vtkIntArray* selected = kept.hasValue() ? kept.value().session->selected.Get() : nullptr;
+    if (!selected)
       return -1;
-    const int* first = kept.session->selected->GetPointer(0);
-    return std::accumulate(first, first + kept.session->selected->GetNumberOfValues(), 0);
+    return std::accumulate(selected->GetPointer(0),
+                           selected->GetPointer(0) + selected->GetNumberOfValues(), 0);
   }
 
   QTemporaryDir folder;

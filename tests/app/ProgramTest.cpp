@@ -227,7 +227,7 @@ TEST_F(Program, ExportsTheRunsOfASessionAsNormalisedAsTheyWereShown)
     EXPECT_EQ(saveSession(path("a.talmesh"), study, container, choiceOf(container), &normaliser),
               "");
     expectSuccess({path("a.talmesh"), "--export", path("a.csv")});
-    const ImportedTable table = importRunTable(contentOf(path("a.csv")).toStdString());
+    const ImportedTable table = importRunTable(contentOf(path("a.csv")).toStdString()).value();
     const double* values = table.runs->values.front();
     return *std::max_element(values, values + table.runs->numberOfTrajectories *
                                                   table.runs->pointsPerTrajectory);

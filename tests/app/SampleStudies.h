@@ -25,7 +25,7 @@ inline std::string sampleRuns(int runs = 3, int points = 4)
 
 inline Talmesh::app::Study sampleStudy(const std::string& text = sampleRuns())
 {
-  const Talmesh::app::ImportedTable imported = Talmesh::app::importRunTable(text);
+  const Talmesh::app::ImportedTable imported = Talmesh::app::importRunTable(text).value();
   return {"sample", imported.runs, imported.table};
 }
 

@@ -148,17 +148,17 @@ TEST_F(PlotChoiceOfRuns, SwitchesThroughAllStylesTwice)
 
 TEST_F(PlotChoiceOfRuns, FindsColumnsByWholeNameAndWithoutTheKind)
 {
-  EXPECT_EQ(findColumn(container, "Molecule: Y").column, 1);
-  EXPECT_EQ(findColumn(container, "Y").column, 1);
-  EXPECT_EQ(findColumn(container, "Run Index").column, 3);
-  EXPECT_EQ(findColumn(container, "k").column, 4);
+  EXPECT_EQ(findColumn(container, "Molecule: Y").value(), 1);
+  EXPECT_EQ(findColumn(container, "Y").value(), 1);
+  EXPECT_EQ(findColumn(container, "Run Index").value(), 3);
+  EXPECT_EQ(findColumn(container, "k").value(), 4);
 }
 
 TEST_F(PlotChoiceOfRuns, NamesTheColumnsWhenOneIsNotThere)
 {
-  const FoundColumn found = findColumn(container, "Z");
-  EXPECT_EQ(found.column, -1);
-  EXPECT_EQ(found.error, "no such column: Z; the columns are X, Y, time, Run Index, k");
+  const Result<int> found = findColumn(container, "Z");
+  EXPECT_FALSE(found.hasValue());
+  EXPECT_EQ(found.error(), "no such column: Z; the columns are X, Y, time, Run Index, k");
 }
 
 TEST(PlotChoice, RefusesANameThatTwoColumnsHave)
@@ -167,9 +167,9 @@ TEST(PlotChoice, RefusesANameThatTwoColumnsHave)
   PlotContainer container(nullptr);
   container.setScene(view.scene());
   showStudy(sampleStudy("Molecule: A,Pattern: A,: Time [s]\n1,2,0\n3,4,1\n"), container);
-  EXPECT_EQ(findColumn(container, "A").error,
+  EXPECT_EQ(findColumn(container, "A").error(),
             "more than one column is named A: Molecule: A and Pattern: A");
-  EXPECT_EQ(findColumn(container, "Pattern: A").column, 1);
+  EXPECT_EQ(findColumn(container, "Pattern: A").value(), 1);
 }
 
 TEST_F(PlotChoiceOfRuns, TakesWhatTheCommandLineNames)

@@ -48,15 +48,16 @@ TEST(ImportMemory, IsNotThatOfTextWhichHasBeenRead)
   const std::string text = namedRuns(2000);
   std::string fading = text;
   std::size_t gone = 0;
-  const ImportedTable faded = importRunTable(fading, {},
-                                             [&](std::size_t passed)
-                                             {
-                                               ASSERT_GE(passed, gone);
-                                               ASSERT_LE(passed, fading.size());
-                                               for (; gone < passed; ++gone)
-                                                 fading[gone] = '\0';
-                                             });
-  EXPECT_EQ(faded.error, "");
+  const Result<ImportedTable> read = importRunTable(fading, {},
+                                                    [&](std::size_t passed)
+                                                    {
+                                                      ASSERT_GE(passed, gone);
+                                                      ASSERT_LE(passed, fading.size());
+                                                      for (; gone < passed; ++gone)
+                                                        fading[gone] = '\0';
+                                                    });
+  ASSERT_EQ(read.error(), "");
+  const ImportedTable& faded = read.value();
   EXPECT_GT(gone, text.size() / 2);
   const ImportedTable whole = imported(text);
   EXPECT_EQ(labels(faded), labels(whole));

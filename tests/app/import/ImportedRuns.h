@@ -13,20 +13,18 @@
 /// The import of a text that must succeed.
 inline Talmesh::app::ImportedTable imported(const std::string& text)
 {
-  Talmesh::app::ImportedTable table = Talmesh::app::importRunTable(text);
-  EXPECT_EQ(table.error, "");
-  EXPECT_FALSE(table.cancelled);
-  return table;
+  const auto read = Talmesh::app::importRunTable(text);
+  EXPECT_EQ(read.error(), "");
+  return read.hasValue() ? read.value() : Talmesh::app::ImportedTable();
 }
 
 /// Why the import of a text fails, as it must.
 inline std::string errorOf(const std::string& text)
 {
-  const Talmesh::app::ImportedTable table = Talmesh::app::importRunTable(text);
-  EXPECT_FALSE(table.runs);
-  EXPECT_FALSE(table.table);
-  EXPECT_EQ(table.error.find('\n'), std::string::npos);
-  return table.error;
+  const auto read = Talmesh::app::importRunTable(text);
+  EXPECT_FALSE(read.hasValue());
+  EXPECT_EQ(read.error().find('\n'), std::string::npos);
+  return read.error();
 }
 
 /// The typed names of the items.

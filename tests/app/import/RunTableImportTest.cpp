@@ -263,13 +263,14 @@ TEST(RunTableImport, ReportsItsProgressAndCanBeCancelled)
   for (int row = 0; row < 10000; ++row)
     text += std::to_string(row) + ",1\n";
   std::vector<double> reports;
-  const ImportedTable whole = importRunTable(text,
-                                             [&](double done)
-                                             {
-                                               reports.push_back(done);
-                                               return true;
-                                             });
-  EXPECT_TRUE(whole.runs);
+  const Result<ImportedTable> whole = importRunTable(text,
+                                                     [&](double done)
+                                                     {
+                                                       reports.push_back(done);
+                                                       return true;
+                                                     });
+  ASSERT_TRUE(whole.hasValue());
+  EXPECT_TRUE(whole.value().runs);
   ASSERT_GE(reports.size(), 4u);
   for (std::size_t i = 0; i < reports.size(); ++i)
   {
@@ -278,9 +279,9 @@ TEST(RunTableImport, ReportsItsProgressAndCanBeCancelled)
   }
 
   int calls = 0;
-  const ImportedTable cancelled = importRunTable(text, [&](double) { return ++calls < 2; });
-  EXPECT_TRUE(cancelled.cancelled);
-  EXPECT_FALSE(cancelled.runs);
-  EXPECT_EQ(cancelled.error, "");
+  const Result<ImportedTable> cancelled = importRunTable(text, [&](double) { return ++calls < 2; });
+  EXPECT_TRUE(cancelled.isCancelled());
+  EXPECT_FALSE(cancelled.hasValue());
+  EXPECT_EQ(cancelled.error(), "");
   EXPECT_EQ(calls, 2);
 }

@@ -134,11 +134,11 @@ TEST(RunTableLayout, FindsTimeAndRunsByTheirNamesInTheFile)
   container.setScene(view.scene());
   showStudy(sampleStudy(threeRuns("# run,time,k,Value")), container);
   for (const char* name : {"time", "Time", ": Time"})
-    EXPECT_EQ(findColumn(container, name).column, 0) << name;
+    EXPECT_EQ(findColumn(container, name).value(), 0) << name;
   for (const char* name : {"run", "# run", "Run Index"})
-    EXPECT_EQ(findColumn(container, name).column, 1) << name;
-  EXPECT_EQ(findColumn(container, "Value").column, 3);
-  EXPECT_EQ(findColumn(container, "period").error,
+    EXPECT_EQ(findColumn(container, name).value(), 1) << name;
+  EXPECT_EQ(findColumn(container, "Value").value(), 3);
+  EXPECT_EQ(findColumn(container, "period").error(),
             "no such column: period; the columns are Time, Run Index, k, Value");
 }
 
@@ -148,7 +148,7 @@ TEST(RunTableLayout, PrefersAnItemOfThatNameToTheTime)
   PlotContainer container(nullptr);
   container.setScene(view.scene());
   showStudy(sampleStudy(threeRuns("run,time,k,t")), container);
-  EXPECT_EQ(findColumn(container, "t").column, 0);
+  EXPECT_EQ(findColumn(container, "t").value(), 0);
   EXPECT_EQ(container.getLabels()[0], "Molecule: t");
 }
 

@@ -124,11 +124,11 @@ TEST(RunTableRefusals, SurvivesDamagedTables)
       else
         text.insert(at, 1, c);
     }
-    const ImportedTable table = importRunTable(text);
-    const int outcomes =
-        (table.runs ? 1 : 0) + (table.table ? 1 : 0) + (table.error.empty() ? 0 : 1);
-    ASSERT_EQ(outcomes, 1) << text;
-    ASSERT_EQ(table.error.find('\n'), std::string::npos) << text;
+    const Result<ImportedTable> read = importRunTable(text);
+    ASSERT_NE(read.hasValue(), !read.error().empty()) << text;
+    ASSERT_EQ(read.error().find('\n'), std::string::npos) << text;
+    const ImportedTable table = read.hasValue() ? read.value() : ImportedTable();
+    ASSERT_EQ(read.hasValue(), (table.runs != nullptr) != (table.table != nullptr)) << text;
     if (table.runs)
     {
       ASSERT_EQ(table.runs->items.size(), table.runs->values.size());

@@ -35,10 +35,11 @@ TEST(TranslatedText, LeavesPlacesWithoutAValue)
 
 TEST(TranslatedText, IsGermanInMessages)
 {
-  EXPECT_EQ(importRunTable("time,A\n0,1\n1\n").error, "line 3 has 1 field, the first line has 2");
+  EXPECT_EQ(importRunTable("time,A\n0,1\n1\n").error(), "line 3 has 1 field, the first line has 2");
   const German german;
   ASSERT_TRUE(german.installed);
-  EXPECT_EQ(importRunTable("time,A\n0,1\n1\n").error, "Zeile 3 hat 1 Feld, die erste Zeile hat 2");
+  EXPECT_EQ(importRunTable("time,A\n0,1\n1\n").error(),
+            "Zeile 3 hat 1 Feld, die erste Zeile hat 2");
   EXPECT_EQ(studySize(sampleStudy()), "3 L\xc3\xa4ufe, je 4 Punkte, 1 Parameter");
 }
 

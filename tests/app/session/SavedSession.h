@@ -39,8 +39,9 @@ protected:
   /// Opens what was saved and shows it in a fresh container.
   PlotContainer& reopen()
   {
-    opened = Talmesh::app::openSession(path());
-    EXPECT_EQ(opened.error, "");
+    const auto read = Talmesh::app::openSession(path());
+    EXPECT_EQ(read.error(), "");
+    opened = read.hasValue() ? read.value() : Talmesh::app::OpenedSession();
     restored = std::make_unique<PlotContainer>(nullptr);
     restored->setScene(view.scene());
     if (opened.session)
@@ -56,7 +57,7 @@ protected:
   std::string errorOf(const Talmesh::app::SessionParts& parts)
   {
     EXPECT_EQ(Talmesh::app::saveSessionFile(path(), parts), "");
-    return Talmesh::app::openSession(path()).error;
+    return Talmesh::app::openSession(path()).error();
   }
 
   QByteArray dumpOf(const Talmesh::app::Study& study)

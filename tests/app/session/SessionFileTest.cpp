@@ -73,10 +73,9 @@ protected:
 
   std::string errorOf(const QByteArray& bytes) const
   {
-    const ReadSessionParts read = loadSessionFile(write(bytes));
-    EXPECT_TRUE(read.error.empty() || read.parts.dump.isEmpty());
-    EXPECT_TRUE(read.error.empty() || read.parts.settings.isEmpty());
-    return read.error;
+    const Result<ReadSessionParts> read = loadSessionFile(write(bytes));
+    EXPECT_NE(read.error().empty(), !read.hasValue());
+    return read.error();
   }
 
   QByteArray content() const
@@ -102,10 +101,10 @@ TEST_F(SessionFile, LoadsWhatWasSaved)
 {
   const SessionParts saved = {"{\"name\": \"Gr\xc3\xbcn\"}", QByteArray("\0\xff dump", 7)};
   EXPECT_EQ(saveSessionFile(path(), saved), "");
-  const ReadSessionParts read = loadSessionFile(path());
-  EXPECT_EQ(read.error, "");
-  EXPECT_EQ(read.parts.settings, saved.settings);
-  EXPECT_EQ(read.parts.dump, saved.dump);
+  const Result<ReadSessionParts> read = loadSessionFile(path());
+  EXPECT_EQ(read.error(), "");
+  EXPECT_EQ(read.value().parts.settings, saved.settings);
+  EXPECT_EQ(read.value().parts.dump, saved.dump);
 }
 
 TEST_F(SessionFile, KeepsItsFormat)
@@ -116,10 +115,10 @@ TEST_F(SessionFile, KeepsItsFormat)
 
 TEST_F(SessionFile, ReadsAFileMadeByHand)
 {
-  const ReadSessionParts read = loadSessionFile(write(smallBytes()));
-  EXPECT_EQ(read.error, "");
-  EXPECT_EQ(read.parts.settings, small.settings);
-  EXPECT_EQ(read.parts.dump, small.dump);
+  const Result<ReadSessionParts> read = loadSessionFile(write(smallBytes()));
+  EXPECT_EQ(read.error(), "");
+  EXPECT_EQ(read.value().parts.settings, small.settings);
+  EXPECT_EQ(read.value().parts.dump, small.dump);
 }
 
 TEST_F(SessionFile, RefusesEveryFileThatIsCutShort)
@@ -154,7 +153,7 @@ TEST_F(SessionFile, ReadsNothingOfAFileThatWasNotWrittenToItsEnd)
   ASSERT_TRUE(file.resize(24 + 2 + (16 << 20) + 32));
   int reports = 0;
   const auto count = [&reports](double) { return ++reports > 0; };
-  EXPECT_EQ(loadSessionFile(path(), count).error, "the session is damaged");
+  EXPECT_EQ(loadSessionFile(path(), count).error(), "the session is damaged");
   EXPECT_EQ(reports, 0);
 }
 
@@ -190,15 +189,15 @@ TEST_F(SessionFile, TakesNoMemoryForSizesThatAreOnlyStated)
     EXPECT_EQ(errorOf(bytes), error) << sizes;
     // A device is asked for as much as there is memory for.
     CountingDevice device(&bytes);
-    EXPECT_EQ(readSession(device).error, error) << sizes;
+    EXPECT_EQ(readSession(device).error(), error) << sizes;
     EXPECT_EQ(device.asked, 24) << sizes;
   }
 }
 
 TEST_F(SessionFile, SaysWhatIsNoFile)
 {
-  EXPECT_EQ(loadSessionFile(path()).error, "there is no such file");
-  EXPECT_EQ(loadSessionFile(folder.path()).error, "this is not a file");
+  EXPECT_EQ(loadSessionFile(path()).error(), "there is no such file");
+  EXPECT_EQ(loadSessionFile(folder.path()).error(), "this is not a file");
 }
 
 TEST_F(SessionFile, IsKnownByItsNameOrItsFirstBytes)
@@ -229,10 +228,10 @@ TEST_F(SessionFile, WritesNoMoreSettingsThanItReads)
 {
   const QByteArray most(4 * 1024 * 1024, ' ');
   EXPECT_EQ(saveSessionFile(path(), {most, "dump"}), "");
-  EXPECT_EQ(loadSessionFile(path()).parts.settings, most);
+  EXPECT_EQ(loadSessionFile(path()).value().parts.settings, most);
   EXPECT_EQ(saveSessionFile(path(), {most + ' ', "dump"}),
             path().toStdString() + ": the table is too large for a session");
-  EXPECT_EQ(loadSessionFile(path()).parts.settings, most);
+  EXPECT_EQ(loadSessionFile(path()).value().parts.settings, most);
 }
 
 TEST_F(SessionFile, WritesNoTableThatCouldNotBeDumped)
@@ -287,5 +286,5 @@ TEST_F(SessionFile, LeavesTheOldFileWholeWhenTheProgramDiesWhileWriting)
   ASSERT_TRUE(WIFSIGNALED(status));
   EXPECT_EQ(WTERMSIG(status), SIGXFSZ);
   EXPECT_EQ(content(), smallBytes());
-  EXPECT_EQ(loadSessionFile(path()).error, "");
+  EXPECT_EQ(loadSessionFile(path()).error(), "");
 }

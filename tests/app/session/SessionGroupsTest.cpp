@@ -11,9 +11,9 @@ namespace
 
 SessionGroups groupsIn(const QByteArray& text)
 {
-  const ReadSessionSettings read = readSettings(text, 4);
-  EXPECT_EQ(read.error, "");
-  return read.settings.groups;
+  const Result<SessionSettings> read = readSettings(text, 4);
+  EXPECT_EQ(read.error(), "");
+  return read.value().groups;
 }
 
 class SessionGroupsInWindow : public WorkInWindow
@@ -58,7 +58,7 @@ TEST(SessionGroups, KeepTheNameOfTheFileThatTheyBelongTo)
 {
   SessionSettings settings;
   settings.origin = {QString::fromUtf8("/a b/50%/\xc2\xb5.talmesh"), QByteArray("\x00\xff", 2)};
-  const SessionOrigin read = readSettings(settingsText(settings), 4).settings.origin;
+  const SessionOrigin read = readSettings(settingsText(settings), 4).value().origin;
   EXPECT_EQ(read.path, settings.origin.path);
   EXPECT_EQ(read.end, settings.origin.end);
 }
@@ -67,7 +67,7 @@ TEST_F(SessionGroupsInWindow, AreLeftOutOfATableWithOtherRuns)
 {
   group(2);
   ASSERT_TRUE(window.saveSessionTo(path("a.talmesh")));
-  SessionParts parts = loadSessionFile(path("a.talmesh")).parts;
+  SessionParts parts = loadSessionFile(path("a.talmesh")).value().parts;
   ASSERT_TRUE(parts.settings.contains("\"010101\""));
   parts.settings.replace("\"010101\"", "\"0101010\"");
   ASSERT_EQ(saveSessionFile(path("b.talmesh"), parts), "");

@@ -80,7 +80,7 @@ protected:
     return dumpStudy(study, container, container.getTable());
   }
 
-  OpenedSession open(const QByteArray& settings, const QByteArray& dump)
+  Result<OpenedSession> open(const QByteArray& settings, const QByteArray& dump)
   {
     const CapturedOutput errors(std::cerr);
     EXPECT_EQ(saveSessionFile(path(), {settings, dump}), "");
@@ -97,10 +97,12 @@ protected:
   /// What a study looks like with the settings of a plot, written as JSON.
   PlotContainer& show(const Study& study, const QByteArray& plotSettings)
   {
-    const OpenedSession opened = open("{\"pointsPerRun\": " + QByteArray(study.runs ? "1" : "0") +
-                                          ", \"plot\": " + plotSettings + "}",
-                                      dumpOfStudy(study));
-    EXPECT_EQ(opened.error, "");
+    const Result<OpenedSession> read =
+        open("{\"pointsPerRun\": " + QByteArray(study.runs ? "1" : "0") +
+                 ", \"plot\": " + plotSettings + "}",
+             dumpOfStudy(study));
+    EXPECT_EQ(read.error(), "");
+    const OpenedSession opened = read.hasValue() ? read.value() : OpenedSession();
     restored = std::make_unique<PlotContainer>(nullptr);
     restored->setScene(view.scene());
     if (opened.session)
@@ -128,10 +130,10 @@ TEST_F(SessionLimits, NoValueMayBeMissing)
 {
   const QByteArray runs = dumpOfStudy(sampleStudy());
   for (int size = 1; size < runs.size(); ++size)
-    ASSERT_EQ(open(R"({"pointsPerRun": 4})", runs.left(size)).error, damaged) << size;
+    ASSERT_EQ(open(R"({"pointsPerRun": 4})", runs.left(size)).error(), damaged) << size;
   const QByteArray table = dumpOfStudy(sampleStudy("a,b\n1,2\n3,4\n"));
   for (int size = 1; size < table.size(); ++size)
-    ASSERT_EQ(open("{}", table.left(size)).error, damaged) << size;
+    ASSERT_EQ(open("{}", table.left(size)).error(), damaged) << size;
 }
 
 TEST_F(SessionLimits, TwoColumnsOfOneNameAreNotSaved)
@@ -154,7 +156,7 @@ TEST_F(SessionLimits, OnlyAsManyColumnsAreSavedAsCanBeOpened)
   PlotContainer container(nullptr);
   showStudy(shown, container);
   EXPECT_EQ(saveSession(path(), study, container, choiceOf(container)), "");
-  EXPECT_EQ(openSession(path()).error, "");
+  EXPECT_EQ(openSession(path()).error(), "");
   items.emplace_back(Talmesh::Molecule, "one more");
   study = studyOf(items);
   EXPECT_EQ(saveSession(path(), study, container, choiceOf(container)),
@@ -172,25 +174,24 @@ TEST_F(SessionLimits, MoreColumnsThanAreImportedAreNotOpened)
     columns.add(std::to_string(i), column);
   }
   const vtkSmartPointer<vtkTable> table = columns.makeTable();
-  EXPECT_EQ(open("{}", dumpOf(table)).error,
+  EXPECT_EQ(open("{}", dumpOf(table)).error(),
             "the table has 20101 columns; at most 20100 can be read");
   table->RemoveColumn(0);
-  EXPECT_EQ(open("{}", dumpOf(table)).error, "");
+  EXPECT_EQ(open("{}", dumpOf(table)).error(), "");
 }
 
 TEST_F(SessionLimits, OpeningCanBeCancelledAtEveryStep)
 {
   EXPECT_EQ(save(sampleStudy()), "");
   std::vector<double> parts;
-  const OpenedSession whole = openSession(path(),
-                                          [&parts](double part)
-                                          {
-                                            parts.push_back(part);
-                                            return true;
-                                          });
-  ASSERT_TRUE(whole.session);
-  EXPECT_FALSE(whole.cancelled);
-  ASSERT_GE(parts.size(), 2 + whole.study.runs->items.size());
+  const Result<OpenedSession> read = openSession(path(),
+                                                 [&parts](double part)
+                                                 {
+                                                   parts.push_back(part);
+                                                   return true;
+                                                 });
+  ASSERT_TRUE(read.hasValue());
+  ASSERT_GE(parts.size(), 2 + read.value().study.runs->items.size());
   EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
   EXPECT_LE(parts.back(), 1.0);
   for (std::size_t step = 1; step <= parts.size(); ++step)
@@ -247,10 +248,10 @@ TEST_F(SessionLimits, PagesOfThousandsOfColumnsOpenAsAnXYPlot)
 
 TEST_F(SessionLimits, RunsKeepTheirLengthWhateverTheStrideSays)
 {
-  const OpenedSession opened =
+  const Result<OpenedSession> opened =
       open(R"({"pointsPerRun": 4, "plot": {"stride": 3}})", dumpOfStudy(sampleStudy()));
-  ASSERT_TRUE(opened.session);
-  EXPECT_EQ(opened.session->settings.plot->getStride(), 4);
+  ASSERT_TRUE(opened.hasValue());
+  EXPECT_EQ(opened.value().session->settings.plot->getStride(), 4);
 }
 
 TEST_F(SessionLimits, MarksOfASelectionAreNoColumns)
@@ -261,12 +262,13 @@ TEST_F(SessionLimits, MarksOfASelectionAreNoColumns)
                          Talmesh::OriginalRowIdsColumn};
   for (const char* mark : marks)
     table->AddColumn(plot::makeColumn(mark, {1.0, 0.0}));
-  EXPECT_EQ(open("{}", dumpOf(table)).error, damaged);
+  EXPECT_EQ(open("{}", dumpOf(table)).error(), damaged);
   table->AddColumn(plot::makeColumn("a", {1.0, 2.0}));
-  const OpenedSession opened = open("{}", dumpOf(table));
-  ASSERT_EQ(opened.error, "");
-  ASSERT_EQ(opened.study.table->GetNumberOfColumns(), 1);
-  EXPECT_EQ(plot::columnName(opened.study.table, 0), "a");
+  const Result<OpenedSession> opened = open("{}", dumpOf(table));
+  ASSERT_EQ(opened.error(), "");
+  vtkTable* columns = opened.value().study.table;
+  ASSERT_EQ(columns->GetNumberOfColumns(), 1);
+  EXPECT_EQ(plot::columnName(columns, 0), "a");
 }
 
 TEST_F(SessionLimits, SaysThatThereIsNoMemoryToSave)

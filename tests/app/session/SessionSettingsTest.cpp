@@ -14,9 +14,9 @@ namespace
 
 SessionSettings settingsIn(const QByteArray& text, int columns = 4)
 {
-  const ReadSessionSettings read = readSettings(text, columns);
-  EXPECT_EQ(read.error, "");
-  return read.settings;
+  const Result<SessionSettings> read = readSettings(text, columns);
+  EXPECT_EQ(read.error(), "");
+  return read.value();
 }
 
 /// A window as a session has it.
@@ -35,14 +35,14 @@ TEST(SessionSettings, KeepFirstValuesInsteadOfWrongOnes)
     "parameters": [1e300], "ksThreshold": 2, "pThreshold": -1, "lineWidth": 1e9, "pointSize": null,
     "marker": 99, "color": [300, -1, 5], "colorColumn": 4, "lines": 1,
     "window": {"xMin": 1, "xMax": 0, "yMin": 0, "yMax": 1}}})";
-  const ReadSessionSettings read = readSettings(text, 4);
-  EXPECT_EQ(read.error, "");
-  EXPECT_EQ(read.settings.name, "");
-  EXPECT_EQ(read.settings.pointsPerRun, 0);
-  EXPECT_FALSE(read.settings.legend);
-  EXPECT_EQ(read.settings.normalised, (std::vector<int>{2, -1}));
-  EXPECT_TRUE(readSettings("{}", 4).settings.normalised.empty());
-  const PlotMetaData& plot = *read.settings.plot;
+  const Result<SessionSettings> read = readSettings(text, 4);
+  EXPECT_EQ(read.error(), "");
+  EXPECT_EQ(read.value().name, "");
+  EXPECT_EQ(read.value().pointsPerRun, 0);
+  EXPECT_FALSE(read.value().legend);
+  EXPECT_EQ(read.value().normalised, (std::vector<int>{2, -1}));
+  EXPECT_TRUE(readSettings("{}", 4).value().normalised.empty());
+  const PlotMetaData& plot = *read.value().plot;
   EXPECT_EQ(plot.getPlotStyle(), xyPlot);
   EXPECT_EQ(plot.getStride(), 1);
   EXPECT_EQ(plot.xColumns, (std::vector<int>{-1, 1}));

@@ -34,18 +34,19 @@ TEST_F(Session, TellsHowFarItIsReadAndCanBeCancelled)
                             told.push_back(done);
                             return true;
                           })
-                  .session);
+                  .hasValue());
   ASSERT_GE(told.size(), 2U);
   EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
   EXPECT_LE(told.back(), 1.0);
   for (std::size_t steps = 0; steps < told.size(); ++steps)
   {
     std::size_t calls = 0;
-    const OpenedSession given = openSession(path(), [&](double) { return calls++ < steps; });
-    EXPECT_TRUE(given.cancelled) << steps;
+    const Result<OpenedSession> given =
+        openSession(path(), [&](double) { return calls++ < steps; });
+    EXPECT_TRUE(given.isCancelled()) << steps;
     EXPECT_EQ(calls, steps + 1) << "nothing is done after it";
-    EXPECT_FALSE(given.session);
-    EXPECT_EQ(given.error, "");
+    EXPECT_FALSE(given.hasValue());
+    EXPECT_EQ(given.error(), "");
   }
 }
 
@@ -194,5 +195,5 @@ TEST_F(Session, RefusesSettingsThatAreNoObject)
 TEST_F(Session, IsCalledAfterItsFileWithoutAName)
 {
   EXPECT_EQ(errorOf({"{}", dumpOf(sampleStudy("a,b\n1,2\n"))}), "");
-  EXPECT_EQ(openSession(path()).study.name, "study.talmesh");
+  EXPECT_EQ(openSession(path()).value().study.name, "study.talmesh");
 }

@@ -124,7 +124,7 @@ TEST_F(TableInSession, FindsBoundsThatAreMissing)
 {
   const Study study = sampleStudy();
   EXPECT_EQ(errorOf({R"({"pointsPerRun": 4})", dumpOf(study)}), "");
-  EXPECT_EQ(openSession(path()).study.runs->parameterRanges, study.runs->parameterRanges);
+  EXPECT_EQ(openSession(path()).value().study.runs->parameterRanges, study.runs->parameterRanges);
 }
 
 TEST_F(TableInSession, NothingMayFollowTheLastValue)
@@ -151,7 +151,7 @@ TEST_F(TableInSession, AFileOfTwoGibibytesWithoutATableIsRefusedAtOnce)
   file.write(QByteArray(sessionChecksumSize, 'x'));
   file.close();
   int steps = 0;
-  const OpenedSession cut = openSession(path(), [&steps](double) { return ++steps < 2; });
-  EXPECT_EQ(cut.error, "the session's table is damaged");
+  const Result<OpenedSession> cut = openSession(path(), [&steps](double) { return ++steps < 2; });
+  EXPECT_EQ(cut.error(), "the session's table is damaged");
   EXPECT_EQ(steps, 0) << "none of the table was read";
 }

@@ -219,8 +219,9 @@ TEST_F(RunLooksInWindow, NormalisedRunsAreSavedWithTheirValuesFromBefore)
   const QString path = folder.filePath(QStringLiteral("normalised.talmesh"));
   ASSERT_TRUE(window.saveSessionTo(path));
   EXPECT_EQ(value(0, pointsPerRun), 1.0) << "what is shown stays";
-  const OpenedSession saved = openSession(path);
-  ASSERT_EQ(saved.error, "");
+  const Result<OpenedSession> read = openSession(path);
+  ASSERT_EQ(read.error(), "");
+  const OpenedSession& saved = read.value();
   EXPECT_EQ(saved.study.runs->values[0][pointsPerRun], 16.0);
   EXPECT_EQ(saved.session->settings.normalised, std::vector<int>{0});
 

@@ -160,7 +160,7 @@ TEST_F(UnsavedWork, IsNoSelectionThatHasAFileOfItsOwn)
   select({10, 50});
   press(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
   chooseIn(window, path("runs.json"));
-  EXPECT_EQ(loadRunSelection(path("runs.json")).selection.runs, (std::set<int>{10, 50}));
+  EXPECT_EQ(loadRunSelection(path("runs.json")).value().runs, (std::set<int>{10, 50}));
   EXPECT_TRUE(window.close());
 }
 
