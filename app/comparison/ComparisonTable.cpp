@@ -26,6 +26,8 @@ namespace Talmesh::app
 namespace
 {
 
+constexpr int charactersOfAName = 36;
+
 using Quote = std::function<QString(const QString&)>;
 
 QString onOneLine(const QString& cell)
@@ -175,6 +177,10 @@ QTableView* ComparisonTable::makeView()
   table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   table->horizontalHeader()->setStretchLastSection(true);
+  // Longer names would push the numbers out of sight; the tool tip has all of them.
+  table->horizontalHeader()->setMaximumSectionSize(charactersOfAName *
+                                                   table->fontMetrics().averageCharWidth());
+  table->setTextElideMode(Qt::ElideMiddle);
   return table;
 }
 

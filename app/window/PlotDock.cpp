@@ -2,9 +2,9 @@
 
 #include "app/import/ColumnRoles.h"
 #include "app/styles/ViewerStyles.h"
+#include "app/window/NameBox.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFontMetrics>
 #include <QFormLayout>
 #include <QListWidget>
@@ -18,40 +18,28 @@ namespace Talmesh::app
 
 namespace
 {
-
-/// The widths of the panel follow the font, so that they are right on every screen.
-constexpr int charactersOfAName = 18;
-
-QComboBox* makeColumnBox(const QString& name)
+NameBox* makeNameBox(const QString& name)
 {
-  auto* box = new QComboBox;
+  auto* box = new NameBox;
   box->setObjectName(name);
-  box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  box->setMinimumContentsLength(charactersOfAName);
   return box;
-}
-
-void fill(QComboBox* box, const QStringList& names)
-{
-  const QSignalBlocker silent(box);
-  box->clear();
-  box->addItems(names);
 }
 
 } // namespace
 
 PlotDock::PlotDock(QWidget* parent)
     : QDockWidget(tr("Plot"), parent)
-    , style(makeColumnBox(QStringLiteral("style")))
-    , x(makeColumnBox(QStringLiteral("x")))
+    , style(makeNameBox(QStringLiteral("style")))
+    , x(makeNameBox(QStringLiteral("x")))
     , y(new QListWidget)
-    , z(makeColumnBox(QStringLiteral("z")))
+    , z(makeNameBox(QStringLiteral("z")))
 {
   setObjectName(QStringLiteral("plotDock"));
   for (const ViewerStyle& known : viewerStyles())
     if (known.offered)
       style->addItem(titleOf(known), static_cast<int>(known.style));
   y->setObjectName(QStringLiteral("y"));
+  elideNames(*y);
   y->setMinimumHeight(6 * y->fontMetrics().lineSpacing());
 
   auto* panel = new QWidget;
@@ -91,8 +79,8 @@ void PlotDock::setColumns(const QStringList& names)
   QStringList shown;
   for (const QString& name : names)
     shown.append(QString::fromStdString(shownName(name.toStdString())));
-  fill(x, shown);
-  fill(z, shown);
+  x->setNames(shown);
+  z->setNames(shown);
   const QSignalBlocker silent(y);
   y->clear();
   for (int column = 0; column < shown.size(); ++column)
@@ -175,8 +163,6 @@ PlotChoice PlotDock::choice() const
   choice.x = x->currentIndex();
   choice.z = z->currentIndex();
   choice.y = tickedColumns();
-  if (choice.y.empty())
-    choice.y = lastTicked;
   choice.lines = lines->isChecked();
   choice.legend = wishedLegend;
   choice.logX = logX->isChecked();

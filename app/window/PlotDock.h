@@ -7,11 +7,12 @@
 #include <QStringList>
 
 class QCheckBox;
-class QComboBox;
 class QListWidget;
 
 namespace Talmesh::app
 {
+
+class NameBox;
 
 /// The panel in which the user chooses style, columns and switches.
 class PlotDock : public QDockWidget
@@ -34,7 +35,7 @@ public:
   void setChoice(const PlotChoice& choice);
   /// What the controls say. Legend and logarithmic y axis are those that the user wishes for the
   /// styles that have them; their switches are off in the others. The y columns stand in the order
-  /// in which they were chosen, each once; without a ticked column the one ticked last stays.
+  /// in which they were chosen, each once.
   PlotChoice choice() const;
 
 signals:
@@ -49,10 +50,10 @@ private:
   void readWishes();
   void enableControls();
 
-  QComboBox* style;
-  QComboBox* x;
+  NameBox* style;
+  NameBox* x;
   QListWidget* y;
-  QComboBox* z;
+  NameBox* z;
   QCheckBox* lines;
   QCheckBox* legend;
   QCheckBox* logX;

@@ -1,10 +1,13 @@
 #include "app/window/PlotDock.h"
 
+#include "app/window/NameBox.h"
+
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -73,6 +76,32 @@ TEST_F(PlotDockOfFourColumns, ShowsNamesWithoutTheirKind)
   EXPECT_EQ(yList()->item(2)->toolTip(), ": Time [s]");
 }
 
+TEST_F(PlotDockOfFourColumns, ShowsBeginningAndEndOfLongNames)
+{
+  const QString name = "Concentration of the phosphorylated receptor complex " + QString(200, 'x') +
+                       " at the membrane [nmol/l]";
+  dock.setColumns({"Molecule: A", "Molecule: " + name});
+  PlotChoice choice;
+  choice.x = 1;
+  dock.setChoice(choice);
+  QCoreApplication::processEvents();
+  auto* box = dynamic_cast<NameBox*>(combo("x"));
+  ASSERT_TRUE(box);
+  const QString shown = box->shownName();
+  EXPECT_TRUE(shown.startsWith("Conc") && shown.endsWith("[nmol/l]")) << shown.toStdString();
+  EXPECT_LT(box->fontMetrics().horizontalAdvance(shown), box->width());
+  EXPECT_EQ(box->currentText(), name);
+  EXPECT_EQ(box->itemData(1, Qt::ToolTipRole), name);
+  EXPECT_EQ(yList()->horizontalScrollBar()->maximum(), 0) << "nothing is out of sight";
+  EXPECT_EQ(yList()->visualItemRect(yList()->item(1)).width(), yList()->viewport()->width());
+  EXPECT_EQ(yList()->item(1)->toolTip(), "Molecule: " + name);
+}
+
+TEST_F(PlotDockOfFourColumns, ShowsShortNamesWhole)
+{
+  EXPECT_EQ(dynamic_cast<NameBox*>(combo("x"))->shownName(), "Time [s]");
+}
+
 TEST_F(PlotDockOfFourColumns, AnnouncesEverySwitch)
 {
   for (const char* name : {"lines", "legend", "logX", "logY"})
@@ -118,11 +147,14 @@ TEST_F(PlotDockOfFourColumns, TellsItsColumns)
             (QStringList{"Molecule: A", "Molecule: B", ": Time [s]", "Parameter: k"}));
 }
 
-TEST_F(PlotDockOfFourColumns, KeepsTheColumnTickedLastWhenNoneIsLeft)
+TEST_F(PlotDockOfFourColumns, ChoosesNoColumnWithoutATick)
 {
   pressSpaceOn(0);
-  EXPECT_EQ(dock.choice().y, std::vector<int>{0});
   EXPECT_EQ(yList()->item(0)->checkState(), Qt::Unchecked);
+  EXPECT_TRUE(dock.choice().y.empty());
+  EXPECT_EQ(changes.count(), 1);
+  pressSpaceOn(1);
+  EXPECT_EQ(dock.choice().y, std::vector<int>{1});
 }
 
 TEST_F(PlotDockOfFourColumns, EnablesWhatTheStyleKnows)
