@@ -36,7 +36,8 @@ std::string writeExports(const CommandLineOptions& options, const OpenedStudy& o
                          const QSize& size)
 {
   auto widget = makeHiddenPlot(size);
-  Document document([&widget](PlotContainer& container) { widget->setPlotContainer(&container); });
+  Document document([&widget](PlotContainer& container)
+                    { widget->placePlotContainer(&container); });
   std::string error = document.open(opened, options);
   if (error.empty())
     error = document.drawingError();

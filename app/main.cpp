@@ -5,6 +5,7 @@
 #include "app/session/FileNameCodec.h"
 #include "app/session/KeptWork.h"
 #include "app/window/MainWindow.h"
+#include "app/window/SessionController.h"
 #include "widgets/Translation.h"
 
 #include <QVTKOpenGLNativeWidget.h>
@@ -59,8 +60,8 @@ int showWindow(const CommandLineOptions& options)
                    { QCoreApplication::exit(fail(message.toStdString())); });
   window.show();
   window.open(options);
-  window.keepWork(stateFolder());
-  const EndingSignals ending([&window] { window.keepWorkNow(); });
+  window.sessionController().keepIn(stateFolder());
+  const EndingSignals ending([&window] { window.sessionController().keepNow(); });
   return QCoreApplication::exec();
 }
 
@@ -75,10 +76,10 @@ int runProgram(int argc, char** argv)
   // Qt asks for the encoding of names when it first meets one.
   std::setlocale(LC_CTYPE, "");
   installFileNameCodec();
-  const ParsedCommandLine line = parseCommandLine({argv + std::min(argc, 1), argv + argc});
-  const CommandLineOptions& options = line.options;
-  if (!line.error.empty())
-    return fail(line.error);
+  const Result<CommandLineOptions> line = parseCommandLine({argv + std::min(argc, 1), argv + argc});
+  if (!line.hasValue())
+    return fail(line.error());
+  const CommandLineOptions& options = line.value();
   if (options.help)
     return print(commandLineHelp());
   if (options.version)

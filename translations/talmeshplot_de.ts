@@ -96,10 +96,6 @@ p, li { white-space: pre-wrap; }
         <translation>die Grafik konnte nicht gezeichnet werden</translation>
     </message>
     <message>
-        <source>the table could not be written</source>
-        <translation>die Tabelle konnte nicht geschrieben werden</translation>
-    </message>
-    <message>
         <source>the name must end with .png, .pdf or .csv</source>
         <translation>der Name muss auf .png, .pdf oder .csv enden</translation>
     </message>
@@ -129,6 +125,14 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>more than one column is named %1: %2 and %3</source>
         <translation>mehr als eine Spalte heißt %1: %2 und %3</translation>
+    </message>
+    <message>
+        <source>No y column is ticked: nothing to show over x</source>
+        <translation>Keine Y-Spalte ist angekreuzt: über x gibt es nichts zu zeigen</translation>
+    </message>
+    <message>
+        <source>Linear scale: a logarithmic one needs positive values</source>
+        <translation>Lineare Skala: eine logarithmische braucht positive Werte</translation>
     </message>
 </context>
 <context>
@@ -1054,6 +1058,14 @@ p, li { white-space: pre-wrap; }
         <source>Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)</source>
         <translation>Bild (*.png);;Vektorgrafik (*.pdf);;Tabelle (*.csv)</translation>
     </message>
+    <message>
+        <source>Writing %1 ...</source>
+        <translation>%1 wird geschrieben ...</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::ExportDialog</name>
@@ -1187,6 +1199,14 @@ p, li { white-space: pre-wrap; }
         <source>This data has no runs over time to group.</source>
         <translation>Diese Daten haben keine Läufe über der Zeit, die sich gruppieren ließen.</translation>
     </message>
+    <message>
+        <source>Grouping the runs ...</source>
+        <translation>Die Läufe werden gruppiert ...</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::HelpMenu</name>
@@ -1218,13 +1238,6 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
-    <name>Talmesh::app::LoadingBar</name>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-</context>
-<context>
     <name>Talmesh::app::MainWindow</name>
     <message>
         <source>Runs</source>
@@ -1245,10 +1258,6 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Updated in %1 ms</source>
         <translation>In %1 ms aktualisiert</translation>
-    </message>
-    <message>
-        <source>Linear scale: a logarithmic one needs positive values</source>
-        <translation>Lineare Skala: eine logarithmische braucht positive Werte</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1457,13 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Cancelled</source>
         <translation>Abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::TaskBar</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,7 @@ void PlotSelector::setSelectionOptions(
   {
     auto* item = new QTreeWidgetItem(categoryOf(kind));
     item->setText(0, QString::fromStdString(itemName));
+    item->setToolTip(0, item->text(0));
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
   }
   sortItems(0, Qt::AscendingOrder);

@@ -5,24 +5,12 @@
 #include "app/document/ShownStudy.h"
 #include "app/document/TableRuns.h"
 #include "app/memory/PaintingMemory.h"
-#include "external/LinePlotTable.h"
 #include "external/PlotMetaData.h"
 
 #include <utility>
 
 namespace Talmesh::app
 {
-
-namespace
-{
-
-int runsOverTime(const Study& study)
-{
-  const bool runs = study.runs && study.runs->pointsPerTrajectory > 1;
-  return runs ? static_cast<int>(study.runs->numberOfTrajectories) : 0;
-}
-
-} // namespace
 
 Document::Document(Stage where, PlotContainer* before, QObject* parent)
     : QObject(parent)
@@ -72,7 +60,7 @@ void Document::show(PlotContainer* container)
                              ++drawings;
                              error.clear();
                            });
-  error = whyNotDrawn([this] { stage(*shown.container); });
+  stage(*container);
   // Connected after the container's own answer, which draws.
   settingsHeard = connect(container->getMetaData(), &PlotMetaData::redrawNeeded, this,
                           &Document::followSettings);
@@ -121,7 +109,6 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   PlotContainer& container = *shown.container;
   showStudy(shown.study, container);
   chooseOpeningStyle(container, wishes);
-  selected.follow(&container);
   grouped.follow(&container, runsOverTime(shown.study));
   shown.choice = choiceOf(container);
   if (opened.session)
@@ -134,6 +121,8 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   if (failure.empty())
     shown.choice = wished;
   drawSilently();
+  // The history begins with what is restored.
+  selected.follow(&container);
   return failure;
 }
 
@@ -145,10 +134,8 @@ void Document::restore(const RestoredSession& session)
   grouped.restore(session.settings.groups);
   // Normalising has forgotten the window.
   restoreWindow(session, container);
-  restoreSelection(session, container);
+  container.withoutDrawing([&] { restoreSelection(session, container); });
   shown.choice = restoredChoice(session, container);
-  // The history begins with what is restored.
-  selected.restartHistory();
 }
 
 void Document::openOwnChart()
@@ -199,6 +186,7 @@ void Document::returnToRuns()
   show(runs.container);
   shown = runs;
   selected.endVisit();
+  drawSilently();
   emit studyChanged();
   emit drawn();
 }
@@ -213,6 +201,13 @@ QString Document::size() const
   const Study& study = shown.study;
   const bool any = shown.container && (study.runs || study.table || study.chart);
   return any ? QString::fromStdString(studySize(study, *shown.container)) : QString();
+}
+
+QString Document::remark() const
+{
+  if (error.empty() && shown.container && !shown.study.chart)
+    return remarkOn(shown.choice, *shown.container);
+  return QString::fromStdString(error);
 }
 
 void Document::drawSilently()
@@ -257,9 +252,9 @@ void Document::chooseVariant(int variant)
   draw();
 }
 
-void Document::group()
+void Document::takeGroups(const RunClustering& found)
 {
-  grouped.group();
+  grouped.take(found);
   setLook(grouped.state().look);
 }
 
@@ -302,10 +297,10 @@ std::optional<SessionSource> Document::sessionSource()
   return source;
 }
 
-std::string Document::save(const QString& path)
+std::string Document::save(const QString& path, QByteArray* end)
 {
   const std::optional<SessionSource> source = sessionSource();
-  return source ? saveSession(path, *source) : std::string();
+  return source ? saveSession(path, *source, end) : std::string();
 }
 
 } // namespace Talmesh::app

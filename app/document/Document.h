@@ -35,8 +35,7 @@ class Document : public QObject
   Q_OBJECT
 
 public:
-  /// Puts a container into the scene where it is seen, and draws it, as
-  /// `VtkPlotWidget::setPlotContainer` does. May throw what drawing throws.
+  /// Puts a container into the scene where it is seen. Draws nothing.
   using Stage = std::function<void(PlotContainer&)>;
 
   /// @param shown what is in the scene before a study is opened, not owned; null for nothing
@@ -68,6 +67,9 @@ public:
   QString size() const;
   /// Why what is chosen could not be drawn the last time, in one line; empty if it was.
   const std::string& drawingError() const { return error; }
+  /// What the user should know of the last drawing, in one line: its error, or how it differs from
+  /// what is chosen; empty for nothing.
+  QString remark() const;
   SelectionController& selection() { return selected; }
   GroupedRuns& groups() { return grouped; }
 
@@ -78,8 +80,9 @@ public:
   void compareBy(const ComparisonChoice& choice);
   /// Of the study's own chart.
   void chooseVariant(int variant);
-  /// Sorts the runs into groups and shows them in their colours.
-  void group();
+  /// Takes groups that were found for the runs now shown, see `GroupedRuns::clustering`, and shows
+  /// them in their colours.
+  void takeGroups(const RunClustering& found);
   /// Shows the runs as the look says, in the XY plot if the style shows nothing of it.
   void setLook(const RunLook& look);
 
@@ -88,9 +91,9 @@ public:
   /// What a session keeps of the runs or the table opened last, also while they are put aside;
   /// nothing before any is opened. Refers to the document.
   std::optional<SessionSource> sessionSource();
-  /// Writes the session.
+  /// Writes the session, if there is anything to write.
   /// @return as `saveSession`
-  std::string save(const QString& path);
+  std::string save(const QString& path, QByteArray* end = nullptr);
 
 signals:
   /// Another study is shown, or the former one again; or it is another container that does.

@@ -79,11 +79,18 @@ void GroupedRuns::setGrouping(int count, int mode)
   kept.mode = mode;
 }
 
-void GroupedRuns::group()
+std::shared_ptr<RunClustering> GroupedRuns::clustering() const
+{
+  if (!container || runCount == 0)
+    return nullptr;
+  return std::make_shared<RunClustering>(*container, kept.count, kept.mode);
+}
+
+void GroupedRuns::take(const RunClustering& found)
 {
   if (!container)
     return;
-  container->clusterTimeSeries(kept.count, kept.mode);
+  found.handOver(*container);
   kept.groupOfRun = membershipOf(*container);
   named = namedGroups(kept.groupOfRun);
   kept.look.groupColours = !named.names.empty();

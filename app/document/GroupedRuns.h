@@ -4,10 +4,12 @@
 #include "app/document/GroupedPlots.h"
 #include "app/document/RunNormaliser.h"
 #include "app/session/SessionGroups.h"
+#include "plot/RunClustering.h"
 
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
 #include <vector>
 
 class PlotContainer;
@@ -56,8 +58,11 @@ public:
 
   /// How runs are sorted next. Sorts nothing.
   void setGrouping(int count, int mode);
-  /// Sorts the runs into groups by the first y column and has them coloured. Draws nothing.
-  void group();
+  /// What sorts the runs now shown into groups by the first y column, for whoever computes it; null
+  /// without runs over time.
+  std::shared_ptr<RunClustering> clustering() const;
+  /// Takes the groups that it has found, and has them coloured. Draws nothing.
+  void take(const RunClustering& found);
   /// Draws nothing.
   void setLook(const RunLook& look);
   /// Selects the runs of a group.

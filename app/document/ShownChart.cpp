@@ -24,7 +24,7 @@ void ShownChart::choose(int variant)
   steps = chart->steps(variant);
   std::string& title = container.getMetaData()->title;
   title = ownTitle;
-  steps.fill(container);
+  container.withoutDrawing([this] { steps.fill(container); });
   ownTitle = title;
 }
 

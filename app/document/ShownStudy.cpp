@@ -34,9 +34,7 @@ std::array<int, 4> seriesColour(std::size_t runs)
   return {31, 84, 150, static_cast<int>(alpha)};
 }
 
-} // namespace
-
-void showStudy(const Study& study, PlotContainer& container)
+void fill(const Study& study, PlotContainer& container)
 {
   PlotMetaData& settings = *container.getMetaData();
   PlotOptions options;
@@ -73,6 +71,13 @@ void showStudy(const Study& study, PlotContainer& container)
     settings.color = seriesColour(1);
   }
   settings.title.clear();
+}
+
+} // namespace
+
+void showStudy(const Study& study, PlotContainer& container)
+{
+  container.withoutDrawing([&] { fill(study, container); });
 }
 
 std::string studySize(const Study& study, const PlotContainer& container)

@@ -111,7 +111,7 @@ std::string write(const GalleryView& view, const Study& study, const QDir& folde
                   VtkPlotWidget& widget, Vectors vectors, int dotsPerInch)
 {
   PlotContainer* const own = widget.plotContainer();
-  Document document([&widget](PlotContainer& container) { widget.setPlotContainer(&container); });
+  Document document([&widget](PlotContainer& container) { widget.placePlotContainer(&container); });
   std::string error = view.draw(study, document);
   for (const char* suffix : {".png", ".pdf"})
     if (error.empty())

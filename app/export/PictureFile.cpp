@@ -4,40 +4,22 @@
 #include "app/import/TranslatedText.h"
 #include "app/memory/PaintingMemory.h"
 #include "plot/PlotContainer.h"
-#include "widgets/FileWriter.h"
 #include "widgets/VtkPlotWidget.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
-#include <QImage>
 #include <QtMath>
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
-#include <new>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace Talmesh::app
 {
 
 namespace
 {
-
-/// Content of an export, or why there is none. A table may have more bytes than a QByteArray holds.
-struct Content
-{
-  QByteArray bytes;
-  std::unique_ptr<char[]> table;
-  std::string error;
-
-  const char* data() const { return table ? table.get() : bytes.constData(); }
-  qint64 size() const
-  {
-    return table ? static_cast<qint64>(std::strlen(table.get())) : bytes.size();
-  }
-};
 
 constexpr double millimetresPerInch = 25.4;
 constexpr double pointsPerInch = 72.0;
@@ -54,20 +36,10 @@ QSizeF pointsOf(const PaperSize& paper)
   return paper.millimetres * (pointsPerInch / millimetresPerInch);
 }
 
-Content pngFile(const QImage& picture)
-{
-  Content content;
-  QBuffer buffer(&content.bytes);
-  buffer.open(QIODevice::WriteOnly);
-  if (picture.isNull() || !picture.convertToFormat(QImage::Format_RGB32).save(&buffer, "PNG"))
-    content.error = translated("PictureFile", "the plot could not be painted");
-  return content;
-}
-
-Content pngOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper)
+QImage pictureOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper)
 {
   if (!paper)
-    return pngFile(paintScaled(widget, widget.devicePixelRatioF()));
+    return paintScaled(widget, widget.devicePixelRatioF());
   // The scene has whole points, of which the last may be cut.
   const QSizeF points = pointsOf(*paper);
   const QSize size(qCeil(points.width() - rounding), qCeil(points.height() - rounding));
@@ -75,7 +47,7 @@ Content pngOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper)
   const int dotsPerMetre = qRound(paper->dotsPerInch * 1000.0 / millimetresPerInch);
   picture.setDotsPerMeterX(dotsPerMetre);
   picture.setDotsPerMeterY(dotsPerMetre);
-  return pngFile(picture);
+  return picture;
 }
 
 /// How many pixels of its pictures a point of a page has, of which no side may have too many.
@@ -85,40 +57,23 @@ double resolutionOn(const QSize& points, int dotsPerInch)
                   double(mostPixels) / std::max({points.width(), points.height(), 1}));
 }
 
-Content pdfOf(VtkPlotWidget& widget, const std::optional<PaperSize>& paper, Vectors vectors,
-              int dotsPerInch)
+/// Resolution of the pictures of an export.
+int resolutionOf(const ExportWishes& wishes)
 {
-  const QSize points = paper ? rounded(pointsOf(*paper)) : widget.size();
-  Content content;
-  content.bytes = paintPage(widget, points, resolutionOn(points, dotsPerInch), vectors);
-  if (!isWholePdf(content.bytes))
-    content.error = translated("PictureFile", "the plot could not be painted");
-  return content;
+  return wishes.paper ? wishes.paper->dotsPerInch : wishes.dotsPerInch;
 }
 
-Content csvOf(VtkPlotWidget& widget)
+QByteArray pageOf(VtkPlotWidget& widget, const ExportWishes& wishes)
 {
-  Content content;
-  content.table.reset(widget.plotContainer()->saveData({}, true));
-  if (!content.table)
-    content.error = translated("PictureFile", "the table could not be written");
-  return content;
+  const QSize points = wishes.paper ? rounded(pointsOf(*wishes.paper)) : widget.size();
+  return paintPage(widget, points, resolutionOn(points, resolutionOf(wishes)), wishes.vectors);
 }
 
-Content contentOf(VtkPlotWidget& widget, ExportKind kind, const std::optional<PaperSize>& paper,
-                  Vectors vectors, int dotsPerInch)
+vtkSmartPointer<vtkTable> copyOf(vtkTable* table)
 {
-  switch (kind)
-  {
-  case ExportKind::Pixels:
-    return pngOf(widget, paper);
-  case ExportKind::Vectors:
-    return pdfOf(widget, paper, vectors, dotsPerInch);
-  case ExportKind::Table:
-    return csvOf(widget);
-  default:
-    return {{}, {}, translated("PictureFile", "the name must end with .png, .pdf or .csv")};
-  }
+  auto copy = vtkSmartPointer<vtkTable>::New();
+  copy->DeepCopy(table);
+  return copy;
 }
 
 /// The pixels that a picture, or one that fills a page, is painted with; none for a table.
@@ -148,23 +103,36 @@ std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind,
   return error;
 }
 
-std::string writeExport(VtkPlotWidget& widget, const QString& path,
-                        const std::optional<PaperSize>& paper, Vectors vectors, int dotsPerInch)
+/// @param own whether a table is to be a copy
+Result<PaintedPlot> paint(VtkPlotWidget& widget, const QString& path, const ExportWishes& wishes,
+                          bool own)
 {
   const ExportKind kind = exportKindOf(path);
-  std::string error = objectionTo(widget, kind, paper, dotsPerInch);
-  try
-  {
-    const Content content = error.empty() ? contentOf(widget, kind, paper, vectors, dotsPerInch)
-                                          : Content{{}, {}, error};
-    error = content.error.empty() ? writeFile(path, content.data(), content.size()).toStdString()
-                                  : content.error;
-  }
-  catch (const std::bad_alloc&)
-  {
-    error = missingMemory();
-  }
-  return error.empty() ? error : path.toStdString() + ": " + error;
+  if (kind == ExportKind::None)
+    return Result<PaintedPlot>::failed(
+        translated("PictureFile", "the name must end with .png, .pdf or .csv"));
+  const std::string objection = objectionTo(widget, kind, wishes.paper, resolutionOf(wishes));
+  if (!objection.empty())
+    return Result<PaintedPlot>::failed(objection);
+  PaintedPlot painted;
+  painted.path = path;
+  vtkTable* table = widget.plotContainer()->getTable();
+  if (kind == ExportKind::Pixels)
+    painted.picture = pictureOf(widget, wishes.paper);
+  else if (kind == ExportKind::Vectors)
+    painted.page = pageOf(widget, wishes);
+  else
+    painted.table = own ? copyOf(table) : vtkSmartPointer<vtkTable>(table);
+  const bool whole = painted.table || !painted.picture.isNull() || isWholePdf(painted.page);
+  return whole ? Result<PaintedPlot>(std::move(painted))
+               : Result<PaintedPlot>::failed(notPainted());
+}
+
+std::string paintAndWrite(VtkPlotWidget& widget, const QString& path, const ExportWishes& wishes)
+{
+  const Result<PaintedPlot> painted =
+      forFile<PaintedPlot>(path, [&] { return paint(widget, path, wishes, false); });
+  return painted.hasValue() ? writePlot(painted.value()).error() : painted.error();
 }
 
 bool isWithin(double number, int least, int most)
@@ -214,15 +182,21 @@ QSize pixelsOn(const PaperSize& paper)
   return rounded(paper.millimetres * (paper.dotsPerInch / millimetresPerInch));
 }
 
+Result<PaintedPlot> paintPlot(VtkPlotWidget& widget, const QString& path,
+                              const ExportWishes& wishes)
+{
+  return forFile<PaintedPlot>(path, [&] { return paint(widget, path, wishes, true); });
+}
+
 std::string exportPlot(VtkPlotWidget& widget, const QString& path, Vectors vectors, int dotsPerInch)
 {
-  return writeExport(widget, path, {}, vectors, dotsPerInch);
+  return paintAndWrite(widget, path, {{}, vectors, dotsPerInch});
 }
 
 std::string exportPlot(VtkPlotWidget& widget, const QString& path, const PaperSize& paper,
                        Vectors vectors)
 {
-  return writeExport(widget, path, paper, vectors, paper.dotsPerInch);
+  return paintAndWrite(widget, path, {paper, vectors});
 }
 
 std::unique_ptr<VtkPlotWidget> makeHiddenPlot(const QSize& pixels)

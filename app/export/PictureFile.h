@@ -1,6 +1,7 @@
 #ifndef PictureFile_h
 #define PictureFile_h
 
+#include "app/export/PlotWriter.h"
 #include "widgets/ScenePainter.h"
 
 #include <QByteArray>
@@ -43,6 +44,22 @@ struct PaperSize
 /// Dots per inch of pictures on a page that is as large as a plot on the screen, which is read from
 /// a screen or printed smaller.
 constexpr int resolutionOfScreenPages = 150;
+
+/// How a plot is exported.
+struct ExportWishes
+{
+  /// None for the size on the screen.
+  std::optional<PaperSize> paper;
+  /// The lines and points of a page that are vectors.
+  Vectors vectors = Vectors::Auto;
+  /// Of pictures on a page that is as large as a plot on the screen.
+  int dotsPerInch = resolutionOfScreenPages;
+};
+
+/// Paints what a plot widget shows for a file, or copies its table. In the GUI thread.
+/// @return as `exportPlot` in case of failure
+Result<PaintedPlot> paintPlot(VtkPlotWidget& widget, const QString& path,
+                              const ExportWishes& wishes);
 
 /// Writes what a plot widget shows: ".png" the picture in the widget's pixels, ".pdf" the same as
 /// vectors, as far as @p vectors says, ".csv" the whole table. The file appears complete or not at

@@ -113,6 +113,12 @@ void TaskRunner::cancel()
     emit ended();
 }
 
+void TaskRunner::waitForEnd()
+{
+  for (const auto& task : threads)
+    task->thread->wait();
+}
+
 void TaskRunner::report(const std::shared_ptr<Running>& task, int percent)
 {
   if (task && task == current)

@@ -66,6 +66,9 @@ public:
 
   /// Gives up the running task; its result is not delivered.
   void cancel();
+  /// Waits until what runs has come to its end, as for work that must not be left halfway when its
+  /// owner ends. Nothing is delivered before the event loop is back.
+  void waitForEnd();
   bool isRunning() const { return current != nullptr; }
 
 signals:

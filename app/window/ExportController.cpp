@@ -1,22 +1,37 @@
 #include "app/window/ExportController.h"
 
 #include "app/export/ExportDialog.h"
+#include "app/tasks/TaskRunner.h"
 #include "app/window/FileDialogs.h"
+#include "app/window/TaskBar.h"
 #include "widgets/VtkPlotWidget.h"
 #include "widgets/WidgetSupport.h"
 
 #include <QFileDialog>
 
+#include <memory>
 #include <optional>
+#include <utility>
 
 namespace Talmesh::app
 {
 
-ExportController::ExportController(VtkPlotWidget& exported, QWidget& parent)
+ExportController::ExportController(VtkPlotWidget& exported, TaskBar& bar, QWidget& parent)
     : QObject(&parent)
     , plot(exported)
+    , runner(new TaskRunner(this))
     , window(parent)
 {
+  bar.follow(*runner, QStringLiteral("cancelExport"));
+  connect(&bar, &TaskBar::cancelled, this, &ExportController::cancel);
+}
+
+ExportController::~ExportController()
+{
+  runner->waitForEnd();
+  delete runner;
+  for (const PaintedPlot& painted : waiting)
+    writePlot(painted);
 }
 
 void ExportController::choose()
@@ -47,29 +62,52 @@ void ExportController::askForSize(const QString& path)
   auto* dialog = new ExportDialog(most, plot.size(), &window);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &QDialog::accepted, this,
-          [this, dialog, path]
-          {
-            const std::optional<PaperSize> paper = dialog->paper();
-            paper ? exportTo(path, *paper, dialog->vectors())
-                  : exportTo(path, dialog->vectors(), dialog->dotsPerInch());
+          [this, dialog, path] {
+            exportTo(path, {dialog->paper(), dialog->vectors(), dialog->dotsPerInch()});
           });
   dialog->open();
 }
 
-bool ExportController::exportTo(const QString& path, Vectors vectors, int dotsPerInch)
+void ExportController::exportTo(const QString& path, const ExportWishes& wishes)
 {
-  return announce(path, exportPlot(plot, path, vectors, dotsPerInch));
+  Result<PaintedPlot> painted = paintPlot(plot, path, wishes);
+  if (!painted.hasValue())
+  {
+    emit written(path, painted.error());
+    return;
+  }
+  waiting.push_back(std::move(painted.value()));
+  if (!runner->isRunning())
+    writeNext();
 }
 
-bool ExportController::exportTo(const QString& path, const PaperSize& paper, Vectors vectors)
+bool ExportController::isExporting() const
 {
-  return announce(path, exportPlot(plot, path, paper, vectors));
+  return runner->isRunning();
 }
 
-bool ExportController::announce(const QString& path, const std::string& error)
+void ExportController::writeNext()
 {
-  emit written(path, error);
-  return error.empty();
+  if (waiting.empty())
+    return;
+  const auto next = std::make_shared<const PaintedPlot>(std::move(waiting.front()));
+  waiting.pop_front();
+  emit said(tr("Writing %1 ...").arg(next->path));
+  runner->start<QString>(
+      this, [next](const TaskProgress& progress) { return writePlot(*next, progress); },
+      [this, next](const Result<QString>& result)
+      {
+        emit written(next->path, result.error());
+        writeNext();
+      });
+}
+
+/// Files that are written already stay.
+void ExportController::cancel()
+{
+  waiting.clear();
+  runner->cancel();
+  emit said(tr("Cancelled"));
 }
 
 } // namespace Talmesh::app

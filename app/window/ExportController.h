@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 
+#include <deque>
 #include <string>
 
 class QWidget;
@@ -14,34 +15,44 @@ class VtkPlotWidget;
 namespace Talmesh::app
 {
 
-/// Asks how a plot is to be exported, and writes it.
+class TaskBar;
+class TaskRunner;
+
+/// Asks how a plot is to be exported, paints it as it is then, and has it written in the
+/// background, one file after another.
 class ExportController : public QObject
 {
   Q_OBJECT
 
 public:
   /// @param plot outlives the controller
+  /// @param bar outlives the controller; shows how far the writing is
   /// @param window the parent of all questions and of the controller
-  ExportController(VtkPlotWidget& plot, QWidget& window);
+  ExportController(VtkPlotWidget& plot, TaskBar& bar, QWidget& window);
+  /// Waits until all is written: a window that closes does not take the user's files back.
+  ~ExportController() override;
 
   /// Asks for a file, and for the size of a picture.
   void choose();
   /// Asks for the size of a picture, then writes it.
   void askForSize(const QString& path);
-  /// Writes what is shown to a file, by its suffix, as on the screen or for print.
-  /// @return whether it was written
-  bool exportTo(const QString& path, Vectors vectors = Vectors::Auto,
-                int dotsPerInch = resolutionOfScreenPages);
-  bool exportTo(const QString& path, const PaperSize& paper, Vectors vectors = Vectors::Auto);
+  /// Starts to write what is now shown to a file, by its suffix.
+  void exportTo(const QString& path, const ExportWishes& wishes = {});
+  bool isExporting() const;
 
 signals:
+  /// What is going on, in one line.
+  void said(const QString& message);
   /// @param error one line; empty on success
   void written(const QString& path, const std::string& error);
 
 private:
-  bool announce(const QString& path, const std::string& error);
+  void writeNext();
+  void cancel();
 
   VtkPlotWidget& plot;
+  TaskRunner* runner;
+  std::deque<PaintedPlot> waiting;
   QWidget& window;
 };
 

@@ -3,6 +3,7 @@
 #include "widgets/WidgetSupport.h"
 
 #include <QFileInfo>
+#include <QMessageBox>
 
 #include <utility>
 
@@ -50,6 +51,15 @@ void suggestName(QFileDialog& dialog)
   const QString base = QFileInfo(shown).completeBaseName();
   if (!base.isEmpty())
     dialog.selectFile(base + QLatin1Char('.') + dialog.defaultSuffix());
+}
+
+void warn(QWidget* parent, const QString& message)
+{
+  auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Talmesh Plot"), message,
+                              QMessageBox::Ok, parent);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setTextFormat(Qt::PlainText);
+  box->open();
 }
 
 } // namespace Talmesh::app

@@ -31,6 +31,9 @@ QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& fil
 /// suffix.
 void suggestName(QFileDialog& dialog);
 
+/// Shows why something could not be done, and returns at once like the questions.
+void warn(QWidget* parent, const QString& message);
+
 } // namespace Talmesh::app
 
 #endif

@@ -1,32 +1,22 @@
 #include "app/window/GroupController.h"
 
 #include "app/document/Document.h"
+#include "app/tasks/TaskRunner.h"
 #include "app/window/ClusterDock.h"
-
-#include <QApplication>
+#include "app/window/TaskBar.h"
+#include "plot/RunClustering.h"
 
 namespace Talmesh::app
 {
 
-namespace
-{
-
-class WaitCursor
-{
-public:
-  WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-};
-
-} // namespace
-
-GroupController::GroupController(ClusterDock& panel, Document& shown, QObject* parent)
+GroupController::GroupController(ClusterDock& panel, Document& shown, TaskBar& bar, QObject* parent)
     : QObject(parent)
     , dock(panel)
     , document(shown)
+    , runner(new TaskRunner(this))
 {
+  bar.follow(*runner, QStringLiteral("cancelGrouping"));
+  connect(&bar, &TaskBar::cancelled, this, &GroupController::cancel);
   connect(&dock, &ClusterDock::groupingChanged, this,
           [this] { document.groups().setGrouping(dock.groupCount(), dock.mode()); });
   connect(&dock, &ClusterDock::groupingRequested, this, &GroupController::group);
@@ -34,9 +24,16 @@ GroupController::GroupController(ClusterDock& panel, Document& shown, QObject* p
           [this](int group) { document.groups().select(group); });
   connect(&dock, &ClusterDock::lookChanged, this, [this] { document.setLook(dock.look()); });
   connect(&dock, &ClusterDock::normalisingRequested, this, &GroupController::normalise);
+  connect(&document, &Document::studyChanged, runner, &TaskRunner::cancel);
   connect(&document, &Document::studyChanged, this, &GroupController::showStudy);
   connect(&document, &Document::drawn, this, &GroupController::showNormalised);
   showStudy();
+}
+
+GroupController::~GroupController()
+{
+  // Its thread must not outlive what it reports to.
+  delete runner;
 }
 
 /// The runs stay as they were left while a chart of its own takes their place.
@@ -54,12 +51,41 @@ void GroupController::showStudy()
 
 void GroupController::group()
 {
-  {
-    const WaitCursor waiting;
-    document.group();
-  }
+  const std::shared_ptr<RunClustering> clustering = document.groups().clustering();
+  if (!clustering)
+    return;
+  emit said(tr("Grouping the runs ..."));
+  using Found = std::shared_ptr<RunClustering>;
+  runner->start<Found>(
+      this,
+      [clustering](const TaskProgress& progress) {
+        return clustering->compute(progress) ? Result<Found>(clustering)
+                                             : Result<Found>::cancelled();
+      },
+      [this](const Result<Found>& found) { take(found); });
+}
+
+void GroupController::cancel()
+{
+  runner->cancel();
+  emit said(tr("Cancelled"));
+}
+
+void GroupController::take(const Result<std::shared_ptr<RunClustering>>& found)
+{
+  emit ended();
+  if (!found.error().empty())
+    emit failed(QString::fromStdString(found.error()));
+  if (!found.hasValue())
+    return;
+  document.takeGroups(*found.value());
   dock.setGroups(document.groups().groups());
   dock.setLook(document.groups().state().look);
+}
+
+bool GroupController::isGrouping() const
+{
+  return runner->isRunning();
 }
 
 void GroupController::normalise(bool on)

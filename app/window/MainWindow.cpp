@@ -5,7 +5,6 @@
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
 #include "app/window/GroupController.h"
-#include "app/window/LoadingBar.h"
 #include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
 #include "app/window/SessionController.h"
@@ -17,7 +16,6 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -47,7 +45,7 @@ QString droppedFile(const QMimeData* data)
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , plot(new VtkPlotWidget)
-    , shown([this](PlotContainer& container) { plot->setPlotContainer(&container); },
+    , shown([this](PlotContainer& container) { plot->placePlotContainer(&container); },
             plot->plotContainer())
     , timeCourses(new TimeCoursePage)
     , tabs(new QTabWidget)
@@ -55,21 +53,18 @@ MainWindow::MainWindow(QWidget* parent)
     , clusterDock(new ClusterDock)
     , studyDock(new StudyDock)
     , comparison(new ComparisonDock)
-    , loadingBar(new LoadingBar)
-    , size(new QLabel)
-    , selected(new QLabel)
-    , opener(new StudyOpener(shown, *loadingBar, this))
-    , sessions(new SessionController(*this, [this] { return shown.sessionSource(); }))
-    , exports(new ExportController(*plot, *this))
+    , status(*statusBar())
+    , opener(new StudyOpener(shown, status.opening(), this))
+    , grouping(new GroupController(*clusterDock, shown, status.grouping(), this))
+    , sessions(new SessionController(*this, shown))
+    , exports(new ExportController(*plot, status.exporting(), *this))
     , recent(new RecentMenu(this))
 {
   setWindowTitle(QStringLiteral("Talmesh Plot"));
   setAcceptDrops(true);
   placePanels();
   makeMenus();
-  makeStatusBar();
   takeFirstSize();
-  new GroupController(*clusterDock, shown, this);
   connectDocument();
   connectPanels();
   connectControllers();
@@ -77,8 +72,10 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
-  // Its thread must not outlive what it reports to.
+  // Their threads must not outlive what they report to.
   delete opener;
+  delete grouping;
+  delete exports;
   // What shows the document's containers ends before them.
   delete takeCentralWidget();
 }
@@ -98,15 +95,6 @@ void MainWindow::placePanels()
   tabifyDockWidget(dock, studyDock);
   dock->raise();
   studyDock->hide();
-}
-
-void MainWindow::makeStatusBar()
-{
-  size->setObjectName(QStringLiteral("studySize"));
-  selected->setObjectName(QStringLiteral("selectionSize"));
-  statusBar()->addPermanentWidget(loadingBar);
-  statusBar()->addPermanentWidget(selected);
-  statusBar()->addPermanentWidget(size);
 }
 
 void MainWindow::takeFirstSize()
@@ -141,6 +129,11 @@ bool MainWindow::isLoading() const
   return opener->isOpening();
 }
 
+bool MainWindow::isBusy() const
+{
+  return isLoading() || grouping->isGrouping() || exports->isExporting();
+}
+
 void MainWindow::returnToRuns()
 {
   if (!shown.canReturnToRuns())
@@ -150,45 +143,9 @@ void MainWindow::returnToRuns()
   shown.returnToRuns();
 }
 
-bool MainWindow::exportTo(const QString& path, Vectors vectors, int dotsPerInch)
-{
-  return exports->exportTo(path, vectors, dotsPerInch);
-}
-
-bool MainWindow::exportTo(const QString& path, const PaperSize& paper, Vectors vectors)
-{
-  return exports->exportTo(path, paper, vectors);
-}
-
-void MainWindow::askForSizeAndExport(const QString& path)
-{
-  exports->askForSize(path);
-}
-
 bool MainWindow::saveSessionTo(const QString& path)
 {
   return shown.canBeSaved() && sessions->saveTo(path);
-}
-
-void MainWindow::keepWork(const QString& folder, int milliseconds)
-{
-  sessions->keepIn(folder, milliseconds);
-  sessions->offerLeftWork();
-}
-
-void MainWindow::keepWorkNow()
-{
-  sessions->keepNow();
-}
-
-QString MainWindow::selectionText() const
-{
-  return selected->text();
-}
-
-QString MainWindow::sizeText() const
-{
-  return size->text();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

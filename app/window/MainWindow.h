@@ -2,14 +2,13 @@
 #define MainWindow_h
 
 #include "app/document/Document.h"
-#include "app/export/PictureFile.h"
 #include "app/window/RecentFiles.h"
+#include "app/window/StatusLine.h"
 #include "app/window/StudyOpener.h"
 #include "app/window/UpdateClock.h"
 
 #include <QMainWindow>
 
-class QLabel;
 class QTabWidget;
 class VtkPlotWidget;
 
@@ -19,7 +18,7 @@ namespace Talmesh::app
 class ClusterDock;
 class ComparisonDock;
 class ExportController;
-class LoadingBar;
+class GroupController;
 class PlotDock;
 class RecentMenu;
 class SessionController;
@@ -44,37 +43,28 @@ public:
   /// Starts to simulate the example study.
   void openExample();
   bool isLoading() const;
+  /// Whether anything long is going on: opening, grouping or writing.
+  bool isBusy() const;
   /// Shows once more the runs or the table opened last; a computed study has taken their place.
   void returnToRuns();
 
-  /// Writes what is shown to a file, by its suffix, as on the screen or for print; a failure is
-  /// shown to the user.
-  /// @return whether it was written
-  bool exportTo(const QString& path, Vectors vectors = Vectors::Auto,
-                int dotsPerInch = resolutionOfScreenPages);
-  bool exportTo(const QString& path, const PaperSize& paper, Vectors vectors = Vectors::Auto);
-  /// Asks for the size of a picture, then writes it.
-  void askForSizeAndExport(const QString& path);
   /// Writes the table and how it is shown as a session; a failure is shown to the user.
   /// @return whether it was written
   bool saveSessionTo(const QString& path);
-  /// Keeps unsaved work in a folder from now on, and asks what to do with what windows that are
-  /// gone have left there.
-  void keepWork(const QString& folder, int milliseconds = 60000);
-  /// Keeps what is unsaved now, and returns when it is on the disk.
-  void keepWorkNow();
 
   Document& document() { return shown; }
   VtkPlotWidget* plotWidget() const { return plot; }
   PlotDock* plotDock() const { return dock; }
   ComparisonDock* comparisonDock() const { return comparison; }
+  SessionController& sessionController() { return *sessions; }
+  ExportController& exportController() { return *exports; }
   /// The pages "Runs" and "Time courses".
   QTabWidget* pages() const { return tabs; }
   SelectionController* selectionController() { return &shown.selection(); }
   /// How much is loaded, as the status bar says it.
-  QString sizeText() const;
+  QString sizeText() const { return status.size(); }
   /// How much is selected, as the status bar says it.
-  QString selectionText() const;
+  QString selectionText() const { return status.selection(); }
 
 signals:
   void opened();
@@ -91,7 +81,6 @@ protected:
 
 private:
   void placePanels();
-  void makeStatusBar();
   void takeFirstSize();
   void connectDocument();
   void connectPanels();
@@ -104,11 +93,9 @@ private:
   void chooseStyle(plotStyles style);
   void showStudy();
   void showDrawing();
-  bool sayWhatIsLinear();
   void noteOpened(const OpenedStudy& study, const OpeningTask& task);
   void noteFailure(const QString& message, const OpeningTask& task);
   bool noteWritten(const QString& path, const std::string& error);
-  void say(const QString& message);
   void showError(const QString& message);
 
   VtkPlotWidget* plot;
@@ -119,10 +106,9 @@ private:
   ClusterDock* clusterDock;
   StudyDock* studyDock;
   ComparisonDock* comparison;
-  LoadingBar* loadingBar;
-  QLabel* size;
-  QLabel* selected;
+  StatusLine status;
   StudyOpener* opener;
+  GroupController* grouping;
   SessionController* sessions;
   ExportController* exports;
   RecentMenu* recent;

@@ -3,6 +3,8 @@
 #include "app/styles/ViewerStyles.h"
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
+#include "app/window/FileDialogs.h"
+#include "app/window/GroupController.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
@@ -12,21 +14,11 @@
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
-#include <QLabel>
-#include <QMessageBox>
-#include <QStatusBar>
 #include <QTabWidget>
 
 /// What the window does when the document and its controllers announce something.
 namespace Talmesh::app
 {
-
-namespace
-{
-
-constexpr int noteMilliseconds = 10000;
-
-} // namespace
 
 void MainWindow::connectDocument()
 {
@@ -52,7 +44,8 @@ void MainWindow::connectPanels()
             shown.compareBy(comparison->choice());
           });
   connect(comparison, &ComparisonDock::styleChosen, this, &MainWindow::chooseStyle);
-  connect(comparison, &ComparisonDock::said, this, &MainWindow::say);
+  const auto say = [this](const QString& message) { status.say(message); };
+  connect(comparison, &ComparisonDock::said, this, say);
   connect(comparison, &ComparisonDock::failed, this, &MainWindow::showError);
   connect(studyDock, &StudyDock::variantChanged, this,
           [this] { shown.chooseVariant(studyDock->variant()); });
@@ -60,9 +53,14 @@ void MainWindow::connectPanels()
 
 void MainWindow::connectControllers()
 {
-  connect(opener, &StudyOpener::said, statusBar(),
-          [this](const QString& message) { statusBar()->showMessage(message); });
-  connect(opener, &StudyOpener::ended, statusBar(), &QStatusBar::clearMessage);
+  const auto say = [this](const QString& message) { status.say(message); };
+  const auto tell = [this](const QString& message) { status.tell(message); };
+  const auto clear = [this] { status.clear(); };
+  connect(opener, &StudyOpener::said, this, tell);
+  connect(opener, &StudyOpener::ended, this, clear);
+  connect(grouping, &GroupController::said, this, tell);
+  connect(grouping, &GroupController::ended, this, clear);
+  connect(grouping, &GroupController::failed, this, &MainWindow::showError);
   connect(opener, &StudyOpener::shown, this, &MainWindow::noteOpened);
   connect(opener, &StudyOpener::opened, this, &MainWindow::opened);
   connect(opener, &StudyOpener::notOpened, recent,
@@ -72,6 +70,7 @@ void MainWindow::connectControllers()
               recent->remove(task.path);
           });
   connect(opener, &StudyOpener::failed, this, &MainWindow::noteFailure);
+  connect(exports, &ExportController::said, this, tell);
   connect(exports, &ExportController::written, this, &MainWindow::noteWritten);
   connect(sessions, &SessionController::written, this,
           [this](const QString& path, const std::string& error)
@@ -79,7 +78,7 @@ void MainWindow::connectControllers()
             if (noteWritten(path, error))
               recent->add(path);
           });
-  connect(sessions, &SessionController::failed, this, &MainWindow::say);
+  connect(sessions, &SessionController::failed, this, say);
   connect(sessions, &SessionController::bringBackWanted, opener, &StudyOpener::bringBack);
 }
 
@@ -105,7 +104,7 @@ void MainWindow::showStudy()
     studyDock->raise();
     studyDock->setChart(*study.chart);
   }
-  size->setText(shown.size());
+  status.setSize(shown.size());
   clock.follow(shown.container()->getAnnotationLink());
   // Dialogs suggest names of files from it.
   setWindowFilePath(QString::fromStdString(study.name));
@@ -117,28 +116,15 @@ void MainWindow::showDrawing()
 {
   if (!shown.container())
     return;
-  selected->setText(shown.selection().summary());
+  status.setSelection(shown.selection().summary());
   comparison->refresh(*shown.container());
   plot->updatePlot(true);
   const std::optional<qint64> milliseconds = clock.end();
-  if (!shown.drawingError().empty())
-    say(QString::fromStdString(shown.drawingError()));
-  else if (!sayWhatIsLinear() && milliseconds)
-    say(tr("Updated in %1 ms").arg(*milliseconds));
-}
-
-/// @return whether an axis that is to be logarithmic is not
-bool MainWindow::sayWhatIsLinear()
-{
-  const PlotContainer& container = *shown.container();
-  const PlotChoice choice = choiceOf(container);
-  if (shown.study().chart || !viewerStyle(choice.style).controls.logX)
-    return false;
-  const bool linear =
-      (choice.logX && !container.showsLogScaleX()) || (choice.logY && !container.showsLogScaleY());
-  if (linear)
-    say(tr("Linear scale: a logarithmic one needs positive values"));
-  return linear;
+  const QString remark = shown.remark();
+  if (!remark.isEmpty())
+    status.say(remark);
+  else if (milliseconds)
+    status.say(tr("Updated in %1 ms").arg(*milliseconds));
 }
 
 void MainWindow::noteOpened(const OpenedStudy& study, const OpeningTask& task)
@@ -159,28 +145,17 @@ void MainWindow::noteFailure(const QString& message, const OpeningTask& task)
 bool MainWindow::noteWritten(const QString& path, const std::string& error)
 {
   if (error.empty())
-    say(tr("Wrote %1").arg(path));
+    status.say(tr("Wrote %1").arg(path));
   else
     showError(QString::fromStdString(error));
   return error.empty();
 }
 
-void MainWindow::say(const QString& message)
-{
-  statusBar()->showMessage(message, noteMilliseconds);
-}
-
 void MainWindow::showError(const QString& message)
 {
-  say(message);
-  if (!isVisible())
-    return;
-  // Opened, not executed: a nested event loop would let the window die under this call.
-  auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Talmesh Plot"), message,
-                              QMessageBox::Ok, this);
-  box->setAttribute(Qt::WA_DeleteOnClose);
-  box->setTextFormat(Qt::PlainText);
-  box->open();
+  status.say(message);
+  if (isVisible())
+    warn(this, message);
 }
 
 } // namespace Talmesh::app

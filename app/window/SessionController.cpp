@@ -1,22 +1,20 @@
 #include "app/window/SessionController.h"
 
+#include "app/document/Document.h"
 #include "app/window/FileDialogs.h"
 #include "app/window/SessionQuestions.h"
-#include "plot/PlotContainer.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QWidget>
 
-#include <utility>
-
 namespace Talmesh::app
 {
 
-SessionController::SessionController(QWidget& parent, Source whatIsShown)
+SessionController::SessionController(QWidget& parent, Document& shown)
     : QObject(&parent)
     , window(parent)
-    , source(std::move(whatIsShown))
+    , document(shown)
 {
 }
 
@@ -43,20 +41,20 @@ void SessionController::opened(const OpenedStudy& study, const QString& path, co
 /// What is now shown is in the origin's file or, without one, as a table was opened.
 void SessionController::take(const SessionOrigin& origin)
 {
-  if (const std::optional<SessionSource> now = source())
+  if (const std::optional<SessionSource> now = document.sessionSource())
     record.saved(workOf(*now), origin);
   forget();
 }
 
 void SessionController::selectionSaved()
 {
-  if (const std::optional<SessionSource> now = source())
+  if (const std::optional<SessionSource> now = document.sessionSource())
     record.selectionSaved(workOf(*now));
 }
 
 UnsavedParts SessionController::unsavedParts()
 {
-  const std::optional<SessionSource> now = source();
+  const std::optional<SessionSource> now = document.sessionSource();
   return now ? record.unsaved(workOf(*now)) : UnsavedParts();
 }
 
@@ -73,7 +71,7 @@ void SessionController::leave(const Step& then)
     then();
     return;
   }
-  askBeforeLeaving(&window, QString::fromStdString(source()->study.name), parts,
+  askBeforeLeaving(&window, QString::fromStdString(document.sessionSource()->study.name), parts,
                    [this, then](LeavingAnswer answer)
                    {
                      if (answer == LeavingAnswer::save)
@@ -104,7 +102,7 @@ void SessionController::save(const Step& then)
 
 void SessionController::saveAs(const Step& then)
 {
-  const std::optional<SessionSource> now = source();
+  const std::optional<SessionSource> now = document.sessionSource();
   if (!now)
     return;
   QFileDialog* dialog = askToSave(&window, tr("Save session"), tr("Sessions (*.talmesh)"),
@@ -140,11 +138,11 @@ void SessionController::saveOver(const QString& path, const Step& then)
 
 bool SessionController::saveTo(const QString& path)
 {
-  const std::optional<SessionSource> now = source();
+  const std::optional<SessionSource> now = document.sessionSource();
   if (!now)
     return false;
   SessionOrigin written_{path, {}};
-  const std::string error = saveSession(path, *now, &written_.end);
+  const std::string error = document.save(path, &written_.end);
   if (error.empty())
   {
     // What went into a pipe is in no file.
@@ -161,13 +159,14 @@ void SessionController::keepIn(const QString& folder, int milliseconds)
   {
     if (!isUnsaved())
       return {};
-    std::optional<SessionSource> now = source();
+    std::optional<SessionSource> now = document.sessionSource();
     now->origin = record.origin();
     return now;
   };
   delete keeper;
   keeper = new WorkKeeper(folder, unsaved, milliseconds, this);
   connect(keeper, &WorkKeeper::failed, this, &SessionController::failed);
+  offerLeftWork();
 }
 
 void SessionController::keepNow()
@@ -176,6 +175,7 @@ void SessionController::keepNow()
     keeper->keepNow();
 }
 
+/// The latest first.
 void SessionController::offerLeftWork()
 {
   const LeftWork left = keeper ? latestLeftWork(keeper->folder()) : LeftWork();

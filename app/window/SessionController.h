@@ -1,7 +1,6 @@
 #ifndef SessionController_h
 #define SessionController_h
 
-#include "app/session/Session.h"
 #include "app/session/SessionWork.h"
 #include "app/session/StudyFile.h"
 #include "app/session/WorkKeeper.h"
@@ -9,13 +8,14 @@
 #include <QObject>
 
 #include <functional>
-#include <optional>
 #include <string>
 
 class QWidget;
 
 namespace Talmesh::app
 {
+
+class Document;
 
 /// Takes care that no work on a study is lost: knows what is saved where, asks before it is left or
 /// replaced, and keeps it in the state folder meanwhile.
@@ -24,12 +24,11 @@ class SessionController : public QObject
   Q_OBJECT
 
 public:
-  /// The work on the runs or the table opened last; nothing before any is opened.
-  using Source = std::function<std::optional<SessionSource>()>;
   using Step = std::function<void()>;
 
   /// @param window the parent of all questions and of the controller
-  SessionController(QWidget& window, Source source);
+  /// @param document whose work it is; outlives the controller's work
+  SessionController(QWidget& window, Document& document);
 
   /// Another study has been opened and is shown, which is the state that later ones are compared
   /// with.
@@ -54,11 +53,11 @@ public:
   /// @return whether it was written
   bool saveTo(const QString& path);
 
-  /// Keeps unsaved work in a folder from now on.
+  /// Keeps unsaved work in a folder from now on, and asks what to do with what windows that are
+  /// gone have left there.
   void keepIn(const QString& folder, int milliseconds = WorkKeeper::minute);
+  /// Keeps what is unsaved now, and returns when it is on the disk.
   void keepNow();
-  /// Asks what to do with the latest work that windows which are gone have left in the folder.
-  void offerLeftWork();
 
 signals:
   /// @param error one line; empty on success
@@ -69,12 +68,13 @@ signals:
 
 private:
   void take(const SessionOrigin& origin);
+  void offerLeftWork();
   UnsavedParts unsavedParts();
   void forget();
   void saveOver(const QString& path, const Step& then);
 
   QWidget& window;
-  Source source;
+  Document& document;
   SessionRecord record;
   WorkKeeper* keeper = nullptr;
 };

@@ -3,7 +3,7 @@
 #include "app/document/Document.h"
 #include "app/examples/ExampleStudy.h"
 #include "app/tasks/TaskRunner.h"
-#include "app/window/LoadingBar.h"
+#include "app/window/TaskBar.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -39,15 +39,13 @@ OpeningTask taskFor(const QString& path)
 
 } // namespace
 
-StudyOpener::StudyOpener(Document& into, LoadingBar& bar, QObject* parent)
+StudyOpener::StudyOpener(Document& into, TaskBar& bar, QObject* parent)
     : QObject(parent)
     , document(into)
     , runner(new TaskRunner(this))
 {
-  connect(runner, &TaskRunner::started, &bar, &LoadingBar::begin);
-  connect(runner, &TaskRunner::progressed, &bar, &LoadingBar::setPercent);
-  connect(runner, &TaskRunner::ended, &bar, &LoadingBar::end);
-  connect(&bar, &LoadingBar::cancelled, this, &StudyOpener::cancel);
+  bar.follow(*runner, QStringLiteral("cancelLoading"));
+  connect(&bar, &TaskBar::cancelled, this, &StudyOpener::cancel);
 }
 
 StudyOpener::~StudyOpener()

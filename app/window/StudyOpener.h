@@ -12,7 +12,7 @@ namespace Talmesh::app
 {
 
 class Document;
-class LoadingBar;
+class TaskBar;
 class TaskRunner;
 
 /// What is being opened, beside its content.
@@ -37,7 +37,7 @@ class StudyOpener : public QObject
 
 public:
   /// @param document, bar outlive the opener; the bar shows how far it is
-  StudyOpener(Document& document, LoadingBar& bar, QObject* parent = nullptr);
+  StudyOpener(Document& document, TaskBar& bar, QObject* parent = nullptr);
   /// Cancels what is being opened and waits for it.
   ~StudyOpener() override;
 

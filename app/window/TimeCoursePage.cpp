@@ -120,14 +120,14 @@ void TimeCoursePage::fill()
     return;
   }
   showRun();
-  auto& selector = *chart->findChild<PlotSelector*>();
+  auto& selector = *chart->selector();
   if (selector.selectedItems().empty())
     chooseFirstItem(selector);
 }
 
 void TimeCoursePage::showRun()
 {
-  auto& selector = *chart->findChild<PlotSelector*>();
+  auto& selector = *chart->selector();
   const ItemNames chosen = selectedNames(selector);
   RunCourses courses(*runs, timeOfCourses(*runs), static_cast<std::size_t>(run->value()));
   chart->setData(&courses.record);

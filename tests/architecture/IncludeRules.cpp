@@ -39,7 +39,7 @@ const Reach& reachableRooms()
       {"session", {"session", "styles", "import"}},
       {"tasks", {"tasks", "import"}},
       {"document", {"document", "session", "runs", "comparison", "memory", "styles", "import"}},
-      {"export", {"export", "memory", "import"}},
+      {"export", {"export", "tasks", "memory", "import"}},
       {"examples", {"examples", "export", "document", "session", "comparison", "styles", "import"}},
       {"window",
        {"window", "examples", "export", "document", "tasks", "session", "runs", "comparison",

@@ -195,3 +195,13 @@ TEST(SourceTree, FileNamesAreUnique)
     report += duplicate + "\n";
   EXPECT_EQ(report, "");
 }
+
+TEST(SourceTree, KeepsTheFilesOfTheViewerShort)
+{
+  constexpr std::ptrdiff_t mostLines = 300;
+  for (const std::string& path : sourcesIn({"app"}))
+  {
+    const std::string text = textOf(path);
+    EXPECT_LE(std::count(text.begin(), text.end(), '\n'), mostLines) << path;
+  }
+}

@@ -5,6 +5,8 @@
 #include "app/document/OwnChart.h"
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
+#include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "support/PlotScene.h"
 
@@ -66,6 +68,16 @@ protected:
   PlotMetaData& settings() { return *container().getMetaData(); }
   vtkChartXY& chart() { return *container().getChartXY(); }
 
+  /// Sorts the runs into groups as the document says.
+  void group()
+  {
+    if (const auto clustering = document.groups().clustering())
+    {
+      EXPECT_TRUE(clustering->compute());
+      document.takeGroups(*clustering);
+    }
+  }
+
   void select(const std::set<int>& runs)
   {
     ParameterSelection selection;
@@ -91,6 +103,8 @@ protected:
     return found;
   }
 
+  /// Drawings of the container now shown, whoever asked for them.
+  unsigned long drawingsSoFar() { return stateOf(container()).drawings; }
   /// Counts drawings of the container now shown from now on.
   void countDrawings()
   {
@@ -114,11 +128,7 @@ protected:
   int drawings = 0;
   int announced = 0;
   int studies = 0;
-  Talmesh::app::Document document{[this](PlotContainer& shown)
-                                  {
-                                    shown.setScene(scene.scene());
-                                    shown.redraw();
-                                  }};
+  Talmesh::app::Document document{[this](PlotContainer& shown) { shown.setScene(scene.scene()); }};
 };
 
 #endif

@@ -51,7 +51,7 @@ TEST_F(DocumentSession, BringsBackStatesNumbersAndPlots)
   comparison.density = true;
   document.compareBy(comparison);
   document.groups().setGrouping(2, byPhases);
-  document.group();
+  group();
   document.setLook({true, true, true});
   select({0, 1, 4});
   const std::vector<double> before = numbers();
@@ -100,6 +100,27 @@ TEST_F(DocumentSession, BringsBackThePartOfThePlaneAlsoOfNormalisedRuns)
   saveAndOpen();
   EXPECT_EQ(chart().GetAxis(vtkAxis::BOTTOM)->GetMinimum(), 2.0);
   EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetMaximum(), 0.5);
+}
+
+TEST_F(DocumentSession, DrawsAndAnnouncesOnceWhatItRestores)
+{
+  open();
+  select({0, 1, 4});
+  ASSERT_EQ(document.save(path()), "");
+  const Result<OpenedStudy> opened = openStudyFile(path());
+  for (const plotStyles style : {selectionCdfPlot, xyPlot, parallelCoordinates})
+  {
+    PlotWishes wishes;
+    wishes.style = style;
+    announced = 0;
+    ASSERT_EQ(document.open(opened.value(), wishes), "");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(drawingsSoFar(), 1U) << style;
+    EXPECT_EQ(announced, 1) << style;
+    EXPECT_EQ(selectedRuns(), (std::set<int>{0, 1, 4})) << style;
+    EXPECT_EQ(document.choice().style, style);
+    EXPECT_FALSE(document.selection().undoGroup().canUndo()) << style;
+  }
 }
 
 TEST_F(DocumentSession, LetsWishesGoBeforeWhatItRestores)

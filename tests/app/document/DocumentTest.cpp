@@ -51,7 +51,7 @@ TEST_F(DocumentOfRuns, ShowsNothingAtFirst)
   document.compareBy({});
   document.choose({});
   document.setLook({true, true, true});
-  document.group();
+  group();
   document.returnToRuns();
   EXPECT_EQ(document.drawingError(), "");
 }
@@ -153,12 +153,26 @@ TEST_F(DocumentOfRuns, DrawsEachChangeOnce)
   document.setLook({false, false, true});
   EXPECT_EQ(document.choice().style, xyPlot) << "which alone has bands";
   expectOneDrawing("look");
-  document.group();
+  group();
   expectOneDrawing("groups");
   document.groups().normalise(true);
   expectOneDrawing("values");
   settings().setLogX(true);
   expectOneDrawing("setting");
+}
+
+TEST_F(DocumentOfRuns, DrawsEachOpeningOnce)
+{
+  open();
+  EXPECT_EQ(drawingsSoFar(), 1U) << "runs";
+  openInXYPlot();
+  EXPECT_EQ(drawingsSoFar(), 1U) << "runs in a style of their own";
+  document.open(ownChart());
+  EXPECT_EQ(drawingsSoFar(), 1U) << "its own chart";
+  document.returnToRuns();
+  EXPECT_EQ(drawingsSoFar(), 2U) << "runs once more";
+  open(threeColumns);
+  EXPECT_EQ(drawingsSoFar(), 1U) << "a table";
 }
 
 TEST_F(DocumentOfRuns, DrawsEachSelectionOnceWithoutParametersToo)
@@ -180,7 +194,7 @@ TEST_F(DocumentOfRuns, CompletesEveryDrawing)
   choice.y = {0, 1};
   document.choose(choice);
   document.groups().setGrouping(2, byCourse);
-  document.group();
+  group();
   const std::vector<std::string> complete = labels();
   EXPECT_EQ(complete, (std::vector<std::string>{"X", "Y", "Group 1: 3 runs", "Group 2: 3 runs"}));
   for (int i = 0; i < 2; ++i)
@@ -271,7 +285,7 @@ TEST_F(DocumentOfRuns, SortsRunsIntoGroupsThatCanBeSelected)
 {
   openInXYPlot();
   document.groups().setGrouping(2, byCourse);
-  document.group();
+  group();
   EXPECT_EQ(document.groups().groups().groupOfRun, (std::vector<int>{0, 1, 0, 1, 0, 1}));
   EXPECT_TRUE(document.groups().state().look.groupColours);
   document.groups().select(1);

@@ -20,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "window/WrittenByWindow.h"
+
 using namespace Talmesh::app;
 
 namespace
@@ -143,7 +145,8 @@ TEST_F(ExportDialogOfAWindow, WritesAPlotThatAnotherTabHides)
 {
   const QTemporaryDir folder;
   MainWindow window;
-  window.resize(500, 400);
+  // Large enough for its panels, or it grows when the event loop gets to it.
+  window.resize(1200, 900);
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
   const QSize before = window.plotWidget()->size();
@@ -154,8 +157,8 @@ TEST_F(ExportDialogOfAWindow, WritesAPlotThatAnotherTabHides)
   const PaperSize paper = {QSizeF(180.0, 120.0), 200};
   const QString png = folder.filePath(QStringLiteral("plot.png"));
   const QString pdf = folder.filePath(QStringLiteral("plot.pdf"));
-  EXPECT_TRUE(window.exportTo(png, paper));
-  EXPECT_TRUE(window.exportTo(pdf, paper));
+  EXPECT_EQ(writtenBy(window, png, {paper}), "");
+  EXPECT_EQ(writtenBy(window, pdf, {paper}), "");
   // 180 by 120 mm are 510 by 340 points.
   const QImage page = pageOf(pdf);
   EXPECT_EQ(page.size(), QSize(510, 340));
@@ -183,13 +186,14 @@ TEST_F(ExportDialogOfAWindow, WritesTheFileOfTheSizeAccepted)
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
   const QSize before = window.plotWidget()->size();
   const QString path = folder.filePath(QStringLiteral("plot.png"));
-  window.askForSizeAndExport(path);
+  window.exportController().askForSize(path);
   auto* dialog = window.findChild<ExportDialog*>();
   ASSERT_TRUE(dialog);
   child<QDoubleSpinBox>(*dialog, "exportWidth").setValue(90.0);
   child<QDoubleSpinBox>(*dialog, "exportHeight").setValue(60.0);
   child<QSpinBox>(*dialog, "exportResolution").setValue(200);
   dialog->accept();
+  ASSERT_TRUE(QTest::qWaitFor([&window] { return !window.isBusy(); }, 60000));
   EXPECT_EQ(QImage(path).size(), QSize(709, 472));
   EXPECT_EQ(window.plotWidget()->size(), before);
 }

@@ -1,6 +1,7 @@
 #include "app/session/KeptWork.h"
 
 #include "app/session/Session.h"
+#include "app/window/SessionController.h"
 #include "support/DiskFaults.h"
 
 #include <QStatusBar>
@@ -38,8 +39,8 @@ protected:
       select({20, 40, 60});
     }
     const QDir own(path("own"));
-    window.keepWork(own.path());
-    window.keepWorkNow();
+    window.sessionController().keepIn(own.path());
+    window.sessionController().keepNow();
     const QStringList kept = own.entryList({QStringLiteral("*.talmesh")}, QDir::Files);
     ASSERT_EQ(kept.size(), 1);
     QDir().mkpath(state());
@@ -50,7 +51,7 @@ protected:
   QMessageBox* offer(MainWindow& shown)
   {
     shown.show();
-    shown.keepWork(state(), soon);
+    shown.sessionController().keepIn(state(), soon);
     return question(shown, "askAboutLeftWork");
   }
 
@@ -71,12 +72,12 @@ protected:
 
 TEST_F(KeptWork, IsWrittenWhileItIsNotSaved)
 {
-  window.keepWork(state(), soon);
+  window.sessionController().keepIn(state(), soon);
   QTest::qWait(4 * soon);
   EXPECT_FALSE(QDir(state()).exists()) << "nothing was done";
   select({20});
   ASSERT_TRUE(waitForFiles(1));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return openSession(keptFile()).error.empty(); }, patience));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return openSession(keptFile()).error().empty(); }, patience));
   const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther | QFile::ExeOther;
   EXPECT_FALSE(QFile::permissions(state()) & others);
   const QByteArray first = contentOf(keptFile());
@@ -94,7 +95,7 @@ TEST_F(KeptWork, IsWrittenWhileItIsNotSaved)
 
 TEST_F(KeptWork, GoesWhenItIsUndone)
 {
-  window.keepWork(state(), soon);
+  window.sessionController().keepIn(state(), soon);
   select({20});
   ASSERT_TRUE(waitForFiles(1));
   press(QKeySequence::Undo);
@@ -170,7 +171,7 @@ TEST_F(KeptWork, CanBeDiscardedOrLeftForLater)
 
 TEST_F(KeptWork, IsNotOfferedWhileItsWindowIsOpen)
 {
-  window.keepWork(state(), soon);
+  window.sessionController().keepIn(state(), soon);
   select({20});
   ASSERT_TRUE(waitForFiles(1));
   MainWindow other;
@@ -182,7 +183,7 @@ TEST_F(KeptWork, SaysOnceThatItCannotBeKept)
   QFile blocked(path("state"));
   ASSERT_TRUE(blocked.open(QIODevice::WriteOnly));
   blocked.close();
-  window.keepWork(state(), soon);
+  window.sessionController().keepIn(state(), soon);
   select({20});
   EXPECT_TRUE(QTest::qWaitFor([this] { return saysThatItCannotBeKept(); }, patience));
   window.statusBar()->clearMessage();
@@ -192,7 +193,7 @@ TEST_F(KeptWork, SaysOnceThatItCannotBeKept)
 
 TEST_F(KeptWork, IsTriedAgainWhenMemoryHasRunOut)
 {
-  window.keepWork(state(), soon);
+  window.sessionController().keepIn(state(), soon);
   for (const int run : {20, 30})
   {
     const QByteArray before = keptFiles().isEmpty() ? QByteArray() : contentOf(keptFile());
@@ -208,7 +209,7 @@ TEST_F(KeptWork, IsTriedAgainWhenMemoryHasRunOut)
     window.statusBar()->clearMessage();
     ASSERT_TRUE(QTest::qWaitFor(
         [&] { return !keptFiles().isEmpty() && contentOf(keptFile()) != before; }, 100 * soon));
-    EXPECT_EQ(openSession(keptFile()).error, "");
+    EXPECT_EQ(openSession(keptFile()).error(), "");
   }
 }
 

@@ -90,6 +90,7 @@ protected:
     QTest::keyClicks(box, QString::number(count));
     const CapturedOutput quiet(std::cout);
     QTest::mouseClick(find<QPushButton>("clusterStart"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isBusy(); }, 60000));
   }
 
   void tick(const char* name) { QTest::keyClick(find<QCheckBox>(name), Qt::Key_Space); }

@@ -1,6 +1,8 @@
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
+#include "plot/PlotState.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <vtkChartXY.h>
@@ -180,6 +182,18 @@ TEST_F(LoadingInWindow, ForgetsTheColumnsOfACommandLineThatAComputedStudyReplace
   EXPECT_EQ(opened->count(), 1);
   EXPECT_EQ(container().getChartXY()->GetTitle(), "Prior density of alpha");
   EXPECT_FALSE(window->findChild<QAction*>(QStringLiteral("returnToRuns"))->isEnabled());
+}
+
+TEST_F(LoadingInWindow, DrawsWhatItOpensOnce)
+{
+  window->openFile(writeSample());
+  ASSERT_TRUE(waitUntilLoaded());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(stateOf(container()).drawings, 1U);
+  window->findChild<QAction*>(QStringLiteral("priors"))->trigger();
+  ASSERT_TRUE(waitUntilLoaded());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(stateOf(container()).drawings, 1U);
 }
 
 TEST_F(LoadingInWindow, StaysAliveMeanwhile)

@@ -10,6 +10,7 @@
 #include <QStatusBar>
 
 #include "window/RunsInWindow.h"
+#include "window/WrittenByWindow.h"
 
 using namespace Talmesh::app;
 
@@ -180,9 +181,9 @@ TEST_F(MainWindowWithRuns, ExportsWhatItShows)
 {
   openSample();
   const QString path = folder.filePath(QStringLiteral("plot.png"));
-  EXPECT_TRUE(window->exportTo(path));
+  EXPECT_EQ(writtenBy(*window, path), "");
   EXPECT_EQ(QImage(path).size(),
             window->plotWidget()->size() * window->plotWidget()->devicePixelRatioF());
-  EXPECT_FALSE(window->exportTo(folder.filePath(QStringLiteral("nowhere/plot.png"))));
+  EXPECT_NE(writtenBy(*window, folder.filePath(QStringLiteral("nowhere/plot.png"))), "");
   EXPECT_TRUE(messageBox());
 }

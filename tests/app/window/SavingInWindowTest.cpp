@@ -82,7 +82,7 @@ TEST_F(SavingInWindow, GoesThroughTheDialog)
   dialog->selectFile(path("chosen"));
   QMetaObject::invokeMethod(dialog, "accept");
   EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(path("chosen.talmesh")); }, patience));
-  EXPECT_EQ(loadSessionFile(path("chosen.talmesh")).error, "");
+  EXPECT_EQ(loadSessionFile(path("chosen.talmesh")).error(), "");
   EXPECT_TRUE(RecentFiles().paths().contains(path("chosen.talmesh")));
 }
 

@@ -14,6 +14,7 @@
 #include <QToolButton>
 
 #include "window/StudyWindow.h"
+#include "window/WrittenByWindow.h"
 
 using namespace Talmesh::app;
 
@@ -46,7 +47,7 @@ TEST_F(StudiesInWindow, AreAllInTheMenuAndShownInContainersOfTheirOwn)
     EXPECT_FALSE(find<QWidget>("clusterStart")->isEnabled());
     EXPECT_FALSE(find<QAction>("saveSession")->isEnabled());
     for (const char* suffix : {".png", ".pdf", ".csv"})
-      EXPECT_TRUE(window.exportTo(folder.filePath(QString::fromStdString(entry.id + suffix))))
+      EXPECT_EQ(writtenBy(window, folder.filePath(QString::fromStdString(entry.id + suffix))), "")
           << entry.id << suffix;
     window.selectionController()->selectAll();
     QCoreApplication::processEvents();
