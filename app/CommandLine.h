@@ -40,9 +40,6 @@ struct CommandLineOptions : OpeningWishes
 /// `--version` nothing else matters.
 Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& arguments);
 
-/// The text of `--help`, several lines, the last one ended.
-std::string commandLineHelp();
-
 } // namespace Talmesh::app
 
 #endif

@@ -1,5 +1,6 @@
 #include "app/Batch.h"
 #include "app/CommandLine.h"
+#include "app/CommandLineHelp.h"
 #include "app/EndingSignals.h"
 #include "app/LastResort.h"
 #include "app/session/FileNameCodec.h"

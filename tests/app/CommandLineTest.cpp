@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 
+#include "app/CommandLineHelp.h"
 #include "app/styles/ViewerStyles.h"
 
 #include <gtest/gtest.h>

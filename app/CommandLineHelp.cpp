@@ -1,0 +1,44 @@
+#include "app/CommandLineHelp.h"
+
+#include "app/styles/ViewerStyles.h"
+
+namespace Talmesh::app
+{
+
+std::string commandLineHelp()
+{
+  std::string help =
+      "Usage: talmesh-plot [FILE] [OPTION]...\n"
+      "Shows simulated runs. Without FILE the example study opens, the repressilator gene "
+      "circuit.\n"
+      "\n"
+      "FILE is a table (.csv): a line of names, then one row per time point, runs one after\n"
+      "another; or a session that the window has saved (.talmesh).\n"
+      "\n"
+      "  --style NAME            the kind of plot (below)\n"
+      "  --x NAME                the column for the x axis\n"
+      "  --y NAME[,NAME...]      the columns to plot\n"
+      "  --z NAME                the column for the third axis, or the error bars\n"
+      "  --select CONDITION      select the runs that meet it, such as 'max(TetR) > 150'; several\n"
+      "                          of them add up\n"
+      "  --export FILE           write FILE.png, FILE.pdf or FILE.csv and open no window;\n"
+      "                          may be given several times\n"
+      "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
+      "  --size WxH              width and height of the pictures in pixels\n"
+      "  --paper WxH             width and height of exported pictures in millimetres\n"
+      "  --dpi N                 resolution of a PNG with --paper and of pictures in a PDF,\n"
+      "                          300 without this, 150 in a PDF without --paper\n"
+      "  --vector all|auto|none  which lines and points of a PDF are vectors: all, as many as\n"
+      "                          can be told apart (auto, without this), or none; the others\n"
+      "                          are a picture\n"
+      "  --help                  this text\n"
+      "  --version               the version\n"
+      "\n"
+      "Styles:\n";
+  for (const ViewerStyle& style : viewerStyles())
+    help += std::string("  ") + style.name +
+            std::string(26 - std::char_traits<char>::length(style.name), ' ') + style.title + "\n";
+  return help;
+}
+
+} // namespace Talmesh::app
