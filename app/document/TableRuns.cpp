@@ -2,13 +2,13 @@
 
 #include "app/document/PlotChoice.h"
 #include "app/import/TranslatedText.h"
+#include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
 #include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
 #include "plot/RunSplit.h"
 #include "plot/TableColumns.h"
-#include "plot/TypedColumns.h"
 #include "vtk/RowSelections.h"
 
 #include <vtkAnnotationLink.h>
@@ -57,20 +57,18 @@ double TableRuns::runNumber(std::size_t run) const
 
 Result<int> TableRuns::column(const std::string& name) const
 {
-  const FoundColumn found = findColumn(container, name);
-  if (!found.error.empty())
-    return Result<int>::failed(found.error);
-  if (!plot::doubleColumn(container.getTable(), found.column))
+  const Result<int> found = findColumn(container, name);
+  if (found.hasValue() && !plot::doubleColumn(container.getTable(), found.value()))
     return Result<int>::failed(
         withValues(translated("RunFilter", "column %1 does not hold numbers"), {name}));
-  return found.column;
+  return found;
 }
 
 bool TableRuns::isOfWholeRun(int column) const
 {
   const std::vector<int>& parameters = container.getMetaData()->parameterColumns;
   return std::find(parameters.begin(), parameters.end(), column) != parameters.end() ||
-         plot::columnName(container.getTable(), column) == plot::runIndexLabel;
+         plot::columnName(container.getTable(), column) == selectionPairToString(runIndexItem());
 }
 
 RunCourse TableRuns::course(std::size_t run, int column, int over) const
