@@ -211,8 +211,7 @@ TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
 
 TEST(CommandLine, CollectsConditionsWhichMayHoldCommas)
 {
-  const ParsedCommandLine line =
-      parseCommandLine({"--select", "at(TetR, 9000) > 1", "--select=k<2", "runs.csv"});
-  EXPECT_EQ(line.error, "");
-  EXPECT_EQ(line.options.select, (std::vector<std::string>{"at(TetR, 9000) > 1", "k<2"}));
+  const CommandLineOptions options =
+      parsed({"--select", "at(TetR, 9000) > 1", "--select=k<2", "runs.csv"});
+  EXPECT_EQ(options.select, (std::vector<std::string>{"at(TetR, 9000) > 1", "k<2"}));
 }
