@@ -2,11 +2,10 @@
 #define ColumnNames_h
 
 #include "../export/TalmeshPlotExport.h"
+#include "../external/TypedConcentrationName.h"
 
 #include <string>
 #include <vector>
-
-#include "TypedConcentrationName.h"
 
 /// How the columns that order a table of runs are told from the others: by kind, by name, and by
 /// their place in front of the parameters.

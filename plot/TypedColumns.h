@@ -1,8 +1,6 @@
 #ifndef TypedColumns_h
 #define TypedColumns_h
 
-#include "export/ViewerExport.h"
-
 #include <cstddef>
 #include <string>
 
@@ -17,7 +15,7 @@ void findParameterColumns(PlotState& state);
 
 /// The label, for example "Parameter: k1", by which derived tables know the parameter at position
 /// `parameter` of the settings' list; empty when no typed item has that position.
-TALMESHPLOT_VIEWER_EXPORT std::string parameterLabel(const PlotState& state, std::size_t parameter);
+std::string parameterLabel(const PlotState& state, std::size_t parameter);
 
 } // namespace Talmesh::plot
 
