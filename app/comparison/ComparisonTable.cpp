@@ -27,7 +27,6 @@ namespace
 {
 
 constexpr int charactersOfAName = 36;
-
 using Quote = std::function<QString(const QString&)>;
 
 QString onOneLine(const QString& cell)
@@ -178,8 +177,8 @@ QTableView* ComparisonTable::makeView()
   table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   table->horizontalHeader()->setStretchLastSection(true);
   // Longer names would push the numbers out of sight; the tool tip has all of them.
-  table->horizontalHeader()->setMaximumSectionSize(charactersOfAName *
-                                                   table->fontMetrics().averageCharWidth());
+  const int widest = charactersOfAName * table->fontMetrics().averageCharWidth();
+  table->horizontalHeader()->setMaximumSectionSize(widest);
   table->setTextElideMode(Qt::ElideMiddle);
   return table;
 }

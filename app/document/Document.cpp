@@ -172,11 +172,6 @@ void Document::drop(PlotContainer* container)
     container->deleteLater();
 }
 
-bool Document::canReturnToRuns() const
-{
-  return shown.study.chart && aside.container;
-}
-
 void Document::returnToRuns()
 {
   if (!canReturnToRuns())
@@ -279,11 +274,6 @@ void Document::drawNewValues()
   if (drawings == before)
     drawSilently();
   emit drawn();
-}
-
-bool Document::canBeSaved() const
-{
-  return shown.container && !shown.study.chart && (shown.study.runs || shown.study.table);
 }
 
 std::optional<SessionSource> Document::sessionSource()

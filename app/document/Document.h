@@ -53,7 +53,7 @@ public:
   std::string open(const OpenedStudy& opened, const PlotWishes& wishes = {});
   /// Shows once more the runs or the table opened last; a chart of its own has taken their place.
   void returnToRuns();
-  bool canReturnToRuns() const;
+  bool canReturnToRuns() const { return shown.study.chart && aside.container; }
 
   const Study& study() const { return shown.study; }
   /// Null before anything is shown, and after it died.
@@ -87,7 +87,10 @@ public:
   void setLook(const RunLook& look);
 
   /// Whether what is shown can be saved as a session.
-  bool canBeSaved() const;
+  bool canBeSaved() const
+  {
+    return shown.container && !shown.study.chart && (shown.study.runs || shown.study.table);
+  }
   /// What a session keeps of the runs or the table opened last, also while they are put aside;
   /// nothing before any is opened. Refers to the document.
   std::optional<SessionSource> sessionSource();
