@@ -99,11 +99,14 @@ public:
   {
     report(0.0);
     std::vector<RankedCells> ranked(columns.size());
-    inParallelParts(columns.size(), 1,
-                    [&](std::size_t first, std::size_t)
+    // Starting a thread takes longer than tests of few runs.
+    const std::size_t atOnce = units.runs() < 1'000 ? columns.size() : 1;
+    inParallelParts(columns.size(), atOnce,
+                    [&](std::size_t first, std::size_t last)
                     {
-                      if (!cancelled)
-                        compareParameter(first, ranked[first]);
+                      for (std::size_t parameter = first; parameter < last && !cancelled;
+                           ++parameter)
+                        compareParameter(parameter, ranked[parameter]);
                     });
     if (permutes() || plan.adjustment == Adjustment::maxT)
       permuteTested(ranked);

@@ -47,11 +47,13 @@ public:
 
   PermutationCounts run()
   {
-    inParallelParts(plan.permutations, permutationsPerStream,
+    const std::size_t streams = plan.permutations / permutationsPerStream +
+                                (plan.permutations % permutationsPerStream != 0 ? 1 : 0);
+    inParallelParts(streams, streamsPerPart(),
                     [this](std::size_t first, std::size_t last)
                     {
-                      if (!cancelled)
-                        permute(first, last);
+                      for (std::size_t stream = first; stream < last && !cancelled; ++stream)
+                        permute(stream);
                     });
     if (cancelled)
       return {};
@@ -60,19 +62,29 @@ public:
   }
 
 private:
-  void permute(std::size_t first, std::size_t last)
+  /// So many that starting a thread for the rest is worth while.
+  std::size_t streamsPerPart() const
   {
-    PortableRandom random(plan.seed, first / permutationsPerStream);
+    constexpr std::size_t worthWhile = 2'000'000;
+    return worthWhile / (permutationsPerStream * (parameters.size() + 1) * (selected.size() + 1)) +
+           1;
+  }
+
+  void permute(std::size_t stream)
+  {
+    const std::size_t permutations =
+        std::min(permutationsPerStream, plan.permutations - stream * permutationsPerStream);
+    PortableRandom random(plan.seed, stream);
     Numbers permuted(selected);
     PermutationCounts part;
     part.reached.assign(parameters.size(), 0);
     part.reachedByLargest.assign(parameters.size(), 0);
-    for (std::size_t permutation = first; permutation < last; ++permutation)
+    for (std::size_t permutation = 0; permutation < permutations; ++permutation)
     {
       exchange(random, permuted);
       compare(permuted, part);
     }
-    collect(part, last - first);
+    collect(part, permutations);
   }
 
   /// Gives every unit the selection of a random one of its class.
