@@ -1,5 +1,6 @@
 #include "app/LastResort.h"
 
+#include <QScopedValueRollback>
 #include <QSemaphore>
 #include <QThreadPool>
 
@@ -132,7 +133,8 @@ bool canStartThreads(int count)
 int fail(const std::string& message)
 {
   waitToSpeak();
-  std::cerr << "talmesh-plot: " << message << std::endl;
+  if (!saidWhy)
+    std::cerr << "talmesh-plot: " << message << std::endl;
   saidWhy = true;
   speaking.clear();
   return EXIT_FAILURE;
@@ -140,6 +142,10 @@ int fail(const std::string& message)
 
 int endingClearly(const std::function<int()>& program)
 {
+  static int depth = 0;
+  if (depth == 0)
+    saidWhy = false;
+  const QScopedValueRollback<int> deeper(depth, depth + 1);
   try
   {
     return program();

@@ -10,11 +10,12 @@
 namespace Talmesh::app
 {
 
-/// Says why the program ends.
+/// Says why the program ends, unless that has been said: what fails on the way out adds nothing.
 /// @return its exit status
 int fail(const std::string& message);
 
-/// Runs the program, or a part of it, in which an exception would otherwise end in an abort.
+/// Runs the program, or a part of it, in which an exception would otherwise end in an abort. In the
+/// GUI thread.
 /// @return its exit status, or that of `fail` after an exception
 int endingClearly(const std::function<int()>& program);
 

@@ -30,6 +30,21 @@ TEST(LastResort, EndsInOneLineAfterAnException)
   EXPECT_EQ(errors.text(), "talmesh-plot: cannot go on: broken\n");
 }
 
+TEST(LastResort, SaysOnceWhyAProgramEndsHoweverMuchFailsOnTheWayOut)
+{
+  const CapturedOutput errors(std::cerr);
+  const auto part = []() -> int { throw std::bad_alloc(); };
+  EXPECT_EQ(endingClearly(
+                [&]() -> int
+                {
+                  EXPECT_EQ(endingClearly(part), EXIT_FAILURE);
+                  EXPECT_EQ(endingClearly(part), EXIT_FAILURE);
+                  throw std::runtime_error("broken");
+                }),
+            EXIT_FAILURE);
+  EXPECT_EQ(errors.text(), "talmesh-plot: there is not enough memory\n");
+}
+
 TEST(LastResort, SaysThatThereIsNotEnoughMemory)
 {
   const CapturedOutput errors(std::cerr);
