@@ -236,6 +236,22 @@ p, li { white-space: pre-wrap; }
         <source>This table has no runs to select.</source>
         <translation>Diese Tabelle hat keine Läufe, die sich auswählen ließen.</translation>
     </message>
+    <message>
+        <source>Select %1 runs</source>
+        <translation>%1 Läufe auswählen</translation>
+    </message>
+    <message>
+        <source>Add %1 runs</source>
+        <translation>%1 Läufe hinzunehmen</translation>
+    </message>
+    <message>
+        <source>Take away %1 runs</source>
+        <translation>%1 Läufe wegnehmen</translation>
+    </message>
+    <message>
+        <source>Toggle %1 runs</source>
+        <translation>%1 Läufe umschalten</translation>
+    </message>
 </context>
 <context>
     <name>RunGrouping</name>
@@ -1194,6 +1210,37 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>Talmesh::app::FilterLine</name>
+    <message>
+        <source>Runs &amp;where</source>
+        <translation>Läufe &amp;mit</translation>
+    </message>
+    <message>
+        <source>A condition on single runs. Names with blanks stand in double quotes. Numbers of an item A: min(A), max(A), mean(A), first(A), final(A), at(A, time), peaks(A), period(A). Conditions: through(A, t0, t1, v0, v1), inside(A, t0, t1, v0, v1).</source>
+        <translation>Eine Bedingung an einzelne Läufe. Namen mit Leerzeichen stehen in Anführungszeichen. Zahlen einer Größe A: min(A), max(A), mean(A), first(A), final(A), at(A, Zeit), peaks(A), period(A). Bedingungen: through(A, t0, t1, v0, v1), inside(A, t0, t1, v0, v1).</translation>
+    </message>
+    <message>
+        <source>Select only these</source>
+        <translation>Nur diese auswählen</translation>
+    </message>
+    <message>
+        <source>Add to selection</source>
+        <translation>Zur Auswahl hinzunehmen</translation>
+    </message>
+    <message>
+        <source>Take from selection</source>
+        <translation>Von der Auswahl wegnehmen</translation>
+    </message>
+    <message>
+        <source>Toggle</source>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::GroupController</name>
     <message>
         <source>This data has no runs over time to group.</source>
@@ -1258,6 +1305,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Updated in %1 ms</source>
         <translation>In %1 ms aktualisiert</translation>
+    </message>
+    <message>
+        <source>Selecting runs by words</source>
+        <translation>Läufe mit Worten auswählen</translation>
     </message>
 </context>
 <context>

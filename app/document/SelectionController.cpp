@@ -211,6 +211,24 @@ void SelectionController::clear()
     container->getAnnotationLink()->SetCurrentSelection(makeRowSelection({}));
 }
 
+FilterFault SelectionController::selectWhere(const std::string& words, RunCombination how)
+{
+  if (!container)
+    return {};
+  TableRuns runs(*container);
+  if (runs.numberOfRuns() == 0)
+    return {0, tr("This table has no runs to select.").toStdString()};
+  FilterFault fault;
+  const RunFilter filter = RunFilter::read(words, runs, fault);
+  if (!fault.text.empty())
+    return fault;
+  const std::vector<bool> hit = filter.select(runs, {}).value();
+  SelectionHistory& steps = container == followed ? history : visitHistory;
+  const SelectionHistory::Step step(steps, QString::fromStdString(stepText(how, hit, words)));
+  runs.select(combineRuns(runs.selected(), hit, how));
+  return {};
+}
+
 std::string SelectionController::save(const QString& path) const
 {
   const std::unique_ptr<ParameterSelection> runs = runsOf(container);

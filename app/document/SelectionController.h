@@ -2,6 +2,7 @@
 #define SelectionController_h
 
 #include "app/document/SelectionHistory.h"
+#include "app/document/TableRuns.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkWeakPointer.h>
@@ -41,6 +42,9 @@ public:
   void selectAll();
   /// Selects nothing.
   void clear();
+  /// Selects the runs that meet a condition in words, as one step of the history that says so.
+  /// @return what is wrong with the words, if anything is; nothing is changed then
+  FilterFault selectWhere(const std::string& words, RunCombination how);
   /// Writes the indices of the selected runs to a small JSON file.
   /// @return why that failed, in one line of UTF-8; empty on success
   std::string save(const QString& path) const;

@@ -82,13 +82,12 @@ class SelectCommand : public QUndoCommand
 {
 public:
   SelectCommand(std::shared_ptr<FollowedContainer> ofContainer, Snapshot oldSelection,
-                Snapshot newSelection, bool clears)
+                Snapshot newSelection, const QString& text)
       : followed(std::move(ofContainer))
       , before(std::move(oldSelection))
       , after(std::move(newSelection))
   {
-    setText(clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
-                   : QCoreApplication::translate("SelectionHistory", "Select"));
+    setText(text);
   }
 
   void undo() override { followed->restore(*before); }
@@ -149,7 +148,11 @@ void SelectionHistory::record()
     return;
   followed->current = after;
   const bool clears = std::find(after->begin(), after->end(), true) == after->end();
-  stack.push(new SelectCommand(followed, before, after, clears));
+  QString text = stepText;
+  if (text.isEmpty())
+    text = clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
+                  : QCoreApplication::translate("SelectionHistory", "Select");
+  stack.push(new SelectCommand(followed, before, after, text));
 }
 
 void SelectionHistory::stopObserving()

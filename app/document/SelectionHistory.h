@@ -1,6 +1,8 @@
 #ifndef SelectionHistory_h
 #define SelectionHistory_h
 
+#include <QString>
+
 #include <memory>
 
 class PlotContainer;
@@ -28,6 +30,24 @@ public:
   SelectionHistory(const SelectionHistory&) = delete;
   SelectionHistory& operator=(const SelectionHistory&) = delete;
 
+  /// For as long as it lives, changes of the selection are recorded under a text of their own, as
+  /// of `QUndoCommand::setText`.
+  class Step
+  {
+  public:
+    Step(SelectionHistory& recorded, const QString& text)
+        : history(recorded)
+    {
+      history.stepText = text;
+    }
+    ~Step() { history.stepText.clear(); }
+    Step(const Step&) = delete;
+    Step& operator=(const Step&) = delete;
+
+  private:
+    SelectionHistory& history;
+  };
+
   /// Records the changes of `container`, not owned, from now on instead of those of the one
   /// followed so far. Null follows none.
   void follow(PlotContainer* container);
@@ -43,6 +63,7 @@ private:
   QUndoStack& stack;
   std::shared_ptr<FollowedContainer> followed;
   unsigned long observerTag = 0;
+  QString stepText;
 };
 
 } // namespace Talmesh::app

@@ -107,6 +107,19 @@ void TableRuns::select(const std::vector<bool>& wanted)
   container.getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
 }
 
+std::string stepText(RunCombination how, const std::vector<bool>& hit, const std::string& words)
+{
+  std::string text = translated("RunFilter", "Select %1 runs");
+  if (how == RunCombination::Add)
+    text = translated("RunFilter", "Add %1 runs");
+  else if (how == RunCombination::Subtract)
+    text = translated("RunFilter", "Take away %1 runs");
+  else if (how == RunCombination::Toggle)
+    text = translated("RunFilter", "Toggle %1 runs");
+  text = withValues(text, {std::to_string(std::count(hit.begin(), hit.end(), true))});
+  return text + ": " + words + '\n' + text;
+}
+
 std::string describe(const FilterFault& fault, const std::string& words)
 {
   // Bytes that continue a character of UTF-8 begin with the bits 10.

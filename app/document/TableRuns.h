@@ -66,6 +66,11 @@ private:
   std::vector<double> positions;
 };
 
+/// What a step of a history did, with the words to do it again; after a line end without them, for
+/// menus.
+/// @param hit the runs that met the words
+std::string stepText(RunCombination how, const std::vector<bool>& hit, const std::string& words);
+
 /// Selects the runs that meet any of the conditions in words.
 /// @return which of them is wrong and where, in one line; nothing is selected then. Empty on
 /// success

@@ -131,6 +131,21 @@ bool surrounds(const std::vector<DrawnPoint>& corners, const DrawnPoint& point)
   return inside;
 }
 
+/// The corners of a polygon that has an inside, in places; else none.
+std::vector<DrawnPoint> polygonOf(const std::vector<DrawnPoint>& corners, const DrawnScale& scale)
+{
+  std::vector<DrawnPoint> places;
+  for (const DrawnPoint& corner : corners)
+  {
+    const DrawnPoint place = placeOf(corner, scale);
+    if (isDrawn(place))
+      places.push_back(place);
+  }
+  if (places.size() < 3)
+    places.clear();
+  return places;
+}
+
 double distance(const DrawnPoint& from, const DrawnPoint& to, const DrawnPoint& point)
 {
   const double lengthX = to.x - from.x;
@@ -195,14 +210,8 @@ bool crossesLine(const RunCourse& course, const DrawnPoint& from, const DrawnPoi
 bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corners,
                    const DrawnScale& scale)
 {
-  std::vector<DrawnPoint> places;
-  for (const DrawnPoint& corner : corners)
-  {
-    const DrawnPoint place = placeOf(corner, scale);
-    if (isDrawn(place))
-      places.push_back(place);
-  }
-  if (places.size() < 3)
+  const std::vector<DrawnPoint> places = polygonOf(corners, scale);
+  if (places.empty())
     return false;
   return anyPiece(course, scale,
                   [&places](const DrawnPoint& a, const DrawnPoint& b)
@@ -216,6 +225,26 @@ bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corne
                     }
                     return false;
                   });
+}
+
+bool hasPointIn(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)
+{
+  const DrawnWindow places = placeOf(window, scale);
+  return anyPiece(course, scale,
+                  [&places](const DrawnPoint&, const DrawnPoint& point)
+                  {
+                    return places.x0 <= point.x && point.x <= places.x1 && places.y0 <= point.y &&
+                           point.y <= places.y1;
+                  });
+}
+
+bool hasPointIn(const RunCourse& course, const std::vector<DrawnPoint>& corners,
+                const DrawnScale& scale)
+{
+  const std::vector<DrawnPoint> places = polygonOf(corners, scale);
+  return !places.empty() && anyPiece(course, scale,
+                                     [&places](const DrawnPoint&, const DrawnPoint& point)
+                                     { return surrounds(places, point); });
 }
 
 double distanceFrom(const RunCourse& course, const DrawnPoint& point, double unitsX, double unitsY,

@@ -45,6 +45,10 @@ bool crossesLine(const RunCourse& course, const DrawnPoint& from, const DrawnPoi
 /// less than three corners has no inside.
 bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corners,
                    const DrawnScale& scale);
+/// Whether a point of the course, whatever is drawn between them, is in the window or the polygon.
+bool hasPointIn(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale);
+bool hasPointIn(const RunCourse& course, const std::vector<DrawnPoint>& corners,
+                const DrawnScale& scale);
 /// The distance of the line from a point; infinite without any line.
 /// @param unitsX, unitsY how much of the axis, or of its decades, is as long as 1
 double distanceFrom(const RunCourse& course, const DrawnPoint& point, double unitsX, double unitsY,

@@ -33,7 +33,7 @@ struct Signature
 
 constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
-constexpr std::array<Signature, 18> signatures = {{
+constexpr std::array<Signature, 20> signatures = {{
     {"min", FilterFunction::Min, false, true, 0, 0, false, false},
     {"max", FilterFunction::Max, false, true, 0, 0, false, false},
     {"mean", FilterFunction::Mean, false, true, 0, 0, false, false},
@@ -46,6 +46,8 @@ constexpr std::array<Signature, 18> signatures = {{
     {"inside", FilterFunction::Inside, true, true, 4, 4, false, true},
     {"crosses", FilterFunction::Crosses, true, true, 4, 4, false, true},
     {"lasso", FilterFunction::Lasso, true, true, 6, anyNumber, true, true},
+    {"dot", FilterFunction::Dot, true, true, 4, 4, false, true},
+    {"dotlasso", FilterFunction::DotLasso, true, true, 6, anyNumber, true, true},
     {"runs", FilterFunction::Runs, true, false, 1, anyNumber, false, false},
     {"abs", FilterFunction::Abs, false, false, 1, 1, false, false},
     {"sqrt", FilterFunction::Sqrt, false, false, 1, 1, false, false},

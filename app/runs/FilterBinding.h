@@ -26,6 +26,8 @@ enum class FilterFunction
   Inside,
   Crosses,
   Lasso,
+  Dot,
+  DotLasso,
   Runs,
   Abs,
   Sqrt,

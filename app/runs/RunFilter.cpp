@@ -112,10 +112,13 @@ bool isCallMet(const BoundTerm& call, const FilteredRun& run)
     return staysInside(course, {n[0], n[1], n[2], n[3]}, scale);
   if (call.function == FilterFunction::Crosses)
     return crossesLine(course, {n[0], n[1]}, {n[2], n[3]}, scale);
+  if (call.function == FilterFunction::Dot)
+    return hasPointIn(course, DrawnWindow{n[0], n[1], n[2], n[3]}, scale);
   std::vector<DrawnPoint> corners;
   for (std::size_t i = 0; i + 1 < n.size(); i += 2)
     corners.push_back({n[i], n[i + 1]});
-  return entersPolygon(course, corners, scale);
+  return call.function == FilterFunction::Lasso ? entersPolygon(course, corners, scale)
+                                                : hasPointIn(course, corners, scale);
 }
 
 /// From the right: 2^3^2 is 2^9.

@@ -4,6 +4,7 @@
 #include "app/session/FileNameCodec.h"
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
+#include "app/window/FilterLine.h"
 #include "app/window/GroupController.h"
 #include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
@@ -21,6 +22,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QToolBar>
 
 namespace Talmesh::app
 {
@@ -53,6 +55,7 @@ MainWindow::MainWindow(QWidget* parent)
     , clusterDock(new ClusterDock)
     , studyDock(new StudyDock)
     , comparison(new ComparisonDock)
+    , filter(new FilterLine(shown.selection()))
     , status(*statusBar())
     , opener(new StudyOpener(shown, status.opening(), this))
     , grouping(new GroupController(*clusterDock, shown, status.grouping(), this))
@@ -95,6 +98,15 @@ void MainWindow::placePanels()
   tabifyDockWidget(dock, studyDock);
   dock->raise();
   studyDock->hide();
+  placeFilterLine();
+}
+
+void MainWindow::placeFilterLine()
+{
+  auto* bar = new QToolBar(tr("Selecting runs by words"));
+  bar->addWidget(filter);
+  bar->setMovable(false);
+  addToolBar(Qt::TopToolBarArea, bar);
 }
 
 void MainWindow::takeFirstSize()

@@ -18,6 +18,7 @@ namespace Talmesh::app
 class ClusterDock;
 class ComparisonDock;
 class ExportController;
+class FilterLine;
 class GroupController;
 class PlotDock;
 class RecentMenu;
@@ -60,6 +61,7 @@ public:
   ExportController& exportController() { return *exports; }
   /// The pages "Runs" and "Time courses".
   QTabWidget* pages() const { return tabs; }
+  FilterLine* filterLine() const { return filter; }
   SelectionController* selectionController() { return &shown.selection(); }
   /// How much is loaded, as the status bar says it.
   QString sizeText() const { return status.size(); }
@@ -81,6 +83,7 @@ protected:
 
 private:
   void placePanels();
+  void placeFilterLine();
   void takeFirstSize();
   void connectDocument();
   void connectPanels();
@@ -106,6 +109,7 @@ private:
   ClusterDock* clusterDock;
   StudyDock* studyDock;
   ComparisonDock* comparison;
+  FilterLine* filter;
   StatusLine status;
   StudyOpener* opener;
   GroupController* grouping;

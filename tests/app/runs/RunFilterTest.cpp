@@ -103,6 +103,14 @@ TEST(RunFilter, SelectsWhatIsDrawn)
   EXPECT_EQ(runsOf("lasso(TetR, 4, 40, 6, 40, 5, 60)"), (Runs{102, 103}));
 }
 
+TEST(RunFilter, SelectsPointsWhereNoLineIsDrawn)
+{
+  EXPECT_EQ(runsOf("dot(TetR, 4, 6, 40, 60)"), Runs()) << "between two points";
+  EXPECT_EQ(runsOf("dot(TetR, 4, 10, 40, 100)"), (Runs{102, 103}));
+  EXPECT_EQ(runsOf("dotlasso(TetR, 4, 40, 6, 40, 5, 60)"), Runs());
+  EXPECT_EQ(runsOf("dotlasso(TetR, 9, 45, 11, 45, 10, 60)"), Runs{103});
+}
+
 TEST(RunFilter, SelectsWhatIsDrawnOnLogAxes)
 {
   // Between 1 at time 0 and 2 at 10 the line is at 1.5 on a linear axis, at 1.414 on a logarithmic
@@ -149,7 +157,7 @@ TEST(RunFilter, PointsToWhatIsWrong)
   EXPECT_EQ(
       faultOf("lg(alpha) > 2"),
       "0: there is no function lg; there are min, max, mean, first, final, at, peaks, period, "
-      "through, inside, crosses, lasso, runs, abs, sqrt, exp, ln, log10");
+      "through, inside, crosses, lasso, dot, dotlasso, runs, abs, sqrt, exp, ln, log10");
   EXPECT_EQ(faultOf("alpha >"), "7: a name or a number is missing here");
 }
 

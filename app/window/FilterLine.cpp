@@ -1,0 +1,79 @@
+#include "app/window/FilterLine.h"
+
+#include "app/document/SelectionController.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace Talmesh::app
+{
+
+FilterLine::FilterLine(SelectionController& changed, QWidget* parent)
+    : QWidget(parent)
+    , selection(changed)
+    , line(new QLineEdit)
+    , combination(new QComboBox)
+    , message(new QLabel)
+{
+  setObjectName(QStringLiteral("filterLine"));
+  auto* label = new QLabel(tr("Runs &where"));
+  label->setBuddy(line);
+  line->setPlaceholderText(QStringLiteral("max(A) > 150 and k < 50"));
+  line->setClearButtonEnabled(true);
+  line->setToolTip(
+      tr("A condition on single runs. Names with blanks stand in double quotes. Numbers of an item "
+         "A: min(A), max(A), mean(A), first(A), final(A), at(A, time), peaks(A), period(A). "
+         "Conditions: through(A, t0, t1, v0, v1), inside(A, t0, t1, v0, v1)."));
+  combination->addItem(tr("Select only these"), static_cast<int>(RunCombination::Replace));
+  combination->addItem(tr("Add to selection"), static_cast<int>(RunCombination::Add));
+  combination->addItem(tr("Take from selection"), static_cast<int>(RunCombination::Subtract));
+  combination->addItem(tr("Toggle"), static_cast<int>(RunCombination::Toggle));
+  auto* button = new QPushButton(tr("Select"));
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(label);
+  row->addWidget(line, 1);
+  row->addWidget(combination);
+  row->addWidget(button);
+  row->addWidget(message);
+  message->hide();
+  connect(line, &QLineEdit::returnPressed, this, &FilterLine::apply);
+  connect(line, &QLineEdit::textEdited, this, [this] { showFault({}); });
+  connect(button, &QPushButton::clicked, this, &FilterLine::apply);
+}
+
+void FilterLine::show(const QString& words)
+{
+  line->setText(words);
+  showFault({});
+}
+
+QString FilterLine::fault() const
+{
+  return message->text();
+}
+
+void FilterLine::apply()
+{
+  const auto how = static_cast<RunCombination>(combination->currentData().toInt());
+  showFault(selection.selectWhere(line->text().toStdString(), how));
+}
+
+void FilterLine::showFault(const FilterFault& fault)
+{
+  message->setText(QString::fromStdString(fault.text));
+  message->setVisible(!fault.text.empty());
+  if (fault.text.empty())
+    return;
+  const QByteArray bytes = line->text().toUtf8();
+  const int character = QString::fromUtf8(bytes.left(static_cast<int>(fault.position))).size();
+  line->setFocus();
+  line->setSelection(character, line->text().size() - character);
+  if (!line->hasSelectedText())
+    line->setCursorPosition(character);
+}
+
+} // namespace Talmesh::app
