@@ -46,10 +46,16 @@ std::array<struct sigaction, NSIG> handlersBefore;
 
 /// Waits until no other thread is about to say why, which would be cut short or come twice; for a
 /// while only, as it may be this thread that failed in saying it.
-void waitToSpeak()
+/// @return whether it is this thread's turn, until it clears `speaking`
+bool waitToSpeak()
 {
-  for (int waited = 0; speaking.test_and_set() && waited < speakingPatience; ++waited)
+  for (int waited = 0; waited < speakingPatience; ++waited)
+  {
+    if (!speaking.test_and_set())
+      return true;
     ::usleep(millisecond);
+  }
+  return false;
 }
 
 /// Never lets others speak again.
@@ -132,11 +138,12 @@ bool canStartThreads(int count)
 
 int fail(const std::string& message)
 {
-  waitToSpeak();
+  const bool inTurn = waitToSpeak();
   if (!saidWhy)
     std::cerr << "talmesh-plot: " << message << std::endl;
   saidWhy = true;
-  speaking.clear();
+  if (inTurn)
+    speaking.clear();
   return EXIT_FAILURE;
 }
 

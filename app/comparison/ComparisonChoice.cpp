@@ -3,6 +3,8 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
+#include <QSignalBlocker>
+
 namespace Talmesh::app
 {
 
@@ -23,14 +25,13 @@ void writeComparisonChoice(PlotContainer& container, const ComparisonChoice& cho
 {
   PlotMetaData& settings = *container.getMetaData();
   // The settings must not announce each change, or every one of them would draw.
-  settings.blockSignals(true);
+  const QSignalBlocker silence(settings);
   settings.setPThreshold(choice.pThreshold);
   settings.setKsThreshold(choice.ksThreshold);
   settings.setUseDensity(choice.density);
   settings.setCommonDensityScale(choice.commonDensityScale);
   settings.setLogParameterAxes(choice.logParameterAxes);
   settings.setShowQuantiles(choice.bands);
-  settings.blockSignals(false);
 }
 
 void refreshQuartiles(PlotContainer& container)

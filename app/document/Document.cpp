@@ -117,7 +117,7 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   PlotChoice wished = shown.choice;
   std::string failure = chooseByName(container, wishes, wished);
   if (failure.empty() && !wishes.select.empty())
-    failure = selectWhere(container, wishes.select);
+    container.withoutDrawing([&] { failure = selectWhere(container, wishes.select); });
   if (failure.empty())
     shown.choice = wished;
   drawSilently();

@@ -12,6 +12,7 @@
 #include <vtkTable.h>
 
 #include <QCoreApplication>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <exception>
@@ -43,7 +44,7 @@ std::string joinedLabels(const PlotContainer& container, const std::vector<int>&
 void writeSettings(PlotContainer& container, const PlotChoice& choice)
 {
   PlotMetaData& settings = *container.getMetaData();
-  settings.blockSignals(true);
+  const QSignalBlocker silence(settings);
   settings.xColumns = {choice.x};
   settings.yColumns = choice.y;
   settings.zColumns = {choice.z};
@@ -52,7 +53,6 @@ void writeSettings(PlotContainer& container, const PlotChoice& choice)
   settings.setPlotStyle(choice.style);
   settings.setPlotLine(choice.lines);
   settings.setLogX(choice.logX);
-  settings.blockSignals(false);
 }
 
 std::string allNames(const PlotContainer& container)
@@ -244,9 +244,8 @@ void chooseOpeningStyle(PlotContainer& container, const PlotWishes& wishes)
   const bool shown = wishes.y.size() <= 1 && wishes.z.empty();
   if (wishes.style || !comparable || !shown)
     return;
-  settings.blockSignals(true);
+  const QSignalBlocker silence(settings);
   settings.setPlotStyle(selectionCdfPlot);
-  settings.blockSignals(false);
 }
 
 } // namespace Talmesh::app

@@ -4,6 +4,8 @@
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <array>
 #include <vector>
@@ -54,11 +56,10 @@ void fill(const Study& study, PlotContainer& container)
     const std::vector<int> plotted = plottedColumns(container);
     settings.yColumns = {plotted.front()};
     settings.zColumns = {plotted[std::min<std::size_t>(1, plotted.size() - 1)]};
-    settings.blockSignals(true);
+    const QSignalBlocker silence(settings);
     settings.setPlotLine(study.runs->pointsPerTrajectory > 1);
     // All columns of a study would be too many scatter plots to read, and slow to draw.
     settings.setLimitColumVisibility(!settings.parameterColumns.empty());
-    settings.blockSignals(false);
     settings.color = seriesColour(settings.getPlotLine() ? study.runs->numberOfTrajectories : 1);
   }
   else

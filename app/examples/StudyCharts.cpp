@@ -16,6 +16,8 @@
 #include <vtkTable.h>
 #include <vtkVariant.h>
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -34,9 +36,8 @@ constexpr float uprightLabelOffset = 12.0F; ///< pixels
 /// Stores the style without announcing it: the chart is built by the call that follows.
 void storeStyle(PlotContainer& container, plotStyles style)
 {
-  container.getMetaData()->blockSignals(true);
+  const QSignalBlocker silence(container.getMetaData());
   container.setPlotStyle(style);
-  container.getMetaData()->blockSignals(false);
 }
 
 std::vector<double> valuesOf(vtkTable* table, vtkIdType column)

@@ -112,6 +112,24 @@ TEST_F(SelectedTableRuns, SelectsWhatIsWishedWhenAStudyIsOpened)
   EXPECT_EQ(selectedRuns(), (Runs{0, 1}));
 }
 
+TEST_F(SelectedTableRuns, AreDrawnOnceWhenAStudyIsOpened)
+{
+  // The library draws by itself when a selection of runs with parameters changes.
+  PlotWishes wishes;
+  wishes.select = {"k < 3"};
+  int drawn = 0;
+  Document counted(
+      [&](PlotContainer& shown)
+      {
+        shown.setScene(scene.scene());
+        shown.addCompletion(&counter, [&drawn] { ++drawn; });
+      });
+  OpenedStudy opened;
+  opened.study = sampleStudy(sixRuns());
+  ASSERT_EQ(counted.open(opened, wishes), "");
+  EXPECT_EQ(drawn, 1);
+}
+
 TEST(RunCombination, ReplacesAddsSubtractsAndToggles)
 {
   const Bits before = {false, false, true, true};
