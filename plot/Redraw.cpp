@@ -79,6 +79,13 @@ void prepare(PlotState& state)
   state.steps.again = false;
 }
 
+/// Not before it is certain that the chart is drawn anew: a page that stays has its window noted.
+void stopWatchingChart(PlotState& state)
+{
+  if (state.chartXY)
+    state.chartXY->RemoveObservers(vtkCommand::InteractionEvent);
+}
+
 /// @return whether a page was drawn; otherwise the container may be gone
 bool draw(PlotState& state)
 {
@@ -86,10 +93,9 @@ bool draw(PlotState& state)
   if (cutSelection(state))
     return false;
   blockSettings(state);
-  if (state.chartXY)
-    state.chartXY->RemoveObservers(vtkCommand::InteractionEvent);
   if (!currentScene(state))
   {
+    stopWatchingChart(state);
     std::cout << "void PlotContainer::redraw(): invalid scene" << std::endl;
     return false;
   }
@@ -101,6 +107,7 @@ bool draw(PlotState& state)
   if (reactLate(state))
     return false;
   blockSettings(state);
+  stopWatchingChart(state);
   prepare(state);
   dropOutdatedRanks(state);
   if (!currentStyle(state).showsXYChart)

@@ -2,6 +2,8 @@
 #include "plot/DerivedTables.h"
 #include "support/CapturedOutput.h"
 
+#include <vtkCommand.h>
+
 #include <iostream>
 
 #include "SelectionPageFixture.h"
@@ -63,6 +65,23 @@ TEST_F(DrawingCondition, LeavesThePageWhereItRefuses)
   container.redraw();
   EXPECT_EQ(container.getItem(), container.getChartXY());
   EXPECT_EQ(completed, 1);
+}
+
+TEST_F(DrawingCondition, LeavesAPageWhoseWindowIsRememberedWhereItRefuses)
+{
+  settings().setLogX(true);
+  container.setPlotStyle(xyPlot);
+  stateOf(container).coordinateWindows.clear();
+  allowed = false;
+  container.redraw();
+  vtkAxis* const bottom = container.getChartXY()->GetAxis(vtkAxis::BOTTOM);
+  bottom->SetRange(0.5, 0.6);
+  container.getChartXY()->InvokeEvent(vtkCommand::InteractionEvent);
+  ASSERT_EQ(stateOf(container).coordinateWindows.size(), 1U);
+  EXPECT_EQ(stateOf(container).coordinateWindows.begin()->second.xMax, 0.6);
+  allowed = true;
+  container.redraw();
+  EXPECT_EQ(bottom->GetMaximum(), 0.6);
 }
 
 TEST_F(DrawingCondition, IsAskedBeforeSelectedRunsAreCompared)
