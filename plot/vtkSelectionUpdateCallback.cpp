@@ -76,6 +76,7 @@ bool isRefused(PlotContainer& container)
     return false;
   state.derivedTables.resize(Talmesh::plot::ownSlots);
   state.ksResults.clear();
+  state.testedSamples.clear();
   return true;
 }
 

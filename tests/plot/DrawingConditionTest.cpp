@@ -89,6 +89,7 @@ TEST_F(DrawingCondition, IsAskedBeforeSelectedRunsAreCompared)
   selectFirstRuns(3);
   ASSERT_GT(parts(), ownSlots);
   ASSERT_FALSE(container.getKsResults().empty());
+  ASSERT_FALSE(container.getTestedSamples().empty());
   allowed = false;
   completed = 0;
   const CapturedOutput errors(std::cerr);
@@ -96,6 +97,7 @@ TEST_F(DrawingCondition, IsAskedBeforeSelectedRunsAreCompared)
   EXPECT_EQ(errors.text(), "");
   EXPECT_EQ(parts(), ownSlots) << "nothing is kept of a selection that is gone";
   EXPECT_TRUE(container.getKsResults().empty());
+  EXPECT_TRUE(container.getTestedSamples().empty());
   EXPECT_EQ(completed, 0);
   EXPECT_FALSE(settings().signalsBlocked());
 }
