@@ -74,14 +74,29 @@ float widthOf(vtkContext2D* painter, const std::string& text)
   return bounds[2];
 }
 
+/// Gives a text back what it was, however the scope is left.
+template <typename Text>
+class GivenBack
+{
+public:
+  explicit GivenBack(Text& lent)
+      : text(lent)
+      , before(lent)
+  {
+  }
+  ~GivenBack() { text.swap(before); }
+  GivenBack(const GivenBack&) = delete;
+  GivenBack& operator=(const GivenBack&) = delete;
+
+private:
+  Text& text;
+  Text before;
+};
+
 /// The text, or as much of its beginning and end as the width has room for, with three dots
 /// between. Never cuts a character of several bytes.
-std::string shortened(vtkContext2D* painter, vtkTextProperty* properties, const std::string& text,
-                      float width)
+std::string shortened(vtkContext2D* painter, const std::string& text, float width)
 {
-  if (text.empty() || !(width > 0.0F))
-    return text;
-  painter->ApplyTextProp(properties);
   std::vector<std::size_t> starts;
   for (std::size_t i = 0; i < text.size(); ++i)
     if ((static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U)
@@ -151,12 +166,25 @@ bool vtkGuardedAxis::Paint(vtkContext2D* painter)
         std::min(TickScenePositions->GetNumberOfTuples(), TickLabels->GetNumberOfValues()));
   }
   // Assigned, not set: what is painted is no change of the axis.
-  const auto title = Title;
+  const GivenBack guard(Title);
   if (Visible && Position != LEFT && Position != RIGHT)
-    Title = shortened(painter, TitleProperties, title, std::fabs(Point2[0] - Point1[0]));
-  const bool painted = Superclass::Paint(painter);
-  Title = title;
-  return painted;
+    Title = FittingTitle(painter);
+  return Superclass::Paint(painter);
+}
+
+std::string vtkGuardedAxis::FittingTitle(vtkContext2D* painter)
+{
+  const float room = std::fabs(Point2[0] - Point1[0]);
+  if (Title.empty() || !(room > 0.0F))
+    return Title;
+  painter->ApplyTextProp(TitleProperties);
+  // This width tells fonts, resolutions and painting devices apart.
+  const float width = widthOf(painter, Title);
+  if (width <= room)
+    return Title;
+  if (LastCut.title != Title || LastCut.width != width || LastCut.room != room)
+    LastCut = {Title, width, room, shortened(painter, Title, room)};
+  return LastCut.shown;
 }
 
 bool vtkGuardedAxis::Walkable() const

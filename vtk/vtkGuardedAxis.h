@@ -5,6 +5,8 @@
 
 #include <vtkAxis.h>
 
+#include <string>
+
 /// An axis that VTK finishes painting whatever the data are.
 ///
 /// - Ends that are not finite are ignored. Ends so far apart that their distance overflows, and
@@ -45,6 +47,17 @@ private:
   vtkGuardedAxis(const vtkGuardedAxis&) = delete;
   void operator=(const vtkGuardedAxis&) = delete;
 
+  /// What was painted of a title that is wider than the axis.
+  struct CutTitle
+  {
+    std::string title;
+    float width = 0.0F; ///< of the whole title, in pixels as `room`
+    float room = 0.0F;
+    std::string shown;
+  };
+
+  /// Measures the title once, and cuts it anew only where that tells of a change.
+  std::string FittingTitle(vtkContext2D* painter);
   bool Walkable() const;
   bool SpansManyDecades() const;
   void TickDecades();
@@ -52,6 +65,7 @@ private:
 
   bool LogScaleWanted = false;
   bool LogScaleAllowed = true;
+  CutTitle LastCut;
 };
 
 #endif
