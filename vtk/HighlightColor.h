@@ -9,7 +9,11 @@ namespace Talmesh
 /// Red, green, blue and opacity, 0 to 255, of runs and points on top of the others.
 inline constexpr std::array<unsigned char, 4> highlightColor{255, 50, 0, 150};
 
-/// The same red of curves, opaque, 0 to 1. VTK makes 51 of its green, as on pages drawn before.
+/// The same of rows on parallel coordinates: VTK's, as many of them lie on top of each other.
+inline constexpr std::array<unsigned char, 4> highlightColorOfParallelLines{255, 0, 0, 100};
+
+/// The red of runs, but of curves and opaque, 0 to 1. VTK makes 51 of its green, as on pages drawn
+/// before.
 inline constexpr std::array<double, 3> highlightShade{1.0, 0.2, 0.0};
 } // namespace Talmesh
 

@@ -1,6 +1,7 @@
 #include "vtk/ParallelLines.h"
 
 #include "vtk/AggregateTarget.h"
+#include "vtk/HighlightColor.h"
 #include "vtk/LineCounts.h"
 #include "vtk/PaintedLines.h"
 #include "vtk/PointInputs.h"
@@ -28,9 +29,6 @@ namespace Talmesh
 namespace
 {
 using Shapes = AggregateDevice::Shapes;
-
-/// Of VTK's highlighted lines.
-constexpr unsigned char selectedColor[4] = {255, 0, 0, 100};
 
 /// Empty if a column has no numbers.
 std::vector<ParallelAxis> axesOf(vtkContextItem* item, vtkTable* table)
@@ -182,8 +180,8 @@ void ParallelLines::PaintAll(vtkContext2D* painter, const AggregateTarget& targe
 void ParallelLines::PaintSelected(vtkContext2D* painter, const AggregateTarget& target)
 {
   vtkTable* const table = this->Data->GetInput();
-  painter->GetPen()->SetColor(selectedColor[0], selectedColor[1], selectedColor[2],
-                              selectedColor[3]);
+  const auto& color = highlightColorOfParallelLines;
+  painter->GetPen()->SetColor(color[0], color[1], color[2], color[3]);
   CachedPicture::Key key = keyOf(axesOf(this, table));
   addColumn(key, this->Selection);
   const auto gather = [&](RowLines& rows)
