@@ -1213,7 +1213,7 @@ p, li { white-space: pre-wrap; }
     <name>Talmesh::app::FilterLine</name>
     <message>
         <source>Runs &amp;where</source>
-        <translation>Läufe, <translation>Läufe &amp;mit</translation>amp;für die</translation>
+        <translation>Läufe, &amp;wo</translation>
     </message>
     <message>
         <source>A condition on single runs. Names with blanks stand in double quotes. Numbers of an item A: min(A), max(A), mean(A), first(A), final(A), at(A, time), peaks(A), period(A). Conditions: through(A, t0, t1, v0, v1), inside(A, t0, t1, v0, v1).</source>
