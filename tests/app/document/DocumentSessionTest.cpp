@@ -123,6 +123,16 @@ TEST_F(DocumentSession, DrawsAndAnnouncesOnceWhatItRestores)
   }
 }
 
+TEST_F(DocumentSession, OffersNoColumnsThatMarkWhatIsSelected)
+{
+  open();
+  const QStringList before = document.columns();
+  select({0, 1, 4});
+  saveAndOpen();
+  EXPECT_EQ(document.columns(), before);
+  ASSERT_EQ(selectedRuns(), (std::set<int>{0, 1, 4}));
+}
+
 TEST_F(DocumentSession, LetsWishesGoBeforeWhatItRestores)
 {
   openInXYPlot();
