@@ -4,6 +4,7 @@
 
 #include <vtkChart.h>
 #include <vtkContextMapper2D.h>
+#include <vtkDataArray.h>
 #include <vtkDataObject.h>
 #include <vtkDataSetAttributes.h>
 #include <vtkInformation.h>

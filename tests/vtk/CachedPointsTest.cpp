@@ -6,6 +6,7 @@
 #include "vtk/vtkPlotSafeLine.h"
 #include "vtk/vtkPlotStepLine.h"
 
+#include <vtkDoubleArray.h>
 #include <vtkPoints2D.h>
 
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 #include "vtk/vtkPlotInvisiblePoints.h"
 #include "vtk/vtkPlotStepLine.h"
 
+#include <vtkDoubleArray.h>
 #include <vtkUnsignedCharArray.h>
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 #include "vtk/vtkPlotLineSet.h"
 #include "vtk/vtkPlotStepLine.h"
 
+#include <vtkDoubleArray.h>
 #include <vtkFloatArray.h>
 #include <vtkRect.h>
 

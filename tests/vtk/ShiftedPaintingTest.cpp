@@ -4,6 +4,7 @@
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
 #include <vtkContextMouseEvent.h>
+#include <vtkDoubleArray.h>
 #include <vtkTooltipItem.h>
 
 #include <gtest/gtest.h>

@@ -6,6 +6,7 @@
 #include "vtk/vtkPlotShiftedBag.h"
 #include "vtk/vtkPlotStepLine.h"
 
+#include <vtkDoubleArray.h>
 #include <vtkFloatArray.h>
 
 #include <gtest/gtest.h>
