@@ -5,6 +5,7 @@
 #include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
+#include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 
 #include <vtkAxis.h>
@@ -55,13 +56,22 @@ void writeSettings(PlotContainer& container, const PlotChoice& choice)
   settings.setLogX(choice.logX);
 }
 
+/// Columns that mark what is selected are nobody's to name.
 std::string allNames(const PlotContainer& container)
 {
-  const int columns = static_cast<int>(container.getTable()->GetNumberOfColumns());
+  vtkTable* table = container.getTable();
   std::string names;
-  for (int column = 0; column < std::min(columns, mostNamesInAMessage); ++column)
-    names += (column > 0 ? ", " : "") + columnLabel(container, column);
-  return columns > mostNamesInAMessage ? names + ", ..." : names;
+  int named = 0;
+  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
+  {
+    if (plot::isSelectionMark(plot::columnName(table, column)))
+      continue;
+    if (named == mostNamesInAMessage)
+      return names + ", ...";
+    names += (named > 0 ? ", " : "") + columnLabel(container, column);
+    ++named;
+  }
+  return names;
 }
 
 /// The columns that play the part that the name tells: an import gives the columns of time and runs

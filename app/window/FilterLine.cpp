@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace Talmesh::app
 {
@@ -32,13 +33,18 @@ FilterLine::FilterLine(SelectionController& changed, QWidget* parent)
   combination->addItem(tr("Take from selection"), static_cast<int>(RunCombination::Subtract));
   combination->addItem(tr("Toggle"), static_cast<int>(RunCombination::Toggle));
   auto* button = new QPushButton(tr("Select"));
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  auto* row = new QHBoxLayout;
+  rows->addLayout(row);
+  rows->addWidget(message);
   row->addWidget(label);
   row->addWidget(line, 1);
   row->addWidget(combination);
   row->addWidget(button);
-  row->addWidget(message);
+  // A long message takes more lines, not a wider window.
+  message->setWordWrap(true);
+  message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   message->hide();
   connect(line, &QLineEdit::returnPressed, this, &FilterLine::apply);
   connect(line, &QLineEdit::textEdited, this, [this] { showFault({}); });

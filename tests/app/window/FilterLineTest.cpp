@@ -68,6 +68,23 @@ TEST_F(FilterLineInWindow, SaysWhatIsWrongAndMarksItInTheLine)
   EXPECT_EQ(line().fault(), "") << "once it is changed";
 }
 
+TEST_F(FilterLineInWindow, LeavesTheWindowAsWideAsItIs)
+{
+  const int width = window.width();
+  type("max(" + QString(400, 'x') + ") > 1");
+  EXPECT_NE(line().fault(), "");
+  EXPECT_EQ(window.width(), width);
+}
+
+TEST_F(FilterLineInWindow, OffersNoColumnsThatMarkASelection)
+{
+  type("run > 0");
+  type("Z > 0");
+  EXPECT_TRUE(line().fault().startsWith("no such column: Z; the columns are X,"))
+      << line().fault().toStdString();
+  EXPECT_FALSE(line().fault().contains("Selection")) << line().fault().toStdString();
+}
+
 TEST_F(FilterLineInWindow, NamesEachStepByItsWords)
 {
   QUndoStack& steps = window.selectionController()->undoStack();
