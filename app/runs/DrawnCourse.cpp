@@ -177,6 +177,12 @@ bool passesThrough(const RunCourse& course, const DrawnWindow& window, const Dra
 bool staysInside(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)
 {
   const DrawnWindow places = placeOf(window, scale);
+  for (std::size_t i = 0; i < course.size; ++i)
+  {
+    const DrawnPoint point = placeOf(DrawnPoint{course.x[i], course.y[i]}, scale);
+    if (places.x0 <= point.x && point.x <= places.x1 && !isDrawn(point))
+      return false;
+  }
   bool covered = false;
   const bool leaves = anyPiece(course, scale,
                                [&places, &covered](const DrawnPoint& from, const DrawnPoint& to)

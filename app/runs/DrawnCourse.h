@@ -35,7 +35,7 @@ struct DrawnWindow
 /// Whether the line has a point in the window.
 bool passesThrough(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale);
 /// Whether the line has a part between the window's left and right side, and no part there that is
-/// above or below it.
+/// above or below it, and no point there is missing.
 bool staysInside(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale);
 /// Whether the line crosses or touches the straight line between two points.
 bool crossesLine(const RunCourse& course, const DrawnPoint& from, const DrawnPoint& to,

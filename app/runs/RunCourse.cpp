@@ -162,6 +162,8 @@ double valueAt(const RunCourse& course, double time)
       return course.y[i];
     if (i == 0 || !(course.x[i - 1] < time && time < course.x[i]))
       continue;
+    if (!std::isfinite(course.y[i - 1]) || !std::isfinite(course.y[i]))
+      return missing;
     const double part = (time - course.x[i - 1]) / (course.x[i] - course.x[i - 1]);
     return course.y[i - 1] * (1 - part) + course.y[i] * part;
   }

@@ -98,6 +98,13 @@ TEST(DrawnCourse, StaysInsideNoWindowThatCoversNoneOfItsTimes)
   EXPECT_TRUE(staysInside(roof, {-30, 40, -10, 110}, plain)) << "where it has times";
 }
 
+TEST(DrawnCourse, StaysInsideNothingAtAMissingPoint)
+{
+  const Course broken{{0, 1, 2, 3, 4}, {5, 5, none, 5, 5}};
+  EXPECT_FALSE(staysInside(broken, {0, 4, 4, 6}, plain));
+  EXPECT_TRUE(staysInside(broken, {0, 1.5, 4, 6}, plain)) << "missing elsewhere";
+}
+
 TEST(DrawnCourse, CrossesALine)
 {
   EXPECT_TRUE(crossesLine(roof, {5, 0}, {5, 100}, plain));

@@ -112,6 +112,9 @@ TEST(RunCourse, TakesTheValueAtATimeFromTheLineBetweenPoints)
   EXPECT_EQ(valueAt(course, 4), 20);
   EXPECT_TRUE(std::isnan(valueAt(course, 1.5))) << "beside a missing value";
   EXPECT_TRUE(std::isnan(valueAt(course, -0.1)));
+  const double infinity = std::numeric_limits<double>::infinity();
+  EXPECT_TRUE(std::isnan(valueAt(Course({1, infinity}), 0.5)));
+  EXPECT_EQ(valueAt(Course({1, infinity}), 1), infinity);
   EXPECT_TRUE(std::isnan(valueAt(course, 4.1)));
 }
 
