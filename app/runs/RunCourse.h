@@ -28,7 +28,7 @@ double meanOf(const RunCourse& course);
 double firstOf(const RunCourse& course);
 double finalOf(const RunCourse& course);
 /// The value at a time, linear between the points around it; NaN outside of the course and beside a
-/// missing value. Times ascend.
+/// missing or an infinite value. Times ascend.
 double valueAt(const RunCourse& course, double time);
 
 /// The part of its own range that a peak must stand out by where nothing else is asked.
