@@ -1295,6 +1295,10 @@ Grafiken simulierter Läufe.</translation>
         <translation>Zeitverläufe</translation>
     </message>
     <message>
+        <source>The window closes when all is written</source>
+        <translation>Das Fenster schließt, wenn alles geschrieben ist</translation>
+    </message>
+    <message>
         <source>Wrote %1</source>
         <translation>%1 geschrieben</translation>
     </message>

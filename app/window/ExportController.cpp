@@ -73,7 +73,7 @@ void ExportController::exportTo(const QString& path, const ExportWishes& wishes)
   Result<PaintedPlot> painted = paintPlot(plot, path, wishes);
   if (!painted.hasValue())
   {
-    emit written(path, painted.error());
+    announce(path, painted.error());
     return;
   }
   waiting.push_back(std::move(painted.value()));
@@ -83,13 +83,36 @@ void ExportController::exportTo(const QString& path, const ExportWishes& wishes)
 
 bool ExportController::isExporting() const
 {
-  return runner->isRunning();
+  return runner->isRunning() || !waiting.empty();
+}
+
+void ExportController::whenWritten(std::function<void()> then)
+{
+  following = std::move(then);
+  if (!isExporting())
+    end();
+}
+
+void ExportController::announce(const QString& path, const std::string& error)
+{
+  if (!error.empty())
+    following = {};
+  emit written(path, error);
+}
+
+void ExportController::end()
+{
+  if (const auto then = std::exchange(following, {}))
+    then();
 }
 
 void ExportController::writeNext()
 {
   if (waiting.empty())
+  {
+    end();
     return;
+  }
   const auto next = std::make_shared<const PaintedPlot>(std::move(waiting.front()));
   waiting.pop_front();
   emit said(tr("Writing %1 ...").arg(next->path));
@@ -97,7 +120,7 @@ void ExportController::writeNext()
       this, [next](const TaskProgress& progress) { return writePlot(*next, progress); },
       [this, next](const Result<QString>& result)
       {
-        emit written(next->path, result.error());
+        announce(next->path, result.error());
         writeNext();
       });
 }
@@ -108,6 +131,7 @@ void ExportController::cancel()
   waiting.clear();
   runner->cancel();
   emit said(tr("Cancelled"));
+  end();
 }
 
 } // namespace Talmesh::app

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <deque>
+#include <functional>
 #include <string>
 
 class QWidget;
@@ -29,7 +30,8 @@ public:
   /// @param bar outlives the controller; shows how far the writing is
   /// @param window the parent of all questions and of the controller
   ExportController(VtkPlotWidget& plot, TaskBar& bar, QWidget& window);
-  /// Waits until all is written: a window that closes does not take the user's files back.
+  /// Waits until all is written: a window that goes does not take the user's files back. Nobody
+  /// hears of errors any more.
   ~ExportController() override;
 
   /// Asks for a file, and for the size of a picture.
@@ -39,6 +41,9 @@ public:
   /// Starts to write what is now shown to a file, by its suffix.
   void exportTo(const QString& path, const ExportWishes& wishes = {});
   bool isExporting() const;
+  /// What follows once all has been written or given up. Nothing does after an error, which the
+  /// user is to see first.
+  void whenWritten(std::function<void()> then);
 
 signals:
   /// What is going on, in one line.
@@ -48,11 +53,14 @@ signals:
 
 private:
   void writeNext();
+  void announce(const QString& path, const std::string& error);
+  void end();
   void cancel();
 
   VtkPlotWidget& plot;
   TaskRunner* runner;
   std::deque<PaintedPlot> waiting;
+  std::function<void()> following;
   QWidget& window;
 };
 

@@ -162,6 +162,14 @@ bool MainWindow::saveSessionTo(const QString& path)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+  if (exports->isExporting())
+  {
+    // What fails must find its user, who may also cancel.
+    event->ignore();
+    status.tell(tr("The window closes when all is written"));
+    exports->whenWritten([this] { close(); });
+    return;
+  }
   if (leaving || !sessions->isUnsaved())
   {
     sessions->end();

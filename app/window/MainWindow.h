@@ -76,7 +76,7 @@ signals:
   void commandLineFailed(const QString& message);
 
 protected:
-  /// Asks before unsaved work would be lost.
+  /// Waits for what is being written, and asks before unsaved work would be lost.
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;

@@ -1,5 +1,6 @@
 #include "app/document/Document.h"
 #include "app/window/MainWindow.h"
+#include "app/window/SessionController.h"
 #include "plot/PlotContainer.h"
 
 #include <boost/make_shared.hpp>
@@ -7,6 +8,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -60,6 +62,12 @@ protected:
   }
 
   void open(const OpenedStudy& study) { EXPECT_EQ(window->document().open(study), ""); }
+  /// Opens what is not asked about when the window closes.
+  void openUnchanged(const OpenedStudy& study)
+  {
+    open(study);
+    window->sessionController().opened(study, {}, {});
+  }
   void openSample()
   {
     OpenedStudy opened;
@@ -206,6 +214,48 @@ TEST_F(TasksInWindow, WritesToItsEndWhatAClosedWindowWasAskedFor)
   window.reset();
   EXPECT_EQ(contentOf(path("first.csv")), table);
   EXPECT_EQ(contentOf(path("second.csv")), table);
+}
+
+TEST_F(TasksInWindow, ClosesWhenAllIsWritten)
+{
+  openUnchanged(noise(200, 500));
+  const QByteArray table = tableAsText();
+  window->exportController().exportTo(path("first.csv"));
+  window->exportController().exportTo(path("second.csv"));
+  EXPECT_FALSE(window->close());
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_FALSE(window->close()) << "asked twice";
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, 20000));
+  EXPECT_EQ(contentOf(path("first.csv")), table);
+  EXPECT_EQ(contentOf(path("second.csv")), table);
+}
+
+TEST_F(TasksInWindow, StaysToSayThatAFileCouldNotBeWrittenThoughItWasClosed)
+{
+  openUnchanged(noise(200, 500));
+  window->exportController().exportTo(path("no/such/folder.csv"));
+  window->exportController().exportTo(path("second.csv"));
+  window->close();
+  ASSERT_TRUE(waitForEnd());
+  EXPECT_TRUE(window->isVisible());
+  auto* box = window->findChild<QMessageBox*>();
+  ASSERT_NE(box, nullptr);
+  EXPECT_TRUE(box->text().startsWith(path("no/such/folder.csv") + ": "))
+      << box->text().toStdString();
+  EXPECT_TRUE(QFile::exists(path("second.csv")));
+  delete box;
+  EXPECT_TRUE(window->close());
+}
+
+TEST_F(TasksInWindow, ClosesAtOnceWhenTheWritingIsCancelled)
+{
+  openUnchanged(noise(1000, 500));
+  window->exportController().exportTo(path("table.csv"));
+  EXPECT_FALSE(window->close());
+  click("cancelExport");
+  EXPECT_FALSE(window->isVisible());
+  window.reset();
+  EXPECT_FALSE(QFile::exists(path("table.csv")));
 }
 
 TEST_F(TasksInWindow, KeepsTheOldFileWhenItsWritingIsCancelled)
