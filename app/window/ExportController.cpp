@@ -121,7 +121,9 @@ void ExportController::writeNext()
       [this, next](const Result<QString>& result)
       {
         announce(next->path, result.error());
-        writeNext();
+        // Who hears of a file may have asked for another one.
+        if (!runner->isRunning())
+          writeNext();
       });
 }
 

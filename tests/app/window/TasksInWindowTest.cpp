@@ -258,6 +258,23 @@ TEST_F(TasksInWindow, ClosesAtOnceWhenTheWritingIsCancelled)
   EXPECT_FALSE(QFile::exists(path("table.csv")));
 }
 
+TEST_F(TasksInWindow, WritesAllThoughOneIsAskedForWhenAnotherIsWritten)
+{
+  openSample();
+  ExportController& exports = window->exportController();
+  QObject::connect(&exports, &ExportController::written, &exports,
+                   [&](const QString& written)
+                   {
+                     if (written == path("first.csv"))
+                       exports.exportTo(path("third.csv"));
+                   });
+  exports.exportTo(path("first.csv"));
+  exports.exportTo(path("second.csv"));
+  ASSERT_TRUE(waitForEnd());
+  for (const char* name : {"first.csv", "second.csv", "third.csv"})
+    EXPECT_TRUE(QFile::exists(path(name))) << name;
+}
+
 TEST_F(TasksInWindow, KeepsTheOldFileWhenItsWritingIsCancelled)
 {
   {
