@@ -16,11 +16,6 @@ namespace Talmesh::app
 namespace
 {
 
-std::string outOfMemory()
-{
-  return translated("TaskRunner", "there is not enough memory for this");
-}
-
 /// @return what the work threw, in one line; empty for nothing
 std::string whatFails(const std::function<void()>& work)
 {
@@ -31,7 +26,7 @@ std::string whatFails(const std::function<void()>& work)
   }
   catch (const std::bad_alloc&)
   {
-    return outOfMemory();
+    return missingTaskMemory();
   }
   catch (const std::exception& failure)
   {
@@ -40,6 +35,11 @@ std::string whatFails(const std::function<void()>& work)
 }
 
 } // namespace
+
+std::string missingTaskMemory()
+{
+  return translated("TaskRunner", "there is not enough memory for this");
+}
 
 struct TaskRunner::Running
 {
@@ -80,7 +80,7 @@ void TaskRunner::run(Work work, Finish finish)
   if (task->thread->isRunning() || task->thread->isFinished())
     return;
   // The system gives no thread, which Qt only prints.
-  task->error = outOfMemory();
+  task->error = missingTaskMemory();
   QMetaObject::invokeMethod(this, collected, Qt::QueuedConnection);
 }
 

@@ -21,6 +21,9 @@ namespace Talmesh::app
 /// be given up.
 using TaskProgress = std::function<bool(double)>;
 
+/// What to say of a task for want of memory.
+std::string missingTaskMemory();
+
 /// Runs long work in threads of its own, so that the window stays alive.
 ///
 /// One task counts at a time: starting another gives up the one before, whose result nobody gets.

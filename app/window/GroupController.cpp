@@ -6,6 +6,8 @@
 #include "app/window/TaskBar.h"
 #include "plot/RunClustering.h"
 
+#include <new>
+
 namespace Talmesh::app
 {
 
@@ -49,9 +51,23 @@ void GroupController::showStudy()
   showNormalised();
 }
 
+std::shared_ptr<RunClustering> GroupController::prepare()
+{
+  try
+  {
+    return document.groups().clustering();
+  }
+  catch (const std::bad_alloc&)
+  {
+    emit failed(QString::fromStdString(missingTaskMemory()));
+    return nullptr;
+  }
+}
+
 void GroupController::group()
 {
-  const std::shared_ptr<RunClustering> clustering = document.groups().clustering();
+  // A copy of the runs, which may be large.
+  const std::shared_ptr<RunClustering> clustering = prepare();
   if (!clustering)
     return;
   emit said(tr("Grouping the runs ..."));

@@ -45,6 +45,7 @@ signals:
   void failed(const QString& message);
 
 private:
+  std::shared_ptr<RunClustering> prepare();
   void group();
   void cancel();
   void take(const Result<std::shared_ptr<RunClustering>>& found);

@@ -1,0 +1,118 @@
+#ifndef TasksInWindow_h
+#define TasksInWindow_h
+
+#include "app/document/Document.h"
+#include "app/window/MainWindow.h"
+#include "app/window/SessionController.h"
+#include "plot/PlotContainer.h"
+
+#include <boost/make_shared.hpp>
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstddef>
+#include <memory>
+#include <random>
+
+#include "SampleStudies.h"
+
+/// Runs of noise, which take long to sort into groups: each looks like every other.
+inline Talmesh::app::OpenedStudy noise(std::size_t runs, std::size_t points)
+{
+  auto table = boost::make_shared<LinePlotTable>();
+  table->items = {{Talmesh::Molecule, "X"}, {Talmesh::TimeOrValue, "Time [s]"}};
+  table->numberOfTrajectories = runs;
+  table->pointsPerTrajectory = points;
+  std::mt19937 generator(7);
+  for (std::size_t item = 0; item < table->items.size(); ++item)
+  {
+    auto* values = new double[runs * points];
+    for (std::size_t row = 0; row < runs * points; ++row)
+      values[row] =
+          item == 0 ? static_cast<double>(generator() % 1000) : static_cast<double>(row % points);
+    table->values.push_back(values);
+  }
+  Talmesh::app::OpenedStudy opened;
+  opened.study = {"noise", table, nullptr};
+  return opened;
+}
+
+/// A window in which long work is done.
+class TasksInWindow : public ::testing::Test
+{
+protected:
+  static constexpr int patience = 60000;
+
+  TasksInWindow()
+  {
+    window->resize(700, 500);
+    window->show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  }
+
+  void open(const Talmesh::app::OpenedStudy& study)
+  {
+    EXPECT_EQ(window->document().open(study), "");
+  }
+  /// Opens what is not asked about when the window closes.
+  void openUnchanged(const Talmesh::app::OpenedStudy& study)
+  {
+    open(study);
+    window->sessionController().opened(study, {}, {});
+  }
+  void openSample()
+  {
+    Talmesh::app::OpenedStudy opened;
+    opened.study = sampleStudy();
+    open(opened);
+  }
+
+  template <typename Widget>
+  Widget* find(const char* name)
+  {
+    auto* widget = window->findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(widget, nullptr) << name;
+    return widget;
+  }
+
+  void click(const char* name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
+
+  bool waitForEnd()
+  {
+    return QTest::qWaitFor([this] { return !window->isBusy(); }, patience);
+  }
+
+  /// Starts to sort many runs into many groups.
+  void startGrouping()
+  {
+    open(noise(3000, 300));
+    find<QSpinBox>("clusterCount")->setValue(12);
+    click("clusterStart");
+    ASSERT_TRUE(window->isBusy());
+  }
+
+  std::size_t groups() { return window->document().groups().groups().names.size(); }
+
+  QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
+  static QByteArray contentOf(const QString& path)
+  {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+  }
+  QByteArray tableAsText()
+  {
+    const std::unique_ptr<char[]> text(window->document().container()->saveData({}, true));
+    return text.get();
+  }
+
+  QTemporaryDir folder;
+  std::unique_ptr<Talmesh::app::MainWindow> window = std::make_unique<Talmesh::app::MainWindow>();
+};
+
+#endif
