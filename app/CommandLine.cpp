@@ -113,9 +113,9 @@ std::string readExport(const std::string& value, CommandLineOptions& options)
 {
   const std::size_t nameStart = value.find_last_of('/') + 1;
   const std::string_view name = std::string_view(value).substr(nameStart);
-  const bool known = exportKindOf(QString::fromStdString(value)) != ExportKind::None;
-  if (!known || name.size() <= 4)
-    return "cannot export to " + value + ": the name must end with .png, .pdf or .csv";
+  const ExportFormat* format = exportFormatOf(QString::fromStdString(value));
+  if (!format || name.size() <= std::string_view(format->suffix).size())
+    return "cannot export to " + value + ": " + unknownFormat();
   options.exports.push_back(value);
   return {};
 }

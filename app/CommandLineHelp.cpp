@@ -1,9 +1,26 @@
 #include "app/CommandLineHelp.h"
 
+#include "app/export/PictureFile.h"
 #include "app/styles/ViewerStyles.h"
+
+#include <algorithm>
+#include <cstddef>
 
 namespace Talmesh::app
 {
+
+namespace
+{
+
+constexpr std::size_t widthOfNames = 26;
+
+} // namespace
+
+std::string helpEntry(const std::string& name, const std::string& meaning)
+{
+  const std::size_t length = std::min(name.size(), widthOfNames - 1);
+  return "  " + name + std::string(widthOfNames - length, ' ') + meaning + "\n";
+}
 
 std::string commandLineHelp()
 {
@@ -21,7 +38,9 @@ std::string commandLineHelp()
       "  --z NAME                the column for the third axis, or the error bars\n"
       "  --select CONDITION      select the runs that meet it, such as 'max(TetR) > 150'; several\n"
       "                          of them add up\n"
-      "  --export FILE           write FILE.png, FILE.pdf or FILE.csv and open no window;\n"
+      "  --export FILE           write " +
+      exportNames("FILE") +
+      " and open no window;\n"
       "                          may be given several times\n"
       "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
       "  --size WxH              width and height of the pictures in pixels\n"
@@ -36,8 +55,7 @@ std::string commandLineHelp()
       "\n"
       "Styles:\n";
   for (const ViewerStyle& style : viewerStyles())
-    help += std::string("  ") + style.name +
-            std::string(26 - std::char_traits<char>::length(style.name), ' ') + style.title + "\n";
+    help += helpEntry(style.name, style.title);
   return help;
 }
 

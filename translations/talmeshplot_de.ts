@@ -96,8 +96,24 @@ p, li { white-space: pre-wrap; }
         <translation>die Grafik konnte nicht gezeichnet werden</translation>
     </message>
     <message>
-        <source>the name must end with .png, .pdf or .csv</source>
-        <translation>der Name muss auf .png, .pdf oder .csv enden</translation>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Vector picture</source>
+        <translation>Vektorgrafik</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>the name must end with %1</source>
+        <translation>der Name muss auf %1 enden</translation>
     </message>
     <message>
         <source>a side on paper must have from %1 to %2 millimetres</source>
@@ -1069,10 +1085,6 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Export</source>
         <translation>Exportieren</translation>
-    </message>
-    <message>
-        <source>Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)</source>
-        <translation>Bild (*.png);;Vektorgrafik (*.pdf);;Tabelle (*.csv)</translation>
     </message>
     <message>
         <source>Writing %1 ...</source>

@@ -7,6 +7,7 @@
 #include "widgets/VtkPlotWidget.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <QtMath>
 
 #include <algorithm>
@@ -76,29 +77,44 @@ vtkSmartPointer<vtkTable> copyOf(vtkTable* table)
   return copy;
 }
 
-/// The pixels that a picture, or one that fills a page, is painted with; none for a table.
+std::size_t memoryToCopy(vtkTable* table)
+{
+  const auto rows = static_cast<std::size_t>(table->GetNumberOfRows());
+  return rows * static_cast<std::size_t>(table->GetNumberOfColumns()) * sizeof(double);
+}
+
+/// The pixels that a picture, or one that fills a page, is painted with.
 QSize paintedSize(const VtkPlotWidget& widget, ExportKind kind,
                   const std::optional<PaperSize>& paper, int dotsPerInch)
 {
-  if (kind == ExportKind::Table)
-    return {};
   if (kind == ExportKind::Pixels)
     return paper ? pixelsOn(*paper) : widget.size() * widget.devicePixelRatioF();
   const QSize points = paper ? rounded(pointsOf(*paper)) : widget.size();
   return points * resolutionOn(points, dotsPerInch);
 }
 
-std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind,
-                        const std::optional<PaperSize>& paper, int dotsPerInch)
+/// The bytes that what is to be written takes.
+/// @param own whether a table is to be a copy
+std::size_t neededMemory(const VtkPlotWidget& widget, ExportKind kind, const ExportWishes& wishes,
+                         bool own)
 {
+  const PlotContainer& container = *widget.plotContainer();
+  if (kind == ExportKind::Table)
+    return own ? memoryToCopy(container.getTable()) : 0;
+  const QSize pixels = paintedSize(widget, kind, wishes.paper, resolutionOf(wishes));
+  return pixels.isEmpty() ? 0 : memoryToPaint(container, pixels);
+}
+
+std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind, const ExportWishes& wishes,
+                        bool own)
+{
+  const std::optional<PaperSize>& paper = wishes.paper;
   std::string error;
   if (paper && kind == ExportKind::Pixels)
     error = errorOf(*paper, mostPixels);
   else if (paper && kind == ExportKind::Vectors)
     error = errorOf(*paper, {});
-  const QSize pixels = paintedSize(widget, kind, paper, dotsPerInch);
-  if (error.empty() && !pixels.isEmpty() &&
-      !hasMemory(memoryToPaint(*widget.plotContainer(), pixels)))
+  if (error.empty() && !hasMemory(neededMemory(widget, kind, wishes, own)))
     error = missingMemory();
   return error;
 }
@@ -109,9 +125,8 @@ Result<PaintedPlot> paint(VtkPlotWidget& widget, const QString& path, const Expo
 {
   const ExportKind kind = exportKindOf(path);
   if (kind == ExportKind::None)
-    return Result<PaintedPlot>::failed(
-        translated("PictureFile", "the name must end with .png, .pdf or .csv"));
-  const std::string objection = objectionTo(widget, kind, wishes.paper, resolutionOf(wishes));
+    return Result<PaintedPlot>::failed(unknownFormat());
+  const std::string objection = objectionTo(widget, kind, wishes, own);
   if (!objection.empty())
     return Result<PaintedPlot>::failed(objection);
   PaintedPlot painted;
@@ -142,15 +157,55 @@ bool isWithin(double number, int least, int most)
 
 } // namespace
 
+const std::vector<ExportFormat>& exportFormats()
+{
+  static const std::vector<ExportFormat> formats = {
+      {".png", ExportKind::Pixels, QT_TRANSLATE_NOOP("PictureFile", "Picture")},
+      {".pdf", ExportKind::Vectors, QT_TRANSLATE_NOOP("PictureFile", "Vector picture")},
+      {".csv", ExportKind::Table, QT_TRANSLATE_NOOP("PictureFile", "Table")}};
+  return formats;
+}
+
+const ExportFormat* exportFormatOf(const QString& path)
+{
+  for (const ExportFormat& format : exportFormats())
+    if (path.endsWith(QLatin1String(format.suffix), Qt::CaseInsensitive))
+      return &format;
+  return nullptr;
+}
+
 ExportKind exportKindOf(const QString& path)
 {
-  const auto hasSuffix = [&path](const char* suffix)
-  { return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive); };
-  if (hasSuffix(".png"))
-    return ExportKind::Pixels;
-  if (hasSuffix(".pdf"))
-    return ExportKind::Vectors;
-  return hasSuffix(".csv") ? ExportKind::Table : ExportKind::None;
+  const ExportFormat* format = exportFormatOf(path);
+  return format ? format->kind : ExportKind::None;
+}
+
+std::string exportNames(const std::string& stem)
+{
+  std::string names;
+  for (const ExportFormat& format : exportFormats())
+  {
+    const std::string name = stem + format.suffix;
+    if (&format == &exportFormats().back())
+      names = withValues(translated("PictureFile", "%1 or %2"), {names, name});
+    else
+      names += (names.empty() ? "" : ", ") + name;
+  }
+  return names;
+}
+
+std::string unknownFormat()
+{
+  return withValues(translated("PictureFile", "the name must end with %1"), {exportNames({})});
+}
+
+QString exportFilters()
+{
+  QStringList filters;
+  for (const ExportFormat& format : exportFormats())
+    filters.append(QString::fromStdString(translated("PictureFile", format.content)) +
+                   QStringLiteral(" (*") + QLatin1String(format.suffix) + QLatin1Char(')'));
+  return filters.join(QStringLiteral(";;"));
 }
 
 std::string errorOf(const PaperSize& paper, std::optional<int> most)

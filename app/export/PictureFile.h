@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 class VtkPlotWidget;
 
@@ -27,7 +28,27 @@ enum class ExportKind
   Table    ///< ".csv"
 };
 
+/// A format that plots are exported to.
+struct ExportFormat
+{
+  const char* suffix; ///< with its dot, in small letters
+  ExportKind kind;
+  const char* content; ///< in English, of the context "PictureFile"
+};
+
+/// All of them, in the order in which they are offered.
+const std::vector<ExportFormat>& exportFormats();
+
+/// The format that the suffix of a name stands for; null for none.
+const ExportFormat* exportFormatOf(const QString& path);
 ExportKind exportKindOf(const QString& path);
+
+/// "FILE.png, FILE.pdf or FILE.csv" for the stem "FILE".
+std::string exportNames(const std::string& stem);
+/// What to say of a name that stands for no format.
+std::string unknownFormat();
+/// The formats as a file dialog offers them.
+QString exportFilters();
 
 /// A size on paper, and how finely a picture made of pixels fills it.
 struct PaperSize

@@ -36,13 +36,12 @@ ExportController::~ExportController()
 
 void ExportController::choose()
 {
-  auto* dialog = new QFileDialog(&window, tr("Export"), {},
-                                 tr("Picture (*.png);;Vector picture (*.pdf);;Table (*.csv)"));
+  auto* dialog = new QFileDialog(&window, tr("Export"), {}, exportFilters());
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setOptions(getFileDialogOption());
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   const auto suffixOfFilter = [dialog](const QString& filter)
-  { dialog->setDefaultSuffix(filter.section(QStringLiteral("*."), 1).left(3)); };
+  { dialog->setDefaultSuffix(filter.section(QStringLiteral("*."), 1).section(')', 0, 0)); };
   suffixOfFilter(dialog->selectedNameFilter());
   suggestName(*dialog);
   connect(dialog, &QFileDialog::filterSelected, dialog, suffixOfFilter);

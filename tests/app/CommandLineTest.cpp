@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/CommandLineHelp.h"
+#include "app/export/PictureFile.h"
 #include "app/styles/ViewerStyles.h"
 
 #include <gtest/gtest.h>
@@ -207,6 +208,27 @@ TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
   for (const ViewerStyle& style : viewerStyles())
     EXPECT_NE(help.find(style.name), std::string::npos) << style.name;
   EXPECT_EQ(help.back(), '\n');
+}
+
+TEST(CommandLine, NamesEveryFormatInItsHelpAndItsRefusal)
+{
+  const std::string help = commandLineHelp();
+  const std::string refusal = errorOf({"--export", "plot.svg"});
+  const std::string filters = exportFilters().toStdString();
+  for (const ExportFormat& format : exportFormats())
+  {
+    EXPECT_NE(help.find(std::string("FILE") + format.suffix), std::string::npos) << format.suffix;
+    EXPECT_NE(refusal.find(format.suffix), std::string::npos) << format.suffix;
+    EXPECT_NE(filters.find(std::string("(*") + format.suffix + ")"), std::string::npos);
+    EXPECT_EQ(errorOf({"--export", std::string("plot") + format.suffix}), "");
+  }
+}
+
+TEST(CommandLine, ListsNamesOfAnyLengthInItsHelp)
+{
+  EXPECT_EQ(helpEntry("short", "what it is"), "  short" + std::string(21, ' ') + "what it is\n");
+  const std::string name(40, 'n');
+  EXPECT_EQ(helpEntry(name, "what it is"), "  " + name + " what it is\n");
 }
 
 TEST(CommandLine, CollectsConditionsWhichMayHoldCommas)

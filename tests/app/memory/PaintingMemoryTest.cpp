@@ -8,6 +8,8 @@
 #include "support/TightMemory.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <vtkDoubleArray.h>
+#include <vtkNew.h>
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
@@ -23,6 +25,29 @@
 #include "SampleStudies.h"
 
 using namespace Talmesh::app;
+
+namespace
+{
+
+/// A column that counts its copies.
+class CountedColumn : public vtkDoubleArray
+{
+public:
+  static CountedColumn* New() { VTK_STANDARD_NEW_BODY(CountedColumn); }
+  int copies() const { return count; }
+
+protected:
+  vtkObjectBase* NewInstanceInternal() const override
+  {
+    ++count;
+    return vtkDoubleArray::New();
+  }
+
+private:
+  mutable int count = 0;
+};
+
+} // namespace
 
 TEST(PaintingMemory, GrowsWithPointsAndPixels)
 {
@@ -136,4 +161,34 @@ TEST(PaintingMemory, IsMissedBeforeAnythingIsPainted)
   EXPECT_EQ(exportPlot(*widget, path, {QSizeF(400.0, 400.0), 1200}),
             path.toStdString() + ": there is not enough memory for this picture");
   EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST(PaintingMemory, IsMissedBeforeATableIsCopied)
+{
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "The sanitizer takes addresses without bound.";
+#endif
+  const QTemporaryDir folder;
+  const auto widget = makeHiddenPlot(QSize(200, 150));
+  showStudy(sampleStudy(sampleRuns(100, 1000)), *widget->plotContainer());
+  vtkTable* table = widget->plotContainer()->getTable();
+  const vtkNew<CountedColumn> column;
+  column->SetName("counted");
+  column->SetNumberOfTuples(table->GetNumberOfRows());
+  column->FillValue(1.0);
+  table->AddColumn(column);
+  const auto bytes = static_cast<std::size_t>(table->GetNumberOfRows()) *
+                     static_cast<std::size_t>(table->GetNumberOfColumns()) * sizeof(double);
+  const QString path = folder.filePath(QStringLiteral("table.csv"));
+  {
+    const TightMemory tight(bytes - 4096);
+    EXPECT_EQ(paintPlot(*widget, path, {}).error(),
+              path.toStdString() + ": there is not enough memory for this picture");
+    EXPECT_EQ(column->copies(), 0);
+    EXPECT_EQ(exportPlot(*widget, path), "") << "without a copy";
+  }
+  // Writing makes short ones of some rows.
+  const int before = column->copies();
+  EXPECT_EQ(paintPlot(*widget, path, {}).error(), "");
+  EXPECT_EQ(column->copies(), before + 1);
 }
