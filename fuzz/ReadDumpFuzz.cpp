@@ -1,6 +1,5 @@
 #include "external/PlotMetaData.h"
 #include "plot/BinaryDump.h"
-#include "plot/BinaryDump.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 
