@@ -111,10 +111,9 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   chooseOpeningStyle(container, wishes);
   grouped.follow(&container, runsOverTime(shown.study));
   shown.choice = choiceOf(container);
-  // A selection that is restored marks rows in further columns, which are nobody's to choose.
-  shown.columns = container.getLabels();
   if (opened.session)
     restore(*opened.session);
+  shown.columns = choosableColumns(container);
   PlotChoice wished = shown.choice;
   std::string failure = chooseByName(container, wishes, wished);
   if (failure.empty() && !wishes.select.empty())

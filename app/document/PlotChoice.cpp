@@ -153,6 +153,15 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice,
   return {};
 }
 
+QStringList choosableColumns(const PlotContainer& container)
+{
+  QStringList columns = container.getLabels();
+  while (!columns.isEmpty() &&
+         plot::isSelectionMark(plot::columnName(container.getTable(), columns.size() - 1)))
+    columns.removeLast();
+  return columns;
+}
+
 Result<int> findColumn(const PlotContainer& container, const std::string& name)
 {
   vtkTable* table = container.getTable();

@@ -5,6 +5,7 @@
 #include "app/import/Result.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <string>
@@ -51,6 +52,10 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice,
 
 /// How what a container has drawn differs from the choice, in one line; empty if it does not.
 QString remarkOn(const PlotChoice& choice, const PlotContainer& container);
+
+/// The names of the columns that can be chosen: all but those at the end that mark what is
+/// selected.
+QStringList choosableColumns(const PlotContainer& container);
 
 /// Finds a column by its whole name, else by its name without the kind, else by what a table's
 /// header calls its time or its runs, which may have got another name in the import.
