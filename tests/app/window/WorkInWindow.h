@@ -112,6 +112,8 @@ protected:
           return dialog && dialog->isVisible();
         },
         patience));
+    // It lists its folder in a thread, and looks for the suggested name there.
+    QTest::qWait(200);
     // The dialog would leave a name alone that the user might be typing.
     dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
     // It asks by itself whether to replace a file.
