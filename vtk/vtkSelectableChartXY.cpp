@@ -139,6 +139,10 @@ bool vtkSelectableChartXY::PaintChildren(vtkContext2D* painter)
     if (GetPlot(i)->GetVisible() && !Scales.areKnown(this, i))
       GetPlot(i)->Update();
   Scales.note(this);
+  // The large charts that a matrix had one after another share it, and the last of them to die
+  // takes it out of the scene.
+  if (Tooltip)
+    Tooltip->SetScene(Scene);
   return Superclass::PaintChildren(painter);
 }
 

@@ -5,9 +5,11 @@
 #include <vtkAbstractContextItem.h>
 #include <vtkContext2D.h>
 #include <vtkObjectFactory.h>
+#include <vtkTooltipItem.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace
@@ -36,6 +38,31 @@ TEST(MatrixPainting, LeavesTheMatrixInItsSceneWhenItFails)
   matrix->AddItem(vtkNew<UnpaintableItem>());
   EXPECT_THROW(matrix->Paint(recording.painter), std::runtime_error);
   EXPECT_EQ(matrix->GetScene(), scene.scene());
+}
+
+// What was set aside is freed later.
+TEST(MatrixPainting, ShowsTheTooltipAfterAFormerLargeChartHasDied)
+{
+  const PlotScene scene;
+  vtkNew<vtkSelectableScatterPlotMatrix> matrix;
+  scene.scene()->AddItem(matrix);
+  RecordingPainter recording;
+  recording.device->setSize(640, 480);
+  matrix->SetInput(plainTable());
+  matrix->Paint(recording.painter);
+  vtkSmartPointer<vtkChart> former = matrix->GetMainChart();
+  matrix->SetInput(plainTable());
+  matrix->Paint(recording.painter);
+  ASSERT_NE(matrix->GetMainChart(), former);
+  former = nullptr;
+  matrix->GetTooltip()->SetText("A, B: 1, 2");
+  matrix->GetTooltip()->SetVisible(true);
+  recording.device->clear();
+  matrix->Paint(recording.painter);
+  const auto texts = recording.device->calls(RecordingDevice::Kind::String);
+  EXPECT_EQ(std::count_if(texts.begin(), texts.end(),
+                          [](const auto& call) { return call.text == "A, B: 1, 2"; }),
+            1);
 }
 
 } // namespace
