@@ -19,6 +19,9 @@ inline constexpr char valueItemName[] = "Value";
 /// The item of the time or value kind that numbers the runs.
 inline constexpr char runIndexName[] = "Run Index";
 
+/// The column of times of the tables that are derived from runs.
+inline constexpr char derivedTimeName[] = "Time";
+
 /// Where no name tells, the columns of time and of the runs' numbers stand so many columns in front
 /// of the first parameter, as line-plot tables have them.
 inline constexpr int timeBeforeParameters = 2;

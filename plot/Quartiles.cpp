@@ -1,5 +1,6 @@
 #include "plot/Quartiles.h"
 
+#include "external/ColumnNames.h"
 #include "external/PaddedName.h"
 #include "external/PlotMetaData.h"
 #include "plot/BorrowedColumn.h"
@@ -76,7 +77,7 @@ vtkSmartPointer<vtkDoubleArray> timeColumn(const PlotState& state, vtkIdType cou
   if (!shareable)
     return copiedTime(state, count);
   double* values = source->GetPointer(0);
-  return borrowColumn("Time", values, count,
+  return borrowColumn(derivedTimeName, values, count,
                       boost::make_shared<vtkSmartPointer<vtkDoubleArray>>(source));
 }
 

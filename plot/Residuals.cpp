@@ -1,5 +1,6 @@
 #include "plot/Residuals.h"
 
+#include "external/ColumnNames.h"
 #include "external/FitRun.h"
 #include "external/FitSettings.h"
 #include "external/PlotMetaData.h"
@@ -166,7 +167,7 @@ vtkSmartPointer<vtkTable> residualTable(const FitRun& run, const FitSettings& se
   auto table = vtkSmartPointer<vtkTable>::New();
   const ColumnWriter writer(table, rowCount(run, settings));
   if (isTimeCourse(settings))
-    writer.add("Time", run.timePoints);
+    writer.add(derivedTimeName, run.timePoints);
   const double scale = observationScale(run, settings);
   for (std::size_t j = 0; j < settings.observations.size(); ++j)
   {

@@ -1,5 +1,6 @@
 #include "plot/RunTables.h"
 
+#include "external/ColumnNames.h"
 #include "external/PaddedName.h"
 #include "external/PlotMetaData.h"
 #include "plot/ColumnList.h"
@@ -71,7 +72,7 @@ vtkSmartPointer<vtkDoubleArray> copiedTime(const PlotState& state, vtkIdType cou
   auto* source =
       vtkDataArray::SafeDownCast(columnAt(state.table, firstOf(state.metaData->xColumns)));
   auto time = vtkSmartPointer<vtkDoubleArray>::New();
-  time->SetName("Time");
+  time->SetName(derivedTimeName);
   time->SetNumberOfValues(count);
   for (vtkIdType i = 0; i < count; ++i)
   {

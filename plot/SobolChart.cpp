@@ -1,5 +1,6 @@
 #include "plot/SobolChart.h"
 
+#include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
@@ -125,10 +126,11 @@ void addSobolBands(PlotState& state, bool total)
   vtkChartXY* chart = state.chartXY;
   auto* bands = vtkPlotStacked::SafeDownCast(chart->AddPlot(vtkChart::STACKED));
   dressLeftAxis(chart->GetAxis(vtkAxis::LEFT), total);
-  chart->GetAxis(vtkAxis::BOTTOM)->SetTitle("Time [s]");
-  if (isTimeAxis(vtkDataArray::SafeDownCast(columnNamed(state.table, "Time")), state.table))
+  chart->GetAxis(vtkAxis::BOTTOM)->SetTitle(timeItemName);
+  if (isTimeAxis(vtkDataArray::SafeDownCast(columnNamed(state.table, derivedTimeName)),
+                 state.table))
   {
-    bands->SetInputArray(0, "Time");
+    bands->SetInputArray(0, derivedTimeName);
     feedSeries(bands, state.table);
   }
   dressSeries(bands, chart);

@@ -1,5 +1,6 @@
 #include "plot/SobolTables.h"
 
+#include "external/ColumnNames.h"
 #include "external/SobolPostProcessResult.h"
 #include "plot/TableColumns.h"
 
@@ -86,7 +87,7 @@ vtkSmartPointer<vtkTable> sobolTimeSeriesTable(const SobolPostProcessResult& res
       values.push_back(slice.at(output, t, p));
     table->AddColumn(makeFloatColumn(entry(result.parameterNames, p), values));
   }
-  table->AddColumn(makeFloatColumn("Time", times));
+  table->AddColumn(makeFloatColumn(derivedTimeName, times));
   return table;
 }
 

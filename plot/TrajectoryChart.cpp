@@ -1,5 +1,6 @@
 #include "plot/TrajectoryChart.h"
 
+#include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/PlotFeed.h"
@@ -39,7 +40,7 @@ constexpr double upperFactor = 1.005;
 
 void addBand(PlotState& state, const Band& band)
 {
-  const int time = columnIndex(state.quartileTable, "Time");
+  const int time = columnIndex(state.quartileTable, derivedTimeName);
   const int value = columnIndex(state.quartileTable, band.column);
   vtkNew<vtkPlotShiftedBag> plot;
   plot->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
