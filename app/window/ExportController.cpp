@@ -131,7 +131,7 @@ void ExportController::cancel()
 {
   waiting.clear();
   runner->cancel();
-  emit said(tr("Cancelled"));
+  emit stopped(tr("Cancelled"));
   end();
 }
 

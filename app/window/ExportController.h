@@ -48,6 +48,8 @@ public:
 signals:
   /// What is going on, in one line.
   void said(const QString& message);
+  /// What was going on has been given up, in one line.
+  void stopped(const QString& message);
   /// @param error one line; empty on success
   void written(const QString& path, const std::string& error);
 

@@ -84,7 +84,7 @@ void GroupController::group()
 void GroupController::cancel()
 {
   runner->cancel();
-  emit said(tr("Cancelled"));
+  emit stopped(tr("Cancelled"));
 }
 
 void GroupController::take(const Result<std::shared_ptr<RunClustering>>& found)

@@ -39,6 +39,8 @@ public:
 signals:
   /// What is going on, in one line.
   void said(const QString& message);
+  /// What was going on has been given up, in one line.
+  void stopped(const QString& message);
   /// The search is over.
   void ended();
   /// Why there are no groups, in one line.

@@ -57,8 +57,10 @@ void MainWindow::connectControllers()
   const auto tell = [this](const QString& message) { status.tell(message); };
   const auto clear = [this] { status.clear(); };
   connect(opener, &StudyOpener::said, this, tell);
+  connect(opener, &StudyOpener::stopped, this, say);
   connect(opener, &StudyOpener::ended, this, clear);
   connect(grouping, &GroupController::said, this, tell);
+  connect(grouping, &GroupController::stopped, this, say);
   connect(grouping, &GroupController::ended, this, clear);
   connect(grouping, &GroupController::failed, this, &MainWindow::showError);
   connect(opener, &StudyOpener::shown, this, &MainWindow::noteOpened);
@@ -71,6 +73,7 @@ void MainWindow::connectControllers()
           });
   connect(opener, &StudyOpener::failed, this, &MainWindow::noteFailure);
   connect(exports, &ExportController::said, this, tell);
+  connect(exports, &ExportController::stopped, this, say);
   connect(exports, &ExportController::written, this, &MainWindow::noteWritten);
   connect(sessions, &SessionController::written, this,
           [this](const QString& path, const std::string& error)

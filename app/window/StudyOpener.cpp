@@ -111,7 +111,7 @@ void StudyOpener::cancel()
 {
   current = {};
   runner->cancel();
-  emit said(tr("Cancelled"));
+  emit stopped(tr("Cancelled"));
 }
 
 void StudyOpener::finish(const Result<OpenedStudy>& result)

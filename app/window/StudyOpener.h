@@ -55,6 +55,8 @@ public:
 signals:
   /// What is going on, in one line.
   void said(const QString& message);
+  /// What was going on has been given up, in one line.
+  void stopped(const QString& message);
   /// Nothing is going on any more.
   void ended();
   /// The document shows the study, whether or not the wishes could be met.
