@@ -7,6 +7,7 @@
 #include "plot/ScatterMatrix.h"
 #include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
+#include "vtk/vtkSelectableChartXY.h"
 
 #include <vtkDataSetAttributes.h>
 #include <vtkPlot.h>
@@ -98,8 +99,12 @@ void removeUnused(PlotState& state, const std::set<int>& used)
   state.columnItems = items;
 }
 
+/// The chart first looks for columns that have gone from the former table: bars and areas are
+/// expected to have those that their input had when the chart saw it first.
 void feedFrom(vtkChart* chart, vtkTable* from, vtkTable* to)
 {
+  if (auto* settled = vtkSelectableChartXY::SafeDownCast(chart))
+    settled->SettleScales();
   for (vtkIdType i = 0; chart && i < chart->GetNumberOfPlots(); ++i)
   {
     vtkPlot* plot = chart->GetPlot(i);

@@ -108,6 +108,22 @@ TEST_F(LostSeries, OfBarsAndAreasMayBeRemoved)
   }
 }
 
+// The chart then shows a copy of the table, in which what it once had is not to be seen.
+TEST_F(LostSeries, MayBeRemovedBeforeTheOtherColumnsAreReduced)
+{
+  for (const plotStyles style : {reservedStyle1, reservedStyle2})
+  {
+    storeStyle(container, style);
+    container.setSobolPostprocessResult(&result, style == reservedStyle1, false, 0, 0);
+    const vtkSmartPointer<vtkTable> table = container.getTable();
+    table->GetRowData()->RemoveArray(1);
+    container.shrinkToColumnSelection();
+    ASSERT_NE(container.getChartXY()->GetPlot(0)->GetInput(), table);
+    render();
+    EXPECT_FALSE(container.getChartXY()->GetPlot(0)->GetVisible());
+  }
+}
+
 class LostPlot : public PlotFixture
 {
 };
