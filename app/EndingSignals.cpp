@@ -4,7 +4,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstddef>
 #include <fcntl.h>
+#include <iterator>
 #include <unistd.h>
 #include <utility>
 
@@ -15,6 +17,18 @@ namespace
 {
 
 constexpr int endingSignals[] = {SIGTERM, SIGINT, SIGHUP};
+
+struct sigaction handlersAtStart[std::size(endingSignals)];
+
+void readHandlersAtStart(int, char**, char**)
+{
+  for (std::size_t i = 0; i < std::size(endingSignals); ++i)
+    sigaction(endingSignals[i], nullptr, &handlersAtStart[i]);
+}
+
+/// The system's loader calls what stands here before libraries begin.
+[[gnu::section(".preinit_array"), gnu::used]] void (*const firstCall)(int, char**,
+                                                                      char**) = readHandlersAtStart;
 
 /// A signal handler may do little more than write into a pipe.
 int writer = -1;
@@ -29,6 +43,12 @@ void passOn(int number)
 }
 
 } // namespace
+
+void takeSignalsBack()
+{
+  for (std::size_t i = 0; i < std::size(endingSignals); ++i)
+    sigaction(endingSignals[i], &handlersAtStart[i], nullptr);
+}
 
 EndingSignals::EndingSignals(std::function<void()> lastThing, QObject* parent)
     : QObject(parent)

@@ -119,6 +119,7 @@ int runProgram(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+  takeSignalsBack();
   installLastResort();
   return endingClearly([&] { return runProgram(argc, argv); });
 }

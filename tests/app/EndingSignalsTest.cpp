@@ -35,3 +35,15 @@ TEST(EndingSignals, LeaveTheErrorOfWhatTheyInterrupt)
   std::raise(SIGHUP);
   EXPECT_EQ(errno, ENOENT);
 }
+
+TEST(EndingSignals, AreTakenBackFromLibrariesThatStartBeforeTheProgram)
+{
+  const auto handler = [](int) {};
+  for (const int number : {SIGTERM, SIGINT, SIGHUP})
+  {
+    takeSignalsBack();
+    const auto before = std::signal(number, handler);
+    takeSignalsBack();
+    EXPECT_EQ(std::signal(number, before), before) << number;
+  }
+}
