@@ -76,7 +76,7 @@ int runProgram(int argc, char** argv)
 {
   // Qt asks for the encoding of names when it first meets one.
   std::setlocale(LC_CTYPE, "");
-  installFileNameCodec();
+  const FileNameCodec allNames;
   const Result<CommandLineOptions> line = parseCommandLine({argv + std::min(argc, 1), argv + argc});
   if (!line.hasValue())
     return fail(line.error());

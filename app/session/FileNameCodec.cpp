@@ -3,10 +3,16 @@
 #include <QFile>
 #include <QUrl>
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+
 #include <algorithm>
+#endif
 
 namespace Talmesh::app
 {
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
 namespace
 {
@@ -50,40 +56,28 @@ Decoded firstCharacter(const char* bytes, int size)
   return {character, length};
 }
 
-} // namespace
-
-QByteArray FileNameCodec::name() const
-{
-  return QByteArrayLiteral("Talmesh-file-names");
-}
-
-int FileNameCodec::mibEnum() const
-{
-  return mibOfFileNames;
-}
-
-QString FileNameCodec::convertToUnicode(const char* bytes, int size, ConverterState*) const
+QString decoded(const char* bytes, int size)
 {
   QString text;
   text.reserve(size);
   for (int at = 0; at < size;)
   {
-    const Decoded decoded = firstCharacter(bytes + at, size - at);
-    if (decoded.length == 0)
+    const Decoded first = firstCharacter(bytes + at, size - at);
+    if (first.length == 0)
       text += QChar(escapes + byteAt(bytes, at));
-    else if (!QChar::requiresSurrogates(decoded.character))
-      text += QChar(decoded.character);
+    else if (!QChar::requiresSurrogates(first.character))
+      text += QChar(first.character);
     else
     {
-      text += QChar(QChar::highSurrogate(decoded.character));
-      text += QChar(QChar::lowSurrogate(decoded.character));
+      text += QChar(QChar::highSurrogate(first.character));
+      text += QChar(QChar::lowSurrogate(first.character));
     }
-    at += std::max(decoded.length, 1);
+    at += std::max(first.length, 1);
   }
   return text;
 }
 
-QByteArray FileNameCodec::convertFromUnicode(const QChar* text, int size, ConverterState*) const
+QByteArray encoded(const QChar* text, int size)
 {
   QByteArray bytes;
   bytes.reserve(size);
@@ -102,12 +96,44 @@ QByteArray FileNameCodec::convertFromUnicode(const QChar* text, int size, Conver
   return bytes;
 }
 
-void installFileNameCodec()
+class LosslessUtf8 : public QTextCodec
 {
-  if (QTextCodec::codecForLocale()->mibEnum() == mibOfUtf8)
+public:
+  QByteArray name() const override { return QByteArrayLiteral("Talmesh-file-names"); }
+  int mibEnum() const override { return mibOfFileNames; }
+
+protected:
+  QString convertToUnicode(const char* bytes, int size, ConverterState*) const override
+  {
+    return decoded(bytes, size);
+  }
+  QByteArray convertFromUnicode(const QChar* text, int size, ConverterState*) const override
+  {
+    return encoded(text, size);
+  }
+};
+
+} // namespace
+
+FileNameCodec::FileNameCodec()
+    : before(QTextCodec::codecForLocale())
+{
+  if (before->mibEnum() == mibOfUtf8)
     // Qt deletes it.
-    QTextCodec::setCodecForLocale(new FileNameCodec);
+    QTextCodec::setCodecForLocale(new LosslessUtf8);
 }
+
+FileNameCodec::~FileNameCodec()
+{
+  QTextCodec::setCodecForLocale(before);
+}
+
+#else
+
+FileNameCodec::FileNameCodec() = default;
+FileNameCodec::~FileNameCodec() = default;
+
+#endif
 
 QString localFileOf(const QUrl& url)
 {

@@ -1,29 +1,31 @@
 #ifndef FileNameCodec_h
 #define FileNameCodec_h
 
-#include <QTextCodec>
+#include <QString>
 
+class QTextCodec;
 class QUrl;
 
 namespace Talmesh::app
 {
 
-/// UTF-8 that loses nothing: a byte B that belongs to no character becomes the lone surrogate
-/// 0xDC00 + B and back. Names of files are bytes, which need not be UTF-8.
-class FileNameCodec : public QTextCodec
+/// While it lives, Qt finds and writes files of all names where names are meant to be UTF-8. Names
+/// are bytes: one B that belongs to no character becomes the lone surrogate 0xDC00 + B and back. In
+/// other locales every byte has a character anyway. Qt 6 lets nobody read names for it; with it,
+/// files whose names are not UTF-8 are not found.
+class FileNameCodec
 {
 public:
-  QByteArray name() const override;
-  int mibEnum() const override;
+  static constexpr bool findsAllNames = QT_VERSION < QT_VERSION_CHECK(6, 0, 0);
 
-protected:
-  QString convertToUnicode(const char* bytes, int size, ConverterState* state) const override;
-  QByteArray convertFromUnicode(const QChar* text, int size, ConverterState* state) const override;
+  FileNameCodec();
+  ~FileNameCodec();
+  FileNameCodec(const FileNameCodec&) = delete;
+  FileNameCodec& operator=(const FileNameCodec&) = delete;
+
+private:
+  [[maybe_unused]] QTextCodec* before = nullptr;
 };
-
-/// Lets Qt find and write files of all names where names are meant to be UTF-8. In other locales
-/// every byte has a character anyway.
-void installFileNameCodec();
 
 /// The file that a URL from another program names; empty when it names none here.
 QString localFileOf(const QUrl& url);

@@ -1,4 +1,5 @@
 #include "app/session/Session.h"
+#include "support/PreparedProcess.h"
 
 #include <vtkIntArray.h>
 
@@ -21,26 +22,6 @@ namespace
 {
 
 constexpr int patience = 60000;
-
-/// A program that may have been told to ignore a signal before it started, as by nohup.
-class DeafProcess : public QProcess
-{
-public:
-  explicit DeafProcess(int number)
-      : ignored(number)
-  {
-  }
-
-protected:
-  void setupChildProcess() override
-  {
-    if (ignored != 0)
-      std::signal(ignored, SIG_IGN);
-  }
-
-private:
-  int ignored;
-};
 
 /// The viewer as its users start it, with three runs.
 class EndedProgram : public ::testing::Test
@@ -157,7 +138,8 @@ TEST_F(EndedProgram, LeavesNothingWhenNothingWasDone)
 
 TEST_F(EndedProgram, StaysDeafToSignalsThatItWasStartedToIgnore)
 {
-  DeafProcess program(SIGHUP);
+  // As by nohup.
+  PreparedProcess program([] { std::signal(SIGHUP, SIG_IGN); });
   start(program);
   ::kill(static_cast<pid_t>(program.processId()), SIGHUP);
   EXPECT_FALSE(program.waitForFinished(500));

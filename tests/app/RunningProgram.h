@@ -1,6 +1,8 @@
 #ifndef RunningProgram_h
 #define RunningProgram_h
 
+#include "support/PreparedProcess.h"
+
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -26,28 +28,16 @@ struct Limits
   rlim_t addressBytes = RLIM_INFINITY;
 };
 
-class LimitedProcess : public QProcess
+/// Called in the process that becomes the program.
+inline void limit(const Limits& limits)
 {
-public:
-  explicit LimitedProcess(const Limits& limits_)
-      : limits(limits_)
-  {
-  }
-
-protected:
-  void setupChildProcess() override
-  {
-    // Writing more shall fail rather than end the program.
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit files = {limits.fileBytes, limits.fileBytes};
-    const rlimit addresses = {limits.addressBytes, limits.addressBytes};
-    setrlimit(RLIMIT_FSIZE, &files);
-    setrlimit(RLIMIT_AS, &addresses);
-  }
-
-private:
-  Limits limits;
-};
+  // Writing more shall fail rather than end the program.
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit files = {limits.fileBytes, limits.fileBytes};
+  const rlimit addresses = {limits.addressBytes, limits.addressBytes};
+  setrlimit(RLIMIT_FSIZE, &files);
+  setrlimit(RLIMIT_AS, &addresses);
+}
 
 /// Runs the viewer as its user does.
 class RunningProgram : public ::testing::Test
@@ -67,7 +57,7 @@ protected:
 
   Ended runProgram(const QString& program, const QStringList& arguments, const Limits& limits)
   {
-    LimitedProcess process(limits);
+    PreparedProcess process([&limits] { limit(limits); });
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
     Ended ended;

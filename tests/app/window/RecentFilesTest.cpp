@@ -88,8 +88,9 @@ TEST_F(RecentFilesOfATest, ForgetsAFileThatIsGone)
 
 TEST_F(RecentFilesOfATest, KeepsNamesThatAreNotUtf8)
 {
-  QTextCodec* const before = QTextCodec::codecForLocale();
-  installFileNameCodec();
+  if (!FileNameCodec::findsAllNames)
+    GTEST_SKIP() << "This version of Qt takes names for UTF-8.";
+  const FileNameCodec codec;
   const QByteArray name = "/caf\xE9 50%25 K\xC3\xA4se, \"b\".csv";
   recent.add(QFile::decodeName(name));
   recent.add(QStringLiteral("/@b.csv"));
@@ -99,5 +100,4 @@ TEST_F(RecentFilesOfATest, KeepsNamesThatAreNotUtf8)
   EXPECT_EQ(QFile::encodeName(found.back()).toHex(), name.toHex());
   recent.remove(QFile::decodeName(name));
   EXPECT_EQ(recent.paths().size(), 1);
-  QTextCodec::setCodecForLocale(before);
 }

@@ -64,7 +64,7 @@ TEST_F(UnsavedWork, IsAskedForBeforeTheWindowCloses)
   answer(leavingQuestion(), QMessageBox::Cancel);
   EXPECT_TRUE(window.isVisible());
   EXPECT_EQ(runs(), (std::set<int>{10, 30}));
-  press(QKeySequence(Qt::CTRL + Qt::Key_Q));
+  press(QKeySequence(Qt::CTRL | Qt::Key_Q));
   answer(leavingQuestion(), QMessageBox::Discard);
   EXPECT_FALSE(window.isVisible());
 }
