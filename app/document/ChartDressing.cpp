@@ -29,15 +29,18 @@ const vtkVector4i margins3D(50, 90, 80, 90);
 constexpr const char* tilted = "talmeshTilted";
 
 /// Turns the chart as dragging it by these parts of the scene's width and height does, which is the
-/// one way that the chart offers.
+/// one way that the chart offers. Versions of VTK look at either kind of place.
 void drag(vtkChartXYZ* chart, vtkRenderWindowInteractor* interactor, double right, double up)
 {
+  const vtkVector2i to(static_cast<int>(right * chart->GetScene()->GetSceneWidth()),
+                       static_cast<int>(up * chart->GetScene()->GetSceneHeight()));
   vtkContextMouseEvent mouse;
   mouse.SetInteractor(interactor);
   mouse.SetButton(vtkContextMouseEvent::LEFT_BUTTON);
   mouse.SetLastScreenPos(vtkVector2i(0, 0));
-  mouse.SetScreenPos(vtkVector2i(static_cast<int>(right * chart->GetScene()->GetSceneWidth()),
-                                 static_cast<int>(up * chart->GetScene()->GetSceneHeight())));
+  mouse.SetLastScenePos(vtkVector2f(0.0F, 0.0F));
+  mouse.SetScreenPos(to);
+  mouse.SetScenePos(to.Cast<float>());
   chart->MouseMoveEvent(mouse);
 }
 
