@@ -2,9 +2,17 @@
 # package configuration finds with those whose headers and classes the public headers include and name.
 cmake_minimum_required(VERSION 3.24)
 
-# The module of VTK that declares a class; its header includes that of the module.
-function(module_of class result)
-  find_file(declaration ${class}.h PATHS ${VTK_FOLDERS} NO_DEFAULT_PATH NO_CACHE REQUIRED)
+# The module of VTK that declares a class; its header includes that of the module. None when this version of VTK does not
+# have the class and the header asks before it names it.
+function(module_of class questions result)
+  set(${result} "" PARENT_SCOPE)
+  find_file(declaration ${class}.h PATHS ${VTK_FOLDERS} NO_DEFAULT_PATH NO_CACHE)
+  if(NOT declaration)
+    if(NOT questions MATCHES "<${class}\\.h>")
+      message(FATAL_ERROR "No module of VTK has ${class}")
+    endif()
+    return()
+  endif()
   file(STRINGS "${declaration}" module REGEX "#include \"vtk[A-Za-z0-9]+Module.h\"" LIMIT_COUNT 1)
   if(NOT module)
     set(module "vtkCommonCoreModule") # templates, which export nothing
@@ -32,11 +40,14 @@ endfunction()
 set(needed)
 foreach(header IN LISTS HEADERS)
   file(STRINGS "${SOURCE_TREE}/${header}" lines REGEX "^ *#include <|^ *(class|struct) (Q|vtk)[A-Za-z0-9]+;")
+  file(STRINGS "${SOURCE_TREE}/${header}" questions REGEX "__has_include\\(")
   foreach(line IN LISTS lines)
     string(REGEX REPLACE "^ *(#include <|class |struct )([A-Za-z0-9_/]+).*" "\\2" name "${line}")
     if(name MATCHES "^(vtk|QVTK)")
-      module_of(${name} module)
-      list(APPEND needed VTK::${module})
+      module_of(${name} "${questions}" module)
+      if(module)
+        list(APPEND needed VTK::${module})
+      endif()
     elseif(name MATCHES "^Q")
       qt_component_of(${name} component)
       list(APPEND needed Qt::${component})
