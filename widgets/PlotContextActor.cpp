@@ -5,13 +5,29 @@
 #include <vtkContextDevice2D.h>
 #include <vtkObjectFactory.h>
 #include <vtkOpenGLContextDevice2D.h>
+#include <vtkOpenGLGL2PSHelper.h>
 #include <vtkSmartPointer.h>
 #include <vtkViewport.h>
+
+namespace
+{
+
+bool writesPage()
+{
+  vtkOpenGLGL2PSHelper* writer = vtkOpenGLGL2PSHelper::GetInstance();
+  return writer && writer->GetActiveState() != vtkOpenGLGL2PSHelper::Inactive;
+}
+
+} // namespace
 
 vtkStandardNewMacro(PlotContextActor);
 
 int PlotContextActor::RenderOverlay(vtkViewport* viewport)
 {
+  // The page is lost. Its exporter asks for more frames, which VTK's own device would write: that
+  // of VTK 9.3 ends the program at markers of one colour.
+  if (this->Failure && writesPage())
+    return 0;
   try
   {
     return this->Superclass::RenderOverlay(viewport);

@@ -33,6 +33,7 @@ public:
   {
     if (!fails || failsAfter-- > 0)
       return true;
+    ++failures;
     painter->PushMatrix();
     painter->GetDevice()->EnableClipping(true);
     throw std::bad_alloc();
@@ -40,6 +41,7 @@ public:
 
   bool fails = true;
   int failsAfter = 0; ///< frames that are still painted
+  int failures = 0;
 };
 vtkStandardNewMacro(FailingItem);
 
@@ -118,7 +120,9 @@ TEST_F(PaintingFailure, EndsAnExportThatTheWidgetSurvives)
   const QTemporaryDir folder;
   EXPECT_THROW(widget->printPlot(folder.filePath("first.pdf")), std::bad_alloc);
   item->failsAfter = 1;
+  item->failures = 0;
   EXPECT_THROW(widget->printPlot(folder.filePath("second.pdf")), std::bad_alloc);
+  EXPECT_EQ(item->failures, 2) << "once into the page, once into the window afterwards";
   item->fails = false;
   widget->updatePlot(false);
   EXPECT_EQ(widget->grabFramebuffer(), sound);
