@@ -32,6 +32,7 @@ set(TALMESH_PUBLIC_HEADERS
   stats/KolmogorovSmirnovFormulas.h
   vtk/CachedPoints.h
   vtk/PointCloud.h
+  vtk/SelectionGesture.h
   vtk/VtkCompat.h
   vtk/vtkCombinedFilterAndSelectedRows.h
   vtk/vtkCombinedFilterOrSelectedRows.h

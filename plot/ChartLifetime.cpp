@@ -81,6 +81,7 @@ vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state)
   auto chart = vtkSmartPointer<vtkSelectableChartXY>::New();
   chart->SetRenderEmpty(true);
   chart->SetAnnotationLink(state.annotationLink);
+  chart->SetGestures(state.gestures);
   return chart;
 }
 

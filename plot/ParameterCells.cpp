@@ -4,6 +4,7 @@
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "vtk/LogScales.h"
+#include "vtk/vtkSelectableChartXY.h"
 
 #include <vtkAxis.h>
 #include <vtkChart.h>
@@ -68,6 +69,8 @@ void disablePanAndZoom(vtkChart* chart)
 void enableSelection(const PlotState& state, vtkChart* chart)
 {
   chart->SetAnnotationLink(state.annotationLink);
+  if (auto* selectable = vtkSelectableChartXY::SafeDownCast(chart))
+    selectable->SetGestures(state.gestures);
   chart->SetActionToButton(vtkChart::SELECT, vtkContextMouseEvent::RIGHT_BUTTON);
 }
 

@@ -32,7 +32,9 @@ void makeCharts(PlotState& state)
 {
   state.annotationLink = vtkSmartPointer<vtkAnnotationLink>::New();
   state.chartXY = Talmesh::plot::makeXYChart(state);
-  state.scatterPlotMatrix = vtkSmartPointer<vtkSelectableScatterPlotMatrix>::New();
+  auto matrix = vtkSmartPointer<vtkSelectableScatterPlotMatrix>::New();
+  matrix->SetGestures(state.gestures);
+  state.scatterPlotMatrix = matrix;
   state.chartXYZ = Talmesh::plot::makeChart3D();
   state.chartMatrix = vtkSmartPointer<vtkSelectableChartMatrix>::New();
   state.extractSelectedRows = vtkSmartPointer<vtkExtractSelectedRows>::New();

@@ -7,6 +7,7 @@
 #include "../plot/KsStatistics.h"
 #include "../plot/PlotContainerTypes.h"
 #include "../plot/PlotOptions.h"
+#include "../vtk/SelectionGesture.h"
 
 #include <vtkSmartPointer.h>
 
@@ -18,6 +19,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -181,6 +183,20 @@ public:
   /// Ranks the parameters of the given runs as a further data set and draws. An exception from the
   /// ranking leaves everything as it was.
   void setExternalSelection(ParameterSelection* runs);
+  /// What takes a gesture with the select button in any of the charts, and whether it has: rows are
+  /// selected where it has not. It may change selection and charts, but not end the container.
+  /// Null, as at first, takes none: charts then select the points that a rectangle covers, or one
+  /// point. A chart in which plots of several tables or along several pairs of axes can be selected
+  /// is not for it. A copy of the container has none.
+  void setGestureHandler(std::function<bool(const Talmesh::SelectionGesture&)> take);
+  /// What says what is at the place of the mouse, which it gets as a click there; empty for
+  /// nothing, none for what the charts say by themselves. Null, as at first, for the latter
+  /// everywhere.
+  void setHoverText(
+      std::function<std::optional<std::string>(const Talmesh::SelectionGesture&)> describe);
+  /// What the select button draws where a gesture handler is set; a rectangle at first.
+  void setSelectionTool(Talmesh::SelectionTool tool);
+  Talmesh::SelectionTool getSelectionTool() const;
 
   // Statistics
   /// Builds the rank and density tables of the settings' parameter columns of `source` in slots

@@ -8,6 +8,8 @@
 #include "plot/RunSelection.h"
 #include "plot/SelectionFlags.h"
 
+#include <utility>
+
 vtkAnnotationLink* PlotContainer::getAnnotationLink() const
 {
   return d->annotationLink;
@@ -57,6 +59,27 @@ void PlotContainer::setExternalSelection(ParameterSelection* runs)
   }
   dirty();
   drawOrReport();
+}
+
+void PlotContainer::setGestureHandler(std::function<bool(const Talmesh::SelectionGesture&)> take)
+{
+  d->gestures->select = std::move(take);
+}
+
+void PlotContainer::setHoverText(
+    std::function<std::optional<std::string>(const Talmesh::SelectionGesture&)> describe)
+{
+  d->gestures->describe = std::move(describe);
+}
+
+void PlotContainer::setSelectionTool(Talmesh::SelectionTool tool)
+{
+  d->gestures->tool = tool;
+}
+
+Talmesh::SelectionTool PlotContainer::getSelectionTool() const
+{
+  return d->gestures->tool;
 }
 
 const std::vector<vtkSmartPointer<vtkTable>>& PlotContainer::getDerivedTables() const

@@ -12,6 +12,7 @@
 #include "plot/MatrixSelection.h"
 #include "plot/PlotOptions.h"
 #include "plot/SceneLink.h"
+#include "vtk/GestureHandling.h"
 #include "vtk/PictureStore.h"
 
 #include <vtkAbstractContextItem.h>
@@ -143,6 +144,9 @@ struct PlotState
   unsigned long drawings = 0;
   /// What clients do in every redraw. A copied container has none.
   DrawingSteps steps;
+  /// What the program does with gestures in all charts, never null. A copied container's does
+  /// nothing.
+  std::shared_ptr<Talmesh::GestureHandling> gestures = std::make_shared<Talmesh::GestureHandling>();
 };
 
 } // namespace Talmesh::plot

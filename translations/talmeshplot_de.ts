@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>GestureSelection</name>
+    <message>
+        <source>Run %1, %2: %3, %4</source>
+        <translation>Lauf %1, %2: %3, %4</translation>
+    </message>
+</context>
+<context>
     <name>GroupController</name>
     <message>
         <source>Group %1: %2 run</source>
@@ -80,6 +87,21 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>The table could not be written to %1.</source>
         <translation>Die Tabelle konnte nicht nach %1 geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ListedRuns</name>
+    <message>
+        <source>%1: none of its runs is in this table: %2</source>
+        <translation>%1: keiner der Läufe steht in dieser Tabelle: %2</translation>
+    </message>
+    <message>
+        <source>%1: 1 of its %3 runs is not in this table: %2</source>
+        <translation>%1: 1 der %3 Läufe steht nicht in dieser Tabelle: %2</translation>
+    </message>
+    <message>
+        <source>%1: %4 of its %3 runs are not in this table: %2</source>
+        <translation>%1: %4 der %3 Läufe stehen nicht in dieser Tabelle: %2</translation>
     </message>
 </context>
 <context>
@@ -364,21 +386,6 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>The column %1 marks a former selection and is left out.</source>
         <translation>Die Spalte %1 markiert eine frühere Auswahl und wird ausgelassen.</translation>
-    </message>
-</context>
-<context>
-    <name>SelectionController</name>
-    <message>
-        <source>%1: none of its runs is in this table: %2</source>
-        <translation>%1: keiner der Läufe steht in dieser Tabelle: %2</translation>
-    </message>
-    <message>
-        <source>%1: 1 of its %3 runs is not in this table: %2</source>
-        <translation>%1: 1 der %3 Läufe steht nicht in dieser Tabelle: %2</translation>
-    </message>
-    <message>
-        <source>%1: %4 of its %3 runs are not in this table: %2</source>
-        <translation>%1: %4 der %3 Läufe stehen nicht in dieser Tabelle: %2</translation>
     </message>
 </context>
 <context>
@@ -1253,6 +1260,69 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>Talmesh::app::GestureActions</name>
+    <message>
+        <source>&amp;Rectangle</source>
+        <translation>&amp;Rechteck</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>The right mouse button draws a rectangle. With Ctrl runs are added, with Shift taken away, with both toggled; a click means the run that is nearest.</source>
+        <translation>Die rechte Maustaste zieht ein Rechteck auf. Mit Strg kommen Läufe hinzu, mit der Umschalttaste fallen sie weg, mit beiden werden sie umgekehrt; ein Klick meint den nächsten Lauf.</translation>
+    </message>
+    <message>
+        <source>Lass&amp;o</source>
+        <translation>Lass&amp;o</translation>
+    </message>
+    <message>
+        <source>Lasso</source>
+        <translation>Lasso</translation>
+    </message>
+    <message>
+        <source>The right mouse button draws around what is to be selected</source>
+        <translation>Die rechte Maustaste umfährt, was ausgewählt werden soll</translation>
+    </message>
+    <message>
+        <source>&amp;Crossing line</source>
+        <translation>&amp;Querlinie</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Querlinie</translation>
+    </message>
+    <message>
+        <source>The right mouse button draws a line across the runs to be selected</source>
+        <translation>Die rechte Maustaste zieht eine Linie quer durch die Läufe, die ausgewählt werden sollen</translation>
+    </message>
+    <message>
+        <source>Runs passing &amp;through</source>
+        <translation>Läufe, die &amp;hindurchgehen</translation>
+    </message>
+    <message>
+        <source>Through</source>
+        <translation>Hindurch</translation>
+    </message>
+    <message>
+        <source>A rectangle means the runs whose line passes through it</source>
+        <translation>Ein Rechteck meint die Läufe, deren Linie hindurchgeht</translation>
+    </message>
+    <message>
+        <source>Runs insi&amp;de all the time</source>
+        <translation>Läufe, die dauernd &amp;darin sind</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Darin</translation>
+    </message>
+    <message>
+        <source>A rectangle means the runs that are in it at every time that it covers</source>
+        <translation>Ein Rechteck meint die Läufe, die zu jeder Zeit darin sind, die es überdeckt</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::GroupController</name>
     <message>
         <source>This data has no runs over time to group.</source>
@@ -1323,8 +1393,8 @@ Grafiken simulierter Läufe.</translation>
         <translation>In %1 ms aktualisiert</translation>
     </message>
     <message>
-        <source>Selecting runs by words</source>
-        <translation>Läufe mit Worten auswählen</translation>
+        <source>Selecting runs</source>
+        <translation>Läufe auswählen</translation>
     </message>
 </context>
 <context>
@@ -1418,6 +1488,10 @@ Grafiken simulierter Läufe.</translation>
         <source>%1 of %2 rows selected</source>
         <translation>%1 von %2 Zeilen ausgewählt</translation>
     </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Auswahl umkehren</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::SelectionMenu</name>
@@ -1460,6 +1534,14 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Load selected runs</source>
         <translation>Ausgewählte Läufe laden</translation>
+    </message>
+    <message>
+        <source>&amp;Invert selection</source>
+        <translation>Auswahl &amp;umkehren</translation>
+    </message>
+    <message>
+        <source>Ctrl+I</source>
+        <translation>Ctrl+I</translation>
     </message>
 </context>
 <context>

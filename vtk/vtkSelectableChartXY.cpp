@@ -92,11 +92,12 @@ void vtkSelectableChartXY::EndDrag()
   MouseBox.SetWidth(0.0F);
   MouseBox.SetHeight(0.0F);
   DrawBox = false;
+  Trail.clear();
 }
 
 bool vtkSelectableChartXY::CancelDrag()
 {
-  if (!DrawBox)
+  if (!DrawBox && Trail.empty())
     return false;
   EndDrag();
   Cancelled = true;
@@ -128,7 +129,15 @@ void vtkSelectableChartXY::Update()
 bool vtkSelectableChartXY::Paint(vtkContext2D* painter)
 {
   const Talmesh::HandlerScope running;
-  return Scene && Superclass::Paint(painter);
+  if (!Scene || !Superclass::Paint(painter))
+    return false;
+  PaintTrail(painter);
+  return true;
+}
+
+bool vtkSelectableChartXY::Hit(const vtkContextMouseEvent& mouse)
+{
+  return Scene && (Superclass::Hit(mouse) || BeginsBeside(mouse));
 }
 
 // Plots that have just been told another shift and scale of this painting's axes must read their
@@ -155,7 +164,14 @@ bool vtkSelectableChartXY::MouseEnterEvent(const vtkContextMouseEvent& mouse)
 bool vtkSelectableChartXY::MouseMoveEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
-  return Superclass::MouseMoveEvent(mouse);
+  if (mouse.GetButton() == vtkContextMouseEvent::NO_BUTTON && Describe(mouse))
+    return true;
+  if (!SelectsRows(mouse) || !AsksFirst())
+    return Superclass::MouseMoveEvent(mouse);
+  vtkContextMouseEvent within(mouse);
+  within.SetPos(WithinAxes(mouse.GetPos()));
+  LeaveTrail(within.GetPos());
+  return Superclass::MouseMoveEvent(within);
 }
 
 bool vtkSelectableChartXY::MouseLeaveEvent(const vtkContextMouseEvent& mouse)
@@ -188,7 +204,13 @@ bool vtkSelectableChartXY::MouseButtonPressEvent(const vtkContextMouseEvent& mou
   Cancelled = false;
   if (SelectsRows(mouse) && !AnnotationLink)
     return false;
-  return Superclass::MouseButtonPressEvent(mouse);
+  if (!SelectsRows(mouse) || !AsksFirst())
+    return Superclass::MouseButtonPressEvent(mouse);
+  vtkContextMouseEvent within(mouse);
+  within.SetPos(WithinAxes(mouse.GetPos()));
+  const bool handled = Superclass::MouseButtonPressEvent(within);
+  BeginTrail(within.GetPos());
+  return handled;
 }
 
 bool vtkSelectableChartXY::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
@@ -203,6 +225,10 @@ bool vtkSelectableChartXY::MouseButtonReleaseEvent(const vtkContextMouseEvent& m
     return Superclass::MouseButtonReleaseEvent(mouse);
   if (!AnnotationLink)
     return false;
+  // Whoever hears of the selection may replace the chart.
+  const vtkSmartPointer<vtkObject> kept = this;
+  if (AsksFirst())
+    return EndGesture(mouse);
   const vtkVector2f from(MouseBox.GetX(), MouseBox.GetY());
   const vtkVector2f drag = mouse.GetPos() - from;
   const bool wide = std::fabs(drag.GetX()) >= smallestExtent;
@@ -212,11 +238,13 @@ bool vtkSelectableChartXY::MouseButtonReleaseEvent(const vtkContextMouseEvent& m
   // A line encloses nothing.
   if (wide != high)
     return true;
-  const Hits hits = wide ? HitsBetween(from, mouse.GetPos()) : HitsAt(mouse.GetPos());
+  return SelectRows(wide ? HitsBetween(from, mouse.GetPos()) : HitsAt(mouse.GetPos()), mouse);
+}
+
+bool vtkSelectableChartXY::SelectRows(const Hits& hits, const vtkContextMouseEvent& mouse)
+{
   if (!hits.table)
     return true;
-  // Whoever hears of the selection may replace the chart.
-  const vtkSmartPointer<vtkObject> kept = this;
   Talmesh::selectRows(AnnotationLink, hits.table, hits.rows,
                       GetMouseSelectionMode(mouse, SelectionMode));
   InvokeEvent(vtkCommand::SelectionChangedEvent);

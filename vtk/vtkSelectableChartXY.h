@@ -7,10 +7,20 @@
 
 #include <vtkChartXY.h>
 
+#include <functional>
+#include <memory>
+#include <optional>
 #include <vector>
 
 class vtkChartMatrix;
+class vtkContextTransform;
 class vtkTable;
+
+namespace Talmesh
+{
+struct GestureHandling;
+struct SelectionGesture;
+} // namespace Talmesh
 
 /// An XY chart in which the select button selects table rows.
 ///
@@ -23,6 +33,10 @@ class vtkTable;
 /// its first corner only and toggles wrongly with several plots.
 ///
 /// A chart without a link takes no selection, and other selection methods than by rows are VTK's.
+///
+/// A program that takes gestures (SetGestures) is asked first. Then a drag may begin a little
+/// beside the axes, at which it ends, one of a few pixels is a click, and a narrow rectangle is one
+/// too. A lasso hits the points in it; a line hits none.
 ///
 /// Every plot shows those of the link's rows that its own table has, also while the container has
 /// another table that is not drawn yet. VTK's chart hands the ids of the first list on unchecked,
@@ -44,7 +58,7 @@ public:
   /// Paints nothing, and is nowhere, without a scene of its own: another one that lists it still
   /// may ask, after the one that it was put into last has let it go.
   bool Paint(vtkContext2D* painter) override;
-  bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
+  bool Hit(const vtkContextMouseEvent& mouse) override;
   bool PaintChildren(vtkContext2D* painter) override;
   bool MouseEnterEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
@@ -56,9 +70,13 @@ public:
   /// Does nothing once the chart has lost its place in the scene since the button was pressed, or
   /// after CancelDrag().
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
-  /// Takes the rectangle away that the mouse is drawing.
-  /// @return whether there was one
+  /// Takes away what the mouse is drawing to select.
+  /// @return whether there was anything
   bool CancelDrag();
+
+  /// What is asked before rows are selected, and what the select button draws; null for none and a
+  /// rectangle.
+  void SetGestures(std::shared_ptr<const Talmesh::GestureHandling> gestures);
 
   using vtkChartXY::AddPlot;
   /// Lines are vtkPlotSafeLine, points Talmesh::PointCloud, which draws very many of them faster
@@ -87,14 +105,33 @@ private:
     void Add(vtkTable* of, vtkIdType row);
   };
 
+  using Pixels = std::vector<vtkVector2f>;
+  using PointFinder = std::function<void(vtkContextTransform*, vtkPlot*)>;
+
   Talmesh::LostColumns Lost;
   Talmesh::PlotScales Scales; ///< with which the plots were updated last
   bool Cancelled = false;     ///< the button is still down
+  std::shared_ptr<const Talmesh::GestureHandling> Gestures;
+  Pixels Trail; ///< of the lasso or line that the mouse is drawing
 
   bool SelectsRows(const vtkContextMouseEvent& mouse);
+  bool SelectRows(const Hits& hits, const vtkContextMouseEvent& mouse);
   void EndDrag();
+  Hits HitsOf(const PointFinder& find) const;
   Hits HitsBetween(const vtkVector2f& from, const vtkVector2f& to) const;
+  Hits HitsWithin(const Pixels& corners) const;
   Hits HitsAt(const vtkVector2f& position) const;
+
+  bool AsksFirst() const;
+  bool BeginsBeside(const vtkContextMouseEvent& mouse);
+  vtkVector2f WithinAxes(const vtkVector2f& pixel) const;
+  void BeginTrail(const vtkVector2f& pixel);
+  void LeaveTrail(const vtkVector2f& pixel);
+  void PaintTrail(vtkContext2D* painter) const;
+  bool EndGesture(const vtkContextMouseEvent& mouse);
+  bool Describe(const vtkContextMouseEvent& mouse);
+  /// None where no plots can be selected in, or several tables or pairs of axes are in the chart.
+  std::optional<Talmesh::SelectionGesture> GestureOf(const Pixels& pixels) const;
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "vtk/vtkSelectableChartXY.h"
 
+#include <vtkContextPolygon.h>
 #include <vtkContextTransform.h>
 #include <vtkIdTypeArray.h>
 #include <vtkMatrix3x3.h>
@@ -51,16 +52,12 @@ void vtkSelectableChartXY::Hits::Add(vtkTable* of, vtkIdType row)
     rows[static_cast<std::size_t>(row)] = true;
 }
 
-vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsBetween(const vtkVector2f& from,
-                                                             const vtkVector2f& to) const
+/// @param find has a plot, the second argument, select what it has of the shape within a corner
+vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsOf(const PointFinder& find) const
 {
   Hits hits;
   for (vtkContextTransform* corner : GetTransforms())
   {
-    const vtkVector2f a = inCorner(corner, from);
-    const vtkVector2f b = inCorner(corner, to);
-    const vtkVector2f low(std::min(a.GetX(), b.GetX()), std::min(a.GetY(), b.GetY()));
-    const vtkVector2f high(std::max(a.GetX(), b.GetX()), std::max(a.GetY(), b.GetY()));
     for (unsigned int i = 0; i < corner->GetNumberOfItems(); ++i)
     {
       vtkPlot* plot = selectablePlot(corner, i);
@@ -71,13 +68,38 @@ vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsBetween(const vtkVector2f& 
       hits.Add(input, -1);
       // The plot writes into its list, which may be that of the link and of other plots.
       plot->SetSelection(vtkNew<vtkIdTypeArray>());
-      plot->SelectPoints(low, high);
+      find(corner, plot);
       vtkIdTypeArray* rows = plot->GetSelection();
       for (vtkIdType k = 0; k < rows->GetNumberOfValues(); ++k)
         hits.Add(input, rows->GetValue(k));
     }
   }
   return hits;
+}
+
+vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsBetween(const vtkVector2f& from,
+                                                             const vtkVector2f& to) const
+{
+  return HitsOf(
+      [&](vtkContextTransform* corner, vtkPlot* plot)
+      {
+        const vtkVector2f a = inCorner(corner, from);
+        const vtkVector2f b = inCorner(corner, to);
+        plot->SelectPoints({std::min(a.GetX(), b.GetX()), std::min(a.GetY(), b.GetY())},
+                           {std::max(a.GetX(), b.GetX()), std::max(a.GetY(), b.GetY())});
+      });
+}
+
+vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsWithin(const Pixels& corners) const
+{
+  return HitsOf(
+      [&](vtkContextTransform* corner, vtkPlot* plot)
+      {
+        vtkContextPolygon polygon;
+        for (const vtkVector2f& pixel : corners)
+          polygon.AddPoint(inCorner(corner, pixel));
+        plot->SelectPointsInPolygon(polygon);
+      });
 }
 
 vtkSelectableChartXY::Hits vtkSelectableChartXY::HitsAt(const vtkVector2f& position) const

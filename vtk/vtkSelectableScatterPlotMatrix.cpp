@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 vtkStandardNewMacro(vtkSelectableScatterPlotMatrix);
 
@@ -100,7 +101,18 @@ vtkChart* vtkSelectableScatterPlotMatrix::GetChart(const vtkVector2i& position)
   const vtkIdType before = GetNumberOfItems();
   vtkChart* cell = Superclass::GetChart(position);
   // A cell that VTK has just filled has a chart of VTK's.
-  return GetNumberOfItems() == before ? cell : vtkSelectableChartXY::PlaceIn(this, position);
+  if (GetNumberOfItems() == before)
+    return cell;
+  vtkSelectableChartXY* const placed = vtkSelectableChartXY::PlaceIn(this, position);
+  if (placed)
+    placed->SetGestures(Gestures);
+  return placed;
+}
+
+void vtkSelectableScatterPlotMatrix::SetGestures(
+    std::shared_ptr<const Talmesh::GestureHandling> gestures)
+{
+  Gestures = std::move(gestures);
 }
 
 bool vtkSelectableScatterPlotMatrix::Paint(vtkContext2D* painter)

@@ -7,6 +7,13 @@
 #include <vtkNew.h>
 #include <vtkScatterPlotMatrix.h>
 
+#include <memory>
+
+namespace Talmesh
+{
+struct GestureHandling;
+}
+
 /// A scatter-plot matrix whose charts are vtkSelectableChartXY, and which shows another pair at
 /// once: VTK's turn of the large chart goes on in a timer that outlives the matrix's place in the
 /// scene and the matrix itself. It paints once where VTK's asks for a second painting after each.
@@ -21,6 +28,8 @@ public:
   bool Paint(vtkContext2D* painter) override;
   bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
+  /// What the charts made from now on ask, see vtkSelectableChartXY.
+  void SetGestures(std::shared_ptr<const Talmesh::GestureHandling> gestures);
   /// The table given with SetInput().
   vtkTable* GetShownTable() const;
 
@@ -41,6 +50,7 @@ private:
   void GiveExtent(const vtkVector2i& position);
 #endif
 
+  std::shared_ptr<const Talmesh::GestureHandling> Gestures;
   /// Takes VTK's wishes to paint again.
   vtkNew<vtkContextScene> Wishes;
 };

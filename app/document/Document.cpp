@@ -120,9 +120,9 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
     container.withoutDrawing([&] { failure = selectWhere(container, wishes.select); });
   if (failure.empty())
     shown.choice = wished;
-  drawSilently();
-  // The history begins with what is restored.
+  // The history begins with what is restored, whole runs of it, as they are drawn.
   selected.follow(&container);
+  drawSilently();
   return failure;
 }
 

@@ -1,13 +1,9 @@
 #include "app/document/SelectionController.h"
 
-#include "app/import/TranslatedText.h"
+#include "app/document/ListedRuns.h"
 #include "app/session/RunSelectionFile.h"
-#include "external/PlotMetaData.h"
-#include "plot/ContainerAccess.h"
+#include "external/ParameterSelection.h"
 #include "plot/PlotContainer.h"
-#include "plot/RunSelection.h"
-#include "plot/RunSplit.h"
-#include "plot/TableColumns.h"
 #include "vtk/RowSelections.h"
 
 #include <vtkCommand.h>
@@ -15,11 +11,8 @@
 #include <vtkTable.h>
 
 #include <QMetaObject>
-#include <QStringList>
 
 #include <algorithm>
-#include <cstddef>
-#include <memory>
 #include <numeric>
 #include <set>
 #include <vector>
@@ -36,16 +29,6 @@ constexpr float beforeAllOthers = 1.0F;
 /// Each step keeps a bit per row.
 constexpr int mostSteps = 100;
 
-/// More run indices do not fit into a line.
-constexpr int mostIndices = 10;
-
-using Runs = std::vector<plot::PlacedRun>;
-
-std::unique_ptr<ParameterSelection> runsOf(PlotContainer* container)
-{
-  return std::unique_ptr<ParameterSelection>(container ? container->getSelection() : nullptr);
-}
-
 vtkIdType selectedRows(const PlotContainer& container)
 {
   const auto flags = vtkSmartPointer<vtkIntArray>::Take(container.getCurrentSelection());
@@ -55,61 +38,14 @@ vtkIdType selectedRows(const PlotContainer& container)
   return std::accumulate(first, first + flags->GetNumberOfValues(), vtkIdType(0));
 }
 
-/// Whether the first rows of all runs have the same time: only then does the comparison of runs
-/// count all of them as selected where nothing but these rows is.
-bool startTogether(const PlotContainer& container, const Runs& runs)
+/// For tables without runs.
+void selectRows(PlotContainer& container, const std::vector<bool>& wanted)
 {
-  vtkDoubleArray* times =
-      plot::doubleColumn(container.getTable(), plot::timeColumnOf(stateOf(container)));
-  return times && !runs.empty() && runs.back().firstRow < times->GetNumberOfValues() &&
-         std::all_of(
-             runs.begin(), runs.end(),
-             [&](const plot::PlacedRun& run)
-             { return times->GetValue(run.firstRow) == times->GetValue(runs.front().firstRow); });
-}
-
-/// The rows to select for everything to be selected. One row stands for its run where lines are
-/// drawn, because a run is highlighted once for each of its selected rows.
-std::vector<vtkIdType> rowsOfEverything(const PlotContainer& container)
-{
-  const vtkIdType count = container.getTable()->GetNumberOfRows();
-  const PlotMetaData& settings = *container.getMetaData();
-  const Runs runs = plot::wholeRuns(stateOf(container));
-  const bool nothingElse = static_cast<vtkIdType>(runs.size()) * settings.getStride() == count;
   std::vector<vtkIdType> rows;
-  if (settings.getPlotLine() && !runs.empty() && nothingElse && startTogether(container, runs))
-  {
-    for (const plot::PlacedRun& run : runs)
-      rows.push_back(run.firstRow);
-    return rows;
-  }
-  rows.resize(static_cast<std::size_t>(count));
-  std::iota(rows.begin(), rows.end(), 0);
-  return rows;
-}
-
-/// One line that says which of the runs of a file are not in the table.
-std::string noteOnMissing(const QString& path, const std::set<int>& missing, std::size_t wanted)
-{
-  QStringList indices;
-  for (const int run : missing)
-  {
-    if (indices.size() == mostIndices)
-    {
-      indices.append(QStringLiteral("..."));
-      break;
-    }
-    indices.append(QString::number(run));
-  }
-  std::string text;
-  if (missing.size() == wanted)
-    text = translated("SelectionController", "%1: none of its runs is in this table: %2");
-  else if (missing.size() == 1)
-    text = translated("SelectionController", "%1: 1 of its %3 runs is not in this table: %2");
-  else
-    text = translated("SelectionController", "%1: %4 of its %3 runs are not in this table: %2");
-  return withValues(text, {path.toStdString(), indices.join(QStringLiteral(", ")).toStdString(),
-                           std::to_string(wanted), std::to_string(missing.size())});
+  for (std::size_t row = 0; row < wanted.size(); ++row)
+    if (wanted[row])
+      rows.push_back(static_cast<vtkIdType>(row));
+  container.getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
 }
 
 } // namespace
@@ -118,6 +54,14 @@ SelectionController::SelectionController(QObject* parent)
     : QObject(parent)
     , history(stack)
     , visitHistory(visitStack)
+    , pointing(
+          [this](const std::string& words, RunCombination how)
+          {
+            const bool selected = selectWhere(words, how).text.empty();
+            if (selected)
+              emit pointed(QString::fromStdString(words));
+            return selected;
+          })
 {
   for (QUndoStack* steps : {&stack, &visitStack})
   {
@@ -158,6 +102,9 @@ void SelectionController::observe(PlotContainer* observed, QUndoStack& itsStack)
   stopObserving();
   container = observed;
   link = observed ? observed->getAnnotationLink() : nullptr;
+  pointing.follow(observed);
+  if (observed)
+    observed->withoutDrawing([this] { makeWhole(); });
   if (link)
   {
     firstObserverTag = link->AddObserver(vtkCommand::AnnotationChangedEvent, this,
@@ -178,9 +125,28 @@ void SelectionController::stopObserving()
   link = nullptr;
 }
 
-void SelectionController::announce()
+/// Whoever selects rows, a client, a file or a chart of them, selects their runs.
+/// @return whether others were selected, which has been announced
+bool SelectionController::makeWhole()
 {
+  TableRuns runs(*container);
+  if (runs.numberOfRuns() == 0 || runs.areSelectedWhole())
+    return false;
+  const std::vector<bool> selected = runs.selected();
+  const SelectionHistory::Step step(
+      container == followed ? history : visitHistory,
+      QString::fromStdString(stepText(RunCombination::Replace, selected, runs.words(selected))));
+  runs.select(selected);
+  return true;
+}
+
+/// @return whether nobody else is to hear of it
+bool SelectionController::announce(vtkObject*, unsigned long, void*)
+{
+  if (container && makeWhole())
+    return true;
   emit changing();
+  return false;
 }
 
 void SelectionController::announceLater()
@@ -200,24 +166,49 @@ void SelectionController::announceLater()
 
 void SelectionController::selectAll()
 {
-  if (container)
-    container->getAnnotationLink()->SetCurrentSelection(
-        makeRowSelection(rowsOfEverything(*container)));
+  if (!container)
+    return;
+  TableRuns runs(*container);
+  if (runs.numberOfRuns() > 0)
+    runs.select(std::vector<bool>(runs.numberOfRuns(), true));
+  else
+    selectRows(*container,
+               std::vector<bool>(static_cast<std::size_t>(container->getTable()->GetNumberOfRows()),
+                                 true));
 }
 
 void SelectionController::clear()
 {
   if (container)
-    container->getAnnotationLink()->SetCurrentSelection(makeRowSelection({}));
+    selectRows(*container, {});
+}
+
+void SelectionController::invert()
+{
+  if (!container)
+    return;
+  TableRuns runs(*container);
+  const bool ofRuns = runs.numberOfRuns() > 0;
+  std::vector<bool> others = ofRuns
+                                 ? runs.selected()
+                                 : markedRows(container->getAnnotationLink()->GetCurrentSelection(),
+                                              container->getTable());
+  others.flip();
+  const SelectionHistory::Step step(container == followed ? history : visitHistory,
+                                    tr("Invert Selection"));
+  if (ofRuns)
+    runs.select(others);
+  else
+    selectRows(*container, others);
 }
 
 FilterFault SelectionController::selectWhere(const std::string& words, RunCombination how)
 {
   if (!container)
     return {};
+  if (!hasRuns())
+    return {0, noRuns()};
   TableRuns runs(*container);
-  if (runs.numberOfRuns() == 0)
-    return {0, tr("This table has no runs to select.").toStdString()};
   FilterFault fault;
   const RunFilter filter = RunFilter::read(words, runs, fault);
   if (!fault.text.empty())
@@ -231,10 +222,7 @@ FilterFault SelectionController::selectWhere(const std::string& words, RunCombin
 
 std::string SelectionController::save(const QString& path) const
 {
-  const std::unique_ptr<ParameterSelection> runs = runsOf(container);
-  if (!runs)
-    return tr("This table has no runs to select.").toStdString();
-  return saveRunSelection(path, *runs);
+  return hasRuns() ? saveSelectedRuns(path, *container) : noRuns();
 }
 
 std::string SelectionController::load(const QString& path)
@@ -242,36 +230,40 @@ std::string SelectionController::load(const QString& path)
   const Result<ParameterSelection> loaded = loadRunSelection(path);
   if (!loaded.hasValue())
     return loaded.error();
+  if (!hasRuns())
+    return noRuns();
+  const TableRuns table(*container);
   const std::set<int>& wanted = loaded.value().runs;
-  std::set<int> missing = wanted;
-  std::vector<vtkIdType> rows;
-  const auto present = container ? plot::wholeRuns(stateOf(*container)) : Runs();
-  if (present.empty())
-    return tr("This table has no runs to select.").toStdString();
-  for (const plot::PlacedRun& run : present)
-  {
-    missing.erase(run.index);
-    if (wanted.count(run.index) != 0)
-      rows.push_back(run.firstRow);
-  }
+  const ListedRuns listed = findListed(wanted, table);
   // A file may well say that nothing is selected.
-  if (!rows.empty() || wanted.empty())
-    container->getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
-  return missing.empty() ? std::string() : noteOnMissing(path, missing, wanted.size());
+  if (wanted.empty())
+    clear();
+  else if (listed.missing.size() < wanted.size())
+    selectWhere(table.words(listed.runs), RunCombination::Replace);
+  return noteOnMissing(path, listed.missing, wanted.size());
+}
+
+bool SelectionController::hasRuns() const
+{
+  return container && TableRuns(*container).numberOfRuns() > 0;
+}
+
+std::string SelectionController::noRuns()
+{
+  return tr("This table has no runs to select.").toStdString();
 }
 
 QString SelectionController::summary() const
 {
   if (!container)
     return {};
-  const std::unique_ptr<ParameterSelection> selected = runsOf(container);
-  if (selected && container->getMetaData()->getStride() > 0)
+  const TableRuns runs(*container);
+  if (runs.numberOfRuns() > 0)
   {
-    const Runs runs = plot::wholeRuns(stateOf(*container));
-    const auto count = std::count_if(runs.begin(), runs.end(),
-                                     [&selected](const plot::PlacedRun& run)
-                                     { return selected->runs.count(run.index) != 0; });
-    return tr("%1 of %2 runs selected").arg(count).arg(runs.size());
+    const std::vector<bool> selected = runs.selected();
+    return tr("%1 of %2 runs selected")
+        .arg(std::count(selected.begin(), selected.end(), true))
+        .arg(selected.size());
   }
   return tr("%1 of %2 rows selected")
       .arg(selectedRows(*container))

@@ -1,6 +1,7 @@
 #ifndef SelectionController_h
 #define SelectionController_h
 
+#include "app/document/RunGestures.h"
 #include "app/document/SelectionHistory.h"
 #include "app/document/TableRuns.h"
 
@@ -20,7 +21,11 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// The selection of the plot now shown: what the menus do with it, its history and its size.
+/// The selection of the plot now shown: what the mouse and the menus do with it, its history and
+/// its size.
+///
+/// Of a table with runs, all rows of a run are selected or none, so that everybody counts the same
+/// runs: whoever selects some rows of a run selects all of them, as one step.
 class SelectionController : public QObject
 {
   Q_OBJECT
@@ -37,11 +42,12 @@ public:
   void visit(PlotContainer* container);
   void endVisit();
 
-  /// Selects everything: every row, or, where runs are drawn as lines, the first row of each run if
-  /// that counts as all runs everywhere.
+  /// Selects all runs, or all rows of a table without runs.
   void selectAll();
   /// Selects nothing.
   void clear();
+  /// Selects the others.
+  void invert();
   /// Selects the runs that meet a condition in words, as one step of the history that says so.
   /// @return what is wrong with the words, if anything is; nothing is changed then
   FilterFault selectWhere(const std::string& words, RunCombination how);
@@ -62,6 +68,8 @@ public:
   QUndoStack& undoStack() { return stack; }
   /// Undo and redo of what is selected in the plot now shown, for menus.
   QUndoGroup& undoGroup() { return group; }
+  /// What the mouse draws in the charts, and which runs that means.
+  RunGestures& gestures() { return pointing; }
 
 signals:
   /// Another selection is announced, which nobody has answered yet.
@@ -69,9 +77,14 @@ signals:
   /// The selection is another one. Emitted from the event loop, after the chart's own handler, once
   /// for changes that come together.
   void changed();
+  /// Runs were selected by the mouse, which these words do as well.
+  void pointed(const QString& words);
 
 private:
-  void announce();
+  bool hasRuns() const;
+  static std::string noRuns();
+  bool makeWhole();
+  bool announce(vtkObject*, unsigned long, void*);
   void announceLater();
   void observe(PlotContainer* observed, QUndoStack& itsStack);
   void stopObserving();
@@ -87,6 +100,7 @@ private:
   QUndoStack visitStack;
   SelectionHistory history;
   SelectionHistory visitHistory;
+  RunGestures pointing;
   bool announcing = false;
 };
 

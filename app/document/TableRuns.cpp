@@ -94,6 +94,32 @@ std::vector<bool> TableRuns::selected() const
   return any;
 }
 
+std::string TableRuns::words(const std::vector<bool>& these) const
+{
+  std::string numbers;
+  for (std::size_t run = 0; run < runs.size(); ++run)
+    if (these[run])
+      numbers += (numbers.empty() ? "" : ", ") + std::to_string(runs[run].number);
+  return numbers.empty() ? numbers : "runs(" + numbers + ')';
+}
+
+bool TableRuns::areSelectedWhole() const
+{
+  const std::vector<bool> marked =
+      markedRows(container.getAnnotationLink()->GetCurrentSelection(), container.getTable());
+  std::size_t ofWholeRuns = 0;
+  for (const Run& run : runs)
+  {
+    const auto first = marked.begin() + run.firstRow;
+    const auto count = static_cast<std::size_t>(
+        std::count(first, first + static_cast<std::ptrdiff_t>(points), true));
+    if (count != 0 && count != points)
+      return false;
+    ofWholeRuns += count;
+  }
+  return ofWholeRuns == static_cast<std::size_t>(std::count(marked.begin(), marked.end(), true));
+}
+
 void TableRuns::select(const std::vector<bool>& wanted)
 {
   std::vector<vtkIdType> rows;
@@ -117,7 +143,7 @@ std::string stepText(RunCombination how, const std::vector<bool>& hit, const std
   else if (how == RunCombination::Toggle)
     text = translated("RunFilter", "Toggle %1 runs");
   text = withValues(text, {std::to_string(std::count(hit.begin(), hit.end(), true))});
-  return text + ": " + words + '\n' + text;
+  return words.empty() ? text : text + ": " + words + '\n' + text;
 }
 
 std::string describe(const FilterFault& fault, const std::string& words)

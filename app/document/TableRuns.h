@@ -48,6 +48,10 @@ public:
 
   /// The runs of which any row is selected.
   std::vector<bool> selected() const;
+  /// The condition that only these runs meet: `runs(3, 5, 8)`; empty for none.
+  std::string words(const std::vector<bool>& these) const;
+  /// Whether all selected rows are those of whole runs, every one of them.
+  bool areSelectedWhole() const;
   /// Selects all rows of these runs, so that every chart and table counts the same runs.
   void select(const std::vector<bool>& wanted);
 

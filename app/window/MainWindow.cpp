@@ -5,6 +5,7 @@
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
 #include "app/window/FilterLine.h"
+#include "app/window/GestureActions.h"
 #include "app/window/GroupController.h"
 #include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
@@ -56,6 +57,7 @@ MainWindow::MainWindow(QWidget* parent)
     , studyDock(new StudyDock)
     , comparison(new ComparisonDock)
     , filter(new FilterLine(shown.selection()))
+    , pointing(new GestureActions(shown.selection().gestures(), this))
     , status(*statusBar())
     , opener(new StudyOpener(shown, status.opening(), this))
     , grouping(new GroupController(*clusterDock, shown, status.grouping(), this))
@@ -103,7 +105,9 @@ void MainWindow::placePanels()
 
 void MainWindow::placeFilterLine()
 {
-  auto* bar = new QToolBar(tr("Selecting runs by words"));
+  auto* bar = new QToolBar(tr("Selecting runs"));
+  pointing->addTo(*bar);
+  bar->addSeparator();
   bar->addWidget(filter);
   bar->setMovable(false);
   addToolBar(Qt::TopToolBarArea, bar);

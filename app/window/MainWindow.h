@@ -19,6 +19,7 @@ class ClusterDock;
 class ComparisonDock;
 class ExportController;
 class FilterLine;
+class GestureActions;
 class GroupController;
 class PlotDock;
 class RecentMenu;
@@ -62,6 +63,7 @@ public:
   /// The pages "Runs" and "Time courses".
   QTabWidget* pages() const { return tabs; }
   FilterLine* filterLine() const { return filter; }
+  GestureActions* gestureActions() const { return pointing; }
   SelectionController* selectionController() { return &shown.selection(); }
   /// How much is loaded, as the status bar says it.
   QString sizeText() const { return status.size(); }
@@ -110,6 +112,7 @@ private:
   StudyDock* studyDock;
   ComparisonDock* comparison;
   FilterLine* filter;
+  GestureActions* pointing;
   StatusLine status;
   StudyOpener* opener;
   GroupController* grouping;

@@ -2,6 +2,7 @@
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
 #include "app/window/FileMenu.h"
+#include "app/window/GestureActions.h"
 #include "app/window/HelpMenu.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
@@ -51,6 +52,8 @@ void MainWindow::makeSelectionMenu()
 {
   auto* menu = new SelectionMenu(
       shown.selection(), [this] { return plot->cancelDrag(); }, this);
+  menu->addSeparator();
+  pointing->addTo(*menu);
   connect(menu, &SelectionMenu::failed, this, &MainWindow::showError);
   connect(menu, &SelectionMenu::kept, this,
           [this]

@@ -4,6 +4,7 @@
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
 #include "app/window/FileDialogs.h"
+#include "app/window/FilterLine.h"
 #include "app/window/GroupController.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
@@ -36,6 +37,7 @@ void MainWindow::connectDocument()
 
 void MainWindow::connectPanels()
 {
+  connect(&shown.selection(), &SelectionController::pointed, filter, &FilterLine::show);
   connect(dock, &PlotDock::choiceChanged, this, [this] { shown.choose(dock->choice()); });
   connect(comparison, &ComparisonDock::choiceChanged, this,
           [this]

@@ -24,6 +24,8 @@ SelectionMenu::SelectionMenu(SelectionController& changed, std::function<bool()>
                           selection.clear();
                       });
   nothing->setShortcut(QKeySequence(Qt::Key_Escape));
+  others = addAction(tr("&Invert selection"), &selection, &SelectionController::invert);
+  others->setShortcut(QKeySequence(tr("Ctrl+I")));
   addSeparator();
   addFiles();
 }
@@ -50,6 +52,7 @@ void SelectionMenu::setSelecting(bool on)
 {
   all->setEnabled(on);
   nothing->setEnabled(on);
+  others->setEnabled(on);
 }
 
 void SelectionMenu::save()

@@ -42,6 +42,7 @@ private:
   SelectionController& selection;
   QAction* all;
   QAction* nothing;
+  QAction* others;
 };
 
 } // namespace Talmesh::app

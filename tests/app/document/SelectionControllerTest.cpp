@@ -1,5 +1,6 @@
 #include "app/document/SelectionController.h"
 
+#include "app/session/RunSelectionFile.h"
 #include "external/ParameterSelection.h"
 #include "external/PlotMetaData.h"
 #include "plot/TableColumns.h"
@@ -8,15 +9,16 @@
 
 #include <vtkAbstractArray.h>
 #include <vtkAnnotationLink.h>
+#include <vtkCallbackCommand.h>
 #include <vtkTable.h>
 
 #include <gtest/gtest.h>
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QUndoStack>
 
 #include <cmath>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -100,55 +102,94 @@ TEST_F(SelectionControllerTest, DoesNotCountAPartialLastRun)
   EXPECT_EQ(controller.summary(), "2 of 2 runs selected");
 }
 
-TEST_F(SelectionControllerTest, SelectsOneRowOfEachRunWhereRunsAreDrawnAsLines)
+TEST_F(SelectionControllerTest, SelectsAllRowsOfAllRunsAndNoOthers)
 {
-  settings().setPlotLine(true);
-  controller.selectAll();
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 3, 6}));
-  EXPECT_EQ(controller.summary(), "3 of 3 runs selected");
-  // The comparison of runs counts those that are selected at every selected time.
+  for (const bool lines : {true, false})
+  {
+    settings().setPlotLine(lines);
+    controller.selectAll();
+    EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 9U);
+    EXPECT_EQ(controller.summary(), "3 of 3 runs selected");
+  }
   plot.container.setPlotStyle(selectionCdfPlot);
   EXPECT_EQ(controller.summary(), "3 of 3 runs selected");
-  EXPECT_EQ(std::unique_ptr<ParameterSelection>(plot.container.getSelection())->runs,
-            std::set<int>({1, 5, 7}));
-  settings().setPlotLine(false);
-  controller.selectAll();
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 9U);
-}
-
-TEST_F(SelectionControllerTest, SelectsEveryRowOfRunsThatStartAtDifferentTimes)
-{
-  settings().setPlotLine(true);
-  auto* times = Talmesh::plot::doubleColumn(plot.container.getTable(), SampleRuns::timeColumn);
-  // Run 2 counts down: 2, 1, 0.
-  times->SetValue(6, 2.0);
-  times->SetValue(8, 0.0);
-  controller.selectAll();
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 9U);
-  plot.container.setPlotStyle(selectionCdfPlot);
-  EXPECT_EQ(controller.summary(), "3 of 3 runs selected");
-  times->SetValue(6, std::nan(""));
-  controller.selectAll();
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 9U);
-}
-
-TEST_F(SelectionControllerTest, SelectsEveryRowWhereThereAreOtherRowsThanThoseOfRuns)
-{
-  settings().setPlotLine(true);
   cutLastRun();
+  controller.clear();
   controller.selectAll();
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 8U);
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 1, 2, 3, 4, 5}));
   setStride(0);
   controller.selectAll();
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 8U);
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container).size(), 8U) << "there are no runs";
+}
+
+TEST_F(SelectionControllerTest, SelectsWholeRunsWhoeverSelectsRows)
+{
+  int heard = 0;
+  const auto count = [](vtkObject*, unsigned long, void* data, void*)
+  { ++*static_cast<int*>(data); };
+  vtkNew<vtkCallbackCommand> counter;
+  counter->SetCallback(count);
+  counter->SetClientData(&heard);
+  plot.container.getAnnotationLink()->AddObserver(vtkCommand::AnnotationChangedEvent, counter);
+  select({1, 8});
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 1, 2, 6, 7, 8}));
+  EXPECT_EQ(heard, 1) << "of the whole runs alone";
+  QUndoStack& steps = controller.undoStack();
+  ASSERT_EQ(steps.count(), 1);
+  EXPECT_EQ(steps.text(0), "Select 2 runs: runs(5, 7)");
+  steps.undo();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows());
+  steps.redo();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 1, 2, 6, 7, 8}));
+  EXPECT_EQ(steps.count(), 1);
+}
+
+TEST_F(SelectionControllerTest, BeginsWithWholeRuns)
+{
+  controller.follow(nullptr);
+  select({4});
+  controller.follow(&plot.container);
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({3, 4, 5}));
+  EXPECT_FALSE(controller.undoStack().canUndo());
+}
+
+TEST_F(SelectionControllerTest, DropsRowsThatAreOfNoWholeRun)
+{
+  cutLastRun();
+  select({0, 7});
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 1, 2}));
+}
+
+TEST_F(SelectionControllerTest, InvertsWhatIsSelected)
+{
+  select({1});
+  controller.invert();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({3, 4, 5, 6, 7, 8}));
+  EXPECT_EQ(controller.undoStack().undoText(), "Invert Selection");
+  setStride(0);
+  controller.invert();
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 1, 2})) << "rows";
+}
+
+TEST_F(SelectionControllerTest, SavesTheRunsThatItCounts)
+{
+  // In this style the library tells the runs that are selected at every selected time.
+  plot.container.setPlotStyle(selectionCdfPlot);
+  auto* times = Talmesh::plot::doubleColumn(plot.container.getTable(), SampleRuns::timeColumn);
+  times->SetValue(0, std::nan(""));
+  select({1});
+  EXPECT_EQ(controller.summary(), "1 of 3 runs selected");
+  EXPECT_EQ(controller.save(folder.filePath("saved.json")), "");
+  EXPECT_EQ(Talmesh::app::loadRunSelection(folder.filePath("saved.json")).value().runs,
+            std::set<int>{5});
 }
 
 TEST_F(SelectionControllerTest, CountsRowsWhereThereAreNoRuns)
 {
-  select({0, 1, 6});
   for (const int stride : {0, -3})
   {
     setStride(stride);
+    select({0, 1, 6});
     EXPECT_EQ(controller.summary(), "3 of 9 rows selected") << stride;
   }
   setStride(3);
@@ -161,7 +202,7 @@ TEST_F(SelectionControllerTest, CountsRowsWhereThereAreNoRuns)
 TEST_F(SelectionControllerTest, LoadsRunsInWhateverOrderTheyStandInTheTable)
 {
   EXPECT_EQ(load("[1, 5]"), "");
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 3}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 1, 2, 3, 4, 5}));
 }
 
 TEST_F(SelectionControllerTest, SaysWhichRunsAreMissing)
@@ -169,7 +210,7 @@ TEST_F(SelectionControllerTest, SaysWhichRunsAreMissing)
   EXPECT_EQ(load("[-1, 1, 2, 3, 4, 6, 8, 9, 10, 11, 12, 13]"),
             start() + "11 of its 12 runs are not in this table: "
                       "-1, 2, 3, 4, 6, 8, 9, 10, 11, 12, ...");
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({3}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({3, 4, 5}));
 }
 
 TEST_F(SelectionControllerTest, DoesNotLoadAPartialLastRun)
@@ -177,7 +218,7 @@ TEST_F(SelectionControllerTest, DoesNotLoadAPartialLastRun)
   cutLastRun();
   select({1});
   EXPECT_EQ(load("[7]"), start() + "none of its runs is in this table: 7");
-  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({1}));
+  EXPECT_EQ(SampleRuns::selectedRows(plot.container), Rows({0, 1, 2}));
   EXPECT_EQ(load("[5, 7]"), start() + "1 of its 2 runs is not in this table: 7");
 }
 

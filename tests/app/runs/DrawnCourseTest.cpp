@@ -7,11 +7,13 @@
 #include <vector>
 
 using Talmesh::app::crossesLine;
-using Talmesh::app::distanceFrom;
+using Talmesh::app::DrawnManner;
 using Talmesh::app::DrawnPoint;
 using Talmesh::app::DrawnScale;
 using Talmesh::app::DrawnWindow;
 using Talmesh::app::entersPolygon;
+using Talmesh::app::NearestPlace;
+using Talmesh::app::nearestPlace;
 using Talmesh::app::passesThrough;
 using Talmesh::app::RunCourse;
 using Talmesh::app::staysInside;
@@ -144,10 +146,41 @@ TEST(DrawnCourse, EntersTheLegsButNotTheGapOfAHorseshoe)
 TEST(DrawnCourse, TellsTheDistanceFromAPointInUnitsOfTheScreen)
 {
   // 0.1 in x and 10 in y are a pixel: the left slope has the direction (100, 10) pixels.
-  EXPECT_NEAR(distanceFrom(roof, {5, 60}, 0.1, 10, plain), 1 * 100 / std::hypot(100, 10), 1e-12);
-  EXPECT_NEAR(distanceFrom(roof, {21, 0}, 0.1, 10, plain), 10, 1e-12) << "beyond the end";
-  EXPECT_EQ(distanceFrom(roof, {10, 100}, 0.1, 10, plain), 0);
-  EXPECT_EQ(distanceFrom(Course{{}, {}}, {0, 0}, 1, 1, plain), infinity);
+  const DrawnManner manner{plain, 0.1, 10, true};
+  const auto distanceFrom = [&manner](const Course& course, const DrawnPoint& place)
+  { return nearestPlace(course, place, manner, 50).distance; };
+  EXPECT_NEAR(distanceFrom(roof, {5, 60}), 1 * 100 / std::hypot(100, 10), 1e-12);
+  EXPECT_NEAR(distanceFrom(roof, {21, 0}), 10, 1e-12) << "beyond the end";
+  EXPECT_EQ(distanceFrom(roof, {10, 100}), 0);
+  EXPECT_EQ(distanceFrom(Course{{}, {}}, {0, 0}), infinity);
+  EXPECT_EQ(nearestPlace(roof, {5, 60}, manner, 0.9).distance, infinity) << "not that near";
+}
+
+TEST(DrawnCourse, TellsThePlaceOfTheLineThatIsNearest)
+{
+  const DrawnManner manner{plain, 0.1, 10, true};
+  const DrawnPoint onLine = nearestPlace(roof, {5, 50}, manner, 5).point;
+  EXPECT_NEAR(onLine.x, 5, 1e-12);
+  EXPECT_NEAR(onLine.y, 50, 1e-12);
+  // Of (10, 100) it is 2 pixels away, of the slope less.
+  const DrawnPoint own = nearestPlace(roof, {9.8, 100}, manner, 5).point;
+  EXPECT_NEAR(own.x, 10, 1e-12);
+  EXPECT_NEAR(own.y, 100, 1e-12);
+  const DrawnManner points{plain, 0.1, 10, false};
+  EXPECT_EQ(nearestPlace(roof, {5, 50}, points, 5).distance, infinity) << "no line is drawn";
+}
+
+TEST(DrawnCourse, IsNearestWhereLogarithmicAxesShowIt)
+{
+  // A decade is 100 pixels high: in the middle of the line lies the geometric mean.
+  const Course rise{{0, 10}, {1, 100}};
+  const DrawnManner manner{{false, true}, 0.1, 0.01, true};
+  const NearestPlace middle = nearestPlace(rise, {5, 10}, manner, 5);
+  EXPECT_NEAR(middle.distance, 0, 1e-12);
+  EXPECT_NEAR(middle.point.y, 10, 1e-12);
+  EXPECT_EQ(nearestPlace(rise, {5, 50}, manner, 5).distance, infinity);
+  EXPECT_EQ(nearestPlace(Course{{0, 10}, {-1, 10}}, {9, 9}, manner, 5).distance, infinity)
+      << "broken at what such an axis cannot show";
 }
 
 TEST(DrawnCourse, DrawsNoLineToInfinity)

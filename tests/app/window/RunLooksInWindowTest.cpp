@@ -177,20 +177,20 @@ TEST_F(RunLooksInWindow, NormalisedValuesAreThoseOfTheRunsThatAreCompared)
 {
   group(2);
   clickGroup(1);
-  const auto largest = [this](std::size_t slot)
+  const auto rangeOf = [this](std::size_t slot)
   {
     double range[2];
     Talmesh::plot::doubleColumn(container().getDerivedTables()[slot], 0)->GetRange(range);
-    return range[1];
+    return std::make_pair(range[0], range[1]);
   };
-  // The first points of runs 2, 4 and 6 and of runs 1, 3 and 5.
-  EXPECT_EQ(largest(2), 48.0);
-  EXPECT_EQ(largest(5), 5.0);
+  // All points of runs 2, 4 and 6, which fall, and of runs 1, 3 and 5, which rise.
+  EXPECT_EQ(rangeOf(2).second, 48.0);
+  EXPECT_EQ(rangeOf(5), std::make_pair(1.0, 40.0));
   tick("normaliseRuns");
-  EXPECT_EQ(largest(2), 1.0);
-  EXPECT_EQ(largest(5), 1.0 / 8.0);
+  EXPECT_EQ(rangeOf(2).second, 1.0);
+  EXPECT_EQ(rangeOf(5), std::make_pair(1.0 / 8.0, 1.0));
   press(QKeySequence::Undo);
-  EXPECT_EQ(largest(2), 48.0);
+  EXPECT_EQ(rangeOf(2).second, 48.0);
   EXPECT_EQ(runs(), (std::set<int>{20, 40, 60}));
 }
 

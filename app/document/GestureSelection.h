@@ -1,0 +1,34 @@
+#ifndef GestureSelection_h
+#define GestureSelection_h
+
+#include "app/runs/GestureWords.h"
+#include "vtk/SelectionGesture.h"
+
+#include <optional>
+#include <string>
+
+class PlotContainer;
+
+/// What the mouse points at in the charts of a container, as runs of its table.
+namespace Talmesh::app
+{
+
+class TableRuns;
+
+/// The condition in words that selects the runs that a gesture means. A click means the run drawn
+/// nearest to it, within a few pixels.
+/// @param rule of rectangles; where no lines are drawn, points go through
+/// @return empty where it means none by being beside everything; none where it is not about the
+/// runs of this table
+std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
+                                          const SelectionGesture& gesture, GestureRule rule);
+
+/// The run nearest to a place: "Run 17, TetR: 4.5, 8.55".
+/// @param place a click there
+/// @return as above
+std::optional<std::string> nearestRun(const PlotContainer& container, const TableRuns& runs,
+                                      const SelectionGesture& place);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,76 @@
+#include "app/document/RunGestures.h"
+
+#include "app/document/GestureSelection.h"
+#include "plot/PlotContainer.h"
+
+#include <utility>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+RunCombination combinationOf(SelectionGesture::Mode mode)
+{
+  switch (mode)
+  {
+  case SelectionGesture::Mode::Add:
+    return RunCombination::Add;
+  case SelectionGesture::Mode::Subtract:
+    return RunCombination::Subtract;
+  case SelectionGesture::Mode::Toggle:
+    return RunCombination::Toggle;
+  default:
+    return RunCombination::Replace;
+  }
+}
+
+} // namespace
+
+RunGestures::RunGestures(Select selectWhere)
+    : select(std::move(selectWhere))
+{
+}
+
+RunGestures::~RunGestures()
+{
+  leave();
+}
+
+void RunGestures::follow(PlotContainer* container)
+{
+  leave();
+  followed = container;
+  if (!container)
+    return;
+  container->setSelectionTool(chosenTool);
+  container->setGestureHandler([this](const SelectionGesture& gesture) { return take(gesture); });
+  container->setHoverText([container](const SelectionGesture& place)
+                          { return nearestRun(*container, TableRuns(*container), place); });
+}
+
+void RunGestures::setTool(SelectionTool wanted)
+{
+  chosenTool = wanted;
+  if (followed)
+    followed->setSelectionTool(wanted);
+}
+
+void RunGestures::leave()
+{
+  if (!followed)
+    return;
+  followed->setGestureHandler(nullptr);
+  followed->setHoverText(nullptr);
+}
+
+bool RunGestures::take(const SelectionGesture& gesture)
+{
+  const auto words = wordsOfGesture(*followed, TableRuns(*followed), gesture, chosenRule);
+  if (!words)
+    return false;
+  return words->empty() || select(*words, combinationOf(gesture.mode));
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,198 @@
+#include "app/document/TableRuns.h"
+#include "app/session/RunSelectionFile.h"
+#include "plot/ContainerAccess.h"
+#include "plot/PlotState.h"
+
+#include <vtkScatterPlotMatrix.h>
+
+#include <random>
+
+#include "window/GesturesInWindow.h"
+
+namespace
+{
+
+using namespace Talmesh::app;
+using Runs = std::set<int>;
+
+constexpr int gestureCount = 200;
+constexpr int manyRuns = 10;
+constexpr int manyPoints = 6;
+constexpr plotStyles charts[] = {xyPlot, selectionCdfPlot, multiPlot, scatterWithErrorBars,
+                                 scatterPlotMatrix};
+constexpr plotStyles allStyles[] = {xyPlot,
+                                    scatterPlotMatrix,
+                                    xyzPlot,
+                                    multiPlot,
+                                    selectionCdfPlot,
+                                    scatterWithErrorBars,
+                                    fitParameterDistribution,
+                                    parallelCoordinates};
+
+/// Gestures of all kinds in the charts of several styles.
+class RandomGestures : public GesturesInWindow
+{
+protected:
+  RandomGestures()
+  {
+    QFile file(folder.filePath("many.csv"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromStdString(sampleRuns(manyRuns, manyPoints)));
+    file.close();
+    window.openFile(file.fileName());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, patience));
+    QObject::connect(window.selectionController(), &SelectionController::pointed, &window,
+                     [this](const QString& written) { words = written; });
+  }
+
+  int upTo(int most) { return std::uniform_int_distribution<int>(0, most)(random); }
+
+  vtkChart* chart()
+  {
+    if (container().getMetaData()->getPlotStyle() == scatterPlotMatrix)
+      return stateOf(container()).scatterPlotMatrix->GetMainChart();
+    return container().getChartXY();
+  }
+
+  QPoint pixelIn(vtkChart* where)
+  {
+    const int x = where->GetPoint1()[0] + upTo(where->GetPoint2()[0] - where->GetPoint1()[0] - 1);
+    const int y = where->GetPoint1()[1] + upTo(where->GetPoint2()[1] - where->GetPoint1()[1] - 1);
+    return {x, plot().height() - 1 - y};
+  }
+
+  Qt::KeyboardModifiers anyModifiers()
+  {
+    return (upTo(1) ? Qt::ControlModifier : Qt::NoModifier) |
+           (upTo(1) ? Qt::ShiftModifier : Qt::NoModifier);
+  }
+
+  /// @return how the gesture combines
+  Qt::KeyboardModifiers pointSomewhere()
+  {
+    choose(charts[upTo(4)]);
+    const Tool tool = static_cast<Tool>(upTo(2));
+    choose(tool);
+    choose(upTo(1) ? Rule::Through : Rule::Inside);
+    std::vector<QPoint> pixels;
+    const int more = tool == Tool::Lasso ? 5 : upTo(7) == 0 ? 0 : 1;
+    for (int i = 0; i <= more; ++i)
+      pixels.push_back(pixelIn(chart()));
+    const Qt::KeyboardModifiers modifiers = anyModifiers();
+    drawPixels(pixels, modifiers);
+    return modifiers;
+  }
+
+  /// The runs that the words of the last gesture select.
+  std::vector<bool> hitByWords()
+  {
+    FilterFault fault;
+    const TableRuns runs(container());
+    const RunFilter filter = RunFilter::read(words.toStdString(), runs, fault);
+    EXPECT_EQ(fault.text, "") << words.toStdString();
+    return filter.select(runs, {}).value();
+  }
+
+  void expectEverywhere(const Runs& expected)
+  {
+    Rows rows;
+    for (const int run : expected)
+      for (int point = 0; point < manyPoints; ++point)
+        rows.insert(run * manyPoints + point);
+    for (const plotStyles style : allStyles)
+    {
+      choose(style);
+      EXPECT_EQ(runs(), expected) << style;
+      EXPECT_EQ(flags(), rows) << style;
+      EXPECT_EQ(window.selectionText(),
+                QString("%1 of %2 runs selected").arg(expected.size()).arg(manyRuns))
+          << style;
+      const QString path = folder.filePath("selected.json");
+      EXPECT_EQ(window.selectionController()->save(path), "") << style;
+      EXPECT_EQ(loadRunSelection(path).value().runs, expected) << style;
+    }
+    EXPECT_EQ(highlightedLines(), rows);
+  }
+
+  std::mt19937 random{20261122};
+  QString words; ///< of the last gesture
+};
+
+Runs numbered(const std::vector<bool>& runs)
+{
+  Runs numbers;
+  for (std::size_t run = 0; run < runs.size(); ++run)
+    if (runs[run])
+      numbers.insert(static_cast<int>(run));
+  return numbers;
+}
+
+RunCombination combinationOf(Qt::KeyboardModifiers modifiers)
+{
+  if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
+    return RunCombination::Toggle;
+  if (modifiers == Qt::ControlModifier)
+    return RunCombination::Add;
+  return modifiers == Qt::ShiftModifier ? RunCombination::Subtract : RunCombination::Replace;
+}
+
+} // namespace
+
+TEST_F(RandomGestures, SelectTheSameRunsForEverybody)
+{
+  std::vector<bool> expected(manyRuns, false);
+  int hits = 0;
+  for (int i = 0; i < gestureCount; ++i)
+  {
+    words.clear();
+    const RunCombination how = combinationOf(pointSomewhere());
+    // A click beside everything says nothing.
+    if (!words.isEmpty())
+      expected = combineRuns(expected, hitByWords(), how);
+    ASSERT_EQ(runs(), numbered(expected)) << i << ' ' << words.toStdString();
+    hits += words.isEmpty() ? 0 : 1;
+    if (i % 20 == 0)
+      expectEverywhere(numbered(expected));
+    if (HasFailure())
+      FAIL() << "gesture " << i << ' ' << words.toStdString();
+  }
+  EXPECT_GT(hits, gestureCount / 2);
+}
+
+/// The lines as many points.
+TEST_F(RandomGestures, HitTheLinesThatARectangleIsDrawnOver)
+{
+  choose(xyPlot);
+  int inside = 0;
+  for (int i = 0; i < 60; ++i)
+  {
+    const QPoint from = pixelIn(chart());
+    const QPoint to = from + QPoint(5 + upTo(20), 5 + upTo(20));
+    drawPixels({from, to});
+    for (int run = 0; run < manyRuns; ++run)
+    {
+      bool surely = false;
+      bool perhaps = false;
+      for (int step = 0; step <= 1000 * (manyPoints - 1); ++step)
+      {
+        const int point = std::min(step / 1000, manyPoints - 2);
+        const double part = step / 1000.0 - point;
+        const auto value = [&](int at) { return 2.0 + std::sin(at * 0.3 + run); };
+        const QPoint pixel =
+            pixelOf(point + part, value(point) + part * (value(point + 1) - value(point)));
+        const auto isWithin = [&](int margin)
+        {
+          return pixel.x() >= from.x() - margin && pixel.x() <= to.x() + margin &&
+                 pixel.y() >= from.y() - margin && pixel.y() <= to.y() + margin;
+        };
+        surely = surely || isWithin(-1);
+        perhaps = perhaps || isWithin(1);
+      }
+      const bool selected = runs().count(run) != 0;
+      EXPECT_TRUE(selected || !surely) << i << ' ' << lastStep().toStdString() << ' ' << run;
+      EXPECT_TRUE(perhaps || !selected) << i << ' ' << lastStep().toStdString() << ' ' << run;
+      inside += surely ? 1 : 0;
+    }
+  }
+  EXPECT_GT(inside, 30);
+}
