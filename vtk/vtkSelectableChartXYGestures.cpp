@@ -32,7 +32,7 @@ constexpr int besideAxes = 14;
 /// A hand that means to click does not move farther.
 constexpr float clickExtent = 3.0F;
 /// Corners of a lasso are as far apart at least.
-constexpr float trailStep = 2.0F;
+constexpr float trailStep = 4.0F;
 constexpr float trailWidth = 1.5F;
 constexpr float tooltipOffset = 2.0F;
 

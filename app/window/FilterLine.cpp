@@ -54,6 +54,8 @@ FilterLine::FilterLine(SelectionController& changed, QWidget* parent)
 void FilterLine::show(const QString& words)
 {
   line->setText(words);
+  // Of long ones the beginning says most.
+  line->home(false);
   showFault({});
 }
 
