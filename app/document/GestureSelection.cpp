@@ -1,6 +1,7 @@
 #include "app/document/GestureSelection.h"
 
 #include "app/document/PlotChoice.h"
+#include "app/document/PointedRuns.h"
 #include "app/document/TableRuns.h"
 #include "app/import/ColumnRoles.h"
 #include "app/import/TranslatedText.h"
@@ -24,8 +25,6 @@ namespace
 
 using Series = SelectionGesture::Series;
 
-/// Pixels that a line or point may be away from a click.
-constexpr double reach = 6.0;
 /// Of the numbers beside the mouse.
 constexpr int shownDigits = 6;
 constexpr int overTime = -1;
@@ -134,7 +133,7 @@ NearestRun nearestOf(const TableRuns& runs, const SelectionGesture& gesture,
 {
   NearestRun nearest;
   const DrawnPoint point{gesture.points.front().x, gesture.points.front().y};
-  double within = reach;
+  double within = pointingReach;
   for (std::size_t i = series.size(); i-- > 0;)
   {
     const DrawnManner manner{
@@ -164,11 +163,21 @@ std::string numberText(double value)
 
 } // namespace
 
+std::string textBeside(const TableRuns& runs, std::size_t run, const std::string& column,
+                       const DrawnPoint& point)
+{
+  return withValues(
+      translated("GestureSelection", "Run %1, %2: %3, %4"),
+      {runText(runs, run), shownName(column), numberText(point.x), numberText(point.y)});
+}
+
 std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
                                           const SelectionGesture& gesture, GestureRule rule)
 {
   const auto series = seriesOf(container, gesture);
-  if (!series || runs.numberOfRuns() == 0)
+  if (!series)
+    return wordsOfPoints(runs, gesture);
+  if (runs.numberOfRuns() == 0)
     return {};
   if (gesture.kind != SelectionGesture::Kind::Click)
     return wordsOf(container, gesture, rule, *series);
@@ -182,15 +191,15 @@ std::optional<std::string> nearestRun(const PlotContainer& container, const Tabl
                                       const SelectionGesture& place)
 {
   const auto series = seriesOf(container, place);
-  if (!series || runs.numberOfRuns() == 0)
+  if (!series)
+    return nearestPoint(runs, place);
+  if (runs.numberOfRuns() == 0)
     return {};
   const NearestRun nearest = nearestOf(runs, place, *series);
   if (!nearest.series)
     return std::string();
-  return withValues(translated("GestureSelection", "Run %1, %2: %3, %4"),
-                    {runText(runs, nearest.run),
-                     shownName(plot::columnName(container.getTable(), nearest.series->item)),
-                     numberText(nearest.place.point.x), numberText(nearest.place.point.y)});
+  return textBeside(runs, nearest.run, plot::columnName(container.getTable(), nearest.series->item),
+                    nearest.place.point);
 }
 
 } // namespace Talmesh::app

@@ -4,6 +4,7 @@
 #include "app/runs/GestureWords.h"
 #include "vtk/SelectionGesture.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -15,6 +16,13 @@ namespace Talmesh::app
 
 class TableRuns;
 
+/// Pixels that a line or point may be away from the mouse.
+constexpr double pointingReach = 6.0;
+
+/// What to say beside the mouse: "Run 17, TetR: 4.5, 8.55".
+std::string textBeside(const TableRuns& runs, std::size_t run, const std::string& column,
+                       const DrawnPoint& point);
+
 /// The condition in words that selects the runs that a gesture means. A click means the run drawn
 /// nearest to it, within a few pixels.
 /// @param rule of rectangles; where no lines are drawn, points go through
@@ -23,7 +31,7 @@ class TableRuns;
 std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
                                           const SelectionGesture& gesture, GestureRule rule);
 
-/// The run nearest to a place: "Run 17, TetR: 4.5, 8.55".
+/// What to say of the run that is drawn nearest to a place.
 /// @param place a click there
 /// @return as above
 std::optional<std::string> nearestRun(const PlotContainer& container, const TableRuns& runs,

@@ -35,22 +35,14 @@ std::string roundedText(double value, double step)
   return {text.data(), std::to_chars(text.data(), text.data() + text.size(), rounded).ptr};
 }
 
-/// @param units what a pixel covers of the axis, or of its decades
-std::string numberText(double value, double units, bool logarithmic)
-{
-  constexpr double tenth = 0.1;
-  const double step = logarithmic ? std::abs(value) * std::log(10.0) * units : units;
-  return roundedText(value, step * tenth);
-}
-
 struct Texts
 {
   explicit Texts(const DrawnGesture& gesture)
   {
     for (const DrawnPoint& point : gesture.points)
     {
-      x.push_back(numberText(point.x, gesture.unitsX, gesture.scale.logX));
-      y.push_back(numberText(point.y, gesture.unitsY, gesture.scale.logY));
+      x.push_back(placeWords(point.x, gesture.unitsX, gesture.scale.logX));
+      y.push_back(placeWords(point.y, gesture.unitsY, gesture.scale.logY));
     }
   }
 
@@ -93,6 +85,13 @@ std::string scaleText(const DrawnScale& scale)
 }
 
 } // namespace
+
+std::string placeWords(double value, double units, bool logarithmic)
+{
+  constexpr double tenth = 0.1;
+  const double step = logarithmic ? std::abs(value) * std::log(10.0) * units : units;
+  return roundedText(value, step * tenth);
+}
 
 std::string gestureWords(const DrawnGesture& gesture, GestureRule rule,
                          const std::vector<std::string>& items, const std::string& over)

@@ -46,6 +46,10 @@ enum class GestureRule
 std::string gestureWords(const DrawnGesture& gesture, GestureRule rule,
                          const std::vector<std::string>& items, const std::string& over);
 
+/// A place on an axis as these words write it.
+/// @param units what a pixel covers of the axis, or of its decades
+std::string placeWords(double value, double units, bool logarithmic);
+
 } // namespace Talmesh::app
 
 #endif

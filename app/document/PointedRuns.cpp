@@ -1,0 +1,180 @@
+#include "app/document/PointedRuns.h"
+
+#include "app/document/GestureSelection.h"
+#include "app/document/TableRuns.h"
+#include "app/import/ColumnRoles.h"
+#include "plot/TableColumns.h"
+
+#include <vtkTable.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+using Series = SelectionGesture::Series;
+
+/// The points of a series, one per run.
+struct RunPoints
+{
+  const double* x;
+  const double* y;
+  const Series* series;
+
+  RunCourse at(std::size_t run) const { return {x + run, y + run, 1}; }
+};
+
+/// None where the chart draws anything else.
+std::optional<std::vector<RunPoints>> pointsOf(const TableRuns& runs,
+                                               const SelectionGesture& gesture)
+{
+  if (!gesture.table || runs.numberOfRuns() == 0 ||
+      static_cast<std::size_t>(gesture.table->GetNumberOfRows()) != runs.numberOfRuns())
+    return {};
+  std::vector<RunPoints> points;
+  for (const Series& series : gesture.series)
+  {
+    vtkDoubleArray* x =
+        plot::doubleColumn(gesture.table, plot::columnIndex(gesture.table, series.x));
+    vtkDoubleArray* y =
+        plot::doubleColumn(gesture.table, plot::columnIndex(gesture.table, series.y));
+    if (!x || !y || series.lines)
+      return {};
+    points.push_back({x->GetPointer(0), y->GetPointer(0), &series});
+  }
+  return points;
+}
+
+/// What a filter calls a column that has one value for a run; empty where it has no word for it.
+std::string wordsOf(const TableRuns& runs, const std::string& column)
+{
+  for (const std::string& words : {filterName(shownName(column)), shownName(column)})
+  {
+    FilterFault fault;
+    RunFilter::read(words + " = 0", runs, fault);
+    if (fault.text.empty())
+      return words;
+  }
+  return {};
+}
+
+std::string between(const std::string& words, double low, double high, double units, bool log)
+{
+  const auto [from, to] = std::minmax(low, high);
+  return words + " >= " + placeWords(from, units, log) + " and " + words +
+         " <= " + placeWords(to, units, log);
+}
+
+/// Empty where a column has no words.
+std::string wordsOfRectangle(const TableRuns& runs, const SelectionGesture& gesture,
+                             const std::vector<RunPoints>& points)
+{
+  const SelectionGesture::Point& a = gesture.points.front();
+  const SelectionGesture::Point& b = gesture.points.back();
+  std::string words;
+  for (const RunPoints& one : points)
+  {
+    const std::string x = wordsOf(runs, one.series->x);
+    const std::string y = wordsOf(runs, one.series->y);
+    if (x.empty() || y.empty())
+      return {};
+    words += (words.empty() ? "" : " or ") + between(x, a.x, b.x, gesture.unitsX, gesture.logX) +
+             " and " + between(y, a.y, b.y, gesture.unitsY, gesture.logY);
+  }
+  return words;
+}
+
+bool isHit(const RunCourse& point, const SelectionGesture& gesture)
+{
+  const DrawnScale scale{gesture.logX, gesture.logY};
+  std::vector<DrawnPoint> corners;
+  for (const SelectionGesture::Point& corner : gesture.points)
+    corners.push_back({corner.x, corner.y});
+  if (gesture.kind == SelectionGesture::Kind::Lasso)
+    return hasPointIn(point, corners, scale);
+  return gesture.kind == SelectionGesture::Kind::Rectangle &&
+         hasPointIn(
+             point,
+             DrawnWindow{corners.front().x, corners.back().x, corners.front().y, corners.back().y},
+             scale);
+}
+
+std::vector<bool> hitBy(const TableRuns& runs, const SelectionGesture& gesture,
+                        const std::vector<RunPoints>& points)
+{
+  std::vector<bool> hit(runs.numberOfRuns(), false);
+  for (const RunPoints& one : points)
+    for (std::size_t run = 0; run < hit.size(); ++run)
+      hit[run] = hit[run] || isHit(one.at(run), gesture);
+  return hit;
+}
+
+struct NearestPoint
+{
+  std::size_t run = 0;
+  const Series* series = nullptr;
+  DrawnPoint point{0, 0};
+};
+
+NearestPoint nearestOf(const TableRuns& runs, const SelectionGesture& gesture,
+                       const std::vector<RunPoints>& points)
+{
+  const DrawnManner manner{{gesture.logX, gesture.logY}, gesture.unitsX, gesture.unitsY, false};
+  const DrawnPoint place{gesture.points.front().x, gesture.points.front().y};
+  NearestPoint nearest;
+  double within = pointingReach;
+  for (const RunPoints& one : points)
+    for (std::size_t run = 0; run < runs.numberOfRuns(); ++run)
+    {
+      const NearestPlace found = nearestPlace(one.at(run), place, manner, within);
+      if (!(found.distance < within))
+        continue;
+      within = found.distance;
+      nearest = {run, one.series, {one.x[run], one.y[run]}};
+    }
+  return nearest;
+}
+
+std::vector<bool> onlyRun(const TableRuns& runs, std::size_t run)
+{
+  std::vector<bool> only(runs.numberOfRuns(), false);
+  only[run] = true;
+  return only;
+}
+
+} // namespace
+
+std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture)
+{
+  const auto points = pointsOf(runs, gesture);
+  if (!points)
+    return {};
+  if (gesture.kind == SelectionGesture::Kind::Click)
+  {
+    const NearestPoint nearest = nearestOf(runs, gesture, *points);
+    return nearest.series ? runs.words(onlyRun(runs, nearest.run)) : std::string();
+  }
+  const std::string words = gesture.kind == SelectionGesture::Kind::Rectangle
+                                ? wordsOfRectangle(runs, gesture, *points)
+                                : std::string();
+  if (!words.empty())
+    return words;
+  return runs.words(hitBy(runs, gesture, *points));
+}
+
+std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place)
+{
+  const auto points = pointsOf(runs, place);
+  if (!points)
+    return {};
+  const NearestPoint nearest = nearestOf(runs, place, *points);
+  return nearest.series ? textBeside(runs, nearest.run, nearest.series->y, nearest.point)
+                        : std::string();
+}
+
+} // namespace Talmesh::app

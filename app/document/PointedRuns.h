@@ -1,0 +1,24 @@
+#ifndef PointedRuns_h
+#define PointedRuns_h
+
+#include "vtk/SelectionGesture.h"
+
+#include <optional>
+#include <string>
+
+namespace Talmesh::app
+{
+
+class TableRuns;
+
+/// What the mouse points at in charts that draw one point per run, of a table with a row for each.
+///
+/// As `wordsOfGesture` and `nearestRun`, of such charts alone: the words of a rectangle are
+/// comparisons, where its columns are called by words that filters read, otherwise the numbers of
+/// the runs. A line means no runs.
+std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture);
+std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place);
+
+} // namespace Talmesh::app
+
+#endif
