@@ -5,6 +5,7 @@
 #include "app/document/TableRuns.h"
 #include "app/import/ColumnRoles.h"
 #include "app/import/TranslatedText.h"
+#include "app/runs/NearestPlace.h"
 #include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunSplit.h"

@@ -3,6 +3,7 @@
 #include "app/document/GestureSelection.h"
 #include "app/document/TableRuns.h"
 #include "app/import/ColumnRoles.h"
+#include "app/runs/NearestPlace.h"
 #include "plot/TableColumns.h"
 
 #include <vtkTable.h>

@@ -3,7 +3,6 @@
 
 #include "app/runs/RunCourse.h"
 
-#include <limits>
 #include <vector>
 
 /// Where the line of a run lies in a chart. All coordinates are those of the data; a scale says
@@ -50,29 +49,6 @@ bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corne
 bool hasPointIn(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale);
 bool hasPointIn(const RunCourse& course, const std::vector<DrawnPoint>& corners,
                 const DrawnScale& scale);
-/// How a chart draws courses.
-struct DrawnManner
-{
-  DrawnScale scale;
-  /// How much of each axis, or of its decades, is as long as 1: a pixel.
-  double unitsX = 1;
-  double unitsY = 1;
-  /// Whether the points are joined.
-  bool lines = true;
-};
-
-/// What is nearest to a place in a chart.
-struct NearestPlace
-{
-  double distance = std::numeric_limits<double>::infinity();
-  DrawnPoint point{0, 0};
-};
-
-/// The point of the line, or of the points alone, that is nearest to `place`, if it is nearer than
-/// `within`. One of the course's own points goes before others of the line.
-NearestPlace nearestPlace(const RunCourse& course, const DrawnPoint& place,
-                          const DrawnManner& manner, double within);
-
 } // namespace Talmesh::app
 
 #endif

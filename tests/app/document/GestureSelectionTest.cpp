@@ -68,9 +68,9 @@ TEST_F(GesturesInCharts, AreAboutOneParameterOverAnother)
   const std::string k = table->GetColumnName(4);
   const std::string m = table->GetColumnName(5);
   const auto words =
-      wordsOf(gestureIn(table, k.c_str(), m.c_str(), Kind::Rectangle, {{1.5, 4.5}, {3.5, 6.5}}));
+      wordsOf(gestureIn(table, k.c_str(), m.c_str(), Kind::Rectangle, {{1.5, 5.5}, {3.5, 6.5}}));
   ASSERT_TRUE(words);
-  EXPECT_EQ(*words, "dot(m over k, 1.5, 3.5, 4.5, 6.5)");
+  EXPECT_EQ(*words, "dot(m over k, 1.5, 3.5, 5.5, 6.5)");
   EXPECT_EQ(selectedBy(*words), Runs{1}) << "m is 1, 6, 5, ... of runs 0, 1, 2, ...";
 }
 

@@ -1,4 +1,4 @@
-#include "app/runs/DrawnCourse.h"
+#include "app/runs/NearestPlace.h"
 
 #include <gtest/gtest.h>
 
