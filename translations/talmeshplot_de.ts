@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>FileDialogs</name>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Tabelle (*.csv)</translation>
+    </message>
+</context>
+<context>
     <name>FileWriter</name>
     <message>
         <source>not all of it could be written</source>
@@ -181,6 +188,41 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>RunColumnMenu</name>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Smallest value</source>
+        <translation>Kleinster Wert</translation>
+    </message>
+    <message>
+        <source>Largest value</source>
+        <translation>Größter Wert</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>First value</source>
+        <translation>Erster Wert</translation>
+    </message>
+    <message>
+        <source>Final value</source>
+        <translation>Letzter Wert</translation>
+    </message>
+    <message>
+        <source>Number of peaks</source>
+        <translation>Anzahl der Gipfel</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Periode</translation>
+    </message>
+</context>
+<context>
     <name>RunFilter</name>
     <message>
         <source>a condition is wanted here, such as &quot;max(A) &gt; 1&quot;</source>
@@ -289,6 +331,22 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Toggle %1 runs</source>
         <translation>%1 Läufe umschalten</translation>
+    </message>
+    <message>
+        <source>Select 1 run</source>
+        <translation>1 Lauf auswählen</translation>
+    </message>
+    <message>
+        <source>Add 1 run</source>
+        <translation>1 Lauf hinzunehmen</translation>
+    </message>
+    <message>
+        <source>Take away 1 run</source>
+        <translation>1 Lauf wegnehmen</translation>
+    </message>
+    <message>
+        <source>Toggle 1 run</source>
+        <translation>1 Lauf umschalten</translation>
     </message>
 </context>
 <context>
@@ -511,6 +569,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>&amp;Later</source>
         <translation>&amp;Später</translation>
+    </message>
+    <message>
+        <source>kept selections</source>
+        <translation>gemerkte Auswahlen</translation>
     </message>
 </context>
 <context>
@@ -1367,6 +1429,116 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::KeptSelections</name>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <translation>%1 merken</translation>
+    </message>
+    <message>
+        <source>Rename %1</source>
+        <translation>%1 umbenennen</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>%1 färben</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::KeptSelectionsDock</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Läufe</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>Double-click a selection to select its runs again</source>
+        <translation>Ein Doppelklick wählt die Läufe einer Auswahl wieder aus</translation>
+    </message>
+    <message>
+        <source>Kept selections</source>
+        <translation>Gemerkte Auswahlen</translation>
+    </message>
+    <message>
+        <source>Keep selection</source>
+        <translation>Auswahl merken</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Colour...</source>
+        <translation>Farbe...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Save all...</source>
+        <translation>Alle speichern...</translation>
+    </message>
+    <message>
+        <source>Ctrl+K</source>
+        <translation>Ctrl+K</translation>
+    </message>
+    <message>
+        <source>Keep the selected runs under a name (%1)</source>
+        <translation>Die ausgewählten Läufe unter einem Namen merken (%1)</translation>
+    </message>
+    <message>
+        <source>Write a table (.csv) of the runs, with a column for each selection</source>
+        <translation>Eine Tabelle (.csv) der Läufe schreiben, mit einer Spalte für jede Auswahl</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Select only these</source>
+        <translation>Nur diese auswählen</translation>
+    </message>
+    <message>
+        <source>Add to selection</source>
+        <translation>Zur Auswahl hinzunehmen</translation>
+    </message>
+    <message>
+        <source>Take from selection</source>
+        <translation>Von der Auswahl wegnehmen</translation>
+    </message>
+    <message>
+        <source>Toggle</source>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>Nothing is kept. Select some runs and keep them here under a name, to select them again or to save them.</source>
+        <translation>Nichts ist gemerkt. Wählen Sie einige Läufe aus und merken Sie sie hier unter einem Namen, um sie wieder auszuwählen oder zu speichern.</translation>
+    </message>
+    <message>
+        <source>Save kept selections</source>
+        <translation>Gemerkte Auswahlen speichern</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::MainWindow</name>
     <message>
         <source>Runs</source>
@@ -1464,6 +1636,13 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::RunColumnMenu</name>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::RunNormaliser</name>
     <message>
         <source>Normalise Runs</source>
@@ -1472,6 +1651,60 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Reload Values</source>
         <translation>Werte neu laden</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::RunTableDock</name>
+    <message>
+        <source>Table of runs</source>
+        <translation>Tabelle der Läufe</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Speichern...</translation>
+    </message>
+    <message>
+        <source>Copy the selected runs, or all of them, for a spreadsheet (Ctrl+C)</source>
+        <translation>Die ausgewählten Läufe, oder alle, für eine Tabellenkalkulation kopieren (Strg+C)</translation>
+    </message>
+    <message>
+        <source>Write the table of all runs to a CSV file</source>
+        <translation>Die Tabelle aller Läufe in eine CSV-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Choose what the table shows of each run</source>
+        <translation>Wählen, was die Tabelle von jedem Lauf zeigt</translation>
+    </message>
+    <message>
+        <source>This data has no runs to list.</source>
+        <translation>Diese Daten haben keine Läufe, die aufgezählt werden könnten.</translation>
+    </message>
+    <message>
+        <source>Computing the numbers of the runs ...</source>
+        <translation>Die Zahlen der Läufe werden berechnet ...</translation>
+    </message>
+    <message>
+        <source>Copied the table of runs</source>
+        <translation>Tabelle der Läufe kopiert</translation>
+    </message>
+    <message>
+        <source>Save the table of runs</source>
+        <translation>Tabelle der Läufe speichern</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::RunTableModel</name>
+    <message>
+        <source>Run</source>
+        <translation>Lauf</translation>
     </message>
 </context>
 <context>
@@ -1556,6 +1789,53 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::StepsDock</name>
+    <message>
+        <source>Steps of the selection</source>
+        <translation>Schritte der Auswahl</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation>Wie geöffnet</translation>
+    </message>
+    <message>
+        <source>Click a step to return to what was selected then</source>
+        <translation>Ein Klick auf einen Schritt führt zu dem zurück, was da ausgewählt war</translation>
+    </message>
+    <message>
+        <source>Copy steps</source>
+        <translation>Schritte kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the steps so far, as for a description of methods</source>
+        <translation>Die bisherigen Schritte kopieren, etwa für eine Beschreibung der Methoden</translation>
+    </message>
+    <message>
+        <source>Copy condition</source>
+        <translation>Bedingung kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the condition that the selected runs meet, and no others</source>
+        <translation>Die Bedingung kopieren, die genau die ausgewählten Läufe erfüllen</translation>
+    </message>
+    <message>
+        <source>Put into the line</source>
+        <translation>In die Zeile setzen</translation>
+    </message>
+    <message>
+        <source>Put that condition into the line &quot;Runs where&quot;, to change it or to use it with another study</source>
+        <translation>Diese Bedingung in die Zeile „Läufe, wo“ setzen, um sie zu ändern oder für eine andere Studie zu verwenden</translation>
+    </message>
+    <message>
+        <source>Copied the steps</source>
+        <translation>Schritte kopiert</translation>
+    </message>
+    <message>
+        <source>Copied the condition</source>
+        <translation>Bedingung kopiert</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::StudiesMenu</name>
     <message>
         <source>S&amp;tudies</source>
@@ -1624,6 +1904,30 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>R&amp;un</source>
         <translation>La&amp;uf</translation>
+    </message>
+    <message>
+        <source>this run</source>
+        <translation>dieser Lauf</translation>
+    </message>
+    <message>
+        <source>this run and its %1 nearest</source>
+        <translation>dieser Lauf und seine %1 nächsten</translation>
+    </message>
+    <message>
+        <source>the selected runs</source>
+        <translation>die ausgewählten Läufe</translation>
+    </message>
+    <message>
+        <source>Which runs are shown. The nearest are those whose smallest, largest, mean and final values differ least from those of this run, in standard deviations.</source>
+        <translation>Welche Läufe gezeigt werden. Die nächsten sind die, deren kleinste, größte, mittlere und letzte Werte von denen dieses Laufs am wenigsten abweichen, in Standardabweichungen.</translation>
+    </message>
+    <message>
+        <source>No run is selected.</source>
+        <translation>Kein Lauf ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 selected runs</source>
+        <translation>Die ersten %1 von %2 ausgewählten Läufen</translation>
     </message>
 </context>
 <context>
@@ -1708,6 +2012,13 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>this cannot be done: %1</source>
         <translation>das ist nicht möglich: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TimeCourses</name>
+    <message>
+        <source>%1, run %2</source>
+        <translation>%1, Lauf %2</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,5 @@
 #include "app/document/Document.h"
 
-#include "app/document/PlotSession.h"
 #include "app/document/ShownChart.h"
 #include "app/document/ShownStudy.h"
 #include "app/document/TableRuns.h"
@@ -16,6 +15,7 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
     : QObject(parent)
     , stage(std::move(where))
     , grouped(selected.undoStack())
+    , keptSelections(selected.undoStack())
     , isThere(hasMemory)
 {
   connect(&selected, &SelectionController::changing, this, [this] { beforeSelection = drawings; });
@@ -110,6 +110,7 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   showStudy(shown.study, container);
   chooseOpeningStyle(container, wishes);
   grouped.follow(&container, runsOverTime(shown.study));
+  keptSelections.follow(TableRuns(container).numberOfRuns());
   shown.choice = choiceOf(container);
   if (opened.session)
     restore(*opened.session);
@@ -121,21 +122,11 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   if (failure.empty())
     shown.choice = wished;
   // The history begins with what is restored, whole runs of it, as they are drawn.
-  selected.follow(&container);
+  const bool restores = opened.session && wishes.select.empty();
+  selected.follow(&container,
+                  restores ? opened.session->settings.words : wordsOfAny(wishes.select));
   drawSilently();
   return failure;
-}
-
-void Document::restore(const RestoredSession& session)
-{
-  PlotContainer& container = *shown.container;
-  restoreSettings(session, container);
-  grouped.restoreNormalised(session.settings.normalised);
-  grouped.restore(session.settings.groups);
-  // Normalising has forgotten the window.
-  restoreWindow(session, container);
-  container.withoutDrawing([&] { restoreSelection(session, container); });
-  shown.choice = restoredChoice(session, container);
 }
 
 void Document::openOwnChart()
@@ -274,23 +265,6 @@ void Document::drawNewValues()
   if (drawings == before)
     drawSilently();
   emit drawn();
-}
-
-std::optional<SessionSource> Document::sessionSource()
-{
-  const Shown& opened = shown.study.chart ? aside : shown;
-  if (!opened.container || !(opened.study.runs || opened.study.table))
-    return {};
-  SessionSource source =
-      sessionOf(opened.study, *opened.container, opened.choice, &grouped.runNormaliser());
-  source.groups = grouped.state();
-  return source;
-}
-
-std::string Document::save(const QString& path, QByteArray* end)
-{
-  const std::optional<SessionSource> source = sessionSource();
-  return source ? saveSession(path, *source, end) : std::string();
 }
 
 } // namespace Talmesh::app

@@ -3,6 +3,7 @@
 
 #include "app/comparison/ComparisonChoice.h"
 #include "app/document/GroupedRuns.h"
+#include "app/document/KeptSelections.h"
 #include "app/document/PlotChoice.h"
 #include "app/document/SelectionController.h"
 #include "app/import/Study.h"
@@ -72,6 +73,7 @@ public:
   QString remark() const;
   SelectionController& selection() { return selected; }
   GroupedRuns& groups() { return grouped; }
+  KeptSelections& kept() { return keptSelections; }
 
   /// The following draw, once. What is shown of a chart of its own is not for the user to choose:
   /// it is drawn as it is.
@@ -140,6 +142,7 @@ private:
   QPointer<ShownChart> ownChart;
   SelectionController selected;
   GroupedRuns grouped;
+  KeptSelections keptSelections;
   std::string error;
   std::function<bool(std::size_t)> isThere;
   QMetaObject::Connection settingsHeard;

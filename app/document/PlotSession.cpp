@@ -8,7 +8,7 @@ namespace Talmesh::app
 SessionSource sessionOf(const Study& study, PlotContainer& container, const PlotChoice& choice,
                         const RunNormaliser* normaliser)
 {
-  SessionSource source{study, container, choice.legend, choice.logY, {}, {}, {}, {}};
+  SessionSource source{study, container, choice.legend, choice.logY, {}, {}, {}, {}, {}, {}};
   if (normaliser)
   {
     source.normalised = normaliser->normalised();

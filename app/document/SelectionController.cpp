@@ -76,13 +76,13 @@ SelectionController::~SelectionController()
   stopObserving();
 }
 
-void SelectionController::follow(PlotContainer* another)
+void SelectionController::follow(PlotContainer* another, const std::string& words)
 {
   visitHistory.follow(nullptr);
   followed = another;
   observe(another, stack);
   history.follow(another);
-  history.restart();
+  history.restart(words);
 }
 
 void SelectionController::visit(PlotContainer* another)
@@ -133,10 +133,7 @@ bool SelectionController::makeWhole()
   if (runs.numberOfRuns() == 0 || runs.areSelectedWhole())
     return false;
   const std::vector<bool> selected = runs.selected();
-  const SelectionHistory::Step step(
-      container == followed ? history : visitHistory,
-      QString::fromStdString(stepText(RunCombination::Replace, selected, runs.words(selected))));
-  runs.select(selected);
+  selectRuns(selected, runs.words(selected), RunCombination::Replace);
   return true;
 }
 
@@ -194,8 +191,9 @@ void SelectionController::invert()
                                  : markedRows(container->getAnnotationLink()->GetCurrentSelection(),
                                               container->getTable());
   others.flip();
-  const SelectionHistory::Step step(container == followed ? history : visitHistory,
-                                    tr("Invert Selection"));
+  const std::string said = words().empty() ? std::string() : "not (" + words() + ')';
+  const SelectionHistory::Step step(shownHistory(), tr("Invert Selection"),
+                                    {RunCombination::Replace, said});
   if (ofRuns)
     runs.select(others);
   else
@@ -214,10 +212,36 @@ FilterFault SelectionController::selectWhere(const std::string& words, RunCombin
   if (!fault.text.empty())
     return fault;
   const std::vector<bool> hit = filter.select(runs, {}).value();
-  SelectionHistory& steps = container == followed ? history : visitHistory;
-  const SelectionHistory::Step step(steps, QString::fromStdString(stepText(how, hit, words)));
-  runs.select(combineRuns(runs.selected(), hit, how));
+  selectRuns(hit, words, how);
   return {};
+}
+
+SelectionHistory& SelectionController::shownHistory()
+{
+  return container == followed ? history : visitHistory;
+}
+
+void SelectionController::selectRuns(const std::vector<bool>& hit, const std::string& words,
+                                     RunCombination how)
+{
+  if (!container)
+    return;
+  TableRuns runs(*container);
+  if (hit.size() != runs.numberOfRuns())
+    return;
+  const SelectionHistory::Step step(
+      shownHistory(), QString::fromStdString(stepText(how, hit, words)), {how, words});
+  runs.select(combineRuns(runs.selected(), hit, how));
+}
+
+std::vector<bool> SelectionController::selectedRuns() const
+{
+  return container ? TableRuns(*container).selected() : std::vector<bool>();
+}
+
+std::string SelectionController::words() const
+{
+  return container == followed ? history.words() : visitHistory.words();
 }
 
 std::string SelectionController::save(const QString& path) const

@@ -15,6 +15,7 @@
 #include <QUndoStack>
 
 #include <string>
+#include <vector>
 
 class PlotContainer;
 
@@ -36,7 +37,8 @@ public:
 
   /// Turns to the selection of another container, not owned; its history starts anew. Null turns to
   /// none.
-  void follow(PlotContainer* container);
+  /// @param words the condition that it stands for, empty where it is not known
+  void follow(PlotContainer* container, const std::string& words = {});
   /// Turns to the selection of another container, not owned, until `endVisit` returns to the one
   /// followed last and to its history.
   void visit(PlotContainer* container);
@@ -51,6 +53,17 @@ public:
   /// Selects the runs that meet a condition in words, as one step of the history that says so.
   /// @return what is wrong with the words, if anything is; nothing is changed then
   FilterFault selectWhere(const std::string& words, RunCombination how);
+  /// Selects runs that are known already, as one step of the history.
+  /// @param hit for each run of the table whether it is one of them
+  /// @param words the condition that they meet, by which the step is named
+  void selectRuns(const std::vector<bool>& hit, const std::string& words, RunCombination how);
+  /// Which runs of the plot now shown are selected.
+  std::vector<bool> selectedRuns() const;
+  /// The condition in words that only the selected runs meet: that of the steps that led there.
+  /// Empty where nobody has said it.
+  std::string words() const;
+  /// The same of the container that is followed, while another one is visited.
+  const std::string& followedWords() const { return history.words(); }
   /// Writes the indices of the selected runs to a small JSON file.
   /// @return why that failed, in one line of UTF-8; empty on success
   std::string save(const QString& path) const;
@@ -81,6 +94,7 @@ signals:
   void pointed(const QString& words);
 
 private:
+  SelectionHistory& shownHistory();
   bool hasRuns() const;
   static std::string noRuns();
   bool makeWhole();

@@ -33,6 +33,18 @@ constexpr float afterAllOthers = -1.0F;
 /// less room than the table; neighbouring commands share the one between them.
 using Snapshot = std::shared_ptr<const std::vector<bool>>;
 
+struct Selected
+{
+  Snapshot rows;
+  /// The condition that it stands for, if known.
+  std::string words;
+};
+
+bool isAny(const Snapshot& rows)
+{
+  return std::find(rows->begin(), rows->end(), true) != rows->end();
+}
+
 vtkSmartPointer<vtkSelection> selectionOf(const std::vector<bool>& rows)
 {
   std::vector<vtkIdType> list;
@@ -52,7 +64,7 @@ struct FollowedContainer
   QPointer<PlotContainer> container;
   /// The container's; a chart may keep it alive longer.
   vtkWeakPointer<vtkAnnotationLink> link;
-  Snapshot current;
+  Selected current;
   bool restoring = false;
 
   Snapshot selected() const
@@ -64,14 +76,14 @@ struct FollowedContainer
   }
 
   /// Selects `rows` without recording that.
-  void restore(const std::vector<bool>& rows)
+  void restore(const Selected& wanted)
   {
     if (!container || !link)
       return;
     restoring = true;
-    link->SetCurrentSelection(selectionOf(rows));
+    link->SetCurrentSelection(selectionOf(*wanted.rows));
     restoring = false;
-    current = selected();
+    current = {selected(), wanted.words};
   }
 };
 
@@ -81,8 +93,8 @@ namespace
 class SelectCommand : public QUndoCommand
 {
 public:
-  SelectCommand(std::shared_ptr<FollowedContainer> ofContainer, Snapshot oldSelection,
-                Snapshot newSelection, const QString& text)
+  SelectCommand(std::shared_ptr<FollowedContainer> ofContainer, Selected oldSelection,
+                Selected newSelection, const QString& text)
       : followed(std::move(ofContainer))
       , before(std::move(oldSelection))
       , after(std::move(newSelection))
@@ -90,20 +102,20 @@ public:
     setText(text);
   }
 
-  void undo() override { followed->restore(*before); }
+  void undo() override { followed->restore(before); }
 
   void redo() override
   {
     // The stack redoes a command when it is pushed, but the selection is already made.
     if (pushed)
-      followed->restore(*after);
+      followed->restore(after);
     pushed = true;
   }
 
 private:
   std::shared_ptr<FollowedContainer> followed;
-  Snapshot before;
-  Snapshot after;
+  Selected before;
+  Selected after;
   bool pushed = false;
 };
 
@@ -131,28 +143,37 @@ void SelectionHistory::follow(PlotContainer* container)
   restart();
 }
 
-void SelectionHistory::restart()
+void SelectionHistory::restart(const std::string& words)
 {
   stack.clear();
-  if (followed)
-    followed->current = followed->selected();
+  if (!followed)
+    return;
+  const Snapshot rows = followed->selected();
+  followed->current = {rows, isAny(rows) ? words : std::string()};
+}
+
+const std::string& SelectionHistory::words() const
+{
+  static const std::string none;
+  return followed ? followed->current.words : none;
 }
 
 void SelectionHistory::record()
 {
   if (followed->restoring || !followed->container)
     return;
-  const Snapshot before = followed->current;
-  const Snapshot after = followed->selected();
-  if (*before == *after)
+  const Selected before = followed->current;
+  const Snapshot rows = followed->selected();
+  if (*before.rows == *rows)
     return;
-  followed->current = after;
-  const bool clears = std::find(after->begin(), after->end(), true) == after->end();
+  const bool clears = !isAny(rows);
+  followed->current = {rows, clears ? std::string()
+                                    : wordsAfter(before.words, isAny(before.rows), stepInWords)};
   QString text = stepText;
   if (text.isEmpty())
     text = clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
                   : QCoreApplication::translate("SelectionHistory", "Select");
-  stack.push(new SelectCommand(followed, before, after, text));
+  stack.push(new SelectCommand(followed, before, followed->current, text));
 }
 
 void SelectionHistory::stopObserving()

@@ -1,9 +1,13 @@
 #ifndef SelectionHistory_h
 #define SelectionHistory_h
 
+#include "app/document/SelectionWords.h"
+
 #include <QString>
 
 #include <memory>
+#include <string>
+#include <utility>
 
 class PlotContainer;
 class QUndoStack;
@@ -31,16 +35,21 @@ public:
   SelectionHistory& operator=(const SelectionHistory&) = delete;
 
   /// For as long as it lives, changes of the selection are recorded under a text of their own, as
-  /// of `QUndoCommand::setText`.
+  /// of `QUndoCommand::setText`, and with the words that they stand for.
   class Step
   {
   public:
-    Step(SelectionHistory& recorded, const QString& text)
+    Step(SelectionHistory& recorded, const QString& text, SelectionStep step = {})
         : history(recorded)
     {
       history.stepText = text;
+      history.stepInWords = std::move(step);
     }
-    ~Step() { history.stepText.clear(); }
+    ~Step()
+    {
+      history.stepText.clear();
+      history.stepInWords = {};
+    }
     Step(const Step&) = delete;
     Step& operator=(const Step&) = delete;
 
@@ -54,7 +63,12 @@ public:
 
   /// Takes what is selected now as the state to start from and clears the stack: for a table that
   /// has been replaced, whose old rows mean nothing.
-  void restart();
+  /// @param words the condition in words that this state stands for, empty where it is not known
+  void restart(const std::string& words = {});
+
+  /// The condition in words that what is now selected stands for: that of the steps that led there.
+  /// Empty without a selection, and where nobody has said it.
+  const std::string& words() const;
 
 private:
   void record();
@@ -64,6 +78,7 @@ private:
   std::shared_ptr<FollowedContainer> followed;
   unsigned long observerTag = 0;
   QString stepText;
+  SelectionStep stepInWords;
 };
 
 } // namespace Talmesh::app

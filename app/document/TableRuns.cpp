@@ -1,6 +1,7 @@
 #include "app/document/TableRuns.h"
 
 #include "app/document/PlotChoice.h"
+#include "app/import/ColumnRoles.h"
 #include "app/import/TranslatedText.h"
 #include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
@@ -8,6 +9,7 @@
 #include "plot/PlotContainer.h"
 #include "plot/RunSelection.h"
 #include "plot/RunSplit.h"
+#include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 #include "vtk/RowSelections.h"
 
@@ -22,22 +24,6 @@
 
 namespace Talmesh::app
 {
-
-std::vector<bool> combineRuns(std::vector<bool> before, const std::vector<bool>& hit,
-                              RunCombination how)
-{
-  for (std::size_t run = 0; run < before.size(); ++run)
-  {
-    const bool was = how != RunCombination::Replace && before[run];
-    if (how == RunCombination::Subtract)
-      before[run] = was && !hit[run];
-    else if (how == RunCombination::Toggle)
-      before[run] = was != hit[run];
-    else
-      before[run] = was || hit[run];
-  }
-  return before;
-}
 
 TableRuns::TableRuns(PlotContainer& shown)
     : container(shown)
@@ -78,6 +64,36 @@ RunCourse TableRuns::course(std::size_t run, int column, int over) const
   { return plot::doubleColumn(container.getTable(), of)->GetPointer(row); };
   const double* x = over >= 0 ? valuesOf(over) : times ? times->GetPointer(row) : positions.data();
   return {x, valuesOf(column), points};
+}
+
+std::string TableRuns::nameOf(int column) const
+{
+  const std::string& whole = plot::columnName(container.getTable(), column);
+  const std::string label = shownName(whole);
+  const Result<int> found = findColumn(container, label);
+  return found.hasValue() && found.value() == column ? label : whole;
+}
+
+std::vector<int> TableRuns::parameters() const
+{
+  return container.getMetaData()->parameterColumns;
+}
+
+std::vector<int> TableRuns::items() const
+{
+  vtkTable* table = container.getTable();
+  const auto& kinds = container.getColumnItems();
+  std::vector<int> columns;
+  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
+  {
+    const auto place = static_cast<std::size_t>(column);
+    const bool isItem = place >= kinds.size() ||
+                        (kinds[place].first != TimeOrValue && kinds[place].first != Parameter);
+    if (isItem && !isOfWholeRun(column) && plot::doubleColumn(table, column) &&
+        !plot::isSelectionMark(plot::columnName(table, column)))
+      columns.push_back(column);
+  }
+  return columns;
 }
 
 std::vector<bool> TableRuns::selected() const
@@ -133,17 +149,26 @@ void TableRuns::select(const std::vector<bool>& wanted)
   container.getAnnotationLink()->SetCurrentSelection(makeRowSelection(rows));
 }
 
-std::string stepText(RunCombination how, const std::vector<bool>& hit, const std::string& words)
+std::vector<RunColumn> columnsOfRuns(const TableRuns& runs, const std::vector<int>& parameters,
+                                     const std::vector<int>& items,
+                                     const std::vector<RunFeature>& features)
 {
-  std::string text = translated("RunFilter", "Select %1 runs");
-  if (how == RunCombination::Add)
-    text = translated("RunFilter", "Add %1 runs");
-  else if (how == RunCombination::Subtract)
-    text = translated("RunFilter", "Take away %1 runs");
-  else if (how == RunCombination::Toggle)
-    text = translated("RunFilter", "Toggle %1 runs");
-  text = withValues(text, {std::to_string(std::count(hit.begin(), hit.end(), true))});
-  return words.empty() ? text : text + ": " + words + '\n' + text;
+  std::vector<RunColumn> columns;
+  for (const int parameter : parameters)
+    columns.push_back(runColumn({}, parameter, runs.nameOf(parameter)));
+  for (const int item : items)
+    for (const RunFeature feature : features)
+      columns.push_back(runColumn(feature, item, runs.nameOf(item)));
+  return columns;
+}
+
+std::vector<RunColumn> allColumnsOfRuns(const TableRuns& runs)
+{
+  const std::vector<RunFeature>& all = runFeatures();
+  std::vector<RunFeature> features(all.begin(), all.begin() + leadingFeatures);
+  if (runs.pointsPerRun() == 1)
+    features = {RunFeature::Final};
+  return columnsOfRuns(runs, runs.parameters(), runs.items(), features);
 }
 
 std::string describe(const FilterFault& fault, const std::string& words)

@@ -1,7 +1,9 @@
 #ifndef TableRuns_h
 #define TableRuns_h
 
+#include "app/document/SelectionWords.h"
 #include "app/runs/RunFilter.h"
+#include "app/runs/RunTable.h"
 
 #include <vtkDoubleArray.h>
 #include <vtkType.h>
@@ -14,19 +16,6 @@ class PlotContainer;
 
 namespace Talmesh::app
 {
-
-/// What becomes of the runs selected so far when others are selected.
-enum class RunCombination
-{
-  Replace,
-  Add,
-  Subtract,
-  Toggle
-};
-
-/// `before` and `hit` say for each run whether it is selected; both have the same length.
-std::vector<bool> combineRuns(std::vector<bool> before, const std::vector<bool>& hit,
-                              RunCombination how);
 
 /// The whole runs of a container's table, and which of them are selected. A partial last run does
 /// not count.
@@ -45,6 +34,14 @@ public:
   /// Parameters and the column of the runs' numbers.
   bool isOfWholeRun(int column) const override;
   RunCourse course(std::size_t run, int column, int over) const override;
+
+  /// The name by which `column` finds a column.
+  std::string nameOf(int column) const;
+  /// The columns of parameters that differ between runs, as the container's settings list them.
+  std::vector<int> parameters() const;
+  /// The columns of all that changes during a run: neither time nor numbers of runs, nor marks.
+  std::vector<int> items() const;
+  std::size_t pointsPerRun() const { return points; }
 
   /// The runs of which any row is selected.
   std::vector<bool> selected() const;
@@ -70,10 +67,14 @@ private:
   std::vector<double> positions;
 };
 
-/// What a step of a history did, with the words to do it again; after a line end without them, for
-/// menus.
-/// @param hit the runs that met the words
-std::string stepText(RunCombination how, const std::vector<bool>& hit, const std::string& words);
+/// The columns of the table of runs: parameters with their values, then each of these features of
+/// each item.
+std::vector<RunColumn> columnsOfRuns(const TableRuns& runs, const std::vector<int>& parameters,
+                                     const std::vector<int>& items,
+                                     const std::vector<RunFeature>& features);
+/// All parameters, and the leading features of all items. Runs of one point have no more than the
+/// final value.
+std::vector<RunColumn> allColumnsOfRuns(const TableRuns& runs);
 
 /// Selects the runs that meet any of the conditions in words.
 /// @return which of them is wrong and where, in one line; nothing is selected then. Empty on

@@ -1,5 +1,7 @@
 #include "app/document/TimeCourses.h"
 
+#include "app/import/TranslatedText.h"
+#include "app/runs/RunCourse.h"
 #include "external/ColumnNames.h"
 #include "plot/PlotContainer.h"
 
@@ -58,16 +60,44 @@ std::vector<int> shownRunNumbers(const LinePlotTable& runs)
   return different.size() == numbers.size() ? numbers : places;
 }
 
-RunCourses::RunCourses(const LinePlotTable& runs, int time, std::size_t run)
-    : times(pointsOf(runs, static_cast<std::size_t>(time), run))
+std::vector<std::vector<double>> featuresOfRuns(const LinePlotTable& runs, int time)
 {
-  // The record points into the list, which therefore must not grow any more.
-  values.reserve(runs.items.size());
+  std::vector<std::vector<double>> features;
+  const std::size_t points = runs.pointsPerTrajectory;
   for (std::size_t i = 0; i < runs.items.size(); ++i)
-    if (isCourse(runs.items[i]) && runs.values[i])
+  {
+    if (!isCourse(runs.items[i]) || !runs.values[i])
+      continue;
+    for (double (*feature)(const RunCourse&) : {smallestOf, largestOf, meanOf, finalOf})
     {
+      features.emplace_back();
+      for (std::size_t run = 0; run < runs.numberOfTrajectories; ++run)
+        features.back().push_back(
+            feature({runs.values[static_cast<std::size_t>(time)] + run * points,
+                     runs.values[i] + run * points, points}));
+    }
+  }
+  return features;
+}
+
+RunCourses::RunCourses(const LinePlotTable& runs, int time, const std::vector<std::size_t>& shown)
+    : times(pointsOf(runs, static_cast<std::size_t>(time), shown.front()))
+{
+  const std::vector<int> numbers = shownRunNumbers(runs);
+  // The record points into the list, which therefore must not grow any more.
+  values.reserve(runs.items.size() * shown.size());
+  for (const std::size_t run : shown)
+    for (std::size_t i = 0; i < runs.items.size(); ++i)
+    {
+      if (!isCourse(runs.items[i]) || !runs.values[i])
+        continue;
+      TypedConcentrationName name = runs.items[i];
+      if (shown.size() > 1)
+        name.second = withValues(translated("TimeCourses", "%1, run %2"),
+                                 {name.second, std::to_string(numbers[run])});
+      items[name.second] = runs.items[i].second;
       values.push_back(pointsOf(runs, i, run));
-      record.series[runs.items[i]] = &values.back();
+      record.series[name] = &values.back();
     }
   record.xName = runs.items[static_cast<std::size_t>(time)].second;
   record.xValues = &times;
@@ -79,7 +109,7 @@ void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t ite
   const int time = timeOfCourses(runs);
   if (time < 0 || run >= runs.numberOfTrajectories)
     return;
-  RunCourses courses(runs, time, run);
+  RunCourses courses(runs, time, {run});
   PlotOptions options = container.getOptions();
   options.breaksLinesAtGaps = true;
   container.setOptions(options);

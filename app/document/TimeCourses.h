@@ -5,6 +5,8 @@
 #include "external/LinePlotTable.h"
 
 #include <cstddef>
+#include <map>
+#include <string>
 #include <vector>
 
 class PlotContainer;
@@ -20,16 +22,25 @@ int timeOfCourses(const LinePlotTable& runs);
 /// runs apart.
 std::vector<int> shownRunNumbers(const LinePlotTable& runs);
 
-/// The courses of one run, with the vectors that a record only points to.
+/// Numbers by which runs are told alike, see `nearestRuns`: the smallest, largest, mean and final
+/// value of each item.
+/// @param time as of `timeOfCourses`, not -1
+std::vector<std::vector<double>> featuresOfRuns(const LinePlotTable& runs, int time);
+
+/// The courses of some runs, with the vectors that a record only points to.
 class RunCourses
 {
 public:
   /// @param time as of `timeOfCourses`, not -1
-  RunCourses(const LinePlotTable& runs, int time, std::size_t run);
+  /// @param shown places of runs, not empty; the items of more than one are named with the numbers
+  /// of their runs
+  RunCourses(const LinePlotTable& runs, int time, const std::vector<std::size_t>& shown);
   RunCourses(const RunCourses&) = delete;
   RunCourses& operator=(const RunCourses&) = delete;
 
   LinePlotData record;
+  /// What the items of the record are called without their runs.
+  std::map<std::string, std::string> items;
 
 private:
   std::vector<double> times;

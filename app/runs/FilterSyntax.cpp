@@ -1,5 +1,6 @@
 #include "app/runs/FilterSyntax.h"
 
+#include "app/import/NumberText.h"
 #include "app/import/TranslatedText.h"
 
 #include <boost/spirit/home/x3.hpp>
@@ -33,7 +34,12 @@ const auto mark = [](auto& context) { x3::_val(context).marks.push_back(x3::_att
 template <char sign>
 const auto marked = [](auto& context) { x3::_val(context).marks.push_back(sign); };
 
-const auto number = [](auto& context) { x3::_val(context).number = x3::_attr(context); };
+/// The parser's own number may be another one in its last digit.
+const auto number = [](auto& context)
+{
+  const std::string digits(x3::_attr(context).begin(), x3::_attr(context).end());
+  x3::_val(context).number = readNumber(digits, false).value;
+};
 
 const auto named = [](auto& context)
 {
@@ -154,7 +160,7 @@ const auto
     powerRule_def = x3::eps[here] >> signs[sign] >> primaryRule[child] >>
                     *('^' > signs[sign] > primaryRule[child]) >> x3::eps[joined<Kind::Power>];
 const auto primaryRule_def = x3::eps[here] >>
-                             (plainNumber[number] | quoted[named] |
+                             (x3::raw[plainNumber][number] | quoted[named] |
                               (word[named] >> -(('(' >> x3::eps[called]) >
                                                 -(argumentRule[child] % ',') > closing)) |
                               ('(' > orRule[whole] > closing));

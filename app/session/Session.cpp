@@ -111,6 +111,8 @@ SessionSettings settingsOf(const SessionSource& source)
   settings.legend = source.legend;
   settings.logY = source.logY;
   settings.groups = source.groups;
+  settings.kept = source.kept;
+  settings.words = source.words;
   settings.origin = source.origin;
   copySettings(*container.getMetaData(), *settings.plot);
   const DumpedPlaces places(container.getTable());

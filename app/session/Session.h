@@ -33,6 +33,9 @@ struct SessionSource
   bool legend = false;
   bool logY = false;
   SessionGroups groups;
+  std::vector<KeptSelection> kept;
+  /// The condition in words that the selection stands for, if known.
+  std::string words;
   /// Written only with work that is kept until the user saves it.
   SessionOrigin origin;
   /// The columns of the container whose runs are normalised, ascending.

@@ -207,6 +207,8 @@ QByteArray settingsText(const SessionSettings& settings)
   object["parameterRanges"] = ranges;
   object["normalised"] = arrayOf(settings.normalised);
   object["groups"] = objectOf(settings.groups);
+  object["kept"] = arrayOf(settings.kept);
+  object["words"] = wholeWords(settings.words);
   if (!settings.origin.path.isEmpty())
     object["origin"] = objectOf(settings.origin);
   object["legend"] = settings.legend;
@@ -231,6 +233,8 @@ Result<SessionSettings> readSettings(const QByteArray& text, int columns)
   settings.parameterRanges = readRanges(object["parameterRanges"].toArray(), columns);
   reader.readColumns("normalised", settings.normalised);
   settings.groups = readGroups(object["groups"].toObject());
+  settings.kept = readKeptSelections(object["kept"].toArray());
+  settings.words = wholeWords(object["words"].toString().toStdString()).toStdString();
   settings.origin = readOrigin(object["origin"].toObject());
   settings.legend = object["legend"].toBool();
   settings.logY = object["logY"].toBool();

@@ -4,6 +4,7 @@
 #include "app/import/Result.h"
 #include "app/session/SessionGroups.h"
 #include "app/session/SessionOrigin.h"
+#include "app/session/SessionSelections.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 
@@ -29,6 +30,9 @@ struct SessionSettings
   /// Columns whose runs are shown normalised, while the table has the values from before.
   std::vector<int> normalised;
   SessionGroups groups;
+  std::vector<KeptSelection> kept;
+  /// The condition in words that the selection stands for, if known.
+  std::string words;
   /// Of work that is kept until the user saves it.
   SessionOrigin origin;
   bool legend = false;

@@ -39,6 +39,8 @@ SessionWork workOf(const SessionSource& source)
   work.selected = selectedRows(source.container);
   work.groupOfRun.swap(settings.groups.groupOfRun);
   work.normalised.swap(settings.normalised);
+  work.selections.swap(settings.kept);
+  settings.words.clear();
   settings.origin = {};
   settings.plot->storedCoordinateWindow = CoordinateWindow();
   settings.windowScales = {};
@@ -72,12 +74,14 @@ UnsavedParts SessionRecord::unsaved(const SessionWork& work) const
     parts.selection = !work.selected.empty();
     parts.groups = !work.groupOfRun.empty();
     parts.normalised = !work.normalised.empty();
+    parts.selections = !work.selections.empty();
     parts.view = true;
     return parts;
   }
   parts.selection = work.selected != kept->selected;
   parts.groups = work.groupOfRun != kept->groupOfRun;
   parts.normalised = work.normalised != kept->normalised;
+  parts.selections = work.selections != kept->selections;
   parts.view = !file.path.isEmpty() && work.view != kept->view;
   return parts;
 }

@@ -2,6 +2,7 @@
 #define SessionWork_h
 
 #include "app/session/SessionOrigin.h"
+#include "app/session/SessionSelections.h"
 
 #include <QByteArray>
 
@@ -20,6 +21,7 @@ struct SessionWork
   std::vector<bool> selected;
   std::vector<int> groupOfRun;
   std::vector<int> normalised;
+  std::vector<KeptSelection> selections;
   /// The settings of plot and panels.
   QByteArray view;
 };
@@ -32,9 +34,10 @@ struct UnsavedParts
   bool selection = false;
   bool groups = false;
   bool normalised = false;
+  bool selections = false;
   bool view = false;
 
-  bool any() const { return selection || groups || normalised || view; }
+  bool any() const { return selection || groups || normalised || selections || view; }
 };
 
 /// Knows which state of the work on a study is in a file, and in which.

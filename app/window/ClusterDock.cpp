@@ -1,11 +1,12 @@
 #include "app/window/ClusterDock.h"
 
+#include "app/window/PanelParts.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QPixmap>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -15,21 +16,6 @@
 
 namespace Talmesh::app
 {
-
-namespace
-{
-
-QIcon swatch(const QColor& colour, int size)
-{
-  QPixmap picture(size, size);
-  picture.fill(colour);
-  QIcon icon(picture);
-  // The chosen group keeps its own colour too.
-  icon.addPixmap(picture, QIcon::Selected);
-  return icon;
-}
-
-} // namespace
 
 ClusterDock::ClusterDock(QWidget* parent)
     : QDockWidget(tr("Groups of runs"), parent)

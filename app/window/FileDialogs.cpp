@@ -1,7 +1,9 @@
 #include "app/window/FileDialogs.h"
 
+#include "widgets/FileWriter.h"
 #include "widgets/WidgetSupport.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMessageBox>
 
@@ -43,6 +45,19 @@ QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& fil
   suggestName(*dialog);
   dialog->open();
   return dialog;
+}
+
+QFileDialog* askToSaveTable(QWidget* parent, const QString& title, const std::string& text,
+                            std::function<void(const QString&, const QString&)> written)
+{
+  return askToSave(parent, title, QCoreApplication::translate("FileDialogs", "Table (*.csv)"),
+                   QStringLiteral("csv"),
+                   [text, written = std::move(written)](const QString& path)
+                   {
+                     const QString reason =
+                         writeFile(path, text.data(), static_cast<qint64>(text.size()));
+                     written(path, reason.isEmpty() ? QString() : path + ": " + reason);
+                   });
 }
 
 void suggestName(QFileDialog& dialog)

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <functional>
+#include <string>
 
 class QFileDialog;
 class QWidget;
@@ -26,6 +27,12 @@ QFileDialog* askToOpen(QWidget* parent, const QString& title, const QString& fil
 /// @param suffix appended to names without one, given without its dot
 QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& filter,
                        const QString& suffix, FileChosen chosen);
+
+/// Asks for a file and writes a table of comma-separated text to it.
+/// @param written gets the path, and why it could not be written, in one line that begins with the
+///   path; empty on success
+QFileDialog* askToSaveTable(QWidget* parent, const QString& title, const std::string& text,
+                            std::function<void(const QString&, const QString&)> written);
 
 /// Suggests the name of what the window of the dialog's parent shows, with the dialog's default
 /// suffix.

@@ -7,9 +7,12 @@
 #include "app/window/FilterLine.h"
 #include "app/window/GestureActions.h"
 #include "app/window/GroupController.h"
+#include "app/window/KeptSelectionsDock.h"
 #include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
+#include "app/window/RunTableDock.h"
 #include "app/window/SessionController.h"
+#include "app/window/StepsDock.h"
 #include "app/window/StudyDock.h"
 #include "app/window/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
@@ -56,6 +59,9 @@ MainWindow::MainWindow(QWidget* parent)
     , clusterDock(new ClusterDock)
     , studyDock(new StudyDock)
     , comparison(new ComparisonDock)
+    , runTable(new RunTableDock(shown))
+    , keptSelections(new KeptSelectionsDock(shown))
+    , steps(new StepsDock(shown.selection()))
     , filter(new FilterLine(shown.selection()))
     , pointing(new GestureActions(shown.selection().gestures(), this))
     , status(*statusBar())
@@ -93,6 +99,12 @@ void MainWindow::placePanels()
   setCentralWidget(tabs);
   addDockWidget(Qt::RightDockWidgetArea, dock);
   addDockWidget(Qt::BottomDockWidgetArea, comparison);
+  for (QDockWidget* panel : std::initializer_list<QDockWidget*>{runTable, keptSelections, steps})
+  {
+    addDockWidget(Qt::BottomDockWidgetArea, panel);
+    tabifyDockWidget(comparison, panel);
+  }
+  comparison->raise();
   setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
   addDockWidget(Qt::RightDockWidgetArea, clusterDock);
   tabifyDockWidget(dock, clusterDock);

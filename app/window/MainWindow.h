@@ -21,9 +21,12 @@ class ExportController;
 class FilterLine;
 class GestureActions;
 class GroupController;
+class KeptSelectionsDock;
 class PlotDock;
 class RecentMenu;
+class RunTableDock;
 class SessionController;
+class StepsDock;
 class StudyDock;
 class TimeCoursePage;
 
@@ -111,6 +114,9 @@ private:
   ClusterDock* clusterDock;
   StudyDock* studyDock;
   ComparisonDock* comparison;
+  RunTableDock* runTable;
+  KeptSelectionsDock* keptSelections;
+  StepsDock* steps;
   FilterLine* filter;
   GestureActions* pointing;
   StatusLine status;

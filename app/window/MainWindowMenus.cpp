@@ -4,11 +4,14 @@
 #include "app/window/FileMenu.h"
 #include "app/window/GestureActions.h"
 #include "app/window/HelpMenu.h"
+#include "app/window/KeptSelectionsDock.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
+#include "app/window/RunTableDock.h"
 #include "app/window/SelectionMenu.h"
 #include "app/window/SessionController.h"
+#include "app/window/StepsDock.h"
 #include "app/window/StudiesMenu.h"
 #include "app/window/ViewMenu.h"
 #include "widgets/VtkPlotWidget.h"
@@ -24,8 +27,11 @@ void MainWindow::makeMenus()
   makeFileMenu();
   makeSelectionMenu();
   auto* view = new ViewMenu(*dock, this);
-  view->addPanel(dock->toggleViewAction(), Qt::Key_F9);
-  view->addPanel(comparison->toggleViewAction(), Qt::Key_F8);
+  view->addPanel(*dock, Qt::Key_F9);
+  view->addPanel(*comparison, Qt::Key_F8);
+  view->addPanel(*runTable, Qt::Key_F7);
+  view->addPanel(*keptSelections, Qt::Key_F6);
+  view->addPanel(*steps, Qt::Key_F5);
   connect(view, &ViewMenu::styleChosen, this, &MainWindow::chooseStyle);
   menuBar()->addMenu(view);
   auto* studies = new StudiesMenu(shown, this);
@@ -63,6 +69,7 @@ void MainWindow::makeSelectionMenu()
           });
   connect(tabs, &QTabWidget::currentChanged, menu,
           [this, menu] { menu->setSelecting(tabs->currentWidget() == plot); });
+  menu->addAction(keptSelections->keepStep());
   menuBar()->addMenu(menu);
 }
 

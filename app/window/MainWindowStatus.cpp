@@ -6,10 +6,13 @@
 #include "app/window/FileDialogs.h"
 #include "app/window/FilterLine.h"
 #include "app/window/GroupController.h"
+#include "app/window/KeptSelectionsDock.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
+#include "app/window/RunTableDock.h"
 #include "app/window/SessionController.h"
+#include "app/window/StepsDock.h"
 #include "app/window/StudyDock.h"
 #include "app/window/TimeCoursePage.h"
 #include "plot/PlotContainer.h"
@@ -26,6 +29,10 @@ void MainWindow::connectDocument()
   connect(&shown, &Document::studyChanged, this, &MainWindow::showStudy);
   connect(&shown, &Document::drawn, this, &MainWindow::showDrawing);
   connect(&shown, &Document::valuesChanged, timeCourses, &TimeCoursePage::refresh);
+  const auto tellSelected = [this]
+  { timeCourses->setSelectedRuns(shown.selection().selectedRuns()); };
+  connect(&shown.selection(), &SelectionController::changed, timeCourses, tellSelected);
+  connect(&shown, &Document::studyChanged, timeCourses, tellSelected);
   connect(&shown, &Document::choiceChanged, this,
           [this]
           {
@@ -49,6 +56,18 @@ void MainWindow::connectPanels()
   const auto say = [this](const QString& message) { status.say(message); };
   connect(comparison, &ComparisonDock::said, this, say);
   connect(comparison, &ComparisonDock::failed, this, &MainWindow::showError);
+  connect(runTable, &RunTableDock::said, this, say);
+  connect(runTable, &RunTableDock::failed, this, &MainWindow::showError);
+  connect(runTable, &RunTableDock::runOpened, this,
+          [this](std::size_t run)
+          {
+            tabs->setCurrentWidget(timeCourses);
+            timeCourses->openRun(run);
+          });
+  connect(keptSelections, &KeptSelectionsDock::said, this, say);
+  connect(keptSelections, &KeptSelectionsDock::failed, this, &MainWindow::showError);
+  connect(steps, &StepsDock::said, this, say);
+  connect(steps, &StepsDock::wordsWanted, filter, &FilterLine::show);
   connect(studyDock, &StudyDock::variantChanged, this,
           [this] { shown.chooseVariant(studyDock->variant()); });
 }

@@ -37,6 +37,8 @@ QString listOf(const UnsavedParts& parts)
   QStringList names;
   if (parts.selection)
     names.append(QCoreApplication::translate("SessionQuestions", "the selection"));
+  if (parts.selections)
+    names.append(QCoreApplication::translate("SessionQuestions", "kept selections"));
   if (parts.groups)
     names.append(QCoreApplication::translate("SessionQuestions", "the groups of runs"));
   if (parts.normalised)

@@ -1,16 +1,19 @@
 #include "app/window/TimeCoursePage.h"
 
 #include "app/document/TimeCourses.h"
+#include "app/runs/NearestRuns.h"
 #include "app/window/RunNumberBox.h"
 #include "external/LinePlotData.h"
 #include "widgets/LinePlotWidget.h"
 #include "widgets/PlotSelector.h"
 
-#include <QFormLayout>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include <set>
+#include <algorithm>
 
 namespace Talmesh::app
 {
@@ -19,6 +22,18 @@ namespace
 {
 
 using ItemNames = std::set<std::pair<QString, QString>>;
+
+/// In the order in which they are offered.
+enum ShownRuns
+{
+  OneRun,
+  WithNearest,
+  SelectedRuns
+};
+
+constexpr std::size_t mostNearest = 5;
+/// As many as can be told apart.
+constexpr std::size_t mostShown = 12;
 
 std::pair<QString, QString> nameOf(const QTreeWidgetItem& item)
 {
@@ -41,13 +56,19 @@ void forEachItem(const PlotSelector& selector, Visit visit)
       visit(selector.topLevelItem(i)->child(child));
 }
 
-void select(PlotSelector& selector, const ItemNames& names)
+/// @param itemOf what an item is called in `names`
+template <typename ItemOf>
+void select(PlotSelector& selector, const ItemNames& names, const ItemOf& itemOf)
 {
   {
     // One report for all items, below.
     const QSignalBlocker silent(selector);
-    forEachItem(selector, [&names](QTreeWidgetItem* item)
-                { item->setSelected(names.count(nameOf(*item)) > 0); });
+    forEachItem(selector,
+                [&](QTreeWidgetItem* item)
+                {
+                  const auto [kind, name] = nameOf(*item);
+                  item->setSelected(names.count({kind, itemOf(name)}) > 0);
+                });
   }
   selector.processNewSelection();
 }
@@ -66,6 +87,8 @@ void TimeCoursePage::setStudy(const Study& study)
 {
   runs = study.runs;
   outdated = true;
+  opened.reset();
+  lastChosen.clear();
   if (isVisible())
     bringUpToDate();
 }
@@ -73,8 +96,14 @@ void TimeCoursePage::setStudy(const Study& study)
 void TimeCoursePage::refresh()
 {
   stale = true;
+  features.clear();
   if (isVisible())
     bringUpToDate();
+}
+
+bool TimeCoursePage::isUsable() const
+{
+  return runs && timeOfCourses(*runs) >= 0 && runs->numberOfTrajectories > 0;
 }
 
 void TimeCoursePage::showEvent(QShowEvent* event)
@@ -89,9 +118,18 @@ void TimeCoursePage::bringUpToDate()
 {
   if (outdated)
     fill();
-  else if (stale && run->isEnabled())
-    showRun();
+  else if (stale && isUsable())
+    showRuns();
   stale = false;
+  if (!opened || !isUsable())
+    return;
+  const QSignalBlocker silentMode(mode);
+  const QSignalBlocker silentRun(run);
+  if (mode->currentIndex() == SelectedRuns)
+    mode->setCurrentIndex(OneRun);
+  run->setValue(static_cast<int>(*opened));
+  opened.reset();
+  showRuns();
 }
 
 void TimeCoursePage::build()
@@ -100,39 +138,130 @@ void TimeCoursePage::build()
   run->setObjectName(QStringLiteral("run"));
   run->setToolTip(tr("The run whose time courses are shown"));
   chart = new LinePlotWidget;
-  auto* choice = new QFormLayout;
-  choice->addRow(tr("R&un"), run);
+  mode = new QComboBox;
+  mode->setObjectName(QStringLiteral("shownRuns"));
+  mode->addItems({tr("this run"), tr("this run and its %1 nearest").arg(mostNearest),
+                  tr("the selected runs")});
+  mode->setToolTip(tr("Which runs are shown. The nearest are those whose smallest, largest, mean "
+                      "and final values differ least from those of this run, in standard "
+                      "deviations."));
+  note = new QLabel;
+  note->setObjectName(QStringLiteral("shownRunsNote"));
+  auto* label = new QLabel(tr("R&un"));
+  label->setBuddy(run);
+  auto* choice = new QHBoxLayout;
+  choice->addWidget(label);
+  choice->addWidget(run);
+  choice->addWidget(mode);
+  choice->addWidget(note);
+  choice->addStretch();
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(choice);
   layout->addWidget(chart, 1);
-  connect(run, QOverload<int>::of(&RunNumberBox::valueChanged), this, &TimeCoursePage::showRun);
+  connect(run, QOverload<int>::of(&RunNumberBox::valueChanged), this, &TimeCoursePage::showRuns);
+  connect(mode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          &TimeCoursePage::showRuns);
 }
 
 void TimeCoursePage::fill()
 {
   outdated = false;
-  const bool shown = runs && timeOfCourses(*runs) >= 0 && runs->numberOfTrajectories > 0;
+  const bool shown = isUsable();
+  features.clear();
   run->setNumbers(shown ? shownRunNumbers(*runs) : std::vector<int>());
   run->setEnabled(shown);
+  mode->setEnabled(shown);
   if (!shown)
   {
+    note->clear();
     chart->removeData();
     return;
   }
-  showRun();
+  showRuns();
   auto& selector = *chart->selector();
   if (selector.selectedItems().empty())
     chooseFirstItem(selector);
 }
 
-void TimeCoursePage::showRun()
+std::vector<std::size_t> TimeCoursePage::wantedRuns()
 {
+  const auto one = static_cast<std::size_t>(run->value());
+  std::vector<std::size_t> wanted;
+  if (mode->currentIndex() == SelectedRuns)
+  {
+    for (std::size_t place = 0; place < std::min(selected.size(), runs->numberOfTrajectories);
+         ++place)
+      if (selected[place])
+        wanted.push_back(place);
+    return wanted;
+  }
+  if (mode->currentIndex() == WithNearest)
+  {
+    if (features.empty())
+      features = featuresOfRuns(*runs, timeOfCourses(*runs));
+    wanted = nearestRuns(features, one, mostNearest);
+  }
+  wanted.insert(wanted.begin(), one);
+  return wanted;
+}
+
+void TimeCoursePage::sayWhich(std::size_t wanted)
+{
+  QString text;
+  if (mode->currentIndex() == SelectedRuns && wanted == 0)
+    text = tr("No run is selected.");
+  else if (wanted > mostShown)
+    text = tr("The first %1 of %2 selected runs").arg(mostShown).arg(wanted);
+  note->setText(text);
+}
+
+void TimeCoursePage::showRuns()
+{
+  std::vector<std::size_t> shown = wantedRuns();
+  run->setEnabled(mode->currentIndex() != SelectedRuns);
+  sayWhich(shown.size());
   auto& selector = *chart->selector();
-  const ItemNames chosen = selectedNames(selector);
-  RunCourses courses(*runs, timeOfCourses(*runs), static_cast<std::size_t>(run->value()));
+  // Which items are shown stays, whichever runs they are of.
+  ItemNames chosen;
+  for (const auto& [kind, name] : selectedNames(selector))
+    chosen.insert({kind, itemOf(name)});
+  if (shown.empty())
+  {
+    lastChosen = chosen;
+    chart->removeData();
+    return;
+  }
+  if (chosen.empty())
+    chosen = lastChosen;
+  shown.resize(std::min(shown.size(), mostShown));
+  RunCourses courses(*runs, timeOfCourses(*runs), shown);
   chart->setData(&courses.record);
+  items = courses.items;
   selector.expandAll();
-  select(selector, chosen);
+  select(selector, chosen, [this](const QString& name) { return itemOf(name); });
+}
+
+QString TimeCoursePage::itemOf(const QString& name) const
+{
+  const auto found = items.find(name.toStdString());
+  return found == items.end() ? name : QString::fromStdString(found->second);
+}
+
+void TimeCoursePage::openRun(std::size_t place)
+{
+  opened = place;
+  if (isVisible())
+    bringUpToDate();
+}
+
+void TimeCoursePage::setSelectedRuns(const std::vector<bool>& those)
+{
+  selected = those;
+  if (!chart || mode->currentIndex() != SelectedRuns)
+    return;
+  stale = true;
+  if (isVisible())
+    bringUpToDate();
 }
 
 /// An empty chart would look like a failure.
@@ -140,12 +269,14 @@ void TimeCoursePage::chooseFirstItem(PlotSelector& selector) const
 {
   ItemNames first;
   forEachItem(selector,
-              [&first](const QTreeWidgetItem* item)
+              [&](const QTreeWidgetItem* item)
               {
-                if (first.empty())
-                  first.insert(nameOf(*item));
+                if (!first.empty())
+                  return;
+                const auto [kind, name] = nameOf(*item);
+                first.insert({kind, itemOf(name)});
               });
-  select(selector, first);
+  select(selector, first, [this](const QString& name) { return itemOf(name); });
 }
 
 } // namespace Talmesh::app

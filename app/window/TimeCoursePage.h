@@ -5,7 +5,17 @@
 
 #include <QWidget>
 
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
 class LinePlotWidget;
+class QComboBox;
+class QLabel;
 class PlotSelector;
 
 namespace Talmesh::app
@@ -13,8 +23,9 @@ namespace Talmesh::app
 
 class RunNumberBox;
 
-/// Shows the time courses of one run, of those items that the user picks from a list. Its chart is
-/// made when the page is shown for the first time, so that it costs nothing before.
+/// Shows the time courses of one run, of it and of those that are most alike to it, or of the
+/// selected runs: of those items that the user picks from a list. Its chart is made when the page
+/// is shown for the first time, so that it costs nothing before.
 class TimeCoursePage : public QWidget
 {
   Q_OBJECT
@@ -28,6 +39,10 @@ public:
   void setStudy(const Study& study);
   /// Shows the values anew, which have changed.
   void refresh();
+  /// Shows a run, counted by its place.
+  void openRun(std::size_t run);
+  /// Which runs are selected, of those of the study.
+  void setSelectedRuns(const std::vector<bool>& runs);
 
 protected:
   void showEvent(QShowEvent* event) override;
@@ -36,12 +51,27 @@ private:
   void build();
   void bringUpToDate();
   void fill();
-  void showRun();
+  void showRuns();
+  void sayWhich(std::size_t wanted);
+  std::vector<std::size_t> wantedRuns();
+  bool isUsable() const;
+  QString itemOf(const QString& name) const;
   void chooseFirstItem(PlotSelector& selector) const;
 
   boost::shared_ptr<LinePlotTable> runs;
   LinePlotWidget* chart = nullptr;
   RunNumberBox* run = nullptr;
+  QComboBox* mode = nullptr;
+  QLabel* note = nullptr;
+  std::vector<bool> selected;
+  /// Of the runs as they are; empty until they are asked for.
+  std::vector<std::vector<double>> features;
+  /// What the items in the list are called without their runs.
+  std::map<std::string, std::string> items;
+  /// The kinds and names of the items that were shown when there were runs to show.
+  std::set<std::pair<QString, QString>> lastChosen;
+  /// The run to show next, where the user has asked for one.
+  std::optional<std::size_t> opened;
   /// Whether the study is one that the chart does not show yet.
   bool outdated = true;
   /// Whether values of the study have changed since the chart showed them.

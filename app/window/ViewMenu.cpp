@@ -4,6 +4,7 @@
 #include "app/window/PlotDock.h"
 
 #include <QCheckBox>
+#include <QDockWidget>
 
 namespace Talmesh::app
 {
@@ -38,10 +39,19 @@ void ViewMenu::addStyles()
   }
 }
 
-void ViewMenu::addPanel(QAction* toggle, Qt::Key key)
+void ViewMenu::addPanel(QDockWidget& panel, Qt::Key key)
 {
+  QAction* toggle = addAction(panel.windowTitle());
   toggle->setShortcut(QKeySequence(key));
-  addAction(toggle);
+  toggle->setCheckable(true);
+  connect(&panel, &QDockWidget::visibilityChanged, toggle, &QAction::setChecked);
+  connect(toggle, &QAction::triggered, &panel,
+          [&panel](bool on)
+          {
+            panel.setVisible(on);
+            if (on)
+              panel.raise();
+          });
 }
 
 } // namespace Talmesh::app

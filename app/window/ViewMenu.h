@@ -6,6 +6,7 @@
 #include <QMenu>
 
 class QCheckBox;
+class QDockWidget;
 
 namespace Talmesh::app
 {
@@ -21,8 +22,8 @@ public:
   /// @param dock outlives the menu
   explicit ViewMenu(PlotDock& dock, QWidget* parent = nullptr);
 
-  /// Adds what shows and hides a panel.
-  void addPanel(QAction* toggle, Qt::Key key);
+  /// Adds what shows a panel, also one that lies behind others, and hides it when it is in front.
+  void addPanel(QDockWidget& panel, Qt::Key key);
 
 signals:
   void styleChosen(plotStyles style);

@@ -139,3 +139,39 @@ TEST(RunCombination, ReplacesAddsSubtractsAndToggles)
   EXPECT_EQ(combineRuns(before, hit, RunCombination::Subtract), (Bits{false, false, true, false}));
   EXPECT_EQ(combineRuns(before, hit, RunCombination::Toggle), (Bits{false, true, true, false}));
 }
+
+TEST_F(SelectedTableRuns, ListsParametersAndItemsUnderNamesThatFiltersKnow)
+{
+  ASSERT_EQ(open(), "");
+  const TableRuns runs(container());
+  EXPECT_EQ(runs.parameters(), (std::vector<int>{4, 5}));
+  EXPECT_EQ(runs.items(), (std::vector<int>{0, 1})) << "neither time nor numbers of runs";
+  std::vector<std::string> words;
+  for (const RunColumn& column : allColumnsOfRuns(runs))
+    words.push_back(column.words);
+  EXPECT_EQ(words, (std::vector<std::string>{"k", "m", "max(X)", "mean(X)", "final(X)", "max(Y)",
+                                             "mean(Y)", "final(Y)"}));
+}
+
+TEST_F(SelectedTableRuns, NamesColumnsInFullWhereTheirLabelsAreAlike)
+{
+  ASSERT_EQ(open("run,time,A [x],Reaction: A [x],k-1\n1,0,1,2,5\n1,1,2,3,5\n2,0,1,2,6\n"
+                 "2,1,0,9,6\n"),
+            "");
+  const TableRuns runs(container());
+  for (const RunColumn& column : allColumnsOfRuns(runs))
+  {
+    FilterFault fault;
+    RunFilter::read(column.words + " > 0", runs, fault);
+    EXPECT_EQ(fault.text, "") << column.words;
+    EXPECT_NE(column.words.find('"'), std::string::npos) << column.words;
+  }
+}
+
+TEST_F(SelectedTableRuns, HasNoMoreThanTheLastValueOfRunsOfOnePoint)
+{
+  ASSERT_EQ(open("run,k,X\n1,5,1\n2,6,3\n3,7,2\n"), "");
+  ASSERT_EQ(TableRuns(container()).numberOfRuns(), 3U);
+  for (const RunColumn& column : allColumnsOfRuns(TableRuns(container())))
+    EXPECT_TRUE(!column.feature || column.feature == RunFeature::Final) << column.words;
+}

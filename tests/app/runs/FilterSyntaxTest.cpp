@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 
 using Talmesh::app::deepestFilter;
@@ -104,4 +105,15 @@ TEST(FilterSyntax, ReadsLongFilters)
   EXPECT_EQ(read(repeated("not ", 20001) + "a").kind, FilterNode::Kind::Not);
   EXPECT_EQ(read(repeated("-", 20001) + "a").marks, "-");
   EXPECT_EQ(read("a > 1" + repeated(" or a > 1", 20000)).children.size(), 20001U);
+}
+
+TEST(FilterSyntax, ReadsNumbersToTheirLastDigit)
+{
+  const auto valueOf = [](const char* text) { return read(text).number; };
+  EXPECT_EQ(valueOf("3.3333333333333335"), 10.0 / 3.0);
+  EXPECT_EQ(valueOf(" 0.10000000000000001"), 0.1);
+  EXPECT_EQ(valueOf("1.7976931348623157e308"), std::numeric_limits<double>::max());
+  EXPECT_EQ(valueOf("9007199254740993"), 9007199254740992.0) << "the even one of two as near";
+  EXPECT_EQ(valueOf(".5"), 0.5);
+  EXPECT_EQ(valueOf("2. "), 2.0);
 }

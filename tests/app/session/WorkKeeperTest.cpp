@@ -47,14 +47,14 @@ protected:
   PlotContainer container{nullptr};
   bool legend = false;
   QEventLoop untilLooked;
-  WorkKeeper keeper{
-      folder.path(),
-      [this]
-      {
-        untilLooked.quit();
-        return std::optional(SessionSource{study, container, legend, false, {}, {}, {}, {}});
-      },
-      1};
+  WorkKeeper keeper{folder.path(),
+                    [this]
+                    {
+                      untilLooked.quit();
+                      return std::optional(
+                          SessionSource{study, container, legend, false, {}, {}, {}, {}, {}, {}});
+                    },
+                    1};
 };
 
 void waitForCallOf(const DiskFault& fault)

@@ -1,0 +1,40 @@
+#include "app/document/Document.h"
+#include "app/document/PlotSession.h"
+
+/// What a session keeps of a document, and brings back.
+namespace Talmesh::app
+{
+
+void Document::restore(const RestoredSession& session)
+{
+  PlotContainer& container = *shown.container;
+  restoreSettings(session, container);
+  grouped.restoreNormalised(session.settings.normalised);
+  grouped.restore(session.settings.groups);
+  keptSelections.restore(session.settings.kept);
+  // Normalising has forgotten the window.
+  restoreWindow(session, container);
+  container.withoutDrawing([&] { restoreSelection(session, container); });
+  shown.choice = restoredChoice(session, container);
+}
+
+std::optional<SessionSource> Document::sessionSource()
+{
+  const Shown& opened = shown.study.chart ? aside : shown;
+  if (!opened.container || !(opened.study.runs || opened.study.table))
+    return {};
+  SessionSource source =
+      sessionOf(opened.study, *opened.container, opened.choice, &grouped.runNormaliser());
+  source.groups = grouped.state();
+  source.kept = keptSelections.list();
+  source.words = selected.followedWords();
+  return source;
+}
+
+std::string Document::save(const QString& path, QByteArray* end)
+{
+  const std::optional<SessionSource> source = sessionSource();
+  return source ? saveSession(path, *source, end) : std::string();
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,99 @@
+#include "app/window/StepsDock.h"
+
+#include "app/document/SelectionController.h"
+#include "app/window/PanelParts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHBoxLayout>
+#include <QUndoView>
+
+namespace Talmesh::app
+{
+
+StepsDock::StepsDock(SelectionController& shown, QWidget* parent)
+    : QDockWidget(tr("Steps of the selection"), parent)
+    , selection(shown)
+{
+  setObjectName(QStringLiteral("stepsDock"));
+  auto* list = new QUndoView(&selection.undoGroup());
+  list->setObjectName(QStringLiteral("steps"));
+  list->setEmptyLabel(tr("As opened"));
+  list->setToolTip(tr("Click a step to return to what was selected then"));
+  list->setContextMenuPolicy(Qt::ActionsContextMenu);
+  list->setAlternatingRowColors(true);
+  list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  copyStepsAction = addStep(*list, tr("Copy steps"), "copySteps", &StepsDock::copySteps);
+  copyStepsAction->setToolTip(tr("Copy the steps so far, as for a description of methods"));
+  copyConditionAction =
+      addStep(*list, tr("Copy condition"), "copyCondition", &StepsDock::copyCondition);
+  copyConditionAction->setToolTip(
+      tr("Copy the condition that the selected runs meet, and no others"));
+  reuseAction =
+      addStep(*list, tr("Put into the line"), "reuseCondition", &StepsDock::reuseCondition);
+  reuseAction->setToolTip(
+      tr("Put that condition into the line \"Runs where\", to change it or to use it with another "
+         "study"));
+  auto* panel = new QWidget;
+  auto* row = new QHBoxLayout(panel);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(list, 1);
+  row->addWidget(makeButtonColumn({copyStepsAction, copyConditionAction, reuseAction}));
+  setWidget(panel);
+  connect(&selection.undoGroup(), &QUndoGroup::indexChanged, this, &StepsDock::enableSteps);
+  connect(&selection, &SelectionController::changed, this, &StepsDock::enableSteps);
+  enableSteps();
+}
+
+QAction* StepsDock::addStep(QWidget& list, const QString& text, const char* name,
+                            void (StepsDock::*slot)())
+{
+  auto* action = new QAction(text, this);
+  action->setObjectName(QLatin1String(name));
+  connect(action, &QAction::triggered, this, slot);
+  list.addAction(action);
+  return action;
+}
+
+QString StepsDock::stepsText() const
+{
+  const QUndoStack* steps = selection.undoGroup().activeStack();
+  QString text;
+  for (int step = 0; steps && step < steps->index(); ++step)
+    text += QStringLiteral("%1. %2\n").arg(step + 1).arg(steps->text(step));
+  return text + selection.summary() + QLatin1Char('\n');
+}
+
+QString StepsDock::condition() const
+{
+  return QString::fromStdString(selection.words());
+}
+
+void StepsDock::copySteps()
+{
+  QApplication::clipboard()->setText(stepsText());
+  emit said(tr("Copied the steps"));
+}
+
+void StepsDock::copyCondition()
+{
+  QApplication::clipboard()->setText(condition());
+  emit said(tr("Copied the condition"));
+}
+
+void StepsDock::reuseCondition()
+{
+  emit wordsWanted(condition());
+}
+
+void StepsDock::enableSteps()
+{
+  const QUndoStack* steps = selection.undoGroup().activeStack();
+  copyStepsAction->setEnabled(steps && steps->index() > 0);
+  const bool known = !condition().isEmpty();
+  copyConditionAction->setEnabled(known);
+  reuseAction->setEnabled(known);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,48 @@
+#ifndef StepsDock_h
+#define StepsDock_h
+
+#include <QDockWidget>
+
+class QAction;
+
+namespace Talmesh::app
+{
+
+class SelectionController;
+
+/// The panel that lists the steps which led to the selection, in words; a click returns to a step.
+class StepsDock : public QDockWidget
+{
+  Q_OBJECT
+
+public:
+  /// @param selection outlives the panel
+  explicit StepsDock(SelectionController& selection, QWidget* parent = nullptr);
+
+  /// The steps that led to what is now selected, one line each, with their numbers, and how much
+  /// that is.
+  QString stepsText() const;
+
+signals:
+  /// The user wants to do with these words something else.
+  void wordsWanted(const QString& words);
+  /// What has become of a step, in one line.
+  void said(const QString& message);
+
+private:
+  QAction* addStep(QWidget& list, const QString& text, const char* name, void (StepsDock::*slot)());
+  void copySteps();
+  void copyCondition();
+  void reuseCondition();
+  void enableSteps();
+  QString condition() const;
+
+  SelectionController& selection;
+  QAction* copyStepsAction = nullptr;
+  QAction* copyConditionAction = nullptr;
+  QAction* reuseAction = nullptr;
+};
+
+} // namespace Talmesh::app
+
+#endif
