@@ -175,7 +175,26 @@ FuzzedContainer::Actions FuzzedContainer::selectionActions()
           [&] { chooseRuns(); },
           [&] { dragMouse(); },
           [&] { dragMouse(); },
+          [&] { answerGestures(); },
           [&] { plot.annotationUpdate(); }};
+}
+
+void FuzzedContainer::answerGestures()
+{
+  PlotContainer& plot = *container;
+  plot.setSelectionTool(static_cast<Talmesh::SelectionTool>(choose.pick(3)));
+  const bool answers = choose.flip();
+  const bool redraws = choose.flip();
+  if (answers)
+    plot.setGestureHandler(
+        [&plot, redraws](const Talmesh::SelectionGesture&)
+        {
+          if (redraws)
+            plot.redraw();
+          return redraws;
+        });
+  else
+    plot.setGestureHandler(nullptr);
 }
 
 void FuzzedContainer::dragMouse()
@@ -194,9 +213,12 @@ void FuzzedContainer::dragMouse()
   mouse.SetPos(place());
   mouse.SetScreenPos(vtkVector2i(0, 0));
   chart->MouseButtonPressEvent(mouse);
-  mouse.SetLastPos(mouse.GetPos());
-  mouse.SetPos(place());
-  chart->MouseMoveEvent(mouse);
+  for (int moves = 1 + choose.pick(4); moves > 0; --moves)
+  {
+    mouse.SetLastPos(mouse.GetPos());
+    mouse.SetPos(place());
+    chart->MouseMoveEvent(mouse);
+  }
   chart->MouseButtonReleaseEvent(mouse);
   if (choose.flip())
     chart->MouseWheelEvent(mouse, choose.pick(5) - 2);

@@ -55,6 +55,7 @@ private:
   void setLists();
   void setOptions();
   void dragMouse();
+  void answerGestures();
   void chooseRuns();
   void collectClusters();
   void reload();
