@@ -6,6 +6,7 @@ import re
 import statistics
 import subprocess
 import sys
+import tempfile
 import time
 from pathlib import Path
 
@@ -43,9 +44,11 @@ def run(command):
 
 def measure_program(program, name):
     """One process per measurement: (milliseconds, counters)."""
-    text = run([str(BINARIES / program), f"--benchmark_filter=^{re.escape(name)}(/iterations:[0-9]+)?(/real_time)?$",
-                "--benchmark_format=json"])
-    result = json.loads(text)["benchmarks"][0]
+    # The library has lines of its own on the standard output.
+    with tempfile.NamedTemporaryFile(suffix=".json") as file:
+        run([str(BINARIES / program), f"--benchmark_filter=^{re.escape(name)}(/iterations:[0-9]+)?(/real_time)?$",
+             f"--benchmark_out={file.name}", "--benchmark_out_format=json"])
+        result = json.loads(Path(file.name).read_text(encoding="utf-8"))["benchmarks"][0]
     if result.get("error_occurred"):
         raise Failed(result["error_message"])
     return result["real_time"], {key: value for key, value in result.items()
