@@ -10,6 +10,8 @@
 #include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 
+#include <QIODevice>
+
 #include <algorithm>
 #include <iostream>
 #include <limits>

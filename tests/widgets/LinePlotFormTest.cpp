@@ -120,7 +120,7 @@ TEST_F(LinePlotForm, SaysThatThereAreNoData)
   EXPECT_TRUE(text.firstBlock().blockFormat().alignment() & Qt::AlignHCenter);
   const QTextCharFormat letters = text.firstBlock().begin().fragment().charFormat();
   EXPECT_EQ(letters.fontPointSize(), 24.0);
-  EXPECT_EQ(letters.fontFamily(), "Sans Serif");
+  EXPECT_EQ(letters.font().family(), "Sans Serif");
   EXPECT_TRUE(label->text().contains("font-size:9pt"));
 }
 

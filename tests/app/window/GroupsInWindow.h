@@ -105,9 +105,7 @@ protected:
 
   void press(const QKeySequence& keys)
   {
-    const int key = keys[0];
-    QTest::keyClick(&window, static_cast<Qt::Key>(key & ~Qt::KeyboardModifierMask),
-                    static_cast<Qt::KeyboardModifiers>(key & Qt::KeyboardModifierMask));
+    QTest::keySequence(&window, keys);
     QCoreApplication::processEvents();
   }
 
