@@ -28,8 +28,11 @@ set(TALMESH_PUBLIC_HEADERS
   plot/RunClustering.h
   plot/vtkSelectionUpdateCallback.h
   plot/vtkShiftScaleCallback.h
+  stats/HalfComparison.h
   stats/KolmogorovSmirnov.h
   stats/KolmogorovSmirnovFormulas.h
+  stats/ParameterComparison.h
+  stats/RunComparison.h
   vtk/CachedPoints.h
   vtk/PointCloud.h
   vtk/SelectionGesture.h

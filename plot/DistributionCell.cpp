@@ -75,6 +75,15 @@ void dressLeftAxis(const PlotState& state, vtkAxis* axis)
     fixRange(axis, 0.0, 1.0);
 }
 
+std::string testTitle(const PlotState& state, std::size_t parameter)
+{
+  if (state.parameterTests)
+    return parameter < state.parameterTests->size() ? (*state.parameterTests)[parameter].title
+                                                    : std::string();
+  return parameter < state.ksResults.size() ? pValueLabel(state.ksResults[parameter].pValue)
+                                            : std::string();
+}
+
 } // namespace
 
 std::string pValueLabel(double pValue)
@@ -98,8 +107,7 @@ void fillDistributionCell(PlotState& state, vtkChart* chart, std::size_t paramet
   addCurves(state, chart, parameterLabel(state, parameter));
   dressParameterAxis(state, chart, vtkAxis::BOTTOM, title, true);
   chart->GetAxis(vtkAxis::BOTTOM)->SetBehavior(vtkAxis::AUTO);
-  if (parameter < state.ksResults.size())
-    chart->SetTitle(pValueLabel(state.ksResults[parameter].pValue));
+  chart->SetTitle(testTitle(state, parameter));
   dressLeftAxis(state, chart->GetAxis(vtkAxis::LEFT));
 }
 

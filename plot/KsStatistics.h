@@ -2,6 +2,7 @@
 #define KsStatistics_h
 
 #include <cstddef>
+#include <string>
 
 /// Result of the two-sample Kolmogorov-Smirnov test of one parameter.
 struct KsStatistics
@@ -27,6 +28,16 @@ struct TestedSamples
 {
   TestedSample selected;
   TestedSample others;
+};
+
+/// What a client has found out about one parameter of the selected runs by a test of its own.
+struct ParameterTest
+{
+  /// In [0, 1], adjusted if the thresholds are to act on that; NaN without a test: the parameter
+  /// then does not count as different.
+  double pValue;
+  double statistic;  ///< in [0, 1], as of `KsStatistics`
+  std::string title; ///< of the parameter's chart, UTF-8
 };
 
 #endif

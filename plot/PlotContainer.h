@@ -205,6 +205,16 @@ public:
   /// Compares the parameters of two rank tables of the derived tables; fills the test results.
   /// Where either table is missing, the results are empty. Draws nothing.
   void ksTestSelection(unsigned long first, unsigned long second);
+  /// Has the selection page choose, order and title its charts by tests of the client's own, one
+  /// per parameter of the settings' list, from the next drawing on. Charts of parameters that meet
+  /// the settings' thresholds come first; these and the rest stand in the order of rising p, equal
+  /// p in that of falling statistics. What lacks an entry is not tested and has no title. The
+  /// results of the container's own tests stay what they are; without a list, as at first, the page
+  /// follows those. A copy of the container has no list.
+  ///
+  /// A client that sets them in a preparation of every drawing, see addPreparation(), has its own
+  /// numbers from the first drawing of a selection on.
+  void setParameterTests(std::optional<std::vector<ParameterTest>> tests);
   /// Rebuilds the table of quartiles per time point from the first y column. A stride below 1
   /// leaves the old one in place.
   void generateQuartiles();

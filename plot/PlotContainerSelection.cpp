@@ -118,6 +118,11 @@ void PlotContainer::ksTestSelection(unsigned long first, unsigned long second)
   Talmesh::plot::testKolmogorovSmirnov(*d, first, second);
 }
 
+void PlotContainer::setParameterTests(std::optional<std::vector<ParameterTest>> tests)
+{
+  d->parameterTests = std::move(tests);
+}
+
 void PlotContainer::generateQuartiles()
 {
   Talmesh::plot::generateQuartiles(*d);

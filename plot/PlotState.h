@@ -116,6 +116,8 @@ struct PlotState
   std::vector<KsStatistics> ksResults;
   /// The samples of those results; empty after tests that followed no selection.
   std::vector<TestedSamples> testedSamples;
+  /// What a client says of the parameters in place of those results; none if it says nothing.
+  std::optional<std::vector<ParameterTest>> parameterTests;
   /// Quartiles of the runs, one row per position within a run.
   vtkSmartPointer<vtkTable> quartileTable;
 

@@ -79,6 +79,17 @@ bool runPendingUpdate(PlotState& state)
   return state.drawings != before;
 }
 
+std::vector<std::size_t> parametersOn(const PlotState& state)
+{
+  const PlotMetaData& settings = *state.metaData;
+  const auto shown = [&settings](const auto& tests)
+  {
+    return shownParameters(tests, settings.parameterColumns.size(), settings.getPThreshold(),
+                           settings.getKsThreshold());
+  };
+  return state.parameterTests ? shown(*state.parameterTests) : shown(state.ksResults);
+}
+
 std::vector<std::string> titlesOf(const PlotState& state, const std::vector<std::size_t>& shown)
 {
   std::vector<std::string> titles;
@@ -122,9 +133,7 @@ void scaleDensities(PlotState& state, std::size_t shown)
 void drawSelectionPage(PlotState& state, vtkContextScene* scene)
 {
   const PlotMetaData& settings = *state.metaData;
-  const std::vector<std::size_t> shown =
-      shownParameters(state.ksResults, settings.parameterColumns.size(), settings.getPThreshold(),
-                      settings.getKsThreshold());
+  const std::vector<std::size_t> shown = parametersOn(state);
   const std::vector<std::string> titles = titlesOf(state, shown);
   if (scene)
     clearScene(state, scene);

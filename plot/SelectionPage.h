@@ -10,7 +10,8 @@ struct PlotState;
 
 /// Style 6: the trajectories of all runs above one chart per parameter that shows its distribution
 /// over all runs and over every further data set. Parameters whose distributions differ
-/// significantly come first. The page becomes the scene's only item.
+/// significantly come first, by the client's tests if it has handed over any. The page becomes the
+/// scene's only item.
 ///
 /// A pending update of the selection runs in here and may draw the page itself; so may whoever
 /// hears that a selection beyond the table is cut. When such a drawing has completed, this one

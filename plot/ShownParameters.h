@@ -28,6 +28,16 @@ std::vector<std::size_t> shownParameters(const std::vector<KsStatistics>& result
                                          std::size_t parameterCount, double pThreshold,
                                          double ksThreshold);
 
+/// The same by tests of a client: the significant ones first, then others until the last row of
+/// four is full, at least one row. Both are in the order of rising p, without p last; equal p in
+/// the order of falling statistics, then of the parameters, as are those without p. No position
+/// comes twice.
+/// @param tests one per parameter; those beyond `parameterCount` are ignored, missing ones count as
+///   not tested
+std::vector<std::size_t> shownParameters(const std::vector<ParameterTest>& tests,
+                                         std::size_t parameterCount, double pThreshold,
+                                         double ksThreshold);
+
 } // namespace Talmesh::plot
 
 #endif

@@ -9,16 +9,6 @@
 
 namespace Talmesh::stats
 {
-/// What is independent in a study.
-enum class IndependentUnit
-{
-  run,
-  /// The runs of equal parameters.
-  parameterSet,
-  /// The runs of a base sample of a Saltelli design.
-  baseSample
-};
-
 /// The runs of a study as units that stay together when a selection is permuted.
 ///
 /// A unit is made of cells in an order that means the same in all units of its class: a run, or the

@@ -1,31 +1,14 @@
 #ifndef GroupContrast_h
 #define GroupContrast_h
 
+#include "stats/ParameterComparison.h"
 #include "stats/TieBlocks.h"
 #include "stats/TiedKolmogorovSmirnov.h"
 
 /// How two groups of runs differ, apart from any test.
 namespace Talmesh::stats
 {
-/// Where the selected runs have their values, compared with the others.
-enum class Direction
-{
-  /// The two distribution functions are equal, or a group is empty.
-  none,
-  larger,
-  smaller,
-  /// Larger and smaller ones, or such between: the lesser of the two one-sided distances is more
-  /// than half of the greater.
-  bothWays
-};
-
 Direction directionOf(const KsDistance& distance);
-
-struct Interval
-{
-  double low = 0.0;
-  double high = 0.0;
-};
 
 /// Interval that holds the distance of the two distributions with at least the given probability,
 /// for independent runs: D -+ [sqrt(ln(4 / a) / (2 m)) + sqrt(ln(4 / a) / (2 n))], a = 1 -

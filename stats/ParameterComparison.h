@@ -1,14 +1,55 @@
 #ifndef ParameterComparison_h
 #define ParameterComparison_h
 
-#include "stats/GroupContrast.h"
-
 #include <cstddef>
 #include <limits>
+#include <vector>
 
 /// What a comparison of selected runs with the others says of one parameter.
 namespace Talmesh::stats
 {
+/// One vector per parameter, all of one length, with a value per run. NaN is a missing value.
+using ParameterColumns = std::vector<std::vector<double>>;
+
+/// What is independent in a study.
+enum class IndependentUnit
+{
+  run,
+  /// The runs of equal parameters.
+  parameterSet,
+  /// The runs of a base sample of a Saltelli design.
+  baseSample
+};
+
+/// What is compared between the selected runs and the others.
+enum class ComparedBy
+{
+  /// Largest distance of the distribution functions, D.
+  distribution,
+  /// |2 A - 1| for the probability of superiority A, as Mann and Whitney compare.
+  rankSum,
+  /// Pearson's chi-squared of the counts per value.
+  counts
+};
+
+/// Where the selected runs have their values, compared with the others.
+enum class Direction
+{
+  /// The two distribution functions are equal, or a group is empty.
+  none,
+  larger,
+  smaller,
+  /// Larger and smaller ones, or such between: the lesser of the two one-sided distances is more
+  /// than half of the greater.
+  bothWays
+};
+
+struct Interval
+{
+  double low = 0.0;
+  double high = 0.0;
+};
+
 /// How a p-value was found.
 enum class TestMethod
 {
@@ -42,6 +83,8 @@ enum class NotTested
   constant,
   /// The selection was made by this parameter.
   chosenByParameter,
+  /// The plan says so.
+  leftUntested,
   /// More values than a table of counts has rows (`mostLevels`).
   tooManyLevels,
   /// The independent units have fewer than `fewestArrangements` arrangements.
@@ -78,6 +121,8 @@ struct ParameterComparison
   /// For the number of parameters with a p; at least p.
   double adjusted = none;
   TestMethod method = TestMethod::none;
+  /// What the test compares, also by permutations.
+  ComparedBy comparedBy = ComparedBy::distribution;
   NotTested reason = NotTested::tested;
   /// Permutations behind p; 0 for other methods.
   std::size_t permutations = 0;

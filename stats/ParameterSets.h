@@ -1,6 +1,8 @@
 #ifndef ParameterSets_h
 #define ParameterSets_h
 
+#include "stats/ParameterComparison.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -8,9 +10,6 @@
 /// Runs with equal parameters.
 namespace Talmesh::stats
 {
-/// One vector per parameter, all of one length, with a value per run. NaN is a missing value.
-using ParameterColumns = std::vector<std::vector<double>>;
-
 /// Most runs that are compared: four times the square of their number fits into 64 bits.
 constexpr std::size_t mostRuns = std::size_t{1} << 30U;
 

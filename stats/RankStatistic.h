@@ -9,17 +9,6 @@
 
 namespace Talmesh::stats
 {
-/// What is compared between the selected runs and the others.
-enum class ComparedBy
-{
-  /// Largest distance of the distribution functions, D.
-  distribution,
-  /// |2 A - 1| for the probability of superiority A, as Mann and Whitney compare.
-  rankSum,
-  /// Pearson's chi-squared of the counts per value.
-  counts
-};
-
 /// The cells of a study in the ascending order of one parameter, sorted once and evaluated for
 /// selection after selection. Cells whose runs have no value are left out.
 class RankedCells

@@ -1,11 +1,14 @@
 #include "stats/RunComparison.h"
 
+#include "stats/ExchangeUnits.h"
 #include "stats/FalseDiscovery.h"
 #include "stats/FamilyWiseError.h"
+#include "stats/GroupContrast.h"
 #include "stats/LevelCounts.h"
 #include "stats/MannWhitney.h"
 #include "stats/ParallelParts.h"
 #include "stats/Quantile.h"
+#include "stats/RankStatistic.h"
 #include "stats/SelectionPermutation.h"
 
 #include <algorithm>
@@ -126,6 +129,7 @@ private:
     const TieBlocks blocks = ranked.blocks(selectedOfCell);
     ParameterComparison row = described(blocks, ranked.distinct());
     row.parameter = parameter;
+    row.comparedBy = plan.comparedBy;
     row.reason = obstacle(row);
     if (!permutes())
     {
@@ -140,13 +144,16 @@ private:
 
   NotTested obstacle(const ParameterComparison& row) const
   {
-    const auto& chosen = plan.chosenBy;
+    const auto isAmong = [&row](const std::vector<std::size_t>& parameters)
+    { return std::find(parameters.begin(), parameters.end(), row.parameter) != parameters.end(); };
     if (row.selected == 0 || row.others == 0)
       return NotTested::emptyGroup;
     if (row.levels < 2)
       return NotTested::constant;
-    if (std::find(chosen.begin(), chosen.end(), row.parameter) != chosen.end())
+    if (isAmong(plan.chosenBy))
       return NotTested::chosenByParameter;
+    if (isAmong(plan.untested))
+      return NotTested::leftUntested;
     if (plan.comparedBy == ComparedBy::counts && row.levels > mostLevels)
       return NotTested::tooManyLevels;
     if (permutes() && units.arrangements() < fewestArrangements)
@@ -263,5 +270,22 @@ RunComparison compareRuns(const ParameterColumns& columns, const std::vector<cha
   if (columns.empty())
     return {};
   return Comparer(columns, selected, plan).run();
+}
+
+bool takesTimeToCompare(const ParameterColumns& columns, const std::vector<char>& selected,
+                        const ComparisonPlan& plan)
+{
+  /// Steps of the exact test's recursion, some 0.2 s on one core.
+  constexpr double manySteps = 5e7;
+  if (!columns.empty() && runsIn(columns) != selected.size())
+    throw std::invalid_argument("a selection of another number of runs");
+  if (plan.adjustment == Adjustment::maxT || exchangeUnits(columns).kind != IndependentUnit::run)
+    return true;
+  const auto first = static_cast<double>(
+      std::count_if(selected.begin(), selected.end(), [](char run) { return run != 0; }));
+  const double steps = first * (static_cast<double>(selected.size()) - first);
+  return plan.comparedBy == ComparedBy::distribution &&
+         steps <= static_cast<double>(largestExactKs) &&
+         steps * static_cast<double>(columns.size()) > manySteps;
 }
 } // namespace Talmesh::stats

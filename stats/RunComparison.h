@@ -1,9 +1,8 @@
 #ifndef RunComparison_h
 #define RunComparison_h
 
-#include "stats/ExchangeUnits.h"
-#include "stats/ParameterComparison.h"
-#include "stats/RankStatistic.h"
+#include "../export/TalmeshPlotExport.h"
+#include "../stats/ParameterComparison.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -30,10 +29,12 @@ struct ComparisonPlan
   Adjustment adjustment = Adjustment::benjaminiHochberg;
   double confidence = 0.95;
   /// At least 9,999 are made.
-  std::size_t permutations = 9'999;
+  std::size_t permutations = 9999;
   std::uint64_t seed = 1;
   /// Parameters by which the selection was made, by position.
   std::vector<std::size_t> chosenBy;
+  /// Parameters that are described but not tested, by position.
+  std::vector<std::size_t> untested;
   /// As in `PermutationPlan`. Heard before the first parameter, too.
   std::function<bool(double)> progress;
 };
@@ -71,8 +72,15 @@ struct RunComparison
 /// @param selected an entry per run, 0 for the others
 /// @throws std::invalid_argument for columns and selections of different lengths;
 ///   std::length_error as runsIn() does
-RunComparison compareRuns(const ParameterColumns& columns, const std::vector<char>& selected,
-                          const ComparisonPlan& plan = {});
+TALMESHPLOT_EXPORT RunComparison compareRuns(const ParameterColumns& columns,
+                                             const std::vector<char>& selected,
+                                             const ComparisonPlan& plan = {});
+
+/// Whether that takes longer than a user waits without a word: with permutations, and for exact
+/// tests of large groups. O(parameters N log N). @throws as compareRuns()
+TALMESHPLOT_EXPORT bool takesTimeToCompare(const ParameterColumns& columns,
+                                           const std::vector<char>& selected,
+                                           const ComparisonPlan& plan = {});
 } // namespace Talmesh::stats
 
 #endif

@@ -57,6 +57,40 @@ TEST(ShownParameters, LeaveOutResultsOfParametersThatAreGone)
   EXPECT_EQ(shown(results(6, {0, 5}), 3), (Positions{0, 1, 2}));
 }
 
+using Tests = std::vector<ParameterTest>;
+const double untested = std::numeric_limits<double>::quiet_NaN();
+
+Positions shown(const Tests& tests, std::size_t parameters)
+{
+  return shownParameters(tests, parameters, pThreshold, ksThreshold);
+}
+
+TEST(ShownParametersOfAClient, ComeInTheOrderOfRisingPThenOfFallingDistances)
+{
+  const Tests tests = {{0.04, 0.5, {}}, {0.5, 0.3, {}},  {0.001, 0.4, {}}, {0.04, 0.6, {}},
+                       {0.3, 0.2, {}},  {0.04, 0.6, {}}, {0.9, 0.1, {}}};
+  EXPECT_EQ(shown(tests, 7), (Positions{2, 3, 5, 0}));
+  EXPECT_EQ(shown(tests, 3), (Positions{2, 0, 1}));
+}
+
+TEST(ShownParametersOfAClient, FillTheRowWithTheSmallestPThatMissAThreshold)
+{
+  const Tests tests = {{0.5, 0.3, {}},   {0.04, 0.2, {}}, {0.01, 0.05, {}},
+                       {0.03, 0.2, {}},  {0.2, 0.9, {}},  {0.02, 0.2, {}},
+                       {0.012, 0.2, {}}, {0.6, 0.9, {}},  {0.011, 0.2, {}}};
+  // The third misses the threshold of D, although its p is the smallest.
+  EXPECT_EQ(shown(tests, 9), (Positions{8, 6, 5, 3, 1, 2, 4, 0}));
+}
+
+TEST(ShownParametersOfAClient, PutThoseWithoutATestLastInTheirOrder)
+{
+  EXPECT_EQ(shown(Tests{{untested, 0.1, {}}, {0.9, 0.2, {}}, {untested, 0.9, {}}}, 4),
+            (Positions{1, 0, 2, 3}));
+  EXPECT_EQ(shown(Tests{}, 6), (Positions{0, 1, 2, 3}));
+  EXPECT_EQ(shown(Tests{{0.01, 0.9, {}}, {0.02, 0.9, {}}}, 1), Positions{0});
+  EXPECT_EQ(shown(Tests{{0.01, 0.9, {}}}, 0), Positions{});
+}
+
 TEST(ShownParameters, CountTheThresholdsThemselvesAsSignificant)
 {
   EXPECT_TRUE(Talmesh::plot::isSignificant({0.05, 0.1}, pThreshold, ksThreshold));

@@ -2,6 +2,7 @@
 
 #include "stats/FalseDiscovery.h"
 #include "stats/FamilyWiseError.h"
+#include "stats/GroupContrast.h"
 #include "stats/LevelCounts.h"
 #include "stats/MannWhitney.h"
 #include "stats/PortableRandom.h"
@@ -185,6 +186,50 @@ TEST(RunComparison, SaysWhyThereIsNoP)
   }
   // The only test is adjusted for nothing.
   EXPECT_EQ(rows[0].adjusted, rows[0].p);
+}
+
+TEST(RunComparison, DescribesWithoutATestWhatThePlanLeavesOut)
+{
+  const SimulatedStudy study = simulateStudy(StudyDesign::fiveReplicates, true, 3);
+  ComparisonPlan plan;
+  plan.untested = {0, 1, 2};
+  const RunComparison described = compareRuns(study.columns, study.selected, plan);
+  EXPECT_EQ(described.permutations, 0U);
+  EXPECT_EQ(described.units.units, 60U);
+  for (const ParameterComparison& row : described.parameters)
+  {
+    EXPECT_EQ(row.reason, NotTested::leftUntested);
+    EXPECT_TRUE(std::isnan(row.p) && std::isnan(row.adjusted));
+    EXPECT_GT(row.distance, 0.0);
+  }
+  plan.untested = {0};
+  const auto rows = compareRuns(study.columns, study.selected, plan).parameters;
+  EXPECT_TRUE(std::isnan(rows[0].p));
+  // Two tests are adjusted for two.
+  const std::vector<double> adjusted = benjaminiHochberg({rows[1].p, rows[2].p});
+  EXPECT_EQ(rows[1].adjusted, adjusted[0]);
+  EXPECT_EQ(rows[2].adjusted, adjusted[1]);
+}
+
+TEST(RunComparison, TakesTimeWithPermutationsAndForLargeGroups)
+{
+  const std::vector<double> single{1, 2, 3, 4};
+  EXPECT_FALSE(takesTimeToCompare({single}, {0, 0, 1, 1}));
+  EXPECT_TRUE(takesTimeToCompare({{1, 1, 2, 2}}, {0, 0, 1, 1}));
+  EXPECT_TRUE(
+      takesTimeToCompare({single}, {0, 0, 1, 1}, by(ComparedBy::distribution, Adjustment::maxT)));
+  std::vector<double> many(10'000);
+  std::iota(many.begin(), many.end(), 0.0);
+  std::vector<char> half(many.size(), 0);
+  std::fill_n(half.begin(), 5'000, 1);
+  EXPECT_FALSE(takesTimeToCompare({many}, half));
+  EXPECT_TRUE(takesTimeToCompare({many, many, many}, half));
+  // Above the largest exact size the test is quick again.
+  many.push_back(1e6);
+  half.push_back(1);
+  EXPECT_FALSE(takesTimeToCompare({many, many, many}, half));
+  EXPECT_FALSE(takesTimeToCompare({}, {0, 1}));
+  EXPECT_THROW(takesTimeToCompare({single}, {0}), std::invalid_argument);
 }
 
 TEST(RunComparison, DoesNotTestFewSets)
