@@ -1,5 +1,6 @@
 #include "app/Batch.h"
 
+#include "app/comparison/ComparisonFile.h"
 #include "app/document/Document.h"
 #include "app/examples/ExampleStudy.h"
 #include "app/examples/Gallery.h"
@@ -7,10 +8,14 @@
 #include "app/session/StudyFile.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <vtkContextScene.h>
+#include <vtkNew.h>
+
 #include <QFile>
 #include <QString>
 
 #include <iostream>
+#include <memory>
 
 namespace Talmesh::app
 {
@@ -32,18 +37,47 @@ std::string writeExport(const CommandLineOptions& options, VtkPlotWidget& widget
                     options.vectors);
 }
 
-std::string writeExports(const CommandLineOptions& options, const OpenedStudy& opened,
-                         const QSize& size)
+std::string writeComparison(const Comparison& comparison, const QString& path)
 {
-  auto widget = makeHiddenPlot(size);
-  Document document([&widget](PlotContainer& container)
-                    { widget->placePlotContainer(&container); });
+  switch (comparison.state)
+  {
+  case Comparison::State::noParameters:
+    return "there are no parameters of runs to compare";
+  case Comparison::State::nothingSelected:
+    return "no run is selected to be compared; name some by --select";
+  case Comparison::State::noOthers:
+    return "all runs are selected; there are none to compare them with";
+  case Comparison::State::compared:
+    break;
+  }
+  return writeText(path, commaText(comparison.parameters));
+}
+
+/// Pictures need a widget that paints; the document of tables only draws, into a scene.
+std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& opened,
+                       const QSize& size)
+{
+  const vtkNew<vtkContextScene> scene;
+  std::unique_ptr<VtkPlotWidget> widget;
+  if (options.writesPictures())
+    widget = makeHiddenPlot(size);
+  const auto stage = [&](PlotContainer& container)
+  {
+    if (widget)
+      widget->placePlotContainer(&container);
+    else
+      container.setScene(scene);
+  };
+  Document document(stage);
   std::string error = document.open(opened, options);
   if (error.empty())
     error = document.drawingError();
+  const Comparison& comparison = document.comparison().current();
   for (const std::string& path : options.exports)
     if (error.empty())
       error = writeExport(options, *widget, QFile::decodeName(path.c_str()));
+  if (error.empty() && !options.compare.empty())
+    error = writeComparison(comparison, QFile::decodeName(options.compare.c_str()));
   // What shows a container ends before it.
   widget.reset();
   return error;
@@ -69,7 +103,7 @@ std::string runBatch(const CommandLineOptions& options)
   for (const std::string& note : opened.notes)
     std::cerr << "talmesh-plot: " << note << std::endl;
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
-  std::string error = writeExports(options, opened, size);
+  std::string error = writeNamed(options, opened, size);
   if (error.empty() && !options.gallery.empty())
     error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size,
                          options.vectors, options.dotsPerInch.value_or(resolutionOfScreenPages));

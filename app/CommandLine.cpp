@@ -120,6 +120,12 @@ std::string readExport(const std::string& value, CommandLineOptions& options)
   return {};
 }
 
+std::string readCompare(const std::string& value, CommandLineOptions& options)
+{
+  options.compare = value;
+  return {};
+}
+
 std::string readGallery(const std::string& value, CommandLineOptions& options)
 {
   options.gallery = value;
@@ -193,6 +199,7 @@ constexpr Option optionsWithValue[] = {{"style", readStyle},
                                        {"z", readZ},
                                        {"select", readSelect},
                                        {"export", readExport},
+                                       {"compare", readCompare},
                                        {"gallery", readGallery},
                                        {"size", readPixels},
                                        {"paper", readPaper},

@@ -18,6 +18,8 @@ struct CommandLineOptions : OpeningWishes
 {
   /// Files to write, in order.
   std::vector<std::string> exports;
+  /// The file to write the comparison of the selected runs with the others to; empty for none.
+  std::string compare;
   /// The folder to write one picture of each view into; empty for none.
   std::string gallery;
   /// Width and height of exported pictures on paper in millimetres; 0 for the size in pixels.
@@ -30,8 +32,9 @@ struct CommandLineOptions : OpeningWishes
   bool help = false;
   bool version = false;
 
+  bool writesPictures() const { return !exports.empty() || !gallery.empty(); }
   /// Whether the program only writes files and opens no window.
-  bool writesOnly() const { return !exports.empty() || !gallery.empty(); }
+  bool writesOnly() const { return writesPictures() || !compare.empty(); }
 };
 
 /// Reads the arguments after the program's name, as the system hands them over. A value follows its

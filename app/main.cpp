@@ -100,6 +100,10 @@ int runProgram(int argc, char** argv)
   QCoreApplication::setApplicationVersion(QStringLiteral(TALMESH_VERSION));
   // Qt has options of the same names as ours, so it sees none.
   int programNameOnly = 1;
+  const bool paints = options.writesPictures() || !options.writesOnly();
+  // Tables need no display, so none is asked for.
+  if (!paints)
+    qputenv("QT_QPA_PLATFORM", "offscreen");
   ClearlyEndingApplication application(programNameOnly, argv);
   displayFound = true;
   // Starts the thread of the accessibility bus. The first window would do so when memory may be too
@@ -109,7 +113,7 @@ int runProgram(int argc, char** argv)
   // Qt takes over the user's locale, in which PDF and CSV would get decimal commas.
   std::setlocale(LC_NUMERIC, "C");
   QOpenGLContext context;
-  if (!context.create())
+  if (paints && !context.create())
     return fail("OpenGL is not available on this display");
   const int status = options.writesOnly() ? writeFiles(options) : showWindow(options);
   return application.hasFailed() ? EXIT_FAILURE : status;

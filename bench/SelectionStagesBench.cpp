@@ -1,4 +1,4 @@
-#include "app/comparison/ComparisonResults.h"
+#include "app/document/SelectionComparison.h"
 #include "app/document/ShownStudy.h"
 #include "app/examples/ExampleStudy.h"
 #include "external/PlotMetaData.h"
@@ -152,7 +152,11 @@ void selectionStages(benchmark::State& state)
             });
     measure(state, "charts", [&] { container.redraw(); });
     measure(state, "table",
-            [&] { benchmark::DoNotOptimize(Talmesh::app::comparisonOf(container)); });
+            [&]
+            {
+              benchmark::DoNotOptimize(
+                  Talmesh::app::compare(Talmesh::app::comparedStudy(container, {}), {}));
+            });
     measure(state, "drawing", [&] { window.paint(true); });
   }
 }

@@ -1,7 +1,6 @@
 #ifndef ShownParameters_h
 #define ShownParameters_h
 
-#include "export/ViewerExport.h"
 #include "plot/KsStatistics.h"
 
 #include <cstddef>
@@ -15,8 +14,7 @@ constexpr std::size_t chartsPerRow = 4;
 
 /// Whether the selected runs differ from the others by this result: p at most `pThreshold` and a
 /// distance of at least `ksThreshold`.
-TALMESHPLOT_VIEWER_EXPORT bool isSignificant(const KsStatistics& result, double pThreshold,
-                                             double ksThreshold);
+bool isSignificant(const KsStatistics& result, double pThreshold, double ksThreshold);
 
 /// The positions of the parameters to draw, in drawing order: the significant ones in parameter
 /// order, then others in parameter order until the last row of four is full, at least one row.

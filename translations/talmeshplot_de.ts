@@ -2,6 +2,162 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ComparisonText</name>
+    <message>
+        <source>larger in selected</source>
+        <translation>größer in Auswahl</translation>
+    </message>
+    <message>
+        <source>smaller in selected</source>
+        <translation>kleiner in Auswahl</translation>
+    </message>
+    <message>
+        <source>larger and smaller</source>
+        <translation>größer und kleiner</translation>
+    </message>
+    <message>
+        <source>Kolmogorov-Smirnov test, exact for the ties there are</source>
+        <translation>Kolmogorow-Smirnow-Test, exakt für die vorhandenen gleichen Werte</translation>
+    </message>
+    <message>
+        <source>Kolmogorov-Smirnov test, the limit for large groups</source>
+        <translation>Kolmogorow-Smirnow-Test, Grenzfall großer Gruppen</translation>
+    </message>
+    <message>
+        <source>Mann-Whitney test, exact for the ties there are</source>
+        <translation>Mann-Whitney-Test, exakt für die vorhandenen gleichen Werte</translation>
+    </message>
+    <message>
+        <source>Mann-Whitney test, by the normal distribution with ties</source>
+        <translation>Mann-Whitney-Test, durch die Normalverteilung mit gleichen Werten</translation>
+    </message>
+    <message>
+        <source>Fisher&apos;s exact test of the counts per value</source>
+        <translation>Exakter Test von Fisher für die Anzahlen je Wert</translation>
+    </message>
+    <message>
+        <source>Chi-squared test of the counts per value</source>
+        <translation>Chi-Quadrat-Test der Anzahlen je Wert</translation>
+    </message>
+    <message>
+        <source>Permutations of whole parameter sets</source>
+        <translation>Vertauschungen ganzer Parametersätze</translation>
+    </message>
+    <message>
+        <source>Permutations of whole base samples</source>
+        <translation>Vertauschungen ganzer Grundstichproben</translation>
+    </message>
+    <message>
+        <source>no values</source>
+        <translation>keine Werte</translation>
+    </message>
+    <message>
+        <source>constant</source>
+        <translation>konstant</translation>
+    </message>
+    <message>
+        <source>chosen by this</source>
+        <translation>hiernach gewählt</translation>
+    </message>
+    <message>
+        <source>too many values</source>
+        <translation>zu viele Werte</translation>
+    </message>
+    <message>
+        <source>too few sets</source>
+        <translation>zu wenige Sätze</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>changes in a run</source>
+        <translation>ändert sich im Lauf</translation>
+    </message>
+    <message>
+        <source>alike in first half</source>
+        <translation>gleich in 1. Hälfte</translation>
+    </message>
+    <message>
+        <source>Not tested. No selected run, or no other one, has a value.</source>
+        <translation>Nicht geprüft. Kein ausgewählter oder kein übriger Lauf hat einen Wert.</translation>
+    </message>
+    <message>
+        <source>Not tested. All runs have the same value.</source>
+        <translation>Nicht geprüft. Alle Läufe haben denselben Wert.</translation>
+    </message>
+    <message>
+        <source>Chosen by this parameter: the selection asks for its values, so a test would only say so.</source>
+        <translation>Nach diesem Parameter gewählt: Die Auswahl fragt nach seinen Werten, ein Test würde nur das sagen.</translation>
+    </message>
+    <message>
+        <source>Not tested. Counts need a parameter of at most 50 different values.</source>
+        <translation>Nicht geprüft. Anzahlen brauchen einen Parameter mit höchstens 50 verschiedenen Werten.</translation>
+    </message>
+    <message>
+        <source>Not tested. There are too few parameter sets with as many runs: no p below 0.05 exists.</source>
+        <translation>Nicht geprüft. Es gibt zu wenige Parametersätze mit gleich vielen Läufen: Kein p unter 0.05 ist möglich.</translation>
+    </message>
+    <message>
+        <source>Not tested. The test was cancelled.</source>
+        <translation>Nicht geprüft. Der Test wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Not tested. Values change within a run: the test needs one value for every run.</source>
+        <translation>Nicht geprüft. Werte ändern sich innerhalb eines Laufs: Der Test braucht einen Wert für jeden Lauf.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>Der Test läuft.</translation>
+    </message>
+    <message>
+        <source>Not tested. It does not differ in the first half.</source>
+        <translation>Nicht geprüft. In der ersten Hälfte unterscheidet er sich nicht.</translation>
+    </message>
+    <message>
+        <source>%1 sets of %2 runs</source>
+        <translation>%1 Sätze von %2 Läufen</translation>
+    </message>
+    <message>
+        <source>%1 sets of %2 to %3 runs</source>
+        <translation>%1 Sätze von %2 bis %3 Läufen</translation>
+    </message>
+    <message>
+        <source>%1 base samples of %2 runs</source>
+        <translation>%1 Grundstichproben von %2 Läufen</translation>
+    </message>
+    <message>
+        <source>%1 base samples of %2 to %3 runs</source>
+        <translation>%1 Grundstichproben von %2 bis %3 Läufen</translation>
+    </message>
+    <message>
+        <source>%1 runs</source>
+        <translation>%1 Läufe</translation>
+    </message>
+    <message>
+        <source>Tested is one half, drawn at random (seed %1): what differs in the other half.</source>
+        <translation>Geprüft wird eine zufällige Hälfte (Startwert %1): was sich in der anderen Hälfte unterscheidet.</translation>
+    </message>
+    <message>
+        <source>Independent: %1.</source>
+        <translation>Unabhängig: %1.</translation>
+    </message>
+    <message>
+        <source>%1 permutations, seed %2.</source>
+        <translation>%1 Vertauschungen, Startwert %2.</translation>
+    </message>
+    <message>
+        <source>p-values found after looking are exploratory; selections looked at so far: %1.</source>
+        <translation>Nach dem Hinsehen gefundene p-Werte sind Erkundung; bisher betrachtete Auswahlen: %1.</translation>
+    </message>
+    <message>
+        <source>adjusted p %1</source>
+        <comment>a number behind =, or an unequal sign and a number</comment>
+        <translation>berichtigtes p %1</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Table (*.csv)</source>
@@ -947,14 +1103,6 @@ p, li { white-space: pre-wrap; }
 <context>
     <name>Talmesh::app::ComparisonModel</name>
     <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nein</translation>
-    </message>
-    <message>
         <source>The parameter that was compared</source>
         <translation>Der verglichene Parameter</translation>
     </message>
@@ -963,24 +1111,12 @@ p, li { white-space: pre-wrap; }
         <translation>Parameter</translation>
     </message>
     <message>
-        <source>Largest distance of the two empirical distribution functions (two-sample Kolmogorov-Smirnov statistic)</source>
-        <translation>Größter Abstand der beiden empirischen Verteilungsfunktionen (Kolmogorow-Smirnow-Statistik zweier Stichproben)</translation>
-    </message>
-    <message>
         <source>D</source>
         <translation>D</translation>
     </message>
     <message>
-        <source>Probability of such a distance if selected and other runs do not differ</source>
-        <translation>Wahrscheinlichkeit eines solchen Abstands, wenn ausgewählte und übrige Läufe sich nicht unterscheiden</translation>
-    </message>
-    <message>
         <source>p</source>
         <translation>p</translation>
-    </message>
-    <message>
-        <source>p adjusted after Benjamini and Hochberg, because one selection tests all parameters at once</source>
-        <translation>p nach Benjamini und Hochberg korrigiert, weil eine Auswahl alle Parameter zugleich prüft</translation>
     </message>
     <message>
         <source>Adjusted p</source>
@@ -995,40 +1131,48 @@ p, li { white-space: pre-wrap; }
         <translation>Nicht ausgewählt</translation>
     </message>
     <message>
-        <source>Whether p and D meet the thresholds</source>
-        <translation>Ob p und D die Schwellen einhalten</translation>
-    </message>
-    <message>
-        <source>Significant</source>
-        <translation>Signifikant</translation>
-    </message>
-    <message>
-        <source>Not tested. Values repeat: the test needs a value of its own for every run.</source>
-        <translation>Nicht getestet. Werte wiederholen sich: der Test braucht für jeden Lauf einen eigenen Wert.</translation>
-    </message>
-    <message>
-        <source>Not tested. Values are missing: the test needs a number for every run.</source>
-        <translation>Nicht getestet. Werte fehlen: der Test braucht für jeden Lauf eine Zahl.</translation>
-    </message>
-    <message>
-        <source>Not tested. Values change within a run: the test needs one value for every run.</source>
-        <translation>Nicht getestet. Werte ändern sich innerhalb eines Laufs: der Test braucht einen Wert für jeden Lauf.</translation>
-    </message>
-    <message>
-        <source>Not tested. Another parameter changes within a run, which distorts this test.</source>
-        <translation>Nicht getestet. Ein anderer Parameter ändert sich innerhalb eines Laufs, was diesen Test verfälscht.</translation>
-    </message>
-    <message>
-        <source>not tested</source>
-        <translation>nicht getestet</translation>
-    </message>
-    <message>
         <source>Number of selected runs</source>
         <translation>Anzahl der gewählten Läufe</translation>
     </message>
     <message>
         <source>Number of runs that are not selected</source>
         <translation>Anzahl der nicht gewählten Läufe</translation>
+    </message>
+    <message>
+        <source>Where the selected runs have their values, compared with the others</source>
+        <translation>Wo die ausgewählten Läufe ihre Werte haben, verglichen mit den übrigen</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Largest distance of the two empirical distribution functions; in brackets what holds the true distance with 95 %, where the runs are independent</source>
+        <translation>Größter Abstand der beiden empirischen Verteilungsfunktionen; in Klammern, was den wahren Abstand mit 95 % enthält, wo die Läufe unabhängig sind</translation>
+    </message>
+    <message>
+        <source>Probability that the value of a selected run exceeds that of another one; ties count half</source>
+        <translation>Wahrscheinlichkeit, dass der Wert eines ausgewählten Laufs den eines übrigen übersteigt; gleiche zählen halb</translation>
+    </message>
+    <message>
+        <source>Superiority</source>
+        <translation>Überlegenheit</translation>
+    </message>
+    <message>
+        <source>Median of the selected runs less that of the others</source>
+        <translation>Median der ausgewählten Läufe weniger dem der übrigen</translation>
+    </message>
+    <message>
+        <source>Δ median</source>
+        <translation>Δ Median</translation>
+    </message>
+    <message>
+        <source>Probability of such a difference, or a larger one, if the parameter had nothing to do with the selection</source>
+        <translation>Wahrscheinlichkeit eines solchen oder größeren Unterschieds, wenn der Parameter nichts mit der Auswahl zu tun hätte</translation>
+    </message>
+    <message>
+        <source>p adjusted for the number of parameters tested; bold where it and D meet the thresholds</source>
+        <translation>p, berichtigt um die Zahl der geprüften Parameter; fett, wo es und D die Schwellen einhalten</translation>
     </message>
 </context>
 <context>
@@ -1050,20 +1194,8 @@ p, li { white-space: pre-wrap; }
         <translation>Die Läufe und jeder Parameter über jedem anderen</translation>
     </message>
     <message>
-        <source>Parameters with at most this p count as different and are shown first</source>
-        <translation>Parameter mit höchstens diesem p gelten als verschieden und werden zuerst gezeigt</translation>
-    </message>
-    <message>
         <source>Parameters with at least this Kolmogorov-Smirnov statistic D count as different</source>
         <translation>Parameter mit mindestens dieser Kolmogorow-Smirnow-Statistik D gelten als verschieden</translation>
-    </message>
-    <message>
-        <source>Largest p</source>
-        <translation>Größtes p</translation>
-    </message>
-    <message>
-        <source>Smallest D</source>
-        <translation>Kleinstes D</translation>
     </message>
     <message>
         <source>D&amp;ensities</source>
@@ -1097,6 +1229,82 @@ p, li { white-space: pre-wrap; }
         <source>Range, quartiles and median of all runs; of the runs themselves only the selected ones</source>
         <translation>Spannweite, Quartile und Median aller Läufe; von den Läufen selbst nur die ausgewählten</translation>
     </message>
+    <message>
+        <source>How selected runs are told from the others</source>
+        <translation>Wie ausgewählte Läufe von den übrigen unterschieden werden</translation>
+    </message>
+    <message>
+        <source>KS: distributions</source>
+        <translation>KS: Verteilungen</translation>
+    </message>
+    <message>
+        <source>Kolmogorov-Smirnov: any difference of the distributions, also values at both ends or in the middle</source>
+        <translation>Kolmogorow-Smirnow: jeder Unterschied der Verteilungen, auch Werte an beiden Enden oder in der Mitte</translation>
+    </message>
+    <message>
+        <source>Mann-Whitney: ranks</source>
+        <translation>Mann-Whitney: Ränge</translation>
+    </message>
+    <message>
+        <source>Whether selected runs tend to larger, or to smaller values; sharper for that, blind for differences both ways</source>
+        <translation>Ob ausgewählte Läufe zu größeren oder zu kleineren Werten neigen; dafür schärfer, blind für Unterschiede nach beiden Seiten</translation>
+    </message>
+    <message>
+        <source>Counts per value</source>
+        <translation>Anzahlen je Wert</translation>
+    </message>
+    <message>
+        <source>For parameters with few values, taken as names without an order: Fisher&apos;s exact test, or chi-squared for large tables</source>
+        <translation>Für Parameter mit wenigen Werten, die als Namen ohne Ordnung gelten: exakter Test von Fisher, bei großen Tafeln Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>What the adjusted p bounds when several parameters are tested</source>
+        <translation>Was das berichtigte p begrenzt, wenn mehrere Parameter geprüft werden</translation>
+    </message>
+    <message>
+        <source>BH: false discoveries</source>
+        <translation>BH: falsche Funde</translation>
+    </message>
+    <message>
+        <source>Benjamini and Hochberg: the expected part of false ones among all that are found</source>
+        <translation>Benjamini und Hochberg: der erwartete Anteil falscher unter allen gefundenen</translation>
+    </message>
+    <message>
+        <source>Holm: any false one</source>
+        <translation>Holm: jeden falschen</translation>
+    </message>
+    <message>
+        <source>Holm: the probability that any found one is false</source>
+        <translation>Holm: die Wahrscheinlichkeit, dass irgendein gefundener falsch ist</translation>
+    </message>
+    <message>
+        <source>maxT: any false one</source>
+        <translation>maxT: jeden falschen</translation>
+    </message>
+    <message>
+        <source>Westfall and Young: the same by permutations, less strict where parameters hang together</source>
+        <translation>Westfall und Young: dasselbe durch Vertauschungen, weniger streng, wo Parameter zusammenhängen</translation>
+    </message>
+    <message>
+        <source>Parameters with at most this adjusted p count as different and are shown first</source>
+        <translation>Parameter mit höchstens diesem berichtigten p gelten als verschieden und werden zuerst gezeigt</translation>
+    </message>
+    <message>
+        <source>Adjusted p ≤</source>
+        <translation>Berichtigtes p ≤</translation>
+    </message>
+    <message>
+        <source>D ≥</source>
+        <translation>D ≥</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k in halves</source>
+        <translation>In &amp;Hälften prüfen</translation>
+    </message>
+    <message>
+        <source>The honest check of what was found by looking: split the parameter sets at random, keep what differs in one half, and test that in the other</source>
+        <translation>Die ehrliche Probe dessen, was beim Hinsehen gefunden wurde: die Parametersätze zufällig teilen, behalten, was sich in der einen Hälfte unterscheidet, und das in der anderen prüfen</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::ComparisonTable</name>
@@ -1107,10 +1315,6 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Nothing is selected. Drag a rectangle over some runs with the right mouse button to compare their parameters with those of the other runs.</source>
         <translation>Nichts ist ausgewählt. Ziehen Sie mit der rechten Maustaste ein Rechteck über einige Läufe, um ihre Parameter mit denen der übrigen zu vergleichen.</translation>
-    </message>
-    <message>
-        <source>No run is selected at every time that the selection covers.</source>
-        <translation>Kein Lauf ist zu jeder Zeit ausgewählt, die die Auswahl umfasst.</translation>
     </message>
     <message>
         <source>All runs are selected; there are none to compare them with.</source>

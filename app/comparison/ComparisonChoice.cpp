@@ -4,9 +4,26 @@
 #include "plot/PlotContainer.h"
 
 #include <QSignalBlocker>
+#include <QVariant>
 
 namespace Talmesh::app
 {
+
+namespace
+{
+
+constexpr const char* comparedByProperty = "talmeshComparedBy";
+constexpr const char* adjustmentProperty = "talmeshAdjustment";
+constexpr const char* halvesProperty = "talmeshHalves";
+
+/// No property is 0, the first enumerator.
+template <typename Enumeration>
+Enumeration propertyOf(const PlotContainer& container, const char* name)
+{
+  return static_cast<Enumeration>(container.property(name).toInt());
+}
+
+} // namespace
 
 ComparisonChoice comparisonChoiceOf(const PlotContainer& container)
 {
@@ -18,6 +35,9 @@ ComparisonChoice comparisonChoiceOf(const PlotContainer& container)
   choice.commonDensityScale = settings.getCommonDensityScale();
   choice.logParameterAxes = settings.getLogParameterAxes();
   choice.bands = settings.getShowQuantiles();
+  choice.comparedBy = propertyOf<stats::ComparedBy>(container, comparedByProperty);
+  choice.adjustment = propertyOf<stats::Adjustment>(container, adjustmentProperty);
+  choice.halves = container.property(halvesProperty).toBool();
   return choice;
 }
 
@@ -32,6 +52,9 @@ void writeComparisonChoice(PlotContainer& container, const ComparisonChoice& cho
   settings.setCommonDensityScale(choice.commonDensityScale);
   settings.setLogParameterAxes(choice.logParameterAxes);
   settings.setShowQuantiles(choice.bands);
+  container.setProperty(comparedByProperty, static_cast<int>(choice.comparedBy));
+  container.setProperty(adjustmentProperty, static_cast<int>(choice.adjustment));
+  container.setProperty(halvesProperty, choice.halves);
 }
 
 void refreshQuartiles(PlotContainer& container)

@@ -1,6 +1,9 @@
 #ifndef ComparisonChoice_h
 #define ComparisonChoice_h
 
+#include "stats/ParameterComparison.h"
+#include "stats/RunComparison.h"
+
 class PlotContainer;
 
 namespace Talmesh::app
@@ -9,7 +12,7 @@ namespace Talmesh::app
 /// What the user chooses of a comparison of selected runs with the others.
 struct ComparisonChoice
 {
-  /// The largest p-value and the smallest statistic that count as a difference, each 0 to 1.
+  /// The largest adjusted p and the smallest D that count as a difference, each 0 to 1.
   double pThreshold = 0.05;
   double ksThreshold = 0.0;
   /// Densities instead of empirical distribution functions.
@@ -19,9 +22,15 @@ struct ComparisonChoice
   bool logParameterAxes = false;
   /// The bands between the quartiles and between the extremes of the runs, with their median.
   bool bands = false;
+  /// What the test compares, and for what its p is adjusted.
+  stats::ComparedBy comparedBy = stats::ComparedBy::distribution;
+  stats::Adjustment adjustment = stats::Adjustment::benjaminiHochberg;
+  /// Tests one half of the runs, drawn at random, for what differs in the other.
+  bool halves = false;
 };
 
-/// What a container's settings say.
+/// What a container's settings say. Those that the library does not know of are the viewer's own
+/// properties of the container, and those of the default without any.
 ComparisonChoice comparisonChoiceOf(const PlotContainer& container);
 
 /// Writes the choice into a container's settings. Does not draw.

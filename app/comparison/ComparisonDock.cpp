@@ -35,12 +35,13 @@ ComparisonDock::ComparisonDock(QWidget* parent)
   connect(results, &ComparisonTable::failed, this, &ComparisonDock::failed);
 }
 
-void ComparisonDock::refresh(const PlotContainer& container)
+void ComparisonDock::refresh(const PlotContainer& container, const Comparison& comparison,
+                             std::size_t selections)
 {
   const PlotMetaData& values = *container.getMetaData();
   settings->setChoice(comparisonChoiceOf(container), values.getPlotStyle(),
                       !values.parameterColumns.empty());
-  results->setComparison(comparisonOf(container));
+  results->setComparison(comparison, selections);
 }
 
 ComparisonChoice ComparisonDock::choice() const

@@ -6,9 +6,12 @@
 
 #include <QDockWidget>
 
+#include <cstddef>
+
 namespace Talmesh::app
 {
 
+struct Comparison;
 class ComparisonSettings;
 class ComparisonTable;
 
@@ -20,8 +23,10 @@ class ComparisonDock : public QDockWidget
 public:
   explicit ComparisonDock(QWidget* parent = nullptr);
 
-  /// Shows settings and results of a container. Emits nothing.
-  void refresh(const PlotContainer& container);
+  /// Shows settings of a container and a comparison of its runs. Emits nothing.
+  /// @param selections how many selections the user has looked at
+  void refresh(const PlotContainer& container, const Comparison& comparison,
+               std::size_t selections);
   /// What the controls say.
   ComparisonChoice choice() const;
   ComparisonTable* table() const { return results; }

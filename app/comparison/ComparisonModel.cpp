@@ -1,7 +1,8 @@
 #include "app/comparison/ComparisonModel.h"
 
+#include "app/comparison/ComparisonText.h"
+
 #include <QFont>
-#include <QLocale>
 
 #include <cmath>
 
@@ -11,58 +12,93 @@ namespace Talmesh::app
 namespace
 {
 
-/// As many digits as a reader compares; very small p-values by their power of ten.
-QString shortNumber(double value)
+constexpr int allDigits = 17;
+
+bool isOfTest(int column)
 {
-  constexpr double smallest = 0.001;
-  const bool scientific = value != 0.0 && std::abs(value) < smallest;
-  return QString::number(value, scientific ? 'e' : 'f', scientific ? 2 : 3);
+  return column == ComparisonModel::PValue || column == ComparisonModel::AdjustedPValue;
 }
 
-QString shown(const QVariant& value)
+bool isText(int column)
 {
-  return value.userType() == QMetaType::Double ? shortNumber(value.toDouble()) : value.toString();
+  return column == ComparisonModel::Name || column == ComparisonModel::DirectionOfDifference;
 }
 
-QString full(const QVariant& value)
+/// NaN for a column of text.
+double numberIn(const stats::ParameterComparison& result, int column)
 {
-  return value.userType() == QMetaType::Double
-             ? QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest)
-             : value.toString();
-}
-
-QVariant sortable(const QVariant& value)
-{
-  const bool nan = value.userType() == QMetaType::Double && std::isnan(value.toDouble());
-  return nan ? QVariant() : value;
-}
-
-bool isResult(int column)
-{
-  return column == ComparisonModel::Statistic || column == ComparisonModel::PValue ||
-         column == ComparisonModel::AdjustedPValue || column == ComparisonModel::Significant;
-}
-
-QString reasonOf(TestObstacle obstacle)
-{
-  switch (obstacle)
+  switch (column)
   {
-  case TestObstacle::repeatedValues:
-    return ComparisonModel::tr(
-        "Not tested. Values repeat: the test needs a value of its own for every run.");
-  case TestObstacle::missingValues:
-    return ComparisonModel::tr("Not tested. Values are missing: the test needs a number for every "
-                               "run.");
-  case TestObstacle::changingValues:
-    return ComparisonModel::tr("Not tested. Values change within a run: the test needs one value "
-                               "for every run.");
-  case TestObstacle::otherParameter:
-    return ComparisonModel::tr("Not tested. Another parameter changes within a run, which "
-                               "distorts this test.");
-  case TestObstacle::none:
-    break;
+  case ComparisonModel::Statistic:
+    return result.distance;
+  case ComparisonModel::Superiority:
+    return result.superiority;
+  case ComparisonModel::MedianDifference:
+    return result.medianDifference;
+  case ComparisonModel::PValue:
+    return result.p;
+  case ComparisonModel::AdjustedPValue:
+    return result.adjusted;
+  case ComparisonModel::Selected:
+    return static_cast<double>(result.selected);
+  case ComparisonModel::Others:
+    return static_cast<double>(result.others);
+  default:
+    return stats::ParameterComparison::none;
   }
-  return {};
+}
+
+QString cellText(const ComparedParameter& parameter, int column)
+{
+  const stats::ParameterComparison& result = parameter.result;
+  switch (column)
+  {
+  case ComparisonModel::Name:
+    return QString::fromStdString(parameter.name);
+  case ComparisonModel::DirectionOfDifference:
+    return directionText(result.direction);
+  case ComparisonModel::Statistic:
+    return distanceText(result);
+  case ComparisonModel::PValue:
+    return pText(result);
+  case ComparisonModel::AdjustedPValue:
+    return adjustedText(result);
+  case ComparisonModel::Selected:
+    return QString::number(result.selected);
+  case ComparisonModel::Others:
+    return QString::number(result.others);
+  default:
+    return numberText(numberIn(result, column));
+  }
+}
+
+/// In place of p why there is none.
+QString shownText(const ComparedParameter& parameter, int column)
+{
+  const bool lacksP = column == ComparisonModel::PValue && parameter.obstacle != TestObstacle::none;
+  const QString text = lacksP ? obstacleLabel(parameter.obstacle) : cellText(parameter, column);
+  return text.isEmpty() ? QString(QChar(0x2013)) : text; // en dash
+}
+
+QString tipText(const ComparedParameter& parameter, int column)
+{
+  if (isText(column))
+    return cellText(parameter, column);
+  if (isOfTest(column) && parameter.obstacle != TestObstacle::none)
+    return obstacleText(parameter.obstacle);
+  const double number = numberIn(parameter.result, column);
+  QString tip = std::isnan(number) ? QString() : QString::number(number, 'g', allDigits);
+  if (column == ComparisonModel::PValue)
+    tip += QLatin1Char('\n') + methodText(parameter.result.method);
+  return tip;
+}
+
+QVariant sortedBy(const ComparedParameter& parameter, int column)
+{
+  if (isText(column))
+    return cellText(parameter, column);
+  const double number = numberIn(parameter.result, column);
+  return std::isnan(number) ? QVariant() : QVariant(number);
 }
 
 } // namespace
@@ -84,67 +120,25 @@ int ComparisonModel::columnCount(const QModelIndex& parent) const
   return parent.isValid() ? 0 : static_cast<int>(columns);
 }
 
-QVariant ComparisonModel::valueAt(const ComparedParameter& parameter, int column) const
-{
-  switch (column)
-  {
-  case Name:
-    return QString::fromStdString(parameter.name);
-  case Statistic:
-    return parameter.statistic;
-  case PValue:
-    return parameter.pValue;
-  case AdjustedPValue:
-    return parameter.adjustedPValue;
-  case Selected:
-    return static_cast<qulonglong>(parameter.selected);
-  case Others:
-    return static_cast<qulonglong>(parameter.others);
-  case Significant:
-    return parameter.significant ? tr("yes") : tr("no");
-  default:
-    return {};
-  }
-}
-
-QVariant ComparisonModel::untested(const ComparedParameter& parameter, int column, int role)
-{
-  switch (role)
-  {
-  case Qt::DisplayRole:
-    return QString(QChar(0x2013)); // en dash
-  case FullTextRole:
-    return column == Significant ? tr("not tested") : QString();
-  case Qt::ToolTipRole:
-    return reasonOf(parameter.obstacle);
-  default:
-    return {};
-  }
-}
-
 QVariant ComparisonModel::data(const QModelIndex& index, int role) const
 {
   if (!index.isValid() || index.row() >= rowCount())
     return {};
-  const ComparedParameter& parameter = parameters[static_cast<std::size_t>(index.row())];
-  if (role == Qt::TextAlignmentRole)
-    return int(Qt::AlignVCenter | (index.column() == Name ? Qt::AlignLeft : Qt::AlignRight));
-  if (parameter.obstacle != TestObstacle::none && isResult(index.column()))
-    return untested(parameter, index.column(), role);
-  const QVariant value = valueAt(parameter, index.column());
+  const ComparedParameter& shown = parameter(index.row());
   switch (role)
   {
   case Qt::DisplayRole:
-    return shown(value);
+    return shownText(shown, index.column());
   case SortRole:
-    return sortable(value);
+    return sortedBy(shown, index.column());
   case Qt::ToolTipRole:
-  case FullTextRole:
-    return full(value);
+    return tipText(shown, index.column());
+  case Qt::TextAlignmentRole:
+    return int(Qt::AlignVCenter | (isText(index.column()) ? Qt::AlignLeft : Qt::AlignRight));
   case Qt::FontRole:
   {
     QFont font;
-    font.setBold(parameter.significant);
+    font.setBold(shown.significant);
     return font;
   }
   default:
@@ -161,23 +155,31 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
   {
   case Name:
     return tip ? tr("The parameter that was compared") : tr("Parameter");
+  case DirectionOfDifference:
+    return tip ? tr("Where the selected runs have their values, compared with the others")
+               : tr("Direction");
   case Statistic:
-    return tip ? tr("Largest distance of the two empirical distribution functions "
-                    "(two-sample Kolmogorov-Smirnov statistic)")
+    return tip ? tr("Largest distance of the two empirical distribution functions; in brackets "
+                    "what holds the true distance with 95 %, where the runs are independent")
                : tr("D");
+  case Superiority:
+    return tip ? tr("Probability that the value of a selected run exceeds that of another one; "
+                    "ties count half")
+               : tr("Superiority");
+  case MedianDifference:
+    return tip ? tr("Median of the selected runs less that of the others") : tr("\u0394 median");
   case PValue:
-    return tip ? tr("Probability of such a distance if selected and other runs do not differ")
+    return tip ? tr("Probability of such a difference, or a larger one, if the parameter had "
+                    "nothing to do with the selection")
                : tr("p");
   case AdjustedPValue:
-    return tip ? tr("p adjusted after Benjamini and Hochberg, because one selection tests all "
-                    "parameters at once")
+    return tip ? tr("p adjusted for the number of parameters tested; bold where it and D meet the "
+                    "thresholds")
                : tr("Adjusted p");
   case Selected:
     return tip ? tr("Number of selected runs") : tr("Selected");
   case Others:
     return tip ? tr("Number of runs that are not selected") : tr("Not selected");
-  case Significant:
-    return tip ? tr("Whether p and D meet the thresholds") : tr("Significant");
   default:
     return {};
   }

@@ -8,8 +8,8 @@
 namespace Talmesh::app
 {
 
-/// A comparison as a table: one row per parameter. A parameter that was not tested has dashes for
-/// the results, and the reason as their tool tip.
+/// A comparison as a table: one row per parameter, bold where it differs. A parameter that was not
+/// tested has the reason in place of p, in full as its tool tip.
 class ComparisonModel : public QAbstractTableModel
 {
   Q_OBJECT
@@ -18,26 +18,27 @@ public:
   enum Column
   {
     Name,
+    DirectionOfDifference,
     Statistic,
+    Superiority,
+    MedianDifference,
     PValue,
     AdjustedPValue,
     Selected,
     Others,
-    Significant,
     columns
   };
 
-  enum Role
-  {
-    /// What rows are ordered by: numbers as numbers. No value for NaN and for what was not tested.
-    SortRole = Qt::UserRole,
-    /// The value in full, as text for other programs. Empty for numbers that were not computed.
-    FullTextRole
-  };
+  /// What rows are ordered by: numbers as numbers. No value for what there is not.
+  static constexpr int SortRole = Qt::UserRole;
 
   using QAbstractTableModel::QAbstractTableModel;
 
   void setParameters(std::vector<ComparedParameter> compared);
+  const ComparedParameter& parameter(int row) const
+  {
+    return parameters[static_cast<std::size_t>(row)];
+  }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -45,9 +46,6 @@ public:
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-  static QVariant untested(const ComparedParameter& parameter, int column, int role);
-  QVariant valueAt(const ComparedParameter& parameter, int column) const;
-
   std::vector<ComparedParameter> parameters;
 };
 

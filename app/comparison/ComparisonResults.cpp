@@ -1,20 +1,10 @@
 #include "app/comparison/ComparisonResults.h"
 
-#include "app/import/ColumnRoles.h"
-#include "external/PlotMetaData.h"
-#include "plot/DerivedTables.h"
-#include "plot/PlotContainer.h"
-#include "plot/ShownParameters.h"
-#include "plot/TableColumns.h"
-#include "stats/FalseDiscovery.h"
-
-#include <vtkIntArray.h>
-#include <vtkSmartPointer.h>
-#include <vtkTable.h>
+#include "stats/HalfComparison.h"
 
 #include <algorithm>
-#include <limits>
-#include <optional>
+#include <cstring>
+#include <numeric>
 
 namespace Talmesh::app
 {
@@ -22,99 +12,169 @@ namespace Talmesh::app
 namespace
 {
 
-/// Where the reaction to a selection puts the rank tables of the two groups of runs.
-constexpr std::size_t selectedRanks = plot::rankSlot(1);
-constexpr std::size_t otherRanks = plot::rankSlot(2);
+using Positions = std::vector<std::size_t>;
 
-bool isAnyRowSelected(const PlotContainer& container)
+bool isAmong(const Positions& positions, std::size_t position)
 {
-  const auto flags = vtkSmartPointer<vtkIntArray>::Take(container.getCurrentSelection());
-  if (!flags)
-    return false;
-  const int* first = flags->GetPointer(0);
-  const int* end = first + flags->GetNumberOfValues();
-  return std::find(first, end, 1) != end;
+  return std::find(positions.begin(), positions.end(), position) != positions.end();
 }
 
-vtkTable* derivedTable(const PlotContainer& container, std::size_t slot)
+/// The parameters that have a value of each run. What changes within a run would tear apart what
+/// has equal parameters.
+Positions usable(const ComparedStudy& study)
 {
-  return plot::tableInSlot(container.getDerivedTables(), slot);
+  Positions positions;
+  for (std::size_t k = 0; k < study.columns.size(); ++k)
+    if (!isAmong(study.changing, k))
+      positions.push_back(k);
+  return positions;
 }
 
-/// What keeps the values of a parameter in one group from being a sample of its runs.
-TestObstacle obstacleIn(const TestedSample& sample)
+stats::ParameterColumns columnsOf(const ComparedStudy& study)
 {
-  // Missing values do not count as distinct ones.
-  if (sample.values < sample.runs)
-    return sample.lacksValues ? TestObstacle::missingValues : TestObstacle::repeatedValues;
-  if (sample.values > sample.runs)
-    return TestObstacle::changingValues;
-  return sample.filledUp ? TestObstacle::otherParameter : TestObstacle::none;
+  stats::ParameterColumns columns;
+  for (const std::size_t k : usable(study))
+    columns.push_back(study.columns[k]);
+  return columns;
 }
 
-/// Nothing for a parameter that was not compared.
-std::optional<ComparedParameter> resultOf(const PlotContainer& container, std::size_t k)
+stats::ComparisonPlan planOf(const ComparedStudy& study, const ComparisonChoice& choice)
 {
-  const PlotMetaData& settings = *container.getMetaData();
-  const TestedSamples& samples = container.getTestedSamples()[k];
-  if (!samples.selected.ranked || !samples.others.ranked)
-    return {};
-  ComparedParameter result;
-  result.name = shownName(plot::columnName(container.getTable(), settings.parameterColumns[k]));
-  result.selected = samples.selected.runs;
-  result.others = samples.others.runs;
-  result.obstacle = obstacleIn(samples.selected);
-  if (result.obstacle == TestObstacle::none)
-    result.obstacle = obstacleIn(samples.others);
-  KsStatistics test = container.getKsResults()[k];
-  if (result.obstacle != TestObstacle::none)
-    test.statistic = test.pValue = std::numeric_limits<double>::quiet_NaN();
-  result.statistic = test.statistic;
-  result.pValue = test.pValue;
-  result.significant =
-      plot::isSignificant(test, settings.getPThreshold(), settings.getKsThreshold());
-  return result;
+  stats::ComparisonPlan plan;
+  plan.comparedBy = choice.comparedBy;
+  plan.adjustment = choice.adjustment;
+  const Positions positions = usable(study);
+  for (std::size_t k = 0; k < positions.size(); ++k)
+    if (isAmong(study.chosenBy, positions[k]))
+      plan.chosenBy.push_back(k);
+  return plan;
 }
 
-void adjust(std::vector<ComparedParameter>& parameters)
+TestObstacle obstacleOf(stats::NotTested reason)
 {
-  std::vector<double> pValues;
-  for (const ComparedParameter& parameter : parameters)
-    pValues.push_back(parameter.pValue);
-  const std::vector<double> adjusted = stats::benjaminiHochberg(pValues);
-  for (std::size_t k = 0; k < parameters.size(); ++k)
-    parameters[k].adjustedPValue = adjusted[k];
+  switch (reason)
+  {
+  case stats::NotTested::emptyGroup:
+    return TestObstacle::emptyGroup;
+  case stats::NotTested::constant:
+    return TestObstacle::constant;
+  case stats::NotTested::chosenByParameter:
+    return TestObstacle::chosenByParameter;
+  case stats::NotTested::leftUntested:
+    return TestObstacle::alikeInFirstHalf;
+  case stats::NotTested::tooManyLevels:
+    return TestObstacle::tooManyLevels;
+  case stats::NotTested::tooFewUnits:
+    return TestObstacle::tooFewUnits;
+  case stats::NotTested::cancelled:
+    return TestObstacle::cancelled;
+  case stats::NotTested::tested:
+    break;
+  }
+  return TestObstacle::none;
+}
+
+bool differs(const stats::ParameterComparison& row, const ComparisonChoice& choice)
+{
+  return row.adjusted <= choice.pThreshold && row.distance >= choice.ksThreshold;
+}
+
+Comparison comparisonOf(const ComparedStudy& study, const ComparisonChoice& choice,
+                        const stats::RunComparison& results)
+{
+  Comparison comparison;
+  comparison.state = Comparison::State::compared;
+  comparison.units = results.units;
+  comparison.seed = results.seed;
+  comparison.permutations = results.permutations;
+  for (const std::string& name : study.names)
+    comparison.parameters.push_back({name, {}, TestObstacle::changingValues, false});
+  const Positions positions = usable(study);
+  for (std::size_t k = 0; k < results.parameters.size(); ++k)
+  {
+    ComparedParameter& row = comparison.parameters[positions[k]];
+    row.result = results.parameters[k];
+    row.obstacle = obstacleOf(row.result.reason);
+  }
+  for (std::size_t k = 0; k < comparison.parameters.size(); ++k)
+    comparison.parameters[k].result.parameter = k;
+  applyThresholds(comparison, choice);
+  return comparison;
+}
+
+/// Missing values are equal, unlike 0 and -0.
+bool areEqual(const std::vector<double>& one, const std::vector<double>& other)
+{
+  return one.size() == other.size() &&
+         (one.empty() || std::memcmp(one.data(), other.data(), one.size() * sizeof(double)) == 0);
 }
 
 } // namespace
 
-void dropOutdatedTests(PlotContainer& container)
+bool operator==(const ComparedStudy& one, const ComparedStudy& other)
 {
-  if (!derivedTable(container, selectedRanks) || !derivedTable(container, otherRanks))
-    container.ksTestSelection(selectedRanks, otherRanks);
+  return one.names == other.names && one.changing == other.changing &&
+         one.selected == other.selected && one.chosenBy == other.chosenBy &&
+         std::equal(one.columns.begin(), one.columns.end(), other.columns.begin(),
+                    other.columns.end(), areEqual);
 }
 
-Comparison comparisonOf(const PlotContainer& container)
+Comparison::State comparisonState(const ComparedStudy& study)
 {
   using State = Comparison::State;
-  if (container.getMetaData()->parameterColumns.empty())
-    return {State::noParameters, {}};
-  if (!isAnyRowSelected(container))
-    return {State::nothingSelected, {}};
-  Comparison comparison;
-  comparison.state = State::compared;
-  const std::size_t tested =
-      std::min({container.getKsResults().size(), container.getTestedSamples().size(),
-                container.getMetaData()->parameterColumns.size()});
-  for (std::size_t k = 0; k < tested; ++k)
-    if (const std::optional<ComparedParameter> result = resultOf(container, k))
-      comparison.parameters.push_back(*result);
-  if (comparison.parameters.empty())
-    return {State::noRunSelected, {}};
-  if (comparison.parameters.front().others == 0)
-    return {State::noOthers, {}};
-  adjust(comparison.parameters);
+  if (study.names.empty() || study.selected.empty())
+    return State::noParameters;
+  const auto selected = std::count(study.selected.begin(), study.selected.end(), 0);
+  if (selected == static_cast<std::ptrdiff_t>(study.selected.size()))
+    return State::nothingSelected;
+  return selected == 0 ? State::noOthers : State::compared;
+}
+
+bool takesTime(const ComparedStudy& study, const ComparisonChoice& choice)
+{
+  return stats::takesTimeToCompare(columnsOf(study), study.selected, planOf(study, choice));
+}
+
+Comparison compare(const ComparedStudy& study, const ComparisonChoice& choice,
+                   const std::function<bool(double)>& progress)
+{
+  const Comparison::State state = comparisonState(study);
+  Comparison nothing;
+  nothing.state = state;
+  if (state != Comparison::State::compared)
+    return nothing;
+  stats::ComparisonPlan plan = planOf(study, choice);
+  plan.progress = progress;
+  if (!choice.halves)
+    return comparisonOf(study, choice, stats::compareRuns(columnsOf(study), study.selected, plan));
+  const stats::HalfComparison halves =
+      stats::compareHalves(columnsOf(study), study.selected, plan,
+                           [&choice](const auto& row) { return differs(row, choice); });
+  Comparison comparison = comparisonOf(study, choice, halves.tested);
+  comparison.halved = true;
+  comparison.seedOfHalves = plan.seed;
   return comparison;
+}
+
+Comparison describe(const ComparedStudy& study, const ComparisonChoice& choice, TestObstacle why)
+{
+  stats::ComparisonPlan plan = planOf(study, choice);
+  plan.adjustment = stats::Adjustment::benjaminiHochberg;
+  plan.untested.resize(study.columns.size());
+  std::iota(plan.untested.begin(), plan.untested.end(), std::size_t{0});
+  Comparison comparison =
+      comparisonOf(study, choice, stats::compareRuns(columnsOf(study), study.selected, plan));
+  for (ComparedParameter& row : comparison.parameters)
+    if (row.obstacle == TestObstacle::alikeInFirstHalf)
+      row.obstacle = why;
+  comparison.pending = why == TestObstacle::pending;
+  return comparison;
+}
+
+void applyThresholds(Comparison& comparison, const ComparisonChoice& choice)
+{
+  for (ComparedParameter& row : comparison.parameters)
+    row.significant = differs(row.result, choice);
 }
 
 } // namespace Talmesh::app

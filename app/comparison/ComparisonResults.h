@@ -1,28 +1,51 @@
 #ifndef ComparisonResults_h
 #define ComparisonResults_h
 
+#include "app/comparison/ComparisonChoice.h"
+#include "stats/RunComparison.h"
+
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
-
-class PlotContainer;
 
 namespace Talmesh::app
 {
 
-/// What keeps a parameter from being tested. The samples are lists of distinct values, all as long
-/// as the longest one, so they are those of the runs only if every run has a value of its own.
+/// What there is to compare: the parameters of a study's runs and which runs are selected.
+struct ComparedStudy
+{
+  /// One per parameter, without its kind.
+  std::vector<std::string> names;
+  /// Parameters that change within a run, by position; there is no value of the run then, and their
+  /// columns do not count.
+  std::vector<std::size_t> changing;
+  /// One per parameter.
+  stats::ParameterColumns columns;
+  /// An entry per run.
+  std::vector<char> selected;
+  /// Parameters that the selection itself asks about, by position.
+  std::vector<std::size_t> chosenBy;
+};
+
+bool operator==(const ComparedStudy& one, const ComparedStudy& other);
+
+/// Why a parameter has no p.
 enum class TestObstacle
 {
   none,
-  /// Runs of one group share a value.
-  repeatedValues,
-  /// A run has no number.
-  missingValues,
+  emptyGroup,
+  constant,
+  chosenByParameter,
+  tooManyLevels,
+  tooFewUnits,
+  cancelled,
   /// A run has several values.
   changingValues,
-  /// Another parameter has more values than there are runs, and so fills up this one's.
-  otherParameter
+  /// The test is not through.
+  pending,
+  /// The other half of the runs gave no reason to test it.
+  alikeInFirstHalf
 };
 
 /// How one parameter of the selected runs differs from that of the other runs.
@@ -30,22 +53,13 @@ struct ComparedParameter
 {
   /// Without its kind.
   std::string name;
-  /// Largest distance of the two empirical distribution functions, 0 to 1; NaN if not tested.
-  double statistic = 0.0;
-  /// Probability of such a distance between samples of one distribution; NaN if not tested.
-  double pValue = 1.0;
-  /// The same, adjusted after Benjamini and Hochberg for the number of parameters tested.
-  double adjustedPValue = 1.0;
-  /// Numbers of the selected and of the other runs.
-  std::size_t selected = 0;
-  std::size_t others = 0;
-  /// Whether both thresholds of the settings are met. It goes by the p-value as it is, as the
-  /// order of the charts does.
-  bool significant = false;
+  stats::ParameterComparison result;
   TestObstacle obstacle = TestObstacle::none;
+  /// Whether adjusted p and D meet the thresholds.
+  bool significant = false;
 };
 
-/// What a container says of its selection.
+/// What can be said of a selection.
 struct Comparison
 {
   enum class State
@@ -53,22 +67,41 @@ struct Comparison
     compared,
     noParameters,
     nothingSelected,
-    /// Rows are selected, but no run at every selected time.
-    noRunSelected,
     noOthers
   };
 
   State state = State::noParameters;
   /// In the order of the parameters; empty unless something was compared.
   std::vector<ComparedParameter> parameters;
+  stats::UnitSummary units;
+  /// Of the permutations, if any were made.
+  std::uint64_t seed = 0;
+  std::size_t permutations = 0;
+  /// Only one half of the independent units was tested, drawn at random.
+  bool halved = false;
+  /// Seed of that.
+  std::uint64_t seedOfHalves = 0;
+  /// The test is not through.
+  bool pending = false;
 };
 
-/// The comparison that the container made when its selection last changed.
-Comparison comparisonOf(const PlotContainer& container);
+/// What can be said of these runs without comparing them; `compared` if they are to be compared.
+Comparison::State comparisonState(const ComparedStudy& study);
 
-/// Forgets the tests of an earlier selection when the present one leaves nothing to compare.
-/// Without it the charts would show the former p-values at the next drawing. Draws nothing.
-void dropOutdatedTests(PlotContainer& container);
+/// Whether a comparison takes longer than a user waits without a word.
+bool takesTime(const ComparedStudy& study, const ComparisonChoice& choice);
+
+/// Compares. May run in any thread.
+/// @param progress told the part done; false gives up. May be empty
+Comparison compare(const ComparedStudy& study, const ComparisonChoice& choice,
+                   const std::function<bool(double)>& progress = {});
+
+/// The same without tests, which are to follow, or were given up.
+/// @param why `pending` or `cancelled`
+Comparison describe(const ComparedStudy& study, const ComparisonChoice& choice, TestObstacle why);
+
+/// Decides anew what is significant, for other thresholds.
+void applyThresholds(Comparison& comparison, const ComparisonChoice& choice);
 
 } // namespace Talmesh::app
 

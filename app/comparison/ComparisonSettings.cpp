@@ -4,7 +4,9 @@
 #include "app/styles/ViewerStyles.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -33,14 +35,36 @@ QCheckBox* makeSwitch(const char* name, const QString& text, const QString& tool
   return box;
 }
 
-void addLabelled(QGridLayout* layout, const QString& text, QWidget* field)
+/// The entries are the values of an enumeration, in its order.
+struct Entry
 {
-  const int row = layout->rowCount();
+  QString text;
+  QString toolTip;
+};
+
+QComboBox* makeChoiceBox(const char* name, const QString& toolTip, const QList<Entry>& entries)
+{
+  auto* box = new QComboBox;
+  box->setObjectName(QLatin1String(name));
+  box->setToolTip(toolTip);
+  for (const Entry& entry : entries)
+  {
+    box->addItem(entry.text);
+    box->setItemData(box->count() - 1, entry.toolTip, Qt::ToolTipRole);
+  }
+  return box;
+}
+
+/// A short label and its field, in one cell.
+void addLabelled(QGridLayout* layout, int row, int column, const QString& text, QWidget* field)
+{
   auto* label = new QLabel(text);
   label->setBuddy(field);
   label->setToolTip(field->toolTip());
-  layout->addWidget(label, row, 0);
-  layout->addWidget(field, row, 1);
+  auto* cell = new QHBoxLayout;
+  cell->addWidget(label);
+  cell->addWidget(field, 1);
+  layout->addLayout(cell, row, column);
 }
 
 void showValue(ThresholdBox* box, double value)
@@ -49,6 +73,12 @@ void showValue(ThresholdBox* box, double value)
   // Showing a value rewrites the text, which the user may be typing: 0.00 on the way to 0.001.
   if (box->value() != value)
     box->setValue(value);
+}
+
+void showEntry(QComboBox* box, int entry)
+{
+  const QSignalBlocker silent(box);
+  box->setCurrentIndex(entry);
 }
 
 void showState(QAbstractButton* button, bool on)
@@ -65,6 +95,7 @@ ComparisonSettings::ComparisonSettings(QWidget* parent)
   auto* layout = new QGridLayout(this);
   layout->setVerticalSpacing(layout->verticalSpacing() / 2);
   addPages(layout);
+  addTests(layout);
   addThresholds(layout);
   addSwitches(layout);
   layout->setRowStretch(layout->rowCount(), 1);
@@ -104,18 +135,55 @@ void ComparisonSettings::addPages(QGridLayout* layout)
   layout->addWidget(pairs, 0, 1);
 }
 
+void ComparisonSettings::addTests(QGridLayout* layout)
+{
+  comparedBy = makeChoiceBox(
+      "comparedBy", tr("How selected runs are told from the others"),
+      {{tr("KS: distributions"), tr("Kolmogorov-Smirnov: any difference of the distributions, also "
+                                    "values at both ends or in the middle")},
+       {tr("Mann-Whitney: ranks"), tr("Whether selected runs tend to larger, or to smaller values; "
+                                      "sharper for that, blind for differences both ways")},
+       {tr("Counts per value"),
+        tr("For parameters with few values, taken as names without an order: "
+           "Fisher's exact test, or chi-squared for large tables")}});
+  adjustment = makeChoiceBox(
+      "adjustment", tr("What the adjusted p bounds when several parameters are tested"),
+      {{tr("BH: false discoveries"),
+        tr("Benjamini and Hochberg: the expected part of false ones among all that are found")},
+       {tr("Holm: any false one"), tr("Holm: the probability that any found one is false")},
+       {tr("maxT: any false one"), tr("Westfall and Young: the same by permutations, less strict "
+                                      "where parameters hang together")}});
+  const int row = layout->rowCount();
+  layout->addWidget(comparedBy, row, 0);
+  layout->addWidget(adjustment, row, 1);
+  connect(comparedBy, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          [this](int entry)
+          {
+            chosen.comparedBy = static_cast<stats::ComparedBy>(entry);
+            emit choiceChanged();
+          });
+  connect(adjustment, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          [this](int entry)
+          {
+            chosen.adjustment = static_cast<stats::Adjustment>(entry);
+            emit choiceChanged();
+          });
+}
+
 void ComparisonSettings::addThresholds(QGridLayout* layout)
 {
   pThreshold = makeThreshold(
-      "pThreshold", tr("Parameters with at most this p count as different and are shown first"),
+      "pThreshold",
+      tr("Parameters with at most this adjusted p count as different and are shown first"),
       ThresholdBox::Steps::relative);
   ksThreshold = makeThreshold(
       "ksThreshold",
       tr("Parameters with at least this Kolmogorov-Smirnov statistic D count as different"),
       ThresholdBox::Steps::equal);
   ksThreshold->setSingleStep(0.05);
-  addLabelled(layout, tr("Largest p"), pThreshold);
-  addLabelled(layout, tr("Smallest D"), ksThreshold);
+  const int row = layout->rowCount();
+  addLabelled(layout, row, 0, tr("Adjusted p \u2264"), pThreshold);
+  addLabelled(layout, row, 1, tr("D \u2265"), ksThreshold);
   const auto writeTo = [this](ThresholdBox* box, double ComparisonChoice::*value)
   {
     connect(box, QOverload<double>::of(&ThresholdBox::valueChanged), this,
@@ -140,11 +208,15 @@ void ComparisonSettings::addSwitches(QGridLayout* layout)
   bands = makeSwitch("quartileBands", tr("Quartile bands"),
                      tr("Range, quartiles and median of all runs; of the runs themselves only the "
                         "selected ones"));
+  halves = makeSwitch("halves", tr("Chec&k in halves"),
+                      tr("The honest check of what was found by looking: split the parameter sets "
+                         "at random, keep what differs in one half, and test that in the other"));
   const int row = layout->rowCount();
   layout->addWidget(density, row, 0);
   layout->addWidget(commonDensityScale, row, 1);
   layout->addWidget(bands, row + 1, 0);
   layout->addWidget(logParameterAxes, row + 1, 1);
+  layout->addWidget(halves, row + 2, 0, 1, 2);
   const auto writeTo = [this](QCheckBox* box, bool ComparisonChoice::*value)
   {
     connect(box, &QCheckBox::toggled, this,
@@ -158,6 +230,7 @@ void ComparisonSettings::addSwitches(QGridLayout* layout)
   writeTo(commonDensityScale, &ComparisonChoice::commonDensityScale);
   writeTo(logParameterAxes, &ComparisonChoice::logParameterAxes);
   writeTo(bands, &ComparisonChoice::bands);
+  writeTo(halves, &ComparisonChoice::halves);
 }
 
 void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles style,
@@ -170,6 +243,9 @@ void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles st
   showState(commonDensityScale, choice.commonDensityScale);
   showState(logParameterAxes, choice.logParameterAxes);
   showState(bands, choice.bands);
+  showState(halves, choice.halves);
+  showEntry(comparedBy, static_cast<int>(choice.comparedBy));
+  showEntry(adjustment, static_cast<int>(choice.adjustment));
   shownStyle = style;
   hasParameters = parameters;
   enableControls();
@@ -179,9 +255,9 @@ void ComparisonSettings::enableControls()
 {
   showState(distributions, hasParameters && shownStyle == selectionCdfPlot);
   showState(pairs, hasParameters && shownStyle == multiPlot);
-  // The thresholds also say what the table of results calls significant, in every style.
-  for (QWidget* control :
-       std::initializer_list<QWidget*>{distributions, pairs, pThreshold, ksThreshold})
+  // The table of results shows the tests, and what meets the thresholds, in every style.
+  for (QWidget* control : std::initializer_list<QWidget*>{
+           distributions, pairs, comparedBy, adjustment, pThreshold, ksThreshold, halves})
     control->setEnabled(hasParameters);
   const ViewerStyle& style = viewerStyle(shownStyle);
   const bool hasCurves = hasParameters && style.showsDistributions;

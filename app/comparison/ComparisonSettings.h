@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QCheckBox;
+class QComboBox;
 class QGridLayout;
 class QToolButton;
 
@@ -40,6 +41,7 @@ signals:
 private:
   void addPages(QGridLayout* layout);
   void addThresholds(QGridLayout* layout);
+  void addTests(QGridLayout* layout);
   void addSwitches(QGridLayout* layout);
   QToolButton* addPage(const QString& text, const QString& toolTip, plotStyles style);
   void enableControls();
@@ -48,6 +50,9 @@ private:
   QToolButton* pairs = nullptr;
   ThresholdBox* pThreshold = nullptr;
   ThresholdBox* ksThreshold = nullptr;
+  QComboBox* comparedBy = nullptr;
+  QComboBox* adjustment = nullptr;
+  QCheckBox* halves = nullptr;
   QCheckBox* density = nullptr;
   QCheckBox* commonDensityScale = nullptr;
   QCheckBox* logParameterAxes = nullptr;

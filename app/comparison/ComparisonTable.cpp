@@ -1,14 +1,15 @@
 #include "app/comparison/ComparisonTable.h"
 
+#include "app/comparison/ComparisonFile.h"
 #include "app/comparison/ComparisonModel.h"
-#include "widgets/FileWriter.h"
+#include "app/comparison/ComparisonText.h"
 #include "widgets/WidgetSupport.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QFileInfo>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -16,9 +17,9 @@
 #include <QStackedWidget>
 #include <QTableView>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
-#include <functional>
 
 namespace Talmesh::app
 {
@@ -27,53 +28,13 @@ namespace
 {
 
 constexpr int charactersOfAName = 36;
-using Quote = std::function<QString(const QString&)>;
 
-QString onOneLine(const QString& cell)
-{
-  return cell.simplified();
-}
-
-QString quotedIfNeeded(const QString& cell)
-{
-  const bool plain = !cell.contains(QLatin1Char(',')) && !cell.contains(QLatin1Char('"')) &&
-                     !cell.contains(QLatin1Char('\n')) && !cell.contains(QLatin1Char('\r'));
-  if (plain)
-    return cell;
-  return QLatin1Char('"') + QString(cell).replace(QLatin1Char('"'), QLatin1String("\"\"")) +
-         QLatin1Char('"');
-}
-
-QString lineOf(const QStringList& cells, QChar separator, const Quote& quote)
+QString tabbedLine(const QStringList& cells)
 {
   QStringList written;
   for (const QString& cell : cells)
-    written.append(quote(cell));
-  return written.join(separator) + QLatin1Char('\n');
-}
-
-QString textOf(const QAbstractItemModel& table, const QList<int>& rows, QChar separator,
-               const Quote& quote)
-{
-  QStringList cells;
-  for (int column = 0; column < table.columnCount(); ++column)
-    cells.append(table.headerData(column, Qt::Horizontal).toString());
-  QString text = lineOf(cells, separator, quote);
-  for (const int row : rows)
-  {
-    cells.clear();
-    for (int column = 0; column < table.columnCount(); ++column)
-      cells.append(table.index(row, column).data(ComparisonModel::FullTextRole).toString());
-    text += lineOf(cells, separator, quote);
-  }
-  return text;
-}
-
-std::string writeText(const QString& path, const QString& text)
-{
-  const QByteArray bytes = text.toUtf8();
-  const QString reason = writeFile(path, bytes.constData(), bytes.size());
-  return reason.isEmpty() ? std::string() : (path + QLatin1String(": ") + reason).toStdString();
+    written.append(cell.simplified());
+  return written.join(QLatin1Char('\t')) + QLatin1Char('\n');
 }
 
 QList<int> allRows(const QAbstractItemModel& table)
@@ -112,8 +73,6 @@ QString explanationOf(Comparison::State state)
     return ComparisonTable::tr(
         "Nothing is selected. Drag a rectangle over some runs with the right mouse button to "
         "compare their parameters with those of the other runs.");
-  case Comparison::State::noRunSelected:
-    return ComparisonTable::tr("No run is selected at every time that the selection covers.");
   case Comparison::State::noOthers:
     return ComparisonTable::tr("All runs are selected; there are none to compare them with.");
   case Comparison::State::compared:
@@ -130,6 +89,7 @@ ComparisonTable::ComparisonTable(QWidget* parent)
     , sorted(new ValuesFirst(this))
     , pages(new QStackedWidget)
     , explanation(new QLabel)
+    , summary(new QLabel)
     , view(makeView())
     , copyStep(addStep(tr("&Copy"), "copyComparison", &ComparisonTable::copy))
     , saveStep(addStep(tr("&Save..."), "saveComparison", &ComparisonTable::chooseFileAndSave))
@@ -143,11 +103,18 @@ ComparisonTable::ComparisonTable(QWidget* parent)
   explanation->setAlignment(Qt::AlignCenter);
   explanation->setMargin(explanation->fontMetrics().averageCharWidth());
 
+  summary->setObjectName(QStringLiteral("comparisonSummary"));
+  summary->setWordWrap(true);
+  summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
   auto* results = new QWidget;
-  auto* row = new QHBoxLayout(results);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(view, 1);
-  row->addWidget(makeButtons());
+  auto* grid = new QGridLayout(results);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->addWidget(summary, 0, 0, 1, 2);
+  grid->addWidget(view, 1, 0);
+  grid->addWidget(makeButtons(), 1, 1);
+  grid->setRowStretch(1, 1);
+  grid->setColumnStretch(0, 1);
   pages->addWidget(explanation);
   pages->addWidget(results);
   auto* whole = new QHBoxLayout(this);
@@ -155,7 +122,7 @@ ComparisonTable::ComparisonTable(QWidget* parent)
   whole->addWidget(pages);
   // It takes the room that is left and scrolls.
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-  setComparison({});
+  setComparison({}, 0);
 }
 
 QTableView* ComparisonTable::makeView()
@@ -239,14 +206,23 @@ void ComparisonTable::replaceRows(const std::vector<ComparedParameter>& paramete
                           QItemSelectionModel::NoUpdate);
 }
 
-void ComparisonTable::setComparison(const Comparison& comparison)
+void ComparisonTable::setComparison(const Comparison& comparison, std::size_t selections)
 {
   const bool compared = comparison.state == Comparison::State::compared;
   replaceRows(comparison.parameters);
+  summary->setText(summaryText(comparison, selections));
   explanation->setText(explanationOf(comparison.state));
   pages->setCurrentIndex(compared ? 1 : 0);
   copyStep->setEnabled(compared);
   saveStep->setEnabled(compared);
+}
+
+std::vector<ComparedParameter> ComparisonTable::inOrder(const QList<int>& rows) const
+{
+  std::vector<ComparedParameter> shown;
+  for (const int row : rows)
+    shown.push_back(model->parameter(sorted->mapToSource(sorted->index(row, 0)).row()));
+  return shown;
 }
 
 QString ComparisonTable::tabbedText() const
@@ -255,12 +231,15 @@ QString ComparisonTable::tabbedText() const
   for (const QModelIndex& index : view->selectionModel()->selectedRows())
     rows.append(index.row());
   std::sort(rows.begin(), rows.end());
-  return textOf(*sorted, rows.isEmpty() ? allRows(*sorted) : rows, QLatin1Char('\t'), onOneLine);
+  QString text = tabbedLine(comparisonColumns());
+  for (const ComparedParameter& row : inOrder(rows.isEmpty() ? allRows(*sorted) : rows))
+    text += tabbedLine(comparisonCells(row));
+  return text;
 }
 
 QString ComparisonTable::commaText() const
 {
-  return textOf(*sorted, allRows(*sorted), QLatin1Char(','), quotedIfNeeded);
+  return Talmesh::app::commaText(inOrder(allRows(*sorted)));
 }
 
 void ComparisonTable::copy()

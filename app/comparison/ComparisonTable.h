@@ -27,13 +27,13 @@ public:
 
   /// Shows a comparison. Parameters that were there before keep the marks that the user has given
   /// their rows, and the current cell.
-  void setComparison(const Comparison& comparison);
+  /// @param selections how many selections the user has looked at
+  void setComparison(const Comparison& comparison, std::size_t selections);
 
-  /// The selected rows, or all without any, in the order shown, below a line of names: numbers in
-  /// full, tabs between the cells.
+  /// The selected rows, or all without any, in the order shown, with the columns of files and tabs
+  /// between the cells.
   QString tabbedText() const;
-  /// The whole table in the order shown, below a line of names: numbers in full, commas between
-  /// the cells.
+  /// The whole table in the order shown, as files have it.
   QString commaText() const;
   /// Writes the whole table; the file appears complete or not at all.
   /// @return why that failed, in one line of UTF-8 that begins with the file's name; empty on
@@ -53,6 +53,7 @@ signals:
   void failed(const QString& message);
 
 private:
+  std::vector<ComparedParameter> inOrder(const QList<int>& rows) const;
   int rowOf(const QVariant& name) const;
   void replaceRows(const std::vector<ComparedParameter>& parameters);
   QTableView* makeView();
@@ -63,6 +64,7 @@ private:
   QSortFilterProxyModel* sorted;
   QStackedWidget* pages;
   QLabel* explanation;
+  QLabel* summary;
   QTableView* view;
   QAction* copyStep;
   QAction* saveStep;

@@ -1,7 +1,6 @@
 #include "app/document/ChartDressing.h"
 
 #include "app/comparison/ComparisonChoice.h"
-#include "app/comparison/ComparisonResults.h"
 #include "app/document/FurtherSeries.h"
 #include "app/import/ColumnRoles.h"
 #include "app/styles/ViewerStyles.h"
@@ -100,7 +99,6 @@ void dressDrawings(PlotContainer& container)
   container.addPreparation(&container,
                            [&container]
                            {
-                             dropOutdatedTests(container);
                              refreshQuartiles(container);
                              makeRoom(container);
                            });

@@ -20,6 +20,8 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
 {
   connect(&selected, &SelectionController::changing, this, [this] { beforeSelection = drawings; });
   connect(&selected, &SelectionController::changed, this, &Document::followSelection);
+  compared.setWords([this] { return selected.followedWords(); });
+  connect(&compared, &SelectionComparison::found, this, &Document::draw);
   connect(&grouped, &GroupedRuns::valuesChanged, this, &Document::drawNewValues);
   shown.container = before;
   selected.follow(before);
@@ -111,6 +113,7 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   chooseOpeningStyle(container, wishes);
   grouped.follow(&container, runsOverTime(shown.study));
   keptSelections.follow(TableRuns(container).numberOfRuns());
+  compared.follow(&container);
   shown.choice = choiceOf(container);
   if (opened.session)
     restore(*opened.session);

@@ -5,6 +5,7 @@
 #include "app/document/GroupedRuns.h"
 #include "app/document/KeptSelections.h"
 #include "app/document/PlotChoice.h"
+#include "app/document/SelectionComparison.h"
 #include "app/document/SelectionController.h"
 #include "app/import/Study.h"
 #include "app/session/Session.h"
@@ -74,6 +75,8 @@ public:
   SelectionController& selection() { return selected; }
   GroupedRuns& groups() { return grouped; }
   KeptSelections& kept() { return keptSelections; }
+  /// Of the selected runs or rows with the others of the study opened last.
+  SelectionComparison& comparison() { return compared; }
 
   /// The following draw, once. What is shown of a chart of its own is not for the user to choose:
   /// it is drawn as it is.
@@ -141,6 +144,7 @@ private:
   Shown aside;
   QPointer<ShownChart> ownChart;
   SelectionController selected;
+  SelectionComparison compared;
   GroupedRuns grouped;
   KeptSelections keptSelections;
   std::string error;

@@ -9,6 +9,7 @@ void Document::restore(const RestoredSession& session)
 {
   PlotContainer& container = *shown.container;
   restoreSettings(session, container);
+  restoreTests(session, container);
   grouped.restoreNormalised(session.settings.normalised);
   grouped.restore(session.settings.groups);
   keptSelections.restore(session.settings.kept);

@@ -23,6 +23,9 @@ std::string saveSession(const QString& path, const Study& study, PlotContainer& 
 /// What the user had chosen, in a container whose settings are restored.
 PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container);
 
+/// Has selected runs tested as the session says, with the thresholds that the container has.
+void restoreTests(const RestoredSession& session, PlotContainer& container);
+
 } // namespace Talmesh::app
 
 #endif

@@ -63,7 +63,7 @@ public:
   /// Empty where nobody has said it.
   std::string words() const;
   /// The same of the container that is followed, while another one is visited.
-  const std::string& followedWords() const { return history.words(); }
+  std::string followedWords() const { return history.words(); }
   /// Writes the indices of the selected runs to a small JSON file.
   /// @return why that failed, in one line of UTF-8; empty on success
   std::string save(const QString& path) const;

@@ -80,10 +80,13 @@ struct FollowedContainer
   {
     if (!container || !link)
       return;
+    // Those who answer the change ask for its words.
+    const std::string words = wanted.words;
+    current = wanted;
     restoring = true;
-    link->SetCurrentSelection(selectionOf(*wanted.rows));
+    link->SetCurrentSelection(selectionOf(*current.rows));
     restoring = false;
-    current = {selected(), wanted.words};
+    current = {selected(), words};
   }
 };
 
@@ -152,10 +155,20 @@ void SelectionHistory::restart(const std::string& words)
   followed->current = {rows, isAny(rows) ? words : std::string()};
 }
 
-const std::string& SelectionHistory::words() const
+std::string SelectionHistory::words() const
 {
-  static const std::string none;
-  return followed ? followed->current.words : none;
+  // None yet while the history of a container is about to begin.
+  if (!followed || !followed->current.rows)
+    return {};
+  const Snapshot rows = followed->selected();
+  return *rows == *followed->current.rows ? followed->current.words : wordsWith(rows);
+}
+
+/// Those of a change that is yet to be recorded.
+std::string SelectionHistory::wordsWith(const Snapshot& rows) const
+{
+  const Selected& before = followed->current;
+  return isAny(rows) ? wordsAfter(before.words, isAny(before.rows), stepInWords) : std::string();
 }
 
 void SelectionHistory::record()
@@ -167,8 +180,7 @@ void SelectionHistory::record()
   if (*before.rows == *rows)
     return;
   const bool clears = !isAny(rows);
-  followed->current = {rows, clears ? std::string()
-                                    : wordsAfter(before.words, isAny(before.rows), stepInWords)};
+  followed->current = {rows, wordsWith(rows)};
   QString text = stepText;
   if (text.isEmpty())
     text = clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")

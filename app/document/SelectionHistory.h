@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 class PlotContainer;
 class QUndoStack;
@@ -68,9 +69,11 @@ public:
 
   /// The condition in words that what is now selected stands for: that of the steps that led there.
   /// Empty without a selection, and where nobody has said it.
-  const std::string& words() const;
+  /// Knows those of a change, too, that its observers are still to be told of.
+  std::string words() const;
 
 private:
+  std::string wordsWith(const std::shared_ptr<const std::vector<bool>>& rows) const;
   void record();
   void stopObserving();
 

@@ -33,7 +33,17 @@ TableRuns::TableRuns(PlotContainer& shown)
 {
   for (const plot::PlacedRun& run : plot::wholeRuns(stateOf(shown)))
     runs.push_back({run.index, run.firstRow});
+  if (runs.empty() && !shown.getMetaData()->parameterColumns.empty())
+    countRuns();
   std::iota(positions.begin(), positions.end(), 0.0);
+}
+
+/// A table of parameters has runs also without a column of their numbers.
+void TableRuns::countRuns()
+{
+  const auto rows = static_cast<std::size_t>(container.getTable()->GetNumberOfRows());
+  for (std::size_t run = 0; points > 0 && run < rows / points; ++run)
+    runs.push_back({static_cast<int>(run), static_cast<vtkIdType>(run * points)});
 }
 
 double TableRuns::runNumber(std::size_t run) const

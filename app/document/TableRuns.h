@@ -18,7 +18,7 @@ namespace Talmesh::app
 {
 
 /// The whole runs of a container's table, and which of them are selected. A partial last run does
-/// not count.
+/// not count. Runs of a table of parameters without their numbers are counted from 0.
 ///
 /// For as long as the container has the table.
 class TableRuns : public FilteredRuns
@@ -58,6 +58,8 @@ private:
     int number;
     vtkIdType firstRow;
   };
+
+  void countRuns();
 
   PlotContainer& container;
   std::vector<Run> runs;

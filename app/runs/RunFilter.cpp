@@ -217,6 +217,15 @@ bool isMet(const BoundTerm& term, const FilteredRun& run)
   }
 }
 
+void addColumns(const BoundTerm& term, std::vector<int>& named)
+{
+  for (const int column : {term.column, term.over})
+    if (column >= 0)
+      named.push_back(column);
+  for (const BoundTerm& child : term.children)
+    addColumns(child, named);
+}
+
 } // namespace
 
 RunFilter::RunFilter() = default;
@@ -235,6 +244,14 @@ RunFilter RunFilter::read(std::string_view text, const FilteredRuns& runs, Filte
   if (fault.text.empty())
     filter.condition = std::move(bound);
   return filter;
+}
+
+std::vector<int> RunFilter::columns() const
+{
+  std::vector<int> named;
+  if (condition)
+    addColumns(*condition, named);
+  return named;
 }
 
 bool RunFilter::selects(const FilteredRuns& runs, std::size_t run) const

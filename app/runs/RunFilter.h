@@ -50,6 +50,9 @@ public:
   /// @return one that selects nothing if anything is wrong
   static RunFilter read(std::string_view text, const FilteredRuns& runs, FilterFault& fault);
 
+  /// The columns that the text names, those below others among them; may be there twice.
+  std::vector<int> columns() const;
+
   /// Whether a run meets the condition. A comparison with a missing value (NaN) is not met.
   /// @param runs those that the filter was read for, or others of the same columns
   bool selects(const FilteredRuns& runs, std::size_t run) const;

@@ -110,6 +110,7 @@ SessionSettings settingsOf(const SessionSource& source)
   }
   settings.legend = source.legend;
   settings.logY = source.logY;
+  settings.tests = source.tests;
   settings.groups = source.groups;
   settings.kept = source.kept;
   settings.words = source.words;

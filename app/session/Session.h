@@ -42,6 +42,7 @@ struct SessionSource
   std::vector<int> normalised;
   /// The container's table with the values that these had before; none for the table as it is.
   std::function<vtkSmartPointer<vtkTable>()> original;
+  SessionTests tests;
 };
 
 /// What a session restores beside its study.

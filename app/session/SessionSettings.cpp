@@ -213,6 +213,7 @@ QByteArray settingsText(const SessionSettings& settings)
     object["origin"] = objectOf(settings.origin);
   object["legend"] = settings.legend;
   object["logY"] = settings.logY;
+  object["tests"] = objectOf(settings.tests);
   object["windowLogX"] = settings.windowScales.xLog;
   object["windowLogY"] = settings.windowScales.yLog;
   object["plot"] = objectOf(*settings.plot);
@@ -238,6 +239,7 @@ Result<SessionSettings> readSettings(const QByteArray& text, int columns)
   settings.origin = readOrigin(object["origin"].toObject());
   settings.legend = object["legend"].toBool();
   settings.logY = object["logY"].toBool();
+  settings.tests = readTests(object["tests"].toObject());
   settings.windowScales = {object["windowLogX"].toBool(), object["windowLogY"].toBool()};
   readPlot(object["plot"].toObject(), columns, *settings.plot);
   return settings;

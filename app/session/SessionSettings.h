@@ -5,6 +5,7 @@
 #include "app/session/SessionGroups.h"
 #include "app/session/SessionOrigin.h"
 #include "app/session/SessionSelections.h"
+#include "app/session/SessionTests.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 
@@ -37,6 +38,7 @@ struct SessionSettings
   SessionOrigin origin;
   bool legend = false;
   bool logY = false;
+  SessionTests tests;
   /// The scales of the axis window that is stored with the plot's settings.
   plot::WindowScales windowScales;
   /// Never null.

@@ -3,6 +3,7 @@
 #include "app/comparison/ComparisonDock.h"
 #include "app/session/FileNameCodec.h"
 #include "app/window/ClusterDock.h"
+#include "app/window/ComparisonController.h"
 #include "app/window/ExportController.h"
 #include "app/window/FilterLine.h"
 #include "app/window/GestureActions.h"
@@ -37,8 +38,9 @@ namespace
 /// The window at first: so many characters wide and lines high, of the font in use.
 constexpr int firstCharacters = 170;
 constexpr int firstLines = 54;
-/// The comparison beneath the plot is as high as its controls, so that the plot keeps the rest.
-constexpr int comparisonLines = 12;
+/// The comparison beneath the plot is as high as its controls, so that the plot keeps the rest, and
+/// as wide as the window, so that p is in sight.
+constexpr int comparisonLines = 14;
 
 QString droppedFile(const QMimeData* data)
 {
@@ -67,6 +69,7 @@ MainWindow::MainWindow(QWidget* parent)
     , status(*statusBar())
     , opener(new StudyOpener(shown, status.opening(), this))
     , grouping(new GroupController(*clusterDock, shown, status.grouping(), this))
+    , comparing(new ComparisonController(*comparison, shown, status.comparing(), this))
     , sessions(new SessionController(*this, shown))
     , exports(new ExportController(*plot, status.exporting(), *this))
     , recent(new RecentMenu(this))
@@ -86,6 +89,7 @@ MainWindow::~MainWindow()
   // Their threads must not outlive what they report to.
   delete opener;
   delete grouping;
+  delete comparing;
   delete exports;
   // What shows the document's containers ends before them.
   delete takeCentralWidget();
@@ -105,7 +109,6 @@ void MainWindow::placePanels()
     tabifyDockWidget(comparison, panel);
   }
   comparison->raise();
-  setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
   addDockWidget(Qt::RightDockWidgetArea, clusterDock);
   tabifyDockWidget(dock, clusterDock);
   addDockWidget(Qt::RightDockWidgetArea, studyDock);
@@ -159,7 +162,8 @@ bool MainWindow::isLoading() const
 
 bool MainWindow::isBusy() const
 {
-  return isLoading() || grouping->isGrouping() || exports->isExporting();
+  return isLoading() || grouping->isGrouping() || comparing->isComparing() ||
+         exports->isExporting();
 }
 
 void MainWindow::returnToRuns()

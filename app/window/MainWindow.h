@@ -16,6 +16,7 @@ namespace Talmesh::app
 {
 
 class ClusterDock;
+class ComparisonController;
 class ComparisonDock;
 class ExportController;
 class FilterLine;
@@ -48,7 +49,8 @@ public:
   /// Starts to simulate the example study.
   void openExample();
   bool isLoading() const;
-  /// Whether anything long is going on: opening, grouping or writing.
+  /// Whether anything long is going on: opening, grouping, comparing or
+  /// writing.
   bool isBusy() const;
   /// Shows once more the runs or the table opened last; a computed study has taken their place.
   void returnToRuns();
@@ -122,6 +124,7 @@ private:
   StatusLine status;
   StudyOpener* opener;
   GroupController* grouping;
+  ComparisonController* comparing;
   SessionController* sessions;
   ExportController* exports;
   RecentMenu* recent;

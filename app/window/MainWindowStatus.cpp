@@ -2,6 +2,7 @@
 #include "app/document/OwnChart.h"
 #include "app/styles/ViewerStyles.h"
 #include "app/window/ClusterDock.h"
+#include "app/window/ComparisonController.h"
 #include "app/window/ExportController.h"
 #include "app/window/FileDialogs.h"
 #include "app/window/FilterLine.h"
@@ -84,6 +85,7 @@ void MainWindow::connectControllers()
   connect(grouping, &GroupController::stopped, this, say);
   connect(grouping, &GroupController::ended, this, clear);
   connect(grouping, &GroupController::failed, this, &MainWindow::showError);
+  connect(comparing, &ComparisonController::failed, this, &MainWindow::showError);
   connect(opener, &StudyOpener::shown, this, &MainWindow::noteOpened);
   connect(opener, &StudyOpener::opened, this, &MainWindow::opened);
   connect(opener, &StudyOpener::notOpened, recent,
@@ -141,7 +143,7 @@ void MainWindow::showDrawing()
   if (!shown.container())
     return;
   status.setSelection(shown.selection().summary());
-  comparison->refresh(*shown.container());
+  comparing->refresh();
   plot->updatePlot(true);
   const std::optional<qint64> milliseconds = clock.end();
   const QString remark = shown.remark();

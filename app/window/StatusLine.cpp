@@ -19,14 +19,15 @@ StatusLine::StatusLine(QStatusBar& bar)
     : line(bar)
     , openingBar(new TaskBar)
     , groupingBar(new TaskBar)
+    , comparingBar(new TaskBar)
     , exportingBar(new TaskBar)
     , selectedLabel(new QLabel)
     , sizeLabel(new QLabel)
 {
   sizeLabel->setObjectName(QStringLiteral("studySize"));
   selectedLabel->setObjectName(QStringLiteral("selectionSize"));
-  const std::initializer_list<QWidget*> widgets = {openingBar, groupingBar, exportingBar,
-                                                   selectedLabel, sizeLabel};
+  const std::initializer_list<QWidget*> widgets = {openingBar,   groupingBar,   comparingBar,
+                                                   exportingBar, selectedLabel, sizeLabel};
   for (QWidget* widget : widgets)
   {
     line.addPermanentWidget(widget);

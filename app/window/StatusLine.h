@@ -22,6 +22,7 @@ public:
   /// One of its own for each kind of long work.
   TaskBar& opening() { return *openingBar; }
   TaskBar& grouping() { return *groupingBar; }
+  TaskBar& comparing() { return *comparingBar; }
   TaskBar& exporting() { return *exportingBar; }
 
   /// Shows one line for some seconds.
@@ -39,6 +40,7 @@ private:
   QStatusBar& line;
   TaskBar* openingBar;
   TaskBar* groupingBar;
+  TaskBar* comparingBar;
   TaskBar* exportingBar;
   QLabel* selectedLabel;
   QLabel* sizeLabel;

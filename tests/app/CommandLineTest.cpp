@@ -112,8 +112,8 @@ TEST(CommandLine, RefusesAnUnknownOption)
 
 TEST(CommandLine, RefusesAnOptionWithoutItsValue)
 {
-  for (const char* option : {"--style", "--x", "--y", "--z", "--export", "--gallery", "--size",
-                             "--paper", "--dpi", "--vector"})
+  for (const char* option : {"--style", "--x", "--y", "--z", "--export", "--compare", "--gallery",
+                             "--size", "--paper", "--dpi", "--vector"})
   {
     EXPECT_EQ(errorOf({option}), std::string(option) + " needs a value");
     EXPECT_EQ(errorOf({option, ""}), std::string(option) + " needs a value");
@@ -202,8 +202,9 @@ TEST(CommandLine, LeavesNoOptionsBesideAnError)
 TEST(CommandLine, ExplainsEveryOptionAndStyleInItsHelp)
 {
   const std::string help = commandLineHelp();
-  for (const char* word : {"FILE", "--style", "--x", "--y", "--z", "--export", "--gallery",
-                           "--size", "--paper", "--dpi", "--vector", "--help", "--version"})
+  for (const char* word :
+       {"FILE", "--style", "--x", "--y", "--z", "--export", "--compare", "--gallery", "--size",
+        "--paper", "--dpi", "--vector", "--help", "--version"})
     EXPECT_NE(help.find(word), std::string::npos) << word;
   for (const ViewerStyle& style : viewerStyles())
     EXPECT_NE(help.find(style.name), std::string::npos) << style.name;
@@ -236,4 +237,14 @@ TEST(CommandLine, CollectsConditionsWhichMayHoldCommas)
   const CommandLineOptions options =
       parsed({"--select", "at(TetR, 9000) > 1", "--select=k<2", "runs.csv"});
   EXPECT_EQ(options.select, (std::vector<std::string>{"at(TetR, 9000) > 1", "k<2"}));
+}
+
+TEST(CommandLine, WritesAComparisonWithoutAWindow)
+{
+  const CommandLineOptions options =
+      parsed({"--select", "k < 2", "--compare", "out.csv", "runs.csv"});
+  EXPECT_EQ(options.compare, "out.csv");
+  EXPECT_TRUE(options.writesOnly());
+  EXPECT_FALSE(options.writesPictures());
+  EXPECT_EQ(parsed({"runs.csv"}).compare, "");
 }

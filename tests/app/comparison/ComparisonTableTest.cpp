@@ -1,6 +1,7 @@
 #include "app/comparison/ComparisonTable.h"
 
 #include "app/comparison/ComparisonModel.h"
+#include "app/comparison/ComparisonText.h"
 
 #include <gtest/gtest.h>
 
@@ -23,25 +24,53 @@ using namespace Talmesh::app;
 namespace
 {
 
-ComparedParameter parameter(const char* name, double statistic, double p, double adjusted,
+ComparedParameter parameter(const char* name, double distance, double p, double adjusted,
                             bool significant)
 {
-  return {name, statistic, p, adjusted, 8, 12, significant};
+  ComparedParameter row{name, {}, TestObstacle::none, significant};
+  row.result.selected = 8;
+  row.result.others = 12;
+  row.result.distance = distance;
+  row.result.p = p;
+  row.result.adjusted = adjusted;
+  row.result.method = Talmesh::stats::TestMethod::exactDistribution;
+  row.result.direction = Talmesh::stats::Direction::larger;
+  row.result.superiority = 0.75;
+  row.result.medianDifference = -2.5;
+  return row;
 }
 
-/// Without results, in any place of the comparison.
+/// Without a test, in any place of the comparison.
 ComparedParameter untested(const char* name, TestObstacle obstacle)
 {
   const double none = std::nan("");
-  return {name, none, none, none, 8, 12, false, obstacle};
+  ComparedParameter row = parameter(name, none, none, none, false);
+  row.obstacle = obstacle;
+  return row;
+}
+
+Comparison comparisonWith(std::vector<ComparedParameter> parameters)
+{
+  Comparison comparison;
+  comparison.state = Comparison::State::compared;
+  comparison.parameters = std::move(parameters);
+  comparison.units.units = 20;
+  return comparison;
+}
+
+Comparison withoutParameters(Comparison::State state)
+{
+  Comparison comparison;
+  comparison.state = state;
+  return comparison;
 }
 
 Comparison sampleComparison()
 {
   // p.adjust(c(0.2, 1e-10, 0.03), "BH")  # R: 0.200 3e-10 0.045
-  return {Comparison::State::compared,
-          {parameter("k1", 0.25, 0.2, 0.2, false), parameter("K10", 1.0, 1e-10, 3e-10, true),
-           parameter("k, \"2\"", 0.5, 0.03, 0.045, true)}};
+  return comparisonWith({parameter("k1", 0.25, 0.2, 0.2, false),
+                         parameter("K10", 1.0, 1e-10, 3e-10, true),
+                         parameter("k, \"2\"", 0.5, 0.03, 0.045, true)});
 }
 
 class TableOfAComparison : public ::testing::Test
@@ -50,7 +79,7 @@ protected:
   TableOfAComparison()
   {
     table.resize(700, 200);
-    table.setComparison(sampleComparison());
+    table.setComparison(sampleComparison(), 1);
     table.show();
   }
 
@@ -61,6 +90,11 @@ protected:
   }
 
   QString cell(int row, int column) { return view().model()->index(row, column).data().toString(); }
+
+  bool isBold(int row)
+  {
+    return view().model()->index(row, 0).data(Qt::FontRole).value<QFont>().bold();
+  }
 
   QStringList names()
   {
@@ -83,8 +117,11 @@ TEST_F(TableOfAComparison, BeginsWithTheLargestDifference)
   EXPECT_EQ(cell(0, ComparisonModel::AdjustedPValue), "3.00e-10");
   EXPECT_EQ(cell(0, ComparisonModel::Selected), "8");
   EXPECT_EQ(cell(0, ComparisonModel::Others), "12");
-  EXPECT_EQ(cell(0, ComparisonModel::Significant), "yes");
-  EXPECT_EQ(cell(2, ComparisonModel::Significant), "no");
+  EXPECT_EQ(cell(0, ComparisonModel::DirectionOfDifference), "larger in selected");
+  EXPECT_EQ(cell(0, ComparisonModel::Superiority), "0.750");
+  EXPECT_EQ(cell(0, ComparisonModel::MedianDifference), "-2.500");
+  EXPECT_TRUE(isBold(0));
+  EXPECT_FALSE(isBold(2));
   EXPECT_EQ(cell(2, ComparisonModel::PValue), "0.200");
 }
 
@@ -102,11 +139,11 @@ TEST_F(TableOfAComparison, IsSortedByNumbersNotByTheirText)
 TEST_F(TableOfAComparison, PutsWhatIsNoNumberLast)
 {
   Comparison comparison = sampleComparison();
-  comparison.parameters[1].pValue = std::nan("");
-  table.setComparison(comparison);
+  comparison.parameters[1].result.p = std::nan("");
+  table.setComparison(comparison, 1);
   view().sortByColumn(ComparisonModel::PValue, Qt::AscendingOrder);
   EXPECT_EQ(names(), (QStringList{"k, \"2\"", "k1", "K10"}));
-  EXPECT_EQ(cell(2, ComparisonModel::PValue), "nan");
+  EXPECT_EQ(cell(2, ComparisonModel::PValue), QString::fromUtf8("\xe2\x80\x93"));
   view().sortByColumn(ComparisonModel::PValue, Qt::DescendingOrder);
   EXPECT_EQ(names(), (QStringList{"k1", "k, \"2\"", "K10"}));
 }
@@ -115,10 +152,10 @@ TEST_F(TableOfAComparison, PutsWhatIsNotTestedLast)
 {
   Comparison comparison = sampleComparison();
   comparison.parameters.insert(comparison.parameters.begin(),
-                               untested("switch", TestObstacle::repeatedValues));
-  table.setComparison(comparison);
-  for (const int column : {ComparisonModel::Statistic, ComparisonModel::PValue,
-                           ComparisonModel::AdjustedPValue, ComparisonModel::Significant})
+                               untested("switch", TestObstacle::constant));
+  table.setComparison(comparison, 1);
+  for (const int column :
+       {ComparisonModel::Statistic, ComparisonModel::PValue, ComparisonModel::AdjustedPValue})
     for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder})
     {
       view().sortByColumn(column, order);
@@ -126,29 +163,46 @@ TEST_F(TableOfAComparison, PutsWhatIsNotTestedLast)
     }
 }
 
-TEST_F(TableOfAComparison, HasDashesAndTheReasonForWhatIsNotTested)
+TEST_F(TableOfAComparison, HasTheReasonInPlaceOfP)
 {
   const std::pair<TestObstacle, const char*> reasons[] = {
-      {TestObstacle::repeatedValues, "Values repeat"},
-      {TestObstacle::missingValues, "Values are missing"},
+      {TestObstacle::constant, "same value"},
       {TestObstacle::changingValues, "Values change within a run"},
-      {TestObstacle::otherParameter, "Another parameter"}};
+      {TestObstacle::chosenByParameter, "Chosen by this parameter"},
+      {TestObstacle::tooFewUnits, "too few parameter sets"},
+      {TestObstacle::pending, "under way"}};
   for (const auto& [obstacle, words] : reasons)
   {
-    table.setComparison({Comparison::State::compared, {untested("switch", obstacle)}});
-    for (const int column : {ComparisonModel::Statistic, ComparisonModel::PValue,
-                             ComparisonModel::AdjustedPValue, ComparisonModel::Significant})
+    table.setComparison(comparisonWith({untested("switch", obstacle)}), 1);
+    EXPECT_EQ(cell(0, ComparisonModel::PValue), obstacleLabel(obstacle));
+    EXPECT_EQ(cell(0, ComparisonModel::AdjustedPValue), QString::fromUtf8("\xe2\x80\x93"));
+    for (const int column : {ComparisonModel::PValue, ComparisonModel::AdjustedPValue})
     {
-      EXPECT_EQ(cell(0, column), QString::fromUtf8("\xe2\x80\x93"));
       const QVariant tip = view().model()->index(0, column).data(Qt::ToolTipRole);
       EXPECT_TRUE(tip.toString().contains(QLatin1String(words))) << words;
     }
     EXPECT_EQ(cell(0, ComparisonModel::Name), "switch");
     EXPECT_EQ(cell(0, ComparisonModel::Selected), "8");
     EXPECT_EQ(cell(0, ComparisonModel::Others), "12");
-    EXPECT_TRUE(table.commaText().endsWith("\nswitch,,,,8,12,not tested\n"));
-    EXPECT_TRUE(table.tabbedText().endsWith("\nswitch\t\t\t\t8\t12\tnot tested\n"));
   }
+  EXPECT_TRUE(table.commaText().contains("\nswitch,8,12,,,,,,not tested: under way,larger"));
+}
+
+TEST_F(TableOfAComparison, TellsTheMethodAndAllDigitsInTheToolTip)
+{
+  const QString tip =
+      view().model()->index(1, ComparisonModel::PValue).data(Qt::ToolTipRole).toString();
+  EXPECT_TRUE(tip.startsWith("0.0299999999999999")) << tip.toStdString();
+  EXPECT_TRUE(tip.contains("Kolmogorov-Smirnov test, exact")) << tip.toStdString();
+}
+
+TEST_F(TableOfAComparison, SumsUpWhatIsIndependent)
+{
+  auto* summary = table.findChild<QLabel*>(QStringLiteral("comparisonSummary"));
+  EXPECT_TRUE(summary->isVisible());
+  EXPECT_TRUE(summary->text().contains("20 runs"));
+  table.setComparison(sampleComparison(), 7);
+  EXPECT_TRUE(summary->text().contains("so far: 7")) << summary->text().toStdString();
 }
 
 TEST_F(TableOfAComparison, KeepsTheMarksOfTheUserWhenTheComparisonChanges)
@@ -160,8 +214,8 @@ TEST_F(TableOfAComparison, KeepsTheMarksOfTheUserWhenTheComparisonChanges)
                                            QItemSelectionModel::NoUpdate);
   // K10, which was the first, becomes the last; k1 moves up.
   Comparison comparison = sampleComparison();
-  comparison.parameters[1].statistic = 0.1;
-  table.setComparison(comparison);
+  comparison.parameters[1].result.distance = 0.1;
+  table.setComparison(comparison, 1);
   ASSERT_EQ(names(), (QStringList{"k, \"2\"", "k1", "K10"}));
   const auto isMarked = [this](int row)
   { return view().selectionModel()->isRowSelected(row, QModelIndex()); };
@@ -170,7 +224,7 @@ TEST_F(TableOfAComparison, KeepsTheMarksOfTheUserWhenTheComparisonChanges)
   EXPECT_TRUE(isMarked(2));
   EXPECT_EQ(view().currentIndex(), view().model()->index(1, ComparisonModel::PValue));
   comparison.parameters.erase(comparison.parameters.begin());
-  table.setComparison(comparison);
+  table.setComparison(comparison, 1);
   ASSERT_EQ(names(), (QStringList{"k, \"2\"", "K10"}));
   EXPECT_FALSE(isMarked(0));
   EXPECT_TRUE(isMarked(1));
@@ -180,9 +234,21 @@ TEST_F(TableOfAComparison, KeepsTheMarksOfTheUserWhenTheComparisonChanges)
 TEST_F(TableOfAComparison, KeepsItsOrderWhenTheComparisonChanges)
 {
   view().sortByColumn(ComparisonModel::Name, Qt::AscendingOrder);
-  table.setComparison(sampleComparison());
+  table.setComparison(sampleComparison(), 1);
   EXPECT_EQ(names(), (QStringList{"k, \"2\"", "k1", "K10"}));
 }
+
+namespace
+{
+
+constexpr const char* tabbedHeader = "parameter\tselected\tothers\tD\tD_low\tD_high\tp\t"
+                                     "p_adjusted\tmethod\tdirection\tsuperiority\t"
+                                     "median_difference\n";
+constexpr const char* tabbedSecond = "k, \"2\"\t8\t12\t0.5\t\t\t0.029999999999999999\t"
+                                     "0.044999999999999998\tKolmogorov-Smirnov (exact)\t"
+                                     "larger in selected\t0.75\t-2.5\n";
+
+} // namespace
 
 TEST_F(TableOfAComparison, IsCopiedWithTabsAndItsHeader)
 {
@@ -190,20 +256,19 @@ TEST_F(TableOfAComparison, IsCopiedWithTabsAndItsHeader)
   view().setFocus();
   QApplication::setActiveWindow(&table);
   QTest::keyClick(&view(), Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
-            "Parameter\tD\tp\tAdjusted p\tSelected\tNot selected\tSignificant\n"
-            "K10\t1\t1e-10\t3e-10\t8\t12\tyes\n"
-            "k, \"2\"\t0.5\t0.03\t0.045\t8\t12\tyes\n"
-            "k1\t0.25\t0.2\t0.2\t8\t12\tno\n");
+  const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
+  ASSERT_EQ(lines.size(), 5);
+  EXPECT_EQ(lines[0] + "\n", tabbedHeader);
+  EXPECT_TRUE(lines[1].startsWith("K10\t8\t12\t1\t")) << lines[1].toStdString();
+  EXPECT_EQ(lines[2] + "\n", tabbedSecond);
+  EXPECT_TRUE(lines[3].startsWith("k1\t8\t12\t0.25\t")) << lines[3].toStdString();
   EXPECT_EQ(said.count(), 1);
 }
 
 TEST_F(TableOfAComparison, CopiesOnlyTheSelectedRows)
 {
   view().selectRow(1);
-  EXPECT_EQ(table.tabbedText().toStdString(),
-            "Parameter\tD\tp\tAdjusted p\tSelected\tNot selected\tSignificant\n"
-            "k, \"2\"\t0.5\t0.03\t0.045\t8\t12\tyes\n");
+  EXPECT_EQ(table.tabbedText().toStdString(), std::string(tabbedHeader) + tabbedSecond);
 }
 
 TEST_F(TableOfAComparison, KeepsACellOnOneLineWhenCopied)
@@ -211,8 +276,8 @@ TEST_F(TableOfAComparison, KeepsACellOnOneLineWhenCopied)
   Comparison comparison = sampleComparison();
   comparison.parameters.resize(1);
   comparison.parameters[0].name = "a\tb\nc";
-  table.setComparison(comparison);
-  EXPECT_TRUE(table.tabbedText().contains("\na b c\t0.25\t"));
+  table.setComparison(comparison, 1);
+  EXPECT_TRUE(table.tabbedText().contains("\na b c\t8\t12\t0.25\t"));
 }
 
 TEST_F(TableOfAComparison, IsSavedWithCommasAndQuotes)
@@ -223,11 +288,11 @@ TEST_F(TableOfAComparison, IsSavedWithCommasAndQuotes)
   EXPECT_EQ(table.save(path), "");
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll().toStdString(),
-            "Parameter,D,p,Adjusted p,Selected,Not selected,Significant\n"
-            "K10,1,1e-10,3e-10,8,12,yes\n"
-            "\"k, \"\"2\"\"\",0.5,0.03,0.045,8,12,yes\n"
-            "k1,0.25,0.2,0.2,8,12,no\n");
+  const QList<QByteArray> lines = file.readAll().split('\n');
+  ASSERT_EQ(lines.size(), 5) << "the whole table";
+  EXPECT_TRUE(lines[0].startsWith("parameter,selected,others,D,"));
+  EXPECT_TRUE(lines[1].startsWith("K10,8,12,1,")) << "in the order shown";
+  EXPECT_TRUE(lines[2].startsWith("\"k, \"\"2\"\"\",8,12,0.5,"));
 }
 
 TEST_F(TableOfAComparison, IsSavedAsItWasWhenTheUserAskedForIt)
@@ -240,7 +305,7 @@ TEST_F(TableOfAComparison, IsSavedAsItWasWhenTheUserAskedForIt)
   auto* dialog = table.findChild<QFileDialog*>();
   ASSERT_NE(dialog, nullptr);
   EXPECT_TRUE(dialog->selectedFiles().value(0).endsWith("/runs-comparison.csv"));
-  table.setComparison({Comparison::State::nothingSelected, {}});
+  table.setComparison(withoutParameters(Comparison::State::nothingSelected), 1);
   QSignalSpy said(&table, &ComparisonTable::said);
   emit dialog->fileSelected(path);
   dialog->close();
@@ -280,15 +345,14 @@ TEST_F(TableOfAComparison, SaysWhyItIsEmpty)
   const std::pair<Comparison::State, const char*> reasons[] = {
       {Comparison::State::noParameters, "no parameters"},
       {Comparison::State::nothingSelected, "Nothing is selected"},
-      {Comparison::State::noRunSelected, "No run is selected at every time"},
       {Comparison::State::noOthers, "All runs are selected"}};
   for (const auto& [state, words] : reasons)
   {
-    table.setComparison({state, {}});
+    table.setComparison(withoutParameters(state), 1);
     EXPECT_TRUE(explanation().isVisible()) << words;
     EXPECT_TRUE(explanation().text().contains(QLatin1String(words))) << words;
     EXPECT_FALSE(view().isVisible());
   }
-  table.setComparison(sampleComparison());
+  table.setComparison(sampleComparison(), 1);
   EXPECT_TRUE(view().isVisible());
 }

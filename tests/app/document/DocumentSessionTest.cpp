@@ -29,8 +29,9 @@ protected:
   std::vector<double> numbers()
   {
     std::vector<double> found;
-    for (const ComparedParameter& parameter : comparisonOf(container()).parameters)
-      found.insert(found.end(), {parameter.statistic, parameter.pValue, parameter.adjustedPValue});
+    for (const ComparedParameter& parameter : document.comparison().current().parameters)
+      found.insert(found.end(),
+                   {parameter.result.distance, parameter.result.p, parameter.result.adjusted});
     return found;
   }
 };
@@ -49,6 +50,8 @@ TEST_F(DocumentSession, BringsBackStatesNumbersAndPlots)
   ComparisonChoice comparison = comparisonChoiceOf(container());
   comparison.pThreshold = 0.25;
   comparison.density = true;
+  comparison.comparedBy = Talmesh::stats::ComparedBy::rankSum;
+  comparison.adjustment = Talmesh::stats::Adjustment::holm;
   document.compareBy(comparison);
   document.groups().setGrouping(2, byPhases);
   group();
@@ -63,6 +66,8 @@ TEST_F(DocumentSession, BringsBackStatesNumbersAndPlots)
   EXPECT_EQ(choiceOf(container()), choice);
   EXPECT_EQ(comparisonChoiceOf(container()).pThreshold, 0.25);
   EXPECT_TRUE(comparisonChoiceOf(container()).density);
+  EXPECT_EQ(comparisonChoiceOf(container()).comparedBy, Talmesh::stats::ComparedBy::rankSum);
+  EXPECT_EQ(comparisonChoiceOf(container()).adjustment, Talmesh::stats::Adjustment::holm);
   EXPECT_EQ(selectedRuns(), (std::set<int>{0, 1, 4}));
   EXPECT_EQ(numbers(), before);
   EXPECT_EQ(labels(), plots);

@@ -194,7 +194,7 @@ TEST_F(SelectionControllerTest, CountsRowsWhereThereAreNoRuns)
   }
   setStride(3);
   plot.container.getTable()->GetColumn(SampleRuns::runIndexColumn)->SetName("run");
-  EXPECT_EQ(controller.summary(), "3 of 9 rows selected");
+  EXPECT_EQ(controller.summary(), "2 of 3 runs selected") << "counted, as it has parameters";
   controller.follow(nullptr);
   EXPECT_EQ(controller.summary(), "");
 }

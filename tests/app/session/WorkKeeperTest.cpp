@@ -51,8 +51,8 @@ protected:
                     [this]
                     {
                       untilLooked.quit();
-                      return std::optional(
-                          SessionSource{study, container, legend, false, {}, {}, {}, {}, {}, {}});
+                      return std::optional(SessionSource{
+                          study, container, legend, false, {}, {}, {}, {}, {}, {}, {}});
                     },
                     1};
 };

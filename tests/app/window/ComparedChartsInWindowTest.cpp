@@ -5,6 +5,8 @@
 #include <vtkPlot.h>
 #include <vtkTable.h>
 
+#include <QComboBox>
+#include <QFont>
 #include <QSpinBox>
 
 #include <memory>
@@ -87,12 +89,24 @@ protected:
     QTest::keyClick(box, Qt::Key_Return);
   }
 
-  std::string cell(const char* parameter, int column)
+  QModelIndex indexOf(const char* parameter, int column)
   {
     for (int row = 0; row < table().rowCount(); ++row)
       if (table().index(row, ComparisonModel::Name).data() == QLatin1String(parameter))
-        return table().index(row, column).data().toString().toStdString();
-    return "no such row";
+        return table().index(row, column);
+    return {};
+  }
+  std::string cell(const char* parameter, int column)
+  {
+    return indexOf(parameter, column).data().toString().toStdString();
+  }
+  double sortedBy(const char* parameter, int column)
+  {
+    return indexOf(parameter, column).data(ComparisonModel::SortRole).toDouble();
+  }
+  bool isBold(const char* parameter)
+  {
+    return indexOf(parameter, 0).data(Qt::FontRole).value<QFont>().bold();
   }
 };
 
@@ -109,13 +123,17 @@ TEST_F(ComparedChartsInWindow, FollowADraggedRectangle)
             static_cast<std::size_t>(selectedRunCount));
   EXPECT_EQ(table().rowCount(), 6);
   // Up to 8 there are all of 0 ... 6, 8 and, of the fifteen others, only 7: the distance is 14/15.
-  EXPECT_EQ(cell("p5", ComparisonModel::Statistic), "0.933");
+  EXPECT_EQ(cell("p5", ComparisonModel::Statistic).substr(0, 5), "0.933");
   EXPECT_EQ(cell("p5", ComparisonModel::Selected), "8");
   EXPECT_EQ(cell("p5", ComparisonModel::Others), "15");
-  EXPECT_EQ(charts(4), (Names{"p5", "p0", "p1", "p2"}));
+  EXPECT_EQ(charts(1), Names{"p5"});
   for (int place = 0; place < 4; ++place)
   {
-    EXPECT_EQ(std::string(parameterChart(place)->GetTitle()).substr(0, 4), "p = ");
+    const std::string name = parameterChart(place)->GetAxis(vtkAxis::BOTTOM)->GetTitle();
+    const std::string adjusted = cell(name.c_str(), ComparisonModel::AdjustedPValue);
+    const bool isRelation = adjusted.find_first_of("<>") == 0;
+    EXPECT_EQ(parameterChart(place)->GetTitle(),
+              "adjusted p " + (isRelation ? adjusted : "= " + adjusted));
     ASSERT_EQ(parameterChart(place)->GetNumberOfPlots(), 3);
     EXPECT_EQ(parameterChart(place)->GetPlot(1)->GetInput()->GetNumberOfRows(), selectedRunCount);
     EXPECT_EQ(parameterChart(place)->GetPlot(2)->GetInput()->GetNumberOfRows(),
@@ -124,30 +142,68 @@ TEST_F(ComparedChartsInWindow, FollowADraggedRectangle)
   EXPECT_TRUE(saysHowLongItTook()) << window.statusBar()->currentMessage().toStdString();
 }
 
-TEST_F(ComparedChartsInWindow, FollowTheThresholdOfP)
+TEST_F(ComparedChartsInWindow, FollowTheThresholdOfTheAdjustedP)
 {
   selectLowRuns();
-  EXPECT_EQ(charts(4), (Names{"p5", "p0", "p1", "p2"}));
-  EXPECT_EQ(cell("p5", ComparisonModel::Significant), "yes");
-  EXPECT_EQ(cell("p0", ComparisonModel::Significant), "no");
+  EXPECT_EQ(charts(1), Names{"p5"});
+  EXPECT_TRUE(isBold("p5"));
+  EXPECT_FALSE(isBold("p0"));
+  EXPECT_EQ(container().getChartMatrix()->GetSize().GetY(), 2);
   type("pThreshold", "1e-9");
   EXPECT_EQ(settings().getPThreshold(), 1e-9);
-  EXPECT_EQ(charts(4), (Names{"p0", "p1", "p2", "p3"}));
-  EXPECT_EQ(cell("p5", ComparisonModel::Significant), "no");
+  EXPECT_FALSE(isBold("p5"));
   type("pThreshold", "1");
-  EXPECT_EQ(charts(6), (Names{"p0", "p1", "p2", "p3", "p4", "p5"}));
-  EXPECT_EQ(cell("p0", ComparisonModel::Significant), "yes");
+  EXPECT_EQ(container().getChartMatrix()->GetSize().GetY(), 4) << "six charts";
+  EXPECT_TRUE(isBold("p0"));
 }
 
 TEST_F(ComparedChartsInWindow, FollowTheThresholdOfTheDistance)
 {
   selectLowRuns();
   type("ksThreshold", "0.95");
-  EXPECT_EQ(charts(4), (Names{"p0", "p1", "p2", "p3"}));
-  EXPECT_EQ(cell("p5", ComparisonModel::Significant), "no");
+  EXPECT_FALSE(isBold("p5"));
   type("ksThreshold", "0.9");
-  EXPECT_EQ(charts(4), (Names{"p5", "p0", "p1", "p2"}));
-  EXPECT_EQ(cell("p5", ComparisonModel::Significant), "yes");
+  EXPECT_EQ(charts(1), Names{"p5"});
+  EXPECT_TRUE(isBold("p5"));
+}
+
+TEST_F(ComparedChartsInWindow, StandInTheOrderOfTheTablesAdjustedP)
+{
+  selectLowRuns();
+  type("pThreshold", "1");
+  double before = 0.0;
+  for (const std::string& name : charts(6))
+  {
+    const double adjusted = sortedBy(name.c_str(), ComparisonModel::AdjustedPValue);
+    EXPECT_GE(adjusted, before) << name;
+    before = adjusted;
+  }
+}
+
+TEST_F(ComparedChartsInWindow, FollowTheChosenTest)
+{
+  selectLowRuns();
+  auto* box = window.findChild<QComboBox*>(QStringLiteral("comparedBy"));
+  const std::string distributions = cell("p5", ComparisonModel::PValue);
+  QTest::keyClick(box, Qt::Key_Down);
+  const std::string ranks = cell("p5", ComparisonModel::PValue);
+  EXPECT_NE(ranks, distributions);
+  EXPECT_EQ(parameterChart(0)->GetTitle(),
+            "adjusted p = " + cell("p5", ComparisonModel::AdjustedPValue));
+  EXPECT_FALSE(box->itemData(1, Qt::ToolTipRole).toString().isEmpty());
+  QTest::keyClick(box, Qt::Key_Up);
+  EXPECT_EQ(cell("p5", ComparisonModel::PValue), distributions);
+}
+
+TEST_F(ComparedChartsInWindow, CheckInHalvesWhatWasFound)
+{
+  selectLowRuns();
+  press("halves", Qt::Key_Space);
+  auto* summary = window.findChild<QLabel*>(QStringLiteral("comparisonSummary"));
+  EXPECT_TRUE(summary->text().startsWith("Tested is one half")) << summary->text().toStdString();
+  EXPECT_EQ(cell("p0", ComparisonModel::PValue), "alike in first half");
+  EXPECT_LT(sortedBy("p5", ComparisonModel::PValue), 0.05);
+  EXPECT_LT(std::stoi(cell("p5", ComparisonModel::Selected)), selectedRunCount);
 }
 
 TEST_F(ComparedChartsInWindow, ReturnToTheirOrderWhenTheSelectionIsCleared)

@@ -231,16 +231,18 @@ protected:
   {
     const std::size_t tables = container().getDerivedTables().size();
     EXPECT_TRUE(tables == 0 || tables == 2 || tables == 8) << tables;
-    const Comparison comparison = comparisonOf(container());
+    const Comparison& comparison = window.document().comparison().current();
     const bool compared = comparison.state == Comparison::State::compared;
     EXPECT_EQ(comparison.parameters.size(), compared ? 4U : 0U);
     for (const ComparedParameter& parameter : comparison.parameters)
     {
-      EXPECT_TRUE(parameter.statistic >= 0.0 && parameter.statistic <= 1.0);
-      EXPECT_TRUE(parameter.pValue >= 0.0 && parameter.pValue <= 1.0) << parameter.pValue;
-      EXPECT_GE(parameter.adjustedPValue, parameter.pValue);
-      EXPECT_GT(parameter.selected, 0U);
-      EXPECT_LE(parameter.selected + parameter.others, static_cast<std::size_t>(runCount));
+      const Talmesh::stats::ParameterComparison& result = parameter.result;
+      EXPECT_TRUE(result.distance >= 0.0 && result.distance <= 1.0);
+      const bool tested = parameter.obstacle == TestObstacle::none;
+      EXPECT_EQ(result.p >= 0.0 && result.p <= 1.0, tested) << result.p;
+      EXPECT_EQ(result.adjusted >= result.p, tested);
+      EXPECT_GT(result.selected, 0U);
+      EXPECT_LE(result.selected + result.others, static_cast<std::size_t>(runCount));
     }
   }
 

@@ -15,7 +15,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <numeric>
 #include <set>
 #include <sstream>
 #include <string>
@@ -70,13 +69,5 @@ protected:
 
   std::unique_ptr<VtkPlotWidget> widget;
 };
-
-/// The rows of the first runs at all times.
-inline std::vector<vtkIdType> rowsOfRuns(int count)
-{
-  std::vector<vtkIdType> rows(static_cast<std::size_t>(3 * count));
-  std::iota(rows.begin(), rows.end(), 0);
-  return rows;
-}
 
 #endif

@@ -1,0 +1,167 @@
+#include "app/comparison/ComparisonFile.h"
+
+#include "widgets/FileWriter.h"
+
+#include <cmath>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// Every double can be read back from as many digits.
+constexpr int allDigits = 17;
+
+QString numberCell(double value)
+{
+  return std::isnan(value) ? QString() : QString::number(value, 'g', allDigits);
+}
+
+QString directionCell(stats::Direction direction)
+{
+  switch (direction)
+  {
+  case stats::Direction::larger:
+    return QStringLiteral("larger in selected");
+  case stats::Direction::smaller:
+    return QStringLiteral("smaller in selected");
+  case stats::Direction::bothWays:
+    return QStringLiteral("both ways");
+  case stats::Direction::none:
+    break;
+  }
+  return {};
+}
+
+QString permutedCell(const char* format, const stats::ParameterComparison& result)
+{
+  QString statistic = QStringLiteral("Kolmogorov-Smirnov");
+  if (result.comparedBy == stats::ComparedBy::rankSum)
+    statistic = QStringLiteral("Mann-Whitney");
+  else if (result.comparedBy == stats::ComparedBy::counts)
+    statistic = QStringLiteral("counts");
+  return QString(QLatin1String(format)).arg(statistic).arg(result.permutations);
+}
+
+QString methodOf(const stats::ParameterComparison& result)
+{
+  switch (result.method)
+  {
+  case stats::TestMethod::exactDistribution:
+    return QStringLiteral("Kolmogorov-Smirnov (exact)");
+  case stats::TestMethod::asymptoticDistribution:
+    return QStringLiteral("Kolmogorov-Smirnov (asymptotic)");
+  case stats::TestMethod::exactRankSum:
+    return QStringLiteral("Mann-Whitney (exact)");
+  case stats::TestMethod::normalRankSum:
+    return QStringLiteral("Mann-Whitney (normal)");
+  case stats::TestMethod::exactCounts:
+    return QStringLiteral("counts (Fisher)");
+  case stats::TestMethod::chiSquaredCounts:
+    return QStringLiteral("counts (chi-squared)");
+  case stats::TestMethod::permutedSets:
+    return permutedCell("%1 (%2 permutations of sets)", result);
+  case stats::TestMethod::permutedBaseSamples:
+    return permutedCell("%1 (%2 permutations of base samples)", result);
+  case stats::TestMethod::none:
+    break;
+  }
+  return QStringLiteral("not tested");
+}
+
+QString reasonOf(TestObstacle obstacle)
+{
+  switch (obstacle)
+  {
+  case TestObstacle::emptyGroup:
+    return QStringLiteral("a group without values");
+  case TestObstacle::constant:
+    return QStringLiteral("constant");
+  case TestObstacle::chosenByParameter:
+    return QStringLiteral("chosen by this parameter");
+  case TestObstacle::tooManyLevels:
+    return QStringLiteral("too many values");
+  case TestObstacle::tooFewUnits:
+    return QStringLiteral("too few sets");
+  case TestObstacle::cancelled:
+    return QStringLiteral("cancelled");
+  case TestObstacle::changingValues:
+    return QStringLiteral("changes within a run");
+  case TestObstacle::pending:
+    return QStringLiteral("under way");
+  case TestObstacle::alikeInFirstHalf:
+    return QStringLiteral("does not differ in the first half");
+  case TestObstacle::none:
+    break;
+  }
+  return {};
+}
+
+QString methodCell(const ComparedParameter& parameter)
+{
+  if (parameter.obstacle == TestObstacle::none)
+    return methodOf(parameter.result);
+  return QStringLiteral("not tested: ") + reasonOf(parameter.obstacle);
+}
+
+QString quotedIfNeeded(const QString& cell)
+{
+  const bool plain = !cell.contains(QLatin1Char(',')) && !cell.contains(QLatin1Char('"')) &&
+                     !cell.contains(QLatin1Char('\n')) && !cell.contains(QLatin1Char('\r'));
+  if (plain)
+    return cell;
+  return QLatin1Char('"') + QString(cell).replace(QLatin1Char('"'), QLatin1String("\"\"")) +
+         QLatin1Char('"');
+}
+
+} // namespace
+
+QStringList comparisonColumns()
+{
+  return QStringLiteral("parameter selected others D D_low D_high p p_adjusted method direction "
+                        "superiority median_difference")
+      .split(QLatin1Char(' '));
+}
+
+QStringList comparisonCells(const ComparedParameter& parameter)
+{
+  const stats::ParameterComparison& result = parameter.result;
+  return {QString::fromStdString(parameter.name),
+          QString::number(result.selected),
+          QString::number(result.others),
+          numberCell(result.distance),
+          numberCell(result.interval.low),
+          numberCell(result.interval.high),
+          numberCell(result.p),
+          numberCell(result.adjusted),
+          methodCell(parameter),
+          directionCell(result.direction),
+          numberCell(result.superiority),
+          numberCell(result.medianDifference)};
+}
+
+QString commaLine(const QStringList& cells)
+{
+  QStringList written;
+  for (const QString& cell : cells)
+    written.append(quotedIfNeeded(cell));
+  return written.join(QLatin1Char(',')) + QLatin1Char('\n');
+}
+
+QString commaText(const std::vector<ComparedParameter>& parameters)
+{
+  QString text = commaLine(comparisonColumns());
+  for (const ComparedParameter& parameter : parameters)
+    text += commaLine(comparisonCells(parameter));
+  return text;
+}
+
+std::string writeText(const QString& path, const QString& text)
+{
+  const QByteArray bytes = text.toUtf8();
+  const QString reason = writeFile(path, bytes.constData(), bytes.size());
+  return reason.isEmpty() ? std::string() : (path + QLatin1String(": ") + reason).toStdString();
+}
+
+} // namespace Talmesh::app

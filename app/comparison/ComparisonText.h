@@ -1,0 +1,41 @@
+#ifndef ComparisonText_h
+#define ComparisonText_h
+
+#include "app/comparison/ComparisonResults.h"
+
+#include <QString>
+
+/// What a comparison says, in the user's language. Numbers have a point, as in files.
+namespace Talmesh::app
+{
+
+/// As many digits as a reader compares. No number is rounded to 1 or to 0 that is not.
+QString numberText(double value);
+
+/// "0.0312", "≤ 0.0001 (9,999)" for a p-value that no permutation of so many has reached, "<
+/// 1e-300".
+QString pText(const stats::ParameterComparison& result);
+QString adjustedText(const stats::ParameterComparison& result);
+
+/// "larger in selected"
+QString directionText(stats::Direction direction);
+/// "0.53 (0.31-0.74)"; without what there is not.
+QString distanceText(const stats::ParameterComparison& result);
+QString methodText(stats::TestMethod method);
+/// Why there is no p, in a word or two and in a sentence.
+QString obstacleLabel(TestObstacle obstacle);
+QString obstacleText(TestObstacle obstacle);
+
+/// What is independent: "12 sets of 10 runs".
+QString unitsText(const stats::UnitSummary& units);
+
+/// What holds for all of a comparison, in a few sentences.
+/// @param selections how many selections the user has looked at
+QString summaryText(const Comparison& comparison, std::size_t selections);
+
+/// What a chart says of its parameter, in a few words.
+QString chartTitle(const ComparedParameter& parameter);
+
+} // namespace Talmesh::app
+
+#endif

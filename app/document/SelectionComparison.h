@@ -1,0 +1,91 @@
+#ifndef SelectionComparison_h
+#define SelectionComparison_h
+
+#include "app/comparison/ComparisonResults.h"
+#include "plot/KsStatistics.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+class PlotContainer;
+
+namespace Talmesh::app
+{
+
+/// The comparison of the selected runs of a container with its others, brought up to date whenever
+/// somebody asks and before every drawing, and handed to the container, so that table and charts
+/// say the same.
+///
+/// Nobody else hands tests to the container. Belongs to the GUI thread.
+class SelectionComparison : public QObject
+{
+  Q_OBJECT
+
+public:
+  /// Compares, in any thread.
+  /// @param progress told the part done; false gives up
+  using Work = std::function<Comparison(const std::function<bool(double)>& progress)>;
+  /// Does long work elsewhere: `start` takes work, in place of the one before, and delivers its
+  /// result in the GUI thread, from the event loop; nothing if it was given up.
+  struct Background
+  {
+    std::function<void(const Work&, const std::function<void(const Comparison&)>&)> start;
+    std::function<void()> cancel;
+  };
+
+  using QObject::QObject;
+  ~SelectionComparison() override;
+
+  /// Without it, all is done at once.
+  void setBackground(const Background& elsewhere) { background = elsewhere; }
+  /// What says by which words the runs are selected; empty where nobody knows.
+  void setWords(const std::function<std::string()>& said) { words = said; }
+
+  /// Turns to another container, not owned, or to none.
+  void follow(PlotContainer* container);
+
+  /// What can be said now; tests that take long may follow. Announces by `found` where the charts
+  /// say something else, as when the words of a selection are known only after it was drawn.
+  const Comparison& current();
+  /// How many selections of the container have been compared; none counts twice.
+  std::size_t selections() const { return seen.size(); }
+  /// The user gives up what is under way.
+  void giveUp();
+
+signals:
+  /// There is something to say that the charts do not.
+  void found();
+
+private:
+  bool update();
+  void begin();
+  void take(const Comparison& found);
+  bool handOver();
+
+  QPointer<PlotContainer> followed;
+  Background background;
+  std::function<std::string()> words;
+  std::optional<ComparedStudy> compared;
+  ComparisonChoice choice;
+  Comparison comparison;
+  std::vector<ParameterTest> handed;
+  /// Fingerprints of selections.
+  std::set<std::size_t> seen;
+  bool underWay = false;
+};
+
+/// What there is to compare in a container.
+/// @param words the condition by which its runs are selected; empty where nobody knows
+ComparedStudy comparedStudy(PlotContainer& container, const std::string& words);
+
+} // namespace Talmesh::app
+
+#endif

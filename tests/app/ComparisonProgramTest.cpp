@@ -1,0 +1,137 @@
+#include "stats/RunComparison.h"
+#include "support/Pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "RunningProgram.h"
+
+namespace stats = Talmesh::stats;
+
+namespace
+{
+
+/// Twelve runs over three points; k rises with the run, s has four values.
+std::string twelveRuns()
+{
+  std::ostringstream text;
+  text << "run,time,k,s,X\n";
+  for (int run = 0; run < 12; ++run)
+    for (int point = 0; point < 3; ++point)
+      text << run << ',' << point << ',' << 0.1 * run << ',' << run % 4 << ',' << run + point
+           << '\n';
+  return text.str();
+}
+
+std::string sixSetsOfFour()
+{
+  std::ostringstream text;
+  text << "run,time,k,X\n";
+  for (int run = 0; run < 24; ++run)
+    for (int point = 0; point < 3; ++point)
+      text << run << ',' << point << ',' << run / 4 << ',' << run + point << '\n';
+  return text.str();
+}
+
+class ComparisonProgram : public RunningProgram
+{
+protected:
+  /// The cells of each line; no name has a comma in these studies.
+  std::vector<QStringList> comparison(const QStringList& arguments)
+  {
+    expectSuccess(arguments + QStringList{"--compare", path("out.csv")});
+    std::vector<QStringList> lines;
+    for (const QByteArray& line : contentOf(path("out.csv")).trimmed().split('\n'))
+      lines.push_back(QString::fromUtf8(line).split(QLatin1Char(',')));
+    return lines;
+  }
+
+  void removeDisplay()
+  {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"})
+      environment.remove(QLatin1String(name));
+  }
+};
+
+} // namespace
+
+TEST_F(ComparisonProgram, WritesTheTableWithAllDigits)
+{
+  const QString csv = write("runs.csv", twelveRuns());
+  const auto lines = comparison({csv, "--select", "max(X) > 9.5", "--select", "run = 3"});
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[0].join(QLatin1Char(' ')),
+            "parameter selected others D D_low D_high p p_adjusted method direction superiority "
+            "median_difference");
+  std::vector<double> k, s;
+  std::vector<char> selected;
+  for (int run = 0; run < 12; ++run)
+  {
+    k.push_back(run);
+    s.push_back(run % 4);
+    selected.push_back(run + 2 > 9.5 || run == 3 ? 1 : 0);
+  }
+  const auto rows = stats::compareRuns({k, s}, selected).parameters;
+  EXPECT_EQ(lines[1][0], "k");
+  EXPECT_EQ(lines[1][1], "5");
+  EXPECT_EQ(lines[1][2], "7");
+  EXPECT_EQ(lines[1][3].toDouble(), rows[0].distance);
+  EXPECT_EQ(lines[1][4].toDouble(), rows[0].interval.low);
+  EXPECT_EQ(lines[1][6].toDouble(), rows[0].p);
+  EXPECT_EQ(lines[1][7].toDouble(), rows[0].adjusted);
+  EXPECT_EQ(lines[1][8], "Kolmogorov-Smirnov (exact)");
+  EXPECT_EQ(lines[1][9], "larger in selected");
+  EXPECT_EQ(lines[1][10].toDouble(), rows[0].superiority);
+  EXPECT_EQ(lines[2][0], "s");
+  EXPECT_EQ(lines[2][6].toDouble(), rows[1].p);
+}
+
+TEST_F(ComparisonProgram, NeedsNoDisplay)
+{
+  const QString csv = write("runs.csv", sixSetsOfFour());
+  removeDisplay();
+  const auto lines = comparison({csv, "--select", "max(X) > 12"});
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(lines[1][8], "Kolmogorov-Smirnov (9999 permutations of sets)");
+  EXPECT_EQ(lines[1][4], "") << "no interval with replicates";
+}
+
+TEST_F(ComparisonProgram, SaysInOneLineWhyThereIsNone)
+{
+  const QString csv = write("runs.csv", twelveRuns());
+  const QString out = path("out.csv");
+  removeDisplay();
+  expectError({csv, "--compare", out}, "no run is selected to be compared; name some by --select");
+  expectError({csv, "--select", "max(X) > -1", "--compare", out},
+              "all runs are selected; there are none to compare them with");
+  expectError({write("plain.csv", "run,time,X\n0,0,1\n0,1,2\n1,0,3\n1,1,4\n"), "--compare", out},
+              "there are no parameters of runs to compare");
+  EXPECT_FALSE(QFile::exists(out));
+  const QString nowhere = path("nowhere/out.csv");
+  const Ended ended = run({csv, "--select", "k < 0.35", "--compare", nowhere});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_TRUE(ended.errors.startsWith(("talmesh-plot: " + nowhere + ": ").toUtf8()));
+  EXPECT_EQ(ended.errors.count('\n'), 1);
+}
+
+TEST_F(ComparisonProgram, WritesPicturesBesideIt)
+{
+  const QString csv = write("runs.csv", twelveRuns());
+  comparison({csv, "--select", "max(X) > 9.5", "--size", "300x200", "--export", path("plot.png")});
+  EXPECT_TRUE(QFile::exists(path("plot.png")));
+}
+
+TEST_F(ComparisonProgram, DoesNotTestWhatTheConditionAsksFor)
+{
+  const QString csv = write("runs.csv", twelveRuns());
+  const auto lines = comparison({csv, "--select", "k < 0.35"});
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[1][8], "not tested: chosen by this parameter");
+  EXPECT_EQ(lines[1][6], "");
+  EXPECT_EQ(lines[2][8], "Kolmogorov-Smirnov (exact)");
+}
