@@ -42,7 +42,8 @@ std::string commandLineHelp()
       exportNames("FILE") +
       " and open no window;\n"
       "                          may be given several times\n"
-      "  --compare FILE          write how the parameters of the selected runs differ from those of\n"
+      "  --compare FILE          write how the parameters of the selected runs differ from those "
+      "of\n"
       "                          the others, as a table (.csv), and open no window\n"
       "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
       "  --size WxH              width and height of the pictures in pixels\n"
