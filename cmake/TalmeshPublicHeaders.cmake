@@ -26,6 +26,7 @@ set(TALMESH_PUBLIC_HEADERS
   plot/PlotContainerTypes.h
   plot/PlotOptions.h
   plot/RunClustering.h
+  plot/SummaryTable.h
   plot/vtkSelectionUpdateCallback.h
   plot/vtkShiftScaleCallback.h
   stats/HalfComparison.h

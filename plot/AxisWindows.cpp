@@ -1,6 +1,7 @@
 #include "plot/AxisWindows.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/DrawnRows.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "vtk/LogScales.h"
@@ -41,11 +42,18 @@ void restoreRange(vtkAxis* axis, double minimum, double maximum, bool recordedAs
 }
 
 /// A window that came without its scales was recorded on the axis that the data would give.
-bool wouldBeLogarithmic(const PlotState& state, int column, bool logarithmic)
+bool wouldBeLogarithmic(vtkTable* table, int column, bool logarithmic)
 {
   double range[2];
-  return logarithmic && finiteRange(plottableColumn(state.table, column), range) &&
-         hasLogarithms(range);
+  return logarithmic && finiteRange(plottableColumn(table, column), range) && hasLogarithms(range);
+}
+
+/// Keys of columns of a summary are no columns of the plot table.
+constexpr int firstOfSummary = -2;
+
+int ofSummary(int column)
+{
+  return firstOfSummary - column;
 }
 
 bool isAmong(const std::vector<int>& columns, int column)
@@ -59,7 +67,9 @@ void forgetKeys(Map& map, const std::vector<int>& columns)
   for (auto entry = map.begin(); entry != map.end();)
   {
     const ReducedMetaData& key = entry->first;
-    const bool drawn = isAmong(columns, key.xColumn) || isAmong(columns, key.yColumn);
+    // A summary may be of any columns.
+    const bool drawn = key.yColumn <= firstOfSummary || isAmong(columns, key.xColumn) ||
+                       isAmong(columns, key.yColumn);
     entry = drawn ? map.erase(entry) : std::next(entry);
   }
 }
@@ -68,6 +78,9 @@ void forgetKeys(Map& map, const std::vector<int>& columns)
 
 ReducedMetaData currentKey(const PlotState& state)
 {
+  if (drawsSummary(state))
+    return {ofSummary(state.summary.x), ofSummary(state.summary.y),
+            static_cast<int>(state.metaData->getPlotStyle())};
   return {firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns),
           static_cast<int>(state.metaData->getPlotStyle())};
 }
@@ -102,10 +115,10 @@ void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWi
                        bool logarithmic)
 {
   const auto scales = state.windowScales.find(currentKey(state));
-  const bool recordedAsLog =
-      scales != state.windowScales.end()
-          ? scales->second.xLog
-          : wouldBeLogarithmic(state, firstOf(state.metaData->xColumns), logarithmic);
+  const DrawnRows drawn = drawnRows(state);
+  const bool recordedAsLog = scales != state.windowScales.end()
+                                 ? scales->second.xLog
+                                 : wouldBeLogarithmic(drawn.table, drawn.x, logarithmic);
   axis->SetLogScale(logarithmic);
   restoreRange(axis, window.xMin, window.xMax, recordedAsLog);
 }
@@ -113,10 +126,10 @@ void restoreBottomAxis(const PlotState& state, vtkAxis* axis, const CoordinateWi
 void restoreLeftAxis(const PlotState& state, vtkAxis* axis, const CoordinateWindow& window)
 {
   const auto scales = state.windowScales.find(currentKey(state));
-  const bool recordedAsLog =
-      scales != state.windowScales.end()
-          ? scales->second.yLog
-          : wouldBeLogarithmic(state, firstOf(state.metaData->yColumns), axis->GetLogScale());
+  const DrawnRows drawn = drawnRows(state);
+  const bool recordedAsLog = scales != state.windowScales.end()
+                                 ? scales->second.yLog
+                                 : wouldBeLogarithmic(drawn.table, drawn.y, axis->GetLogScale());
   restoreRange(axis, window.yMin, window.yMax, recordedAsLog);
 }
 

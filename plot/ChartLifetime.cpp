@@ -88,7 +88,11 @@ vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state)
 void ensureStandaloneChart(PlotState& state)
 {
   if (state.chartXY && !isMatrixCell(state))
+  {
+    // It may have been that of a summary.
+    state.chartXY->SetAnnotationLink(state.annotationLink);
     return;
+  }
   releaseChartXY(state);
   state.chartXY = makeXYChart(state);
   applyChartLooks(state);

@@ -1,5 +1,6 @@
 #include "plot/MatrixSelection.h"
 
+#include "plot/DrawnRows.h"
 #include "plot/PlotState.h"
 #include "plot/SelectionFlags.h"
 #include "vtk/RowSelections.h"
@@ -31,11 +32,11 @@ MatrixSelection::~MatrixSelection()
   watch(nullptr);
 }
 
-void MatrixSelection::watch(vtkAnnotationLink* ofMatrix)
+void MatrixSelection::watch(vtkAnnotationLink* ofChart)
 {
   if (link)
     link->RemoveObserver(observerTag);
-  link = ofMatrix;
+  link = ofChart;
   if (link)
     observerTag =
         link->AddObserver(vtkCommand::AnnotationChangedEvent, this, &MatrixSelection::announce);
@@ -60,6 +61,8 @@ void MatrixSelection::announce()
 
 void adoptMatrixSelection(PlotState& state, vtkSelection* selection)
 {
+  if (drawsSummary(state))
+    return adoptSummarySelection(state, selection);
   const vtkSmartPointer<vtkAnnotationLink> link = state.annotationLink;
   if (markedRows(selection, state.table) == markedRows(link->GetCurrentSelection(), state.table))
     return;

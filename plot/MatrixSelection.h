@@ -15,8 +15,8 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// Ties the selection of a scatter-plot matrix, which has an annotation link of its own and cannot
-/// be given another, to that of the container.
+/// Ties the selection of a chart that has an annotation link of its own to that of the container: a
+/// scatter-plot matrix cannot be given another, and a summary has other rows.
 class MatrixSelection
 {
 public:
@@ -25,13 +25,13 @@ public:
   MatrixSelection(const MatrixSelection&) = delete;
   MatrixSelection& operator=(const MatrixSelection&) = delete;
 
-  /// Watches the link of a matrix, not kept alive, instead of the one watched so far.
-  void watch(vtkAnnotationLink* ofMatrix);
-  /// Shows a copy of `selection`, which may be null, in the matrix, without announcing it, also
-  /// when somebody who watches the matrix throws.
+  /// Watches the link of a chart, not kept alive, instead of the one watched so far.
+  void watch(vtkAnnotationLink* ofChart);
+  /// Shows a copy of `selection`, which may be null, in the chart, without announcing it, also
+  /// when somebody who watches its link throws.
   void show(vtkSelection* selection);
 
-  /// Called with the matrix's own selection, which may be null, whenever somebody else than show()
+  /// Called with the chart's own selection, which may be null, whenever somebody else than show()
   /// has set it. May end the life of this object.
   std::function<void(vtkSelection*)> selected;
 
@@ -45,8 +45,8 @@ private:
   bool showing = false;
 };
 
-/// Makes a copy of what was selected in the matrix the container's selection, unless that names the
-/// same rows already.
+/// Makes what was selected in the matrix the container's selection, unless that names the same rows
+/// already.
 void adoptMatrixSelection(PlotState& state, vtkSelection* selection);
 
 } // namespace Talmesh::plot

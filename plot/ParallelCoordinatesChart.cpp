@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/DrawnRows.h"
 #include "plot/FiniteTable.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotState.h"
@@ -9,8 +10,10 @@
 #include "plot/TableColumns.h"
 #include "vtk/ParallelLines.h"
 #include "vtk/RowSelections.h"
+#include "vtk/vtkSelectableParallelCoordinates.h"
 
 #include <vtkAxis.h>
+#include <vtkContextMouseEvent.h>
 #include <vtkLookupTable.h>
 #include <vtkPlotParallelCoordinates.h>
 #include <vtkTextProperty.h>
@@ -25,22 +28,31 @@ namespace
 
 /// Fewer y columns than this are no choice of axes.
 constexpr std::size_t fewestChosenAxes = 3;
+constexpr int neverPressed = -1;
 constexpr double labelRotation = -45.0; ///< degrees
 constexpr double blueHue = 2.0 / 3.0;
 constexpr double redHue = 0.0;
 
 void showColumn(PlotState& state, int column)
 {
+  vtkTable* table = drawnRows(state).table;
   double range[2];
-  if (finiteRange(plottableColumn(state.table, column), range))
-    state.parallelCoordinates->SetColumnVisibility(columnName(state.table, column), true);
+  if (finiteRange(plottableColumn(table, column), range))
+    state.parallelCoordinates->SetColumnVisibility(columnName(table, column), true);
+}
+
+std::vector<int> columnsToShow(const PlotState& state)
+{
+  if (drawsSummary(state))
+    return state.summary.columns;
+  const std::vector<int>& chosen = state.metaData->yColumns;
+  return chosen.size() >= fewestChosenAxes ? chosen : columnsOfAll(state);
 }
 
 void showColumns(PlotState& state)
 {
   state.parallelCoordinates->SetColumnVisibilityAll(false);
-  const std::vector<int>& chosen = state.metaData->yColumns;
-  for (const int column : chosen.size() >= fewestChosenAxes ? chosen : columnsOfAll(state))
+  for (const int column : columnsToShow(state))
     showColumn(state, column);
 }
 
@@ -48,7 +60,9 @@ void colorLines(PlotState& state)
 {
   auto* plot = vtkPlotParallelCoordinates::SafeDownCast(state.parallelCoordinates->GetPlot(0));
   double range[2];
-  const bool usable = finiteRange(plottableColumn(state.table, state.metaData->colorColumn), range);
+  // The settings speak of columns of the plot table.
+  const bool usable = !drawsSummary(state) &&
+                      finiteRange(plottableColumn(state.table, state.metaData->colorColumn), range);
   plot->SetScalarVisibility(usable);
   if (!usable)
     return;
@@ -66,12 +80,13 @@ void colorLines(PlotState& state)
 /// one for every drawing.
 void feedLines(PlotState& state)
 {
+  const DrawnRows drawn = drawnRows(state);
   vtkNew<ParallelLines> plot;
   plot->SetPictureStore(state.pictures);
-  plot->SetSelection(listSelectedRows(state.annotationLink, state.table));
+  plot->SetSelection(listSelectedRows(drawn.link, drawn.table));
   state.parallelCoordinates->SetPlot(plot);
   state.parallelCoordinates->GetVisibleColumns()->SetNumberOfTuples(0);
-  plot->vtkPlot::SetInputData(withoutInfinities(state.table));
+  plot->vtkPlot::SetInputData(withoutInfinities(drawn.table));
 }
 
 } // namespace
@@ -85,9 +100,17 @@ void drawParallelCoordinates(PlotState& state, vtkContextScene* scene)
     return;
   }
   showChart(state, state.parallelCoordinates, scene);
-  // The button is the one that moves axes otherwise, and VTK reads an axis that is not there when
-  // the mouse is pressed beside all of them.
   enableSelection(state, state.parallelCoordinates);
+  state.parallelCoordinates->SetActionToButton(
+      vtkChart::PAN,
+      state.options.movesParallelAxes ? vtkContextMouseEvent::LEFT_BUTTON : neverPressed);
+  if (auto* chart = vtkSelectableParallelCoordinates::SafeDownCast(state.parallelCoordinates))
+  {
+    chart->SetPlacesNames(drawsSummary(state));
+    chart->SetGestures(state.gestures);
+  }
+  state.parallelCoordinates->SetAnnotationLink(drawnRows(state).link);
+  showSelectionInSummary(state);
   state.parallelCoordinates->ClearPlots();
   feedLines(state);
   showColumns(state);
@@ -103,8 +126,9 @@ void renewLineCopies(PlotState& state)
                       : nullptr;
   if (!plot)
     return;
-  const vtkSmartPointer<vtkTable> finite = withoutInfinities(state.table);
-  if (finite != state.table || plot->GetInput() != state.table)
+  vtkTable* table = drawnRows(state).table;
+  const vtkSmartPointer<vtkTable> finite = withoutInfinities(table);
+  if (finite != table || plot->GetInput() != table)
     plot->vtkPlot::SetInputData(finite);
 }
 

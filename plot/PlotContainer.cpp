@@ -4,6 +4,7 @@
 #include "plot/ChartLifetime.h"
 #include "plot/ColumnReduction.h"
 #include "plot/DrawingSteps.h"
+#include "plot/DrawnRows.h"
 #include "plot/MatrixSelection.h"
 #include "plot/PlotState.h"
 #include "plot/PlotTable.h"
@@ -31,6 +32,7 @@ namespace
 void makeCharts(PlotState& state)
 {
   state.annotationLink = vtkSmartPointer<vtkAnnotationLink>::New();
+  state.summaryLink = vtkSmartPointer<vtkAnnotationLink>::New();
   state.chartXY = Talmesh::plot::makeXYChart(state);
   auto matrix = vtkSmartPointer<vtkSelectableScatterPlotMatrix>::New();
   matrix->SetGestures(state.gestures);
@@ -127,6 +129,9 @@ void PlotContainer::connectParts()
   d->matrixSelection.watch(d->scatterPlotMatrix->GetAnnotationLink());
   d->matrixSelection.selected = [this](vtkSelection* selection)
   { Talmesh::plot::adoptMatrixSelection(*d, selection); };
+  d->summarySelection.watch(d->summaryLink);
+  d->summarySelection.selected = [this](vtkSelection* selection)
+  { Talmesh::plot::adoptSummarySelection(*d, selection); };
   d->sceneLink.sceneDied = [this](vtkContextScene* scene)
   { Talmesh::plot::forgetScene(*d, scene); };
 }

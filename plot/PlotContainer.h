@@ -7,6 +7,7 @@
 #include "../plot/KsStatistics.h"
 #include "../plot/PlotContainerTypes.h"
 #include "../plot/PlotOptions.h"
+#include "../plot/SummaryTable.h"
 #include "../vtk/SelectionGesture.h"
 
 #include <vtkSmartPointer.h>
@@ -81,6 +82,17 @@ public:
 
   const PlotOptions& getOptions() const;
   void setOptions(const PlotOptions& options);
+
+  /// Has the XY chart (as points), the scatter-plot matrix, the 3-D chart and parallel coordinates
+  /// draw another table from the next redraw on, of which each row stands for several rows of the
+  /// plot table. What is selected in it becomes the container's selection, with all the rows that
+  /// it stands for, and is selected there when any of them is. The settings keep speaking of the
+  /// plot table, which is what other styles draw, what is exported, and what a copied container
+  /// draws. Lasts until the plot table is replaced. A summary without a table ends it.
+  void setSummary(const SummaryTable& summary);
+  const SummaryTable& getSummary() const;
+  /// Whether the present style draws it.
+  bool showsSummary() const;
 
   /// Draws the decoration lines, here and below, with the next redraw. Its last column is their
   /// common x. Null draws none. `show` switches them on or off.

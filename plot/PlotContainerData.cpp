@@ -5,6 +5,7 @@
 #include "plot/ColumnReduction.h"
 #include "plot/ColumnScaling.h"
 #include "plot/DelimitedFiles.h"
+#include "plot/DrawnRows.h"
 #include "plot/LinePlotInput.h"
 #include "plot/LineTableInput.h"
 #include "plot/PlotColumns.h"
@@ -22,6 +23,21 @@
 vtkTable* PlotContainer::getTable() const
 {
   return d->table;
+}
+
+void PlotContainer::setSummary(const SummaryTable& summary)
+{
+  d->summary = summary;
+}
+
+const SummaryTable& PlotContainer::getSummary() const
+{
+  return d->summary;
+}
+
+bool PlotContainer::showsSummary() const
+{
+  return Talmesh::plot::drawsSummary(*d);
 }
 
 const std::vector<Talmesh::TypedConcentrationName>& PlotContainer::getColumnItems() const

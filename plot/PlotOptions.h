@@ -14,6 +14,9 @@ struct PlotOptions
   /// The columns in which rows are marked for the selection of the moment are columns like others
   /// where a style shows all of them.
   bool showsSelectionMarks = true;
+  /// The left button moves the axes of parallel coordinates, see
+  /// vtkSelectableParallelCoordinates. Otherwise it does nothing there.
+  bool movesParallelAxes = false;
   /// Remarks on computed tables go to standard output: the sizes of a clustering, and parameters
   /// with fewer values than others. A program that shows its results otherwise switches them off.
   bool showsDiagnostics = true;

@@ -12,6 +12,7 @@
 #include "plot/MatrixSelection.h"
 #include "plot/PlotOptions.h"
 #include "plot/SceneLink.h"
+#include "plot/SummaryTable.h"
 #include "vtk/GestureHandling.h"
 #include "vtk/PictureStore.h"
 
@@ -131,6 +132,11 @@ struct PlotState
   SceneLink sceneLink;
   /// The tie to the selection that the scatter-plot matrix keeps for itself.
   MatrixSelection matrixSelection;
+  /// What some styles draw in place of the table.
+  SummaryTable summary;
+  /// The selection of the rows of the summary, never null, and its tie to that of the container.
+  vtkSmartPointer<vtkAnnotationLink> summaryLink;
+  MatrixSelection summarySelection;
   /// Pictures of runs that the next charts of the same runs take over, never null.
   std::shared_ptr<Talmesh::PictureStore> pictures = std::make_shared<Talmesh::PictureStore>();
   /// The decoration lines now in the XY chart.

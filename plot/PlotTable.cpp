@@ -14,6 +14,7 @@ namespace Talmesh::plot
 void replaceTable(PlotState& state, vtkSmartPointer<vtkTable> table)
 {
   state.table = std::move(table);
+  state.summary = {};
   tableChanged(state);
 }
 

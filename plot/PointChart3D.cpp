@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/DrawnRows.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "vtk/VtkCompat.h"
@@ -88,10 +89,10 @@ vtkSmartPointer<vtkTable> finitePoints(const Coordinates& coordinates)
 
 bool feedPoints(vtkPlotPoints3D* plot, const PlotState& state)
 {
-  const PlotMetaData& settings = *state.metaData;
-  const Coordinates coordinates = {plottableColumn(state.table, firstOf(settings.xColumns)),
-                                   plottableColumn(state.table, firstOf(settings.yColumns)),
-                                   plottableColumn(state.table, firstOf(settings.zColumns))};
+  const DrawnRows drawn = drawnRows(state);
+  const Coordinates coordinates = {plottableColumn(drawn.table, drawn.x),
+                                   plottableColumn(drawn.table, drawn.y),
+                                   plottableColumn(drawn.table, drawn.z)};
   if (!coordinates[0] || !coordinates[1] || !coordinates[2])
     return false;
   vtkSmartPointer<vtkTable> points = finitePoints(coordinates);
@@ -103,10 +104,10 @@ bool feedPoints(vtkPlotPoints3D* plot, const PlotState& state)
 
 void titleAxes(PlotState& state)
 {
-  const PlotMetaData& settings = *state.metaData;
-  state.chartXYZ->SetXAxisLabel(columnName(state.table, firstOf(settings.xColumns)));
-  state.chartXYZ->SetYAxisLabel(columnName(state.table, firstOf(settings.yColumns)));
-  state.chartXYZ->SetZAxisLabel(columnName(state.table, firstOf(settings.zColumns)));
+  const DrawnRows drawn = drawnRows(state);
+  state.chartXYZ->SetXAxisLabel(columnName(drawn.table, drawn.x));
+  state.chartXYZ->SetYAxisLabel(columnName(drawn.table, drawn.y));
+  state.chartXYZ->SetZAxisLabel(columnName(drawn.table, drawn.z));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
+#include "plot/DrawnRows.h"
 #include "plot/FiniteTable.h"
 #include "plot/Margins.h"
 #include "plot/PlotState.h"
@@ -19,6 +20,8 @@ namespace
 
 std::vector<int> columnsToShow(const PlotState& state)
 {
+  if (drawsSummary(state))
+    return state.summary.columns;
   if (state.metaData->getLimitColumVisibility())
   {
     std::vector<int> columns = {firstOf(state.metaData->xColumns),
@@ -45,13 +48,13 @@ void showColumns(vtkScatterPlotMatrix* matrix, vtkStringArray* names)
 void showColumns(PlotState& state, const std::vector<int>& columns)
 {
   vtkNew<vtkStringArray> names;
-  const bool taken = state.table->GetNumberOfRows() > 0;
+  vtkTable* table = drawnRows(state).table;
+  const bool taken = table->GetNumberOfRows() > 0;
   for (const int column : columns)
   {
-    const std::string name = columnName(state.table, column);
+    const std::string name = columnName(table, column);
     double range[2];
-    if (taken && finiteRange(plottableColumn(state.table, column), range) &&
-        names->LookupValue(name) < 0)
+    if (taken && finiteRange(plottableColumn(table, column), range) && names->LookupValue(name) < 0)
       names->InsertNextValue(name);
   }
   showColumns(state.scatterPlotMatrix, names);
@@ -59,12 +62,13 @@ void showColumns(PlotState& state, const std::vector<int>& columns)
 
 /// The matrix names a plot by its cell: column counted from the left, row from the bottom, where
 /// the rows run through the columns backwards. Only cells below the diagonal hold plots.
-void activatePair(PlotState& state, int xColumn, int yColumn)
+void activatePair(PlotState& state)
 {
+  const DrawnRows drawn = drawnRows(state);
   vtkScatterPlotMatrix* matrix = state.scatterPlotMatrix;
   vtkStringArray* names = matrix->GetVisibleColumns();
-  const vtkIdType x = names->LookupValue(columnName(state.table, xColumn));
-  const vtkIdType y = names->LookupValue(columnName(state.table, yColumn));
+  const vtkIdType x = names->LookupValue(columnName(drawn.table, drawn.x));
+  const vtkIdType y = names->LookupValue(columnName(drawn.table, drawn.y));
   if (x < 0 || y < 0 || x == y)
     return;
   const vtkIdType last = names->GetNumberOfValues() - 1;
@@ -112,20 +116,22 @@ void drawScatterMatrix(PlotState& state, vtkContextScene* scene)
   const ChartCells dropped = cellsOf(state.scatterPlotMatrix);
   // The matrix ignores an empty table and would go on showing the one before.
   state.scatterPlotMatrix->SetInput(nullptr);
-  if (state.table->GetNumberOfRows() > 0)
-    state.scatterPlotMatrix->SetInput(withoutInfinities(state.table));
+  vtkTable* table = drawnRows(state).table;
+  if (table->GetNumberOfRows() > 0)
+    state.scatterPlotMatrix->SetInput(withoutInfinities(table));
   releaseChartXY(state);
   // The matrix does not notice either that the table is another one.
-  state.matrixSelection.show(state.annotationLink->GetCurrentSelection());
+  showSelectionInSummary(state);
+  state.matrixSelection.show(drawnRows(state).link->GetCurrentSelection());
 
   showColumns(state, columnsToShow(state));
   retireCells(dropped, scene);
-  const bool limited = state.metaData->getLimitColumVisibility();
+  const bool limited = drawsSummary(state) || state.metaData->getLimitColumVisibility();
   const bool mayKeepPair = shown && (state.options.keepsScatterPair || !limited);
   if (mayKeepPair && sameNames(namesBefore, state.scatterPlotMatrix->GetVisibleColumns()))
     activateAgain(state.scatterPlotMatrix, pairBefore);
   else if (limited)
-    activatePair(state, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
+    activatePair(state);
 
   applyTurnedBorders(state, state.scatterPlotMatrix);
 }
@@ -150,8 +156,9 @@ void renewMatrixCopies(PlotState& state)
   if (state.currentChart != state.scatterPlotMatrix)
     return;
   const auto* matrix = vtkSelectableScatterPlotMatrix::SafeDownCast(state.scatterPlotMatrix);
-  const vtkSmartPointer<vtkTable> finite = withoutInfinities(state.table);
-  if (finite != state.table || (matrix && matrix->GetShownTable() != state.table))
+  vtkTable* table = drawnRows(state).table;
+  const vtkSmartPointer<vtkTable> finite = withoutInfinities(table);
+  if (finite != table || (matrix && matrix->GetShownTable() != table))
     feedScatterMatrixFrom(state, finite);
 }
 

@@ -28,6 +28,7 @@ StyleRow xyRow()
   row.applyBorders = applyXYBorders;
   row.resizeMarkers = resizeXYMarkers;
   row.showsXYChart = true;
+  row.drawsSummaries = true;
   return row;
 }
 
@@ -58,6 +59,7 @@ StyleRow scatterMatrixRow()
 {
   StyleRow row{scatterPlotMatrix, drawScatterMatrix};
   row.resizeMarkers = resizeScatterMatrixMarkers;
+  row.drawsSummaries = true;
   return row;
 }
 
@@ -88,20 +90,28 @@ StyleRow errorBarRow()
   return row;
 }
 
+StyleRow plainRow(plotStyles style, void (*build)(PlotState&, vtkContextScene*))
+{
+  StyleRow row{style, build};
+  row.drawsSummaries = true;
+  return row;
+}
+
 } // namespace
 
 const std::vector<StyleRow>& styleTable()
 {
-  static const std::vector<StyleRow> table = {xyRow(),
-                                              sobolBarRow(),
-                                              sobolBandRow(),
-                                              scatterMatrixRow(),
-                                              {xyzPlot, drawPointChart3D},
-                                              multiPlotRow(),
-                                              selectionPageRow(),
-                                              errorBarRow(),
-                                              {fitParameterDistribution, drawFitParameterPage},
-                                              {parallelCoordinates, drawParallelCoordinates}};
+  static const std::vector<StyleRow> table = {
+      xyRow(),
+      sobolBarRow(),
+      sobolBandRow(),
+      scatterMatrixRow(),
+      plainRow(xyzPlot, drawPointChart3D),
+      multiPlotRow(),
+      selectionPageRow(),
+      errorBarRow(),
+      {fitParameterDistribution, drawFitParameterPage},
+      plainRow(parallelCoordinates, drawParallelCoordinates)};
   return table;
 }
 

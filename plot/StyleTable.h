@@ -32,6 +32,8 @@ struct StyleRow
   bool showsXYChart = false;
   /// Rows of the table are drawn, so a drawing cuts the selection to it.
   bool drawsRows = true;
+  /// A summary that a client has set is drawn in place of the table.
+  bool drawsSummaries = false;
   /// New data are ranked as soon as they arrive.
   bool ranksNewData = false;
   /// The runs selected are those that the last split accepted, not all with a selected row.

@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
+#include "plot/DrawnRows.h"
 #include "plot/Margins.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
@@ -44,12 +45,13 @@ vtkPlot* addPoints(PlotState& state)
 void dressBottomAxis(PlotState& state, const CoordinateWindow* window)
 {
   vtkAxis* axis = state.chartXY->GetAxis(vtkAxis::BOTTOM);
+  const DrawnRows drawn = drawnRows(state);
   double range[2];
   if (window)
   {
     restoreBottomAxis(state, axis, *window, state.metaData->getLogX());
   }
-  else if (finiteRange(doubleColumn(state.table, firstOf(state.metaData->xColumns)), range))
+  else if (finiteRange(doubleColumn(drawn.table, drawn.x), range))
   {
     const double padding = (range[1] - range[0]) * rangePadding;
     fixRange(axis, range[0] - padding, range[1] + padding);
@@ -81,11 +83,14 @@ void drawXYChart(PlotState& state, vtkContextScene* scene)
   showChart(state, state.chartXY, scene);
   state.chartXY->ClearPlots();
   applyXYBorders(state);
-  state.chartXY->SetAnnotationLink(state.annotationLink);
+  const DrawnRows drawn = drawnRows(state);
+  state.chartXY->SetAnnotationLink(drawn.link);
   state.chartXY->AddObserver(vtkCommand::InteractionEvent, state.shiftScaleCallback);
 
-  vtkPlot* plot = state.metaData->getPlotLine() ? addRuns(state) : addPoints(state);
-  feedPlot(plot, state.table, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
+  showSelectionInSummary(state);
+  const bool lines = state.metaData->getPlotLine() && !drawsSummary(state);
+  vtkPlot* plot = lines ? addRuns(state) : addPoints(state);
+  feedPlot(plot, drawn.table, drawn.x, drawn.y);
 
   const CoordinateWindow* window = rememberedWindow(state);
   dressBottomAxis(state, window);

@@ -1,3 +1,4 @@
+#include "vtk/AxisBrush.h"
 #include "vtk/GestureHandling.h"
 #include "vtk/vtkPlotLineSet.h"
 #include "vtk/vtkSelectableChartXY.h"
@@ -78,21 +79,6 @@ Gesture::Series seriesOf(vtkPlot* plot)
 {
   return {plot->GetUseIndexForXSeries() ? "" : nameOfInput(plot, 0), nameOfInput(plot, 1),
           vtkPlotLineSet::SafeDownCast(plot) != nullptr};
-}
-
-Gesture::Mode modeOf(int selectionMode)
-{
-  switch (selectionMode)
-  {
-  case vtkContextScene::SELECTION_ADDITION:
-    return Gesture::Mode::Add;
-  case vtkContextScene::SELECTION_SUBTRACTION:
-    return Gesture::Mode::Subtract;
-  case vtkContextScene::SELECTION_TOGGLE:
-    return Gesture::Mode::Toggle;
-  default:
-    return Gesture::Mode::Replace;
-  }
 }
 
 bool isAround(vtkAbstractContextItem* item, const vtkVector2i& position)
@@ -221,7 +207,7 @@ bool vtkSelectableChartXY::EndGesture(const vtkContextMouseEvent& mouse)
   if (std::optional<Gesture> gesture = GestureOf(drawn))
   {
     gesture->kind = kind;
-    gesture->mode = modeOf(GetMouseSelectionMode(mouse, SelectionMode));
+    gesture->mode = Talmesh::gestureMode(GetMouseSelectionMode(mouse, SelectionMode));
     // The handler may take itself away.
     const auto select = Gestures->select;
     if (select(*gesture))

@@ -1,5 +1,8 @@
 #include "vtk/vtkSelectableParallelCoordinates.h"
 
+#include "vtk/AxisBrush.h"
+#include "vtk/AxisNames.h"
+#include "vtk/GestureHandling.h"
 #include "vtk/HandlerScope.h"
 #include "vtk/LostColumns.h"
 #include "vtk/RowSelections.h"
@@ -7,6 +10,8 @@
 #include <vtkAnnotationLink.h>
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
+#include <vtkCommand.h>
+#include <vtkContext2D.h>
 #include <vtkContextMouseEvent.h>
 #include <vtkContextScene.h>
 #include <vtkIdTypeArray.h>
@@ -15,6 +20,7 @@
 #include <vtkPlotParallelCoordinates.h>
 #include <vtkStringArray.h>
 #include <vtkTable.h>
+#include <vtkTextProperty.h>
 
 #include <algorithm>
 #include <cmath>
@@ -27,6 +33,9 @@ namespace
 
 /// Pixels; as near to an axis as VTK's own chart wants the mouse.
 constexpr float reach = 10.0F;
+
+/// Of both rows of names, in pixels: the numbers hang over the lower ends of the axes.
+constexpr float belowAxes[] = {25.0F, 40.0F};
 
 std::vector<bool> rowsShown(vtkPlot* plot)
 {
@@ -77,7 +86,38 @@ bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
   // A table that has lost rows in place has outdated the rows shown too.
   else if (AnnotationLink && RowsNow() != ShownRows)
     ShowSelection();
-  return Superclass::Paint(painter);
+  for (int i = 0; i < static_cast<int>(GetNumberOfAxes()); ++i)
+    GetAxis(i)->SetTitleVisible(!PlacesNames);
+  const bool painted = Superclass::Paint(painter);
+  if (painted && PlacesNames)
+    PaintNames(painter);
+  return painted;
+}
+
+void vtkSelectableParallelCoordinates::SetPlacesNames(bool places)
+{
+  PlacesNames = places;
+}
+
+void vtkSelectableParallelCoordinates::PaintNames(vtkContext2D* painter)
+{
+  std::vector<Talmesh::AxisName> names;
+  for (int i = 0; i < static_cast<int>(GetNumberOfAxes()); ++i)
+    names.push_back({GetAxis(i)->GetTitle(), GetAxis(i)->GetPoint1()[0]});
+  vtkNew<vtkTextProperty> text;
+  text->ShallowCopy(GetAxis(0)->GetTitleProperties());
+  text->SetJustificationToCentered();
+  text->SetVerticalJustificationToCentered();
+  painter->ApplyTextProp(text);
+  const auto widthOf = [painter](const std::string& name)
+  {
+    float bounds[4];
+    painter->ComputeStringBounds(name, bounds);
+    return bounds[2];
+  };
+  const auto width = static_cast<float>(Scene->GetViewWidth());
+  for (const Talmesh::PlacedName& name : Talmesh::placeNames(names, width, widthOf))
+    painter->DrawString(name.x, GetAxis(0)->GetPoint1()[1] - belowAxes[name.row], name.text);
 }
 
 void vtkSelectableParallelCoordinates::ShowSelection()
@@ -122,10 +162,44 @@ void vtkSelectableParallelCoordinates::BrushAlone(float to)
 }
 #endif
 
+/// Not VTK's: it changes the range of an axis whose end is under the mouse, and reads an axis that
+/// is not there when the mouse is beside all of them or the columns change meanwhile.
+void vtkSelectableParallelCoordinates::MoveAxis(const vtkContextMouseEvent& mouse)
+{
+  const int last = static_cast<int>(GetNumberOfAxes()) - 1;
+  if (MovedAxis < 0 || MovedAxis > last)
+    return;
+  vtkAxis* axis = GetAxis(MovedAxis);
+  // The mouse may be beyond the outer axes, which are passed there.
+  const float mouseX = mouse.GetScenePos().GetX();
+  const float x = std::clamp(mouseX, static_cast<float>(Point1[0]), static_cast<float>(Point2[0]));
+  axis->SetPoint1(x, axis->GetPoint1()[1]);
+  axis->SetPoint2(x, axis->GetPoint2()[1]);
+  for (; MovedAxis > 0 && mouseX < GetAxis(MovedAxis - 1)->GetPoint1()[0]; --MovedAxis)
+    SwapAxes(MovedAxis, MovedAxis - 1);
+  for (; MovedAxis < last && mouseX > GetAxis(MovedAxis + 1)->GetPoint1()[0]; ++MovedAxis)
+    SwapAxes(MovedAxis, MovedAxis + 1);
+  Scene->SetDirty(true);
+}
+
+void vtkSelectableParallelCoordinates::PlaceAxes()
+{
+  GeometryValid = false;
+  if (Scene)
+    Scene->SetDirty(true);
+}
+
 bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
   Cancelled = false;
+  MovedAxis = -1;
+  if (mouse.GetButton() == Actions.Pan())
+  {
+    MovedAxis = AxisUnder(mouse);
+    ColumnsBefore->DeepCopy(VisibleColumns);
+    return true;
+  }
   const bool selects = mouse.GetButton() == Actions.Select();
   BrushedAxis = selects ? AxisUnder(mouse) : -1;
   BrushedFrom = HeightOnAxis(mouse);
@@ -141,11 +215,29 @@ bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMou
 bool vtkSelectableParallelCoordinates::MouseMoveEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
-  return Cancelled || Superclass::MouseMoveEvent(mouse);
+  if (Cancelled || !Scene)
+    return true;
+  if (mouse.GetButton() != Actions.Pan())
+    return Superclass::MouseMoveEvent(mouse);
+  MoveAxis(mouse);
+  return true;
+}
+
+void vtkSelectableParallelCoordinates::SetPlot(vtkPlotParallelCoordinates* plot)
+{
+  MovedAxis = -1;
+  Superclass::SetPlot(plot);
 }
 
 bool vtkSelectableParallelCoordinates::CancelDrag()
 {
+  if (MovedAxis >= 0)
+  {
+    MovedAxis = -1;
+    SetVisibleColumns(ColumnsBefore);
+    PlaceAxes();
+    return Cancelled = true;
+  }
   if (BrushedAxis < 0)
     return false;
   BrushedAxis = -1;
@@ -156,11 +248,36 @@ bool vtkSelectableParallelCoordinates::CancelDrag()
   return true;
 }
 
+void vtkSelectableParallelCoordinates::SetGestures(
+    std::shared_ptr<const Talmesh::GestureHandling> gestures)
+{
+  Gestures = std::move(gestures);
+}
+
+/// Whether the program has selected what was brushed.
+bool vtkSelectableParallelCoordinates::TakesBrush(int axis, float to, int mode)
+{
+  if (!Gestures || !Gestures->select || to == BrushedFrom)
+    return false;
+  // The handler may take itself away.
+  const auto select = Gestures->select;
+  return select(Talmesh::brushOf(*this, axis, {BrushedFrom, to}, mode));
+}
+
 bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
   if (std::exchange(Cancelled, false) || !Scene)
     return true;
+  if (mouse.GetButton() == Actions.Pan())
+  {
+    const vtkSmartPointer<vtkObject> kept = this;
+    const bool moved = std::exchange(MovedAxis, -1) >= 0;
+    PlaceAxes();
+    if (moved)
+      InvokeEvent(vtkCommand::InteractionEvent);
+    return true;
+  }
   vtkPlot* plot = GetPlot(0);
   const bool selects = mouse.GetButton() == Actions.Select();
   if (!selects || BrushedAxis < 0 || !AnnotationLink || !plot->GetInput())
@@ -174,10 +291,14 @@ bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextM
 #if TALMESH_VTK_KEEPS_RESET_BRUSHES
   BrushAlone(HeightOnAxis(mouse));
 #endif
-  BrushedAxis = -1;
+  const int axis = std::exchange(BrushedAxis, -1);
   SetAnnotationLink(link);
+  const std::vector<bool> brushed = rowsShown(plot);
+  const int mode = vtkChartXY::GetMouseSelectionMode(mouse, vtkContextScene::SELECTION_DEFAULT);
+  ShowSelection();
   KeepsBrush = true;
-  Talmesh::selectRows(link, plot->GetInput(), rowsShown(plot),
-                      vtkChartXY::GetMouseSelectionMode(mouse, vtkContextScene::SELECTION_DEFAULT));
+  if (!TakesBrush(axis, HeightOnAxis(mouse), mode))
+    Talmesh::selectRows(link, plot->GetInput(), brushed, mode);
+  KeepsBrush = link->GetMTime() > Shown;
   return handled;
 }

@@ -4,12 +4,26 @@
 #include "vtk/VtkCompat.h"
 
 #include <vtkChartParallelCoordinates.h>
+#include <vtkNew.h>
+#include <vtkStringArray.h>
 #include <vtkTimeStamp.h>
+
+#include <memory>
+
+namespace Talmesh
+{
+struct GestureHandling;
+}
 
 /// A parallel-coordinates chart in which brushing an axis selects table rows as a rectangle in an
 /// XY chart does: control adds the rows brushed to those selected, shift subtracts and both toggle
 /// them, and the annotation link gets one new selection. VTK's own chart reads no modifiers. Each
-/// brush stands alone, and what is highlighted are the rows that the link's selection names.
+/// brush stands alone, and what is highlighted are the rows that the link's selection names. A
+/// program that takes gestures (SetGestures) is asked first: a brush is a rectangle of the column
+/// over itself.
+///
+/// Where the button of the action PAN moves an axis, the axes stand at equal distances again when
+/// it is released, in their new order, and the chart invokes vtkCommand::InteractionEvent.
 class vtkSelectableParallelCoordinates : public vtkChartParallelCoordinates
 {
 public:
@@ -25,9 +39,19 @@ public:
   /// Does nothing once the chart has lost its place in the scene since the button was pressed, or
   /// after CancelDrag().
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
-  /// Takes the brush away that the mouse is drawing.
+  /// Takes the brush away that the mouse is drawing, or an axis back that it is moving.
   /// @return whether there was one
   bool CancelDrag();
+
+  /// Whether the names of axes make room for each other, see Talmesh::placeNames(). Otherwise, as
+  /// at first, VTK writes them, over each other where they are long.
+  void SetPlacesNames(bool places);
+
+  /// What is asked before rows are selected; null for none.
+  void SetGestures(std::shared_ptr<const Talmesh::GestureHandling> gestures);
+
+  /// Ends a move of an axis: the lines may be others, of other columns.
+  void SetPlot(vtkPlotParallelCoordinates* plot) override;
 
   /// Highlights the rows that the link's selection names.
   void ShowSelection();
@@ -45,6 +69,10 @@ private:
   /// The index of the axis that a press there brushes; -1 for none.
   int AxisUnder(const vtkContextMouseEvent& mouse);
   float HeightOnAxis(const vtkContextMouseEvent& mouse);
+  void MoveAxis(const vtkContextMouseEvent& mouse);
+  void PlaceAxes();
+  bool TakesBrush(int axis, float to, int mode);
+  void PaintNames(vtkContext2D* painter);
 #if TALMESH_VTK_KEEPS_RESET_BRUSHES
   void BrushAlone(float to);
 #endif
@@ -53,9 +81,13 @@ private:
   vtkIdType ShownRows = 0; ///< of the table at that time
   int BrushedAxis = -1;    ///< while the button is down; -1 for none
   float BrushedFrom = 0.0; ///< height on the axis
+  int MovedAxis = -1;      ///< while its button is down; -1 for none
   bool Cancelled = false;  ///< the button is still down
   /// The brush still to be seen is that of the selection to be shown next.
   bool KeepsBrush = false;
+  bool PlacesNames = false;
+  std::shared_ptr<const Talmesh::GestureHandling> Gestures;
+  vtkNew<vtkStringArray> ColumnsBefore; ///< the axis was moved
 };
 
 #endif
