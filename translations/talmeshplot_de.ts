@@ -335,6 +335,14 @@ p, li { white-space: pre-wrap; }
         <source>Linear scale: a logarithmic one needs positive values</source>
         <translation>Lineare Skala: eine logarithmische braucht positive Werte</translation>
     </message>
+    <message>
+        <source>%1 has no single value for a run: not shown</source>
+        <translation>%1 hat keinen einzelnen Wert je Lauf: nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 is one value for a run: shown only over parameters and other such values</source>
+        <translation>%1 ist ein Wert je Lauf: nur über Parametern und anderen solchen Werten zu sehen</translation>
+    </message>
 </context>
 <context>
     <name>PlotSelector</name>
@@ -1802,6 +1810,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>One line per run instead of points</source>
         <translation>Eine Linie je Lauf statt Punkten</translation>
+    </message>
+    <message>
+        <source>%1: one value for a run</source>
+        <translation>%1: ein Wert je Lauf</translation>
     </message>
     <message>
         <source>Le&amp;gend</source>

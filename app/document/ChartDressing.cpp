@@ -64,6 +64,9 @@ void tiltOnce(PlotContainer& container, vtkChartXYZ* chart)
 void nameAxes(const PlotContainer& container, vtkChartXYZ* chart)
 {
   const PlotMetaData& settings = *container.getMetaData();
+  // A summary has such names.
+  if (container.showsSummary())
+    return;
   const auto name = [&container](const std::vector<int>& columns)
   { return shownName(plot::columnName(container.getTable(), plot::firstOf(columns))); };
   chart->SetXAxisLabel(name(settings.xColumns));

@@ -1,8 +1,8 @@
 #include "app/document/Document.h"
 
+#include "app/document/FeatureColumns.h"
 #include "app/document/ShownChart.h"
 #include "app/document/ShownStudy.h"
-#include "app/document/TableRuns.h"
 #include "app/memory/PaintingMemory.h"
 #include "external/PlotMetaData.h"
 
@@ -18,6 +18,7 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
     , keptSelections(selected.undoStack())
     , isThere(hasMemory)
 {
+  connect(&axisOrder, &AxisOrder::changed, this, &Document::followAxes);
   connect(&selected, &SelectionController::changing, this, [this] { beforeSelection = drawings; });
   connect(&selected, &SelectionController::changed, this, &Document::followSelection);
   compared.setWords([this] { return selected.followedWords(); });
@@ -30,23 +31,6 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
 
 Document::~Document() = default;
 
-std::string Document::open(const OpenedStudy& opened, const PlotWishes& wishes)
-{
-  leave(opened.study.chart != nullptr);
-  // A container remembers much of what it showed before, so each study gets its own.
-  auto* container = new PlotContainer(this);
-  show(container);
-  shown = {opened.study, container, {}, {}};
-  std::string failure;
-  if (shown.study.chart)
-    openOwnChart();
-  else
-    failure = openData(opened, wishes);
-  emit studyChanged();
-  emit drawn();
-  return failure;
-}
-
 /// Puts a container where it is seen.
 void Document::show(PlotContainer* container)
 {
@@ -56,10 +40,12 @@ void Document::show(PlotContainer* container)
   ownChart = nullptr;
   shown.container = container;
   container->addCondition(this, [this] { return hasMemoryToDraw(); });
+  container->addPreparation(this, [this] { summarise(); });
   container->addCompletion(this,
                            [this]
                            {
                              ++drawings;
+                             axisOrder.watch(shown.container->getItem());
                              error.clear();
                            });
   stage(*container);
@@ -106,78 +92,11 @@ void Document::followSelection()
   emit drawn();
 }
 
-std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wishes)
-{
-  PlotContainer& container = *shown.container;
-  showStudy(shown.study, container);
-  chooseOpeningStyle(container, wishes);
-  grouped.follow(&container, runsOverTime(shown.study));
-  keptSelections.follow(TableRuns(container).numberOfRuns());
-  compared.follow(&container);
-  shown.choice = choiceOf(container);
-  if (opened.session)
-    restore(*opened.session);
-  shown.columns = choosableColumns(container);
-  PlotChoice wished = shown.choice;
-  std::string failure = chooseByName(container, wishes, wished);
-  if (failure.empty() && !wishes.select.empty())
-    container.withoutDrawing([&] { failure = selectWhere(container, wishes.select); });
-  if (failure.empty())
-    shown.choice = wished;
-  // The history begins with what is restored, whole runs of it, as they are drawn.
-  const bool restores = opened.session && wishes.select.empty();
-  selected.follow(&container,
-                  restores ? opened.session->settings.words : wordsOfAny(wishes.select));
-  drawSilently();
-  return failure;
-}
-
-void Document::openOwnChart()
-{
-  PlotContainer& container = *shown.container;
-  showStudy(shown.study, container);
-  ownChart = new ShownChart(shown.study.chart, container);
-  ownChart->choose(ownChart->variant());
-  selected.visit(&container);
-  drawSilently();
-  shown.columns = container.getLabels();
-}
-
-/// Puts what is now shown aside, or away.
-void Document::leave(bool forOwnChart)
-{
-  if (forOwnChart && (shown.study.runs || shown.study.table))
-  {
-    aside = shown;
-    return;
-  }
-  drop(shown.container);
-  if (forOwnChart)
-    return;
-  grouped.leave();
-  drop(aside.container);
-  aside = {};
-}
-
 /// Containers that the document did not make are not its own.
 void Document::drop(PlotContainer* container)
 {
   if (container && container->parent() == this)
     container->deleteLater();
-}
-
-void Document::returnToRuns()
-{
-  if (!canReturnToRuns())
-    return;
-  drop(shown.container);
-  const Shown runs = std::exchange(aside, {});
-  show(runs.container);
-  shown = runs;
-  selected.endVisit();
-  drawSilently();
-  emit studyChanged();
-  emit drawn();
 }
 
 int Document::variant() const
@@ -199,6 +118,27 @@ QString Document::remark() const
   return QString::fromStdString(error);
 }
 
+/// What charts of runs draw; values of the runs may be others since the last time.
+void Document::summarise()
+{
+  if (shown.container && !shown.study.chart)
+    shown.container->setSummary(summary.of(*shown.container, shown.choice));
+}
+
+std::vector<int> Document::features() const
+{
+  if (!shown.container || shown.study.chart)
+    return {};
+  return featureColumns(*shown.container);
+}
+
+/// The chart shows the order already.
+void Document::followAxes()
+{
+  shown.choice.axes = summary.columnsNamed(axisOrder.names());
+  emit choiceChanged();
+}
+
 void Document::drawSilently()
 {
   if (!shown.container)
@@ -206,6 +146,7 @@ void Document::drawSilently()
   const auto draw = [this] { return whyNotDrawn([this] { shown.container->redraw(); }); };
   if (!shown.study.chart)
   {
+    summarise();
     error = applyChoice(*shown.container, shown.choice, draw);
     return;
   }

@@ -2,9 +2,11 @@
 #define Document_h
 
 #include "app/comparison/ComparisonChoice.h"
+#include "app/document/AxisOrder.h"
 #include "app/document/GroupedRuns.h"
 #include "app/document/KeptSelections.h"
 #include "app/document/PlotChoice.h"
+#include "app/document/RunSummary.h"
 #include "app/document/SelectionComparison.h"
 #include "app/document/SelectionController.h"
 #include "app/import/Study.h"
@@ -21,6 +23,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace Talmesh::app
 {
@@ -62,6 +65,8 @@ public:
   PlotContainer* container() const { return shown.container; }
   /// The names of the columns that the choice speaks of.
   const QStringList& columns() const { return shown.columns; }
+  /// Those that stand for runs, which the choice may name too.
+  std::vector<int> features() const;
   const PlotChoice& choice() const { return shown.choice; }
   /// The variant of the study's own chart; 0 without one.
   int variant() const;
@@ -131,6 +136,8 @@ private:
   std::string openData(const OpenedStudy& opened, const PlotWishes& wishes);
   void openOwnChart();
   void restore(const RestoredSession& session);
+  void summarise();
+  void followAxes();
   void drawSilently();
   void drawNewValues();
   void followSelection();
@@ -143,6 +150,8 @@ private:
   /// its own takes their place.
   Shown aside;
   QPointer<ShownChart> ownChart;
+  RunSummary summary;
+  AxisOrder axisOrder;
   SelectionController selected;
   SelectionComparison compared;
   GroupedRuns grouped;

@@ -13,10 +13,11 @@ void Document::restore(const RestoredSession& session)
   grouped.restoreNormalised(session.settings.normalised);
   grouped.restore(session.settings.groups);
   keptSelections.restore(session.settings.kept);
+  shown.choice = restoredChoice(session, container);
+  summarise();
   // Normalising has forgotten the window.
   restoreWindow(session, container);
   container.withoutDrawing([&] { restoreSelection(session, container); });
-  shown.choice = restoredChoice(session, container);
 }
 
 std::optional<SessionSource> Document::sessionSource()

@@ -16,6 +16,7 @@
 #include <vtkNew.h>
 #include <vtkTable.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,7 @@ namespace
 vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
-  if (settings.getPlotLine())
+  if (settings.getPlotLine() && !container.showsSummary())
   {
     vtkNew<vtkPlotLineSet> runs;
     runs->SetStride(settings.getStride());
@@ -54,6 +55,9 @@ void colour(vtkPlot* plot, vtkColorSeries* colours, std::size_t series, unsigned
   plot->SetColor(c.GetRed(), c.GetGreen(), c.GetBlue(), alpha);
 }
 
+/// Runs that are one point each cover nothing, unlike the lines that the settings' colour is for.
+constexpr int alphaOfRunPoints = 190;
+
 /// A drawing leaves the left axis where the window of the columns before had it.
 void freeLeftAxis(const PlotContainer& container, vtkChartXY* chart)
 {
@@ -72,19 +76,29 @@ void addFurtherSeries(PlotContainer& container)
   freeLeftAxis(container, chart);
   vtkNew<vtkColorSeries> colours;
   colours->SetColorScheme(vtkColorSeries::BREWER_QUALITATIVE_DARK2);
-  const std::vector<int>& columns = settings.yColumns;
-  const auto alpha = static_cast<unsigned char>(settings.color[3]);
+  const bool runs = container.showsSummary();
+  const SummaryTable& summary = container.getSummary();
+  vtkTable* table = runs ? summary.table.Get() : container.getTable();
+  const int x = runs ? summary.x : plot::firstOf(settings.xColumns);
+  const std::vector<int>& columns = runs ? summary.columns : settings.yColumns;
+  const auto alpha = static_cast<unsigned char>(runs ? std::max(alphaOfRunPoints, settings.color[3])
+                                                     : settings.color[3]);
   for (std::size_t series = 0; series < columns.size(); ++series)
   {
     vtkSmartPointer<vtkPlot> plot = chart->GetPlot(0);
     if (series > 0)
     {
       plot = addSeries(chart, container);
-      plot::feedPlot(plot, container.getTable(), plot::firstOf(settings.xColumns), columns[series]);
+      plot::feedPlot(plot, table, x, columns[series]);
     }
     if (columns.size() > 1)
       colour(plot, colours, series, alpha);
-    plot->SetLabel(shownName(plot::columnName(container.getTable(), columns[series])));
+    else if (runs && settings.solidColor)
+      plot->SetColor(static_cast<unsigned char>(settings.color[0]),
+                     static_cast<unsigned char>(settings.color[1]),
+                     static_cast<unsigned char>(settings.color[2]), alpha);
+    plot->SetLabel(runs ? plot::columnName(table, columns[series])
+                        : shownName(plot::columnName(table, columns[series])));
   }
 }
 

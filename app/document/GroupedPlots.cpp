@@ -45,10 +45,19 @@ struct DrawnRuns
 DrawnRuns drawnRuns(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
+  const SummaryTable& summary = container.getSummary();
   DrawnRuns drawn;
-  drawn.x = plot::doubleColumn(container.getTable(), plot::firstOf(settings.xColumns));
-  drawn.y = plot::doubleColumn(container.getTable(), plot::firstOf(settings.yColumns));
-  drawn.stride = settings.getStride();
+  if (container.showsSummary())
+  {
+    drawn.x = plot::doubleColumn(summary.table, summary.x);
+    drawn.y = plot::doubleColumn(summary.table, summary.y);
+  }
+  else
+  {
+    drawn.x = plot::doubleColumn(container.getTable(), plot::firstOf(settings.xColumns));
+    drawn.y = plot::doubleColumn(container.getTable(), plot::firstOf(settings.yColumns));
+    drawn.stride = settings.getStride();
+  }
   vtkChartXY* chart = container.getChartXY();
   const bool usable = styleOf(settings).hasSeries && chart && chart->GetNumberOfPlots() > 0 &&
                       drawn.x && drawn.y && drawn.stride > 0;
@@ -236,6 +245,9 @@ void dressRuns(PlotContainer& container, const RunGroups& groups, const RunLook&
 {
   if (look.groupColours)
     colourGroups(container, groups);
+  // Runs that are one point each have no course.
+  if (container.showsSummary())
+    return;
   if (look.quartileBands)
     showQuartileBands(container);
   if (look.groupMeans)

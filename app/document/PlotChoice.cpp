@@ -1,10 +1,14 @@
 #include "app/document/PlotChoice.h"
 
+#include "app/document/FeatureColumns.h"
+#include "app/document/RunSummary.h"
 #include "app/import/ColumnRoles.h"
 #include "app/import/TranslatedText.h"
 #include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
+#include "plot/ContainerAccess.h"
 #include "plot/PlotContainer.h"
+#include "plot/RunSplit.h"
 #include "plot/SelectionFlags.h"
 #include "plot/TableColumns.h"
 
@@ -26,19 +30,24 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr int mostNamesInAMessage = 20;
-
-std::string columnLabel(const PlotContainer& container, int column)
-{
-  return shownName(plot::columnName(container.getTable(), column));
-}
-
 std::string joinedLabels(const PlotContainer& container, const std::vector<int>& columns)
 {
   std::string joined;
   for (const int column : columns)
-    joined += (joined.empty() ? "" : ", ") + columnLabel(container, column);
+    joined += (joined.empty() ? "" : ", ") + columnTitle(container, column);
   return joined;
+}
+
+/// Columns of the table that stand for those of a choice, as far as features have a place in what
+/// is drawn.
+std::vector<int> tableColumns(const std::vector<int>& columns, bool features)
+{
+  std::vector<int> found;
+  for (const int column : columns)
+    if ((features || !isFeature(column)) &&
+        std::find(found.begin(), found.end(), itemOf(column)) == found.end())
+      found.push_back(itemOf(column));
+  return found;
 }
 
 /// The settings must not announce each change, or every one of them would draw.
@@ -46,48 +55,17 @@ void writeSettings(PlotContainer& container, const PlotChoice& choice)
 {
   PlotMetaData& settings = *container.getMetaData();
   const QSignalBlocker silence(settings);
-  settings.xColumns = {choice.x};
-  settings.yColumns = choice.y;
-  settings.zColumns = {choice.z};
-  settings.xLabel = columnLabel(container, choice.x);
-  settings.yLabel = joinedLabels(container, choice.y);
+  const bool runs = container.getSummary().table != nullptr;
+  const int time = plot::timeColumnOf(stateOf(container));
+  settings.xColumns = {isFeature(choice.x) && !runs && time >= 0 ? time : itemOf(choice.x)};
+  settings.yColumns = tableColumns(choice.y, runs);
+  settings.zColumns = {itemOf(choice.z)};
+  const RunAxes axes = axesOfRuns(container, choice);
+  settings.xLabel = columnTitle(container, runs ? axes.x : plot::firstOf(settings.xColumns));
+  settings.yLabel = joinedLabels(container, runs ? axes.columns : settings.yColumns);
   settings.setPlotStyle(choice.style);
   settings.setPlotLine(choice.lines);
   settings.setLogX(choice.logX);
-}
-
-/// Columns that mark what is selected are nobody's to name.
-std::string allNames(const PlotContainer& container)
-{
-  vtkTable* table = container.getTable();
-  std::string names;
-  int named = 0;
-  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
-  {
-    if (plot::isSelectionMark(plot::columnName(table, column)))
-      continue;
-    if (named == mostNamesInAMessage)
-      return names + ", ...";
-    names += (named > 0 ? ", " : "") + columnLabel(container, column);
-    ++named;
-  }
-  return names;
-}
-
-/// The columns that play the part that the name tells: an import gives the columns of time and runs
-/// names that the plots know.
-std::vector<int> columnsOfRole(vtkTable* table, const std::string& name)
-{
-  std::vector<int> columns;
-  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
-  {
-    const ColumnHeader header = readHeader(plot::columnName(table, column));
-    const bool sameRole = (isTimeName(name) && isTimeName(header.name)) ||
-                          (isRunName(name) && isRunName(header.name));
-    if (header.typed && header.kind == TimeOrValue && sameRole)
-      columns.push_back(column);
-  }
-  return columns;
 }
 
 } // namespace
@@ -96,8 +74,8 @@ bool operator==(const PlotChoice& left, const PlotChoice& right)
 {
   const auto values = [](const PlotChoice& choice)
   {
-    return std::tie(choice.style, choice.x, choice.y, choice.z, choice.lines, choice.legend,
-                    choice.logX, choice.logY);
+    return std::tie(choice.style, choice.x, choice.y, choice.z, choice.axes, choice.lines,
+                    choice.legend, choice.logX, choice.logY);
   };
   return values(left) == values(right);
 }
@@ -153,44 +131,35 @@ std::string applyChoice(PlotContainer& container, const PlotChoice& choice,
   return {};
 }
 
-QStringList choosableColumns(const PlotContainer& container)
+namespace
 {
-  QStringList columns = container.getLabels();
-  while (!columns.isEmpty() &&
-         plot::isSelectionMark(plot::columnName(container.getTable(), columns.size() - 1)))
-    columns.removeLast();
-  return columns;
+
+/// What of the choice has no place in what is drawn; empty for nothing.
+QString remarkOnColumns(const PlotChoice& choice, const PlotContainer& container)
+{
+  const bool runs = container.getSummary().table != nullptr;
+  const auto isOut = [&](int column)
+  { return runs ? roleOf(container, column) == ColumnRole::Other : isFeature(column); };
+  const auto out = std::find_if(choice.y.begin(), choice.y.end(), isOut);
+  if (out == choice.y.end())
+    return {};
+  const QString text =
+      runs
+          ? QCoreApplication::translate("PlotChoice", "%1 has no single value for a run: not shown")
+          : QCoreApplication::translate(
+                "PlotChoice",
+                "%1 is one value for a run: shown only over parameters and other such values");
+  return text.arg(QString::fromStdString(columnTitle(container, *out)));
 }
 
-Result<int> findColumn(const PlotContainer& container, const std::string& name)
-{
-  vtkTable* table = container.getTable();
-  const int whole = plot::columnIndex(table, name);
-  if (whole >= 0)
-    return whole;
-  std::vector<int> matches;
-  for (int column = 0; column < static_cast<int>(table->GetNumberOfColumns()); ++column)
-    if (columnLabel(container, column) == name)
-      matches.push_back(column);
-  const std::string unmarked(withoutCommentMark(name));
-  if (matches.empty() && unmarked != name)
-    return findColumn(container, unmarked);
-  if (matches.empty())
-    matches = columnsOfRole(table, name);
-  if (matches.size() == 1)
-    return matches.front();
-  if (matches.empty())
-    return Result<int>::failed(
-        withValues(translated("PlotChoice", "no such column: %1; the columns are %2"),
-                   {name, allNames(container)}));
-  return Result<int>::failed(
-      withValues(translated("PlotChoice", "more than one column is named %1: %2 and %3"),
-                 {name, plot::columnName(table, matches[0]), plot::columnName(table, matches[1])}));
-}
+} // namespace
 
 QString remarkOn(const PlotChoice& choice, const PlotContainer& container)
 {
   const ViewerStyle& style = viewerStyle(choice.style);
+  const QString columns = remarkOnColumns(choice, container);
+  if (!columns.isEmpty())
+    return columns;
   if (choice.y.empty() && !style.hasColumnsAsAxes)
     return QCoreApplication::translate("PlotChoice",
                                        "No y column is ticked: nothing to show over x");
@@ -202,58 +171,6 @@ QString remarkOn(const PlotChoice& choice, const PlotContainer& container)
   return linear ? QCoreApplication::translate(
                       "PlotChoice", "Linear scale: a logarithmic one needs positive values")
                 : QString();
-}
-
-namespace
-{
-
-/// Joins names again where a comma stood inside a column's name: the longest name that exists wins.
-/// @return the column, and how many of the names from `first` on are its name
-std::pair<Result<int>, std::size_t>
-findJoined(const PlotContainer& container, const std::vector<std::string>& names, std::size_t first)
-{
-  for (std::size_t count = names.size() - first; count > 1; --count)
-  {
-    std::string joined = names[first];
-    for (std::size_t i = first + 1; i < first + count; ++i)
-      joined += ',' + names[i];
-    const Result<int> found = findColumn(container, joined);
-    if (found.hasValue())
-      return {found, count};
-  }
-  return {findColumn(container, names[first]), 1};
-}
-
-} // namespace
-
-std::string chooseByName(const PlotContainer& container, const PlotWishes& wishes,
-                         PlotChoice& choice)
-{
-  if (wishes.style)
-    choice.style = *wishes.style;
-  std::string error;
-  const auto choose = [&](const std::string& name, int& column)
-  {
-    if (name.empty() || !error.empty())
-      return;
-    const Result<int> found = findColumn(container, name);
-    error = found.error();
-    if (found.hasValue())
-      column = found.value();
-  };
-  choose(wishes.x, choice.x);
-  choose(wishes.z, choice.z);
-  if (!wishes.y.empty())
-    choice.y.clear();
-  for (std::size_t i = 0; i < wishes.y.size() && error.empty();)
-  {
-    const auto [found, count] = findJoined(container, wishes.y, i);
-    error = found.error();
-    if (found.hasValue())
-      choice.y.push_back(found.value());
-    i += count;
-  }
-  return error;
 }
 
 void chooseOpeningStyle(PlotContainer& container, const PlotWishes& wishes)

@@ -16,7 +16,8 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// What the user chooses of a plot. Columns are 0-based columns of the container's table.
+/// What the user chooses of a plot. Columns are 0-based columns of the container's table, or
+/// features of them, see app/document/FeatureColumns.h.
 struct PlotChoice
 {
   plotStyles style = xyPlot;
@@ -24,6 +25,8 @@ struct PlotChoice
   /// The columns over x; the first one first in the legend. Without any, charts of y are empty.
   std::vector<int> y{1};
   int z = 2;
+  /// Axes of parallel coordinates that the user has moved, which come first and in this order.
+  std::vector<int> axes;
   /// Lines, one per run, instead of points in the XY plot.
   bool lines = false;
   bool legend = false;
@@ -44,7 +47,7 @@ std::string cannotDraw(const std::string& why);
 std::string whyNotDone(const std::function<void()>& drawing);
 
 /// Makes the container show the choice: draws it, labels the axes, and writes what only an XY chart
-/// keeps. Does not render.
+/// keeps. Does not render. What charts of runs show must be in the container, see RunSummary.
 /// @param draw what draws, and says why it has not as `whyNotDone` does; redraw() without it
 /// @return as `whyNotDone`
 std::string applyChoice(PlotContainer& container, const PlotChoice& choice,

@@ -1,10 +1,59 @@
 #include "app/document/PlotSession.h"
 
 #include "app/comparison/ComparisonChoice.h"
+#include "app/document/FeatureColumns.h"
 #include "app/document/RunNormaliser.h"
+
+#include <algorithm>
 
 namespace Talmesh::app
 {
+
+namespace
+{
+
+std::vector<SessionColumn> entriesOf(const std::vector<int>& columns)
+{
+  std::vector<SessionColumn> entries;
+  for (const int column : columns)
+  {
+    const std::optional<RunFeature> feature = featureIn(column);
+    entries.push_back({itemOf(column), feature ? functionOf(*feature) : ""});
+  }
+  return entries;
+}
+
+/// The settings of the plot have the columns of the table.
+std::vector<SessionColumn> entriesOfFeatures(const std::vector<int>& columns)
+{
+  if (std::none_of(columns.begin(), columns.end(), isFeature))
+    return {};
+  return entriesOf(columns);
+}
+
+/// Those that the container has; a feature that nobody knows is none.
+std::vector<int> columnsOf(const std::vector<SessionColumn>& entries,
+                           const PlotContainer& container)
+{
+  std::vector<int> columns;
+  const auto add = [&columns](int column)
+  {
+    if (std::find(columns.begin(), columns.end(), column) == columns.end())
+      columns.push_back(column);
+  };
+  for (const SessionColumn& entry : entries)
+  {
+    if (entry.feature.empty())
+      add(entry.column);
+    for (const RunFeature feature : runFeatures())
+      if (const int column = featureColumn(entry.column, feature);
+          functionOf(feature) == entry.feature && isFeatureOf(container, column))
+        add(column);
+  }
+  return columns;
+}
+
+} // namespace
 
 SessionSource sessionOf(const Study& study, PlotContainer& container, const PlotChoice& choice,
                         const RunNormaliser* normaliser)
@@ -13,6 +62,8 @@ SessionSource sessionOf(const Study& study, PlotContainer& container, const Plot
   const ComparisonChoice comparison = comparisonChoiceOf(container);
   source.tests = {static_cast<int>(comparison.comparedBy), static_cast<int>(comparison.adjustment),
                   comparison.halves};
+  source.shown = {entriesOfFeatures({choice.x}), entriesOfFeatures(choice.y),
+                  entriesOfFeatures({choice.z}), entriesOf(choice.axes)};
   if (normaliser)
   {
     source.normalised = normaliser->normalised();
@@ -33,6 +84,14 @@ PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& c
   // Only an XY chart would know them.
   choice.legend = session.settings.legend;
   choice.logY = session.settings.logY;
+  const SessionColumns& shown = session.settings.shown;
+  choice.axes = columnsOf(shown.axes, container);
+  if (const std::vector<int> y = columnsOf(shown.y, container); !y.empty())
+    choice.y = y;
+  for (const int x : columnsOf(shown.x, container))
+    choice.x = x;
+  for (const int z : columnsOf(shown.z, container))
+    choice.z = z;
   return choice;
 }
 

@@ -84,8 +84,10 @@ std::string wordsOfRectangle(const TableRuns& runs, const SelectionGesture& gest
     const std::string y = wordsOf(runs, one.series->y);
     if (x.empty() || y.empty())
       return {};
-    words += (words.empty() ? "" : " or ") + between(x, a.x, b.x, gesture.unitsX, gesture.logX) +
-             " and " + between(y, a.y, b.y, gesture.unitsY, gesture.logY);
+    words += (words.empty() ? "" : " or ") + between(x, a.x, b.x, gesture.unitsX, gesture.logX);
+    // A part of one axis is a column over itself.
+    if (x != y)
+      words += " and " + between(y, a.y, b.y, gesture.unitsY, gesture.logY);
   }
   return words;
 }

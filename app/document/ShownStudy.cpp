@@ -45,6 +45,7 @@ void fill(const Study& study, PlotContainer& container)
   options.keepsScatterPair = true;
   options.breaksLinesAtGaps = true;
   options.showsSelectionMarks = false;
+  options.movesParallelAxes = true;
   container.setOptions(options);
   settings.sourceName = study.name;
   if (study.chart)

@@ -48,8 +48,21 @@ vtkIdType shownColumns(const PlotContainer& container)
 std::size_t bytesPerRow(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
-  const PageColumns columns = pageColumns(settings, shownColumns(container));
+  PageColumns columns = pageColumns(settings, shownColumns(container));
+  if (container.showsSummary())
+  {
+    columns.all = container.getSummary().columns.size();
+    columns.chosen = columns.all;
+    columns.limited = false;
+  }
   return styleOf(settings).pointsOfRow(columns) * bytesPerPoint;
+}
+
+std::size_t drawnRows(const PlotContainer& container)
+{
+  const bool runs = container.showsSummary();
+  vtkTable* table = runs ? container.getSummary().table.Get() : container.getTable();
+  return static_cast<std::size_t>(table->GetNumberOfRows());
 }
 
 /// Pages that compare selected runs with others hold copies of both.
@@ -90,7 +103,7 @@ std::size_t availableMemory()
 
 std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels)
 {
-  const auto rows = static_cast<std::size_t>(container.getTable()->GetNumberOfRows());
+  const std::size_t rows = drawnRows(container);
   const auto width = static_cast<std::size_t>(std::max(pixels.width(), 0));
   const auto height = static_cast<std::size_t>(std::max(pixels.height(), 0));
   return rows * bytesPerRow(container) + width * height * bytesPerPixel;

@@ -121,6 +121,11 @@ SessionSettings settingsOf(const SessionSource& source)
                                     &settings.plot->zColumns, &settings.plot->parameterColumns})
     for (int& column : *columns)
       column = places.of(column);
+  settings.shown = source.shown;
+  for (std::vector<SessionColumn>* columns :
+       {&settings.shown.x, &settings.shown.y, &settings.shown.z, &settings.shown.axes})
+    for (SessionColumn& entry : *columns)
+      entry.column = places.of(entry.column);
   settings.plot->colorColumn = places.of(settings.plot->colorColumn);
   for (const int column : source.normalised)
     settings.normalised.push_back(places.of(column));

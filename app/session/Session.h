@@ -43,6 +43,7 @@ struct SessionSource
   /// The container's table with the values that these had before; none for the table as it is.
   std::function<vtkSmartPointer<vtkTable>()> original;
   SessionTests tests;
+  SessionColumns shown = {};
 };
 
 /// What a session restores beside its study.

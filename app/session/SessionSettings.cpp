@@ -209,6 +209,8 @@ QByteArray settingsText(const SessionSettings& settings)
   object["groups"] = objectOf(settings.groups);
   object["kept"] = arrayOf(settings.kept);
   object["words"] = wholeWords(settings.words);
+  if (const QJsonObject shown = objectOf(settings.shown); !shown.isEmpty())
+    object["shown"] = shown;
   if (!settings.origin.path.isEmpty())
     object["origin"] = objectOf(settings.origin);
   object["legend"] = settings.legend;
@@ -236,6 +238,7 @@ Result<SessionSettings> readSettings(const QByteArray& text, int columns)
   settings.groups = readGroups(object["groups"].toObject());
   settings.kept = readKeptSelections(object["kept"].toArray());
   settings.words = wholeWords(object["words"].toString().toStdString()).toStdString();
+  settings.shown = readSessionColumns(object["shown"].toObject(), columns);
   settings.origin = readOrigin(object["origin"].toObject());
   settings.legend = object["legend"].toBool();
   settings.logY = object["logY"].toBool();

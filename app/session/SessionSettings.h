@@ -2,6 +2,7 @@
 #define SessionSettings_h
 
 #include "app/import/Result.h"
+#include "app/session/SessionColumns.h"
 #include "app/session/SessionGroups.h"
 #include "app/session/SessionOrigin.h"
 #include "app/session/SessionSelections.h"
@@ -34,6 +35,7 @@ struct SessionSettings
   std::vector<KeptSelection> kept;
   /// The condition in words that the selection stands for, if known.
   std::string words;
+  SessionColumns shown;
   /// Of work that is kept until the user saves it.
   SessionOrigin origin;
   bool legend = false;

@@ -70,6 +70,7 @@ ViewerStyle xyStyle()
   style.controls.logX = true;
   style.controls.logY = true;
   style.hasSeries = true;
+  style.unit = ChartUnit::RunsOverRuns;
   return style;
 }
 
@@ -87,6 +88,7 @@ ViewerStyle scatterMatrixStyle()
                                 QT_TRANSLATE_NOOP("ViewerStyles", "Scatter-plot matrix"));
   // It has titles above and tick labels to the right, which the other charts do not.
   style.room = {45, 60, 50};
+  style.unit = ChartUnit::Runs;
   style.charts = [](const PageColumns& columns)
   { return columnsOfMatrix(columns) * columnsOfMatrix(columns); };
   style.pointsOfRow = [](const PageColumns& columns) { return pairsOf(columnsOfMatrix(columns)); };
@@ -98,6 +100,7 @@ ViewerStyle pointStyle3D()
   ViewerStyle style =
       makeStyle(xyzPlot, "xyzPlot", QT_TRANSLATE_NOOP("ViewerStyles", "3-D points"));
   style.controls.z = true;
+  style.unit = ChartUnit::RunsUnlessOverTime;
   return style;
 }
 
@@ -160,6 +163,7 @@ ViewerStyle parallelStyle()
                                 QT_TRANSLATE_NOOP("ViewerStyles", "Parallel coordinates"));
   style.controls.x = false;
   style.hasColumnsAsAxes = true;
+  style.unit = ChartUnit::Runs;
   style.charts = axesOf;
   style.pointsOfRow = axesOf;
   return style;

@@ -46,6 +46,18 @@ struct PageRoom
   int bottom = 45;
 };
 
+/// What a point or a line of a chart stands for in a table of runs.
+enum class ChartUnit
+{
+  /// A row, or a run drawn over its points.
+  Rows,
+  Runs,
+  /// A run where the x axis has one value for each.
+  RunsOverRuns,
+  /// A run unless an axis is time.
+  RunsUnlessOverTime
+};
+
 /// One plot style as the viewer offers it: everything that depends on the style.
 struct ViewerStyle
 {
@@ -66,6 +78,7 @@ struct ViewerStyle
   bool comparesRuns = false;
   /// The page has curves, which densities and bands can accompany.
   bool showsDistributions = false;
+  ChartUnit unit = ChartUnit::Rows;
   PageRoom room;
   /// How many charts, or parallel axes, a page has.
   std::size_t (*charts)(const PageColumns& columns);

@@ -1,4 +1,5 @@
 #include "app/comparison/ComparisonDock.h"
+#include "app/document/FeatureColumns.h"
 #include "app/document/OwnChart.h"
 #include "app/styles/ViewerStyles.h"
 #include "app/window/ClusterDock.h"
@@ -113,7 +114,10 @@ void MainWindow::showStudy()
 {
   const Study& study = shown.study();
   const bool own = study.chart != nullptr;
-  dock->setColumns(shown.columns());
+  std::vector<std::pair<int, QString>> features;
+  for (const int column : shown.features())
+    features.emplace_back(column, QString::fromStdString(columnTitle(*shown.container(), column)));
+  dock->setColumns(shown.columns(), features);
   dock->setChoice(shown.choice());
   timeCourses->setStudy(study);
   for (QDockWidget* panel : std::initializer_list<QDockWidget*>{dock, clusterDock})

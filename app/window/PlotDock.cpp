@@ -74,28 +74,48 @@ QCheckBox* PlotDock::addSwitch(const QString& text, const QString& toolTip)
   return box;
 }
 
-void PlotDock::setColumns(const QStringList& names)
+void PlotDock::addRow(const QString& name, const QString& toolTip, int column)
 {
-  QStringList shown;
-  for (const QString& name : names)
-    shown.append(QString::fromStdString(shownName(name.toStdString())));
-  x->setNames(shown);
-  z->setNames(shown);
+  auto* item = new QListWidgetItem(name, y);
+  item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+  item->setCheckState(Qt::Unchecked);
+  item->setToolTip(toolTip);
+  shownColumns.push_back(column);
+}
+
+void PlotDock::setColumns(const QStringList& names,
+                          const std::vector<std::pair<int, QString>>& features)
+{
   const QSignalBlocker silent(y);
   y->clear();
-  for (int column = 0; column < shown.size(); ++column)
+  shownColumns.clear();
+  tableColumns = names.size();
+  QStringList shown;
+  for (const QString& name : names)
   {
-    auto* item = new QListWidgetItem(shown[column], y);
-    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item->setCheckState(Qt::Unchecked);
-    item->setToolTip(names[column]);
+    shown.append(QString::fromStdString(shownName(name.toStdString())));
+    addRow(shown.back(), name, static_cast<int>(shownColumns.size()));
   }
+  for (const auto& [column, name] : features)
+  {
+    shown.append(name);
+    addRow(name, tr("%1: one value for a run").arg(name), column);
+  }
+  x->setNames(shown);
+  z->setNames(shown);
+}
+
+/// -1 for a column that is not offered.
+int PlotDock::rowOf(int column) const
+{
+  const auto found = std::find(shownColumns.begin(), shownColumns.end(), column);
+  return found == shownColumns.end() ? -1 : static_cast<int>(found - shownColumns.begin());
 }
 
 QStringList PlotDock::columns() const
 {
   QStringList names;
-  for (int row = 0; row < y->count(); ++row)
+  for (int row = 0; row < tableColumns; ++row)
     names.append(y->item(row)->toolTip());
   return names;
 }
@@ -106,7 +126,7 @@ void PlotDock::tickColumns(const std::vector<int>& columns)
   for (int row = 0; row < y->count(); ++row)
     y->item(row)->setCheckState(Qt::Unchecked);
   for (const int column : columns)
-    if (QListWidgetItem* item = y->item(column))
+    if (QListWidgetItem* item = y->item(rowOf(column)))
       item->setCheckState(Qt::Checked);
   lastTicked = columns;
 }
@@ -114,15 +134,14 @@ void PlotDock::tickColumns(const std::vector<int>& columns)
 std::vector<int> PlotDock::tickedColumns() const
 {
   std::vector<int> order = lastTicked;
-  for (int row = 0; row < y->count(); ++row)
-    order.push_back(row);
+  order.insert(order.end(), shownColumns.begin(), shownColumns.end());
   std::vector<int> ticked;
-  for (const int row : order)
+  for (const int column : order)
   {
-    const QListWidgetItem* item = y->item(row);
-    const bool known = std::find(ticked.begin(), ticked.end(), row) != ticked.end();
+    const QListWidgetItem* item = y->item(rowOf(column));
+    const bool known = std::find(ticked.begin(), ticked.end(), column) != ticked.end();
     if (item && item->checkState() == Qt::Checked && !known)
-      ticked.push_back(row);
+      ticked.push_back(column);
   }
   return ticked;
 }
@@ -136,8 +155,9 @@ void PlotDock::setChoice(const PlotChoice& choice)
   const QSignalBlocker silentLogX(logX);
   style->setCurrentIndex(style->findData(static_cast<int>(choice.style)));
   unofferedStyle = choice.style;
-  x->setCurrentIndex(choice.x);
-  z->setCurrentIndex(choice.z);
+  x->setCurrentIndex(rowOf(choice.x));
+  z->setCurrentIndex(rowOf(choice.z));
+  movedAxes = choice.axes;
   tickColumns(choice.y);
   lines->setChecked(choice.lines);
   logX->setChecked(choice.logX);
@@ -155,13 +175,21 @@ void PlotDock::readWishes()
     wishedLogY = logY->isChecked();
 }
 
+/// -1 for none.
+int PlotDock::columnIn(const NameBox& box) const
+{
+  const int row = box.currentIndex();
+  return row < 0 ? -1 : shownColumns[static_cast<std::size_t>(row)];
+}
+
 PlotChoice PlotDock::choice() const
 {
   PlotChoice choice;
   choice.style = style->currentIndex() < 0 ? unofferedStyle
                                            : static_cast<plotStyles>(style->currentData().toInt());
-  choice.x = x->currentIndex();
-  choice.z = z->currentIndex();
+  choice.x = columnIn(*x);
+  choice.z = columnIn(*z);
+  choice.axes = movedAxes;
   choice.y = tickedColumns();
   choice.lines = lines->isChecked();
   choice.legend = wishedLegend;

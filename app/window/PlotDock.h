@@ -6,6 +6,9 @@
 #include <QDockWidget>
 #include <QStringList>
 
+#include <utility>
+#include <vector>
+
 class QCheckBox;
 class QListWidget;
 
@@ -23,8 +26,10 @@ public:
   explicit PlotDock(QWidget* parent = nullptr);
 
   /// Offers the columns of a table, by their names in column order. Emits nothing.
-  void setColumns(const QStringList& names);
-  /// The names given last.
+  /// @param features columns behind them, as a choice names them, and what they are called
+  void setColumns(const QStringList& names,
+                  const std::vector<std::pair<int, QString>>& features = {});
+  /// The names given last, without features.
   QStringList columns() const;
   /// The switches, which other controls of the window may click.
   QCheckBox* linesSwitch() const { return lines; }
@@ -44,6 +49,9 @@ signals:
 
 private:
   QCheckBox* addSwitch(const QString& text, const QString& toolTip);
+  void addRow(const QString& name, const QString& toolTip, int column);
+  int rowOf(int column) const;
+  int columnIn(const NameBox& box) const;
   void tickColumns(const std::vector<int>& columns);
   std::vector<int> tickedColumns() const;
   void emitChoice();
@@ -58,7 +66,11 @@ private:
   QCheckBox* legend;
   QCheckBox* logX;
   QCheckBox* logY;
+  /// The columns in the order in which they are offered.
+  std::vector<int> shownColumns;
+  int tableColumns = 0;
   std::vector<int> lastTicked{1};
+  std::vector<int> movedAxes;
   bool wishedLegend = false;
   bool wishedLogY = false;
   /// A style that is shown but not offered.

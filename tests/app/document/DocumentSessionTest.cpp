@@ -1,4 +1,5 @@
 #include "app/comparison/ComparisonResults.h"
+#include "app/document/FeatureColumns.h"
 
 #include <vtkAxis.h>
 #include <vtkCommand.h>
@@ -105,6 +106,27 @@ TEST_F(DocumentSession, BringsBackThePartOfThePlaneAlsoOfNormalisedRuns)
   saveAndOpen();
   EXPECT_EQ(chart().GetAxis(vtkAxis::BOTTOM)->GetMinimum(), 2.0);
   EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetMaximum(), 0.5);
+}
+
+TEST_F(DocumentSession, BringsBackChartsOfRunsWithTheirFeaturesAndAxes)
+{
+  openInXYPlot();
+  PlotChoice choice = document.choice();
+  choice.x = featureColumn(1, RunFeature::Mean);
+  choice.y = {featureColumn(0, RunFeature::Final), 4, featureColumn(0, RunFeature::Max)};
+  choice.axes = {5, featureColumn(0, RunFeature::Final)};
+  document.choose(choice);
+  vtkAxis* bottom = chart().GetAxis(vtkAxis::BOTTOM);
+  bottom->SetRange(2.0, 3.0);
+  chart().InvokeEvent(vtkCommand::InteractionEvent);
+  const std::vector<std::string> plots = labels();
+  const vtkIdType columns = container().getTable()->GetNumberOfColumns();
+  saveAndOpen();
+  EXPECT_EQ(document.choice(), choice);
+  EXPECT_EQ(labels(), plots);
+  EXPECT_TRUE(container().showsSummary());
+  EXPECT_EQ(container().getTable()->GetNumberOfColumns(), columns) << "the session keeps the runs";
+  EXPECT_EQ(chart().GetAxis(vtkAxis::BOTTOM)->GetMinimum(), 2.0);
 }
 
 TEST_F(DocumentSession, DrawsAndAnnouncesOnceWhatItRestores)

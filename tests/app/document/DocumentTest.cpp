@@ -88,7 +88,7 @@ TEST_F(DocumentOfRuns, ShowsWhatIsWished)
   EXPECT_EQ(open(sixRuns(), wishes), "");
   EXPECT_EQ(document.choice().x, 4);
   EXPECT_EQ(document.choice().y, (std::vector<int>{1, 0}));
-  EXPECT_EQ(labels(), (std::vector<std::string>{"Y", "X"}));
+  EXPECT_EQ(labels(), (std::vector<std::string>{"max(Y)", "max(X)"}));
 }
 
 TEST_F(DocumentOfRuns, LeavesAllWishesOutWhenOneCannotBeMet)

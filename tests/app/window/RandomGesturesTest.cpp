@@ -111,7 +111,8 @@ protected:
       EXPECT_EQ(window.selectionController()->save(path), "") << style;
       EXPECT_EQ(loadRunSelection(path).value().runs, expected) << style;
     }
-    EXPECT_EQ(highlightedLines(), rows);
+    // A line is a run.
+    EXPECT_EQ(highlightedLines(), Rows(expected.begin(), expected.end()));
   }
 
   std::mt19937 random{20261122};
