@@ -148,11 +148,13 @@ void SelectionHistory::follow(PlotContainer* container)
 
 void SelectionHistory::restart(const std::string& words)
 {
+  if (followed)
+  {
+    const Snapshot rows = followed->selected();
+    followed->current = {rows, isAny(rows) ? words : std::string()};
+  }
+  // Those who hear of it ask for the words.
   stack.clear();
-  if (!followed)
-    return;
-  const Snapshot rows = followed->selected();
-  followed->current = {rows, isAny(rows) ? words : std::string()};
 }
 
 std::string SelectionHistory::words() const

@@ -125,6 +125,16 @@ TEST(SelectionWords, AreNoWordsWhenTheyAreTooLongForAnyone)
   EXPECT_EQ(words, "");
 }
 
+TEST_F(SelectionInWords, AreThoseOfTheStudyThatIsOpenedForWhoeverHearsOfIt)
+{
+  step("k > 2", RunCombination::Replace);
+  std::vector<std::string> heard;
+  QObject::connect(&steps(), &QUndoStack::indexChanged,
+                   [&] { heard.push_back(selection().words()); });
+  ASSERT_EQ(open(), "");
+  EXPECT_EQ(heard, std::vector<std::string>{""});
+}
+
 TEST(SelectionWords, NameTheFewestRunsThatLeadToOthers)
 {
   const auto bits = [](const char* text)

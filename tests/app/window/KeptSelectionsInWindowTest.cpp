@@ -3,8 +3,11 @@
 #include "app/window/SessionController.h"
 
 #include <QColorDialog>
+#include <QMenu>
 #include <QToolButton>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 #include "window/WorkInWindow.h"
 
@@ -32,10 +35,21 @@ protected:
   /// Types the name into the row that waits for it.
   void type(const QString& name)
   {
-    auto* edit = tree().findChild<QLineEdit*>();
+    // One that has been closed may not be gone yet.
+    QLineEdit* edit = nullptr;
+    for (QLineEdit* any : tree().findChildren<QLineEdit*>())
+      edit = any->isVisible() ? any : edit;
     ASSERT_NE(edit, nullptr) << "no name is asked for";
     QTest::keyClicks(edit, name);
     QTest::keyClick(edit, Qt::Key_Return);
+    // The name is taken when the row is no longer at work.
+    const auto isTaken = [&]
+    {
+      return std::any_of(kept().begin(), kept().end(),
+                         [&name](const KeptSelection& selection)
+                         { return selection.name == name.toStdString(); });
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isTaken, patience));
     QTest::qWait(20);
   }
 
@@ -64,6 +78,23 @@ protected:
     ASSERT_NE(button(action), nullptr) << action;
     QTest::mouseClick(button(action), Qt::LeftButton);
   }
+
+  /// Chooses the entry of the menu of its button, as far down as it stands there.
+  void selectBy(int entry)
+  {
+    QMenu& menu = *window.findChild<QMenu*>("selectKept");
+    QTimer::singleShot(100, &menu,
+                       [&menu, entry]
+                       {
+                         for (int i = 0; i <= entry; ++i)
+                           QTest::keyClick(&menu, Qt::Key_Down);
+                         QTest::keyClick(&menu, Qt::Key_Return);
+                       });
+    for (QToolButton* button : window.findChildren<QToolButton*>())
+      if (button->defaultAction() == menu.menuAction())
+        QTest::mouseClick(button, Qt::LeftButton);
+    QTest::qWait(20);
+  }
 };
 
 } // namespace
@@ -85,11 +116,21 @@ TEST_F(KeptSelectionsInWindow, KeepsWhatIsSelectedUnderTheNameThatIsTyped)
   EXPECT_EQ(steps.text(steps.index() - 1), "Keep silent");
 }
 
-TEST_F(KeptSelectionsInWindow, SelectsAgainByADoubleClick)
+TEST_F(KeptSelectionsInWindow, SelectsAgainInFourWays)
 {
   keepAs({20, 40}, "a");
   press(QKeySequence(Qt::Key_Escape));
   doubleClick(0);
+  EXPECT_EQ(runs(), (Runs{20, 40}));
+  select({10, 20});
+  click(0);
+  selectBy(1);
+  EXPECT_EQ(runs(), (Runs{10, 20, 40}));
+  selectBy(2);
+  EXPECT_EQ(runs(), Runs{10});
+  selectBy(3);
+  EXPECT_EQ(runs(), (Runs{10, 20, 40}));
+  selectBy(0);
   EXPECT_EQ(runs(), (Runs{20, 40}));
 }
 
