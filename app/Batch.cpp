@@ -2,6 +2,7 @@
 
 #include "app/comparison/ComparisonFile.h"
 #include "app/document/Document.h"
+#include "app/document/TableRuns.h"
 #include "app/examples/ExampleStudy.h"
 #include "app/examples/Gallery.h"
 #include "app/export/PictureFile.h"
@@ -53,6 +54,14 @@ std::string writeComparison(const Comparison& comparison, const QString& path)
   return writeText(path, commaText(comparison.parameters));
 }
 
+std::string writeRuns(PlotContainer& container, const QString& path)
+{
+  const TableRuns runs(container);
+  if (runs.numberOfRuns() == 0)
+    return "there are no runs to list";
+  return writeText(path, QString::fromStdString(commaText(runTable(runs, allColumnsOfRuns(runs)))));
+}
+
 /// Pictures need a widget that paints; the document of tables only draws, into a scene.
 std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& opened,
                        const QSize& size)
@@ -78,6 +87,8 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
       error = writeExport(options, *widget, QFile::decodeName(path.c_str()));
   if (error.empty() && !options.compare.empty())
     error = writeComparison(comparison, QFile::decodeName(options.compare.c_str()));
+  if (error.empty() && !options.runs.empty())
+    error = writeRuns(*document.container(), QFile::decodeName(options.runs.c_str()));
   // What shows a container ends before it.
   widget.reset();
   return error;

@@ -126,6 +126,12 @@ std::string readCompare(const std::string& value, CommandLineOptions& options)
   return {};
 }
 
+std::string readRuns(const std::string& value, CommandLineOptions& options)
+{
+  options.runs = value;
+  return {};
+}
+
 std::string readGallery(const std::string& value, CommandLineOptions& options)
 {
   options.gallery = value;
@@ -200,6 +206,7 @@ constexpr Option optionsWithValue[] = {{"style", readStyle},
                                        {"select", readSelect},
                                        {"export", readExport},
                                        {"compare", readCompare},
+                                       {"runs", readRuns},
                                        {"gallery", readGallery},
                                        {"size", readPixels},
                                        {"paper", readPaper},

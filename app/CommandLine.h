@@ -20,6 +20,8 @@ struct CommandLineOptions : OpeningWishes
   std::vector<std::string> exports;
   /// The file to write the comparison of the selected runs with the others to; empty for none.
   std::string compare;
+  /// The file to write the table of runs to; empty for none.
+  std::string runs;
   /// The folder to write one picture of each view into; empty for none.
   std::string gallery;
   /// Width and height of exported pictures on paper in millimetres; 0 for the size in pixels.
@@ -34,7 +36,7 @@ struct CommandLineOptions : OpeningWishes
 
   bool writesPictures() const { return !exports.empty() || !gallery.empty(); }
   /// Whether the program only writes files and opens no window.
-  bool writesOnly() const { return writesPictures() || !compare.empty(); }
+  bool writesOnly() const { return writesPictures() || !compare.empty() || !runs.empty(); }
 };
 
 /// Reads the arguments after the program's name, as the system hands them over. A value follows its

@@ -46,6 +46,8 @@ std::string commandLineHelp()
       "  --compare FILE          write how the parameters of the selected runs differ from those "
       "of\n"
       "                          the others, as a table (.csv), and open no window\n"
+      "  --runs FILE             write the parameters of all runs and the largest, mean and final\n"
+      "                          values of their items, as a table (.csv), and open no window\n"
       "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
       "  --size WxH              width and height of the pictures in pixels\n"
       "  --paper WxH             width and height of exported pictures in millimetres\n"

@@ -1,10 +1,13 @@
 #include "app/document/GroupedPlots.h"
 #include "app/document/PlotSession.h"
+#include "app/document/RunNormaliser.h"
 #include "app/document/ShownStudy.h"
 #include "plot/PlotContainer.h"
+#include "support/Pictures.h"
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QImage>
 
 #include <cmath>
@@ -34,6 +37,12 @@ bool isShadeOf(const QColor& shade, const QColor& colour)
 /// What the program writes of runs.
 class RunsFromProgram : public RunningProgram
 {
+protected:
+  void removeDisplay()
+  {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"})
+      environment.remove(QLatin1String(name));
+  }
 };
 
 } // namespace
@@ -63,4 +72,51 @@ TEST_F(RunsFromProgram, DrawsTheGroupsOfASessionInTheirColours)
   EXPECT_EQ(coloursOf({}), std::set<int>());
   EXPECT_EQ(coloursOf({0, 1, 1}), (std::set<int>{0, 1}));
   EXPECT_EQ(coloursOf({2, 1, 0}), (std::set<int>{0, 1, 2}));
+}
+
+TEST_F(RunsFromProgram, AreATableWithoutADisplay)
+{
+  const QString csv = write("runs.csv", "run,time,k,X,\"a,b\"\n7,0,0.1,1,3\n7,1,0.1,2,\n"
+                                        "9,0,0.3,-4,5\n9,1,0.3,1,6\n");
+  removeDisplay();
+  expectSuccess({csv, "--runs", path("out.csv")});
+  // With 17 digits, as printf's %.17g has them.
+  EXPECT_EQ(contentOf(path("out.csv")),
+            "run,k,max(X),mean(X),final(X),\"max(\"\"a,b\"\")\",\"mean(\"\"a,b\"\")\","
+            "\"final(\"\"a,b\"\")\"\n"
+            "7,0.10000000000000001,2,1.5,2,3,3,\n"
+            "9,0.29999999999999999,1,-1.5,1,6,5.5,6\n");
+}
+
+TEST_F(RunsFromProgram, AreRefusedInOneLine)
+{
+  removeDisplay();
+  const QString out = path("out.csv");
+  const Ended plain = run({write("plain.csv", "a,b\n1,2\n3,4\n"), "--runs", out});
+  EXPECT_EQ(plain.status, 1);
+  EXPECT_TRUE(plain.errors.endsWith("talmesh-plot: there are no runs to list\n"))
+      << plain.errors.toStdString();
+  EXPECT_FALSE(QFile::exists(out));
+  const QString csv = write("runs.csv", sampleRuns());
+  const QString nowhere = path("nowhere/out.csv");
+  const Ended ended = run({csv, "--runs", nowhere});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_TRUE(ended.errors.startsWith(("talmesh-plot: " + nowhere + ": ").toUtf8()));
+  EXPECT_EQ(ended.errors.count('\n'), 1);
+  expectError({csv, "--runs"}, "--runs needs a value");
+}
+
+TEST_F(RunsFromProgram, HaveTheValuesThatASessionShows)
+{
+  const Study study = sampleStudy();
+  PlotContainer container(nullptr);
+  showStudy(study, container);
+  RunNormaliser normaliser;
+  normaliser.follow(&container);
+  normaliser.setNormalised({0}, true);
+  ASSERT_EQ(saveSession(path("a.talmesh"), study, container, choiceOf(container), &normaliser), "");
+  expectSuccess({path("a.talmesh"), "--runs", path("out.csv")});
+  const QList<QByteArray> lines = contentOf(path("out.csv")).split('\n');
+  ASSERT_EQ(lines.size(), 5);
+  EXPECT_EQ(lines[1].split(',').value(2), "1") << "the largest X";
 }
