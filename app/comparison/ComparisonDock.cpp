@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace Talmesh::app
 {
@@ -17,12 +18,15 @@ ComparisonDock::ComparisonDock(QWidget* parent)
     , results(new ComparisonTable)
 {
   setObjectName(QStringLiteral("comparisonDock"));
-  // In a small window the controls scroll rather than take the plot's room.
+  // In a small window the controls scroll up and down rather than take the plot's room.
   auto* scrolled = new QScrollArea;
   scrolled->setWidget(settings);
   scrolled->setWidgetResizable(true);
   scrolled->setFrameShape(QFrame::NoFrame);
   scrolled->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+  scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scrolled->setMinimumWidth(settings->minimumSizeHint().width() +
+                            scrolled->verticalScrollBar()->sizeHint().width());
   auto* panel = new QWidget;
   auto* layout = new QHBoxLayout(panel);
   layout->setContentsMargins(0, 0, 0, 0);

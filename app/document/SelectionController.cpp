@@ -74,6 +74,9 @@ SelectionController::SelectionController(QObject* parent)
 SelectionController::~SelectionController()
 {
   stopObserving();
+  // The stacks leave it after the histories have gone, which whoever hears of it would ask for
+  // words.
+  group.blockSignals(true);
 }
 
 void SelectionController::follow(PlotContainer* another, const std::string& words)

@@ -23,7 +23,7 @@ QWidget* makeButtonColumn(const QList<QAction*>& steps)
 {
   auto* buttons = new QWidget;
   auto* column = new QVBoxLayout(buttons);
-  column->setContentsMargins(0, 0, 0, 0);
+  column->setContentsMargins(0, 0, column->spacing(), 0);
   for (QAction* step : steps)
   {
     auto* button = new QToolButton;
