@@ -1307,7 +1307,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Chec&amp;k in halves</source>
-        <translation>In &amp;Hälften prüfen</translation>
+        <translation>&amp;Kontrolle in Hälften</translation>
     </message>
     <message>
         <source>The honest check of what was found by looking: split the parameter sets at random, keep what differs in one half, and test that in the other</source>

@@ -154,7 +154,7 @@ TEST_F(PointingInWindow, MeansPointsWhereNoLinesAreDrawn)
   EXPECT_EQ(runs(), Runs{});
   draw({{0.9, 2.2}, {1.1, 2.4}});
   EXPECT_EQ(runs(), Runs{0});
-  EXPECT_TRUE(lastStep().startsWith("Select 1 runs: dot(X, ")) << lastStep().toStdString();
+  EXPECT_TRUE(lastStep().startsWith("Select 1 run: dot(X, ")) << lastStep().toStdString();
 }
 
 TEST_F(PointingInWindow, BesideEverythingChangesNothing)
