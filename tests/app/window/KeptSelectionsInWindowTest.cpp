@@ -165,6 +165,9 @@ TEST_F(KeptSelectionsInWindow, RenamesColoursAndRemoves)
   QMetaObject::invokeMethod(dialog, "accept");
   QTest::qWait(20);
   EXPECT_EQ(kept().front().colour, 0x010203U);
+  // The dialog had the keyboard.
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   tree().setFocus();
   QTest::keyClick(&tree(), Qt::Key_Delete);
   EXPECT_TRUE(kept().empty());
