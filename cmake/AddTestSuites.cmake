@@ -35,9 +35,11 @@ if(NOT suites)
 endif()
 foreach(suite IN LISTS suites)
   add_test("${prefix}.${suite}" "${executable}" "--gtest_filter=${suite}.*")
+  # Suites that run side by side must not find what another one has just stored.
+  string(REGEX REPLACE "(XDG_CONFIG_HOME=[^;]*)" "\\1/${prefix}.${suite}" ownEnvironment "${environment}")
   set_tests_properties("${prefix}.${suite}" PROPERTIES
     TIMEOUT 600
-    ENVIRONMENT "${environment}")
+    ENVIRONMENT "${ownEnvironment}")
   if(reads_files_${suite})
     set_tests_properties("${prefix}.${suite}" PROPERTIES LABELS readers)
   endif()
