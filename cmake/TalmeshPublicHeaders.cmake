@@ -21,6 +21,7 @@ set(TALMESH_PUBLIC_HEADERS
   external/UnivariateDensityDerivative.h
   external/vtkKMeansPearson.h
   external/vtkPrepareKMeansTable.h
+  plot/DistributionGroup.h
   plot/KsStatistics.h
   plot/PlotContainer.h
   plot/PlotContainerTypes.h

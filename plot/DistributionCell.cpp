@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/DerivedTables.h"
+#include "plot/GroupCurves.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
@@ -33,6 +34,20 @@ using Color = std::array<double, 3>;
 constexpr std::array<Color, 3> dataSetColors = {
     {highlightShade, {0.05, 0.6, 0.9}, {0.05, 0.9, 0.6}}};
 
+/// Adds a curve, an empty one without its columns.
+vtkPlot* addPlot(const PlotState& state, vtkChart* chart, vtkTable* table, int x, int y)
+{
+  vtkSmartPointer<vtkPlot> plot;
+  if (state.metaData->getUseDensity())
+    plot = vtkSmartPointer<vtkPlotSafeLine>::New();
+  else
+    plot = vtkSmartPointer<vtkPlotStepLine>::New();
+  feedPlot(plot, table, x, y);
+  makeUnselectable(plot);
+  chart->AddPlot(plot);
+  return plot;
+}
+
 /// Adds the curve of the data set with the ranks in slot `ranks`. Without its columns, for example
 /// for a parameter that came after the last ranking, the curve is empty.
 vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t ranks,
@@ -42,15 +57,7 @@ vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t ranks,
   vtkTable* table = tableInSlot(state.derivedTables, density ? densitySlotOf(ranks) : ranks);
   const std::string x = (density ? locationsPrefix : sortedPrefix) + label;
   const std::string y = (density ? densityPrefix : rankPrefix) + label;
-  vtkSmartPointer<vtkPlot> plot;
-  if (density)
-    plot = vtkSmartPointer<vtkPlotSafeLine>::New();
-  else
-    plot = vtkSmartPointer<vtkPlotStepLine>::New();
-  feedPlot(plot, table, columnIndex(table, x), columnIndex(table, y));
-  makeUnselectable(plot);
-  chart->AddPlot(plot);
-  return plot;
+  return addPlot(state, chart, table, columnIndex(table, x), columnIndex(table, y));
 }
 
 void addCurves(const PlotState& state, vtkChart* chart, const std::string& label)
@@ -63,6 +70,16 @@ void addCurves(const PlotState& state, vtkChart* chart, const std::string& label
     addCurve(state, chart, rankSlot(dataSet), label)
         ->GetPen()
         ->SetColorF(color[0], color[1], color[2]);
+  }
+}
+
+void addGroupCurves(const PlotState& state, vtkChart* chart, std::size_t parameter)
+{
+  for (std::size_t group = 0; group < state.distributionGroups->size(); ++group)
+  {
+    const auto& color = (*state.distributionGroups)[group].color;
+    addPlot(state, chart, groupCurve(state, group, parameter), 0, 1)
+        ->SetColor(color[0], color[1], color[2], 255);
   }
 }
 
@@ -104,7 +121,10 @@ void fillDistributionCell(PlotState& state, vtkChart* chart, std::size_t paramet
                           const std::string& title)
 {
   disablePanAndZoom(chart);
-  addCurves(state, chart, parameterLabel(state, parameter));
+  if (state.distributionGroups)
+    addGroupCurves(state, chart, parameter);
+  else
+    addCurves(state, chart, parameterLabel(state, parameter));
   dressParameterAxis(state, chart, vtkAxis::BOTTOM, title, true);
   chart->GetAxis(vtkAxis::BOTTOM)->SetBehavior(vtkAxis::AUTO);
   chart->SetTitle(testTitle(state, parameter));

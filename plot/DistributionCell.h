@@ -15,8 +15,8 @@ struct PlotState;
 std::string pValueLabel(double pValue);
 
 /// Fills `chart` with the distribution of the parameter at position `parameter` over the
-/// container's own runs and over every further data set, titled with the p-value of its test or as
-/// the client's test says.
+/// container's own runs and over every further data set, or over the client's groups, titled with
+/// the p-value of its test or as the client's test says.
 /// @param title title of the bottom axis
 void fillDistributionCell(PlotState& state, vtkChart* chart, std::size_t parameter,
                           const std::string& title);

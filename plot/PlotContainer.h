@@ -4,6 +4,7 @@
 #include "../export/TalmeshPlotExport.h"
 #include "../external/PlotStyles.h"
 #include "../external/TypedConcentrationName.h"
+#include "../plot/DistributionGroup.h"
 #include "../plot/KsStatistics.h"
 #include "../plot/PlotContainerTypes.h"
 #include "../plot/PlotOptions.h"
@@ -227,6 +228,13 @@ public:
   /// A client that sets them in a preparation of every drawing, see addPreparation(), has its own
   /// numbers from the first drawing of a selection on.
   void setParameterTests(std::optional<std::vector<ParameterTest>> tests);
+  /// Has the selection page draw, from the next drawing on, how the parameters are distributed over
+  /// these groups of runs, in their order and colours, in place of the plot table's runs and the
+  /// further data sets. Every value counts: the curves of two groups are as far apart as the
+  /// two-sample Kolmogorov-Smirnov statistic of their values, also where many of them are equal.
+  /// What lacks an entry has no curve. Without a list, as at first, the page draws the data sets,
+  /// the further ones with each value once. A copy of the container has no list.
+  void setDistributionGroups(std::optional<std::vector<DistributionGroup>> groups);
   /// Rebuilds the table of quartiles per time point from the first y column. A stride below 1
   /// leaves the old one in place.
   void generateQuartiles();

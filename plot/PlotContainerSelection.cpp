@@ -1,5 +1,6 @@
 #include "external/ParameterSelection.h"
 #include "plot/Clustering.h"
+#include "plot/GroupCurves.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
@@ -121,6 +122,11 @@ void PlotContainer::ksTestSelection(unsigned long first, unsigned long second)
 void PlotContainer::setParameterTests(std::optional<std::vector<ParameterTest>> tests)
 {
   d->parameterTests = std::move(tests);
+}
+
+void PlotContainer::setDistributionGroups(std::optional<std::vector<DistributionGroup>> groups)
+{
+  Talmesh::plot::setDistributionGroups(*d, std::move(groups));
 }
 
 void PlotContainer::generateQuartiles()

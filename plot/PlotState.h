@@ -7,6 +7,7 @@
 #include "plot/AxisScales.h"
 #include "plot/AxisWindows.h"
 #include "plot/DerivedInputs.h"
+#include "plot/DistributionGroup.h"
 #include "plot/DrawingSteps.h"
 #include "plot/KsStatistics.h"
 #include "plot/MatrixSelection.h"
@@ -119,6 +120,9 @@ struct PlotState
   std::vector<TestedSamples> testedSamples;
   /// What a client says of the parameters in place of those results; none if it says nothing.
   std::optional<std::vector<ParameterTest>> parameterTests;
+  /// What the selection page draws in place of the data sets of the derived tables, with ascending
+  /// values that are all numbers; none for those.
+  std::optional<std::vector<DistributionGroup>> distributionGroups;
   /// Quartiles of the runs, one row per position within a run.
   vtkSmartPointer<vtkTable> quartileTable;
 

@@ -76,17 +76,6 @@ Lists parameterValues(const PlotState& state, vtkTable* source, bool ownRuns, co
   return lists;
 }
 
-void estimateKernelDensity(std::vector<double>& sources, std::vector<double>& targets,
-                           double bandwidth, std::vector<double>& density)
-{
-  if (stats::estimateOnGrid(sources, targets, bandwidth, density))
-    return;
-  UnivariateDensityDerivative estimate(
-      static_cast<int>(sources.size()), static_cast<int>(targets.size()), sources.data(),
-      targets.data(), bandwidth, 0, densityAccuracy, density.data());
-  estimate.Evaluate();
-}
-
 Names prefixed(const std::string& prefix, const Names& labels)
 {
   Names names;
@@ -217,6 +206,17 @@ void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source
     state.rankedInputs = presentInputs(state);
     state.metaData->rankedDataCurrent = true;
   }
+}
+
+void estimateKernelDensity(std::vector<double>& sources, std::vector<double>& targets,
+                           double bandwidth, std::vector<double>& density)
+{
+  if (stats::estimateOnGrid(sources, targets, bandwidth, density))
+    return;
+  UnivariateDensityDerivative estimate(
+      static_cast<int>(sources.size()), static_cast<int>(targets.size()), sources.data(),
+      targets.data(), bandwidth, 0, densityAccuracy, density.data());
+  estimate.Evaluate();
 }
 
 std::optional<std::size_t> rankedValueCount(vtkTable* ranks, const std::string& label)

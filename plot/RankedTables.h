@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 class vtkTable;
 
@@ -34,6 +35,10 @@ struct PlotState;
 /// @param source null counts as a table without columns
 void generateRankedParameters(PlotState& state, vtkSmartPointer<vtkTable> source,
                               std::size_t tableIndex);
+
+/// A kernel density estimate, as `stats::KernelDensity`: on a grid where that is exact enough.
+void estimateKernelDensity(std::vector<double>& sources, std::vector<double>& targets,
+                           double bandwidth, std::vector<double>& density);
 
 /// How many values of the parameter with this label were ranked into `ranks`, before its columns
 /// were filled up to those of the longest parameter; nothing for one that was skipped.

@@ -65,10 +65,14 @@ public:
       part.push_back(partOf(column, second, half));
     ComparisonPlan ofHalf = plan;
     ofHalf.untested = std::move(untested);
+    if (!plan.leftOut.empty())
+      ofHalf.leftOut = partOf(plan.leftOut, second, half);
     if (plan.progress)
       ofHalf.progress = [this, half](double done) { return plan.progress((half + done) / 2.0); };
     return compareRuns(part, partOf(selected, second, half), ofHalf);
   }
+
+  const std::vector<char>& secondRuns() const { return second; }
 
 private:
   const ParameterColumns& columns;
@@ -86,6 +90,8 @@ HalfComparison compareHalves(const ParameterColumns& columns, const std::vector<
     return {};
   if (runsIn(columns) != selected.size())
     throw std::invalid_argument("a selection of another number of runs");
+  if (!plan.leftOut.empty() && plan.leftOut.size() != selected.size())
+    throw std::invalid_argument("runs left out of another number of runs");
   const HalfComparer halves(columns, selected, plan);
   HalfComparison result;
   result.explored = halves.compare(0, plan.untested);
@@ -94,6 +100,7 @@ HalfComparison compareHalves(const ParameterColumns& columns, const std::vector<
     if (!differs(row))
       untested.push_back(row.parameter);
   result.tested = halves.compare(1, untested);
+  result.isTested = halves.secondRuns();
   return result;
 }
 } // namespace Talmesh::stats

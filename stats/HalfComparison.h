@@ -16,6 +16,8 @@ struct HalfComparison
   /// In the other half. What does not differ in the first one is `leftUntested`, so that p is
   /// adjusted for the chosen parameters only.
   RunComparison tested;
+  /// Whether a run is in that other half; an entry per run.
+  std::vector<char> isTested;
 };
 
 /// Compares in both halves. The independent units are split at random, those of each class in two

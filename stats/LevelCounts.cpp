@@ -1,5 +1,7 @@
 #include "stats/LevelCounts.h"
 
+#include "stats/SmallTails.h"
+
 #include <boost/math/special_functions/gamma.hpp>
 
 #include <algorithm>
@@ -44,10 +46,10 @@ public:
       given += logWays(sizeOf(block), block.selected);
   }
 
-  double p()
+  double logP()
   {
     visit(0, chosen, 0.0);
-    return std::min(extreme, 1.0);
+    return std::min(std::log(extreme) + given - logAll, 0.0);
   }
 
 private:
@@ -68,7 +70,7 @@ private:
       if (level + 1 < blocks.size())
         visit(level + 1, left - selected, log);
       else if (log <= given + 1e-7)
-        extreme += std::exp(log - logAll);
+        extreme += std::exp(log - given);
     }
   }
 
@@ -78,6 +80,7 @@ private:
   std::uint64_t chosen = 0;
   double logAll = 0.0;
   double given = 0.0;
+  /// In units of the probability of the given table.
   double extreme = 0.0;
 };
 
@@ -121,6 +124,7 @@ CountsTest chiSquaredTest(const TieBlocks& blocks)
   {
     test.chiSquared = notANumber;
     test.p = notANumber;
+    test.logP = notANumber;
     return test;
   }
   const double part = static_cast<double>(sizes.selected) / static_cast<double>(sizes.runs());
@@ -130,8 +134,9 @@ CountsTest chiSquaredTest(const TieBlocks& blocks)
     const double deviation = static_cast<double>(block.selected) - size * part;
     test.chiSquared += deviation * deviation / (size * part * (1.0 - part));
   }
-  test.p =
-      boost::math::gamma_q(static_cast<double>(blocks.size() - 1) / 2.0, test.chiSquared / 2.0);
+  const double halfFreedom = static_cast<double>(blocks.size() - 1) / 2.0;
+  test.p = boost::math::gamma_q(halfFreedom, test.chiSquared / 2.0);
+  test.logP = logGammaQ(halfFreedom, test.chiSquared / 2.0);
   return test;
 }
 
@@ -141,7 +146,8 @@ CountsTest levelCountsTest(const TieBlocks& blocks)
   const GroupSizes sizes = groupSizes(blocks);
   if (!isTable(blocks, sizes) || tablesWithSumsOf(blocks) > largestExactCounts)
     return test;
-  test.p = TableEnumeration(blocks, sizes).p();
+  test.logP = TableEnumeration(blocks, sizes).logP();
+  test.p = std::exp(test.logP);
   test.exact = true;
   return test;
 }

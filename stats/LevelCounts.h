@@ -19,6 +19,8 @@ struct CountsTest
   /// Pearson's sum of (observed - expected)^2 / expected over both columns of the table.
   double chiSquared = 0.0;
   double p = 0.0;
+  /// Natural logarithm of p, also where that is below what doubles hold.
+  double logP = 0.0;
   /// Fisher's exact test; else by the chi-squared distribution with (levels - 1) degrees of
   /// freedom, which is poor where counts below 5 are expected.
   bool exact = true;

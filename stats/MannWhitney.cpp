@@ -1,5 +1,7 @@
 #include "stats/MannWhitney.h"
 
+#include "stats/SmallTails.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -115,7 +117,8 @@ std::optional<double> exactP(const TieBlocks& blocks, const GroupSizes& sizes, d
   return std::min(extreme / all, 1.0);
 }
 
-double normalP(const TieBlocks& blocks, const GroupSizes& sizes, double pairs)
+/// What the complementary error function is asked for.
+double normalDeviate(const TieBlocks& blocks, const GroupSizes& sizes, double pairs)
 {
   const auto m = static_cast<double>(sizes.selected);
   const auto n = static_cast<double>(sizes.others);
@@ -127,7 +130,7 @@ double normalP(const TieBlocks& blocks, const GroupSizes& sizes, double pairs)
   }
   const double variance = m * n / 12.0 * (m + n + 1.0 - ties / ((m + n) * (m + n - 1.0)));
   const double deviation = std::max(std::abs(pairs - m * n / 2.0) - 0.5, 0.0);
-  return std::erfc(deviation / std::sqrt(2.0 * variance));
+  return deviation / std::sqrt(2.0 * variance);
 }
 } // namespace
 
@@ -139,6 +142,7 @@ MannWhitneyTest mannWhitneyTest(const TieBlocks& blocks)
   if (const auto p = exactP(blocks, groupSizes(blocks), test.pairs))
   {
     test.p = *p;
+    test.logP = std::log(*p);
     test.exact = true;
   }
   return test;
@@ -150,8 +154,11 @@ MannWhitneyTest normalMannWhitneyTest(const TieBlocks& blocks)
   MannWhitneyTest test;
   test.exact = false;
   test.pairs = countPairs(blocks);
-  test.p =
-      sizes.bothPresent() && blocks.size() > 1 ? normalP(blocks, sizes, test.pairs) : notANumber;
+  const double deviate = sizes.bothPresent() && blocks.size() > 1
+                             ? normalDeviate(blocks, sizes, test.pairs)
+                             : notANumber;
+  test.p = std::erfc(deviate);
+  test.logP = std::isnan(deviate) ? deviate : logErfc(deviate);
   return test;
 }
 } // namespace Talmesh::stats

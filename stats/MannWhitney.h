@@ -18,6 +18,8 @@ struct MannWhitneyTest
   /// Number of pairs in which the selected run's value is the larger one, ties count half.
   double pairs = 0.0;
   double p = 0.0;
+  /// Natural logarithm of p, also where that is below what doubles hold.
+  double logP = 0.0;
   bool exact = true;
 };
 

@@ -116,8 +116,11 @@ struct ParameterComparison
   /// Median of the selected runs less that of the others.
   double medianDifference = none;
 
-  /// In (0, 1], but 0 where it is below what doubles hold.
+  /// In (0, 1]. Below what doubles hold with all their digits it is the smallest such
+  /// one, 2.2e-308: a bound.
   double p = none;
+  /// Natural logarithm of p, also of what p only bounds.
+  double logP = none;
   /// For the number of parameters with a p; at least p.
   double adjusted = none;
   TestMethod method = TestMethod::none;
@@ -126,6 +129,9 @@ struct ParameterComparison
   NotTested reason = NotTested::tested;
   /// Permutations behind p; 0 for other methods.
   std::size_t permutations = 0;
+
+  /// Whether the true p is smaller.
+  bool isOnlyBounded() const { return p <= std::numeric_limits<double>::min(); }
 };
 } // namespace Talmesh::stats
 

@@ -45,49 +45,74 @@ RankedCells::RankedCells(const ExchangeUnits& units, const std::vector<double>& 
   }
 }
 
-std::uint64_t RankedCells::selectedRuns(const std::vector<std::uint32_t>& selectedOfCell) const
+std::uint64_t RankedCells::sumOver(const std::vector<std::uint32_t>& runsOfCell) const
 {
   // Mostly no cell is left out, and memory is read in its order.
-  if (cells.size() == selectedOfCell.size())
-    return std::accumulate(selectedOfCell.begin(), selectedOfCell.end(), std::uint64_t{0});
-  std::uint64_t selected = 0;
+  if (cells.size() == runsOfCell.size())
+    return std::accumulate(runsOfCell.begin(), runsOfCell.end(), std::uint64_t{0});
+  std::uint64_t runs = 0;
   for (const std::uint32_t cell : cells)
-    selected += selectedOfCell[cell];
-  return selected;
+    runs += runsOfCell[cell];
+  return runs;
 }
 
-/// Calls visit(selected runs of the block, runs of the block, runs below the block).
+/// Calls visit(selected runs of the block, runs of the block, runs below the block) for each block
+/// that has runs.
 template <class Visit>
-void RankedCells::visitBlocks(const std::vector<std::uint32_t>& selectedOfCell, Visit visit) const
+void RankedCells::visitBlocks(const CellGroups& groups, Visit visit) const
 {
+  const bool all = groups.inEither.empty();
   std::uint32_t next = 0;
   std::uint64_t below = 0;
   for (std::size_t block = 0; block < ends.size(); ++block)
   {
+    const std::uint32_t first = next;
     std::uint64_t selected = 0;
     for (; next < ends[block]; ++next)
-      selected += selectedOfCell[cells[next]];
-    visit(selected, runsBelow[block] - below, below);
-    below = runsBelow[block];
+      selected += groups.selected[cells[next]];
+    std::uint64_t runs = all ? runsBelow[block] - below : 0;
+    for (std::uint32_t i = all ? next : first; i < next; ++i)
+      runs += groups.inEither[cells[i]];
+    if (runs > 0)
+      visit(selected, runs, below);
+    below += runs;
   }
 }
 
-TieBlocks RankedCells::blocks(const std::vector<std::uint32_t>& selectedOfCell) const
+TieBlocks RankedCells::blocks(const CellGroups& groups) const
 {
   TieBlocks blocks;
   blocks.reserve(ends.size());
-  visitBlocks(selectedOfCell,
+  visitBlocks(groups,
               [&blocks](std::uint64_t selected, std::uint64_t runs, std::uint64_t) {
                 blocks.push_back({selected, runs - selected});
               });
   return blocks;
 }
 
-double RankedCells::statistic(ComparedBy comparedBy,
-                              const std::vector<std::uint32_t>& selectedOfCell) const
+std::vector<double> RankedCells::valuesOfBlocks(const CellGroups& groups) const
 {
-  const auto all = static_cast<std::int64_t>(runsBelow.empty() ? 0 : runsBelow.back());
-  const auto m = static_cast<std::int64_t>(selectedRuns(selectedOfCell));
+  if (groups.inEither.empty())
+    return distinctValues;
+  std::vector<double> values;
+  std::uint32_t next = 0;
+  for (std::size_t block = 0; block < ends.size(); ++block)
+  {
+    std::uint64_t runs = 0;
+    for (; next < ends[block]; ++next)
+      runs += groups.inEither[cells[next]];
+    if (runs > 0)
+      values.push_back(distinctValues[block]);
+  }
+  return values;
+}
+
+double RankedCells::statistic(ComparedBy comparedBy, const CellGroups& groups) const
+{
+  const std::uint64_t ofAllCells = runsBelow.empty() ? 0 : runsBelow.back();
+  const auto all =
+      static_cast<std::int64_t>(groups.inEither.empty() ? ofAllCells : sumOver(groups.inEither));
+  const auto m = static_cast<std::int64_t>(sumOver(groups.selected));
   if (m == 0 || m == all)
     return 0.0;
   const double pairs = static_cast<double>(m) * static_cast<double>(all - m);
@@ -96,7 +121,7 @@ double RankedCells::statistic(ComparedBy comparedBy,
     // i (m + n) - (i + j) m is i n - j m.
     std::int64_t soFar = 0;
     std::int64_t largest = 0;
-    visitBlocks(selectedOfCell,
+    visitBlocks(groups,
                 [&](std::uint64_t selected, std::uint64_t runs, std::uint64_t below)
                 {
                   soFar += static_cast<std::int64_t>(selected);
@@ -108,14 +133,14 @@ double RankedCells::statistic(ComparedBy comparedBy,
   if (comparedBy == ComparedBy::rankSum)
   {
     std::int64_t twiceRanks = 0;
-    visitBlocks(selectedOfCell,
+    visitBlocks(groups,
                 [&twiceRanks](std::uint64_t selected, std::uint64_t runs, std::uint64_t below)
                 { twiceRanks += static_cast<std::int64_t>(selected * (2 * below + runs + 1)); });
     return static_cast<double>(std::abs(twiceRanks - m * (all + 1))) / pairs;
   }
   double chiSquared = 0.0;
   const double part = static_cast<double>(m) / static_cast<double>(all);
-  visitBlocks(selectedOfCell,
+  visitBlocks(groups,
               [&](std::uint64_t selected, std::uint64_t runs, std::uint64_t)
               {
                 const double expected = static_cast<double>(runs) * part;

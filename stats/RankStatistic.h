@@ -5,10 +5,27 @@
 #include "stats/TieBlocks.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace Talmesh::stats
 {
+/// How many runs of each cell are in which group.
+struct CellGroups
+{
+  CellGroups() = default;
+  /// @param compared empty where no run is left out
+  CellGroups(std::vector<std::uint32_t> selectedOfCell, std::vector<std::uint32_t> compared = {})
+      : selected(std::move(selectedOfCell))
+      , inEither(std::move(compared))
+  {
+  }
+
+  std::vector<std::uint32_t> selected;
+  /// Selected runs and others; empty where that is all runs of each cell.
+  std::vector<std::uint32_t> inEither;
+};
+
 /// The cells of a study in the ascending order of one parameter, sorted once and evaluated for
 /// selection after selection. Cells whose runs have no value are left out.
 class RankedCells
@@ -18,21 +35,21 @@ public:
   /// @param column a value per run, the same in all runs of a cell
   RankedCells(const ExchangeUnits& units, const std::vector<double>& column);
 
-  /// Runs with equal values, told apart by how many runs of each cell are selected. O(cells).
-  TieBlocks blocks(const std::vector<std::uint32_t>& selectedOfCell) const;
+  /// Runs with equal values, told apart by the groups. O(cells).
+  TieBlocks blocks(const CellGroups& groups) const;
+  /// The values of these blocks: ascending, each once.
+  std::vector<double> valuesOfBlocks(const CellGroups& groups) const;
 
   /// One pass over the cells, in whole numbers but for chi-squared; 0 without runs in one of the
   /// groups.
-  double statistic(ComparedBy comparedBy, const std::vector<std::uint32_t>& selectedOfCell) const;
+  double statistic(ComparedBy comparedBy, const CellGroups& groups) const;
 
   std::size_t values() const { return ends.size(); }
-  /// Ascending, each once.
-  const std::vector<double>& distinct() const { return distinctValues; }
 
 private:
-  std::uint64_t selectedRuns(const std::vector<std::uint32_t>& selectedOfCell) const;
+  std::uint64_t sumOver(const std::vector<std::uint32_t>& runsOfCell) const;
   template <class Visit>
-  void visitBlocks(const std::vector<std::uint32_t>& selectedOfCell, Visit visit) const;
+  void visitBlocks(const CellGroups& groups, Visit visit) const;
 
   std::vector<std::uint32_t> cells;
   std::vector<double> distinctValues;

@@ -4,10 +4,9 @@
 #include "stats/FalseDiscovery.h"
 #include "stats/FamilyWiseError.h"
 #include "stats/GroupContrast.h"
+#include "stats/GroupTests.h"
 #include "stats/LevelCounts.h"
-#include "stats/MannWhitney.h"
 #include "stats/ParallelParts.h"
-#include "stats/Quantile.h"
 #include "stats/RankStatistic.h"
 #include "stats/SelectionPermutation.h"
 
@@ -35,53 +34,29 @@ UnitSummary summaryOf(const ExchangeUnits& units)
   return summary;
 }
 
-/// @param group the runs of a block that count
-double medianOf(const TieBlocks& blocks, const std::vector<double>& values,
-                std::uint64_t TieBlock::*group)
+/// The selected runs of each cell, but those that are left out, and the runs that are not.
+CellGroups groupsOf(const ExchangeUnits& units, const std::vector<char>& selected,
+                    const std::vector<char>& leftOut)
 {
-  std::vector<double> sorted;
-  for (std::size_t block = 0; block < blocks.size(); ++block)
-    sorted.insert(sorted.end(), blocks[block].*group, values[block]);
-  return averagedQuantile(sorted, 0.5);
+  if (leftOut.empty())
+    return selectedOfCells(units, selected);
+  std::vector<char> counted(selected);
+  std::vector<char> inEither(selected.size());
+  for (std::size_t run = 0; run < selected.size(); ++run)
+  {
+    inEither[run] = leftOut[run] == 0 ? 1 : 0;
+    counted[run] = leftOut[run] == 0 ? selected[run] : 0;
+  }
+  return {selectedOfCells(units, counted), selectedOfCells(units, inEither)};
 }
 
-/// Everything but the test.
-ParameterComparison described(const TieBlocks& blocks, const std::vector<double>& values)
+void checkLengths(const ParameterColumns& columns, const std::vector<char>& selected,
+                  const std::vector<char>& leftOut)
 {
-  ParameterComparison row;
-  const KsDistance distance = ksDistance(blocks);
-  row.selected = distance.sizes.selected;
-  row.others = distance.sizes.others;
-  row.levels = blocks.size();
-  row.distance = distance.distance();
-  row.direction = directionOf(distance);
-  row.superiority = probabilityOfSuperiority(blocks);
-  row.medianDifference =
-      medianOf(blocks, values, &TieBlock::selected) - medianOf(blocks, values, &TieBlock::others);
-  return row;
-}
-
-/// The test of independent runs.
-void testRuns(ComparedBy comparedBy, const TieBlocks& blocks, ParameterComparison& row)
-{
-  if (comparedBy == ComparedBy::distribution)
-  {
-    const KsTest test = tiedKsTest(blocks);
-    row.p = test.p;
-    row.method = test.exact ? TestMethod::exactDistribution : TestMethod::asymptoticDistribution;
-  }
-  else if (comparedBy == ComparedBy::rankSum)
-  {
-    const MannWhitneyTest test = mannWhitneyTest(blocks);
-    row.p = test.p;
-    row.method = test.exact ? TestMethod::exactRankSum : TestMethod::normalRankSum;
-  }
-  else
-  {
-    const CountsTest test = levelCountsTest(blocks);
-    row.p = test.p;
-    row.method = test.exact ? TestMethod::exactCounts : TestMethod::chiSquaredCounts;
-  }
+  if (!columns.empty() && runsIn(columns) != selected.size())
+    throw std::invalid_argument("a selection of another number of runs");
+  if (!leftOut.empty() && leftOut.size() != selected.size())
+    throw std::invalid_argument("runs left out of another number of runs");
 }
 
 class Comparer
@@ -92,7 +67,7 @@ public:
       : columns(parameterColumns)
       , plan(comparisonPlan)
       , units(exchangeUnits(parameterColumns))
-      , selectedOfCell(selectedOfCells(units, selected))
+      , groups(groupsOf(units, selected, comparisonPlan.leftOut))
   {
     result.units = summaryOf(units);
     result.parameters.resize(columns.size());
@@ -126,8 +101,8 @@ private:
   void compareParameter(std::size_t parameter, RankedCells& ranked)
   {
     ranked = RankedCells(units, columns[parameter]);
-    const TieBlocks blocks = ranked.blocks(selectedOfCell);
-    ParameterComparison row = described(blocks, ranked.distinct());
+    const TieBlocks blocks = ranked.blocks(groups);
+    ParameterComparison row = describedGroups(blocks, ranked.valuesOfBlocks(groups));
     row.parameter = parameter;
     row.comparedBy = plan.comparedBy;
     row.reason = obstacle(row);
@@ -135,7 +110,7 @@ private:
     {
       row.interval = distanceInterval(ksDistance(blocks), plan.confidence);
       if (row.reason == NotTested::tested)
-        testRuns(plan.comparedBy, blocks, row);
+        testIndependentRuns(plan.comparedBy, blocks, row);
     }
     result.parameters[parameter] = row;
     const double permuting = permutes() || plan.adjustment == Adjustment::maxT ? 0.1 : 1.0;
@@ -172,12 +147,11 @@ private:
         continue;
       tested.push_back(parameter);
       parameters.push_back(std::move(ranked[parameter]));
-      observed.push_back(parameters.back().statistic(plan.comparedBy, selectedOfCell));
+      observed.push_back(parameters.back().statistic(plan.comparedBy, groups));
     }
     if (tested.empty() || cancelled)
       return;
-    const PermutationCounts counts =
-        permuteSelection(units, parameters, selectedOfCell, permutationPlan());
+    const PermutationCounts counts = permuteSelection(units, parameters, groups, permutationPlan());
     cancelled = cancelled || counts.permutations == 0;
     if (cancelled)
       return;
@@ -205,6 +179,7 @@ private:
     {
       ParameterComparison& row = result.parameters[tested[i]];
       row.p = p[i];
+      row.logP = std::log(p[i]);
       row.permutations = result.permutations;
       row.method = units.kind == IndependentUnit::baseSample ? TestMethod::permutedBaseSamples
                                                              : TestMethod::permutedSets;
@@ -254,7 +229,7 @@ private:
   const ParameterColumns& columns;
   const ComparisonPlan& plan;
   ExchangeUnits units;
-  std::vector<std::uint32_t> selectedOfCell;
+  CellGroups groups;
   RunComparison result;
   std::atomic<std::size_t> compared{0};
   std::atomic<bool> cancelled{false};
@@ -265,8 +240,7 @@ private:
 RunComparison compareRuns(const ParameterColumns& columns, const std::vector<char>& selected,
                           const ComparisonPlan& plan)
 {
-  if (!columns.empty() && runsIn(columns) != selected.size())
-    throw std::invalid_argument("a selection of another number of runs");
+  checkLengths(columns, selected, plan.leftOut);
   if (columns.empty())
     return {};
   return Comparer(columns, selected, plan).run();
@@ -277,13 +251,15 @@ bool takesTimeToCompare(const ParameterColumns& columns, const std::vector<char>
 {
   /// Steps of the exact test's recursion, some 0.2 s on one core.
   constexpr double manySteps = 5e7;
-  if (!columns.empty() && runsIn(columns) != selected.size())
-    throw std::invalid_argument("a selection of another number of runs");
+  checkLengths(columns, selected, plan.leftOut);
   if (plan.adjustment == Adjustment::maxT || exchangeUnits(columns).kind != IndependentUnit::run)
     return true;
-  const auto first = static_cast<double>(
-      std::count_if(selected.begin(), selected.end(), [](char run) { return run != 0; }));
-  const double steps = first * (static_cast<double>(selected.size()) - first);
+  double first = 0.0;
+  double second = 0.0;
+  for (std::size_t run = 0; run < selected.size(); ++run)
+    if (plan.leftOut.empty() || plan.leftOut[run] == 0)
+      (selected[run] != 0 ? first : second) += 1.0;
+  const double steps = first * second;
   return plan.comparedBy == ComparedBy::distribution &&
          steps <= static_cast<double>(largestExactKs) &&
          steps * static_cast<double>(columns.size()) > manySteps;

@@ -35,6 +35,9 @@ struct ComparisonPlan
   std::vector<std::size_t> chosenBy;
   /// Parameters that are described but not tested, by position.
   std::vector<std::size_t> untested;
+  /// Runs that are in neither group, an entry per run, 0 for the others; empty for none. Units of
+  /// the study's design keep them: what is permuted is which unit has how many runs of each group.
+  std::vector<char> leftOut;
   /// As in `PermutationPlan`. Heard before the first parameter, too.
   std::function<bool(double)> progress;
 };
@@ -60,7 +63,8 @@ struct RunComparison
   bool cancelled = false;
 };
 
-/// Compares the selected runs with the others, parameter by parameter.
+/// Compares the selected runs with the others, or with those of the others that the plan does not
+/// leave out, parameter by parameter.
 ///
 /// Independent are single runs, sets of runs with equal parameters, or the base samples of a
 /// Saltelli design (stats/ExchangeUnits.h). Single runs are tested exactly where that is feasible,
@@ -70,7 +74,7 @@ struct RunComparison
 /// permutations on all cores.
 /// @param columns a vector per parameter, a value per run
 /// @param selected an entry per run, 0 for the others
-/// @throws std::invalid_argument for columns and selections of different lengths;
+/// @throws std::invalid_argument for columns, selections and runs left out of different lengths;
 ///   std::length_error as runsIn() does
 TALMESHPLOT_EXPORT RunComparison compareRuns(const ParameterColumns& columns,
                                              const std::vector<char>& selected,

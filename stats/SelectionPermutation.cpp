@@ -32,14 +32,14 @@ class Permuter
 {
 public:
   Permuter(const ExchangeUnits& exchanged, const std::vector<RankedCells>& ranked,
-           const Numbers& selectedOfCell, const PermutationPlan& permutationPlan)
+           const CellGroups& cellGroups, const PermutationPlan& permutationPlan)
       : units(exchanged)
       , parameters(ranked)
-      , selected(selectedOfCell)
+      , groups(cellGroups)
       , plan(permutationPlan)
   {
     for (const RankedCells& parameter : parameters)
-      observed.push_back(parameter.statistic(plan.comparedBy, selected));
+      observed.push_back(parameter.statistic(plan.comparedBy, groups));
     order = descendingOrder(observed);
     counts.reached.assign(parameters.size(), 0);
     counts.reachedByLargest.assign(parameters.size(), 0);
@@ -66,7 +66,8 @@ private:
   std::size_t streamsPerPart() const
   {
     constexpr std::size_t worthWhile = 2'000'000;
-    return worthWhile / (permutationsPerStream * (parameters.size() + 1) * (selected.size() + 1)) +
+    return worthWhile /
+               (permutationsPerStream * (parameters.size() + 1) * (groups.selected.size() + 1)) +
            1;
   }
 
@@ -75,7 +76,7 @@ private:
     const std::size_t permutations =
         std::min(permutationsPerStream, plan.permutations - stream * permutationsPerStream);
     PortableRandom random(plan.seed, stream);
-    Numbers permuted(selected);
+    CellGroups permuted(groups);
     PermutationCounts part;
     part.reached.assign(parameters.size(), 0);
     part.reachedByLargest.assign(parameters.size(), 0);
@@ -87,8 +88,8 @@ private:
     collect(part, permutations);
   }
 
-  /// Gives every unit the selection of a random one of its class.
-  void exchange(PortableRandom& random, Numbers& permuted) const
+  /// Gives every unit the groups of a random one of its class.
+  void exchange(PortableRandom& random, CellGroups& permuted) const
   {
     for (const Numbers& members : units.classes)
     {
@@ -96,14 +97,20 @@ private:
       random.shuffle(sources);
       for (std::size_t i = 0; i < members.size(); ++i)
       {
-        const auto from = selected.begin() + units.firstCell[sources[i]];
-        const auto end = selected.begin() + units.firstCell[sources[i] + 1];
-        std::copy(from, end, permuted.begin() + units.firstCell[members[i]]);
+        copyUnit(groups.selected, sources[i], permuted.selected, members[i]);
+        if (!groups.inEither.empty())
+          copyUnit(groups.inEither, sources[i], permuted.inEither, members[i]);
       }
     }
   }
 
-  void compare(const Numbers& permuted, PermutationCounts& part) const
+  void copyUnit(const Numbers& from, std::uint32_t source, Numbers& to, std::uint32_t target) const
+  {
+    std::copy(from.begin() + units.firstCell[source], from.begin() + units.firstCell[source + 1],
+              to.begin() + units.firstCell[target]);
+  }
+
+  void compare(const CellGroups& permuted, PermutationCounts& part) const
   {
     double largest = 0.0;
     for (auto parameter = order.rbegin(); parameter != order.rend(); ++parameter)
@@ -132,7 +139,7 @@ private:
 
   const ExchangeUnits& units;
   const std::vector<RankedCells>& parameters;
-  const Numbers& selected;
+  const CellGroups& groups;
   const PermutationPlan& plan;
   std::vector<double> observed;
   std::vector<std::size_t> order;
@@ -158,9 +165,9 @@ Numbers selectedOfCells(const ExchangeUnits& units, const std::vector<char>& sel
 
 PermutationCounts permuteSelection(const ExchangeUnits& units,
                                    const std::vector<RankedCells>& parameters,
-                                   const Numbers& selectedOfCell, const PermutationPlan& plan)
+                                   const CellGroups& groups, const PermutationPlan& plan)
 {
-  return Permuter(units, parameters, selectedOfCell, plan).run();
+  return Permuter(units, parameters, groups, plan).run();
 }
 
 std::vector<double> permutationP(const PermutationCounts& counts)

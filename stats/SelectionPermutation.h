@@ -33,20 +33,20 @@ struct PermutationCounts
   std::vector<std::uint64_t> reachedByLargest;
 };
 
-/// Selected runs of each cell. @param selected one entry per run, 0 for the others
+/// Runs of each cell that are marked. @param selected one entry per run, 0 for the others
 std::vector<std::uint32_t> selectedOfCells(const ExchangeUnits& units,
                                            const std::vector<char>& selected);
 
-/// Permutes which unit has which selected runs, within the classes of units, each arrangement
-/// equally likely; all parameters see the same permutations. Statistics count as reached from 1e-10
-/// below. The result depends on the plan's statistic, permutations and seed only, on no machine and
-/// no number of threads; that of one parameter does not depend on which others there are.
+/// Permutes which unit has which selected and which other runs, within the classes of units, each
+/// arrangement equally likely; all parameters see the same permutations. Statistics count as
+/// reached from 1e-10 below. The result depends on the plan's statistic, permutations and seed
+/// only, on no machine and no number of threads; that of one parameter does not depend on which
+/// others there are.
 ///
 /// O(permutations parameters cells) time on all cores.
 PermutationCounts permuteSelection(const ExchangeUnits& units,
                                    const std::vector<RankedCells>& parameters,
-                                   const std::vector<std::uint32_t>& selectedOfCell,
-                                   const PermutationPlan& plan);
+                                   const CellGroups& groups, const PermutationPlan& plan);
 
 /// (reached + 1) / (permutations + 1): the observed selection counts as one of them (B. Phipson, G.
 /// K. Smyth, Permutation p-values should never be zero, Statistical Applications in Genetics and

@@ -42,8 +42,8 @@ constexpr std::uint64_t largestExactKs = 25'000'000;
 /// 1995, 185-202; T. Viehmann, Numerically more stable computation of the p-values for the
 /// two-sample Kolmogorov-Smirnov test, arXiv:2102.08037, 2021). All terms are positive: the
 /// relative error is below 4 (m + n) 2^-53 for p above 1e-300; smaller ones lose digits, below
-/// 1e-323 p is 0. O(m n) time, O(min(m, n) + blocks) memory, whatever the size: the caller looks at
-/// `largestExactKs`.
+/// 1e-323 p is 0. O(m n) time, O(min(m, n) + blocks) memory, whatever the
+/// size: the caller looks at `largestExactKs`.
 /// @return in [0, 1]; NaN without runs in one of the groups
 /// @throws std::length_error as groupSizes() does
 double exactKsTail(const TieBlocks& blocks, std::uint64_t steps);
@@ -57,11 +57,15 @@ struct KsTest
 {
   KsDistance distance;
   double p = 0.0;
+  /// Natural logarithm of p, also where that is below what doubles hold; where long doubles reach
+  /// no further, as with some compilers, not below that of the smallest double.
+  double logP = 0.0;
   /// False above `largestExactKs`, where p is the asymptotic one.
   bool exact = true;
 };
 
-/// NaN as p without runs in one of the groups. @throws std::length_error as groupSizes() does
+/// NaN as p and its logarithm without runs in one of the groups. @throws std::length_error as
+/// groupSizes() does
 KsTest tiedKsTest(const TieBlocks& blocks);
 } // namespace Talmesh::stats
 

@@ -152,6 +152,8 @@ Comparison compare(const ComparedStudy& study, const ComparisonChoice& choice,
                            [&choice](const auto& row) { return differs(row, choice); });
   Comparison comparison = comparisonOf(study, choice, halves.tested);
   comparison.halved = true;
+  for (const char isTested : halves.isTested)
+    comparison.uncounted.push_back(isTested == 0 ? 1 : 0);
   comparison.seedOfHalves = plan.seed;
   return comparison;
 }

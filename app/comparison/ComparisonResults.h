@@ -77,6 +77,8 @@ struct Comparison
   /// Of the permutations, if any were made.
   std::uint64_t seed = 0;
   std::size_t permutations = 0;
+  /// An entry per run, 0 for those that the numbers speak of; empty for all.
+  std::vector<char> uncounted;
   /// Only one half of the independent units was tested, drawn at random.
   bool halved = false;
   /// Seed of that.

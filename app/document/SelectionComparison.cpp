@@ -1,15 +1,12 @@
 #include "app/document/SelectionComparison.h"
 
 #include "app/comparison/ComparisonText.h"
-#include "app/document/TableRuns.h"
-#include "app/import/ColumnRoles.h"
+#include "app/document/ComparedSides.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
-#include "plot/TableColumns.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <string_view>
 
 namespace Talmesh::app
@@ -17,14 +14,6 @@ namespace Talmesh::app
 
 namespace
 {
-
-/// Missing values are equal.
-bool isConstant(const RunCourse& course)
-{
-  return std::all_of(course.y, course.y + course.size,
-                     [&course](double value)
-                     { return std::memcmp(&value, course.y, sizeof(double)) == 0; });
-}
 
 std::size_t fingerprint(const std::vector<char>& selected)
 {
@@ -61,37 +50,6 @@ bool isSame(const ParameterTest& one, const ParameterTest& other)
 
 } // namespace
 
-ComparedStudy comparedStudy(PlotContainer& container, const std::string& words)
-{
-  ComparedStudy study;
-  const TableRuns runs(container);
-  const std::vector<bool> selected = runs.selected();
-  study.selected.assign(selected.begin(), selected.end());
-  std::vector<int> asked;
-  FilterFault fault;
-  if (!words.empty())
-    asked = RunFilter::read(words, runs, fault).columns();
-  for (const int column : container.getMetaData()->parameterColumns)
-  {
-    const std::size_t k = study.names.size();
-    study.names.push_back(shownName(plot::columnName(container.getTable(), column)));
-    study.columns.emplace_back();
-    const bool hasNumbers = plot::doubleColumn(container.getTable(), column) != nullptr;
-    bool changes = !hasNumbers;
-    for (std::size_t run = 0; run < selected.size() && hasNumbers; ++run)
-    {
-      const RunCourse course = runs.course(run, column, -1);
-      changes = changes || !isConstant(course);
-      study.columns.back().push_back(course.y[0]);
-    }
-    if (changes)
-      study.changing.push_back(k);
-    if (std::find(asked.begin(), asked.end(), column) != asked.end())
-      study.chosenBy.push_back(k);
-  }
-  return study;
-}
-
 SelectionComparison::~SelectionComparison()
 {
   if (followed)
@@ -109,6 +67,7 @@ void SelectionComparison::follow(PlotContainer* container)
   compared.reset();
   comparison = {};
   handed.clear();
+  drawn.clear();
   seen.clear();
   if (container)
     container->addPreparation(this, [this] { update(); });
@@ -193,7 +152,20 @@ bool SelectionComparison::handOver()
   const std::vector<ParameterTest> before = std::move(handed);
   handed = testsOf(comparison, followed->getMetaData()->parameterColumns.size());
   followed->setParameterTests(handed);
-  return !std::equal(before.begin(), before.end(), handed.begin(), handed.end(), isSame);
+  const bool drawsOthers = handOverGroups();
+  return drawsOthers ||
+         !std::equal(before.begin(), before.end(), handed.begin(), handed.end(), isSame);
+}
+
+/// @return as handOver()
+bool SelectionComparison::handOverGroups()
+{
+  std::vector<DistributionGroup> groups = drawnGroups(*followed, *compared, comparison);
+  if (areSame(groups, drawn))
+    return false;
+  drawn = std::move(groups);
+  followed->setDistributionGroups(drawn);
+  return true;
 }
 
 } // namespace Talmesh::app

@@ -2,6 +2,7 @@
 #define SelectionComparison_h
 
 #include "app/comparison/ComparisonResults.h"
+#include "plot/DistributionGroup.h"
 #include "plot/KsStatistics.h"
 
 #include <QObject>
@@ -69,6 +70,7 @@ private:
   void begin();
   void take(const Comparison& found);
   bool handOver();
+  bool handOverGroups();
 
   QPointer<PlotContainer> followed;
   Background background;
@@ -77,14 +79,11 @@ private:
   ComparisonChoice choice;
   Comparison comparison;
   std::vector<ParameterTest> handed;
+  std::vector<DistributionGroup> drawn;
   /// Fingerprints of selections.
   std::set<std::size_t> seen;
   bool underWay = false;
 };
-
-/// What there is to compare in a container.
-/// @param words the condition by which its runs are selected; empty where nobody knows
-ComparedStudy comparedStudy(PlotContainer& container, const std::string& words);
 
 } // namespace Talmesh::app
 

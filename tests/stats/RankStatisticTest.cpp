@@ -57,7 +57,7 @@ TEST(RankStatistic, CountsTheRunsOfEachValue)
   {
     EXPECT_EQ(blocks[block].selected, expected[block].selected);
     EXPECT_EQ(blocks[block].others, expected[block].others);
-    EXPECT_EQ(cells.distinct()[block], double(block) - 5.0);
+    EXPECT_EQ(cells.valuesOfBlocks({})[block], double(block) - 5.0);
   }
 }
 
@@ -85,11 +85,11 @@ TEST(RankStatistic, LeavesOutRunsWithoutValue)
   const double missing = std::nan("");
   const ExchangeUnits units = exchangeUnits({{1, 2, 3, 4, 5}});
   const RankedCells cells(units, {3, missing, 1, 2, missing});
-  EXPECT_EQ(cells.distinct(), (std::vector<double>{1, 2, 3}));
+  EXPECT_EQ(cells.valuesOfBlocks({}), (std::vector<double>{1, 2, 3}));
   // Selected 1 and 3, others 2; the rest of the selection has no value.
   const Numbers selected{1, 1, 1, 0, 0};
   EXPECT_EQ(groupSizes(cells.blocks(selected)).runs(), 3U);
   EXPECT_DOUBLE_EQ(cells.statistic(ComparedBy::distribution, selected), 0.5);
-  EXPECT_EQ(cells.statistic(ComparedBy::distribution, {0, 1, 0, 0, 1}), 0.0);
-  EXPECT_EQ(cells.statistic(ComparedBy::distribution, {1, 0, 1, 1, 0}), 0.0);
+  EXPECT_EQ(cells.statistic(ComparedBy::distribution, CellGroups({0, 1, 0, 0, 1})), 0.0);
+  EXPECT_EQ(cells.statistic(ComparedBy::distribution, CellGroups({1, 0, 1, 1, 0})), 0.0);
 }
