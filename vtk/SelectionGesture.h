@@ -1,6 +1,9 @@
 #ifndef SelectionGesture_h
 #define SelectionGesture_h
 
+#include <vtkType.h>
+
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,7 +32,9 @@ struct SelectionGesture
     /// Three or more corners of a polygon.
     Lasso,
     /// Two ends.
-    Line
+    Line,
+    /// Parts of axes that stand side by side.
+    Brushes
   };
   /// What becomes of what is selected already.
   enum class Mode
@@ -57,11 +62,20 @@ struct SelectionGesture
     /// count.
     bool lines = false;
   };
+  /// What is brushed of an axis that shows one column.
+  struct Brush
+  {
+    std::string column;
+    double low;
+    double high;
+    /// How much of the axis a pixel covers.
+    double units;
+  };
 
   Kind kind = Kind::Rectangle;
   Mode mode = Mode::Replace;
-  /// In units of the data, whatever the chart's axes are scaled and shifted by, and within the
-  /// axes.
+  /// None of brushes. In units of the data, whatever the chart's axes are scaled and shifted by,
+  /// and within the axes.
   std::vector<Point> points;
   /// What of each axis, or of its decades where it is logarithmic, a pixel of the scene covers.
   double unitsX = 0;
@@ -70,8 +84,13 @@ struct SelectionGesture
   bool logY = false;
   /// What all series are drawn from. Not owned.
   vtkTable* table = nullptr;
-  /// From the lowest to the topmost one.
+  /// From the lowest to the topmost one; of brushes each column over itself.
   std::vector<Series> series;
+  /// What is meant lies within all of them.
+  std::vector<Brush> brushes;
+  /// The rows of the table that are meant, where the chart tells because they are not drawn along
+  /// two axes: then there are neither points nor series.
+  std::optional<std::vector<vtkIdType>> rows;
 };
 
 } // namespace Talmesh
