@@ -26,6 +26,7 @@ set(TALMESH_PUBLIC_HEADERS
   plot/PlotContainer.h
   plot/PlotContainerTypes.h
   plot/PlotOptions.h
+  plot/PlotSeams.h
   plot/RunClustering.h
   plot/SummaryTable.h
   plot/vtkSelectionUpdateCallback.h

@@ -32,7 +32,7 @@ struct DrawingStep
 };
 
 /// What clients do in every redraw of a container, and whether they are doing it now. What they
-/// may rely on stands at PlotContainer::addCompletion.
+/// may rely on stands at PlotSeams::addCompletion.
 struct DrawingSteps
 {
   /// In order of registration. Shared, as a step may drop any, itself too, while they run.

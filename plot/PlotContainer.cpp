@@ -3,7 +3,6 @@
 #include "external/PlotMetaData.h"
 #include "plot/ChartLifetime.h"
 #include "plot/ColumnReduction.h"
-#include "plot/DrawingSteps.h"
 #include "plot/DrawnRows.h"
 #include "plot/MatrixSelection.h"
 #include "plot/PlotState.h"
@@ -61,21 +60,11 @@ void copyPlainFields(PlotState& to, const PlotState& from)
   to.options = from.options;
 }
 
-/// A step that does not refuse the drawing.
-std::function<bool()> goingOn(std::function<void()> step)
-{
-  return [step = std::move(step)]
-  {
-    step();
-    return true;
-  };
-}
-
 } // namespace
 
 PlotContainer::PlotContainer(QObject* parent)
     : QObject(parent)
-    , d(std::make_unique<PlotState>())
+    , PlotSeams(std::make_unique<PlotState>())
 {
   d->metaData = new PlotMetaData(this);
   d->coordinateWindows.max_load_factor(1.0F);
@@ -88,7 +77,7 @@ PlotContainer::PlotContainer(QObject* parent)
 
 PlotContainer::PlotContainer(const PlotContainer& other)
     : QObject(other.parent())
-    , d(std::make_unique<PlotState>())
+    , PlotSeams(std::make_unique<PlotState>())
 {
   copyPlainFields(*d, *other.d);
   d->selectionUpdatePending = true;
@@ -177,33 +166,6 @@ void PlotContainer::drawOrReport()
     Talmesh::plot::unblockSettings(*d);
     std::cerr << "void PlotContainer::redraw(): " << problem.what() << std::endl;
   }
-}
-
-void PlotContainer::addCompletion(const QObject* owner, std::function<void()> complete)
-{
-  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::after, owner,
-                         goingOn(std::move(complete)));
-}
-
-void PlotContainer::addPreparation(const QObject* owner, std::function<void()> prepare)
-{
-  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::before, owner,
-                         goingOn(std::move(prepare)));
-}
-
-void PlotContainer::addCondition(const QObject* owner, std::function<bool()> allows)
-{
-  Talmesh::plot::addStep(*d, Talmesh::plot::DrawingMoment::question, owner, std::move(allows));
-}
-
-void PlotContainer::removeDrawingSteps(const QObject* owner)
-{
-  Talmesh::plot::removeSteps(*d, owner);
-}
-
-void PlotContainer::withoutDrawing(const std::function<void()>& change)
-{
-  Talmesh::plot::withoutDrawing(*d, change);
 }
 
 void PlotContainer::dirty()

@@ -4,12 +4,10 @@
 #include "../export/TalmeshPlotExport.h"
 #include "../external/PlotStyles.h"
 #include "../external/TypedConcentrationName.h"
-#include "../plot/DistributionGroup.h"
 #include "../plot/KsStatistics.h"
 #include "../plot/PlotContainerTypes.h"
 #include "../plot/PlotOptions.h"
-#include "../plot/SummaryTable.h"
-#include "../vtk/SelectionGesture.h"
+#include "../plot/PlotSeams.h"
 
 #include <vtkSmartPointer.h>
 
@@ -20,8 +18,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,7 +29,9 @@
 /// an error code unless an operation says so; missing or mistyped columns give empty plots. What
 /// keeps a chart from being drawn, operations that draw among other things report in one line on
 /// standard error.
-class TALMESHPLOT_EXPORT PlotContainer : public QObject
+///
+/// What a client wants otherwise than the library does stands in PlotSeams.
+class TALMESHPLOT_EXPORT PlotContainer : public QObject, public PlotSeams
 {
   Q_OBJECT
 
@@ -83,17 +81,6 @@ public:
 
   const PlotOptions& getOptions() const;
   void setOptions(const PlotOptions& options);
-
-  /// Has the XY chart (as points), the scatter-plot matrix, the 3-D chart and parallel coordinates
-  /// draw another table from the next redraw on, of which each row stands for several rows of the
-  /// plot table. What is selected in it becomes the container's selection, with all the rows that
-  /// it stands for, and is selected there when any of them is. The settings keep speaking of the
-  /// plot table, which is what other styles draw, what is exported, and what a copied container
-  /// draws. Lasts until the plot table is replaced. A summary without a table ends it.
-  void setSummary(const SummaryTable& summary);
-  const SummaryTable& getSummary() const;
-  /// Whether the present style draws it.
-  bool showsSummary() const;
 
   /// Draws the decoration lines, here and below, with the next redraw. Its last column is their
   /// common x. Null draws none. `show` switches them on or off.
@@ -196,20 +183,6 @@ public:
   /// Ranks the parameters of the given runs as a further data set and draws. An exception from the
   /// ranking leaves everything as it was.
   void setExternalSelection(ParameterSelection* runs);
-  /// What takes a gesture with the select button in any of the charts, and whether it has: rows are
-  /// selected where it has not. It may change selection and charts, but not end the container.
-  /// Null, as at first, takes none: charts then select the points that a rectangle covers, or one
-  /// point. A chart in which plots of several tables or along several pairs of axes can be selected
-  /// is not for it. A copy of the container has none.
-  void setGestureHandler(std::function<bool(const Talmesh::SelectionGesture&)> take);
-  /// What says what is at the place of the mouse, which it gets as a click there; empty for
-  /// nothing, none for what the charts say by themselves. Null, as at first, for the latter
-  /// everywhere.
-  void setHoverText(
-      std::function<std::optional<std::string>(const Talmesh::SelectionGesture&)> describe);
-  /// What the select button draws where a gesture handler is set; a rectangle at first.
-  void setSelectionTool(Talmesh::SelectionTool tool);
-  Talmesh::SelectionTool getSelectionTool() const;
 
   // Statistics
   /// Builds the rank and density tables of the settings' parameter columns of `source` in slots
@@ -218,23 +191,6 @@ public:
   /// Compares the parameters of two rank tables of the derived tables; fills the test results.
   /// Where either table is missing, the results are empty. Draws nothing.
   void ksTestSelection(unsigned long first, unsigned long second);
-  /// Has the selection page choose, order and title its charts by tests of the client's own, one
-  /// per parameter of the settings' list, from the next drawing on. Charts of parameters that meet
-  /// the settings' thresholds come first; these and the rest stand in the order of rising p, equal
-  /// p in that of falling statistics. What lacks an entry is not tested and has no title. The
-  /// results of the container's own tests stay what they are; without a list, as at first, the page
-  /// follows those. A copy of the container has no list.
-  ///
-  /// A client that sets them in a preparation of every drawing, see addPreparation(), has its own
-  /// numbers from the first drawing of a selection on.
-  void setParameterTests(std::optional<std::vector<ParameterTest>> tests);
-  /// Has the selection page draw, from the next drawing on, how the parameters are distributed over
-  /// these groups of runs, in their order and colours, in place of the plot table's runs and the
-  /// further data sets. Every value counts: the curves of two groups are as far apart as the
-  /// two-sample Kolmogorov-Smirnov statistic of their values, also where many of them are equal.
-  /// What lacks an entry has no curve. Without a list, as at first, the page draws the data sets,
-  /// the further ones with each value once. A copy of the container has no list.
-  void setDistributionGroups(std::optional<std::vector<DistributionGroup>> groups);
   /// Rebuilds the table of quartiles per time point from the first y column. A stride below 1
   /// leaves the old one in place.
   void generateQuartiles();
@@ -292,36 +248,6 @@ public:
   /// redraw() is called; without a scene that writes its line and leaves the settings silenced.
   void readDump(QByteArray* data);
 
-  // Steps of every drawing
-  /// Has every redraw(), whoever asks for it, end with `complete`: when the chart is built, dressed
-  /// with point size, marker, decorations and logarithmic x axis, is getItem() and stands in its
-  /// scene, but before the settings speak again. There the client adds what the library does not
-  /// know of, such as further plots. Redraws that draw nothing, for want of a scene, have no steps;
-  /// of a drawing within a drawing the steps run once for the page that is shown.
-  ///
-  /// Steps run in order of registration, with silent settings, and must not end the container. They
-  /// live until the container or `owner`, which is not null, dies, or until removeDrawingSteps(),
-  /// which a step may call; one registered by a step runs from the next drawing on. A copy of the
-  /// container has none. An exception from a step ends the drawing like one from the style's
-  /// builder: the steps after it do not run, and the settings speak again. A redraw that
-  /// completions ask for, directly or by a change of settings or selection, follows once all are
-  /// done; what those of that one ask for is ignored.
-  void addCompletion(const QObject* owner, std::function<void()> complete);
-  /// As above, but `prepare` runs before the style's builder. A redraw that it asks for is this
-  /// one.
-  void addPreparation(const QObject* owner, std::function<void()> prepare);
-  /// As above, but `allows` is asked before anything is done for a drawing, also before the runs
-  /// are divided and tested because others are selected. With false the page stays as it is; what
-  /// was selected meanwhile is made up for by the next drawing that is allowed.
-  void addCondition(const QObject* owner, std::function<bool()> allows);
-  /// Drops all completions, preparations and conditions of `owner`.
-  void removeDrawingSteps(const QObject* owner);
-
-  /// Runs a change of the container during which no redraw() draws, neither those that the change
-  /// asks for nor the container's own: of a client that draws when it is through with all of it.
-  /// The change must not end the container.
-  void withoutDrawing(const std::function<void()>& change);
-
 public slots:
   /// Uses `data` as the table, shared and not copied. Does not draw. Null is ignored.
   void setPlotData(vtkSmartPointer<vtkTable> data);
@@ -355,7 +281,6 @@ private:
 
   void connectParts();
   void drawOrReport();
-  std::unique_ptr<Talmesh::plot::PlotState> d;
 };
 
 #endif

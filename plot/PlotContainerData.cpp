@@ -25,21 +25,6 @@ vtkTable* PlotContainer::getTable() const
   return d->table;
 }
 
-void PlotContainer::setSummary(const SummaryTable& summary)
-{
-  d->summary = summary;
-}
-
-const SummaryTable& PlotContainer::getSummary() const
-{
-  return d->summary;
-}
-
-bool PlotContainer::showsSummary() const
-{
-  return Talmesh::plot::drawsSummary(*d);
-}
-
 const std::vector<Talmesh::TypedConcentrationName>& PlotContainer::getColumnItems() const
 {
   return d->columnItems;

@@ -1,6 +1,5 @@
 #include "external/ParameterSelection.h"
 #include "plot/Clustering.h"
-#include "plot/GroupCurves.h"
 #include "plot/KsComparison.h"
 #include "plot/PlotContainer.h"
 #include "plot/PlotState.h"
@@ -62,27 +61,6 @@ void PlotContainer::setExternalSelection(ParameterSelection* runs)
   drawOrReport();
 }
 
-void PlotContainer::setGestureHandler(std::function<bool(const Talmesh::SelectionGesture&)> take)
-{
-  d->gestures->select = std::move(take);
-}
-
-void PlotContainer::setHoverText(
-    std::function<std::optional<std::string>(const Talmesh::SelectionGesture&)> describe)
-{
-  d->gestures->describe = std::move(describe);
-}
-
-void PlotContainer::setSelectionTool(Talmesh::SelectionTool tool)
-{
-  d->gestures->tool = tool;
-}
-
-Talmesh::SelectionTool PlotContainer::getSelectionTool() const
-{
-  return d->gestures->tool;
-}
-
 const std::vector<vtkSmartPointer<vtkTable>>& PlotContainer::getDerivedTables() const
 {
   return d->derivedTables;
@@ -117,16 +95,6 @@ void PlotContainer::generateRankedParameters(vtkSmartPointer<vtkTable> source,
 void PlotContainer::ksTestSelection(unsigned long first, unsigned long second)
 {
   Talmesh::plot::testKolmogorovSmirnov(*d, first, second);
-}
-
-void PlotContainer::setParameterTests(std::optional<std::vector<ParameterTest>> tests)
-{
-  d->parameterTests = std::move(tests);
-}
-
-void PlotContainer::setDistributionGroups(std::optional<std::vector<DistributionGroup>> groups)
-{
-  Talmesh::plot::setDistributionGroups(*d, std::move(groups));
 }
 
 void PlotContainer::generateQuartiles()

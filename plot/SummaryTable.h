@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// A table that charts draw in place of a container's own, see PlotContainer::setSummary(): each of
+/// A table that charts draw in place of a container's own, see PlotSeams::setSummary(): each of
 /// its rows stands for several rows of that one, such as those of a run.
 struct SummaryTable
 {

@@ -127,7 +127,7 @@ TEST_F(DrawingSteps, FindTheSettingsSilentWhateverTheStepBeforeDid)
 {
   const auto expectSilence = [this] { EXPECT_TRUE(settings().signalsBlocked()); };
   const auto letSpeak = [this] { settings().blockSignals(false); };
-  for (const auto add : {&PlotContainer::addPreparation, &PlotContainer::addCompletion})
+  for (const auto add : {&PlotSeams::addPreparation, &PlotSeams::addCompletion})
   {
     (container.*add)(&owner, letSpeak);
     (container.*add)(&owner, expectSilence);
