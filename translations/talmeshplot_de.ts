@@ -1753,14 +1753,6 @@ Grafiken simulierter Läufe.</translation>
 <context>
     <name>Talmesh::app::MainWindow</name>
     <message>
-        <source>Runs</source>
-        <translation>Läufe</translation>
-    </message>
-    <message>
-        <source>Time courses</source>
-        <translation>Zeitverläufe</translation>
-    </message>
-    <message>
         <source>The window closes when all is written</source>
         <translation>Das Fenster schließt, wenn alles geschrieben ist</translation>
     </message>
@@ -1769,16 +1761,8 @@ Grafiken simulierter Läufe.</translation>
         <translation>%1 geschrieben</translation>
     </message>
     <message>
-        <source>The chart of this study is composed already.</source>
-        <translation>Das Diagramm dieser Studie ist schon zusammengestellt.</translation>
-    </message>
-    <message>
         <source>Updated in %1 ms</source>
         <translation>In %1 ms aktualisiert</translation>
-    </message>
-    <message>
-        <source>Selecting runs</source>
-        <translation>Läufe auswählen</translation>
     </message>
 </context>
 <context>
@@ -2183,6 +2167,25 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Ctrl+Shift+Y</source>
         <translation>Ctrl+Shift+Y</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::WindowPanels</name>
+    <message>
+        <source>Runs</source>
+        <translation>Läufe</translation>
+    </message>
+    <message>
+        <source>Time courses</source>
+        <translation>Zeitverläufe</translation>
+    </message>
+    <message>
+        <source>Selecting runs</source>
+        <translation>Läufe auswählen</translation>
+    </message>
+    <message>
+        <source>The chart of this study is composed already.</source>
+        <translation>Das Diagramm dieser Studie ist schon zusammengestellt.</translation>
     </message>
 </context>
 <context>

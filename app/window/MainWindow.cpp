@@ -2,20 +2,12 @@
 
 #include "app/comparison/ComparisonDock.h"
 #include "app/session/FileNameCodec.h"
-#include "app/window/ClusterDock.h"
 #include "app/window/ComparisonController.h"
 #include "app/window/ExportController.h"
-#include "app/window/FilterLine.h"
-#include "app/window/GestureActions.h"
 #include "app/window/GroupController.h"
-#include "app/window/KeptSelectionsDock.h"
-#include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
-#include "app/window/RunTableDock.h"
 #include "app/window/SessionController.h"
-#include "app/window/StepsDock.h"
-#include "app/window/StudyDock.h"
-#include "app/window/TimeCoursePage.h"
+#include "app/window/WindowPanels.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
@@ -26,8 +18,6 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
-#include <QTabWidget>
-#include <QToolBar>
 
 namespace Talmesh::app
 {
@@ -55,32 +45,21 @@ MainWindow::MainWindow(QWidget* parent)
     , plot(new VtkPlotWidget)
     , shown([this](PlotContainer& container) { plot->placePlotContainer(&container); },
             plot->plotContainer())
-    , timeCourses(new TimeCoursePage)
-    , tabs(new QTabWidget)
-    , dock(new PlotDock)
-    , clusterDock(new ClusterDock)
-    , studyDock(new StudyDock)
-    , comparison(new ComparisonDock)
-    , runTable(new RunTableDock(shown))
-    , keptSelections(new KeptSelectionsDock(shown))
-    , steps(new StepsDock(shown.selection()))
-    , filter(new FilterLine(shown.selection()))
-    , pointing(new GestureActions(shown.selection().gestures(), this))
+    , panels(new WindowPanels(*this, shown, *plot))
     , status(*statusBar())
     , opener(new StudyOpener(shown, status.opening(), this))
-    , grouping(new GroupController(*clusterDock, shown, status.grouping(), this))
-    , comparing(new ComparisonController(*comparison, shown, status.comparing(), this))
+    , grouping(new GroupController(*panels->clusters, shown, status.grouping(), this))
+    , comparing(new ComparisonController(*panels->comparison, shown, status.comparing(), this))
     , sessions(new SessionController(*this, shown))
     , exports(new ExportController(*plot, status.exporting(), *this))
     , recent(new RecentMenu(this))
 {
   setWindowTitle(QStringLiteral("Talmesh Plot"));
   setAcceptDrops(true);
-  placePanels();
   makeMenus();
   takeFirstSize();
+  panels->connectDocument();
   connectDocument();
-  connectPanels();
   connectControllers();
 }
 
@@ -95,46 +74,38 @@ MainWindow::~MainWindow()
   delete takeCentralWidget();
 }
 
-void MainWindow::placePanels()
-{
-  tabs->addTab(plot, tr("Runs"));
-  tabs->addTab(timeCourses, tr("Time courses"));
-  tabs->setDocumentMode(true);
-  setCentralWidget(tabs);
-  addDockWidget(Qt::RightDockWidgetArea, dock);
-  addDockWidget(Qt::BottomDockWidgetArea, comparison);
-  for (QDockWidget* panel : std::initializer_list<QDockWidget*>{runTable, keptSelections, steps})
-  {
-    addDockWidget(Qt::BottomDockWidgetArea, panel);
-    tabifyDockWidget(comparison, panel);
-  }
-  comparison->raise();
-  addDockWidget(Qt::RightDockWidgetArea, clusterDock);
-  tabifyDockWidget(dock, clusterDock);
-  addDockWidget(Qt::RightDockWidgetArea, studyDock);
-  tabifyDockWidget(dock, studyDock);
-  dock->raise();
-  studyDock->hide();
-  placeFilterLine();
-}
-
-void MainWindow::placeFilterLine()
-{
-  auto* bar = new QToolBar(tr("Selecting runs"));
-  pointing->addTo(*bar);
-  bar->addSeparator();
-  bar->addWidget(filter);
-  bar->setMovable(false);
-  addToolBar(Qt::TopToolBarArea, bar);
-}
-
 void MainWindow::takeFirstSize()
 {
   const QFontMetrics metrics = fontMetrics();
   const QSize wished(firstCharacters * metrics.averageCharWidth(),
                      firstLines * metrics.lineSpacing());
   resize(wished.boundedTo(screen()->availableSize() * 9 / 10));
-  resizeDocks({comparison}, {comparisonLines * metrics.lineSpacing()}, Qt::Vertical);
+  resizeDocks({panels->comparison}, {comparisonLines * metrics.lineSpacing()}, Qt::Vertical);
+}
+
+PlotDock* MainWindow::plotDock() const
+{
+  return panels->choices;
+}
+
+ComparisonDock* MainWindow::comparisonDock() const
+{
+  return panels->comparison;
+}
+
+QTabWidget* MainWindow::pages() const
+{
+  return panels->pages;
+}
+
+FilterLine* MainWindow::filterLine() const
+{
+  return panels->filter;
+}
+
+GestureActions* MainWindow::gestureActions() const
+{
+  return panels->pointing;
 }
 
 void MainWindow::open(const OpeningWishes& asked)

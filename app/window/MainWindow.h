@@ -15,21 +15,16 @@ class VtkPlotWidget;
 namespace Talmesh::app
 {
 
-class ClusterDock;
 class ComparisonController;
 class ComparisonDock;
 class ExportController;
 class FilterLine;
 class GestureActions;
 class GroupController;
-class KeptSelectionsDock;
 class PlotDock;
 class RecentMenu;
-class RunTableDock;
 class SessionController;
-class StepsDock;
-class StudyDock;
-class TimeCoursePage;
+class WindowPanels;
 
 /// The viewer's window: menus, panels and status bar around what a document shows.
 class MainWindow : public QMainWindow
@@ -61,14 +56,14 @@ public:
 
   Document& document() { return shown; }
   VtkPlotWidget* plotWidget() const { return plot; }
-  PlotDock* plotDock() const { return dock; }
-  ComparisonDock* comparisonDock() const { return comparison; }
+  PlotDock* plotDock() const;
+  ComparisonDock* comparisonDock() const;
   SessionController& sessionController() { return *sessions; }
   ExportController& exportController() { return *exports; }
   /// The pages "Runs" and "Time courses".
-  QTabWidget* pages() const { return tabs; }
-  FilterLine* filterLine() const { return filter; }
-  GestureActions* gestureActions() const { return pointing; }
+  QTabWidget* pages() const;
+  FilterLine* filterLine() const;
+  GestureActions* gestureActions() const;
   SelectionController* selectionController() { return &shown.selection(); }
   /// How much is loaded, as the status bar says it.
   QString sizeText() const { return status.size(); }
@@ -89,8 +84,6 @@ protected:
   void dropEvent(QDropEvent* event) override;
 
 private:
-  void placePanels();
-  void placeFilterLine();
   void takeFirstSize();
   void connectDocument();
   void connectPanels();
@@ -110,17 +103,7 @@ private:
 
   VtkPlotWidget* plot;
   Document shown;
-  TimeCoursePage* timeCourses;
-  QTabWidget* tabs;
-  PlotDock* dock;
-  ClusterDock* clusterDock;
-  StudyDock* studyDock;
-  ComparisonDock* comparison;
-  RunTableDock* runTable;
-  KeptSelectionsDock* keptSelections;
-  StepsDock* steps;
-  FilterLine* filter;
-  GestureActions* pointing;
+  WindowPanels* panels;
   StatusLine status;
   StudyOpener* opener;
   GroupController* grouping;

@@ -14,6 +14,7 @@
 #include "app/window/StepsDock.h"
 #include "app/window/StudiesMenu.h"
 #include "app/window/ViewMenu.h"
+#include "app/window/WindowPanels.h"
 #include "widgets/VtkPlotWidget.h"
 
 #include <QMenuBar>
@@ -26,16 +27,16 @@ void MainWindow::makeMenus()
 {
   makeFileMenu();
   makeSelectionMenu();
-  auto* view = new ViewMenu(*dock, this);
-  view->addPanel(*dock, Qt::Key_F9);
-  view->addPanel(*comparison, Qt::Key_F8);
-  view->addPanel(*runTable, Qt::Key_F7);
-  view->addPanel(*keptSelections, Qt::Key_F6);
-  view->addPanel(*steps, Qt::Key_F5);
+  auto* view = new ViewMenu(*panels->choices, this);
+  view->addPanel(*panels->choices, Qt::Key_F9);
+  view->addPanel(*panels->comparison, Qt::Key_F8);
+  view->addPanel(*panels->runTable, Qt::Key_F7);
+  view->addPanel(*panels->keptSelections, Qt::Key_F6);
+  view->addPanel(*panels->steps, Qt::Key_F5);
   connect(view, &ViewMenu::styleChosen, this, &MainWindow::chooseStyle);
   menuBar()->addMenu(view);
   auto* studies = new StudiesMenu(shown, this);
-  studies->addAction(clusterDock->toggleViewAction());
+  studies->addAction(panels->clusters->toggleViewAction());
   connect(studies, &StudiesMenu::runsWanted, this, &MainWindow::returnToRuns);
   connect(studies, &StudiesMenu::exampleWanted, this, &MainWindow::openExampleInstead);
   connect(studies, &StudiesMenu::studyWanted, opener, &StudyOpener::openComputed);
@@ -59,7 +60,7 @@ void MainWindow::makeSelectionMenu()
   auto* menu = new SelectionMenu(
       shown.selection(), [this] { return plot->cancelDrag(); }, this);
   menu->addSeparator();
-  pointing->addTo(*menu);
+  panels->pointing->addTo(*menu);
   connect(menu, &SelectionMenu::failed, this, &MainWindow::showError);
   connect(menu, &SelectionMenu::kept, this,
           [this]
@@ -67,9 +68,9 @@ void MainWindow::makeSelectionMenu()
             if (!shown.study().chart)
               sessions->selectionSaved();
           });
-  connect(tabs, &QTabWidget::currentChanged, menu,
-          [this, menu] { menu->setSelecting(tabs->currentWidget() == plot); });
-  menu->addAction(keptSelections->keepStep());
+  connect(panels->pages, &QTabWidget::currentChanged, menu,
+          [this, menu] { menu->setSelecting(panels->pages->currentWidget() == plot); });
+  menu->addAction(panels->keptSelections->keepStep());
   menuBar()->addMenu(menu);
 }
 

@@ -1,26 +1,14 @@
 #include "app/comparison/ComparisonDock.h"
-#include "app/document/FeatureColumns.h"
-#include "app/document/OwnChart.h"
-#include "app/styles/ViewerStyles.h"
-#include "app/window/ClusterDock.h"
 #include "app/window/ComparisonController.h"
 #include "app/window/ExportController.h"
 #include "app/window/FileDialogs.h"
-#include "app/window/FilterLine.h"
 #include "app/window/GroupController.h"
-#include "app/window/KeptSelectionsDock.h"
 #include "app/window/MainWindow.h"
-#include "app/window/PlotDock.h"
 #include "app/window/RecentMenu.h"
-#include "app/window/RunTableDock.h"
 #include "app/window/SessionController.h"
-#include "app/window/StepsDock.h"
-#include "app/window/StudyDock.h"
-#include "app/window/TimeCoursePage.h"
+#include "app/window/WindowPanels.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
-
-#include <QTabWidget>
 
 /// What the window does when the document and its controllers announce something.
 namespace Talmesh::app
@@ -30,48 +18,16 @@ void MainWindow::connectDocument()
 {
   connect(&shown, &Document::studyChanged, this, &MainWindow::showStudy);
   connect(&shown, &Document::drawn, this, &MainWindow::showDrawing);
-  connect(&shown, &Document::valuesChanged, timeCourses, &TimeCoursePage::refresh);
-  const auto tellSelected = [this]
-  { timeCourses->setSelectedRuns(shown.selection().selectedRuns()); };
-  connect(&shown.selection(), &SelectionController::changed, timeCourses, tellSelected);
-  connect(&shown, &Document::studyChanged, timeCourses, tellSelected);
-  connect(&shown, &Document::choiceChanged, this,
-          [this]
-          {
-            // What the user has just done to the panel stays as it is.
-            if (!(dock->choice() == shown.choice()))
-              dock->setChoice(shown.choice());
-          });
-}
-
-void MainWindow::connectPanels()
-{
-  connect(&shown.selection(), &SelectionController::pointed, filter, &FilterLine::show);
-  connect(dock, &PlotDock::choiceChanged, this, [this] { shown.choose(dock->choice()); });
-  connect(comparison, &ComparisonDock::choiceChanged, this,
+  connect(panels->comparison, &ComparisonDock::choiceChanged, this,
           [this]
           {
             clock.begin();
-            shown.compareBy(comparison->choice());
+            shown.compareBy(panels->comparison->choice());
           });
-  connect(comparison, &ComparisonDock::styleChosen, this, &MainWindow::chooseStyle);
-  const auto say = [this](const QString& message) { status.say(message); };
-  connect(comparison, &ComparisonDock::said, this, say);
-  connect(comparison, &ComparisonDock::failed, this, &MainWindow::showError);
-  connect(runTable, &RunTableDock::said, this, say);
-  connect(runTable, &RunTableDock::failed, this, &MainWindow::showError);
-  connect(runTable, &RunTableDock::runOpened, this,
-          [this](std::size_t run)
-          {
-            tabs->setCurrentWidget(timeCourses);
-            timeCourses->openRun(run);
-          });
-  connect(keptSelections, &KeptSelectionsDock::said, this, say);
-  connect(keptSelections, &KeptSelectionsDock::failed, this, &MainWindow::showError);
-  connect(steps, &StepsDock::said, this, say);
-  connect(steps, &StepsDock::wordsWanted, filter, &FilterLine::show);
-  connect(studyDock, &StudyDock::variantChanged, this,
-          [this] { shown.chooseVariant(studyDock->variant()); });
+  connect(panels, &WindowPanels::said, this,
+          [this](const QString& message) { status.say(message); });
+  connect(panels, &WindowPanels::failed, this, &MainWindow::showError);
+  connect(panels, &WindowPanels::styleChosen, this, &MainWindow::chooseStyle);
 }
 
 void MainWindow::connectControllers()
@@ -112,33 +68,12 @@ void MainWindow::connectControllers()
 /// Brings what surrounds the plot into line with the study that is now shown.
 void MainWindow::showStudy()
 {
-  const Study& study = shown.study();
-  const bool own = study.chart != nullptr;
-  std::vector<std::pair<int, QString>> features;
-  for (const int column : shown.features())
-    features.emplace_back(column, QString::fromStdString(columnTitle(*shown.container(), column)));
-  dock->setColumns(shown.columns(), features);
-  dock->setChoice(shown.choice());
-  timeCourses->setStudy(study);
-  for (QDockWidget* panel : std::initializer_list<QDockWidget*>{dock, clusterDock})
-  {
-    panel->widget()->setEnabled(!own);
-    panel->widget()->setToolTip(own ? tr("The chart of this study is composed already.")
-                                    : QString());
-  }
-  comparison->widget()->setEnabled(!own);
-  studyDock->setVisible(own);
-  if (own)
-  {
-    tabs->setCurrentWidget(plot);
-    studyDock->raise();
-    studyDock->setChart(*study.chart);
-  }
+  panels->showStudy();
   status.setSize(shown.size());
   clock.follow(shown.container()->getAnnotationLink());
   // Dialogs suggest names of files from it.
-  setWindowFilePath(QString::fromStdString(study.name));
-  setWindowTitle(QString::fromStdString(study.name) + QStringLiteral(" - Talmesh Plot"));
+  setWindowFilePath(QString::fromStdString(shown.study().name));
+  setWindowTitle(QString::fromStdString(shown.study().name) + QStringLiteral(" - Talmesh Plot"));
 }
 
 /// Paints what was drawn, and says what is worth a word about it.
