@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace Talmesh::app
 {
@@ -137,11 +138,22 @@ double largestOf(const RunCourse& course)
 double meanOf(const RunCourse& course)
 {
   const Points points(course);
+  if (points.y.empty())
+    return missing;
   const auto count = static_cast<double>(points.y.size());
-  double mean = 0;
+  const double mean = std::accumulate(points.y.begin(), points.y.end(), 0.0) / count;
+  if (std::isfinite(mean))
+  {
+    // The mean of whole numbers, or of equal ones, shall be the number that a condition names.
+    double rest = 0;
+    for (const double value : points.y)
+      rest += value - mean;
+    return mean + rest / count;
+  }
+  double sumOfParts = 0;
   for (const double value : points.y)
-    mean += value / count;
-  return points.y.empty() ? missing : mean;
+    sumOfParts += value / count;
+  return sumOfParts;
 }
 
 double firstOf(const RunCourse& course)

@@ -98,6 +98,12 @@ TEST(RunCourse, HasNoNumbersWithoutPoints)
   }
 }
 
+TEST(RunCourse, HasTheVeryMeanOfWholeAndOfEqualNumbers)
+{
+  EXPECT_EQ(meanOf(Course({1, 4, -2})), 1);
+  EXPECT_EQ(meanOf(Course(std::vector<double>(10, 0.1))), 0.1);
+}
+
 TEST(RunCourse, HasAMeanWhereTheSumOverflows)
 {
   EXPECT_DOUBLE_EQ(meanOf(Course({1.5e308, 1.7e308})), 1.6e308);
