@@ -60,6 +60,24 @@ bool anyPiece(const RunCourse& course, const DrawnScale& scale, const Meets& mee
   return false;
 }
 
+/// Whether no line is drawn somewhere between two places along x, or a point there is missing.
+bool hasGapBetween(const RunCourse& course, double x0, double x1, const DrawnScale& scale)
+{
+  DrawnPoint before{std::numeric_limits<double>::quiet_NaN(), 0};
+  for (std::size_t i = 0; i < course.size; ++i)
+  {
+    const DrawnPoint point = placeOf(DrawnPoint{course.x[i], course.y[i]}, scale);
+    if (x0 <= point.x && point.x <= x1 && !isDrawn(point))
+      return true;
+    const auto [left, right] = std::minmax(before.x, point.x);
+    const bool isJoined = isDrawn(before) && isDrawn(point);
+    if (!isJoined && left < x1 && right > x0)
+      return true;
+    before = point;
+  }
+  return false;
+}
+
 /// The part of a piece, from 0 to 1 along it, in which one coordinate lies between two limits.
 struct Part
 {
@@ -131,6 +149,17 @@ bool surrounds(const std::vector<DrawnPoint>& corners, const DrawnPoint& point)
   return inside;
 }
 
+/// Whether a straight line, which may be a point, has one in a polygon or on its border.
+bool isIn(const std::vector<DrawnPoint>& corners, const DrawnPoint& from, const DrawnPoint& to)
+{
+  if (surrounds(corners, from) || surrounds(corners, to))
+    return true;
+  for (std::size_t i = 0, before = corners.size() - 1; i < corners.size(); before = i++)
+    if (meet(from, to, corners[before], corners[i]))
+      return true;
+  return false;
+}
+
 /// The corners of a polygon that has an inside, in places; else none.
 std::vector<DrawnPoint> polygonOf(const std::vector<DrawnPoint>& corners, const DrawnScale& scale)
 {
@@ -164,12 +193,8 @@ bool passesThrough(const RunCourse& course, const DrawnWindow& window, const Dra
 bool staysInside(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)
 {
   const DrawnWindow places = placeOf(window, scale);
-  for (std::size_t i = 0; i < course.size; ++i)
-  {
-    const DrawnPoint point = placeOf(DrawnPoint{course.x[i], course.y[i]}, scale);
-    if (places.x0 <= point.x && point.x <= places.x1 && !isDrawn(point))
-      return false;
-  }
+  if (hasGapBetween(course, places.x0, places.x1, scale))
+    return false;
   bool covered = false;
   const bool leaves = anyPiece(course, scale,
                                [&places, &covered](const DrawnPoint& from, const DrawnPoint& to)
@@ -204,20 +229,9 @@ bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corne
                    const DrawnScale& scale)
 {
   const std::vector<DrawnPoint> places = polygonOf(corners, scale);
-  if (places.empty())
-    return false;
-  return anyPiece(course, scale,
-                  [&places](const DrawnPoint& a, const DrawnPoint& b)
-                  {
-                    if (surrounds(places, a) || surrounds(places, b))
-                      return true;
-                    for (std::size_t i = 0, last = places.size() - 1; i < places.size(); last = i++)
-                    {
-                      if (meet(a, b, places[last], places[i]))
-                        return true;
-                    }
-                    return false;
-                  });
+  return !places.empty() && anyPiece(course, scale,
+                                     [&places](const DrawnPoint& from, const DrawnPoint& to)
+                                     { return isIn(places, from, to); });
 }
 
 bool hasPointIn(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)
@@ -237,7 +251,7 @@ bool hasPointIn(const RunCourse& course, const std::vector<DrawnPoint>& corners,
   const std::vector<DrawnPoint> places = polygonOf(corners, scale);
   return !places.empty() && anyPiece(course, scale,
                                      [&places](const DrawnPoint&, const DrawnPoint& point)
-                                     { return surrounds(places, point); });
+                                     { return isIn(places, point, point); });
 }
 
 } // namespace Talmesh::app

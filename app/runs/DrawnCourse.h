@@ -35,7 +35,7 @@ struct DrawnWindow
 /// Whether the line has a point in the window.
 bool passesThrough(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale);
 /// Whether the line has a part between the window's left and right side, and no part there that is
-/// above or below it, and no point there is missing.
+/// above or below it, and no gap there.
 bool staysInside(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale);
 /// Whether the line crosses or touches the straight line between two points.
 bool crossesLine(const RunCourse& course, const DrawnPoint& from, const DrawnPoint& to,
@@ -45,7 +45,8 @@ bool crossesLine(const RunCourse& course, const DrawnPoint& from, const DrawnPoi
 /// less than three corners has no inside.
 bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corners,
                    const DrawnScale& scale);
-/// Whether a point of the course, whatever is drawn between them, is in the window or the polygon.
+/// Whether a point of the course, whatever is drawn between them, is in the window or the polygon,
+/// or on the border of it.
 bool hasPointIn(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale);
 bool hasPointIn(const RunCourse& course, const std::vector<DrawnPoint>& corners,
                 const DrawnScale& scale);

@@ -100,11 +100,16 @@ TEST(DrawnCourse, StaysInsideNoWindowThatCoversNoneOfItsTimes)
   EXPECT_TRUE(staysInside(roof, {-30, 40, -10, 110}, plain)) << "where it has times";
 }
 
-TEST(DrawnCourse, StaysInsideNothingAtAMissingPoint)
+TEST(DrawnCourse, StaysInsideNothingWhereItIsBroken)
 {
   const Course broken{{0, 1, 2, 3, 4}, {5, 5, none, 5, 5}};
   EXPECT_FALSE(staysInside(broken, {0, 4, 4, 6}, plain));
-  EXPECT_TRUE(staysInside(broken, {0, 1.5, 4, 6}, plain)) << "missing elsewhere";
+  EXPECT_FALSE(staysInside(broken, {0, 1.5, 4, 6}, plain)) << "no line from 1 to 1.5";
+  EXPECT_FALSE(staysInside(broken, {2.5, 4, 4, 6}, plain)) << "nor from 2.5 to 3";
+  EXPECT_FALSE(staysInside(broken, {1.2, 1.8, 4, 6}, plain));
+  EXPECT_TRUE(staysInside(broken, {0, 1, 4, 6}, plain)) << "broken elsewhere";
+  EXPECT_TRUE(staysInside(broken, {3, 4, 4, 6}, plain)) << "broken elsewhere";
+  EXPECT_TRUE(staysInside(broken, {0.5, 0.7, 4, 6}, plain)) << "broken elsewhere";
 }
 
 TEST(DrawnCourse, CrossesALine)
@@ -141,6 +146,15 @@ TEST(DrawnCourse, EntersTheLegsButNotTheGapOfAHorseshoe)
   EXPECT_FALSE(entersPolygon(Course{{5, 5}, {1, 7}}, horseshoe, plain));
   EXPECT_TRUE(entersPolygon(Course{{5, 5}, {1, 9}}, horseshoe, plain));
   EXPECT_TRUE(entersPolygon(Course{{3, 3.5}, {1, 7}}, horseshoe, plain));
+}
+
+TEST(DrawnCourse, HasPointsOnTheBorderOfAPolygonAsWell)
+{
+  const Course two{{0, 4}, {0, 4}};
+  EXPECT_TRUE(hasPointIn(two, {{4, 4}, {1, 3}, {1, 0.5}}, plain)) << "at a corner";
+  EXPECT_TRUE(hasPointIn(two, {{1, 4}, {9, 4}, {5, 1}}, plain)) << "on a side";
+  EXPECT_TRUE(hasPointIn(two, {{-1, 1}, {1, 1}, {0, -2}}, plain)) << "within";
+  EXPECT_FALSE(hasPointIn(two, {{1, 1}, {3, 1}, {3, 3}}, plain)) << "only the line is there";
 }
 
 TEST(DrawnCourse, TellsTheDistanceFromAPointInUnitsOfTheScreen)
