@@ -13,6 +13,7 @@
 #include <vtkNew.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QString>
 
 #include <iostream>
@@ -94,6 +95,17 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
   return error;
 }
 
+/// A table written over the one that is read would be the end of somebody's data.
+std::string whyNotWritten(const CommandLineOptions& options)
+{
+  const QFileInfo read(QFile::decodeName(options.file.c_str()));
+  for (const std::string& path : {options.compare, options.runs})
+    if (!options.file.empty() && !path.empty() && read.exists() &&
+        QFileInfo(QFile::decodeName(path.c_str())).canonicalFilePath() == read.canonicalFilePath())
+      return path + ": is the file that is read";
+  return {};
+}
+
 Result<OpenedStudy> openNamed(const CommandLineOptions& options)
 {
   if (!options.file.empty())
@@ -107,6 +119,8 @@ Result<OpenedStudy> openNamed(const CommandLineOptions& options)
 
 std::string runBatch(const CommandLineOptions& options)
 {
+  if (std::string reason = whyNotWritten(options); !reason.empty())
+    return reason;
   const Result<OpenedStudy> result = openNamed(options);
   if (!result.hasValue())
     return result.error();

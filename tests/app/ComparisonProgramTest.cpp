@@ -119,6 +119,18 @@ TEST_F(ComparisonProgram, SaysInOneLineWhyThereIsNone)
   EXPECT_EQ(ended.errors.count('\n'), 1);
 }
 
+TEST_F(ComparisonProgram, DoesNotWriteOverWhatItReads)
+{
+  const QString csv = write("runs.csv", twelveRuns());
+  ASSERT_TRUE(QFile::link(csv, path("link.csv")));
+  const QString name = folder.path() + "/./runs.csv";
+  removeDisplay();
+  expectError({csv, "--select", "max(X) > 9.5", "--compare", name},
+              name + ": is the file that is read");
+  expectError({path("link.csv"), "--runs", csv}, csv + ": is the file that is read");
+  EXPECT_EQ(contentOf(csv).toStdString(), twelveRuns());
+}
+
 TEST_F(ComparisonProgram, WritesPicturesBesideIt)
 {
   const QString csv = write("runs.csv", twelveRuns());
