@@ -19,8 +19,10 @@ inline QPoint pixelOf(vtkChartXY* chart, const VtkPlotWidget& plot, double x, do
     const float* ends[] = {axis->GetPoint1(), axis->GetPoint2()};
     return ends[0][coordinate] + part * (ends[1][coordinate] - ends[0][coordinate]);
   };
-  return {qRound(along(chart->GetAxis(vtkAxis::BOTTOM), x, 0)),
-          plot.height() - 1 - qRound(along(chart->GetAxis(vtkAxis::LEFT), y, 1))};
+  // The scene counts pixels of the screen, the mouse those of the window.
+  const double ratio = plot.devicePixelRatioF();
+  return {qRound(along(chart->GetAxis(vtkAxis::BOTTOM), x, 0) / ratio),
+          plot.height() - 1 - qRound(along(chart->GetAxis(vtkAxis::LEFT), y, 1) / ratio)};
 }
 
 /// Presses a button, moves the mouse and releases the button, as the window system reports it.
