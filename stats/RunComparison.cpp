@@ -1,8 +1,7 @@
 #include "stats/RunComparison.h"
 
+#include "stats/AdjustedPValues.h"
 #include "stats/ExchangeUnits.h"
-#include "stats/FalseDiscovery.h"
-#include "stats/FamilyWiseError.h"
 #include "stats/GroupContrast.h"
 #include "stats/GroupTests.h"
 #include "stats/LevelCounts.h"

@@ -13,9 +13,9 @@ namespace Talmesh::stats
 {
 enum class Adjustment
 {
-  /// False discovery rate (stats/FalseDiscovery.h).
+  /// False discovery rate (stats/AdjustedPValues.h).
   benjaminiHochberg,
-  /// Probability of any false rejection (stats/FamilyWiseError.h).
+  /// Probability of any false rejection (stats/AdjustedPValues.h).
   holm,
   /// The same by permutations common to all parameters, which uses how they hang together
   /// (stats/SelectionPermutation.h). Also for single runs, where p itself comes from no

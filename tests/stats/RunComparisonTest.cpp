@@ -1,7 +1,6 @@
 #include "stats/RunComparison.h"
 
-#include "stats/FalseDiscovery.h"
-#include "stats/FamilyWiseError.h"
+#include "stats/AdjustedPValues.h"
 #include "stats/GroupContrast.h"
 #include "stats/LevelCounts.h"
 #include "stats/MannWhitney.h"
