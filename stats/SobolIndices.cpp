@@ -121,7 +121,9 @@ SobolIndices estimateSobolIndices(const UnitCubeModel& model, std::size_t inputs
     sequence.take(a);
     sequence.take(b);
     const Values fA = model(a);
-    const Values fB = model(b);
+    const Values fB = fA.empty() ? Values() : model(b);
+    if (fB.empty())
+      return {};
     if (sums.empty())
       sums.emplace_back(fA.size(), inputs);
     sums.front().addValues(fA);
@@ -130,7 +132,10 @@ SobolIndices estimateSobolIndices(const UnitCubeModel& model, std::size_t inputs
     {
       Values mixed = a;
       mixed[input] = b[input];
-      sums.front().addDistances(input, fA, fB, model(mixed));
+      const Values fMixed = model(mixed);
+      if (fMixed.empty())
+        return {};
+      sums.front().addDistances(input, fA, fB, fMixed);
     }
   }
   return indicesFrom(sums.front());

@@ -18,7 +18,8 @@ struct SobolIndices
   std::vector<std::vector<double>> total;
 };
 
-/// The outputs of a model for one point of the unit cube, always as many.
+/// The outputs of a model for one point of the unit cube, always as many; without any the
+/// estimation is given up.
 using UnitCubeModel = std::function<std::vector<double>(const std::vector<double>& point)>;
 
 /// Estimates Sobol's sensitivity indices of a model with `inputs` independent inputs, each uniform
@@ -38,7 +39,8 @@ using UnitCubeModel = std::function<std::vector<double>(const std::vector<double
 /// is evaluated samples * (inputs + 2) times. An output that does not vary has indices that are not
 /// a number, whatever its value.
 /// @param inputs at least 1; otherwise the result is empty
-/// @param samples N, best a power of two; with 0 the result is empty
+/// @param samples N, best a power of two; with 0 the result is empty, and so it is when the model
+///   gives the estimation up
 /// @param seed of the Mersenne Twister that draws the shift, the same everywhere
 /// @throws std::invalid_argument for more than half as many inputs as the sequence has dimensions
 ///   (Boost: 3667)

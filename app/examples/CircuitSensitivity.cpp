@@ -6,7 +6,6 @@
 #include <array>
 #include <cmath>
 #include <mutex>
-#include <stdexcept>
 
 namespace Talmesh::app
 {
@@ -82,8 +81,7 @@ SobolPostProcessResult::Indices regroup(const std::vector<std::vector<double>>& 
 
 } // namespace
 
-std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
-                                                           const ImportProgress& progress)
+Result<CircuitIndices> circuitSensitivity(std::size_t samples, const ImportProgress& progress)
 {
   const std::vector<double> seconds = secondsOfTimePoints();
   std::vector<double> lifetimes = {0.0};
@@ -91,16 +89,18 @@ std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
     lifetimes.push_back(time / mRnaLifetimeInSeconds());
   const auto simulations = static_cast<double>(samples * (parameterNames.size() + 2));
   std::size_t done = 0;
+  bool cancelled = false;
   const auto model = [&](const std::vector<double>& point)
   {
-    if (progress && !progress(static_cast<double>(done++) / simulations))
-      throw std::runtime_error("cancelled");
-    return simulate(point, lifetimes);
+    cancelled = progress && !progress(static_cast<double>(done++) / simulations);
+    return cancelled ? std::vector<double>() : simulate(point, lifetimes);
   };
   const stats::SobolIndices indices =
       stats::estimateSobolIndices(model, parameterNames.size(), samples, seed);
+  if (cancelled)
+    return Result<CircuitIndices>::cancelled();
 
-  auto result = std::make_unique<SobolPostProcessResult>();
+  auto result = std::make_shared<SobolPostProcessResult>();
   result->parameterValues.resize(parameterNames.size());
   result->parameterNames.assign(parameterNames.begin(), parameterNames.end());
   const auto study = exampleItems();
@@ -113,12 +113,12 @@ std::unique_ptr<SobolPostProcessResult> circuitSensitivity(std::size_t samples,
   return result;
 }
 
-std::shared_ptr<SobolPostProcessResult> keptCircuitSensitivity(const ImportProgress& progress)
+Result<CircuitIndices> keptCircuitSensitivity(const ImportProgress& progress)
 {
   static std::mutex computing;
-  static std::shared_ptr<SobolPostProcessResult> kept;
+  static Result<CircuitIndices> kept = Result<CircuitIndices>::cancelled();
   const std::lock_guard<std::mutex> lock(computing);
-  if (!kept)
+  if (!kept.hasValue())
     kept = circuitSensitivity(keptSamples, progress);
   return kept;
 }

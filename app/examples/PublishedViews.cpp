@@ -26,7 +26,7 @@ std::function<ChartSteps()> sensitivity(bool atTimePoint, bool total)
 {
   return [=]
   {
-    const auto result = keptCircuitSensitivity();
+    const CircuitIndices result = keptCircuitSensitivity().value();
     const std::size_t last = result->timePoints->size() - 1;
     return sensitivityChart(result, {atTimePoint, total, atTimePoint ? last : 0});
   };

@@ -121,10 +121,13 @@ void describeVariants(OwnChart& chart, const SobolPostProcessResult& result, boo
   chart.firstVariant = static_cast<int>(chart.variants.size()) - 1;
 }
 
-OpenedStudy openSensitivity(const CatalogueEntry& entry, bool atTimePoint, bool total,
-                            const ImportProgress& progress)
+Result<OpenedStudy> openSensitivity(const CatalogueEntry& entry, bool atTimePoint, bool total,
+                                    const ImportProgress& progress)
 {
-  const std::shared_ptr<SobolPostProcessResult> result = keptCircuitSensitivity(progress);
+  const Result<CircuitIndices> indices = keptCircuitSensitivity(progress);
+  if (!indices.hasValue())
+    return Result<OpenedStudy>::without(indices);
+  const CircuitIndices& result = indices.value();
   OwnChart chart;
   chart.description = translated(
       "StudyCatalogue", "Sobol indices of the example circuit: how much of the variance of "

@@ -80,6 +80,19 @@ TEST(SobolIndices, EvaluateTheModelOncePerPoint)
   EXPECT_EQ(calls, 10 * (3 + 2));
 }
 
+TEST(SobolIndices, AreEmptyWhenTheModelGivesUp)
+{
+  // A sample of three inputs takes five points.
+  for (int last = 0; last < 6; ++last)
+  {
+    int calls = 0;
+    const auto model = [&](const std::vector<double>& u)
+    { return calls++ < last ? u : std::vector<double>(); };
+    EXPECT_TRUE(estimateSobolIndices(model, 3, 10, seed).total.empty()) << last;
+    EXPECT_EQ(calls, last + 1) << "is not asked again";
+  }
+}
+
 TEST(SobolIndices, AreNoNumbersForAnOutputThatDoesNotVary)
 {
   // Only the first of these is exact in binary.

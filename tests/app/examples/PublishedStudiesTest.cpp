@@ -116,7 +116,7 @@ TEST(PuromycinStudy, DrawsTheCurveFromTheOrigin)
 
 TEST(CircuitSensitivity, GivesEveryIndexOfEveryOutput)
 {
-  const auto result = circuitSensitivity(24);
+  const CircuitIndices result = circuitSensitivity(24).value();
   ASSERT_EQ(result->outputs.size(), 7U);
   EXPECT_EQ(result->outputs[0].second, "TetR");
   EXPECT_EQ(result->outputs[5].second, "cI mRNA");
@@ -141,7 +141,7 @@ TEST(CircuitSensitivity, FindsTheRepressedTranscriptionRateToMatterFirst)
   // At first every repressor is scarce and each protein grows with its transcription: alpha sets
   // how much mRNA is made and beta how soon it turns into protein, while the leakage alpha0 is
   // small beside alpha.
-  const auto result = circuitSensitivity(200);
+  const CircuitIndices result = circuitSensitivity(200).value();
   const auto& cI = result->total->at(2).front();
   EXPECT_GT(cI[0] + cI[2], cI[1]);
 }
@@ -149,9 +149,22 @@ TEST(CircuitSensitivity, FindsTheRepressedTranscriptionRateToMatterFirst)
 TEST(CircuitSensitivity, IsKeptForAllWhoShowIt)
 {
   bool asked = false;
-  const auto first = keptCircuitSensitivity();
-  EXPECT_EQ(keptCircuitSensitivity([&asked](double) { return !(asked = true); }), first);
+  const CircuitIndices first = keptCircuitSensitivity().value();
+  const auto ask = [&asked](double) { return !(asked = true); };
+  EXPECT_EQ(keptCircuitSensitivity(ask).value(), first);
   EXPECT_FALSE(asked) << "nothing is left to compute";
+}
+
+TEST(CircuitSensitivity, IsCancelledByItsProgress)
+{
+  // Two points and one for each of the four parameters are a sample: cancelled at any of them.
+  for (int last = 0; last < 7; ++last)
+  {
+    int asked = 0;
+    const auto result = circuitSensitivity(4, [&](double) { return asked++ < last; });
+    EXPECT_TRUE(result.isCancelled()) << last;
+    EXPECT_EQ(asked, last + 1) << "nothing more is computed";
+  }
 }
 
 TEST(CircuitPriors, AreTheDistributionsOfTheStudy)
