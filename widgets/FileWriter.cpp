@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QIODevice>
 #include <QSaveFile>
+#include <QTemporaryFile>
 
 #include <cerrno>
 #include <chrono>
@@ -147,12 +148,47 @@ QString endOfLinks(const QString& path)
   return end;
 }
 
+bool takesNewFiles(const QString& folder)
+{
+  return ::faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), W_OK, AT_EACCESS) == 0;
+}
+
+bool copy(QIODevice& from, QIODevice& to)
+{
+  constexpr qint64 most = 1 << 20; // bytes at once
+  for (QByteArray part = from.read(most); !part.isEmpty(); part = from.read(most))
+    if (to.write(part) != part.size())
+      return false;
+  return from.atEnd();
+}
+
+/// Writes over a file in a folder that takes no new ones. All of the content is made elsewhere
+/// before the old one is touched: it may fail halfway, or be given up.
+QString overwriteFile(const QString& path, const FileContent& content)
+{
+  QFile file(path);
+  // To append is the way not to truncate at once.
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
+    return file.errorString();
+  QTemporaryFile made;
+  if (!made.open())
+    return made.errorString();
+  const QString reason = fill(made.handle(), content);
+  if (!reason.isEmpty())
+    return reason;
+  if (!made.seek(0) || !file.resize(0))
+    return made.error() != QFileDevice::NoError ? made.errorString() : file.errorString();
+  return fill(file.handle(), [&made](QIODevice& device) { return copy(made, device); });
+}
+
 QString replaceFile(const QString& path, const FileContent& content)
 {
   QSaveFile file(path);
-  // A folder that takes no new file may hold one that can be written.
-  file.setDirectWriteFallback(true);
-  if (!file.open(QIODevice::WriteOnly))
+  const bool isOpen = file.open(QIODevice::WriteOnly);
+  const QFileInfo old(path);
+  if (!isOpen && old.exists() && !takesNewFiles(old.path()))
+    return overwriteFile(path, content);
+  if (!isOpen)
     return file.errorString();
   // Committing would take no notice of a disk that fails to keep the bytes.
   const QString reason = fill(file.handle(), content);

@@ -1,5 +1,6 @@
 #include "widgets/FileWriter.h"
 
+#include "support/ClosedFolder.h"
 #include "support/Devices.h"
 #include "support/DiskFaults.h"
 #include "support/FullDisk.h"
@@ -140,6 +141,32 @@ TEST_F(FileWriter, LeavesTheOldFileWhenItsContentFails)
   EXPECT_THROW(writeFile(path(), needTooMuch), std::bad_alloc);
   EXPECT_EQ(content(), "old");
   EXPECT_EQ(files(), QStringList("file"));
+}
+
+TEST_F(FileWriter, WritesOverAFileInAFolderThatTakesNoNewOnes)
+{
+  EXPECT_EQ(write(path(), QByteArray(3000000, 'o')), "");
+  const ClosedFolder closed(folder.path());
+  if (!closed.isClosed())
+    GTEST_SKIP() << "Nothing closes a folder here.";
+  EXPECT_NE(write(path("another"), "new"), "");
+  EXPECT_EQ(write(path(), "new"), "");
+  EXPECT_EQ(content(), "new");
+  const QByteArray large(2500000, 'n');
+  EXPECT_EQ(write(path(), large), "");
+  EXPECT_TRUE(content() == large);
+  EXPECT_EQ(files(), QStringList("file"));
+}
+
+TEST_F(FileWriter, LeavesTheOldFileInAFolderThatTakesNoNewOnesWhenItsContentFails)
+{
+  EXPECT_EQ(write(path(), "old"), "");
+  const ClosedFolder closed(folder.path());
+  if (!closed.isClosed())
+    GTEST_SKIP() << "Nothing closes a folder here.";
+  const auto refuse = [](QIODevice& device) { return device.write("new") == 3 && false; };
+  EXPECT_EQ(writeFile(path(), refuse), "not all of it could be written");
+  EXPECT_EQ(content(), "old");
 }
 
 TEST_F(FileWriter, KeepsThePermissionsOfTheOldFile)
