@@ -4,6 +4,7 @@
 #include "app/export/ScaledPicture.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
+#include "support/DrawnStyles.h"
 #include "support/PdfPages.h"
 #include "support/Pictures.h"
 #include "widgets/VtkPlotWidget.h"
@@ -129,9 +130,7 @@ TEST_F(PaperSizeOfAPicture, LeavesTheWidgetAsItWas)
 
 TEST_F(PaperSizeOfAPicture, IsRefusedNowhereInAnyStyle)
 {
-  for (const plotStyles style :
-       {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, scatterWithErrorBars,
-        fitParameterDistribution, parallelCoordinates})
+  for (const plotStyles style : drawnStyles)
   {
     draw(style);
     EXPECT_EQ(exportPlot(*widget, path("plot.png"), {QSizeF(90.0, 70.0), 150}), "") << style;

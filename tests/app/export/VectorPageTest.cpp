@@ -1,4 +1,5 @@
 #include "export/ExportedPage.h"
+#include "support/DrawnStyles.h"
 #include "support/Pictures.h"
 #include "vtk/vtkPlotLineSet.h"
 
@@ -60,9 +61,7 @@ double differingPart(const QImage& a, const QImage& b)
 
 TEST_F(VectorPage, IsSoundInEveryStyle)
 {
-  for (const plotStyles style :
-       {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot, scatterWithErrorBars,
-        fitParameterDistribution, parallelCoordinates})
+  for (const plotStyles style : drawnStyles)
     for (const Vectors vectors : {Vectors::All, Vectors::Auto, Vectors::None})
     {
       draw(style);
@@ -153,8 +152,7 @@ TEST_F(VectorPage, EndsLinesAndMarkersOfAnEnlargedPartAtItsEdges)
 
 TEST_F(VectorPage, IsLaidOutForItsSizeAtOnce)
 {
-  for (const plotStyles style : {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot,
-                                 scatterWithErrorBars, parallelCoordinates})
+  for (const plotStyles style : drawnStyles)
   {
     draw(style);
     widget->updatePlot(true);

@@ -1,6 +1,7 @@
 #include "app/window/PlotDock.h"
 
 #include "app/window/NameBox.h"
+#include "support/DrawnStyles.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,9 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <iterator>
+#include <vector>
 
 using namespace Talmesh::app;
 
@@ -170,8 +174,7 @@ TEST_F(PlotDockOfFourColumns, EnablesWhatTheStyleKnows)
 
 TEST_F(PlotDockOfFourColumns, EnablesTheLogarithmicXAxisWhereItActs)
 {
-  for (const plotStyles style : {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot,
-                                 scatterWithErrorBars, fitParameterDistribution})
+  for (const plotStyles style : drawnStyles)
   {
     PlotChoice choice = dock.choice();
     choice.style = style;
@@ -187,14 +190,13 @@ TEST_F(PlotDockOfFourColumns, ShowsLegendAndLogarithmicYAxisWhereTheyAct)
   PlotChoice choice = dock.choice();
   choice.legend = true;
   choice.logY = true;
-  for (const plotStyles style :
-       {xyPlot, scatterPlotMatrix, xyzPlot, multiPlot, selectionCdfPlot, scatterWithErrorBars,
-        fitParameterDistribution, parallelCoordinates, xyPlot})
+  dock.setChoice(choice);
+  std::vector<plotStyles> styles(std::begin(drawnStyles), std::end(drawnStyles));
+  styles.push_back(xyPlot);
+  for (const plotStyles style : styles)
   {
     SCOPED_TRACE(style);
     combo("style")->setCurrentIndex(combo("style")->findData(static_cast<int>(style)));
-    if (style == xyPlot)
-      dock.setChoice(choice);
     const bool logarithmic = style == xyPlot || style == multiPlot || style == selectionCdfPlot;
     EXPECT_EQ(box("logY")->isEnabled(), logarithmic);
     EXPECT_EQ(box("logY")->isChecked(), logarithmic);

@@ -2,6 +2,7 @@
 #include "app/session/RunSelectionFile.h"
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
+#include "support/DrawnStyles.h"
 
 #include <vtkScatterPlotMatrix.h>
 
@@ -20,14 +21,6 @@ constexpr int manyRuns = 10;
 constexpr int manyPoints = 6;
 constexpr plotStyles charts[] = {xyPlot, selectionCdfPlot, multiPlot, scatterWithErrorBars,
                                  scatterPlotMatrix};
-constexpr plotStyles allStyles[] = {xyPlot,
-                                    scatterPlotMatrix,
-                                    xyzPlot,
-                                    multiPlot,
-                                    selectionCdfPlot,
-                                    scatterWithErrorBars,
-                                    fitParameterDistribution,
-                                    parallelCoordinates};
 
 /// Gestures of all kinds in the charts of several styles.
 class RandomGestures : public GesturesInWindow
@@ -99,7 +92,7 @@ protected:
     for (const int run : expected)
       for (int point = 0; point < manyPoints; ++point)
         rows.insert(run * manyPoints + point);
-    for (const plotStyles style : allStyles)
+    for (const plotStyles style : drawnStyles)
     {
       choose(style);
       EXPECT_EQ(runs(), expected) << style;

@@ -1,3 +1,5 @@
+#include "support/DrawnStyles.h"
+
 #include <vtkChartParallelCoordinates.h>
 #include <vtkStringArray.h>
 #include <vtkTable.h>
@@ -11,15 +13,6 @@ namespace
 {
 
 using namespace Talmesh::app;
-
-constexpr plotStyles drawnStyles[] = {xyPlot,
-                                      scatterPlotMatrix,
-                                      xyzPlot,
-                                      multiPlot,
-                                      selectionCdfPlot,
-                                      scatterWithErrorBars,
-                                      fitParameterDistribution,
-                                      parallelCoordinates};
 
 /// What one style does to the selection of another.
 class SelectionInEveryStyle : public SelectionInWindow
