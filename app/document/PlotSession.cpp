@@ -72,12 +72,6 @@ SessionSource sessionOf(const Study& study, PlotContainer& container, const Plot
   return source;
 }
 
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
-                        const PlotChoice& choice, const RunNormaliser* normaliser)
-{
-  return saveSession(path, sessionOf(study, container, choice, normaliser));
-}
-
 PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container)
 {
   PlotChoice choice = choiceOf(container);

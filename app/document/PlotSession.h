@@ -16,10 +16,6 @@ class RunNormaliser;
 SessionSource sessionOf(const Study& study, PlotContainer& container, const PlotChoice& choice,
                         const RunNormaliser* normaliser = nullptr);
 
-/// As `saveSession` of such a source.
-std::string saveSession(const QString& path, const Study& study, PlotContainer& container,
-                        const PlotChoice& choice, const RunNormaliser* normaliser = nullptr);
-
 /// What the user had chosen, in a container whose settings are restored.
 PlotChoice restoredChoice(const RestoredSession& session, const PlotContainer& container);
 

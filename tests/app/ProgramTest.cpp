@@ -224,7 +224,8 @@ TEST_F(Program, ExportsTheRunsOfASessionAsNormalisedAsTheyWereShown)
   showStudy(study, container);
   const auto largestExported = [&](const RunNormaliser& normaliser)
   {
-    EXPECT_EQ(saveSession(path("a.talmesh"), study, container, choiceOf(container), &normaliser),
+    EXPECT_EQ(saveSession(path("a.talmesh"),
+                          sessionOf(study, container, choiceOf(container), &normaliser)),
               "");
     expectSuccess({path("a.talmesh"), "--export", path("a.csv")});
     const ImportedTable table = importRunTable(contentOf(path("a.csv")).toStdString()).value();
@@ -252,7 +253,7 @@ TEST_F(Program, ShowsTheLegendOfASessionInTheXYPlot)
   {
     PlotChoice choice = choiceOf(container);
     choice.legend = shown;
-    EXPECT_EQ(saveSession(path("a.talmesh"), study, container, choice), "");
+    EXPECT_EQ(saveSession(path("a.talmesh"), sessionOf(study, container, choice)), "");
     expectSuccess({path("a.talmesh"), "--style", "xyPlot", "--size", "300x200", "--export",
                    path("plot.png")});
     return QImage(path("plot.png"));

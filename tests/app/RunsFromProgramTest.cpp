@@ -114,7 +114,9 @@ TEST_F(RunsFromProgram, HaveTheValuesThatASessionShows)
   RunNormaliser normaliser;
   normaliser.follow(&container);
   normaliser.setNormalised({0}, true);
-  ASSERT_EQ(saveSession(path("a.talmesh"), study, container, choiceOf(container), &normaliser), "");
+  ASSERT_EQ(
+      saveSession(path("a.talmesh"), sessionOf(study, container, choiceOf(container), &normaliser)),
+      "");
   expectSuccess({path("a.talmesh"), "--runs", path("out.csv")});
   const QList<QByteArray> lines = contentOf(path("out.csv")).split('\n');
   ASSERT_EQ(lines.size(), 5);

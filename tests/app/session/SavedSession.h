@@ -33,7 +33,9 @@ protected:
   void save(const Talmesh::app::Study& study, PlotContainer& container)
   {
     EXPECT_EQ(
-        Talmesh::app::saveSession(path(), study, container, Talmesh::app::choiceOf(container)), "");
+        Talmesh::app::saveSession(
+            path(), Talmesh::app::sessionOf(study, container, Talmesh::app::choiceOf(container))),
+        "");
   }
 
   /// Opens what was saved and shows it in a fresh container.

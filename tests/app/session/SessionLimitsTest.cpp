@@ -91,7 +91,7 @@ protected:
   {
     PlotContainer container(nullptr);
     showStudy(study, container);
-    return saveSession(path(), study, container, choiceOf(container));
+    return saveSession(path(), sessionOf(study, container, choiceOf(container)));
   }
 
   /// What a study looks like with the settings of a plot, written as JSON.
@@ -155,11 +155,11 @@ TEST_F(SessionLimits, OnlyAsManyColumnsAreSavedAsCanBeOpened)
   const Study shown = studyOf({items.front()});
   PlotContainer container(nullptr);
   showStudy(shown, container);
-  EXPECT_EQ(saveSession(path(), study, container, choiceOf(container)), "");
+  EXPECT_EQ(saveSession(path(), sessionOf(study, container, choiceOf(container))), "");
   EXPECT_EQ(openSession(path()).error(), "");
   items.emplace_back(Talmesh::Molecule, "one more");
   study = studyOf(items);
-  EXPECT_EQ(saveSession(path(), study, container, choiceOf(container)),
+  EXPECT_EQ(saveSession(path(), sessionOf(study, container, choiceOf(container))),
             path().toStdString() + ": the table is too large for a session");
 }
 
@@ -289,7 +289,7 @@ TEST_F(SessionLimits, SaysThatThereIsNoMemoryToSave)
   std::string error;
   {
     const TightMemory tight(16 << 20);
-    error = saveSession(path(), study, container, choiceOf(container));
+    error = saveSession(path(), sessionOf(study, container, choiceOf(container)));
   }
   EXPECT_EQ(error, path().toStdString() + ": there is not enough memory to save the session");
   EXPECT_FALSE(QFile::exists(path()));

@@ -139,7 +139,7 @@ TEST_F(Session, KeepsLegendAndLogarithmInEveryStyle)
     PlotChoice choice = choiceOf(container);
     choice.legend = true;
     choice.logY = true;
-    ASSERT_EQ(saveSession(path(), study, container, choice), "");
+    ASSERT_EQ(saveSession(path(), sessionOf(study, container, choice)), "");
     PlotContainer& again = reopen();
     again.redraw();
     const PlotChoice restoredOne = restoredChoice(*opened.session, again);
