@@ -2,6 +2,7 @@
 #define TasksInWindow_h
 
 #include "app/document/Document.h"
+#include "app/tasks/TaskRunner.h"
 #include "app/window/MainWindow.h"
 #include "app/window/SessionController.h"
 #include "plot/PlotContainer.h"
@@ -10,12 +11,15 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QFile>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <random>
 
@@ -85,6 +89,32 @@ protected:
   bool waitForEnd()
   {
     return QTest::qWaitFor([this] { return !window->isBusy(); }, patience);
+  }
+
+  /// Expects the window to have answered events while it was busy, also on a machine that rarely
+  /// comes to it: what was started is started again until it has.
+  void expectHeartbeats(const std::function<void()>& startAgain)
+  {
+    int beats = 0;
+    QTimer heart;
+    QObject::connect(&heart, &QTimer::timeout, [&] { beats += window->isBusy() ? 1 : 0; });
+    heart.start(1);
+    for (int times = 0; times < 20; ++times)
+    {
+      ASSERT_TRUE(waitForEnd());
+      if (beats > 3)
+        return;
+      startAgain();
+    }
+    ADD_FAILURE() << beats << " answers";
+  }
+
+  /// Nothing is at work any more, and what has ended was told.
+  void letThreadsEnd()
+  {
+    for (auto* runner : window->findChildren<Talmesh::app::TaskRunner*>())
+      runner->waitForEnd();
+    QCoreApplication::processEvents();
   }
 
   /// Starts to sort many runs into many groups.
