@@ -76,6 +76,8 @@ private:
 Result<QString> write(const PaintedPlot& painted, const TaskProgress& progress)
 {
   CancellableWriting writing(progress);
+  if (!writing.goOn(0.0))
+    return Result<QString>::cancelled();
   const QByteArray bytes = painted.picture.isNull() ? painted.page : pngBytes(painted.picture);
   if (bytes.isEmpty() && !painted.table)
     return Result<QString>::failed(notPainted());

@@ -116,7 +116,13 @@ void ExportController::writeNext()
   waiting.pop_front();
   emit said(tr("Writing %1 ...").arg(next->path));
   runner->start<QString>(
-      this, [next](const TaskProgress& progress) { return writePlot(*next, progress); },
+      this,
+      [this, next](const TaskProgress& progress)
+      {
+        // What was cancelled may still be at work, on the same file.
+        const std::lock_guard<std::mutex> alone(writing);
+        return writePlot(*next, progress);
+      },
       [this, next](const Result<QString>& result)
       {
         announce(next->path, result.error());

@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <functional>
+#include <mutex>
 #include <string>
 
 class QWidget;
@@ -61,6 +62,8 @@ private:
 
   VtkPlotWidget& plot;
   TaskRunner* runner;
+  /// Held by the thread that writes.
+  std::mutex writing;
   std::deque<PaintedPlot> waiting;
   std::function<void()> following;
   QWidget& window;

@@ -2,8 +2,13 @@
 
 #include <QDir>
 #include <QMessageBox>
-#include <QTimer>
 #include <QToolButton>
+
+#include <algorithm>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "window/TasksInWindow.h"
 
@@ -14,22 +19,79 @@ namespace
 
 using ExportsInWindow = TasksInWindow;
 
+/// A pipe that its writers find full until it is read.
+class SlowPipe
+{
+public:
+  explicit SlowPipe(const QString& path)
+  {
+    const QByteArray name = QFile::encodeName(path);
+    EXPECT_EQ(mkfifo(name.constData(), 0600), 0);
+    // Its own writer, so that it does not end with the first of the others.
+    pipe = ::open(name.constData(), O_RDWR | O_NONBLOCK);
+  }
+  ~SlowPipe() { ::close(pipe); }
+  SlowPipe(const SlowPipe&) = delete;
+  SlowPipe& operator=(const SlowPipe&) = delete;
+
+  bool holdsSomething() const
+  {
+    int bytes = 0;
+    return ::ioctl(pipe, FIONREAD, &bytes) == 0 && bytes > 0;
+  }
+  /// All that is there.
+  QByteArray read() const
+  {
+    QByteArray all;
+    char bytes[4096];
+    for (ssize_t got = 1; got > 0;)
+    {
+      got = ::read(pipe, bytes, sizeof bytes);
+      all.append(bytes, static_cast<int>(std::max<ssize_t>(got, 0)));
+    }
+    return all;
+  }
+
+private:
+  int pipe = -1;
+};
+
 } // namespace
 
 TEST_F(ExportsInWindow, StaysAliveWhileATableIsWritten)
 {
   open(noise(400, 500));
-  window->exportController().exportTo(path("table.csv"));
-  EXPECT_TRUE(window->isBusy());
-  EXPECT_TRUE(find<QToolButton>("cancelExport")->isVisible());
+  const auto start = [this]
+  {
+    window->exportController().exportTo(path("table.csv"));
+    ASSERT_TRUE(window->isBusy());
+    EXPECT_TRUE(find<QToolButton>("cancelExport")->isVisible());
+  };
+  start();
   EXPECT_FALSE(QFile::exists(path("table.csv"))) << "appears when it is whole";
-  int beats = 0;
-  QTimer heart;
-  QObject::connect(&heart, &QTimer::timeout, [&beats] { ++beats; });
-  heart.start(1);
-  ASSERT_TRUE(waitForEnd());
-  EXPECT_GT(beats, 3);
+  expectHeartbeats(start);
   EXPECT_EQ(contentOf(path("table.csv")), tableAsText());
+}
+
+TEST_F(ExportsInWindow, WritesAFileAnewThoughItsCancelledWritingIsNotAtItsEndYet)
+{
+  open(noise(1000, 500));
+  const QByteArray table = tableAsText();
+  const SlowPipe pipe(path("table.csv"));
+  window->exportController().exportTo(path("table.csv"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return pipe.holdsSomething(); }, patience));
+  click("cancelExport");
+  window->exportController().exportTo(path("table.csv"));
+  QByteArray written;
+  const auto isRead = [&]
+  {
+    written += pipe.read();
+    return !window->isBusy();
+  };
+  ASSERT_TRUE(QTest::qWaitFor(isRead, patience));
+  written += pipe.read();
+  EXPECT_GT(written.size(), table.size()) << "after what was written before the cancel";
+  EXPECT_TRUE(written.endsWith(table)) << "and not between its bytes";
 }
 
 TEST_F(ExportsInWindow, WritesWhatWasShownThoughAnotherStudyIsOpened)
