@@ -3,6 +3,7 @@
 #include "app/comparison/ComparisonFile.h"
 #include "app/comparison/ComparisonModel.h"
 #include "app/comparison/ComparisonText.h"
+#include "app/panels/PanelParts.h"
 #include "widgets/WidgetSupport.h"
 
 #include <QAction>
@@ -10,14 +11,13 @@
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QSortFilterProxyModel>
 #include <QStackedWidget>
 #include <QTableView>
-#include <QToolButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -88,21 +88,18 @@ ComparisonTable::ComparisonTable(QWidget* parent)
     , model(new ComparisonModel(this))
     , sorted(new ValuesFirst(this))
     , pages(new QStackedWidget)
-    , explanation(new QLabel)
+    , explanation(makeExplanation({}))
     , summary(new QLabel)
     , view(makeView())
-    , copyStep(addStep(tr("&Copy"), "copyComparison", &ComparisonTable::copy))
-    , saveStep(addStep(tr("&Save..."), "saveComparison", &ComparisonTable::chooseFileAndSave))
+    , copyStep(addStep(*view, tr("&Copy"), "copyComparison", *this, &ComparisonTable::copy))
+    , saveStep(addStep(*view, tr("&Save..."), "saveComparison", *this,
+                       &ComparisonTable::chooseFileAndSave))
 {
   copyStep->setShortcut(QKeySequence::Copy);
   copyStep->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   copyStep->setToolTip(tr("Copy the table, or its selected rows, for a spreadsheet (Ctrl+C)"));
   saveStep->setToolTip(tr("Write the table to a CSV file"));
   explanation->setObjectName(QStringLiteral("comparisonExplanation"));
-  explanation->setWordWrap(true);
-  explanation->setAlignment(Qt::AlignCenter);
-  explanation->setMargin(explanation->fontMetrics().averageCharWidth());
-
   summary->setObjectName(QStringLiteral("comparisonSummary"));
   summary->setWordWrap(true);
   summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -112,7 +109,7 @@ ComparisonTable::ComparisonTable(QWidget* parent)
   grid->setContentsMargins(0, 0, 0, 0);
   grid->addWidget(summary, 0, 0, 1, 2);
   grid->addWidget(view, 1, 0);
-  grid->addWidget(makeButtons(), 1, 1);
+  grid->addWidget(makeButtonColumn({copyStep, saveStep}), 1, 1);
   grid->setRowStretch(1, 1);
   grid->setColumnStretch(0, 1);
   pages->addWidget(explanation);
@@ -148,33 +145,6 @@ QTableView* ComparisonTable::makeView()
   table->horizontalHeader()->setMaximumSectionSize(widest);
   table->setTextElideMode(Qt::ElideMiddle);
   return table;
-}
-
-QAction* ComparisonTable::addStep(const QString& text, const char* name,
-                                  void (ComparisonTable::*slot)())
-{
-  auto* action = new QAction(text, this);
-  action->setObjectName(QLatin1String(name));
-  connect(action, &QAction::triggered, this, slot);
-  view->addAction(action);
-  return action;
-}
-
-QWidget* ComparisonTable::makeButtons()
-{
-  auto* buttons = new QWidget;
-  auto* column = new QVBoxLayout(buttons);
-  column->setContentsMargins(0, 0, 0, 0);
-  for (QAction* step : {copyStep, saveStep})
-  {
-    auto* button = new QToolButton;
-    button->setDefaultAction(step);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    column->addWidget(button);
-  }
-  column->addStretch();
-  return buttons;
 }
 
 /// The row of a parameter; -1 without it.

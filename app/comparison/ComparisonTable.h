@@ -57,8 +57,6 @@ private:
   int rowOf(const QVariant& name) const;
   void replaceRows(const std::vector<ComparedParameter>& parameters);
   QTableView* makeView();
-  QWidget* makeButtons();
-  QAction* addStep(const QString& text, const char* name, void (ComparisonTable::*slot)());
 
   ComparisonModel* model;
   QSortFilterProxyModel* sorted;

@@ -1,6 +1,6 @@
 #include "app/window/ClusterDock.h"
 
-#include "app/window/PanelParts.h"
+#include "app/panels/PanelParts.h"
 
 #include <QCheckBox>
 #include <QComboBox>

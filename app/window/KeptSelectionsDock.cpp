@@ -1,8 +1,8 @@
 #include "app/window/KeptSelectionsDock.h"
 
 #include "app/document/Document.h"
+#include "app/panels/PanelParts.h"
 #include "app/window/FileDialogs.h"
-#include "app/window/PanelParts.h"
 
 #include <QAction>
 #include <QColorDialog>
@@ -80,12 +80,17 @@ KeptSelectionsDock::KeptSelectionsDock(Document& shown, QWidget* parent)
     , document(shown)
     , tree(makeTree())
     , pages(new QStackedWidget)
-    , keepAction(addStep(tr("Keep selection"), "keepSelection", &KeptSelectionsDock::keep))
+    , keepAction(
+          addStep(*tree, tr("Keep selection"), "keepSelection", *this, &KeptSelectionsDock::keep))
     , selectAction(addCombinations())
-    , renameAction(addStep(tr("Rename"), "renameSelection", &KeptSelectionsDock::rename))
-    , colourAction(addStep(tr("Colour..."), "colourSelection", &KeptSelectionsDock::chooseColour))
-    , removeAction(addStep(tr("Remove"), "removeSelection", &KeptSelectionsDock::remove))
-    , saveAction(addStep(tr("Save all..."), "saveKeptSelections", &KeptSelectionsDock::save))
+    , renameAction(
+          addStep(*tree, tr("Rename"), "renameSelection", *this, &KeptSelectionsDock::rename))
+    , colourAction(addStep(*tree, tr("Colour..."), "colourSelection", *this,
+                           &KeptSelectionsDock::chooseColour))
+    , removeAction(
+          addStep(*tree, tr("Remove"), "removeSelection", *this, &KeptSelectionsDock::remove))
+    , saveAction(
+          addStep(*tree, tr("Save all..."), "saveKeptSelections", *this, &KeptSelectionsDock::save))
 {
   setObjectName(QStringLiteral("keptSelectionsDock"));
   keepAction->setShortcut(QKeySequence(tr("Ctrl+K")));
@@ -107,16 +112,6 @@ KeptSelectionsDock::KeptSelectionsDock(Document& shown, QWidget* parent)
   connect(&document.selection(), &SelectionController::changed, this,
           &KeptSelectionsDock::enableSteps);
   list();
-}
-
-QAction* KeptSelectionsDock::addStep(const QString& text, const char* name,
-                                     void (KeptSelectionsDock::*slot)())
-{
-  auto* action = new QAction(text, this);
-  action->setObjectName(QLatin1String(name));
-  connect(action, &QAction::triggered, this, slot);
-  tree->addAction(action);
-  return action;
 }
 
 QAction* KeptSelectionsDock::addCombinations()

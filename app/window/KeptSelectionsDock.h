@@ -33,7 +33,6 @@ signals:
   void failed(const QString& message);
 
 private:
-  QAction* addStep(const QString& text, const char* name, void (KeptSelectionsDock::*slot)());
   QAction* addCombinations();
   QWidget* makePanel();
   void keep();

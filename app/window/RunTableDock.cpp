@@ -1,8 +1,8 @@
 #include "app/window/RunTableDock.h"
 
 #include "app/document/Document.h"
+#include "app/panels/PanelParts.h"
 #include "app/window/FileDialogs.h"
-#include "app/window/PanelParts.h"
 #include "app/window/RunColumnMenu.h"
 #include "app/window/RunTableModel.h"
 #include "app/window/RunTableView.h"
@@ -67,8 +67,8 @@ RunTableDock::RunTableDock(Document& shown, QWidget* parent)
     , explanation(makeExplanation({}))
     , columns(new RunColumnMenu(this))
     , columnStep(columns->menuAction())
-    , copyStep(addStep(tr("Copy"), "copyRuns", &RunTableDock::copy))
-    , saveStep(addStep(tr("Save..."), "saveRuns", &RunTableDock::save))
+    , copyStep(addStep(*view, tr("Copy"), "copyRuns", *this, &RunTableDock::copy))
+    , saveStep(addStep(*view, tr("Save..."), "saveRuns", *this, &RunTableDock::save))
     , idle(new QTimer(this))
 {
   setObjectName(QStringLiteral("runTableDock"));
@@ -103,15 +103,6 @@ RunTableDock::RunTableDock(Document& shown, QWidget* parent)
 }
 
 RunTableDock::~RunTableDock() = default;
-
-QAction* RunTableDock::addStep(const QString& text, const char* name, void (RunTableDock::*slot)())
-{
-  auto* action = new QAction(text, this);
-  action->setObjectName(QLatin1String(name));
-  connect(action, &QAction::triggered, this, slot);
-  view->addAction(action);
-  return action;
-}
 
 QWidget* RunTableDock::makePanel()
 {

@@ -47,7 +47,6 @@ signals:
 
 private:
   QWidget* makePanel();
-  QAction* addStep(const QString& text, const char* name, void (RunTableDock::*slot)());
   void takeStudy();
   void invalidate();
   void begin();

@@ -1,7 +1,7 @@
 #include "app/window/StepsDock.h"
 
 #include "app/document/SelectionController.h"
-#include "app/window/PanelParts.h"
+#include "app/panels/PanelParts.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,14 +24,14 @@ StepsDock::StepsDock(SelectionController& shown, QWidget* parent)
   list->setContextMenuPolicy(Qt::ActionsContextMenu);
   list->setAlternatingRowColors(true);
   list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-  copyStepsAction = addStep(*list, tr("Copy steps"), "copySteps", &StepsDock::copySteps);
+  copyStepsAction = addStep(*list, tr("Copy steps"), "copySteps", *this, &StepsDock::copySteps);
   copyStepsAction->setToolTip(tr("Copy the steps so far, as for a description of methods"));
   copyConditionAction =
-      addStep(*list, tr("Copy condition"), "copyCondition", &StepsDock::copyCondition);
+      addStep(*list, tr("Copy condition"), "copyCondition", *this, &StepsDock::copyCondition);
   copyConditionAction->setToolTip(
       tr("Copy the condition that the selected runs meet, and no others"));
   reuseAction =
-      addStep(*list, tr("Put into the line"), "reuseCondition", &StepsDock::reuseCondition);
+      addStep(*list, tr("Put into the line"), "reuseCondition", *this, &StepsDock::reuseCondition);
   reuseAction->setToolTip(
       tr("Put that condition into the line \"Runs where\", to change it or to use it with another "
          "study"));
@@ -44,16 +44,6 @@ StepsDock::StepsDock(SelectionController& shown, QWidget* parent)
   connect(&selection.undoGroup(), &QUndoGroup::indexChanged, this, &StepsDock::enableSteps);
   connect(&selection, &SelectionController::changed, this, &StepsDock::enableSteps);
   enableSteps();
-}
-
-QAction* StepsDock::addStep(QWidget& list, const QString& text, const char* name,
-                            void (StepsDock::*slot)())
-{
-  auto* action = new QAction(text, this);
-  action->setObjectName(QLatin1String(name));
-  connect(action, &QAction::triggered, this, slot);
-  list.addAction(action);
-  return action;
 }
 
 QString StepsDock::stepsText() const

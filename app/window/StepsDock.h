@@ -30,7 +30,6 @@ signals:
   void said(const QString& message);
 
 private:
-  QAction* addStep(QWidget& list, const QString& text, const char* name, void (StepsDock::*slot)());
   void copySteps();
   void copyCondition();
   void reuseCondition();

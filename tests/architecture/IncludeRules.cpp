@@ -33,8 +33,9 @@ const Reach& reachableRooms()
   static const Reach rooms{
       {"import", {"import"}},
       {"styles", {"styles"}},
+      {"panels", {"panels"}},
       {"memory", {"memory", "styles", "import"}},
-      {"comparison", {"comparison", "styles", "import"}},
+      {"comparison", {"comparison", "styles", "panels", "import"}},
       {"runs", {"runs", "import"}},
       {"session", {"session", "styles", "import"}},
       {"tasks", {"tasks", "import"}},
@@ -43,7 +44,7 @@ const Reach& reachableRooms()
       {"examples", {"examples", "export", "document", "session", "comparison", "styles", "import"}},
       {"window",
        {"window", "examples", "export", "document", "tasks", "session", "runs", "comparison",
-        "styles", "import"}},
+        "styles", "panels", "import"}},
   };
   return rooms;
 }

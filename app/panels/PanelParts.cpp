@@ -1,4 +1,4 @@
-#include "app/window/PanelParts.h"
+#include "app/panels/PanelParts.h"
 
 #include <QAction>
 #include <QLabel>
