@@ -1,7 +1,13 @@
 #include "stats/RankStatistic.h"
 
+#include "stats/LevelCounts.h"
+#include "stats/MannWhitney.h"
+#include "stats/SmallTails.h"
+#include "stats/TiedKolmogorovSmirnov.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -24,6 +30,15 @@ std::vector<Cell> sortedCells(const ExchangeUnits& units, const std::vector<doub
   }
   std::sort(cells.begin(), cells.end());
   return cells;
+}
+
+/// Of any of the tests.
+template <class Test>
+void takeP(const Test& test, ParameterComparison& row)
+{
+  const double p = test.p > smallestSafeP ? test.p : std::exp(test.logP);
+  row.p = std::max(p, std::numeric_limits<double>::min());
+  row.logP = test.logP;
 }
 } // namespace
 
@@ -148,5 +163,27 @@ double RankedCells::statistic(ComparedBy comparedBy, const CellGroups& groups) c
                 chiSquared += deviation * deviation / (expected * (1.0 - part));
               });
   return chiSquared;
+}
+
+void testIndependentRuns(ComparedBy comparedBy, const TieBlocks& blocks, ParameterComparison& row)
+{
+  if (comparedBy == ComparedBy::distribution)
+  {
+    const KsTest test = tiedKsTest(blocks);
+    takeP(test, row);
+    row.method = test.exact ? TestMethod::exactDistribution : TestMethod::asymptoticDistribution;
+  }
+  else if (comparedBy == ComparedBy::rankSum)
+  {
+    const MannWhitneyTest test = mannWhitneyTest(blocks);
+    takeP(test, row);
+    row.method = test.exact ? TestMethod::exactRankSum : TestMethod::normalRankSum;
+  }
+  else
+  {
+    const CountsTest test = levelCountsTest(blocks);
+    takeP(test, row);
+    row.method = test.exact ? TestMethod::exactCounts : TestMethod::chiSquaredCounts;
+  }
 }
 } // namespace Talmesh::stats

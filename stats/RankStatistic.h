@@ -2,6 +2,7 @@
 #define RankStatistic_h
 
 #include "stats/ExchangeUnits.h"
+#include "stats/ParameterComparison.h"
 #include "stats/TieBlocks.h"
 
 #include <cstdint>
@@ -58,6 +59,9 @@ private:
   /// Runs up to the end of each block.
   std::vector<std::uint64_t> runsBelow;
 };
+
+/// Adds the test of independent runs to a row: p, its logarithm, and the method.
+void testIndependentRuns(ComparedBy comparedBy, const TieBlocks& blocks, ParameterComparison& row);
 } // namespace Talmesh::stats
 
 #endif

@@ -1,9 +1,9 @@
 #include "stats/RunComparison.h"
 
 #include "stats/AdjustedPValues.h"
+#include "stats/DescribedGroups.h"
 #include "stats/ExchangeUnits.h"
 #include "stats/GroupContrast.h"
-#include "stats/GroupTests.h"
 #include "stats/LevelCounts.h"
 #include "stats/ParallelParts.h"
 #include "stats/RankStatistic.h"

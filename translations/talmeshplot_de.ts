@@ -16,38 +16,6 @@
         <translation>größer und kleiner</translation>
     </message>
     <message>
-        <source>Kolmogorov-Smirnov test, exact for the ties there are</source>
-        <translation>Kolmogorow-Smirnow-Test, exakt für die vorhandenen gleichen Werte</translation>
-    </message>
-    <message>
-        <source>Kolmogorov-Smirnov test, the limit for large groups</source>
-        <translation>Kolmogorow-Smirnow-Test, Grenzfall großer Gruppen</translation>
-    </message>
-    <message>
-        <source>Mann-Whitney test, exact for the ties there are</source>
-        <translation>Mann-Whitney-Test, exakt für die vorhandenen gleichen Werte</translation>
-    </message>
-    <message>
-        <source>Mann-Whitney test, by the normal distribution with ties</source>
-        <translation>Mann-Whitney-Test, durch die Normalverteilung mit gleichen Werten</translation>
-    </message>
-    <message>
-        <source>Fisher&apos;s exact test of the counts per value</source>
-        <translation>Exakter Test von Fisher für die Anzahlen je Wert</translation>
-    </message>
-    <message>
-        <source>Chi-squared test of the counts per value</source>
-        <translation>Chi-Quadrat-Test der Anzahlen je Wert</translation>
-    </message>
-    <message>
-        <source>Permutations of whole parameter sets</source>
-        <translation>Vertauschungen ganzer Parametersätze</translation>
-    </message>
-    <message>
-        <source>Permutations of whole base samples</source>
-        <translation>Vertauschungen ganzer Grundstichproben</translation>
-    </message>
-    <message>
         <source>no values</source>
         <translation>keine Werte</translation>
     </message>
@@ -1242,56 +1210,8 @@ p, li { white-space: pre-wrap; }
         <translation>Wie ausgewählte Läufe von den übrigen unterschieden werden</translation>
     </message>
     <message>
-        <source>KS: distributions</source>
-        <translation>KS: Verteilungen</translation>
-    </message>
-    <message>
-        <source>Kolmogorov-Smirnov: any difference of the distributions, also values at both ends or in the middle</source>
-        <translation>Kolmogorow-Smirnow: jeder Unterschied der Verteilungen, auch Werte an beiden Enden oder in der Mitte</translation>
-    </message>
-    <message>
-        <source>Mann-Whitney: ranks</source>
-        <translation>Mann-Whitney: Ränge</translation>
-    </message>
-    <message>
-        <source>Whether selected runs tend to larger, or to smaller values; sharper for that, blind for differences both ways</source>
-        <translation>Ob ausgewählte Läufe zu größeren oder zu kleineren Werten neigen; dafür schärfer, blind für Unterschiede nach beiden Seiten</translation>
-    </message>
-    <message>
-        <source>Counts per value</source>
-        <translation>Anzahlen je Wert</translation>
-    </message>
-    <message>
-        <source>For parameters with few values, taken as names without an order: Fisher&apos;s exact test, or chi-squared for large tables</source>
-        <translation>Für Parameter mit wenigen Werten, die als Namen ohne Ordnung gelten: exakter Test von Fisher, bei großen Tafeln Chi-Quadrat</translation>
-    </message>
-    <message>
         <source>What the adjusted p bounds when several parameters are tested</source>
         <translation>Was das berichtigte p begrenzt, wenn mehrere Parameter geprüft werden</translation>
-    </message>
-    <message>
-        <source>BH: false discoveries</source>
-        <translation>BH: falsche Funde</translation>
-    </message>
-    <message>
-        <source>Benjamini and Hochberg: the expected part of false ones among all that are found</source>
-        <translation>Benjamini und Hochberg: der erwartete Anteil falscher unter allen gefundenen</translation>
-    </message>
-    <message>
-        <source>Holm: any false one</source>
-        <translation>Holm: jeden falschen</translation>
-    </message>
-    <message>
-        <source>Holm: the probability that any found one is false</source>
-        <translation>Holm: die Wahrscheinlichkeit, dass irgendein gefundener falsch ist</translation>
-    </message>
-    <message>
-        <source>maxT: any false one</source>
-        <translation>maxT: jeden falschen</translation>
-    </message>
-    <message>
-        <source>Westfall and Young: the same by permutations, less strict where parameters hang together</source>
-        <translation>Westfall und Young: dasselbe durch Vertauschungen, weniger streng, wo Parameter zusammenhängen</translation>
     </message>
     <message>
         <source>Parameters with at most this adjusted p count as different and are shown first</source>
@@ -2231,6 +2151,89 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>this cannot be done: %1</source>
         <translation>das ist nicht möglich: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestNames</name>
+    <message>
+        <source>KS: distributions</source>
+        <translation>KS: Verteilungen</translation>
+    </message>
+    <message>
+        <source>Kolmogorov-Smirnov: any difference of the distributions, also values at both ends or in the middle</source>
+        <translation>Kolmogorow-Smirnow: jeder Unterschied der Verteilungen, auch Werte an beiden Enden oder in der Mitte</translation>
+    </message>
+    <message>
+        <source>Mann-Whitney: ranks</source>
+        <translation>Mann-Whitney: Ränge</translation>
+    </message>
+    <message>
+        <source>Whether selected runs tend to larger, or to smaller values; sharper for that, blind for differences both ways</source>
+        <translation>Ob ausgewählte Läufe zu größeren oder zu kleineren Werten neigen; dafür schärfer, blind für Unterschiede nach beiden Seiten</translation>
+    </message>
+    <message>
+        <source>Counts per value</source>
+        <translation>Anzahlen je Wert</translation>
+    </message>
+    <message>
+        <source>For parameters with few values, taken as names without an order: Fisher&apos;s exact test, or chi-squared for large tables</source>
+        <translation>Für Parameter mit wenigen Werten, die als Namen ohne Ordnung gelten: exakter Test von Fisher, bei großen Tafeln Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>BH: false discoveries</source>
+        <translation>BH: falsche Funde</translation>
+    </message>
+    <message>
+        <source>Benjamini and Hochberg: the expected part of false ones among all that are found</source>
+        <translation>Benjamini und Hochberg: der erwartete Anteil falscher unter allen gefundenen</translation>
+    </message>
+    <message>
+        <source>Holm: any false one</source>
+        <translation>Holm: jeden falschen</translation>
+    </message>
+    <message>
+        <source>Holm: the probability that any found one is false</source>
+        <translation>Holm: die Wahrscheinlichkeit, dass irgendein gefundener falsch ist</translation>
+    </message>
+    <message>
+        <source>maxT: any false one</source>
+        <translation>maxT: jeden falschen</translation>
+    </message>
+    <message>
+        <source>Westfall and Young: the same by permutations, less strict where parameters hang together</source>
+        <translation>Westfall und Young: dasselbe durch Vertauschungen, weniger streng, wo Parameter zusammenhängen</translation>
+    </message>
+    <message>
+        <source>Kolmogorov-Smirnov test, exact for the ties there are</source>
+        <translation>Kolmogorow-Smirnow-Test, exakt für die vorhandenen gleichen Werte</translation>
+    </message>
+    <message>
+        <source>Kolmogorov-Smirnov test, the limit for large groups</source>
+        <translation>Kolmogorow-Smirnow-Test, Grenzfall großer Gruppen</translation>
+    </message>
+    <message>
+        <source>Mann-Whitney test, exact for the ties there are</source>
+        <translation>Mann-Whitney-Test, exakt für die vorhandenen gleichen Werte</translation>
+    </message>
+    <message>
+        <source>Mann-Whitney test, by the normal distribution with ties</source>
+        <translation>Mann-Whitney-Test, durch die Normalverteilung mit gleichen Werten</translation>
+    </message>
+    <message>
+        <source>Fisher&apos;s exact test of the counts per value</source>
+        <translation>Exakter Test von Fisher für die Anzahlen je Wert</translation>
+    </message>
+    <message>
+        <source>Chi-squared test of the counts per value</source>
+        <translation>Chi-Quadrat-Test der Anzahlen je Wert</translation>
+    </message>
+    <message>
+        <source>Permutations of whole parameter sets</source>
+        <translation>Vertauschungen ganzer Parametersätze</translation>
+    </message>
+    <message>
+        <source>Permutations of whole base samples</source>
+        <translation>Vertauschungen ganzer Grundstichproben</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "app/comparison/ComparisonFile.h"
 
+#include "app/comparison/TestNames.h"
 #include "widgets/FileWriter.h"
 
 #include <cmath>
@@ -34,42 +35,6 @@ QString directionCell(stats::Direction direction)
   return {};
 }
 
-QString permutedCell(const char* format, const stats::ParameterComparison& result)
-{
-  QString statistic = QStringLiteral("Kolmogorov-Smirnov");
-  if (result.comparedBy == stats::ComparedBy::rankSum)
-    statistic = QStringLiteral("Mann-Whitney");
-  else if (result.comparedBy == stats::ComparedBy::counts)
-    statistic = QStringLiteral("counts");
-  return QString(QLatin1String(format)).arg(statistic).arg(result.permutations);
-}
-
-QString methodOf(const stats::ParameterComparison& result)
-{
-  switch (result.method)
-  {
-  case stats::TestMethod::exactDistribution:
-    return QStringLiteral("Kolmogorov-Smirnov (exact)");
-  case stats::TestMethod::asymptoticDistribution:
-    return QStringLiteral("Kolmogorov-Smirnov (asymptotic)");
-  case stats::TestMethod::exactRankSum:
-    return QStringLiteral("Mann-Whitney (exact)");
-  case stats::TestMethod::normalRankSum:
-    return QStringLiteral("Mann-Whitney (normal)");
-  case stats::TestMethod::exactCounts:
-    return QStringLiteral("counts (Fisher)");
-  case stats::TestMethod::chiSquaredCounts:
-    return QStringLiteral("counts (chi-squared)");
-  case stats::TestMethod::permutedSets:
-    return permutedCell("%1 (%2 permutations of sets)", result);
-  case stats::TestMethod::permutedBaseSamples:
-    return permutedCell("%1 (%2 permutations of base samples)", result);
-  case stats::TestMethod::none:
-    break;
-  }
-  return QStringLiteral("not tested");
-}
-
 QString reasonOf(TestObstacle obstacle)
 {
   switch (obstacle)
@@ -101,7 +66,7 @@ QString reasonOf(TestObstacle obstacle)
 QString methodCell(const ComparedParameter& parameter)
 {
   if (parameter.obstacle == TestObstacle::none)
-    return methodOf(parameter.result);
+    return methodInFiles(parameter.result);
   return QStringLiteral("not tested: ") + reasonOf(parameter.obstacle);
 }
 

@@ -1,6 +1,7 @@
 #include "app/comparison/ComparisonModel.h"
 
 #include "app/comparison/ComparisonText.h"
+#include "app/comparison/TestNames.h"
 
 #include <QFont>
 

@@ -1,5 +1,6 @@
 #include "app/comparison/ComparisonSettings.h"
 
+#include "app/comparison/TestNames.h"
 #include "app/comparison/ThresholdBox.h"
 #include "app/styles/ViewerStyles.h"
 
@@ -36,18 +37,12 @@ QCheckBox* makeSwitch(const char* name, const QString& text, const QString& tool
 }
 
 /// The entries are the values of an enumeration, in its order.
-struct Entry
-{
-  QString text;
-  QString toolTip;
-};
-
-QComboBox* makeChoiceBox(const char* name, const QString& toolTip, const QList<Entry>& entries)
+QComboBox* makeChoiceBox(const char* name, const QString& toolTip, const QList<ChoiceName>& entries)
 {
   auto* box = new QComboBox;
   box->setObjectName(QLatin1String(name));
   box->setToolTip(toolTip);
-  for (const Entry& entry : entries)
+  for (const ChoiceName& entry : entries)
   {
     box->addItem(entry.text);
     box->setItemData(box->count() - 1, entry.toolTip, Qt::ToolTipRole);
@@ -137,22 +132,11 @@ void ComparisonSettings::addPages(QGridLayout* layout)
 
 void ComparisonSettings::addTests(QGridLayout* layout)
 {
-  comparedBy = makeChoiceBox(
-      "comparedBy", tr("How selected runs are told from the others"),
-      {{tr("KS: distributions"), tr("Kolmogorov-Smirnov: any difference of the distributions, also "
-                                    "values at both ends or in the middle")},
-       {tr("Mann-Whitney: ranks"), tr("Whether selected runs tend to larger, or to smaller values; "
-                                      "sharper for that, blind for differences both ways")},
-       {tr("Counts per value"),
-        tr("For parameters with few values, taken as names without an order: "
-           "Fisher's exact test, or chi-squared for large tables")}});
-  adjustment = makeChoiceBox(
-      "adjustment", tr("What the adjusted p bounds when several parameters are tested"),
-      {{tr("BH: false discoveries"),
-        tr("Benjamini and Hochberg: the expected part of false ones among all that are found")},
-       {tr("Holm: any false one"), tr("Holm: the probability that any found one is false")},
-       {tr("maxT: any false one"), tr("Westfall and Young: the same by permutations, less strict "
-                                      "where parameters hang together")}});
+  comparedBy = makeChoiceBox("comparedBy", tr("How selected runs are told from the others"),
+                             comparedByNames());
+  adjustment = makeChoiceBox("adjustment",
+                             tr("What the adjusted p bounds when several parameters are tested"),
+                             adjustmentNames());
   const int row = layout->rowCount();
   layout->addWidget(comparedBy, row, 0);
   layout->addWidget(adjustment, row, 1);

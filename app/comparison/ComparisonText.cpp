@@ -117,32 +117,6 @@ QString distanceText(const stats::ParameterComparison& result)
       .arg(result.interval.high, 0, 'f', 2);
 }
 
-QString methodText(stats::TestMethod method)
-{
-  switch (method)
-  {
-  case stats::TestMethod::exactDistribution:
-    return Words::tr("Kolmogorov-Smirnov test, exact for the ties there are");
-  case stats::TestMethod::asymptoticDistribution:
-    return Words::tr("Kolmogorov-Smirnov test, the limit for large groups");
-  case stats::TestMethod::exactRankSum:
-    return Words::tr("Mann-Whitney test, exact for the ties there are");
-  case stats::TestMethod::normalRankSum:
-    return Words::tr("Mann-Whitney test, by the normal distribution with ties");
-  case stats::TestMethod::exactCounts:
-    return Words::tr("Fisher's exact test of the counts per value");
-  case stats::TestMethod::chiSquaredCounts:
-    return Words::tr("Chi-squared test of the counts per value");
-  case stats::TestMethod::permutedSets:
-    return Words::tr("Permutations of whole parameter sets");
-  case stats::TestMethod::permutedBaseSamples:
-    return Words::tr("Permutations of whole base samples");
-  case stats::TestMethod::none:
-    break;
-  }
-  return {};
-}
-
 QString obstacleLabel(TestObstacle obstacle)
 {
   switch (obstacle)

@@ -21,7 +21,6 @@ QString adjustedText(const stats::ParameterComparison& result);
 QString directionText(stats::Direction direction);
 /// "0.53 (0.31-0.74)"; without what there is not.
 QString distanceText(const stats::ParameterComparison& result);
-QString methodText(stats::TestMethod method);
 /// Why there is no p, in a word or two and in a sentence.
 QString obstacleLabel(TestObstacle obstacle);
 QString obstacleText(TestObstacle obstacle);

@@ -1,6 +1,7 @@
 #include "app/document/PlotSession.h"
 
 #include "app/comparison/ComparisonChoice.h"
+#include "app/comparison/TestNames.h"
 #include "app/document/FeatureColumns.h"
 #include "app/document/RunNormaliser.h"
 
@@ -60,7 +61,8 @@ SessionSource sessionOf(const Study& study, PlotContainer& container, const Plot
 {
   SessionSource source{study, container, choice.legend, choice.logY, {}, {}, {}, {}, {}, {}, {}};
   const ComparisonChoice comparison = comparisonChoiceOf(container);
-  source.tests = {static_cast<int>(comparison.comparedBy), static_cast<int>(comparison.adjustment),
+  source.tests = {comparedByNames().value(static_cast<int>(comparison.comparedBy)).key,
+                  adjustmentNames().value(static_cast<int>(comparison.adjustment)).key,
                   comparison.halves};
   source.shown = {entriesOfFeatures({choice.x}), entriesOfFeatures(choice.y),
                   entriesOfFeatures({choice.z}), entriesOf(choice.axes)};
@@ -93,8 +95,10 @@ void restoreTests(const RestoredSession& session, PlotContainer& container)
 {
   ComparisonChoice choice = comparisonChoiceOf(container);
   const SessionTests& tests = session.settings.tests;
-  choice.comparedBy = static_cast<stats::ComparedBy>(tests.comparedBy);
-  choice.adjustment = static_cast<stats::Adjustment>(tests.adjustment);
+  choice.comparedBy =
+      static_cast<stats::ComparedBy>(positionOf(tests.comparedBy, comparedByNames()));
+  choice.adjustment =
+      static_cast<stats::Adjustment>(positionOf(tests.adjustment, adjustmentNames()));
   choice.halves = tests.halves;
   writeComparisonChoice(container, choice);
 }

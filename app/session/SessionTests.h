@@ -2,22 +2,23 @@
 #define SessionTests_h
 
 #include <QJsonObject>
+#include <QString>
 
 namespace Talmesh::app
 {
 
-/// What a session keeps of how selected runs are tested, beside the thresholds: positions in the
-/// lists that the user chooses from.
+/// What a session keeps of how selected runs are tested, beside the thresholds: keys of what the
+/// user chooses from.
 struct SessionTests
 {
-  int comparedBy = 0;
-  int adjustment = 0;
+  QString comparedBy;
+  QString adjustment;
   bool halves = false;
 };
 
 QJsonObject objectOf(const SessionTests& tests);
 
-/// What is missing, mistyped or unknown keeps its first value.
+/// What is missing or mistyped is empty.
 SessionTests readTests(const QJsonObject& object);
 
 } // namespace Talmesh::app

@@ -1,5 +1,7 @@
 #include "app/comparison/ComparisonText.h"
 
+#include "app/comparison/TestNames.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>

@@ -6,20 +6,19 @@ using namespace Talmesh::app;
 
 TEST(SessionTests, AreReadAsTheyWereWritten)
 {
-  for (int comparedBy = 0; comparedBy < 3; ++comparedBy)
-    for (int adjustment = 0; adjustment < 3; ++adjustment)
-    {
-      const SessionTests read = readTests(objectOf({comparedBy, adjustment, adjustment == 1}));
-      EXPECT_EQ(read.comparedBy, comparedBy);
-      EXPECT_EQ(read.adjustment, adjustment);
-      EXPECT_EQ(read.halves, adjustment == 1);
-    }
+  for (const bool halves : {false, true})
+  {
+    const SessionTests read = readTests(objectOf({"ranks", "holm", halves}));
+    EXPECT_EQ(read.comparedBy, "ranks");
+    EXPECT_EQ(read.adjustment, "holm");
+    EXPECT_EQ(read.halves, halves);
+  }
 }
 
-TEST(SessionTests, KeepTheFirstValueOfWhatIsUnknown)
+TEST(SessionTests, AreEmptyWhereTheyAreMistyped)
 {
-  const SessionTests read = readTests({{"compare", "tea leaves"}, {"adjust", 7}, {"halves", "x"}});
-  EXPECT_EQ(read.comparedBy, 0);
-  EXPECT_EQ(read.adjustment, 0);
+  const SessionTests read = readTests({{"adjust", 7}, {"halves", "x"}});
+  EXPECT_TRUE(read.comparedBy.isEmpty());
+  EXPECT_TRUE(read.adjustment.isEmpty());
   EXPECT_FALSE(read.halves);
 }
