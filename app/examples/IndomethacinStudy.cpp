@@ -1,5 +1,6 @@
 #include "app/examples/IndomethacinStudy.h"
 
+#include "external/TypedConcentrationName.h"
 #include "plot/TableColumns.h"
 
 #include <vtkTable.h>
@@ -98,7 +99,8 @@ vtkSmartPointer<vtkTable> indomethacinFitTable()
   table->AddColumn(plot::makeColumn("Sum of squares", scores));
   table->AddColumn(plot::makeColumn("Iteration", iterations));
   for (std::size_t i = 0; i < courses.size(); ++i)
-    table->AddColumn(plot::makeColumn(std::string("Parameter: ") + parameterNames[i], courses[i]));
+    table->AddColumn(
+        plot::makeColumn(selectionPairToString({Parameter, parameterNames[i]}), courses[i]));
   return table;
 }
 

@@ -1,33 +1,12 @@
 #include "architecture/IncludeRules.h"
 
 #include <filesystem>
-#include <map>
 #include <regex>
-#include <set>
 #include <sstream>
 
 namespace Talmesh::architecture
 {
-namespace
-{
 
-using Reach = std::map<std::string, std::set<std::string>>;
-
-const Reach& reachableLayers()
-{
-  static const Reach layers{
-      {"export", {"export"}},
-      {"external", {"external", "export"}},
-      {"stats", {"stats", "export"}},
-      {"vtk", {"vtk", "external", "stats", "export"}},
-      {"plot", {"plot", "vtk", "external", "stats", "export"}},
-      {"widgets", {"widgets", "plot", "vtk", "external", "stats", "export"}},
-      {"app", {"app", "widgets", "plot", "vtk", "external", "stats"}},
-  };
-  return layers;
-}
-
-/// The viewer's rooms. What lies in none of them puts the program together and reaches all.
 const Reach& reachableRooms()
 {
   static const Reach rooms{
@@ -47,6 +26,23 @@ const Reach& reachableRooms()
         "styles", "panels", "import"}},
   };
   return rooms;
+}
+
+namespace
+{
+
+const Reach& reachableLayers()
+{
+  static const Reach layers{
+      {"export", {"export"}},
+      {"external", {"external", "export"}},
+      {"stats", {"stats", "export"}},
+      {"vtk", {"vtk", "external", "stats", "export"}},
+      {"plot", {"plot", "vtk", "external", "stats", "export"}},
+      {"widgets", {"widgets", "plot", "vtk", "external", "stats", "export"}},
+      {"app", {"app", "widgets", "plot", "vtk", "external", "stats"}},
+  };
+  return layers;
 }
 
 std::string firstFolder(const std::string& path)

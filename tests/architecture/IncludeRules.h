@@ -1,6 +1,8 @@
 #ifndef IncludeRules_h
 #define IncludeRules_h
 
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,6 +10,12 @@
 /// external, stats <- vtk <- plot <- widgets <- app, an arrow pointing at what may be included.
 namespace Talmesh::architecture
 {
+
+using Reach = std::map<std::string, std::set<std::string>>;
+
+/// The viewer's rooms, and what each may include, itself among them. What lies in no room puts the
+/// program together and reaches all.
+const Reach& reachableRooms();
 
 /// What is wrong with the includes of one source file.
 /// @param path the file's path relative to the root of the tree, with forward slashes

@@ -5,6 +5,7 @@
 using Talmesh::architecture::duplicateNames;
 using Talmesh::architecture::guardViolations;
 using Talmesh::architecture::includeViolations;
+using Talmesh::architecture::reachableRooms;
 using Lines = std::vector<std::string>;
 
 TEST(IncludeRules, AllowEveryIncludeAlongTheArrows)
@@ -38,6 +39,14 @@ TEST(IncludeRules, LetTheViewersRoomsSeeEachOtherOneWay)
   EXPECT_EQ(includeViolations("app/main.cpp", "#include \"app/window/B.h\"\n"), Lines());
   EXPECT_EQ(includeViolations("app/attic/A.h", "#include \"app/import/B.h\"\n"),
             Lines{"app/attic/A.h:1: the viewer has no room attic"});
+}
+
+TEST(IncludeRules, HaveNoCircleOfRooms)
+{
+  for (const auto& [room, reached] : reachableRooms())
+    for (const std::string& other : reached)
+      EXPECT_TRUE(other == room || reachableRooms().at(other).count(room) == 0)
+          << room << ' ' << other;
 }
 
 TEST(IncludeRules, KeepTheTwoLowestLayersApart)
