@@ -6,6 +6,8 @@
 #include "app/memory/PaintingMemory.h"
 #include "external/PlotMetaData.h"
 
+#include <QScopedValueRollback>
+
 #include <utility>
 
 namespace Talmesh::app
@@ -39,7 +41,7 @@ void Document::show(PlotContainer* container)
   disconnect(settingsHeard);
   ownChart = nullptr;
   shown.container = container;
-  container->addCondition(this, [this] { return hasMemoryToDraw(); });
+  container->addCondition(this, [this] { return mayDraw(); });
   container->addPreparation(this, [this] { summarise(); });
   container->addCompletion(this,
                            [this]
@@ -56,8 +58,10 @@ void Document::show(PlotContainer* container)
 
 /// Asked when the settings say what will be drawn, also of drawings that the container begins by
 /// itself.
-bool Document::hasMemoryToDraw()
+bool Document::mayDraw()
 {
+  if (waits)
+    return false;
   if (isThere(memoryToDraw(*shown.container)))
     return true;
   error = cannotDraw(missingMemory());
@@ -81,7 +85,7 @@ void Document::followSettings()
     shown.choice = choiceOf(*shown.container);
     emit choiceChanged();
   }
-  emit drawn();
+  announceDrawing();
 }
 
 /// The container draws what is selected only where there are parameters to compare.
@@ -89,7 +93,7 @@ void Document::followSelection()
 {
   if (!shown.study.chart && drawings == beforeSelection)
     drawSilently();
-  emit drawn();
+  announceDrawing();
 }
 
 /// Containers that the document did not make are not its own.
@@ -141,7 +145,7 @@ void Document::followAxes()
 
 void Document::drawSilently()
 {
-  if (!shown.container)
+  if (!shown.container || waits)
     return;
   const auto draw = [this] { return whyNotDrawn([this] { shown.container->redraw(); }); };
   if (!shown.study.chart)
@@ -154,10 +158,17 @@ void Document::drawSilently()
   shown.choice = choiceOf(*shown.container);
 }
 
+/// What follows anyway is announced then.
+void Document::announceDrawing()
+{
+  if (!waits)
+    emit drawn();
+}
+
 void Document::draw()
 {
   drawSilently();
-  emit drawn();
+  announceDrawing();
 }
 
 void Document::choose(const PlotChoice& choice)
@@ -165,7 +176,7 @@ void Document::choose(const PlotChoice& choice)
   shown.choice = choice;
   drawSilently();
   emit choiceChanged();
-  emit drawn();
+  announceDrawing();
 }
 
 void Document::compareBy(const ComparisonChoice& choice)
@@ -179,6 +190,15 @@ void Document::chooseVariant(int variant)
 {
   if (ownChart)
     ownChart->choose(variant);
+  draw();
+}
+
+void Document::together(const std::function<void()>& changes)
+{
+  {
+    const QScopedValueRollback<bool> waiting(waits, true);
+    changes();
+  }
   draw();
 }
 
@@ -208,7 +228,7 @@ void Document::drawNewValues()
   shown.container->annotationUpdate();
   if (drawings == before)
     drawSilently();
-  emit drawn();
+  announceDrawing();
 }
 
 } // namespace Talmesh::app

@@ -90,6 +90,8 @@ public:
   void compareBy(const ComparisonChoice& choice);
   /// Of the study's own chart.
   void chooseVariant(int variant);
+  /// Makes several changes, an opening among them, and draws them together, once.
+  void together(const std::function<void()>& changes);
   /// Takes groups that were found for the runs now shown, see `GroupedRuns::clustering`, and shows
   /// them in their colours.
   void takeGroups(const RunClustering& found);
@@ -129,7 +131,7 @@ private:
     PlotChoice choice;
   };
 
-  bool hasMemoryToDraw();
+  bool mayDraw();
   std::string whyNotDrawn(const std::function<void()>& drawing);
   void leave(bool forOwnChart);
   void show(PlotContainer* container);
@@ -139,6 +141,7 @@ private:
   void summarise();
   void followAxes();
   void drawSilently();
+  void announceDrawing();
   void drawNewValues();
   void followSelection();
   void followSettings();
@@ -158,6 +161,8 @@ private:
   KeptSelections keptSelections;
   std::string error;
   std::function<bool(std::size_t)> isThere;
+  /// Whether a drawing follows anyway.
+  bool waits = false;
   QMetaObject::Connection settingsHeard;
   /// Drawings of the container now shown that came to their end, whoever asked for them.
   unsigned long drawings = 0;

@@ -23,7 +23,7 @@ std::string Document::open(const OpenedStudy& opened, const PlotWishes& wishes)
   else
     failure = openData(opened, wishes);
   emit studyChanged();
-  emit drawn();
+  announceDrawing();
   return failure;
 }
 
@@ -91,7 +91,7 @@ void Document::returnToRuns()
   selected.endVisit();
   drawSilently();
   emit studyChanged();
-  emit drawn();
+  announceDrawing();
 }
 
 } // namespace Talmesh::app

@@ -112,7 +112,7 @@ std::string write(const GalleryView& view, const Study& study, const QDir& folde
 {
   PlotContainer* const own = widget.plotContainer();
   Document document([&widget](PlotContainer& container) { widget.placePlotContainer(&container); });
-  std::string error = view.draw(study, document);
+  std::string error = drawView(view, study, document);
   for (const char* suffix : {".png", ".pdf"})
     if (error.empty())
       error = exportPlot(widget, folder.filePath(QString::fromStdString(view.name) + suffix),
@@ -148,6 +148,13 @@ const std::vector<GalleryView>& galleryViews()
               {"xyzPlot", lastPointsIn(xyzPlot)},
               {"parallelCoordinates", lastPointsIn(parallelCoordinates)}});
   return views;
+}
+
+std::string drawView(const GalleryView& view, const Study& study, Document& document)
+{
+  std::string error;
+  document.together([&] { error = view.draw(study, document); });
+  return error.empty() ? document.drawingError() : error;
 }
 
 std::string showIn(Document& document, const Study& study, plotStyles style)

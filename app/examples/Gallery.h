@@ -24,10 +24,14 @@ struct GalleryView
 {
   /// The name of its files without the suffix.
   std::string name;
-  /// Shows the study, or what the view computes, in a document that shows nothing yet.
-  /// Returns why that failed, in one line; empty on success.
+  /// Shows the study, or what the view computes, in a document that shows nothing yet; see
+  /// `drawView`. Returns why that failed, in one line; empty on success.
   std::function<std::string(const Study&, Document&)> draw;
 };
+
+/// Draws a view, once however much it changes.
+/// @return as the view's own function
+std::string drawView(const GalleryView& view, const Study& study, Document& document);
 
 /// Every view that the viewer has.
 const std::vector<GalleryView>& galleryViews();

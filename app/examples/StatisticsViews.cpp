@@ -50,43 +50,39 @@ ParameterSelection livelyRuns(const LinePlotTable& runs, const PlotContainer& co
   return selection;
 }
 
-/// Selects lively runs in the style now shown, and shows what that changes.
-std::string compareLivelyRuns(const Study& study, Document& document)
+void selectLivelyRuns(const Study& study, Document& document)
 {
   if (!study.runs)
-    return document.drawingError();
+    return;
   ParameterSelection lively = livelyRuns(*study.runs, *document.container());
   document.container()->setSelection(&lively, 0);
-  document.draw();
-  return document.drawingError();
 }
 
 std::string drawComparison(const Study& study, Document& document, plotStyles style)
 {
-  const std::string error = showIn(document, study, style);
-  return error.empty() ? compareLivelyRuns(study, document) : error;
+  std::string error = showIn(document, study, style);
+  selectLivelyRuns(study, document);
+  return error;
 }
 
 std::string drawDensities(const Study& study, Document& document)
 {
-  const std::string error = showIn(document, study, selectionCdfPlot);
-  if (!error.empty())
-    return error;
+  std::string error = showIn(document, study, selectionCdfPlot);
   ComparisonChoice choice = comparisonChoiceOf(*document.container());
   choice.density = true;
   choice.bands = true;
   document.compareBy(choice);
-  return compareLivelyRuns(study, document);
+  selectLivelyRuns(study, document);
+  return error;
 }
 
 std::string drawClusters(const Study& study, Document& document)
 {
-  const std::string error = showIn(document, study, xyPlot);
+  std::string error = showIn(document, study, xyPlot);
   PlotContainer& container = *document.container();
   container.clusterTimeSeries(clusterCount, 0);
   container.setShowDecorations(true);
-  document.draw();
-  return error.empty() ? document.drawingError() : error;
+  return error;
 }
 
 } // namespace

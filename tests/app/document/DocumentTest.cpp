@@ -130,37 +130,6 @@ TEST_F(DocumentOfRuns, SaysWhatCannotBeDrawn)
   EXPECT_EQ(document.drawingError(), "");
 }
 
-TEST_F(DocumentOfRuns, DrawsEachChangeOnce)
-{
-  openInXYPlot();
-  countDrawings();
-  PlotChoice choice = document.choice();
-  choice.y = {0, 1};
-  document.choose(choice);
-  expectOneDrawing("choice");
-  choice.style = selectionCdfPlot;
-  document.choose(choice);
-  expectOneDrawing("another style");
-  ComparisonChoice comparison = comparisonChoiceOf(container());
-  comparison.density = true;
-  comparison.pThreshold = 0.5;
-  document.compareBy(comparison);
-  expectOneDrawing("comparison");
-  select({0, 2});
-  expectOneDrawing("selection");
-  document.selection().undoStack().undo();
-  expectOneDrawing("undone selection");
-  document.setLook({false, false, true});
-  EXPECT_EQ(document.choice().style, xyPlot) << "which alone has bands";
-  expectOneDrawing("look");
-  group();
-  expectOneDrawing("groups");
-  document.groups().normalise(true);
-  expectOneDrawing("values");
-  settings().setLogX(true);
-  expectOneDrawing("setting");
-}
-
 TEST_F(DocumentOfRuns, DrawsEachOpeningOnce)
 {
   open();
@@ -173,18 +142,6 @@ TEST_F(DocumentOfRuns, DrawsEachOpeningOnce)
   EXPECT_EQ(drawingsSoFar(), 2U) << "runs once more";
   open(threeColumns);
   EXPECT_EQ(drawingsSoFar(), 1U) << "a table";
-}
-
-TEST_F(DocumentOfRuns, DrawsEachSelectionOnceWithoutParametersToo)
-{
-  PlotWishes wishes;
-  wishes.style = parallelCoordinates;
-  EXPECT_EQ(open("run,time,X,Y\n0,0,1,2\n0,1,2,3\n1,0,4,3\n1,1,5,1\n", wishes), "");
-  countDrawings();
-  document.selection().selectAll();
-  expectOneDrawing("selection");
-  document.groups().normalise(true);
-  expectOneDrawing("values");
 }
 
 TEST_F(DocumentOfRuns, CompletesEveryDrawing)

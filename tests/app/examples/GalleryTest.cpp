@@ -59,7 +59,7 @@ struct DrawnView
   {
     for (const GalleryView& known : galleryViews())
       if (known.name == name)
-        error = known.draw(study, document);
+        error = drawView(known, study, document);
     EXPECT_EQ(error, "") << name;
   }
 
@@ -67,7 +67,13 @@ struct DrawnView
   vtkChartXY& chart() { return *container().getChartXY(); }
 
   PlotScene view;
-  Document document{[this](PlotContainer& shown) { shown.setScene(view.scene()); }};
+  QObject counter;
+  int drawings = 0;
+  Document document{[this](PlotContainer& shown)
+                    {
+                      shown.setScene(view.scene());
+                      shown.addCompletion(&counter, [this] { ++drawings; });
+                    }};
   std::string error = "no such view";
 };
 
@@ -95,6 +101,12 @@ TEST(Gallery, ShowsATableOfOneColumnAndOneRow)
   EXPECT_EQ(writeGallery(sampleStudy("a\n1\n"), folder.path(), QSize(200, 160)), "");
   // One column makes no lines between axes.
   expectEveryView(folder.path(), QSize(200, 160), {"multiPlot", "parallelCoordinates"});
+}
+
+TEST(Gallery, DrawsEveryViewOnce)
+{
+  for (const GalleryView& view : galleryViews())
+    EXPECT_EQ(DrawnView(view.name, sampleStudy()).drawings, 1) << view.name;
 }
 
 TEST(Gallery, NamesEveryViewOnce)
