@@ -19,6 +19,8 @@ protected:
   TestScript()
   {
     EXPECT_TRUE(QFile::copy(sourceTree + "/test", folder.filePath("test")));
+    EXPECT_TRUE(QDir(folder.path()).mkdir(".ci"));
+    EXPECT_TRUE(QFile::copy(sourceTree + "/.ci/run", folder.filePath(".ci/run")));
     write("cmake/setup.sh", "source '" + sourceTree +
                                 "/cmake/setup.sh'\n"
                                 "root=$(cd \"$(dirname \"${BASH_SOURCE[0]}\")/..\" && pwd)\n"
@@ -95,6 +97,16 @@ TEST_F(TestScript, RunsTheStagesThatItIsAskedFor)
   const EndedScript all = run("--all");
   EXPECT_EQ(all.output, fastChecks + tests + fuzzers + readers);
   EXPECT_EQ(all.status, 0);
+}
+
+TEST_F(TestScript, IsRunWholeForEveryChange)
+{
+  const EndedScript sound = bash({folder.filePath(".ci/run")});
+  EXPECT_EQ(sound.output, fastChecks + tests + fuzzers + readers);
+  EXPECT_EQ(sound.status, 0);
+  const EndedScript failing =
+      bash({"-c", "FAILING='*readers$' '" + folder.filePath(".ci/run") + "'"});
+  EXPECT_NE(failing.status, 0);
 }
 
 TEST_F(TestScript, HandsOtherArgumentsToCtestOnly)

@@ -70,9 +70,13 @@ TEST(OneHome, HasTheWidgetsOfTheViewerThatOthersReach)
       << "docks and their parts are members, not found by name";
 }
 
-TEST(OneHome, HasTheStateOfAContainer)
+TEST(OneHome, HasWhatDiffersBetweenVersionsOfVtk)
 {
-  const Paths all = filesWith(R"(\bstate\(\))", {"plot", "widgets"});
-  for (const std::string& path : all)
-    EXPECT_EQ(path.find("PlotContainer.h"), std::string::npos) << "no client needs it";
+  EXPECT_EQ(filesWith(R"(\bVTK_\w*VERSION)"), Paths{"vtk/VtkCompat.h"});
+}
+
+TEST(OneHome, HidesTheStateOfAContainerFromClients)
+{
+  EXPECT_EQ(codeOf("plot/PlotContainer.h").find("state("), std::string::npos)
+      << "the library's own code has stateOf(), see plot/ContainerAccess.h";
 }

@@ -25,6 +25,7 @@ protected:
     ASSERT_TRUE(opened.value().session);
     ASSERT_EQ(document.open(opened.value()), "");
     ASSERT_EQ(document.drawingError(), "");
+    EXPECT_EQ(drawingsSoFar(), 1U) << "when all is restored";
   }
 
   std::vector<double> numbers()
