@@ -2,6 +2,7 @@
 
 #include "app/document/PlotChoice.h"
 #include "app/document/ShownStudy.h"
+#include "app/export/PlotWriter.h"
 #include "app/session/StudyFile.h"
 #include "plot/PlotContainer.h"
 #include "support/Pictures.h"
@@ -13,6 +14,8 @@
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 #include "SampleStudies.h"
 
@@ -148,6 +151,16 @@ TEST_F(PictureFile, LeavesAFolderOfTheNameAlone)
   ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("plot.png")));
   EXPECT_NE(exportPlot(*widget, path("plot.png")), "");
   EXPECT_TRUE(QFileInfo(path("plot.png")).isDir());
+}
+
+TEST_F(PictureFile, OpensNothingWhenItsWritingIsGivenUpBeforeItBegins)
+{
+  const QString pipe = path("plot.csv");
+  ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  const Result<PaintedPlot> painted = paintPlot(*widget, pipe, {});
+  ASSERT_TRUE(painted.hasValue());
+  const auto written = writePlot(painted.value(), [](double) { return false; });
+  EXPECT_TRUE(written.isCancelled()) << "does not wait for a reader: " << written.error();
 }
 
 TEST_F(PictureFile, RefusesAnotherSuffix)
