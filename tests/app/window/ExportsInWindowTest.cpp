@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QMessageBox>
+#include <QSignalSpy>
 #include <QToolButton>
 
 #include <algorithm>
@@ -81,7 +82,10 @@ TEST_F(ExportsInWindow, WritesAFileAnewThoughItsCancelledWritingIsNotAtItsEndYet
   window->exportController().exportTo(path("table.csv"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return pipe.holdsSomething(); }, patience));
   click("cancelExport");
+  const QSignalSpy begun(window->exportController().findChild<TaskRunner*>(),
+                         &TaskRunner::progressed);
   window->exportController().exportTo(path("table.csv"));
+  EXPECT_FALSE(QTest::qWaitFor([&] { return !begun.isEmpty(); }, 200)) << "the first still writes";
   QByteArray written;
   const auto isRead = [&]
   {
