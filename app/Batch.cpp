@@ -55,11 +55,14 @@ std::string writeComparison(const Comparison& comparison, const QString& path)
   return writeText(path, commaText(comparison.parameters));
 }
 
-std::string writeRuns(PlotContainer& container, const QString& path)
+/// @param notes what was noted of the table, which may tell why it has no runs
+std::string writeRuns(PlotContainer& container, const std::vector<std::string>& notes,
+                      const QString& path)
 {
   const TableRuns runs(container);
   if (runs.numberOfRuns() == 0)
-    return "there are no runs to list";
+    return notes.empty() ? "there are no runs to list"
+                         : "there are no runs to list: " + notes.front();
   return writeText(path, QString::fromStdString(commaText(runTable(runs, allColumnsOfRuns(runs)))));
 }
 
@@ -89,7 +92,7 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
   if (error.empty() && !options.compare.empty())
     error = writeComparison(comparison, QFile::decodeName(options.compare.c_str()));
   if (error.empty() && !options.runs.empty())
-    error = writeRuns(*document.container(), QFile::decodeName(options.runs.c_str()));
+    error = writeRuns(*document.container(), opened.notes, QFile::decodeName(options.runs.c_str()));
   // What shows a container ends before it.
   widget.reset();
   return error;
@@ -125,13 +128,15 @@ std::string runBatch(const CommandLineOptions& options)
   if (!result.hasValue())
     return result.error();
   const OpenedStudy& opened = result.value();
-  for (const std::string& note : opened.notes)
-    std::cerr << "talmesh-plot: " << note << std::endl;
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
   std::string error = writeNamed(options, opened, size);
   if (error.empty() && !options.gallery.empty())
     error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size,
                          options.vectors, options.dotsPerInch.value_or(resolutionOfScreenPages));
+  // What fails says so in one line.
+  for (const std::string& note : opened.notes)
+    if (error.empty())
+      std::cerr << "talmesh-plot: " << note << std::endl;
   return error;
 }
 

@@ -94,8 +94,9 @@ TEST_F(RunsFromProgram, AreRefusedInOneLine)
   const QString out = path("out.csv");
   const Ended plain = run({write("plain.csv", "a,b\n1,2\n3,4\n"), "--runs", out});
   EXPECT_EQ(plain.status, 1);
-  EXPECT_TRUE(plain.errors.endsWith("talmesh-plot: there are no runs to list\n"))
-      << plain.errors.toStdString();
+  EXPECT_EQ(plain.errors.toStdString(),
+            "talmesh-plot: there are no runs to list: There is no time column, so the rows are not "
+            "taken for runs.\n");
   EXPECT_FALSE(QFile::exists(out));
   const QString csv = write("runs.csv", sampleRuns());
   const QString nowhere = path("nowhere/out.csv");
