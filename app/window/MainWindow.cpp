@@ -11,6 +11,8 @@
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"
 
+#include <vtkAbstractContextItem.h>
+
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -56,6 +58,8 @@ MainWindow::MainWindow(QWidget* parent)
 {
   setWindowTitle(QStringLiteral("Talmesh Plot"));
   setAcceptDrops(true);
+  // What the widget shows by itself is nobody's data.
+  plot->plotContainer()->getItem()->SetVisible(false);
   makeMenus();
   takeFirstSize();
   panels->connectDocument();

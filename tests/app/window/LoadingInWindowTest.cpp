@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QDropEvent>
 #include <QFile>
+#include <QImage>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
@@ -113,6 +114,15 @@ protected:
     EXPECT_TRUE(window->findChild<QMessageBox*>());
   }
 
+  bool showsAnEmptyPage()
+  {
+    window->plotWidget()->updatePlot(true);
+    const QImage page = window->plotWidget()->grabFramebuffer();
+    QImage empty(page.size(), page.format());
+    empty.fill(page.pixelColor(0, 0));
+    return page == empty;
+  }
+
   PlotContainer& container() { return *window->plotWidget()->plotContainer(); }
 
   QTemporaryDir folder;
@@ -182,6 +192,18 @@ TEST_F(LoadingInWindow, ForgetsTheColumnsOfACommandLineThatAComputedStudyReplace
   EXPECT_EQ(opened->count(), 1);
   EXPECT_EQ(container().getChartXY()->GetTitle(), "Prior density of alpha");
   EXPECT_FALSE(window->findChild<QAction*>(QStringLiteral("returnToRuns"))->isEnabled());
+}
+
+TEST_F(LoadingInWindow, ShowsAnEmptyPageUntilSomethingIsOpen)
+{
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  openNamed(writeLarge());
+  EXPECT_TRUE(showsAnEmptyPage()) << "while it loads";
+  cancel();
+  EXPECT_TRUE(showsAnEmptyPage()) << "after it was given up";
+  window->openFile(writeSample());
+  ASSERT_TRUE(waitUntilLoaded());
+  EXPECT_FALSE(showsAnEmptyPage());
 }
 
 TEST_F(LoadingInWindow, DrawsWhatItOpensOnce)
