@@ -3,6 +3,7 @@
 #include <vtkContext2D.h>
 #include <vtkDoubleArray.h>
 #include <vtkFloatArray.h>
+#include <vtkNew.h>
 #include <vtkObjectFactory.h>
 #include <vtkStringArray.h>
 #include <vtkTextProperty.h>
@@ -34,6 +35,8 @@ constexpr double narrowestLogSpan = 1e-8;
 /// VTK labels every decade, and nine ticks each are a grey bar.
 constexpr double mostDecadesTickedByVtk = 20.0;
 constexpr int mostDecadeTicks = 10;
+/// Pixels, on both sides together: as far apart are charts above each other at least.
+constexpr float besideUprightTitle = 20.0F;
 
 using Ends = std::pair<double, double>;
 
@@ -167,17 +170,23 @@ bool vtkGuardedAxis::Paint(vtkContext2D* painter)
   }
   // Assigned, not set: what is painted is no change of the axis.
   const GivenBack guard(Title);
-  if (Visible && Position != LEFT && Position != RIGHT)
+  if (Visible)
     Title = FittingTitle(painter);
   return Superclass::Paint(painter);
 }
 
 std::string vtkGuardedAxis::FittingTitle(vtkContext2D* painter)
 {
-  const float room = std::fabs(Point2[0] - Point1[0]);
-  if (Title.empty() || !(room > 0.0F))
+  const bool upright = Position == LEFT || Position == RIGHT;
+  const float room = upright ? std::fabs(Point2[1] - Point1[1]) + besideUprightTitle
+                             : std::fabs(Point2[0] - Point1[0]);
+  if (Title.empty() || !(room > (upright ? besideUprightTitle : 0.0F)))
     return Title;
-  painter->ApplyTextProp(TitleProperties);
+  // Devices differ in what they take for the width of a text that is turned.
+  vtkNew<vtkTextProperty> level;
+  level->ShallowCopy(TitleProperties);
+  level->SetOrientation(0.0);
+  painter->ApplyTextProp(level);
   // This width tells fonts, resolutions and painting devices apart.
   const float width = widthOf(painter, Title);
   if (width <= room)

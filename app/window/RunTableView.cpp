@@ -28,6 +28,7 @@ RunTableView::RunTableView(QWidget* parent)
   setAlternatingRowColors(true);
   setTextElideMode(Qt::ElideMiddle);
   setWordWrap(false);
+  horizontalHeader()->setTextElideMode(Qt::ElideMiddle);
   verticalHeader()->hide();
   // One height for all rows: they are not to be measured one by one.
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
