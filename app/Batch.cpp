@@ -85,6 +85,8 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
   std::string error = document.open(opened, options);
   if (error.empty())
     error = document.drawingError();
+  if (error.empty() && !options.exports.empty() && !document.remark().isEmpty())
+    std::cerr << "talmesh-plot: " << document.remark().toStdString() << std::endl;
   const Comparison& comparison = document.comparison().current();
   for (const std::string& path : options.exports)
     if (error.empty())

@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
+#include "plot/DrawnRows.h"
 #include "plot/Margins.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
@@ -48,12 +49,14 @@ void feed(const PlotState& state, vtkPlot* plot, vtkTable* table, int x, int y)
 
 void addErrorBars(PlotState& state)
 {
-  const PlotMetaData& settings = *state.metaData;
+  const DrawnRows drawn = drawnRows(state);
+  state.chartXY->SetAnnotationLink(drawn.link);
+  showSelectionInSummary(state);
   vtkNew<OwnedErrorPoints> points;
   points->SetUseIndexForXSeries(state.useIndexForXSeries);
-  feed(state, points, state.table, firstOf(settings.xColumns), firstOf(settings.yColumns));
-  points->SelectErrorArray(static_cast<vtkIdType>(firstOf(settings.zColumns)));
-  points->SetWidth(static_cast<float>(settings.getLineWidth()));
+  feed(state, points, drawn.table, drawn.x, drawn.y);
+  points->SelectErrorArray(static_cast<vtkIdType>(drawn.z));
+  points->SetWidth(static_cast<float>(state.metaData->getLineWidth()));
   state.chartXY->AddPlot(points);
 }
 
@@ -61,7 +64,8 @@ void addErrorBars(PlotState& state)
 /// the padded range, computed in the column's precision.
 void padBottomAxis(PlotState& state)
 {
-  vtkAbstractArray* column = columnAt(state.table, firstOf(state.metaData->xColumns));
+  const DrawnRows drawn = drawnRows(state);
+  vtkAbstractArray* column = columnAt(drawn.table, drawn.x);
   double range[2];
   if (!finiteRange(vtkFloatArray::SafeDownCast(column), range))
     return;
@@ -81,7 +85,9 @@ void addLine(PlotState& state)
 {
   const PlotMetaData& settings = *state.metaData;
   const bool hasSecondX = settings.xColumns.size() >= 2;
-  if (settings.yColumns.size() < 2 || (!hasSecondX && !state.useIndexForXSeries))
+  // Its columns are those of the plot table.
+  if (drawsSummary(state) || settings.yColumns.size() < 2 ||
+      (!hasSecondX && !state.useIndexForXSeries))
     return;
   vtkPlot* line = state.chartXY->AddPlot(vtkChart::LINE);
   vtkTable* table = lineTable(state);

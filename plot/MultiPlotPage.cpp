@@ -3,6 +3,7 @@
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
+#include "plot/DrawnRows.h"
 #include "plot/Margins.h"
 #include "plot/ParameterCells.h"
 #include "plot/PlotFeed.h"
@@ -23,18 +24,18 @@ namespace
 
 using Titles = std::vector<std::string>;
 
-void addBlackPoints(PlotState& state, vtkChart* chart, int xColumn, int yColumn)
+void addBlackPoints(vtkChart* chart, vtkTable* table, int xColumn, int yColumn)
 {
   vtkPlot* plot = chart->AddPlot(vtkChart::POINTS);
   plot->SetColor(0, 0, 0, 255);
-  feedPlot(plot, state.table, xColumn, yColumn);
+  feedPlot(plot, table, xColumn, yColumn);
 }
 
 void drawPair(PlotState& state, const Titles& titles, const ParameterPair& pair)
 {
   const std::vector<int>& columns = state.metaData->parameterColumns;
   vtkChart* chart = pairCell(state, pair);
-  addBlackPoints(state, chart, columns[pair.x], columns[pair.y]);
+  addBlackPoints(chart, state.table, columns[pair.x], columns[pair.y]);
   dressPairAxes(state, chart, pair, titles);
 }
 
@@ -56,8 +57,9 @@ void dressMainChart(PlotState& state)
   const PlotMetaData& settings = *state.metaData;
   vtkAxis* bottom = state.chartXY->GetAxis(vtkAxis::BOTTOM);
   bottom->SetTitle(settings.xLabel);
+  const DrawnRows drawn = drawnRows(state);
   double range[2];
-  if (finiteRange(doubleColumn(state.table, firstOf(settings.xColumns)), range))
+  if (finiteRange(doubleColumn(drawn.table, drawn.x), range))
     padRange(bottom, range);
   applyTickLabelsByIndex(state, bottom);
   state.chartXY->GetAxis(vtkAxis::LEFT)->SetTitle(settings.yLabel);
@@ -70,9 +72,11 @@ void drawMainChart(PlotState& state, int parameters)
   const int span = (parameters + 1) / 2;
   adoptCell(state, cell.GetX(), cell.GetY());
   enableSelection(state, state.chartXY);
+  showSelectionInSummary(state);
+  const DrawnRows drawn = drawnRows(state);
+  state.chartXY->SetAnnotationLink(drawn.link);
   state.chartMatrix->SetChartSpan(cell, vtkVector2i(span, span));
-  addBlackPoints(state, state.chartXY, firstOf(state.metaData->xColumns),
-                 firstOf(state.metaData->yColumns));
+  addBlackPoints(state.chartXY, drawn.table, drawn.x, drawn.y);
   dressMainChart(state);
 }
 

@@ -25,12 +25,12 @@ public:
   PlotSeams(const PlotSeams&) = delete;
   PlotSeams& operator=(const PlotSeams&) = delete;
 
-  /// Has the XY chart (as points), the scatter-plot matrix, the 3-D chart and parallel coordinates
-  /// draw another table from the next redraw on, of which each row stands for several rows of the
-  /// plot table. What is selected in it becomes the container's selection, with all the rows that
-  /// it stands for, and is selected there when any of them is. The settings keep speaking of the
-  /// plot table, which is what other styles draw, what is exported, and what a copied container
-  /// draws. Lasts until the plot table is replaced. A summary without a table ends it.
+  /// Has all charts of the x, y and z columns (as points), the scatter-plot matrix and parallel
+  /// coordinates draw another table from the next redraw on, of which each row stands for several
+  /// rows of the plot table. What is selected in it becomes the container's selection, with all the
+  /// rows that it stands for, and is selected there when any of them is. The settings keep speaking
+  /// of the plot table, which is what other charts draw, what is exported, and what a copied
+  /// container draws. Until the plot table is replaced; a summary without a table ends it.
   void setSummary(const SummaryTable& summary);
   const SummaryTable& getSummary() const;
   /// Whether the present style draws it.
@@ -39,8 +39,8 @@ public:
   /// What takes a gesture with the select button in any of the charts, and whether it has: rows are
   /// selected where it has not. It may change selection and charts, but not end the container.
   /// Null, as at first, takes none: charts then select the points that a rectangle covers, or one
-  /// point. A chart in which plots of several tables or along several pairs of axes can be selected
-  /// is not for it.
+  /// point, and the 3-D chart none. A chart in which plots of several tables or along several pairs
+  /// of axes can be selected is not for it.
   void setGestureHandler(std::function<bool(const Talmesh::SelectionGesture&)> take);
   /// What says what is at the place of the mouse, which it gets as a click there; empty for
   /// nothing, none for what the charts say by themselves. Null, as at first, for the latter

@@ -69,6 +69,7 @@ StyleRow multiPlotRow()
   row.applyBorders = applyMultiPlotBorders;
   row.resizeMarkers = resizeMultiPlotMarkers;
   row.showsXYChart = true;
+  row.drawsSummaries = true;
   return row;
 }
 
@@ -77,6 +78,7 @@ StyleRow selectionPageRow()
   StyleRow row{selectionCdfPlot, drawSelectionPage};
   row.applyBorders = applySelectionPageBorders;
   row.showsXYChart = true;
+  row.drawsSummaries = true;
   row.ranksNewData = true;
   row.selectsAcceptedRuns = true;
   return row;
@@ -87,6 +89,7 @@ StyleRow errorBarRow()
   StyleRow row{scatterWithErrorBars, drawErrorBarChart};
   row.widenLines = widenErrorBars;
   row.showsXYChart = true;
+  row.drawsSummaries = true;
   return row;
 }
 

@@ -32,7 +32,8 @@ struct StyleRow
   bool showsXYChart = false;
   /// Rows of the table are drawn, so a drawing cuts the selection to it.
   bool drawsRows = true;
-  /// A summary that a client has set is drawn in place of the table.
+  /// A summary that a client has set is drawn in place of the table; on a page of several charts in
+  /// the one with the chosen columns.
   bool drawsSummaries = false;
   /// New data are ranked as soon as they arrive.
   bool ranksNewData = false;

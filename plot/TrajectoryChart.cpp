@@ -3,6 +3,7 @@
 #include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
+#include "plot/DrawnRows.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
@@ -55,8 +56,20 @@ void addBand(PlotState& state, const Band& band)
   state.chartXY->AddPlot(plot);
 }
 
+/// Rows that stand for several have no course to draw, and no bands around it.
+vtkSmartPointer<vtkPlotPoints> makeSummaryPlot(const PlotState& state)
+{
+  auto points = vtkSmartPointer<vtkPlotInvisiblePoints>::New();
+  points->SetOnlyShowSelected(0);
+  points->SetMarkerSize(static_cast<float>(state.metaData->pointSize));
+  points->SetMarkerStyle(state.metaData->markerStyle);
+  return points;
+}
+
 vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
 {
+  if (drawsSummary(state))
+    return makeSummaryPlot(state);
   const int onlyShowSelected = state.metaData->getShowQuantiles() ? 1 : 0;
   if (state.metaData->getPlotLine())
   {
@@ -96,8 +109,9 @@ void dressAxes(PlotState& state)
     restoreLeftAxis(state, left, *window);
     return;
   }
+  const DrawnRows drawn = drawnRows(state);
   double range[2];
-  if (finiteRange(plottableColumn(state.table, firstOf(settings.xColumns)), range))
+  if (finiteRange(plottableColumn(drawn.table, drawn.x), range))
     fixRange(bottom, lowerFactor * range[0], upperFactor * range[1]);
   left->SetBehavior(vtkAxis::AUTO);
 }
@@ -115,11 +129,16 @@ void addQuartileBands(PlotState& state)
 
 vtkPlot* fillTrajectoryChart(PlotState& state)
 {
-  if (state.metaData->getShowQuantiles())
+  const bool summarised = drawsSummary(state);
+  if (state.metaData->getShowQuantiles() && !summarised)
     addQuartileBands(state);
+  showSelectionInSummary(state);
   vtkSmartPointer<vtkPlotPoints> runs = makeRunsPlot(state);
-  feedPlot(runs, state.table, firstOf(state.metaData->xColumns), firstOf(state.metaData->yColumns));
-  colorBySelection(runs);
+  const DrawnRows drawn = drawnRows(state);
+  state.chartXY->SetAnnotationLink(drawn.link);
+  feedPlot(runs, drawn.table, drawn.x, drawn.y);
+  if (!summarised)
+    colorBySelection(runs);
   state.chartXY->AddPlot(runs);
   dressAxes(state);
   return runs;

@@ -14,6 +14,7 @@
 #include <vtkChartXY.h>
 #include <vtkColorSeries.h>
 #include <vtkNew.h>
+#include <vtkPen.h>
 #include <vtkTable.h>
 
 #include <algorithm>
@@ -58,6 +59,14 @@ void colour(vtkPlot* plot, vtkColorSeries* colours, std::size_t series, unsigned
 /// Runs that are one point each cover nothing, unlike the lines that the settings' colour is for.
 constexpr int alphaOfRunPoints = 190;
 
+void strengthen(vtkPlot* plot)
+{
+  unsigned char color[4];
+  plot->GetPen()->GetColor(color);
+  color[3] = std::max(color[3], static_cast<unsigned char>(alphaOfRunPoints));
+  plot->SetColor(color[0], color[1], color[2], color[3]);
+}
+
 /// A drawing leaves the left axis where the window of the columns before had it.
 void freeLeftAxis(const PlotContainer& container, vtkChartXY* chart)
 {
@@ -71,7 +80,11 @@ void addFurtherSeries(PlotContainer& container)
 {
   vtkChartXY* chart = container.getChartXY();
   const PlotMetaData& settings = *container.getMetaData();
-  if (!chart || !styleOf(settings).hasSeries || chart->GetNumberOfPlots() == 0)
+  if (!chart || chart->GetNumberOfPlots() == 0)
+    return;
+  if (container.showsSummary() && settings.solidColor)
+    strengthen(chart->GetPlot(0));
+  if (!styleOf(settings).hasSeries)
     return;
   freeLeftAxis(container, chart);
   vtkNew<vtkColorSeries> colours;
@@ -93,10 +106,6 @@ void addFurtherSeries(PlotContainer& container)
     }
     if (columns.size() > 1)
       colour(plot, colours, series, alpha);
-    else if (runs && settings.solidColor)
-      plot->SetColor(static_cast<unsigned char>(settings.color[0]),
-                     static_cast<unsigned char>(settings.color[1]),
-                     static_cast<unsigned char>(settings.color[2]), alpha);
     plot->SetLabel(runs ? plot::columnName(table, columns[series])
                         : shownName(plot::columnName(table, columns[series])));
   }

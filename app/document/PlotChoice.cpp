@@ -62,7 +62,10 @@ void writeSettings(PlotContainer& container, const PlotChoice& choice)
   settings.zColumns = {itemOf(choice.z)};
   const RunAxes axes = axesOfRuns(container, choice);
   settings.xLabel = columnTitle(container, runs ? axes.x : plot::firstOf(settings.xColumns));
-  settings.yLabel = joinedLabels(container, runs ? axes.columns : settings.yColumns);
+  std::vector<int> over = runs ? axes.columns : settings.yColumns;
+  if (!viewerStyle(choice.style).hasSeries && over.size() > 1)
+    over.resize(1);
+  settings.yLabel = joinedLabels(container, over);
   settings.setPlotStyle(choice.style);
   settings.setPlotLine(choice.lines);
   settings.setLogX(choice.logX);
@@ -137,6 +140,9 @@ namespace
 /// What of the choice has no place in what is drawn; empty for nothing.
 QString remarkOnColumns(const PlotChoice& choice, const PlotContainer& container)
 {
+  // Such styles show the parameters, whatever is chosen.
+  if (viewerStyle(choice.style).unit == ChartUnit::Rows)
+    return {};
   const bool runs = container.getSummary().table != nullptr;
   const auto isOut = [&](int column)
   { return runs ? roleOf(container, column) == ColumnRole::Other : isFeature(column); };

@@ -45,11 +45,17 @@ vtkIdType shownColumns(const PlotContainer& container)
   return columns;
 }
 
+/// Pages of several charts draw all rows in some of them.
+bool drawsOnlyRuns(const PlotContainer& container)
+{
+  return container.showsSummary() && !styleOf(*container.getMetaData()).comparesRuns;
+}
+
 std::size_t bytesPerRow(const PlotContainer& container)
 {
   const PlotMetaData& settings = *container.getMetaData();
   PageColumns columns = pageColumns(settings, shownColumns(container));
-  if (container.showsSummary())
+  if (drawsOnlyRuns(container))
   {
     columns.all = container.getSummary().columns.size();
     columns.chosen = columns.all;
@@ -60,7 +66,7 @@ std::size_t bytesPerRow(const PlotContainer& container)
 
 std::size_t drawnRows(const PlotContainer& container)
 {
-  const bool runs = container.showsSummary();
+  const bool runs = drawsOnlyRuns(container);
   vtkTable* table = runs ? container.getSummary().table.Get() : container.getTable();
   return static_cast<std::size_t>(table->GetNumberOfRows());
 }

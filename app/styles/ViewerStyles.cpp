@@ -113,6 +113,7 @@ ViewerStyle multiPlotStyle()
   style.controls.logX = true;
   style.controls.logY = true;
   style.comparesRuns = true;
+  style.unit = ChartUnit::RunsOverRuns;
   style.charts = parameterGrid;
   // The pairs and the main chart, which goes with them.
   style.pointsOfRow = [](const PageColumns& columns)
@@ -130,6 +131,7 @@ ViewerStyle selectionPageStyle()
   style.controls.logY = true;
   style.comparesRuns = true;
   style.showsDistributions = true;
+  style.unit = ChartUnit::RunsOverRuns;
   style.charts = parametersOf;
   // The runs; the curves of the parameters have few points.
   style.pointsOfRow = one;
@@ -143,6 +145,7 @@ ViewerStyle errorBarStyle()
   style.controls.z = true;
   style.controls.legend = true;
   style.controls.logX = true;
+  style.unit = ChartUnit::RunsOverRuns;
   return style;
 }
 

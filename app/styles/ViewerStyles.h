@@ -46,7 +46,8 @@ struct PageRoom
   int bottom = 45;
 };
 
-/// What a point or a line of a chart stands for in a table of runs.
+/// What a point or a line of a chart stands for in a table of runs; on a page of several charts, of
+/// the one with the chosen columns.
 enum class ChartUnit
 {
   /// A row, or a run drawn over its points.

@@ -107,6 +107,17 @@ TEST_F(RunsFromProgram, AreRefusedInOneLine)
   expectError({csv, "--runs"}, "--runs needs a value");
 }
 
+TEST_F(RunsFromProgram, AreSaidToBeMissingInAPictureThatCannotShowThem)
+{
+  const QString csv = write("runs.csv", sampleRuns());
+  const QString picture = path("plot.png");
+  const Ended over = run({csv, "--x", "time", "--y", "max(X)", "--export", picture});
+  EXPECT_EQ(over.status, 0);
+  EXPECT_EQ(over.errors, "talmesh-plot: max(X) is one value for a run: shown only over parameters "
+                         "and other such values\n");
+  expectSuccess({csv, "--x", "k", "--y", "max(X)", "--export", picture});
+}
+
 TEST_F(RunsFromProgram, HaveTheValuesThatASessionShows)
 {
   const Study study = sampleStudy();

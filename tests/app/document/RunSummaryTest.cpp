@@ -80,15 +80,16 @@ protected:
 
 TEST_F(SummaryOfRuns, IsDrawnWhereAnAxisHasOneValueForARun)
 {
-  for (const int x : {parameterK, numberColumn, maxX})
-    EXPECT_TRUE(draws(xyPlot, x, {itemX})) << x;
-  for (const int x : {timeColumn, itemX})
-    EXPECT_FALSE(draws(xyPlot, x, {parameterK, maxX})) << x;
+  for (const plotStyles style : {xyPlot, multiPlot, selectionCdfPlot, scatterWithErrorBars})
+  {
+    for (const int x : {parameterK, numberColumn, maxX})
+      EXPECT_TRUE(draws(style, x, {itemX})) << style << ' ' << x;
+    for (const int x : {timeColumn, itemX})
+      EXPECT_FALSE(draws(style, x, {parameterK, maxX})) << style << ' ' << x;
+  }
   for (const plotStyles style : {scatterPlotMatrix, parallelCoordinates})
     EXPECT_TRUE(draws(style, timeColumn, {itemX})) << style;
-  for (const plotStyles style :
-       {multiPlot, selectionCdfPlot, scatterWithErrorBars, fitParameterDistribution})
-    EXPECT_FALSE(draws(style, parameterK, {itemX})) << style;
+  EXPECT_FALSE(draws(fitParameterDistribution, parameterK, {itemX}));
 }
 
 TEST_F(SummaryOfRuns, IsDrawnInThreeDimensionsUnlessAnAxisIsTime)
@@ -181,6 +182,38 @@ TEST_F(SummaryOfRuns, GoesOverParametersAsPointsOnePerRun)
   EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetTitle(), "m, max(X)");
   EXPECT_EQ(chart().GetAxis(vtkAxis::BOTTOM)->GetTitle(), "k");
   EXPECT_EQ(document.remark(), "");
+}
+
+TEST_F(SummaryOfRuns, IsWhatTheMainChartsOfPagesDrawOverParameters)
+{
+  for (const plotStyles style : {multiPlot, selectionCdfPlot, scatterWithErrorBars})
+  {
+    const SummaryTable summary = shown(choice(style, parameterK, {maxX}));
+    ASSERT_TRUE(summary.table) << style;
+    vtkPlot* points = chart().GetPlot(0);
+    ASSERT_EQ(points->GetInput(), summary.table) << style;
+    double bounds[4];
+    points->GetBounds(bounds);
+    EXPECT_EQ(Values(bounds, bounds + 2), (Values{1, 6})) << style;
+    EXPECT_EQ(chart().GetAxis(vtkAxis::BOTTOM)->GetTitle(), "k") << style;
+    EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetTitle(), "max(X)") << style;
+    EXPECT_EQ(document.remark(), "") << style;
+    document.choose(choice(style, timeColumn, {itemX}));
+    EXPECT_EQ(chart().GetPlot(0)->GetInput(), container().getTable()) << style;
+  }
+}
+
+TEST_F(SummaryOfRuns, NamesOnTheLeftAxisWhatIsDrawnOverX)
+{
+  document.choose(choice(xyPlot, timeColumn, {itemX, itemY}));
+  EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetTitle(), "X, Y");
+  for (const plotStyles style : {multiPlot, selectionCdfPlot, scatterWithErrorBars})
+    for (const int x : {timeColumn, parameterK})
+    {
+      document.choose(choice(style, x, {itemX, itemY}));
+      EXPECT_EQ(chart().GetAxis(vtkAxis::LEFT)->GetTitle(), x == timeColumn ? "X" : "max(X)")
+          << style;
+    }
 }
 
 TEST_F(SummaryOfRuns, TellsWhatHasNoPlaceInTheChart)
