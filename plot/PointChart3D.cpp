@@ -5,17 +5,23 @@
 #include "plot/DrawnRows.h"
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
-#include "vtk/VtkCompat.h"
+#include "vtk/GestureHandling.h"
+#include "vtk/HighlightColor.h"
+#include "vtk/RowSelections.h"
+#include "vtk/vtkSelectableChartXYZ.h"
 
+#include <vtkAnnotationLink.h>
 #include <vtkChartXYZ.h>
-#include <vtkContext2D.h>
 #include <vtkFloatArray.h>
-#include <vtkObjectFactory.h>
+#include <vtkIdTypeArray.h>
+#include <vtkPen.h>
 #include <vtkPlotPoints3D.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 namespace Talmesh::plot
 {
@@ -25,69 +31,82 @@ namespace
 
 using Coordinates = std::array<vtkDataArray*, 3>;
 
-/// VTK's chart writes the numbers of its axes before it tells the painter how to write: in white on
-/// white in the first painting of all, and as the last item wrote in the others.
-class vtkLegibleChartXYZ : public vtkChartXYZ
-{
-public:
-  static vtkLegibleChartXYZ* New();
-  TALMESH_VTK_TYPE(vtkLegibleChartXYZ, vtkChartXYZ);
-
-  bool Paint(vtkContext2D* painter) override
-  {
-    painter->ApplyTextProp(GetAxesTextProperty());
-    return Scene && Superclass::Paint(painter);
-  }
-
-  // Without a scene of its own it is nowhere, as vtkSelectableChartXY.
-  bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
-  bool KeyPressEvent(const vtkContextKeyEvent& key) override
-  {
-    return Scene && Superclass::KeyPressEvent(key);
-  }
-
-protected:
-  vtkLegibleChartXYZ() = default;
-  ~vtkLegibleChartXYZ() override = default;
-
-private:
-  vtkLegibleChartXYZ(const vtkLegibleChartXYZ&) = delete;
-  void operator=(const vtkLegibleChartXYZ&) = delete;
-};
-
-vtkStandardNewMacro(vtkLegibleChartXYZ);
+/// Pixels, a bit more than the points.
+constexpr float highlightWidth = 8.0F;
 
 constexpr const char* axisNames[] = {"x", "y", "z"};
 
-/// The three columns as the chart stores them, in single precision, one named after each axis: the
-/// same column may serve twice. A point that is not finite would stretch the axes without end.
-vtkSmartPointer<vtkTable> finitePoints(const Coordinates& coordinates)
+/// The rows as the chart stores them, in single precision.
+std::vector<vtkVector3f> pointsOf(const Coordinates& coordinates)
 {
-  std::array<vtkNew<vtkFloatArray>, 3> columns;
   // A client may have shortened a column in place.
   const vtkIdType rows =
       std::min({coordinates[0]->GetNumberOfTuples(), coordinates[1]->GetNumberOfTuples(),
                 coordinates[2]->GetNumberOfTuples()});
+  std::vector<vtkVector3f> points(static_cast<std::size_t>(rows));
   for (vtkIdType row = 0; row < rows; ++row)
-  {
-    std::array<float, 3> point;
-    for (std::size_t axis = 0; axis < point.size(); ++axis)
-      point[axis] = static_cast<float>(coordinates[axis]->GetComponent(row, 0));
-    if (!std::isfinite(point[0]) || !std::isfinite(point[1]) || !std::isfinite(point[2]))
-      continue;
-    for (std::size_t axis = 0; axis < point.size(); ++axis)
-      columns[axis]->InsertNextValue(point[axis]);
-  }
-  auto points = vtkSmartPointer<vtkTable>::New();
-  for (std::size_t axis = 0; axis < columns.size(); ++axis)
-  {
-    columns[axis]->SetName(axisNames[axis]);
-    points->AddColumn(columns[axis]);
-  }
+    for (int axis = 0; axis < 3; ++axis)
+      points[static_cast<std::size_t>(row)][axis] =
+          static_cast<float>(coordinates[static_cast<std::size_t>(axis)]->GetComponent(row, 0));
   return points;
 }
 
-bool feedPoints(vtkPlotPoints3D* plot, const PlotState& state)
+/// A point that is not finite would stretch the axes without end.
+bool isFinite(const vtkVector3f& point)
+{
+  return std::isfinite(point[0]) && std::isfinite(point[1]) && std::isfinite(point[2]);
+}
+
+/// A column named after each axis: the same column of the data may serve twice.
+vtkSmartPointer<vtkTable> finitePoints(const std::vector<vtkVector3f>& points)
+{
+  auto table = vtkSmartPointer<vtkTable>::New();
+  for (int axis = 0; axis < 3; ++axis)
+  {
+    vtkNew<vtkFloatArray> column;
+    column->SetName(axisNames[axis]);
+    for (const vtkVector3f& point : points)
+      if (isFinite(point))
+        column->InsertNextValue(point[axis]);
+    table->AddColumn(column);
+  }
+  return table;
+}
+
+/// As the places of the selected rows among the finite points.
+void highlight(vtkPlot3D* plot, const std::vector<vtkVector3f>& points,
+               const std::vector<bool>& selected)
+{
+  vtkNew<vtkIdTypeArray> places;
+  vtkIdType place = 0;
+  for (std::size_t row = 0; row < points.size(); ++row)
+  {
+    if (!isFinite(points[row]))
+      continue;
+    if (row < selected.size() && selected[row])
+      places->InsertNextValue(place);
+    ++place;
+  }
+  const auto& color = highlightColor;
+  plot->GetSelectionPen()->SetColor(color[0], color[1], color[2], 255);
+  plot->GetSelectionPen()->SetWidth(highlightWidth);
+  plot->SetSelection(places);
+}
+
+/// Where a program takes gestures, points are selected and shown selected.
+void enableSelection3D(PlotState& state, vtkPlot3D* plot, std::vector<vtkVector3f> points)
+{
+  auto* chart = vtkSelectableChartXYZ::SafeDownCast(state.chartXYZ);
+  if (!chart)
+    return;
+  const DrawnRows drawn = drawnRows(state);
+  chart->SetGestures(state.gestures);
+  if (state.gestures->select)
+    highlight(plot, points, markedRows(drawn.link->GetCurrentSelection(), drawn.table));
+  chart->SetPoints(drawn.table, std::move(points), drawn.link);
+}
+
+bool feedPoints(PlotState& state, vtkPlotPoints3D* plot)
 {
   const DrawnRows drawn = drawnRows(state);
   const Coordinates coordinates = {plottableColumn(drawn.table, drawn.x),
@@ -95,10 +114,12 @@ bool feedPoints(vtkPlotPoints3D* plot, const PlotState& state)
                                    plottableColumn(drawn.table, drawn.z)};
   if (!coordinates[0] || !coordinates[1] || !coordinates[2])
     return false;
-  vtkSmartPointer<vtkTable> points = finitePoints(coordinates);
-  if (points->GetNumberOfRows() == 0)
+  std::vector<vtkVector3f> points = pointsOf(coordinates);
+  vtkSmartPointer<vtkTable> finite = finitePoints(points);
+  if (finite->GetNumberOfRows() == 0)
     return false;
-  plot->SetInputData(points, axisNames[0], axisNames[1], axisNames[2]);
+  plot->SetInputData(finite, axisNames[0], axisNames[1], axisNames[2]);
+  enableSelection3D(state, plot, std::move(points));
   return true;
 }
 
@@ -114,7 +135,7 @@ void titleAxes(PlotState& state)
 
 vtkSmartPointer<vtkChartXYZ> makeChart3D()
 {
-  return vtkSmartPointer<vtkLegibleChartXYZ>::New();
+  return vtkSmartPointer<vtkSelectableChartXYZ>::New();
 }
 
 void drawPointChart3D(PlotState& state, vtkContextScene* scene)
@@ -123,8 +144,11 @@ void drawPointChart3D(PlotState& state, vtkContextScene* scene)
   state.chartXYZ->ClearPlots();
   releaseChartXY(state);
 
+  showSelectionInSummary(state);
+  if (auto* chart = vtkSelectableChartXYZ::SafeDownCast(state.chartXYZ))
+    chart->SetPoints(nullptr, {}, nullptr);
   vtkNew<vtkPlotPoints3D> plot;
-  if (feedPoints(plot, state))
+  if (feedPoints(state, plot))
   {
     state.chartXYZ->AddPlot(plot);
     titleAxes(state);

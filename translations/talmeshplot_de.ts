@@ -153,6 +153,10 @@
         <source>Run %1, %2: %3, %4</source>
         <translation>Lauf %1, %2: %3, %4</translation>
     </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Lauf %1</translation>
+    </message>
 </context>
 <context>
     <name>GroupController</name>

@@ -1,6 +1,7 @@
 #include "vtk/CancelledDrags.h"
 
 #include "vtk/vtkSelectableChartXY.h"
+#include "vtk/vtkSelectableChartXYZ.h"
 #include "vtk/vtkSelectableParallelCoordinates.h"
 
 #include <vtkAbstractContextItem.h>
@@ -20,6 +21,8 @@ bool cancelDragsOf(vtkAbstractContextItem* item)
     any = chart->CancelDrag();
   else if (auto* axes = vtkSelectableParallelCoordinates::SafeDownCast(item))
     any = axes->CancelDrag();
+  else if (auto* points = vtkSelectableChartXYZ::SafeDownCast(item))
+    any = points->CancelDrag();
   for (unsigned int i = 0; item && i < item->GetNumberOfItems(); ++i)
     any = cancelDragsOf(item->GetItem(i)) || any;
   return any;

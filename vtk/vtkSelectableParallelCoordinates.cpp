@@ -1,8 +1,6 @@
 #include "vtk/vtkSelectableParallelCoordinates.h"
 
-#include "vtk/AxisBrush.h"
 #include "vtk/AxisNames.h"
-#include "vtk/GestureHandling.h"
 #include "vtk/HandlerScope.h"
 #include "vtk/LostColumns.h"
 #include "vtk/RowSelections.h"
@@ -82,6 +80,7 @@ bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
       ResetAxesSelection();
     KeepsBrush = false;
     ShowSelection();
+    DropOtherBrushes();
   }
   // A table that has lost rows in place has outdated the rows shown too.
   else if (AnnotationLink && RowsNow() != ShownRows)
@@ -91,6 +90,8 @@ bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
   const bool painted = Superclass::Paint(painter);
   if (painted && PlacesNames)
     PaintNames(painter);
+  if (painted)
+    PaintGestures(painter);
   return painted;
 }
 
@@ -203,6 +204,11 @@ bool vtkSelectableParallelCoordinates::MouseButtonPressEvent(const vtkContextMou
   const bool selects = mouse.GetButton() == Actions.Select();
   BrushedAxis = selects ? AxisUnder(mouse) : -1;
   BrushedFrom = HeightOnAxis(mouse);
+  if (selects && AsksFirst())
+  {
+    BeginGesture(mouse);
+    return true;
+  }
   if (BrushedAxis >= 0)
     ResetAxesSelection();
   const bool handled = Superclass::MouseButtonPressEvent(mouse);
@@ -217,9 +223,12 @@ bool vtkSelectableParallelCoordinates::MouseMoveEvent(const vtkContextMouseEvent
   const Talmesh::HandlerScope running;
   if (Cancelled || !Scene)
     return true;
-  if (mouse.GetButton() != Actions.Pan())
+  if (mouse.GetButton() == Actions.Pan())
+    MoveAxis(mouse);
+  else if (AsksFirst())
+    FollowMouse(mouse);
+  else
     return Superclass::MouseMoveEvent(mouse);
-  MoveAxis(mouse);
   return true;
 }
 
@@ -248,22 +257,6 @@ bool vtkSelectableParallelCoordinates::CancelDrag()
   return true;
 }
 
-void vtkSelectableParallelCoordinates::SetGestures(
-    std::shared_ptr<const Talmesh::GestureHandling> gestures)
-{
-  Gestures = std::move(gestures);
-}
-
-/// Whether the program has selected what was brushed.
-bool vtkSelectableParallelCoordinates::TakesBrush(int axis, float to, int mode)
-{
-  if (!Gestures || !Gestures->select || to == BrushedFrom)
-    return false;
-  // The handler may take itself away.
-  const auto select = Gestures->select;
-  return select(Talmesh::brushOf(*this, axis, {BrushedFrom, to}, mode));
-}
-
 bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse)
 {
   const Talmesh::HandlerScope running;
@@ -280,6 +273,8 @@ bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextM
   }
   vtkPlot* plot = GetPlot(0);
   const bool selects = mouse.GetButton() == Actions.Select();
+  if (selects && AsksFirst())
+    return EndGesture(mouse);
   if (!selects || BrushedAxis < 0 || !AnnotationLink || !plot->GetInput())
     return Superclass::MouseButtonReleaseEvent(mouse);
   const vtkSmartPointer<vtkObject> kept = this;
@@ -291,14 +286,13 @@ bool vtkSelectableParallelCoordinates::MouseButtonReleaseEvent(const vtkContextM
 #if TALMESH_VTK_KEEPS_RESET_BRUSHES
   BrushAlone(HeightOnAxis(mouse));
 #endif
-  const int axis = std::exchange(BrushedAxis, -1);
+  BrushedAxis = -1;
   SetAnnotationLink(link);
   const std::vector<bool> brushed = rowsShown(plot);
   const int mode = vtkChartXY::GetMouseSelectionMode(mouse, vtkContextScene::SELECTION_DEFAULT);
   ShowSelection();
   KeepsBrush = true;
-  if (!TakesBrush(axis, HeightOnAxis(mouse), mode))
-    Talmesh::selectRows(link, plot->GetInput(), brushed, mode);
+  Talmesh::selectRows(link, plot->GetInput(), brushed, mode);
   KeepsBrush = link->GetMTime() > Shown;
   return handled;
 }

@@ -1,14 +1,19 @@
 #ifndef vtkSelectableParallelCoordinates_h
 #define vtkSelectableParallelCoordinates_h
 
+#include "vtk/SelectionGesture.h"
 #include "vtk/VtkCompat.h"
 
 #include <vtkChartParallelCoordinates.h>
 #include <vtkNew.h>
 #include <vtkStringArray.h>
 #include <vtkTimeStamp.h>
+#include <vtkTooltipItem.h>
+#include <vtkVector.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace Talmesh
 {
@@ -18,9 +23,12 @@ struct GestureHandling;
 /// A parallel-coordinates chart in which brushing an axis selects table rows as a rectangle in an
 /// XY chart does: control adds the rows brushed to those selected, shift subtracts and both toggle
 /// them, and the annotation link gets one new selection. VTK's own chart reads no modifiers. Each
-/// brush stands alone, and what is highlighted are the rows that the link's selection names. A
-/// program that takes gestures (SetGestures) is asked first: a brush is a rectangle of the column
-/// over itself.
+/// brush stands alone, and what is highlighted are the rows that the link's selection names.
+///
+/// Where a program takes gestures (SetGestures), brushes of several axes are kept and drawn, and
+/// mean together the rows within all of them, as long as these are selected. A brush with one of
+/// those keys stands alone and is not kept. A click means the row whose line is nearest, and beside
+/// the mouse stands what the program says of that row.
 ///
 /// Where the button of the action PAN moves an axis, the axes stand at equal distances again when
 /// it is released, in their new order, and the chart invokes vtkCommand::InteractionEvent.
@@ -36,6 +44,7 @@ public:
   bool Hit(const vtkContextMouseEvent& mouse) override { return Scene && Superclass::Hit(mouse); }
   bool MouseButtonPressEvent(const vtkContextMouseEvent& mouse) override;
   bool MouseMoveEvent(const vtkContextMouseEvent& mouse) override;
+  bool MouseLeaveEvent(const vtkContextMouseEvent& mouse) override;
   /// Does nothing once the chart has lost its place in the scene since the button was pressed, or
   /// after CancelDrag().
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
@@ -47,8 +56,11 @@ public:
   /// at first, VTK writes them, over each other where they are long.
   void SetPlacesNames(bool places);
 
-  /// What is asked before rows are selected; null for none.
+  /// What is asked before rows are selected, and what to say beside the mouse; null for none.
   void SetGestures(std::shared_ptr<const Talmesh::GestureHandling> gestures);
+
+  /// What stands beside the mouse.
+  vtkTooltipItem* GetTooltip() { return Tooltip; }
 
   /// Ends a move of an axis: the lines may be others, of other columns.
   void SetPlot(vtkPlotParallelCoordinates* plot) override;
@@ -71,7 +83,17 @@ private:
   float HeightOnAxis(const vtkContextMouseEvent& mouse);
   void MoveAxis(const vtkContextMouseEvent& mouse);
   void PlaceAxes();
-  bool TakesBrush(int axis, float to, int mode);
+  bool AsksFirst() const;
+  void BeginGesture(const vtkContextMouseEvent& mouse);
+  void FollowMouse(const vtkContextMouseEvent& mouse);
+  bool EndGesture(const vtkContextMouseEvent& mouse);
+  void Take(const Talmesh::SelectionGesture& gesture);
+  Talmesh::SelectionGesture PointedAt(const vtkVector2f& place);
+  void Describe(const vtkContextMouseEvent& mouse);
+  void Say(const std::string& text);
+  void DropOtherBrushes();
+  void PaintBrush(vtkContext2D* painter, int axis, const Talmesh::SelectionGesture::Brush& brush);
+  void PaintGestures(vtkContext2D* painter);
   void PaintNames(vtkContext2D* painter);
 #if TALMESH_VTK_KEEPS_RESET_BRUSHES
   void BrushAlone(float to);
@@ -81,8 +103,13 @@ private:
   vtkIdType ShownRows = 0; ///< of the table at that time
   int BrushedAxis = -1;    ///< while the button is down; -1 for none
   float BrushedFrom = 0.0; ///< height on the axis
-  int MovedAxis = -1;      ///< while its button is down; -1 for none
-  bool Cancelled = false;  ///< the button is still down
+  float BrushedTo = 0.0;   ///< the same, where a program takes gestures
+  vtkVector2f Pressed;     ///< where, in the scene
+  /// Of several axes, where a program takes gestures.
+  std::vector<Talmesh::SelectionGesture::Brush> Brushes;
+  vtkNew<vtkTooltipItem> Tooltip;
+  int MovedAxis = -1;     ///< while its button is down; -1 for none
+  bool Cancelled = false; ///< the button is still down
   /// The brush still to be seen is that of the selection to be shown next.
   bool KeepsBrush = false;
   bool PlacesNames = false;

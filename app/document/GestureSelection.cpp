@@ -162,7 +162,18 @@ std::string numberText(double value)
   return QString::number(value, 'g', shownDigits).toStdString();
 }
 
+/// What the chart has found, or brushes of its axes: it draws no series along two axes.
+bool hasNoSeries(const SelectionGesture& gesture)
+{
+  return gesture.rows || !gesture.brushes.empty();
+}
+
 } // namespace
+
+std::string textBeside(const TableRuns& runs, std::size_t run)
+{
+  return withValues(translated("GestureSelection", "Run %1"), {runText(runs, run)});
+}
 
 std::string textBeside(const TableRuns& runs, std::size_t run, const std::string& column,
                        const DrawnPoint& point)
@@ -175,7 +186,7 @@ std::string textBeside(const TableRuns& runs, std::size_t run, const std::string
 std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
                                           const SelectionGesture& gesture, GestureRule rule)
 {
-  const auto series = seriesOf(container, gesture);
+  const auto series = hasNoSeries(gesture) ? std::nullopt : seriesOf(container, gesture);
   if (!series)
     return wordsOfPoints(runs, gesture);
   if (runs.numberOfRuns() == 0)
@@ -191,7 +202,7 @@ std::optional<std::string> wordsOfGesture(const PlotContainer& container, const 
 std::optional<std::string> nearestRun(const PlotContainer& container, const TableRuns& runs,
                                       const SelectionGesture& place)
 {
-  const auto series = seriesOf(container, place);
+  const auto series = hasNoSeries(place) ? std::nullopt : seriesOf(container, place);
   if (!series)
     return nearestPoint(runs, place);
   if (runs.numberOfRuns() == 0)

@@ -19,7 +19,8 @@ class TableRuns;
 /// Pixels that a line or point may be away from the mouse.
 constexpr double pointingReach = 6.0;
 
-/// What to say beside the mouse: "Run 17, TetR: 4.5, 8.55".
+/// What to say beside the mouse: "Run 17", or "Run 17, TetR: 4.5, 8.55".
+std::string textBeside(const TableRuns& runs, std::size_t run);
 std::string textBeside(const TableRuns& runs, std::size_t run, const std::string& column,
                        const DrawnPoint& point);
 

@@ -9,6 +9,7 @@
 #include <vtkTable.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -143,6 +144,62 @@ NearestPoint nearestOf(const TableRuns& runs, const SelectionGesture& gesture,
   return nearest;
 }
 
+/// Empty where a column has no words.
+std::string wordsOfBrushes(const TableRuns& runs, const SelectionGesture& gesture)
+{
+  std::string words;
+  for (const SelectionGesture::Brush& brush : gesture.brushes)
+  {
+    const std::string column = wordsOf(runs, brush.column);
+    if (column.empty())
+      return {};
+    words +=
+        (words.empty() ? "" : " and ") + between(column, brush.low, brush.high, brush.units, false);
+  }
+  return words;
+}
+
+std::vector<bool> hitByBrushes(const TableRuns& runs, const SelectionGesture& gesture)
+{
+  std::vector<bool> hit(runs.numberOfRuns(), true);
+  for (const SelectionGesture::Brush& brush : gesture.brushes)
+  {
+    vtkDoubleArray* values =
+        plot::doubleColumn(gesture.table, plot::columnIndex(gesture.table, brush.column));
+    for (std::size_t run = 0; run < hit.size(); ++run)
+    {
+      const double value = values ? values->GetValue(static_cast<vtkIdType>(run)) : NAN;
+      hit[run] = hit[run] && value >= brush.low && value <= brush.high;
+    }
+  }
+  return hit;
+}
+
+/// How many rows of what a chart draws are a run; 0 where it draws anything else.
+std::size_t rowsOfRun(const TableRuns& runs, const SelectionGesture& gesture)
+{
+  const std::size_t count = runs.numberOfRuns();
+  if (!gesture.table || count == 0)
+    return 0;
+  const auto rows = static_cast<std::size_t>(gesture.table->GetNumberOfRows());
+  if (rows == count)
+    return 1;
+  return rows / runs.pointsPerRun() == count ? runs.pointsPerRun() : 0;
+}
+
+/// The runs of the rows that the chart has found; none where these are not of runs.
+std::optional<std::vector<bool>> runsOfRows(const TableRuns& runs, const SelectionGesture& gesture)
+{
+  const std::size_t each = rowsOfRun(runs, gesture);
+  if (each == 0)
+    return {};
+  std::vector<bool> found(runs.numberOfRuns(), false);
+  for (const vtkIdType row : *gesture.rows)
+    if (const std::size_t run = static_cast<std::size_t>(row) / each; run < found.size())
+      found[run] = true;
+  return found;
+}
+
 std::vector<bool> onlyRun(const TableRuns& runs, std::size_t run)
 {
   std::vector<bool> only(runs.numberOfRuns(), false);
@@ -154,6 +211,18 @@ std::vector<bool> onlyRun(const TableRuns& runs, std::size_t run)
 
 std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture)
 {
+  if (gesture.rows)
+  {
+    const auto found = runsOfRows(runs, gesture);
+    return found ? std::optional(runs.words(*found)) : std::nullopt;
+  }
+  if (!gesture.brushes.empty())
+  {
+    if (rowsOfRun(runs, gesture) != 1)
+      return {};
+    const std::string words = wordsOfBrushes(runs, gesture);
+    return words.empty() ? runs.words(hitByBrushes(runs, gesture)) : words;
+  }
   const auto points = pointsOf(runs, gesture);
   if (!points)
     return {};
@@ -172,6 +241,15 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
 
 std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place)
 {
+  if (place.rows)
+  {
+    const auto found = runsOfRows(runs, place);
+    if (!found)
+      return {};
+    const auto run = std::find(found->begin(), found->end(), true);
+    return run == found->end() ? std::string()
+                               : textBeside(runs, static_cast<std::size_t>(run - found->begin()));
+  }
   const auto points = pointsOf(runs, place);
   if (!points)
     return {};

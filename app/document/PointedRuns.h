@@ -11,11 +11,12 @@ namespace Talmesh::app
 
 class TableRuns;
 
-/// What the mouse points at in charts that draw one point per run, of a table with a row for each.
+/// What the mouse points at in charts that draw one point or line per run, of a table with a row
+/// for each.
 ///
-/// As `wordsOfGesture` and `nearestRun`, of such charts alone: the words of a rectangle are
-/// comparisons, where its columns are called by words that filters read, otherwise the numbers of
-/// the runs. A line means no runs.
+/// As `wordsOfGesture` and `nearestRun`, of such charts alone, and of those that name rows or are
+/// brushed: the words of a rectangle or of brushes are comparisons, where its columns are called by
+/// words that filters read, otherwise the numbers of the runs. A line means no runs.
 std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture);
 std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place);
 

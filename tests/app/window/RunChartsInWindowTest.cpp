@@ -1,111 +1,18 @@
+#include "window/RunChartsInWindow.h"
+
 #include "app/document/FeatureColumns.h"
 #include "app/styles/ViewerStyles.h"
 
-#include <vtkScatterPlotMatrix.h>
-#include <vtkStringArray.h>
-
 #include <QComboBox>
-
-#include <string>
-#include <vector>
-
-#include "window/SelectionInWindow.h"
 
 namespace
 {
 
 using namespace Talmesh::app;
 
-using Names = std::vector<std::string>;
-
 constexpr Qt::KeyboardModifiers adding = Qt::ControlModifier;
 constexpr Qt::KeyboardModifiers subtracting = Qt::ShiftModifier;
 const Qt::KeyboardModifiers toggling = Qt::ControlModifier | Qt::ShiftModifier;
-
-/// Charts of one point or line per run. The parameter k of run r is r + 0.5.
-class RunChartsInWindow : public SelectionInWindow
-{
-protected:
-  using Selected = SelectionInWindow::Runs;
-
-  vtkChartParallelCoordinates* lines()
-  {
-    return vtkChartParallelCoordinates::SafeDownCast(container().getItem());
-  }
-
-  Names axes()
-  {
-    Names names;
-    for (vtkIdType i = 0; lines() && i < lines()->GetVisibleColumns()->GetNumberOfValues(); ++i)
-      names.push_back(lines()->GetVisibleColumns()->GetValue(i));
-    return names;
-  }
-
-  QPoint onAxis(int axis, double value)
-  {
-    vtkAxis* shown = lines()->GetAxis(axis);
-    const double part = (value - shown->GetMinimum()) / (shown->GetMaximum() - shown->GetMinimum());
-    const double y = shown->GetPoint1()[1] + part * (shown->GetPoint2()[1] - shown->GetPoint1()[1]);
-    return {qRound(shown->GetPoint1()[0]), plot().height() - 1 - qRound(y)};
-  }
-
-  /// Brushes the part of the axis of k around that of a run.
-  void brush(int run, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-  {
-    // The mouse must go down within the axis, which runs from the first to the last run.
-    const double inner = run == 2 ? -0.3 : 0.3;
-    drag(plot(), Qt::RightButton, onAxis(0, run + 0.5 + inner), onAxis(0, run + 0.5 - inner),
-         modifiers);
-  }
-
-  vtkScatterPlotMatrix* matrix()
-  {
-    return vtkScatterPlotMatrix::SafeDownCast(container().getItem());
-  }
-
-  /// Drags in the large chart of the matrix, whose axes stand right and above, around k of a run
-  /// over its whole height.
-  void dragInMatrix(int run, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-  {
-    vtkChart* chart = matrix()->GetMainChart();
-    vtkAxis* x = chart->GetAxis(vtkAxis::TOP);
-    vtkAxis* y = chart->GetAxis(vtkAxis::RIGHT);
-    const auto pixel = [&](double value, double height)
-    {
-      const double part = (value - x->GetMinimum()) / (x->GetMaximum() - x->GetMinimum());
-      const double row = y->GetPoint1()[1] + height * (y->GetPoint2()[1] - y->GetPoint1()[1]);
-      return QPoint(qRound(x->GetPoint1()[0] + part * (x->GetPoint2()[0] - x->GetPoint1()[0])),
-                    plot().height() - 1 - qRound(row));
-    };
-    drag(plot(), Qt::RightButton, pixel(run + 0.4, 0.01), pixel(run + 0.6, 0.99), modifiers);
-  }
-
-  /// Rows of whole runs.
-  static Rows rowsOf(const Selected& selected)
-  {
-    Rows rows;
-    for (const int run : selected)
-      for (int point = 0; point < pointsPerRun; ++point)
-        rows.insert(run * pointsPerRun + point);
-    return rows;
-  }
-
-  void expectSelected(const Selected& selected, const char* what)
-  {
-    EXPECT_EQ(runs(), selected) << what;
-    EXPECT_EQ(flags(), rowsOf(selected)) << what;
-    EXPECT_EQ(window.selectionText(),
-              QString("%1 of 3 runs selected").arg(static_cast<int>(selected.size())))
-        << what;
-  }
-
-  void show(const PlotChoice& choice)
-  {
-    window.plotDock()->setChoice(choice);
-    emit window.plotDock()->choiceChanged();
-    plot().updatePlot(true);
-  }
-};
 
 } // namespace
 

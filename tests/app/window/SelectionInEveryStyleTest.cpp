@@ -32,8 +32,9 @@ TEST_F(SelectionInEveryStyle, SurvivesAChangeOfStyleAndColumns)
     {
       EXPECT_EQ(highlightedLines(), Rows{1});
     }
-    // Style 4 shows no selection; 3, 6 and 8 have something red without one.
-    else if (style == xyPlot || style == multiPlot || style == scatterWithErrorBars)
+    // 3, 6 and 8 have something red without one.
+    else if (style == xyPlot || style == xyzPlot || style == multiPlot ||
+             style == scatterWithErrorBars)
     {
       EXPECT_GT(redPixels(), 10) << style;
     }
@@ -88,7 +89,8 @@ TEST_F(SelectionInEveryStyle, IsCleared)
     {
       EXPECT_EQ(highlightedLines(), Rows{});
     }
-    else if (style == xyPlot || style == multiPlot || style == scatterWithErrorBars)
+    else if (style == xyPlot || style == xyzPlot || style == multiPlot ||
+             style == scatterWithErrorBars)
     {
       EXPECT_EQ(redPixels(), 0) << style;
     }
