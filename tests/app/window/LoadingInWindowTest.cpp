@@ -14,7 +14,6 @@
 #include <QCheckBox>
 #include <QDropEvent>
 #include <QFile>
-#include <QImage>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
