@@ -1,5 +1,6 @@
 #include "app/Batch.h"
 
+#include "app/OutputFiles.h"
 #include "app/comparison/ComparisonFile.h"
 #include "app/document/Document.h"
 #include "app/document/TableRuns.h"
@@ -13,7 +14,6 @@
 #include <vtkNew.h>
 
 #include <QFile>
-#include <QFileInfo>
 #include <QString>
 
 #include <iostream>
@@ -49,6 +49,8 @@ std::string writeComparison(const Comparison& comparison, const QString& path)
     return "no run is selected to be compared; name some by --select";
   case Comparison::State::noOthers:
     return "all runs are selected; there are none to compare them with";
+  case Comparison::State::onlyInBoth:
+    return "runs in both selections count for neither; without them there is nothing to compare";
   case Comparison::State::compared:
     break;
   }
@@ -100,17 +102,6 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
   return error;
 }
 
-/// A table written over the one that is read would be the end of somebody's data.
-std::string whyNotWritten(const CommandLineOptions& options)
-{
-  const QFileInfo read(QFile::decodeName(options.file.c_str()));
-  for (const std::string& path : {options.compare, options.runs})
-    if (!options.file.empty() && !path.empty() && read.exists() &&
-        QFileInfo(QFile::decodeName(path.c_str())).canonicalFilePath() == read.canonicalFilePath())
-      return path + ": is the file that is read";
-  return {};
-}
-
 Result<OpenedStudy> openNamed(const CommandLineOptions& options)
 {
   if (!options.file.empty())
@@ -124,8 +115,8 @@ Result<OpenedStudy> openNamed(const CommandLineOptions& options)
 
 std::string runBatch(const CommandLineOptions& options)
 {
-  if (std::string reason = whyNotWritten(options); !reason.empty())
-    return reason;
+  if (const std::string lost = lostFile(options); !lost.empty())
+    return lost;
   const Result<OpenedStudy> result = openNamed(options);
   if (!result.hasValue())
     return result.error();

@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 
+#include "app/comparison/ComparisonChoice.h"
 #include "app/export/PictureFile.h"
 #include "app/styles/ViewerStyles.h"
 
@@ -109,6 +110,22 @@ std::string readSelect(const std::string& value, CommandLineOptions& options)
   return {};
 }
 
+std::string readWith(const std::string& value, CommandLineOptions& options)
+{
+  options.with = typedText(value);
+  return {};
+}
+
+std::string readSeed(const std::string& value, CommandLineOptions& options)
+{
+  std::uint64_t seed = 0;
+  if (!readNumber<std::uint64_t>(value, 1, largestSeed, seed))
+    return "--seed takes a whole number from 1 to " + std::to_string(largestSeed) + ", not " +
+           value;
+  options.seed = seed;
+  return {};
+}
+
 std::string readExport(const std::string& value, CommandLineOptions& options)
 {
   const std::size_t nameStart = value.find_last_of('/') + 1;
@@ -122,12 +139,16 @@ std::string readExport(const std::string& value, CommandLineOptions& options)
 
 std::string readCompare(const std::string& value, CommandLineOptions& options)
 {
+  if (!options.compare.empty())
+    return "--compare is given twice";
   options.compare = value;
   return {};
 }
 
 std::string readRuns(const std::string& value, CommandLineOptions& options)
 {
+  if (!options.runs.empty())
+    return "--runs is given twice";
   options.runs = value;
   return {};
 }
@@ -204,6 +225,8 @@ constexpr Option optionsWithValue[] = {{"style", readStyle},
                                        {"y", readY},
                                        {"z", readZ},
                                        {"select", readSelect},
+                                       {"with", readWith},
+                                       {"seed", readSeed},
                                        {"export", readExport},
                                        {"compare", readCompare},
                                        {"runs", readRuns},
@@ -263,7 +286,8 @@ Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& argu
   QCommandLineParser line;
   const QCommandLineOption help(QStringList{QStringLiteral("help"), QStringLiteral("h")});
   const QCommandLineOption version(QStringLiteral("version"));
-  line.addOptions({help, version});
+  const QCommandLineOption halves(QStringLiteral("halves"));
+  line.addOptions({help, version, halves});
   for (const Option& option : optionsWithValue)
     line.addOption({QLatin1String(option.name), {}, QStringLiteral("value")});
   QStringList all{QString()};
@@ -277,6 +301,7 @@ Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& argu
   options.version = !options.help && line.isSet(version);
   if (options.help || options.version)
     return options;
+  options.halves = line.isSet(halves);
   const std::string error = sound ? read(line, options) : refusal(line, all.back());
   return error.empty() ? Result<CommandLineOptions>(options)
                        : Result<CommandLineOptions>::failed(error);

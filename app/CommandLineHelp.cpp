@@ -39,6 +39,11 @@ std::string commandLineHelp()
       "  --z NAME                the column for the third axis, or the error bars\n"
       "  --select CONDITION      select the runs that meet it, such as 'max(TetR) > 150'; several\n"
       "                          of them add up\n"
+      "  --with CONDITION        compare them with the runs that meet it, or with a kept "
+      "selection\n"
+      "                          of that name, instead of all others\n"
+      "  --halves                test in one half of the runs what differs in the other\n"
+      "  --seed N                the seed of halves and permutations, 1 without this\n"
       "  --export FILE           write " +
       exportNames("FILE") +
       " and open no window;\n"

@@ -154,8 +154,10 @@ void selectionStages(benchmark::State& state)
     measure(state, "table",
             [&]
             {
-              benchmark::DoNotOptimize(
-                  Talmesh::app::compare(Talmesh::app::comparedStudy(container, {}), {}));
+              benchmark::DoNotOptimize(Talmesh::app::compare(
+                  Talmesh::app::comparedStudy(
+                      container, Talmesh::app::comparedSides(container, {}, {}, {}), false),
+                  {}));
             });
     measure(state, "drawing", [&] { window.paint(true); });
   }

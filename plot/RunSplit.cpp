@@ -134,6 +134,10 @@ int timeColumnOf(const PlotState& state)
 RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
 {
   const MarkersAway away(state.table);
+  const int time = timeColumnOf(state);
+  if (time < 0)
+    // The filter would only complain.
+    return {vtkSmartPointer<vtkTable>::New(), nullptr, 0, 0};
   const std::vector<int>& parameters = state.metaData->parameterColumns;
   vtkNew<vtkCombinedFilterAndSelectedRows> filter;
   filter->ParameterColumns = parameters;
@@ -142,7 +146,7 @@ RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link)
   filter->SetSelectionConnection(link->GetOutputPort(selectionPort));
   filter->SetInputData(0, state.table);
   filter->AddOriginalRowIdsArrayOff();
-  filter->SetTimeColumnIndex(timeColumnOf(state));
+  filter->SetTimeColumnIndex(time);
   filter->SetStride(state.metaData->getStride());
   filter->Update();
   RunSplit split;

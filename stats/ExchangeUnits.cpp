@@ -1,7 +1,9 @@
 #include "stats/ExchangeUnits.h"
 
+#include "stats/LinkedRuns.h"
 #include "stats/SaltelliDesign.h"
 
+#include <algorithm>
 #include <limits>
 #include <map>
 #include <numeric>
@@ -67,6 +69,39 @@ ExchangeUnits baseSamples(const SaltelliDesign& design, const ParameterSets& set
   return units;
 }
 
+/// The runs, or sets of runs, of a group in the order in which they come.
+ExchangeUnits linkedGroups(const Numbers& groupOfSet, const ParameterSets& sets)
+{
+  ExchangeUnits units;
+  units.kind = IndependentUnit::linkedRuns;
+  const std::size_t groups =
+      *std::max_element(groupOfSet.begin(), groupOfSet.end()) + std::size_t{1};
+  std::vector<Numbers> setsOfGroup(groups);
+  for (std::uint32_t set = 0; set < groupOfSet.size(); ++set)
+    setsOfGroup[groupOfSet[set]].push_back(set);
+  Numbers cellOfSet(sets.sets());
+  // Those with as many runs in each of as many sets may change places.
+  std::map<Numbers, Numbers> alike;
+  for (std::uint32_t group = 0; group < groups; ++group)
+  {
+    units.firstCell.push_back(static_cast<std::uint32_t>(units.runsOfCell.size()));
+    Numbers shape;
+    for (const std::uint32_t set : setsOfGroup[group])
+    {
+      cellOfSet[set] = static_cast<std::uint32_t>(units.runsOfCell.size());
+      units.runsOfCell.push_back(sets.runsOfSet[set]);
+      shape.push_back(sets.runsOfSet[set]);
+    }
+    alike[shape].push_back(group);
+  }
+  units.firstCell.push_back(static_cast<std::uint32_t>(units.runsOfCell.size()));
+  for (auto& [shape, members] : alike)
+    units.classes.push_back(std::move(members));
+  for (const std::uint32_t set : sets.setOfRun)
+    units.cellOfRun.push_back(cellOfSet[set]);
+  return units;
+}
+
 /// The parameters of the first run of each set.
 ParameterColumns columnsOfSets(const ParameterColumns& columns, const ParameterSets& sets)
 {
@@ -98,6 +133,45 @@ double ExchangeUnits::arrangements() const
   return ways;
 }
 
+ExchangeUnits partOfUnits(const ExchangeUnits& units, const std::vector<char>& isKept)
+{
+  constexpr std::uint32_t none = ~std::uint32_t{0};
+  std::vector<char> keepsCell(units.runsOfCell.size(), 0);
+  for (std::size_t run = 0; run < isKept.size(); ++run)
+    if (isKept[run] != 0)
+      keepsCell[units.cellOfRun[run]] = 1;
+  ExchangeUnits part;
+  part.kind = units.kind;
+  Numbers cellNow(units.runsOfCell.size(), none);
+  Numbers unitNow(units.units(), none);
+  for (std::uint32_t unit = 0; unit < units.units(); ++unit)
+  {
+    if (keepsCell[units.firstCell[unit]] == 0)
+      continue;
+    unitNow[unit] = static_cast<std::uint32_t>(part.firstCell.size());
+    part.firstCell.push_back(static_cast<std::uint32_t>(part.runsOfCell.size()));
+    for (std::uint32_t cell = units.firstCell[unit]; cell < units.firstCell[unit + 1]; ++cell)
+    {
+      cellNow[cell] = static_cast<std::uint32_t>(part.runsOfCell.size());
+      part.runsOfCell.push_back(units.runsOfCell[cell]);
+    }
+  }
+  part.firstCell.push_back(static_cast<std::uint32_t>(part.runsOfCell.size()));
+  for (const Numbers& members : units.classes)
+  {
+    Numbers kept;
+    for (const std::uint32_t unit : members)
+      if (unitNow[unit] != none)
+        kept.push_back(unitNow[unit]);
+    if (!kept.empty())
+      part.classes.push_back(std::move(kept));
+  }
+  for (std::size_t run = 0; run < isKept.size(); ++run)
+    if (isKept[run] != 0)
+      part.cellOfRun.push_back(cellNow[units.cellOfRun[run]]);
+  return part;
+}
+
 ExchangeUnits exchangeUnits(const ParameterColumns& columns)
 {
   const std::size_t runs = runsIn(columns);
@@ -107,13 +181,14 @@ ExchangeUnits exchangeUnits(const ParameterColumns& columns)
     return baseSamples(*design, ParameterSets{ascending(runs), Numbers(runs, 1)});
   }
   ParameterSets sets = parameterSets(columns);
-  if (!sets.replicated())
-    return singleRuns(runs);
-  if (sets.balanced())
+  const ParameterColumns points = sets.replicated() ? columnsOfSets(columns, sets) : columns;
+  if (sets.replicated() && sets.balanced())
   {
-    if (const auto design = recogniseSaltelliDesign(columnsOfSets(columns, sets)))
+    if (const auto design = recogniseSaltelliDesign(points))
       return baseSamples(*design, sets);
   }
-  return wholeSets(std::move(sets));
+  if (const auto groups = linkedRuns(points))
+    return linkedGroups(*groups, sets);
+  return sets.replicated() ? wholeSets(std::move(sets)) : singleRuns(runs);
 }
 } // namespace Talmesh::stats

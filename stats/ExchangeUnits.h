@@ -30,11 +30,15 @@ struct ExchangeUnits
   double arrangements() const;
 };
 
+/// The units of the runs for which `isKept` is not 0, of each unit all or none.
+ExchangeUnits partOfUnits(const ExchangeUnits& units, const std::vector<char>& isKept);
+
 /// With fewer arrangements no p below 0.05 exists, and permuting tells nothing.
 constexpr double fewestArrangements = 20.0;
 
 /// Base samples where the runs, or the sets of as many runs each in the order of their first runs,
-/// are a Saltelli design; else sets where some set has several runs; else single runs.
+/// are a Saltelli design; else groups of runs that share values (stats/LinkedRuns.h); else sets
+/// where some set has several runs; else single runs.
 /// @throws as runsIn() does
 ExchangeUnits exchangeUnits(const ParameterColumns& columns);
 } // namespace Talmesh::stats

@@ -1,7 +1,7 @@
 #include "stats/HalfComparison.h"
 
-#include "stats/ExchangeUnits.h"
 #include "stats/PortableRandom.h"
+#include "stats/UnitComparison.h"
 
 #include <stdexcept>
 
@@ -54,7 +54,8 @@ public:
       : columns(parameterColumns)
       , selected(selectedRuns)
       , plan(comparisonPlan)
-      , second(secondHalf(exchangeUnits(parameterColumns), comparisonPlan.seed))
+      , units(exchangeUnits(parameterColumns))
+      , second(secondHalf(units, comparisonPlan.seed))
   {
   }
 
@@ -69,7 +70,11 @@ public:
       ofHalf.leftOut = partOf(plan.leftOut, second, half);
     if (plan.progress)
       ofHalf.progress = [this, half](double done) { return plan.progress((half + done) / 2.0); };
-    return compareRuns(part, partOf(selected, second, half), ofHalf);
+    std::vector<char> isInHalf;
+    for (const char inSecond : second)
+      isInHalf.push_back(inSecond == half ? 1 : 0);
+    return compareRunsIn(partOfUnits(units, isInHalf), part, partOf(selected, second, half),
+                         ofHalf);
   }
 
   const std::vector<char>& secondRuns() const { return second; }
@@ -78,6 +83,7 @@ private:
   const ParameterColumns& columns;
   const std::vector<char>& selected;
   const ComparisonPlan& plan;
+  ExchangeUnits units;
   std::vector<char> second;
 };
 } // namespace

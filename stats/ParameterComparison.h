@@ -2,6 +2,7 @@
 #define ParameterComparison_h
 
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <vector>
 
@@ -18,7 +19,9 @@ enum class IndependentUnit
   /// The runs of equal parameters.
   parameterSet,
   /// The runs of a base sample of a Saltelli design.
-  baseSample
+  baseSample,
+  /// Runs that share values (stats/LinkedRuns.h).
+  linkedRuns
 };
 
 /// What is compared between the selected runs and the others.
@@ -69,7 +72,22 @@ enum class TestMethod
   /// Permutations of whole parameter sets (stats/SelectionPermutation.h).
   permutedSets,
   /// Permutations of the base samples of a Saltelli design.
-  permutedBaseSamples
+  permutedBaseSamples,
+  /// Permutations of whole groups of runs that share values.
+  permutedLinkedRuns
+};
+
+/// How p is adjusted for the number of parameters.
+enum class Adjustment
+{
+  /// False discovery rate (stats/AdjustedPValues.h).
+  benjaminiHochberg,
+  /// Probability of any false rejection (stats/AdjustedPValues.h).
+  holm,
+  /// The same by permutations common to all parameters, which uses how they hang together
+  /// (stats/SelectionPermutation.h). Also for single runs, where p itself comes from no
+  /// permutation.
+  maxT
 };
 
 /// Why there is no p-value. What comes first here is told where several hold.
@@ -129,6 +147,11 @@ struct ParameterComparison
   NotTested reason = NotTested::tested;
   /// Permutations behind p; 0 for other methods.
   std::size_t permutations = 0;
+  /// Of the adjusted p, and the permutations behind it; 0 for other adjustments.
+  Adjustment adjustment = Adjustment::benjaminiHochberg;
+  std::size_t adjustingPermutations = 0;
+  /// Of all these permutations, if any.
+  std::uint64_t seed = 0;
 
   /// Whether the true p is smaller.
   bool isOnlyBounded() const { return p <= std::numeric_limits<double>::min(); }

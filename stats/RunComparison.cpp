@@ -8,12 +8,14 @@
 #include "stats/ParallelParts.h"
 #include "stats/RankStatistic.h"
 #include "stats/SelectionPermutation.h"
+#include "stats/UnitComparison.h"
 
 #include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <mutex>
 #include <stdexcept>
+#include <utility>
 
 namespace Talmesh::stats
 {
@@ -58,14 +60,22 @@ void checkLengths(const ParameterColumns& columns, const std::vector<char>& sele
     throw std::invalid_argument("runs left out of another number of runs");
 }
 
+TestMethod permutedUnits(IndependentUnit unit)
+{
+  if (unit == IndependentUnit::linkedRuns)
+    return TestMethod::permutedLinkedRuns;
+  return unit == IndependentUnit::baseSample ? TestMethod::permutedBaseSamples
+                                             : TestMethod::permutedSets;
+}
+
 class Comparer
 {
 public:
   Comparer(const ParameterColumns& parameterColumns, const std::vector<char>& selected,
-           const ComparisonPlan& comparisonPlan)
+           const ComparisonPlan& comparisonPlan, ExchangeUnits exchanged)
       : columns(parameterColumns)
       , plan(comparisonPlan)
-      , units(exchangeUnits(parameterColumns))
+      , units(std::move(exchanged))
       , groups(groupsOf(units, selected, comparisonPlan.leftOut))
   {
     result.units = summaryOf(units);
@@ -104,6 +114,7 @@ private:
     ParameterComparison row = describedGroups(blocks, ranked.valuesOfBlocks(groups));
     row.parameter = parameter;
     row.comparedBy = plan.comparedBy;
+    row.adjustment = plan.adjustment;
     row.reason = obstacle(row);
     if (!permutes())
     {
@@ -180,8 +191,8 @@ private:
       row.p = p[i];
       row.logP = std::log(p[i]);
       row.permutations = result.permutations;
-      row.method = units.kind == IndependentUnit::baseSample ? TestMethod::permutedBaseSamples
-                                                             : TestMethod::permutedSets;
+      row.seed = plan.seed;
+      row.method = permutedUnits(units.kind);
     }
   }
 
@@ -192,6 +203,8 @@ private:
     {
       ParameterComparison& row = result.parameters[tested[i]];
       row.adjusted = std::max(adjusted[i], row.p);
+      row.adjustingPermutations = result.permutations;
+      row.seed = plan.seed;
     }
   }
 
@@ -242,7 +255,13 @@ RunComparison compareRuns(const ParameterColumns& columns, const std::vector<cha
   checkLengths(columns, selected, plan.leftOut);
   if (columns.empty())
     return {};
-  return Comparer(columns, selected, plan).run();
+  return Comparer(columns, selected, plan, exchangeUnits(columns)).run();
+}
+
+RunComparison compareRunsIn(const ExchangeUnits& units, const ParameterColumns& columns,
+                            const std::vector<char>& selected, const ComparisonPlan& plan)
+{
+  return Comparer(columns, selected, plan, units).run();
 }
 
 bool takesTimeToCompare(const ParameterColumns& columns, const std::vector<char>& selected,

@@ -11,18 +11,6 @@
 
 namespace Talmesh::stats
 {
-enum class Adjustment
-{
-  /// False discovery rate (stats/AdjustedPValues.h).
-  benjaminiHochberg,
-  /// Probability of any false rejection (stats/AdjustedPValues.h).
-  holm,
-  /// The same by permutations common to all parameters, which uses how they hang together
-  /// (stats/SelectionPermutation.h). Also for single runs, where p itself comes from no
-  /// permutation.
-  maxT
-};
-
 struct ComparisonPlan
 {
   ComparedBy comparedBy = ComparedBy::distribution;
@@ -66,9 +54,10 @@ struct RunComparison
 /// Compares the selected runs with the others, or with those of the others that the plan does not
 /// leave out, parameter by parameter.
 ///
-/// Independent are single runs, sets of runs with equal parameters, or the base samples of a
-/// Saltelli design (stats/ExchangeUnits.h). Single runs are tested exactly where that is feasible,
-/// otherwise whole units are permuted. Runs without a value of a parameter are left out of its row.
+/// Independent are single runs, sets of runs with equal parameters, the base samples of a Saltelli
+/// design, or groups of runs that share values (stats/ExchangeUnits.h). Single runs are tested
+/// exactly where that is feasible, otherwise whole units are permuted. Runs without a value of a
+/// parameter are left out of its row.
 ///
 /// O(parameters N log N), and what the tests take: see their headers. Runs parameters and
 /// permutations on all cores.

@@ -24,10 +24,6 @@
         <translation>konstant</translation>
     </message>
     <message>
-        <source>chosen by this</source>
-        <translation>hiernach gewählt</translation>
-    </message>
-    <message>
         <source>too many values</source>
         <translation>zu viele Werte</translation>
     </message>
@@ -68,10 +64,6 @@
         <translation>Nicht geprüft. Es gibt zu wenige Parametersätze mit gleich vielen Läufen: Kein p unter 0.05 ist möglich.</translation>
     </message>
     <message>
-        <source>Not tested. The test was cancelled.</source>
-        <translation>Nicht geprüft. Der Test wurde abgebrochen.</translation>
-    </message>
-    <message>
         <source>Not tested. Values change within a run: the test needs one value for every run.</source>
         <translation>Nicht geprüft. Werte ändern sich innerhalb eines Laufs: Der Test braucht einen Wert für jeden Lauf.</translation>
     </message>
@@ -104,10 +96,6 @@
         <translation>%1 Läufe</translation>
     </message>
     <message>
-        <source>Tested is one half, drawn at random (seed %1): what differs in the other half.</source>
-        <translation>Geprüft wird eine zufällige Hälfte (Startwert %1): was sich in der anderen Hälfte unterscheidet.</translation>
-    </message>
-    <message>
         <source>Independent: %1.</source>
         <translation>Unabhängig: %1.</translation>
     </message>
@@ -116,13 +104,98 @@
         <translation>%1 Vertauschungen, Startwert %2.</translation>
     </message>
     <message>
-        <source>p-values found after looking are exploratory; selections looked at so far: %1.</source>
-        <translation>Nach dem Hinsehen gefundene p-Werte sind Erkundung; bisher betrachtete Auswahlen: %1.</translation>
-    </message>
-    <message>
         <source>adjusted p %1</source>
         <comment>a number behind =, or an unequal sign and a number</comment>
         <translation>berichtigtes p %1</translation>
+    </message>
+    <message>
+        <source>%1 compared with %2.</source>
+        <comment>two groups of runs</comment>
+        <translation>%1 verglichen mit: %2.</translation>
+    </message>
+    <message>
+        <source>The present selection</source>
+        <translation>Die jetzige Auswahl</translation>
+    </message>
+    <message>
+        <source>the others</source>
+        <translation>die übrigen</translation>
+    </message>
+    <message>
+        <source>Runs in both, which count for neither: %1.</source>
+        <translation>Läufe in beiden, die für keine zählen: %1.</translation>
+    </message>
+    <message>
+        <source>Tested is one half, drawn at random (seed %1): what differs in the other half. The same words select the runs in both.</source>
+        <translation>Geprüft wird eine zufällige Hälfte (Startwert %1): was sich in der anderen Hälfte unterscheidet. In beiden wählen dieselben Worte die Läufe aus.</translation>
+    </message>
+    <message>
+        <source>Tested is one half, drawn at random (seed %1): what differs in the other half. No words select the runs, so the selection itself was split.</source>
+        <translation>Geprüft wird eine zufällige Hälfte (Startwert %1): was sich in der anderen Hälfte unterscheidet. Keine Worte wählen die Läufe aus, daher wurde die Auswahl selbst geteilt.</translation>
+    </message>
+    <message>
+        <source>%1 groups of %2 runs that share values</source>
+        <translation>%1 Gruppen von %2 Läufen mit gemeinsamen Werten</translation>
+    </message>
+    <message>
+        <source>%1 groups of %2 to %3 runs that share values</source>
+        <translation>%1 Gruppen von %2 bis %3 Läufen mit gemeinsamen Werten</translation>
+    </message>
+    <message>
+        <source>%1 has no runs.</source>
+        <translation>%1 hat keine Läufe.</translation>
+    </message>
+    <message>
+        <source>This table has no parameters to compare.</source>
+        <translation>Diese Tabelle hat keine Parameter zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>Nothing is selected. Drag a rectangle over some runs with the right mouse button to compare their parameters with those of the other runs.</source>
+        <translation>Nichts ist ausgewählt. Ziehen Sie mit der rechten Maustaste ein Rechteck über einige Läufe, um ihre Parameter mit denen der übrigen zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>All runs are selected; there are none to compare them with.</source>
+        <translation>Alle Läufe sind ausgewählt; es bleiben keine zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>%1 has all runs; there are none to compare them with.</source>
+        <translation>%1 hat alle Läufe; es bleiben keine zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>Runs that are in both selections count for neither, and without them there is nothing to compare.</source>
+        <translation>Läufe, die in beiden Auswahlen sind, zählen für keine, und ohne sie gibt es nichts zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>p-values found after looking are exploratory; selections looked at so far: %1; check in halves.</source>
+        <translation>Nach dem Hinsehen gefundene p-Werte sind Erkundung; bisher betrachtete Auswahlen: %1; prüfen Sie in Hälften.</translation>
+    </message>
+    <message>
+        <source>larger in %1</source>
+        <translation>größer in %1</translation>
+    </message>
+    <message>
+        <source>smaller in %1</source>
+        <translation>kleiner in %1</translation>
+    </message>
+    <message>
+        <source>Permutations of whole groups of runs that share values</source>
+        <translation>Vertauschungen ganzer Gruppen von Läufen mit gemeinsamen Werten</translation>
+    </message>
+    <message>
+        <source>chosen by this parameter</source>
+        <translation>hiernach gewählt</translation>
+    </message>
+    <message>
+        <source>number of a replicate</source>
+        <translation>Nummer eines Replikats</translation>
+    </message>
+    <message>
+        <source>Not tested. The test was cancelled; another selection, test or seed starts it again.</source>
+        <translation>Nicht getestet. Der Test wurde abgebrochen; eine andere Auswahl, ein anderer Test oder Startwert beginnt ihn von neuem.</translation>
+    </message>
+    <message>
+        <source>Not tested. By its name it tells replicates apart: without it, runs have equal parameters and are compared as sets.</source>
+        <translation>Nicht getestet. Dem Namen nach unterscheidet er Replikate: ohne ihn haben Läufe gleiche Parameter und werden als Sätze verglichen.</translation>
     </message>
 </context>
 <context>
@@ -1099,10 +1172,6 @@ p, li { white-space: pre-wrap; }
         <translation>p</translation>
     </message>
     <message>
-        <source>Adjusted p</source>
-        <translation>Korrigiertes p</translation>
-    </message>
-    <message>
         <source>Selected</source>
         <translation>Ausgewählt</translation>
     </message>
@@ -1131,28 +1200,35 @@ p, li { white-space: pre-wrap; }
         <translation>Größter Abstand der beiden empirischen Verteilungsfunktionen; in Klammern, was den wahren Abstand mit 95 % enthält, wo die Läufe unabhängig sind</translation>
     </message>
     <message>
-        <source>Probability that the value of a selected run exceeds that of another one; ties count half</source>
-        <translation>Wahrscheinlichkeit, dass der Wert eines ausgewählten Laufs den eines übrigen übersteigt; gleiche zählen halb</translation>
-    </message>
-    <message>
-        <source>Superiority</source>
-        <translation>Überlegenheit</translation>
-    </message>
-    <message>
-        <source>Median of the selected runs less that of the others</source>
-        <translation>Median der ausgewählten Läufe weniger dem der übrigen</translation>
-    </message>
-    <message>
-        <source>Δ median</source>
-        <translation>Δ Median</translation>
-    </message>
-    <message>
         <source>Probability of such a difference, or a larger one, if the parameter had nothing to do with the selection</source>
         <translation>Wahrscheinlichkeit eines solchen oder größeren Unterschieds, wenn der Parameter nichts mit der Auswahl zu tun hätte</translation>
     </message>
     <message>
-        <source>p adjusted for the number of parameters tested; bold where it and D meet the thresholds</source>
-        <translation>p, berichtigt um die Zahl der geprüften Parameter; fett, wo es und D die Schwellen einhalten</translation>
+        <source>Superiority: probability that the value of a selected run exceeds that of another one; ties count half</source>
+        <translation>Überlegenheit: Wahrscheinlichkeit, dass der Wert eines ausgewählten Laufs den eines anderen übertrifft; gleiche zählen halb</translation>
+    </message>
+    <message>
+        <source>Sup.</source>
+        <comment>probability of superiority, as a narrow header</comment>
+        <translation>Überl.</translation>
+    </message>
+    <message>
+        <source>Difference of medians: that of the selected runs less that of the others</source>
+        <translation>Unterschied der Mediane: der der ausgewählten Läufe weniger der der übrigen</translation>
+    </message>
+    <message>
+        <source>Δ med.</source>
+        <comment>difference of medians, as a narrow header</comment>
+        <translation>Δ Med.</translation>
+    </message>
+    <message>
+        <source>Adjusted p: for the number of parameters tested; bold where it and D meet the thresholds</source>
+        <translation>Korrigiertes p: für die Zahl der getesteten Parameter; fett, wo es und D die Schwellen erreichen</translation>
+    </message>
+    <message>
+        <source>Adj. p</source>
+        <comment>adjusted p, as a narrow header</comment>
+        <translation>Korr. p</translation>
     </message>
 </context>
 <context>
@@ -1240,18 +1316,6 @@ p, li { white-space: pre-wrap; }
 </context>
 <context>
     <name>Talmesh::app::ComparisonTable</name>
-    <message>
-        <source>This table has no parameters to compare.</source>
-        <translation>Diese Tabelle hat keine Parameter zum Vergleichen.</translation>
-    </message>
-    <message>
-        <source>Nothing is selected. Drag a rectangle over some runs with the right mouse button to compare their parameters with those of the other runs.</source>
-        <translation>Nichts ist ausgewählt. Ziehen Sie mit der rechten Maustaste ein Rechteck über einige Läufe, um ihre Parameter mit denen der übrigen zu vergleichen.</translation>
-    </message>
-    <message>
-        <source>All runs are selected; there are none to compare them with.</source>
-        <translation>Alle Läufe sind ausgewählt; es bleiben keine zum Vergleichen.</translation>
-    </message>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
@@ -1832,6 +1896,25 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>Talmesh::app::SeedBox</name>
+    <message>
+        <source>What is drawn at random follows from this number: the halves, and the permutations. The same one gives the same result on every machine</source>
+        <translation>Aus dieser Zahl folgt, was zufällig gezogen wird: die Hälften und die Vertauschungen. Dieselbe gibt auf jedem Rechner dasselbe Ergebnis</translation>
+    </message>
+    <message>
+        <source>Seed</source>
+        <translation>Startwert</translation>
+    </message>
+    <message>
+        <source>Draw anew</source>
+        <translation>Neu ziehen</translation>
+    </message>
+    <message>
+        <source>Draw other halves and other permutations</source>
+        <translation>Andere Hälften und andere Vertauschungen ziehen</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::SelectionController</name>
     <message>
         <source>This table has no runs to select.</source>
@@ -1910,6 +1993,30 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Sessions (*.talmesh)</source>
         <translation>Sitzungen (*.talmesh)</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::SideBoxes</name>
+    <message>
+        <source>The runs that are compared</source>
+        <translation>Die Läufe, die verglichen werden</translation>
+    </message>
+    <message>
+        <source>The runs that they are compared with</source>
+        <translation>Die Läufe, mit denen sie verglichen werden</translation>
+    </message>
+    <message>
+        <source>with</source>
+        <comment>between two selections that are compared</comment>
+        <translation>mit</translation>
+    </message>
+    <message>
+        <source>Present selection</source>
+        <translation>Jetzige Auswahl</translation>
+    </message>
+    <message>
+        <source>The others</source>
+        <translation>Die übrigen</translation>
     </message>
 </context>
 <context>

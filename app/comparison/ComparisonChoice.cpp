@@ -15,6 +15,9 @@ namespace
 constexpr const char* comparedByProperty = "talmeshComparedBy";
 constexpr const char* adjustmentProperty = "talmeshAdjustment";
 constexpr const char* halvesProperty = "talmeshHalves";
+constexpr const char* seedProperty = "talmeshSeed";
+constexpr const char* comparedProperty = "talmeshCompared";
+constexpr const char* comparedWithProperty = "talmeshComparedWith";
 
 /// No property is 0, the first enumerator.
 template <typename Enumeration>
@@ -38,6 +41,10 @@ ComparisonChoice comparisonChoiceOf(const PlotContainer& container)
   choice.comparedBy = propertyOf<stats::ComparedBy>(container, comparedByProperty);
   choice.adjustment = propertyOf<stats::Adjustment>(container, adjustmentProperty);
   choice.halves = container.property(halvesProperty).toBool();
+  if (const QVariant seed = container.property(seedProperty); seed.isValid())
+    choice.seed = seed.toULongLong();
+  choice.compared = container.property(comparedProperty).toString().toStdString();
+  choice.comparedWith = container.property(comparedWithProperty).toString().toStdString();
   return choice;
 }
 
@@ -55,6 +62,9 @@ void writeComparisonChoice(PlotContainer& container, const ComparisonChoice& cho
   container.setProperty(comparedByProperty, static_cast<int>(choice.comparedBy));
   container.setProperty(adjustmentProperty, static_cast<int>(choice.adjustment));
   container.setProperty(halvesProperty, choice.halves);
+  container.setProperty(seedProperty, static_cast<qulonglong>(choice.seed));
+  container.setProperty(comparedProperty, QString::fromStdString(choice.compared));
+  container.setProperty(comparedWithProperty, QString::fromStdString(choice.comparedWith));
 }
 
 void refreshQuartiles(PlotContainer& container)

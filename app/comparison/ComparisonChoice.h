@@ -4,12 +4,21 @@
 #include "stats/ParameterComparison.h"
 #include "stats/RunComparison.h"
 
+#include <array>
+#include <cstdint>
+#include <string>
+
 class PlotContainer;
 
 namespace Talmesh::app
 {
 
-/// What the user chooses of a comparison of selected runs with the others.
+/// In which charts draw the runs that are not in a kept selection.
+constexpr std::array<unsigned char, 3> colorOfRest = {128, 128, 128};
+
+constexpr std::uint64_t largestSeed = 999'999'999;
+
+/// What the user chooses of a comparison of selected runs with the others. Texts are UTF-8.
 struct ComparisonChoice
 {
   /// The largest adjusted p and the smallest D that count as a difference, each 0 to 1.
@@ -27,6 +36,12 @@ struct ComparisonChoice
   stats::Adjustment adjustment = stats::Adjustment::benjaminiHochberg;
   /// Tests one half of the runs, drawn at random, for what differs in the other.
   bool halves = false;
+  /// Of all that is drawn at random: halves and permutations. 1 to `largestSeed`.
+  std::uint64_t seed = 1;
+  /// The kept selection that is compared, by name; empty for the present selection.
+  std::string compared;
+  /// The kept selection that it is compared with, by name; empty for all other runs.
+  std::string comparedWith;
 };
 
 /// What a container's settings say. Those that the library does not know of are the viewer's own

@@ -2,6 +2,7 @@
 
 #include "app/comparison/ComparisonSettings.h"
 #include "app/comparison/ComparisonTable.h"
+#include "app/comparison/SideBoxes.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
@@ -40,9 +41,12 @@ ComparisonDock::ComparisonDock(QWidget* parent)
 }
 
 void ComparisonDock::refresh(const PlotContainer& container, const Comparison& comparison,
-                             std::size_t selections)
+                             std::size_t selections, const std::vector<NamedSide>& kept)
 {
   const PlotMetaData& values = *container.getMetaData();
+  settings->setKept(kept);
+  settings->setPermutes(comparison.state == Comparison::State::compared &&
+                        comparison.units.kind != stats::IndependentUnit::run);
   settings->setChoice(comparisonChoiceOf(container), values.getPlotStyle(),
                       !values.parameterColumns.empty());
   results->setComparison(comparison, selections);

@@ -7,11 +7,13 @@
 #include <QDockWidget>
 
 #include <cstddef>
+#include <vector>
 
 namespace Talmesh::app
 {
 
 struct Comparison;
+struct NamedSide;
 class ComparisonSettings;
 class ComparisonTable;
 
@@ -25,8 +27,9 @@ public:
 
   /// Shows settings of a container and a comparison of its runs. Emits nothing.
   /// @param selections how many selections the user has looked at
-  void refresh(const PlotContainer& container, const Comparison& comparison,
-               std::size_t selections);
+  /// @param kept selections that can be compared
+  void refresh(const PlotContainer& container, const Comparison& comparison, std::size_t selections,
+               const std::vector<NamedSide>& kept = {});
   /// What the controls say.
   ComparisonChoice choice() const;
   ComparisonTable* table() const { return results; }

@@ -1,5 +1,6 @@
 #include "app/comparison/ComparisonFile.h"
 
+#include "app/comparison/ComparisonText.h"
 #include "app/comparison/TestNames.h"
 #include "widgets/FileWriter.h"
 
@@ -57,17 +58,39 @@ QString reasonOf(TestObstacle obstacle)
     return QStringLiteral("under way");
   case TestObstacle::alikeInFirstHalf:
     return QStringLiteral("does not differ in the first half");
+  case TestObstacle::label:
+    return QStringLiteral("tells replicates apart");
   case TestObstacle::none:
     break;
   }
   return {};
 }
 
+/// What is to be known of the numbers beside the test.
+QString circumstancesOf(const ComparedParameter& parameter)
+{
+  const stats::ParameterComparison& result = parameter.result;
+  QString text;
+  if (result.isOnlyBounded())
+    text += QStringLiteral("; ") + log10Text(result);
+  if (result.adjustment == stats::Adjustment::holm)
+    text += QStringLiteral("; adjusted by Holm");
+  else if (result.adjustment == stats::Adjustment::maxT)
+    text += QStringLiteral("; adjusted by maxT (%1 permutations; seed %2)")
+                .arg(result.adjustingPermutations)
+                .arg(result.seed);
+  return text;
+}
+
 QString methodCell(const ComparedParameter& parameter)
 {
+  const QString half =
+      parameter.seedOfHalf > 0
+          ? QStringLiteral("; second half of the runs; seed %1").arg(parameter.seedOfHalf)
+          : QString();
   if (parameter.obstacle == TestObstacle::none)
-    return methodInFiles(parameter.result);
-  return QStringLiteral("not tested: ") + reasonOf(parameter.obstacle);
+    return methodInFiles(parameter.result) + circumstancesOf(parameter) + half;
+  return QStringLiteral("not tested: ") + reasonOf(parameter.obstacle) + half;
 }
 
 QString quotedIfNeeded(const QString& cell)

@@ -49,7 +49,9 @@ double numberIn(const stats::ParameterComparison& result, int column)
   }
 }
 
-QString cellText(const ComparedParameter& parameter, int column)
+} // namespace
+
+QString ComparisonModel::cellText(const ComparedParameter& parameter, int column) const
 {
   const stats::ParameterComparison& result = parameter.result;
   switch (column)
@@ -57,7 +59,7 @@ QString cellText(const ComparedParameter& parameter, int column)
   case ComparisonModel::Name:
     return QString::fromStdString(parameter.name);
   case ComparisonModel::DirectionOfDifference:
-    return directionText(result.direction);
+    return directionText(result.direction, names.selected);
   case ComparisonModel::Statistic:
     return distanceText(result);
   case ComparisonModel::PValue:
@@ -74,14 +76,14 @@ QString cellText(const ComparedParameter& parameter, int column)
 }
 
 /// In place of p why there is none.
-QString shownText(const ComparedParameter& parameter, int column)
+QString ComparisonModel::shownText(const ComparedParameter& parameter, int column) const
 {
   const bool lacksP = column == ComparisonModel::PValue && parameter.obstacle != TestObstacle::none;
   const QString text = lacksP ? obstacleLabel(parameter.obstacle) : cellText(parameter, column);
   return text.isEmpty() ? QString(QChar(0x2013)) : text; // en dash
 }
 
-QString tipText(const ComparedParameter& parameter, int column)
+QString ComparisonModel::tipText(const ComparedParameter& parameter, int column) const
 {
   if (isText(column))
     return cellText(parameter, column);
@@ -89,20 +91,23 @@ QString tipText(const ComparedParameter& parameter, int column)
     return obstacleText(parameter.obstacle);
   const double number = numberIn(parameter.result, column);
   QString tip = std::isnan(number) ? QString() : QString::number(number, 'g', allDigits);
+  if (column == PValue && parameter.result.isOnlyBounded())
+    tip = log10Text(parameter.result);
   if (column == ComparisonModel::PValue)
     tip += QLatin1Char('\n') + methodText(parameter.result.method);
   return tip;
 }
 
-QVariant sortedBy(const ComparedParameter& parameter, int column)
+QVariant ComparisonModel::sortedBy(const ComparedParameter& parameter, int column) const
 {
   if (isText(column))
     return cellText(parameter, column);
-  const double number = numberIn(parameter.result, column);
+  double number = numberIn(parameter.result, column);
+  // Those that doubles only bound would be equal.
+  if (column == PValue)
+    number = std::isnan(parameter.result.logP) ? std::log(number) : parameter.result.logP;
   return std::isnan(number) ? QVariant() : QVariant(number);
 }
-
-} // namespace
 
 void ComparisonModel::setParameters(std::vector<ComparedParameter> compared)
 {
@@ -164,19 +169,21 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
                     "what holds the true distance with 95 %, where the runs are independent")
                : tr("D");
   case Superiority:
-    return tip ? tr("Probability that the value of a selected run exceeds that of another one; "
+    return tip ? tr("Superiority: probability that the value of a selected run exceeds that of "
+                    "another one; "
                     "ties count half")
-               : tr("Superiority");
+               : tr("Sup.", "probability of superiority, as a narrow header");
   case MedianDifference:
-    return tip ? tr("Median of the selected runs less that of the others") : tr("\u0394 median");
+    return tip ? tr("Difference of medians: that of the selected runs less that of the others")
+               : tr("\u0394 med.", "difference of medians, as a narrow header");
   case PValue:
     return tip ? tr("Probability of such a difference, or a larger one, if the parameter had "
                     "nothing to do with the selection")
                : tr("p");
   case AdjustedPValue:
-    return tip ? tr("p adjusted for the number of parameters tested; bold where it and D meet the "
+    return tip ? tr("Adjusted p: for the number of parameters tested; bold where it and D meet the "
                     "thresholds")
-               : tr("Adjusted p");
+               : tr("Adj. p", "adjusted p, as a narrow header");
   case Selected:
     return tip ? tr("Number of selected runs") : tr("Selected");
   case Others:

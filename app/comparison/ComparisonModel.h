@@ -34,6 +34,8 @@ public:
 
   using QAbstractTableModel::QAbstractTableModel;
 
+  /// As the groups are called in the rows set next.
+  void setNames(const ComparedNames& groups) { names = groups; }
   void setParameters(std::vector<ComparedParameter> compared);
   const ComparedParameter& parameter(int row) const
   {
@@ -46,7 +48,13 @@ public:
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+  QString cellText(const ComparedParameter& parameter, int column) const;
+  QString shownText(const ComparedParameter& parameter, int column) const;
+  QString tipText(const ComparedParameter& parameter, int column) const;
+  QVariant sortedBy(const ComparedParameter& parameter, int column) const;
+
   std::vector<ComparedParameter> parameters;
+  ComparedNames names;
 };
 
 } // namespace Talmesh::app

@@ -19,13 +19,13 @@ bool isAmong(const Positions& positions, std::size_t position)
   return std::find(positions.begin(), positions.end(), position) != positions.end();
 }
 
-/// The parameters that have a value of each run. What changes within a run would tear apart what
-/// has equal parameters.
+/// The parameters that have a value of each run and tell what was simulated. What changes within a
+/// run, or numbers replicates, would tear apart what has equal parameters.
 Positions usable(const ComparedStudy& study)
 {
   Positions positions;
   for (std::size_t k = 0; k < study.columns.size(); ++k)
-    if (!isAmong(study.changing, k))
+    if (!isAmong(study.changing, k) && !isAmong(study.labels, k))
       positions.push_back(k);
   return positions;
 }
@@ -43,6 +43,8 @@ stats::ComparisonPlan planOf(const ComparedStudy& study, const ComparisonChoice&
   stats::ComparisonPlan plan;
   plan.comparedBy = choice.comparedBy;
   plan.adjustment = choice.adjustment;
+  plan.seed = choice.seed;
+  plan.leftOut = study.leftOut;
   const Positions positions = usable(study);
   for (std::size_t k = 0; k < positions.size(); ++k)
     if (isAmong(study.chosenBy, positions[k]))
@@ -87,8 +89,16 @@ Comparison comparisonOf(const ComparedStudy& study, const ComparisonChoice& choi
   comparison.units = results.units;
   comparison.seed = results.seed;
   comparison.permutations = results.permutations;
-  for (const std::string& name : study.names)
-    comparison.parameters.push_back({name, {}, TestObstacle::changingValues, false});
+  comparison.sides = study.sides;
+  comparison.inBoth = study.inBoth;
+  comparison.uncounted = study.leftOut;
+  for (std::size_t k = 0; k < study.names.size(); ++k)
+    comparison.parameters.push_back(
+        {study.names[k],
+         {},
+         isAmong(study.labels, k) ? TestObstacle::label : TestObstacle::changingValues,
+         false,
+         0});
   const Positions positions = usable(study);
   for (std::size_t k = 0; k < results.parameters.size(); ++k)
   {
@@ -115,6 +125,9 @@ bool operator==(const ComparedStudy& one, const ComparedStudy& other)
 {
   return one.names == other.names && one.changing == other.changing &&
          one.selected == other.selected && one.chosenBy == other.chosenBy &&
+         one.leftOut == other.leftOut && one.inBoth == other.inBoth &&
+         one.sides.selected == other.sides.selected && one.sides.others == other.sides.others &&
+         one.byWords == other.byWords && one.labels == other.labels &&
          std::equal(one.columns.begin(), one.columns.end(), other.columns.begin(),
                     other.columns.end(), areEqual);
 }
@@ -124,10 +137,16 @@ Comparison::State comparisonState(const ComparedStudy& study)
   using State = Comparison::State;
   if (study.names.empty() || study.selected.empty())
     return State::noParameters;
-  const auto selected = std::count(study.selected.begin(), study.selected.end(), 0);
-  if (selected == static_cast<std::ptrdiff_t>(study.selected.size()))
-    return State::nothingSelected;
-  return selected == 0 ? State::noOthers : State::compared;
+  bool hasSelected = false;
+  bool hasOthers = false;
+  for (std::size_t run = 0; run < study.selected.size(); ++run)
+    if (study.leftOut.empty() || study.leftOut[run] == 0)
+      (study.selected[run] != 0 ? hasSelected : hasOthers) = true;
+  if (hasSelected && hasOthers)
+    return State::compared;
+  if (study.inBoth > 0)
+    return State::onlyInBoth;
+  return hasSelected ? State::noOthers : State::nothingSelected;
 }
 
 bool takesTime(const ComparedStudy& study, const ComparisonChoice& choice)
@@ -141,6 +160,7 @@ Comparison compare(const ComparedStudy& study, const ComparisonChoice& choice,
   const Comparison::State state = comparisonState(study);
   Comparison nothing;
   nothing.state = state;
+  nothing.sides = study.sides;
   if (state != Comparison::State::compared)
     return nothing;
   stats::ComparisonPlan plan = planOf(study, choice);
@@ -152,9 +172,14 @@ Comparison compare(const ComparedStudy& study, const ComparisonChoice& choice,
                            [&choice](const auto& row) { return differs(row, choice); });
   Comparison comparison = comparisonOf(study, choice, halves.tested);
   comparison.halved = true;
-  for (const char isTested : halves.isTested)
-    comparison.uncounted.push_back(isTested == 0 ? 1 : 0);
+  comparison.byWords = study.byWords;
+  comparison.uncounted.resize(halves.isTested.size(), 0);
+  for (std::size_t run = 0; run < halves.isTested.size(); ++run)
+    if (halves.isTested[run] == 0)
+      comparison.uncounted[run] = 1;
   comparison.seedOfHalves = plan.seed;
+  for (ComparedParameter& parameter : comparison.parameters)
+    parameter.seedOfHalf = plan.seed;
   return comparison;
 }
 

@@ -12,6 +12,14 @@
 namespace Talmesh::app
 {
 
+/// The runs that are compared, as they are called; empty for the present selection, and for the
+/// others.
+struct ComparedNames
+{
+  std::string selected;
+  std::string others;
+};
+
 /// What there is to compare: the parameters of a study's runs and which runs are selected.
 struct ComparedStudy
 {
@@ -26,6 +34,15 @@ struct ComparedStudy
   std::vector<char> selected;
   /// Parameters that the selection itself asks about, by position.
   std::vector<std::size_t> chosenBy;
+  /// Runs in neither group, an entry per run, 0 for those that are compared; empty for none.
+  std::vector<char> leftOut{};
+  /// How many of these are left out for being in both.
+  std::size_t inBoth = 0;
+  /// Parameters that tell runs with otherwise equal parameters apart, by position, as "seed" does.
+  std::vector<std::size_t> labels{};
+  ComparedNames sides{};
+  /// Whether the selection was made anew by its words, for halves.
+  bool byWords = false;
 };
 
 bool operator==(const ComparedStudy& one, const ComparedStudy& other);
@@ -45,7 +62,9 @@ enum class TestObstacle
   /// The test is not through.
   pending,
   /// The other half of the runs gave no reason to test it.
-  alikeInFirstHalf
+  alikeInFirstHalf,
+  /// It tells the runs of a set of parameters apart.
+  label
 };
 
 /// How one parameter of the selected runs differs from that of the other runs.
@@ -57,6 +76,8 @@ struct ComparedParameter
   TestObstacle obstacle = TestObstacle::none;
   /// Whether adjusted p and D meet the thresholds.
   bool significant = false;
+  /// By which the half was drawn that the numbers speak of; 0 where they speak of all runs.
+  std::uint64_t seedOfHalf = 0;
 };
 
 /// What can be said of a selection.
@@ -67,7 +88,9 @@ struct Comparison
     compared,
     noParameters,
     nothingSelected,
-    noOthers
+    noOthers,
+    /// All runs of one group are in the other, too.
+    onlyInBoth
   };
 
   State state = State::noParameters;
@@ -83,8 +106,13 @@ struct Comparison
   bool halved = false;
   /// Seed of that.
   std::uint64_t seedOfHalves = 0;
+  /// By the words that select the runs, in either half; otherwise the selection was split.
+  bool byWords = false;
   /// The test is not through.
   bool pending = false;
+  ComparedNames sides;
+  /// Runs in both groups, which count for neither.
+  std::size_t inBoth = 0;
 };
 
 /// What can be said of these runs without comparing them; `compared` if they are to be compared.

@@ -1,5 +1,8 @@
 #include "app/comparison/ComparisonSettings.h"
 
+#include "app/comparison/ComparisonControls.h"
+#include "app/comparison/SeedBox.h"
+#include "app/comparison/SideBoxes.h"
 #include "app/comparison/TestNames.h"
 #include "app/comparison/ThresholdBox.h"
 #include "app/styles/ViewerStyles.h"
@@ -7,9 +10,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QSignalBlocker>
 #include <QToolButton>
 
 #include <initializer_list>
@@ -17,81 +17,16 @@
 namespace Talmesh::app
 {
 
-namespace
-{
-
-ThresholdBox* makeThreshold(const char* name, const QString& toolTip, ThresholdBox::Steps steps)
-{
-  auto* box = new ThresholdBox(steps);
-  box->setObjectName(QLatin1String(name));
-  box->setToolTip(toolTip);
-  return box;
-}
-
-QCheckBox* makeSwitch(const char* name, const QString& text, const QString& toolTip)
-{
-  auto* box = new QCheckBox(text);
-  box->setObjectName(QLatin1String(name));
-  box->setToolTip(toolTip);
-  return box;
-}
-
-/// The entries are the values of an enumeration, in its order.
-QComboBox* makeChoiceBox(const char* name, const QString& toolTip, const QList<ChoiceName>& entries)
-{
-  auto* box = new QComboBox;
-  box->setObjectName(QLatin1String(name));
-  box->setToolTip(toolTip);
-  for (const ChoiceName& entry : entries)
-  {
-    box->addItem(entry.text);
-    box->setItemData(box->count() - 1, entry.toolTip, Qt::ToolTipRole);
-  }
-  return box;
-}
-
-/// A short label and its field, in one cell.
-void addLabelled(QGridLayout* layout, int row, int column, const QString& text, QWidget* field)
-{
-  auto* label = new QLabel(text);
-  label->setBuddy(field);
-  label->setToolTip(field->toolTip());
-  auto* cell = new QHBoxLayout;
-  cell->addWidget(label);
-  cell->addWidget(field, 1);
-  layout->addLayout(cell, row, column);
-}
-
-void showValue(ThresholdBox* box, double value)
-{
-  const QSignalBlocker silent(box);
-  // Showing a value rewrites the text, which the user may be typing: 0.00 on the way to 0.001.
-  if (box->value() != value)
-    box->setValue(value);
-}
-
-void showEntry(QComboBox* box, int entry)
-{
-  const QSignalBlocker silent(box);
-  box->setCurrentIndex(entry);
-}
-
-void showState(QAbstractButton* button, bool on)
-{
-  const QSignalBlocker silent(button);
-  button->setChecked(on);
-}
-
-} // namespace
-
 ComparisonSettings::ComparisonSettings(QWidget* parent)
     : QWidget(parent)
 {
   auto* layout = new QGridLayout(this);
   layout->setVerticalSpacing(layout->verticalSpacing() / 2);
   addPages(layout);
+  addSides(layout);
   addTests(layout);
   addThresholds(layout);
+  addHalves(layout);
   addSwitches(layout);
   layout->setRowStretch(layout->rowCount(), 1);
   layout->setColumnStretch(1, 1);
@@ -192,29 +127,67 @@ void ComparisonSettings::addSwitches(QGridLayout* layout)
   bands = makeSwitch("quartileBands", tr("Quartile bands"),
                      tr("Range, quartiles and median of all runs; of the runs themselves only the "
                         "selected ones"));
-  halves = makeSwitch("halves", tr("Chec&k in halves"),
-                      tr("The honest check of what was found by looking: split the parameter sets "
-                         "at random, keep what differs in one half, and test that in the other"));
   const int row = layout->rowCount();
   layout->addWidget(density, row, 0);
   layout->addWidget(commonDensityScale, row, 1);
   layout->addWidget(bands, row + 1, 0);
   layout->addWidget(logParameterAxes, row + 1, 1);
-  layout->addWidget(halves, row + 2, 0, 1, 2);
-  const auto writeTo = [this](QCheckBox* box, bool ComparisonChoice::*value)
-  {
-    connect(box, &QCheckBox::toggled, this,
-            [this, value](bool on)
-            {
-              chosen.*value = on;
-              emit choiceChanged();
-            });
-  };
-  writeTo(density, &ComparisonChoice::density);
-  writeTo(commonDensityScale, &ComparisonChoice::commonDensityScale);
-  writeTo(logParameterAxes, &ComparisonChoice::logParameterAxes);
-  writeTo(bands, &ComparisonChoice::bands);
-  writeTo(halves, &ComparisonChoice::halves);
+  writeSwitch(density, &ComparisonChoice::density);
+  writeSwitch(commonDensityScale, &ComparisonChoice::commonDensityScale);
+  writeSwitch(logParameterAxes, &ComparisonChoice::logParameterAxes);
+  writeSwitch(bands, &ComparisonChoice::bands);
+}
+
+void ComparisonSettings::writeSwitch(QCheckBox* box, bool ComparisonChoice::*value)
+{
+  connect(box, &QCheckBox::toggled, this,
+          [this, value](bool on)
+          {
+            chosen.*value = on;
+            emit choiceChanged();
+          });
+}
+
+void ComparisonSettings::addHalves(QGridLayout* layout)
+{
+  halves = makeSwitch("halves", tr("Chec&k in halves"),
+                      tr("The honest check of what was found by looking: split the parameter sets "
+                         "at random, keep what differs in one half, and test that in the other"));
+  seed = new SeedBox;
+  const int row = layout->rowCount();
+  layout->addWidget(halves, row, 0);
+  layout->addWidget(seed, row, 1);
+  writeSwitch(halves, &ComparisonChoice::halves);
+  connect(seed, &SeedBox::seedChanged, this,
+          [this](std::uint64_t drawn)
+          {
+            chosen.seed = drawn;
+            emit choiceChanged();
+          });
+}
+
+void ComparisonSettings::addSides(QGridLayout* layout)
+{
+  sides = new SideBoxes;
+  layout->addWidget(sides, layout->rowCount(), 0, 1, 2);
+  connect(sides, &SideBoxes::sidesChanged, this,
+          [this](const std::string& compared, const std::string& with)
+          {
+            chosen.compared = compared;
+            chosen.comparedWith = with;
+            emit choiceChanged();
+          });
+}
+
+void ComparisonSettings::setKept(const std::vector<NamedSide>& kept)
+{
+  sides->setKept(kept);
+}
+
+void ComparisonSettings::setPermutes(bool permutes)
+{
+  drawsUnits = permutes;
+  enableControls();
 }
 
 void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles style,
@@ -228,6 +201,8 @@ void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles st
   showState(logParameterAxes, choice.logParameterAxes);
   showState(bands, choice.bands);
   showState(halves, choice.halves);
+  sides->setSides(choice.compared, choice.comparedWith);
+  seed->setSeed(choice.seed);
   showEntry(comparedBy, static_cast<int>(choice.comparedBy));
   showEntry(adjustment, static_cast<int>(choice.adjustment));
   shownStyle = style;
@@ -241,8 +216,10 @@ void ComparisonSettings::enableControls()
   showState(pairs, hasParameters && shownStyle == multiPlot);
   // The table of results shows the tests, and what meets the thresholds, in every style.
   for (QWidget* control : std::initializer_list<QWidget*>{
-           distributions, pairs, comparedBy, adjustment, pThreshold, ksThreshold, halves})
+           distributions, pairs, comparedBy, adjustment, pThreshold, ksThreshold, halves, sides})
     control->setEnabled(hasParameters);
+  seed->setEnabled(hasParameters &&
+                   (drawsUnits || chosen.halves || chosen.adjustment == stats::Adjustment::maxT));
   const ViewerStyle& style = viewerStyle(shownStyle);
   const bool hasCurves = hasParameters && style.showsDistributions;
   density->setEnabled(hasCurves);

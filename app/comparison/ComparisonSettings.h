@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
@@ -14,7 +16,10 @@ class QToolButton;
 namespace Talmesh::app
 {
 
+class SeedBox;
+class SideBoxes;
 class ThresholdBox;
+struct NamedSide;
 
 /// The controls of a comparison of runs: which page shows it, what counts as a difference, and how
 /// it is drawn. A control is enabled where it has an effect.
@@ -28,6 +33,10 @@ public:
   /// Shows a choice, and enables what a plot of `style` with or without parameters reads of it.
   /// Emits nothing.
   void setChoice(const ComparisonChoice& choice, plotStyles style, bool parameters);
+  /// Offers the kept selections to be compared. Emits nothing.
+  void setKept(const std::vector<NamedSide>& kept);
+  /// Whether what is compared draws anything at random, beside halves and maxT.
+  void setPermutes(bool permutes);
   /// The choice shown, with what the user has changed of it: what no control was used for is as it
   /// was, also where a control cannot show it.
   const ComparisonChoice& choice() const { return chosen; }
@@ -40,9 +49,12 @@ signals:
 
 private:
   void addPages(QGridLayout* layout);
+  void addSides(QGridLayout* layout);
   void addThresholds(QGridLayout* layout);
   void addTests(QGridLayout* layout);
   void addSwitches(QGridLayout* layout);
+  void addHalves(QGridLayout* layout);
+  void writeSwitch(QCheckBox* box, bool ComparisonChoice::*value);
   QToolButton* addPage(const QString& text, const QString& toolTip, plotStyles style);
   void enableControls();
 
@@ -53,6 +65,8 @@ private:
   QComboBox* comparedBy = nullptr;
   QComboBox* adjustment = nullptr;
   QCheckBox* halves = nullptr;
+  SideBoxes* sides = nullptr;
+  SeedBox* seed = nullptr;
   QCheckBox* density = nullptr;
   QCheckBox* commonDensityScale = nullptr;
   QCheckBox* logParameterAxes = nullptr;
@@ -60,6 +74,7 @@ private:
   ComparisonChoice chosen;
   plotStyles shownStyle = xyPlot;
   bool hasParameters = false;
+  bool drawsUnits = false;
 };
 
 } // namespace Talmesh::app

@@ -2,7 +2,9 @@
 
 #include "app/comparison/ComparisonFile.h"
 #include "app/comparison/ComparisonModel.h"
+#include "app/comparison/ComparisonSummary.h"
 #include "app/comparison/ComparisonText.h"
+#include "app/comparison/ComparisonView.h"
 #include "app/panels/PanelParts.h"
 #include "widgets/WidgetSupport.h"
 
@@ -12,12 +14,10 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QSortFilterProxyModel>
 #include <QStackedWidget>
-#include <QTableView>
 
 #include <algorithm>
 
@@ -26,8 +26,6 @@ namespace Talmesh::app
 
 namespace
 {
-
-constexpr int charactersOfAName = 36;
 
 QString tabbedLine(const QStringList& cells)
 {
@@ -45,52 +43,16 @@ QList<int> allRows(const QAbstractItemModel& table)
   return rows;
 }
 
-/// Rows without a value come last, whichever way the others are ordered.
-class ValuesFirst : public QSortFilterProxyModel
-{
-public:
-  using QSortFilterProxyModel::QSortFilterProxyModel;
-
-protected:
-  bool lessThan(const QModelIndex& left, const QModelIndex& right) const override
-  {
-    const bool leftMissing = !left.data(sortRole()).isValid();
-    const bool rightMissing = !right.data(sortRole()).isValid();
-    if (leftMissing == rightMissing)
-      return !leftMissing && QSortFilterProxyModel::lessThan(left, right);
-    // A descending order asks with the two exchanged.
-    return leftMissing == (sortOrder() == Qt::DescendingOrder);
-  }
-};
-
-QString explanationOf(Comparison::State state)
-{
-  switch (state)
-  {
-  case Comparison::State::noParameters:
-    return ComparisonTable::tr("This table has no parameters to compare.");
-  case Comparison::State::nothingSelected:
-    return ComparisonTable::tr(
-        "Nothing is selected. Drag a rectangle over some runs with the right mouse button to "
-        "compare their parameters with those of the other runs.");
-  case Comparison::State::noOthers:
-    return ComparisonTable::tr("All runs are selected; there are none to compare them with.");
-  case Comparison::State::compared:
-    break;
-  }
-  return {};
-}
-
 } // namespace
 
 ComparisonTable::ComparisonTable(QWidget* parent)
     : QWidget(parent)
     , model(new ComparisonModel(this))
-    , sorted(new ValuesFirst(this))
     , pages(new QStackedWidget)
     , explanation(makeExplanation({}))
     , summary(new QLabel)
-    , view(makeView())
+    , view(new ComparisonView(model))
+    , sorted(view->sorted())
     , copyStep(addStep(*view, tr("&Copy"), "copyComparison", *this, &ComparisonTable::copy))
     , saveStep(addStep(*view, tr("&Save..."), "saveComparison", *this,
                        &ComparisonTable::chooseFileAndSave))
@@ -120,31 +82,6 @@ ComparisonTable::ComparisonTable(QWidget* parent)
   // It takes the room that is left and scrolls.
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   setComparison({}, 0);
-}
-
-QTableView* ComparisonTable::makeView()
-{
-  sorted->setSourceModel(model);
-  sorted->setSortRole(ComparisonModel::SortRole);
-  sorted->setSortCaseSensitivity(Qt::CaseInsensitive);
-  auto* table = new QTableView;
-  table->setObjectName(QStringLiteral("comparisonTable"));
-  table->setModel(sorted);
-  table->setSortingEnabled(true);
-  table->sortByColumn(ComparisonModel::Statistic, Qt::DescendingOrder);
-  table->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table->setContextMenuPolicy(Qt::ActionsContextMenu);
-  table->setTabKeyNavigation(false);
-  table->setAlternatingRowColors(true);
-  table->verticalHeader()->hide();
-  table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  table->horizontalHeader()->setStretchLastSection(true);
-  // Longer names would push the numbers out of sight; the tool tip has all of them.
-  const int widest = charactersOfAName * table->fontMetrics().averageCharWidth();
-  table->horizontalHeader()->setMaximumSectionSize(widest);
-  table->setTextElideMode(Qt::ElideMiddle);
-  return table;
 }
 
 /// The row of a parameter; -1 without it.
@@ -179,9 +116,11 @@ void ComparisonTable::replaceRows(const std::vector<ComparedParameter>& paramete
 void ComparisonTable::setComparison(const Comparison& comparison, std::size_t selections)
 {
   const bool compared = comparison.state == Comparison::State::compared;
+  model->setNames(comparison.sides);
   replaceRows(comparison.parameters);
   summary->setText(summaryText(comparison, selections));
-  explanation->setText(explanationOf(comparison.state));
+  view->fitColumns();
+  explanation->setText(explanationText(comparison));
   pages->setCurrentIndex(compared ? 1 : 0);
   copyStep->setEnabled(compared);
   saveStep->setEnabled(compared);

@@ -9,12 +9,12 @@ class QAction;
 class QLabel;
 class QSortFilterProxyModel;
 class QStackedWidget;
-class QTableView;
 
 namespace Talmesh::app
 {
 
 class ComparisonModel;
+class ComparisonView;
 
 /// The comparison of selected runs with the others as a table that can be sorted, copied and saved;
 /// without a comparison a line that says why there is none.
@@ -56,14 +56,13 @@ private:
   std::vector<ComparedParameter> inOrder(const QList<int>& rows) const;
   int rowOf(const QVariant& name) const;
   void replaceRows(const std::vector<ComparedParameter>& parameters);
-  QTableView* makeView();
 
   ComparisonModel* model;
-  QSortFilterProxyModel* sorted;
   QStackedWidget* pages;
   QLabel* explanation;
   QLabel* summary;
-  QTableView* view;
+  ComparisonView* view;
+  QSortFilterProxyModel* sorted;
   QAction* copyStep;
   QAction* saveStep;
 };

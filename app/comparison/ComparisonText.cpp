@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QStringList>
 
 #include <cmath>
 
@@ -24,22 +23,21 @@ constexpr double smallestP = 1e-300;
 /// What three digits can tell from 1.
 constexpr double largestFixed = 0.9995;
 
-/// With commas between thousands, which the point of other numbers asks for.
-QString countText(std::size_t count)
-{
-  return QLocale(QLocale::English).toString(static_cast<qulonglong>(count));
-}
-
 QString atMost(const QString& number)
 {
   return QStringLiteral("\u2264 ") + number;
 }
 
 /// Whether no permutation reached what was observed.
-bool isBound(const stats::ParameterComparison& result)
+bool isBound(double p, std::size_t permutations)
 {
-  return result.permutations > 0 &&
-         result.p * (static_cast<double>(result.permutations) + 1.0) < 1.5;
+  return permutations > 0 && p * (static_cast<double>(permutations) + 1.0) < 1.5;
+}
+
+/// A share of permutations, which has few digits.
+QString permutedText(double p)
+{
+  return p < 1.0 && p >= largestFixed ? QStringLiteral("> 0.999") : QString::number(p, 'g', 3);
 }
 
 QString probabilityText(double p)
@@ -51,14 +49,13 @@ QString probabilityText(double p)
   return numberText(p);
 }
 
-QString unitsOf(const stats::UnitSummary& units, const QString& one, const QString& range)
-{
-  if (units.fewestRuns == units.mostRuns)
-    return one.arg(units.units).arg(units.mostRuns);
-  return range.arg(units.units).arg(units.fewestRuns).arg(units.mostRuns);
-}
-
 } // namespace
+
+/// With commas between thousands, which the point of other numbers asks for.
+QString countText(std::size_t count)
+{
+  return QLocale(QLocale::English).toString(static_cast<qulonglong>(count));
+}
 
 QString numberText(double value)
 {
@@ -76,8 +73,8 @@ QString pText(const stats::ParameterComparison& result)
     return {};
   if (result.permutations == 0)
     return probabilityText(result.p);
-  const QString p = QString::number(result.p, 'g', 3);
-  return (isBound(result) ? atMost(p) : p) +
+  const QString p = permutedText(result.p);
+  return (isBound(result.p, result.permutations) ? atMost(p) : p) +
          QStringLiteral(" (%1)").arg(countText(result.permutations));
 }
 
@@ -85,19 +82,29 @@ QString adjustedText(const stats::ParameterComparison& result)
 {
   if (std::isnan(result.adjusted))
     return {};
-  const QString adjusted = result.permutations > 0 ? QString::number(result.adjusted, 'g', 3)
-                                                   : probabilityText(result.adjusted);
-  return isBound(result) && result.adjusted < 1.0 ? atMost(adjusted) : adjusted;
+  const bool byPermutations = result.adjustingPermutations > 0;
+  const QString adjusted = byPermutations || result.permutations > 0
+                               ? permutedText(result.adjusted)
+                               : probabilityText(result.adjusted);
+  const bool bound = byPermutations ? isBound(result.adjusted, result.adjustingPermutations)
+                                    : isBound(result.p, result.permutations);
+  return bound && result.adjusted < 1.0 ? atMost(adjusted) : adjusted;
 }
 
-QString directionText(stats::Direction direction)
+QString log10Text(const stats::ParameterComparison& result)
 {
+  return QStringLiteral("log10 p = %1").arg(result.logP / std::log(10.0), 0, 'f', 4);
+}
+
+QString directionText(stats::Direction direction, const std::string& selected)
+{
+  const QString name = QString::fromStdString(selected);
   switch (direction)
   {
   case stats::Direction::larger:
-    return Words::tr("larger in selected");
+    return name.isEmpty() ? Words::tr("larger in selected") : Words::tr("larger in %1").arg(name);
   case stats::Direction::smaller:
-    return Words::tr("smaller in selected");
+    return name.isEmpty() ? Words::tr("smaller in selected") : Words::tr("smaller in %1").arg(name);
   case stats::Direction::bothWays:
     return Words::tr("larger and smaller");
   case stats::Direction::none:
@@ -126,7 +133,7 @@ QString obstacleLabel(TestObstacle obstacle)
   case TestObstacle::constant:
     return Words::tr("constant");
   case TestObstacle::chosenByParameter:
-    return Words::tr("chosen by this");
+    return Words::tr("chosen by this parameter");
   case TestObstacle::tooManyLevels:
     return Words::tr("too many values");
   case TestObstacle::tooFewUnits:
@@ -139,6 +146,8 @@ QString obstacleLabel(TestObstacle obstacle)
     return QString(QChar(0x2026)); // dots
   case TestObstacle::alikeInFirstHalf:
     return Words::tr("alike in first half");
+  case TestObstacle::label:
+    return Words::tr("number of a replicate");
   case TestObstacle::none:
     break;
   }
@@ -164,7 +173,9 @@ QString obstacleText(TestObstacle obstacle)
         "Not tested. There are too few parameter sets with as many runs: no p below 0.05 "
         "exists.");
   case TestObstacle::cancelled:
-    return Words::tr("Not tested. The test was cancelled.");
+    return Words::tr(
+        "Not tested. The test was cancelled; another selection, test or seed starts it "
+        "again.");
   case TestObstacle::changingValues:
     return Words::tr(
         "Not tested. Values change within a run: the test needs one value for every run.");
@@ -172,50 +183,14 @@ QString obstacleText(TestObstacle obstacle)
     return Words::tr("The test is under way.");
   case TestObstacle::alikeInFirstHalf:
     return Words::tr("Not tested. It does not differ in the first half.");
+  case TestObstacle::label:
+    return Words::tr(
+        "Not tested. By its name it tells replicates apart: without it, runs have equal "
+        "parameters and are compared as sets.");
   case TestObstacle::none:
     break;
   }
   return {};
-}
-
-QString unitsText(const stats::UnitSummary& units)
-{
-  switch (units.kind)
-  {
-  case stats::IndependentUnit::parameterSet:
-    return unitsOf(units, Words::tr("%1 sets of %2 runs"), Words::tr("%1 sets of %2 to %3 runs"));
-  case stats::IndependentUnit::baseSample:
-    return unitsOf(units, Words::tr("%1 base samples of %2 runs"),
-                   Words::tr("%1 base samples of %2 to %3 runs"));
-  case stats::IndependentUnit::run:
-    break;
-  }
-  return Words::tr("%1 runs").arg(units.units);
-}
-
-QString summaryText(const Comparison& comparison, std::size_t selections)
-{
-  if (comparison.state != Comparison::State::compared)
-    return {};
-  QStringList sentences;
-  if (comparison.halved)
-    sentences.append(Words::tr("Tested is one half, drawn at random (seed %1): what differs in the "
-                               "other half.")
-                         .arg(comparison.seedOfHalves));
-  if (comparison.units.units > 0)
-    sentences.append(Words::tr("Independent: %1.").arg(unitsText(comparison.units)));
-  if (comparison.permutations > 0)
-    sentences.append(Words::tr("%1 permutations, seed %2.")
-                         .arg(countText(comparison.permutations))
-                         .arg(comparison.seed));
-  if (comparison.pending)
-    sentences.append(Words::tr("The test is under way."));
-  if (!comparison.halved)
-    sentences.append(
-        Words::tr("p-values found after looking are exploratory; selections looked at so "
-                  "far: %1.")
-            .arg(selections));
-  return sentences.join(QLatin1Char(' '));
 }
 
 QString chartTitle(const ComparedParameter& parameter)

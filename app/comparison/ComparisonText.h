@@ -17,20 +17,20 @@ QString numberText(double value);
 QString pText(const stats::ParameterComparison& result);
 QString adjustedText(const stats::ParameterComparison& result);
 
+/// "log10 p = -359.2873", for a p that doubles only bound.
+QString log10Text(const stats::ParameterComparison& result);
+
 /// "larger in selected"
-QString directionText(stats::Direction direction);
+/// @param selected as the selected runs are called; empty without a name
+QString directionText(stats::Direction direction, const std::string& selected = {});
 /// "0.53 (0.31-0.74)"; without what there is not.
 QString distanceText(const stats::ParameterComparison& result);
 /// Why there is no p, in a word or two and in a sentence.
 QString obstacleLabel(TestObstacle obstacle);
 QString obstacleText(TestObstacle obstacle);
 
-/// What is independent: "12 sets of 10 runs".
-QString unitsText(const stats::UnitSummary& units);
-
-/// What holds for all of a comparison, in a few sentences.
-/// @param selections how many selections the user has looked at
-QString summaryText(const Comparison& comparison, std::size_t selections);
+/// "9,999"
+QString countText(std::size_t count);
 
 /// What a chart says of its parameter, in a few words.
 QString chartTitle(const ComparedParameter& parameter);

@@ -34,7 +34,8 @@ QString permutedInFiles(const char* format, const stats::ParameterComparison& re
 {
   return QString(QLatin1String(format))
       .arg(statisticInFiles(result.comparedBy))
-      .arg(result.permutations);
+      .arg(result.permutations)
+      .arg(result.seed);
 }
 
 } // namespace
@@ -93,6 +94,8 @@ QString methodText(stats::TestMethod method)
     return Words::tr("Permutations of whole parameter sets");
   case stats::TestMethod::permutedBaseSamples:
     return Words::tr("Permutations of whole base samples");
+  case stats::TestMethod::permutedLinkedRuns:
+    return Words::tr("Permutations of whole groups of runs that share values");
   case stats::TestMethod::none:
     break;
   }
@@ -116,9 +119,11 @@ QString methodInFiles(const stats::ParameterComparison& result)
   case stats::TestMethod::chiSquaredCounts:
     return QStringLiteral("counts (chi-squared)");
   case stats::TestMethod::permutedSets:
-    return permutedInFiles("%1 (%2 permutations of sets)", result);
+    return permutedInFiles("%1 (%2 permutations of sets; seed %3)", result);
   case stats::TestMethod::permutedBaseSamples:
-    return permutedInFiles("%1 (%2 permutations of base samples)", result);
+    return permutedInFiles("%1 (%2 permutations of base samples; seed %3)", result);
+  case stats::TestMethod::permutedLinkedRuns:
+    return permutedInFiles("%1 (%2 permutations of groups of runs; seed %3)", result);
   case stats::TestMethod::none:
     break;
   }

@@ -1,5 +1,6 @@
 #include "app/document/ComparedSides.h"
 
+#include "app/comparison/ReplicateLabels.h"
 #include "app/document/TableRuns.h"
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
@@ -16,6 +17,62 @@ namespace
 {
 
 constexpr std::array<unsigned char, 3> black = {0, 0, 0};
+
+const KeptSelection* findKept(const std::vector<KeptSelection>& kept, const std::string& name)
+{
+  const auto found = std::find_if(kept.begin(), kept.end(),
+                                  [&name](const KeptSelection& selection)
+                                  { return !name.empty() && selection.name == name; });
+  return found == kept.end() ? nullptr : &*found;
+}
+
+ComparedSide sideOf(const KeptSelection& kept)
+{
+  const auto part = [&kept](int shift)
+  { return static_cast<unsigned char>(kept.colour >> shift & 0xFFU); };
+  return {kept.name, kept.runs, kept.words, {part(16), part(8), part(0)}};
+}
+
+/// The condition of a side; one that selects nothing where there is none, or it cannot be read.
+RunFilter filterOf(const ComparedSide& side, const TableRuns& runs, bool& isKnown)
+{
+  FilterFault fault;
+  if (side.words.empty())
+  {
+    isKnown = false;
+    return {};
+  }
+  RunFilter filter = RunFilter::read(side.words, runs, fault);
+  isKnown = isKnown && fault.text.empty() && !filter.listsRuns();
+  return filter;
+}
+
+void addColumns(const std::vector<int>& further, std::vector<int>& columns)
+{
+  columns.insert(columns.end(), further.begin(), further.end());
+}
+
+/// The runs that are compared, each in one group at most.
+void divide(const ComparedSides& sides, ComparedStudy& study)
+{
+  const std::vector<bool>& selected = sides.selected.runs;
+  study.selected.assign(selected.begin(), selected.end());
+  study.sides.selected = sides.selected.name;
+  if (!sides.others)
+    return;
+  study.sides.others = sides.others->name;
+  study.leftOut.resize(selected.size(), 0);
+  for (std::size_t run = 0; run < selected.size(); ++run)
+  {
+    study.leftOut[run] = selected[run] == sides.others->runs[run] ? 1 : 0;
+    study.inBoth += selected[run] && sides.others->runs[run] ? 1 : 0;
+  }
+}
+
+bool isAmong(const std::vector<std::size_t>& positions, std::size_t position)
+{
+  return std::find(positions.begin(), positions.end(), position) != positions.end();
+}
 
 /// Missing values are equal.
 bool isConstant(const RunCourse& course)
@@ -47,16 +104,12 @@ public:
     DistributionGroup group;
     group.color = color;
     for (std::size_t k = 0; k < study.columns.size(); ++k)
-      group.values.push_back(isChanging(k) ? ofPoints(k, members) : ofRuns(k, members));
+      group.values.push_back(isAmong(study.changing, k) ? ofPoints(k, members)
+                                                        : ofRuns(k, members));
     return group;
   }
 
 private:
-  bool isChanging(std::size_t k) const
-  {
-    return std::find(study.changing.begin(), study.changing.end(), k) != study.changing.end();
-  }
-
   std::vector<double> ofRuns(std::size_t k, const std::vector<bool>& members) const
   {
     std::vector<double> values;
@@ -88,16 +141,74 @@ private:
 
 } // namespace
 
-ComparedStudy comparedStudy(PlotContainer& container, const std::string& words)
+std::array<unsigned char, 3> ComparedSides::colorOfOthers() const
+{
+  if (others)
+    return others->color;
+  return selected.name.empty() ? colorOfOtherRuns : colorOfRest;
+}
+
+ComparedSides comparedSides(PlotContainer& container, const ComparisonChoice& choice,
+                            const std::vector<KeptSelection>& kept, const std::string& words)
+{
+  ComparedSides sides;
+  if (const KeptSelection* first = findKept(kept, choice.compared))
+    sides.selected = sideOf(*first);
+  else
+    sides.selected = {{}, TableRuns(container).selected(), words, colorOfSelectedRuns};
+  if (const KeptSelection* second = findKept(kept, choice.comparedWith))
+    sides.others = sideOf(*second);
+  return sides;
+}
+
+std::string chooseSides(PlotContainer& container, const PlotWishes& wishes, KeptSelections& kept)
+{
+  ComparisonChoice choice = comparisonChoiceOf(container);
+  choice.halves = choice.halves || wishes.halves;
+  choice.seed = wishes.seed.value_or(choice.seed);
+  if (!wishes.with.empty() && !findKept(kept.list(), wishes.with))
+  {
+    const TableRuns runs(container);
+    FilterFault fault;
+    const RunFilter filter = RunFilter::read(wishes.with, runs, fault);
+    if (!fault.text.empty())
+      return describe(fault, wishes.with);
+    std::vector<KeptSelection> list = kept.list();
+    list.push_back({wishes.with, kept.freeColour(), filter.select(runs, {}).value(), wishes.with});
+    if (!kept.hasRoom())
+      return "--with: there are as many kept selections as there can be";
+    kept.restore(list);
+    choice.comparedWith = kept.list().back().name;
+  }
+  else if (!wishes.with.empty())
+    choice.comparedWith = wishes.with;
+  writeComparisonChoice(container, choice);
+  return {};
+}
+
+ComparedStudy comparedStudy(PlotContainer& container, ComparedSides sides, bool byWords)
 {
   ComparedStudy study;
   const TableRuns runs(container);
-  const std::vector<bool> selected = runs.selected();
-  study.selected.assign(selected.begin(), selected.end());
-  std::vector<int> asked;
-  FilterFault fault;
-  if (!words.empty())
-    asked = RunFilter::read(words, runs, fault).columns();
+  study.byWords = byWords;
+  const RunFilter filter = filterOf(sides.selected, runs, study.byWords);
+  RunFilter second;
+  if (sides.others)
+    second = filterOf(*sides.others, runs, study.byWords);
+  std::vector<int> asked = filter.columns();
+  addColumns(second.columns(), asked);
+  for (const std::string& condition : sides.selected.conditions)
+  {
+    FilterFault fault;
+    addColumns(RunFilter::read(condition, runs, fault).columns(), asked);
+  }
+  if (study.byWords)
+  {
+    sides.selected.runs = filter.select(runs, {}).value();
+    if (sides.others)
+      sides.others->runs = second.select(runs, {}).value();
+  }
+  divide(sides, study);
   for (const int column : container.getMetaData()->parameterColumns)
   {
     const std::size_t k = study.names.size();
@@ -105,7 +216,7 @@ ComparedStudy comparedStudy(PlotContainer& container, const std::string& words)
     study.columns.emplace_back();
     const bool hasNumbers = plot::doubleColumn(container.getTable(), column) != nullptr;
     bool changes = !hasNumbers;
-    for (std::size_t run = 0; run < selected.size() && hasNumbers; ++run)
+    for (std::size_t run = 0; run < study.selected.size() && hasNumbers; ++run)
     {
       const RunCourse course = runs.course(run, column, -1);
       changes = changes || !isConstant(course);
@@ -116,18 +227,21 @@ ComparedStudy comparedStudy(PlotContainer& container, const std::string& words)
     if (std::find(asked.begin(), asked.end(), column) != asked.end())
       study.chosenBy.push_back(k);
   }
+  study.labels = replicateLabels(study);
   return study;
 }
 
 std::vector<DistributionGroup> drawnGroups(PlotContainer& container, const ComparedStudy& study,
-                                           const Comparison& comparison)
+                                           const Comparison& comparison, const ComparedSides& sides)
 {
   const std::size_t runs = study.selected.size();
+  const std::vector<char>& uncounted =
+      comparison.uncounted.empty() ? study.leftOut : comparison.uncounted;
   std::vector<bool> selected(runs);
   std::vector<bool> others(runs);
   for (std::size_t run = 0; run < runs; ++run)
   {
-    const bool counts = comparison.uncounted.empty() || comparison.uncounted[run] == 0;
+    const bool counts = uncounted.empty() || uncounted[run] == 0;
     selected[run] = counts && study.selected[run] != 0;
     others[run] = counts && study.selected[run] == 0;
   }
@@ -137,9 +251,9 @@ std::vector<DistributionGroup> drawnGroups(PlotContainer& container, const Compa
   std::vector<DistributionGroup> groups{values.of(std::vector<bool>(runs, true), black)};
   if (!isAny(selected))
     return groups;
-  groups.push_back(values.of(selected, colorOfSelectedRuns));
+  groups.push_back(values.of(selected, sides.selected.color));
   if (isAny(others))
-    groups.push_back(values.of(others, colorOfOtherRuns));
+    groups.push_back(values.of(others, sides.colorOfOthers()));
   return groups;
 }
 

@@ -24,7 +24,11 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
   connect(&selected, &SelectionController::changing, this, [this] { beforeSelection = drawings; });
   connect(&selected, &SelectionController::changed, this, &Document::followSelection);
   compared.setWords([this] { return selected.followedWords(); });
+  compared.setConditions([this] { return selected.followedConditions(); });
+  compared.setKept([this] { return keptSelections.list(); });
   connect(&compared, &SelectionComparison::found, this, &Document::draw);
+  connect(&keptSelections, &KeptSelections::renamed, this, &Document::followName);
+  connect(&keptSelections, &KeptSelections::changed, this, &Document::followKept);
   connect(&grouped, &GroupedRuns::valuesChanged, this, &Document::drawNewValues);
   shown.container = before;
   selected.follow(before);
@@ -184,6 +188,30 @@ void Document::compareBy(const ComparisonChoice& choice)
   if (shown.container)
     writeComparisonChoice(*shown.container, choice);
   draw();
+}
+
+/// A kept selection that is compared remains so under another name.
+void Document::followName(const std::string& before, const std::string& now)
+{
+  PlotContainer* container = shown.study.chart ? aside.container : shown.container;
+  if (!container)
+    return;
+  ComparisonChoice choice = comparisonChoiceOf(*container);
+  for (std::string* name : {&choice.compared, &choice.comparedWith})
+    if (*name == before)
+      *name = now;
+  writeComparisonChoice(*container, choice);
+}
+
+/// Runs and colours of what is compared may be others.
+void Document::followKept()
+{
+  const bool isCompared = shown.container && !shown.study.chart &&
+                          !(comparisonChoiceOf(*shown.container).compared.empty() &&
+                            comparisonChoiceOf(*shown.container).comparedWith.empty());
+  if (isCompared)
+    drawSilently();
+  emit drawn();
 }
 
 void Document::chooseVariant(int variant)

@@ -145,6 +145,8 @@ private:
   void drawNewValues();
   void followSelection();
   void followSettings();
+  void followName(const std::string& before, const std::string& now);
+  void followKept();
   void drop(PlotContainer* container);
 
   Stage stage;

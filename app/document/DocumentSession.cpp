@@ -10,6 +10,7 @@ void Document::restore(const RestoredSession& session)
   PlotContainer& container = *shown.container;
   restoreSettings(session, container);
   restoreTests(session, container);
+  compared.setLookedBefore(static_cast<std::size_t>(session.settings.tests.looked));
   grouped.restoreNormalised(session.settings.normalised);
   grouped.restore(session.settings.groups);
   keptSelections.restore(session.settings.kept);
@@ -30,6 +31,7 @@ std::optional<SessionSource> Document::sessionSource()
   source.groups = grouped.state();
   source.kept = keptSelections.list();
   source.words = selected.followedWords();
+  source.tests.looked = static_cast<int>(compared.selections());
   return source;
 }
 

@@ -1,3 +1,4 @@
+#include "app/document/ComparedSides.h"
 #include "app/document/Document.h"
 #include "app/document/PlotSession.h"
 #include "app/document/ShownChart.h"
@@ -43,6 +44,8 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   std::string failure = chooseByName(container, wishes, wished);
   if (failure.empty() && !wishes.select.empty())
     container.withoutDrawing([&] { failure = selectWhere(container, wishes.select); });
+  if (failure.empty())
+    failure = chooseSides(container, wishes, keptSelections);
   if (failure.empty())
     shown.choice = wished;
   // The history begins with what is restored, whole runs of it, as they are drawn.

@@ -68,22 +68,6 @@ unsigned colourOfPlace(int place)
   return groupColour(place % mostGroups).rgb() & ~opaque;
 }
 
-/// The first of the colours of groups that is least used.
-unsigned freeColour(const std::vector<KeptSelection>& kept)
-{
-  const auto uses = [&kept](unsigned colour)
-  {
-    return std::count_if(kept.begin(), kept.end(),
-                         [colour](const KeptSelection& selection)
-                         { return selection.colour == colour; });
-  };
-  unsigned best = colourOfPlace(0);
-  for (int place = 1; place < mostGroups; ++place)
-    if (uses(colourOfPlace(place)) < uses(best))
-      best = colourOfPlace(place);
-  return best;
-}
-
 } // namespace
 
 KeptSelections::KeptSelections(QUndoStack& undoStack, QObject* parent)
@@ -128,13 +112,28 @@ std::string KeptSelections::freeName(const std::string& wished, std::size_t own)
   return name;
 }
 
+unsigned KeptSelections::freeColour() const
+{
+  const auto uses = [this](unsigned colour)
+  {
+    return std::count_if(kept.begin(), kept.end(),
+                         [colour](const KeptSelection& selection)
+                         { return selection.colour == colour; });
+  };
+  unsigned best = colourOfPlace(0);
+  for (int place = 1; place < mostGroups; ++place)
+    if (uses(colourOfPlace(place)) < uses(best))
+      best = colourOfPlace(place);
+  return best;
+}
+
 void KeptSelections::keep(const std::string& name, const std::vector<bool>& runs,
                           const std::string& words)
 {
   if (!hasRoom() || runs.size() != runCount)
     return;
   std::vector<KeptSelection> next = kept;
-  next.push_back({freeName(name, KeepCommand::nowhere), freeColour(kept), runs, words});
+  next.push_back({freeName(name, KeepCommand::nowhere), freeColour(), runs, words});
   change(next, tr("Keep %1").arg(QString::fromStdString(next.back().name)), kept.size());
 }
 
@@ -189,7 +188,11 @@ void KeptSelections::change(std::vector<KeptSelection> next, const QString& text
 
 void KeptSelections::take(const std::vector<KeptSelection>& next)
 {
-  kept = next;
+  const std::vector<KeptSelection> before = std::exchange(kept, next);
+  if (before.size() == kept.size())
+    for (std::size_t i = 0; i < kept.size(); ++i)
+      if (before[i].name != kept[i].name)
+        emit renamed(before[i].name, kept[i].name);
   emit changed();
 }
 

@@ -32,6 +32,8 @@ public:
   /// Whether there is room for another one.
   bool hasRoom() const { return runCount > 0 && kept.size() < mostKeptSelections(runCount); }
 
+  /// The colour of the next one: of the colours of groups, the first that is least used.
+  unsigned freeColour() const;
   /// Keeps runs, in a colour that no other one has, if there is room.
   /// @param name made different from those of the others
   /// @param runs for each run of the table whether it is one of them
@@ -48,6 +50,8 @@ public:
   std::string commaText(const std::vector<double>& numbers) const;
 
 signals:
+  /// One of them is called otherwise from now on. Before `changed`.
+  void renamed(const std::string& before, const std::string& now);
   /// Others are kept, or under other names or colours.
   void changed();
 

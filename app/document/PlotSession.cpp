@@ -63,7 +63,10 @@ SessionSource sessionOf(const Study& study, PlotContainer& container, const Plot
   const ComparisonChoice comparison = comparisonChoiceOf(container);
   source.tests = {comparedByNames().value(static_cast<int>(comparison.comparedBy)).key,
                   adjustmentNames().value(static_cast<int>(comparison.adjustment)).key,
-                  comparison.halves};
+                  comparison.halves,
+                  static_cast<double>(comparison.seed),
+                  comparison.compared,
+                  comparison.comparedWith};
   source.shown = {entriesOfFeatures({choice.x}), entriesOfFeatures(choice.y),
                   entriesOfFeatures({choice.z}), entriesOf(choice.axes)};
   if (normaliser)
@@ -100,6 +103,9 @@ void restoreTests(const RestoredSession& session, PlotContainer& container)
   choice.adjustment =
       static_cast<stats::Adjustment>(positionOf(tests.adjustment, adjustmentNames()));
   choice.halves = tests.halves;
+  choice.seed = static_cast<std::uint64_t>(tests.seed);
+  choice.compared = tests.compared;
+  choice.comparedWith = tests.comparedWith;
   writeComparisonChoice(container, choice);
 }
 

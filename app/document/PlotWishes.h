@@ -3,6 +3,7 @@
 
 #include "external/PlotStyles.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,13 @@ struct PlotWishes
   std::string z;
   /// Conditions in words; the runs that meet any of them are selected.
   std::vector<std::string> select;
+  /// The runs that they are compared with: a condition, or the name of a kept selection; empty for
+  /// all others.
+  std::string with;
+  /// Checks the comparison in halves.
+  bool halves = false;
+  /// Of what a comparison draws at random.
+  std::optional<std::uint64_t> seed;
 };
 
 /// What the viewer should open first.

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 
 namespace Talmesh::app
 {
@@ -15,16 +14,18 @@ namespace Talmesh::app
 namespace
 {
 
-std::size_t fingerprint(const std::vector<char>& selected)
+std::size_t fingerprint(const ComparedStudy& study)
 {
-  return std::hash<std::string_view>()({selected.data(), selected.size()});
+  std::string groups(study.selected.begin(), study.selected.end());
+  groups.append(study.leftOut.begin(), study.leftOut.end());
+  return std::hash<std::string>()(groups);
 }
 
 /// Whether another choice asks for other numbers than those that are there.
 bool isSameTest(const ComparisonChoice& one, const ComparisonChoice& other)
 {
   return one.comparedBy == other.comparedBy && one.adjustment == other.adjustment &&
-         one.halves == other.halves &&
+         one.halves == other.halves && one.seed == other.seed &&
          (!one.halves ||
           (one.pThreshold == other.pThreshold && one.ksThreshold == other.ksThreshold));
 }
@@ -69,8 +70,16 @@ void SelectionComparison::follow(PlotContainer* container)
   handed.clear();
   drawn.clear();
   seen.clear();
+  lookedBefore = 0;
+  isRestored = false;
   if (container)
     container->addPreparation(this, [this] { update(); });
+}
+
+void SelectionComparison::setLookedBefore(std::size_t count)
+{
+  lookedBefore = count;
+  isRestored = true;
 }
 
 const Comparison& SelectionComparison::current()
@@ -88,8 +97,12 @@ bool SelectionComparison::update()
     comparison = {};
     return false;
   }
-  ComparedStudy study = comparedStudy(*followed, words ? words() : std::string());
   const ComparisonChoice chosen = comparisonChoiceOf(*followed);
+  sides = comparedSides(*followed, chosen, kept ? kept() : std::vector<KeptSelection>(),
+                        words ? words() : std::string());
+  if (conditions && sides.selected.name.empty())
+    sides.selected.conditions = conditions();
+  ComparedStudy study = comparedStudy(*followed, sides, chosen.halves);
   const bool isKnown = compared && *compared == study && isSameTest(choice, chosen);
   choice = chosen;
   if (isKnown)
@@ -110,7 +123,11 @@ void SelectionComparison::begin()
     background.cancel();
   underWay = false;
   if (comparisonState(*compared) == Comparison::State::compared)
-    seen.insert(fingerprint(compared->selected));
+  {
+    seen.insert(fingerprint(*compared));
+    lookedBefore -= isRestored && lookedBefore > 0 ? 1 : 0;
+  }
+  isRestored = false;
   if (!background.start || comparisonState(*compared) != Comparison::State::compared ||
       !takesTime(*compared, choice))
   {
@@ -160,7 +177,7 @@ bool SelectionComparison::handOver()
 /// @return as handOver()
 bool SelectionComparison::handOverGroups()
 {
-  std::vector<DistributionGroup> groups = drawnGroups(*followed, *compared, comparison);
+  std::vector<DistributionGroup> groups = drawnGroups(*followed, *compared, comparison, sides);
   if (areSame(groups, drawn))
     return false;
   drawn = std::move(groups);

@@ -2,6 +2,7 @@
 #define SelectionComparison_h
 
 #include "app/comparison/ComparisonResults.h"
+#include "app/document/ComparedSides.h"
 #include "plot/DistributionGroup.h"
 #include "plot/KsStatistics.h"
 
@@ -21,7 +22,8 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// The comparison of the selected runs of a container with its others, brought up to date whenever
+/// The comparison of two groups of a container's runs, at first of the selected ones with the
+/// others, brought up to date whenever
 /// somebody asks and before every drawing, and handed to the container, so that table and charts
 /// say the same.
 ///
@@ -49,6 +51,10 @@ public:
   void setBackground(const Background& elsewhere) { background = elsewhere; }
   /// What says by which words the runs are selected; empty where nobody knows.
   void setWords(const std::function<std::string()>& said) { words = said; }
+  /// What says by which conditions runs came into the selection, whatever became of its words.
+  void setConditions(const std::function<std::vector<std::string>()>& said) { conditions = said; }
+  /// What says which selections are kept for the container that is followed.
+  void setKept(const std::function<std::vector<KeptSelection>()>& known) { kept = known; }
 
   /// Turns to another container, not owned, or to none.
   void follow(PlotContainer* container);
@@ -57,7 +63,9 @@ public:
   /// say something else, as when the words of a selection are known only after it was drawn.
   const Comparison& current();
   /// How many selections of the container have been compared; none counts twice.
-  std::size_t selections() const { return seen.size(); }
+  std::size_t selections() const { return lookedBefore + seen.size(); }
+  /// How many have been compared before the container was followed, its present one among them.
+  void setLookedBefore(std::size_t count);
   /// The user gives up what is under way.
   void giveUp();
 
@@ -75,13 +83,19 @@ private:
   QPointer<PlotContainer> followed;
   Background background;
   std::function<std::string()> words;
+  std::function<std::vector<std::string>()> conditions;
+  std::function<std::vector<KeptSelection>()> kept;
   std::optional<ComparedStudy> compared;
   ComparisonChoice choice;
+  ComparedSides sides;
   Comparison comparison;
   std::vector<ParameterTest> handed;
   std::vector<DistributionGroup> drawn;
   /// Fingerprints of selections.
   std::set<std::size_t> seen;
+  std::size_t lookedBefore = 0;
+  /// The next selection has been counted before.
+  bool isRestored = false;
   bool underWay = false;
 };
 

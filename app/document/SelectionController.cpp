@@ -195,8 +195,9 @@ void SelectionController::invert()
                                               container->getTable());
   others.flip();
   const std::string said = words().empty() ? std::string() : "not (" + words() + ')';
-  const SelectionHistory::Step step(shownHistory(), tr("Invert Selection"),
-                                    {RunCombination::Replace, said});
+  const SelectionHistory::Step step(
+      shownHistory(), tr("Invert Selection"),
+      {said.empty() ? RunCombination::Toggle : RunCombination::Replace, said});
   if (ofRuns)
     runs.select(others);
   else

@@ -64,6 +64,8 @@ public:
   std::string words() const;
   /// The same of the container that is followed, while another one is visited.
   std::string followedWords() const { return history.words(); }
+  /// What was asked for on the way there, see `SelectionHistory::conditions`.
+  std::vector<std::string> followedConditions() const { return history.conditions(); }
   /// Writes the indices of the selected runs to a small JSON file.
   /// @return why that failed, in one line of UTF-8; empty on success
   std::string save(const QString& path) const;

@@ -38,6 +38,8 @@ struct Selected
   Snapshot rows;
   /// The condition that it stands for, if known.
   std::string words;
+  /// All that was asked on the way there.
+  std::vector<std::string> conditions;
 };
 
 bool isAny(const Snapshot& rows)
@@ -81,12 +83,12 @@ struct FollowedContainer
     if (!container || !link)
       return;
     // Those who answer the change ask for its words.
-    const std::string words = wanted.words;
-    current = wanted;
+    const Selected restored = wanted;
+    current = restored;
     restoring = true;
     link->SetCurrentSelection(selectionOf(*current.rows));
     restoring = false;
-    current = {selected(), words};
+    current = {selected(), restored.words, restored.conditions};
   }
 };
 
@@ -151,7 +153,9 @@ void SelectionHistory::restart(const std::string& words)
   if (followed)
   {
     const Snapshot rows = followed->selected();
-    followed->current = {rows, isAny(rows) ? words : std::string()};
+    followed->current = {rows, {}, {}};
+    if (isAny(rows) && !words.empty())
+      followed->current = {rows, words, {words}};
   }
   // Those who hear of it ask for the words.
   stack.clear();
@@ -173,6 +177,27 @@ std::string SelectionHistory::wordsWith(const Snapshot& rows) const
   return isAny(rows) ? wordsAfter(before.words, isAny(before.rows), stepInWords) : std::string();
 }
 
+std::vector<std::string> SelectionHistory::conditions() const
+{
+  if (!followed || !followed->current.rows)
+    return {};
+  const Snapshot rows = followed->selected();
+  return *rows == *followed->current.rows ? followed->current.conditions : conditionsWith(rows);
+}
+
+std::vector<std::string> SelectionHistory::conditionsWith(const Snapshot& rows) const
+{
+  std::vector<std::string> asked;
+  if (!isAny(rows))
+    return asked;
+  if (stepInWords.how != RunCombination::Replace)
+    asked = followed->current.conditions;
+  const bool isNew = std::find(asked.begin(), asked.end(), stepInWords.words) == asked.end();
+  if (isNew && !stepInWords.words.empty())
+    asked.push_back(stepInWords.words);
+  return asked;
+}
+
 void SelectionHistory::record()
 {
   if (followed->restoring || !followed->container)
@@ -182,7 +207,7 @@ void SelectionHistory::record()
   if (*before.rows == *rows)
     return;
   const bool clears = !isAny(rows);
-  followed->current = {rows, wordsWith(rows)};
+  followed->current = {rows, wordsWith(rows), conditionsWith(rows)};
   QString text = stepText;
   if (text.isEmpty())
     text = clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")

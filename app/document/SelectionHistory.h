@@ -71,9 +71,14 @@ public:
   /// Empty without a selection, and where nobody has said it.
   /// Knows those of a change, too, that its observers are still to be told of.
   std::string words() const;
+  /// All conditions by which runs have come or gone since the selection was last replaced, also
+  /// where the selection as a whole stands for none.
+  std::vector<std::string> conditions() const;
 
 private:
   std::string wordsWith(const std::shared_ptr<const std::vector<bool>>& rows) const;
+  std::vector<std::string>
+  conditionsWith(const std::shared_ptr<const std::vector<bool>>& rows) const;
   void record();
   void stopObserving();
 

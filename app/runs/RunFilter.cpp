@@ -226,6 +226,13 @@ void addColumns(const BoundTerm& term, std::vector<int>& named)
     addColumns(child, named);
 }
 
+bool namesRunNumbers(const BoundTerm& term)
+{
+  const bool lists = term.kind == FilterNode::Kind::Call && term.function == FilterFunction::Runs;
+  return lists || term.isRunNumber ||
+         std::any_of(term.children.begin(), term.children.end(), namesRunNumbers);
+}
+
 } // namespace
 
 RunFilter::RunFilter() = default;
@@ -252,6 +259,11 @@ std::vector<int> RunFilter::columns() const
   if (condition)
     addColumns(*condition, named);
   return named;
+}
+
+bool RunFilter::listsRuns() const
+{
+  return condition && namesRunNumbers(*condition);
 }
 
 bool RunFilter::selects(const FilteredRuns& runs, std::size_t run) const

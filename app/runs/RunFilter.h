@@ -53,6 +53,9 @@ public:
   /// The columns that the text names, those below others among them; may be there twice.
   std::vector<int> columns() const;
 
+  /// Whether the text lists some runs by their numbers, which says nothing of others.
+  bool listsRuns() const;
+
   /// Whether a run meets the condition. A comparison with a missing value (NaN) is not met.
   /// @param runs those that the filter was read for, or others of the same columns
   bool selects(const FilteredRuns& runs, std::size_t run) const;

@@ -1,11 +1,27 @@
 #include "app/session/SessionTests.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace Talmesh::app
 {
 
+namespace
+{
+
+constexpr double largestSessionSeed = 999'999'999.0;
+
+} // namespace
+
 QJsonObject objectOf(const SessionTests& tests)
 {
-  return {{"compare", tests.comparedBy}, {"adjust", tests.adjustment}, {"halves", tests.halves}};
+  return {{"compare", tests.comparedBy},
+          {"adjust", tests.adjustment},
+          {"halves", tests.halves},
+          {"seed", tests.seed},
+          {"compared", QString::fromStdString(tests.compared)},
+          {"looked", tests.looked},
+          {"comparedWith", QString::fromStdString(tests.comparedWith)}};
 }
 
 SessionTests readTests(const QJsonObject& object)
@@ -14,6 +30,12 @@ SessionTests readTests(const QJsonObject& object)
   tests.comparedBy = object["compare"].toString();
   tests.adjustment = object["adjust"].toString();
   tests.halves = object["halves"].toBool();
+  const double seed = object["seed"].toDouble();
+  if (seed >= 1.0 && seed <= largestSessionSeed)
+    tests.seed = std::floor(seed);
+  tests.looked = std::max(0, object["looked"].toInt());
+  tests.compared = object["compared"].toString().toStdString();
+  tests.comparedWith = object["comparedWith"].toString().toStdString();
   return tests;
 }
 

@@ -4,6 +4,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <string>
+
 namespace Talmesh::app
 {
 
@@ -14,6 +16,13 @@ struct SessionTests
   QString comparedBy;
   QString adjustment;
   bool halves = false;
+  /// Of all that is drawn at random, above 0.
+  double seed = 1.0;
+  /// The kept selections that are compared, by name; empty for the present one, and for the others.
+  std::string compared{};
+  std::string comparedWith{};
+  /// How many selections have been compared.
+  int looked = 0;
 };
 
 QJsonObject objectOf(const SessionTests& tests);

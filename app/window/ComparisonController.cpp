@@ -1,12 +1,26 @@
 #include "app/window/ComparisonController.h"
 
 #include "app/comparison/ComparisonDock.h"
+#include "app/comparison/SideBoxes.h"
 #include "app/document/Document.h"
 #include "app/tasks/TaskRunner.h"
 #include "app/window/TaskBar.h"
 
 namespace Talmesh::app
 {
+
+namespace
+{
+
+std::vector<NamedSide> keptSides(const KeptSelections& kept)
+{
+  std::vector<NamedSide> sides;
+  for (const KeptSelection& selection : kept.list())
+    sides.push_back({selection.name, QColor::fromRgb(selection.colour)});
+  return sides;
+}
+
+} // namespace
 
 ComparisonController::ComparisonController(ComparisonDock& panel, Document& shown, TaskBar& bar,
                                            QObject* parent)
@@ -55,7 +69,7 @@ void ComparisonController::refresh()
   const bool own = document.study().chart != nullptr;
   SelectionComparison& comparison = document.comparison();
   dock.refresh(*document.container(), own ? Comparison() : comparison.current(),
-               comparison.selections());
+               comparison.selections(), keptSides(document.kept()));
 }
 
 } // namespace Talmesh::app

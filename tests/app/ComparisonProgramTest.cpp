@@ -97,7 +97,7 @@ TEST_F(ComparisonProgram, NeedsNoDisplay)
   removeDisplay();
   const auto lines = comparison({csv, "--select", "max(X) > 12"});
   ASSERT_EQ(lines.size(), 2U);
-  EXPECT_EQ(lines[1][8], "Kolmogorov-Smirnov (9999 permutations of sets)");
+  EXPECT_EQ(lines[1][8], "Kolmogorov-Smirnov (9999 permutations of sets; seed 1)");
   EXPECT_EQ(lines[1][4], "") << "no interval with replicates";
 }
 
@@ -146,4 +146,42 @@ TEST_F(ComparisonProgram, DoesNotTestWhatTheConditionAsksFor)
   EXPECT_EQ(lines[1][8], "not tested: chosen by this parameter");
   EXPECT_EQ(lines[1][6], "");
   EXPECT_EQ(lines[2][8], "Kolmogorov-Smirnov (exact)");
+}
+
+TEST_F(ComparisonProgram, ComparesTwoConditions)
+{
+  const QString csv = write("runs.csv", twelveRuns());
+  const auto lines = comparison({csv, "--select", "max(X) > 9.5", "--with", "max(X) < 5.5"});
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[1][1], "4");
+  EXPECT_EQ(lines[1][2], "4");
+  EXPECT_EQ(lines[1][3], "1");
+  const Ended ended =
+      run({csv, "--select", "max(X) > 9.5", "--with", "max(X) <", "--compare", path("out.csv")});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_EQ(ended.errors.count('\n'), 1);
+}
+
+TEST_F(ComparisonProgram, TakesTheSeedAndChecksInHalves)
+{
+  const QString csv = write("runs.csv", sixSetsOfFour());
+  const auto one = comparison({csv, "--select", "max(X) > 12", "--seed", "5"});
+  EXPECT_EQ(one[1][8], "Kolmogorov-Smirnov (9999 permutations of sets; seed 5)");
+  const auto half = comparison({csv, "--select", "max(X) > 12", "--seed", "5", "--halves"});
+  EXPECT_TRUE(half[1][8].endsWith("second half of the runs; seed 5")) << half[1][8].toStdString();
+}
+
+TEST_F(ComparisonProgram, WritesOverNothingThatItReadsOrWrites)
+{
+  const QString csv = write("runs.csv", twelveRuns());
+  const QStringList select{csv, "--select", "max(X) > 9.5"};
+  expectError(select + QStringList{"--compare", csv},
+              csv + QStringLiteral(": is the file that is read"));
+  EXPECT_EQ(contentOf(csv), QByteArray::fromStdString(twelveRuns()));
+  const QString out = path("out.csv");
+  expectError(select + QStringList{"--compare", out, "--runs", out},
+              out + QStringLiteral(": would be written twice"));
+  expectError(select + QStringList{"--compare", out, "--compare", path("other.csv")},
+              "--compare is given twice");
+  EXPECT_FALSE(QFile::exists(out));
 }

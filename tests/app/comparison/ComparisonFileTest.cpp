@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <cmath>
+#include <limits>
+
 using namespace Talmesh::app;
 namespace stats = Talmesh::stats;
 
@@ -54,11 +57,42 @@ TEST(ComparisonFile, NamesTheStatisticThatIsPermuted)
 {
   ComparedParameter parameter = sample();
   parameter.result.permutations = 9'999;
+  parameter.result.seed = 7;
   parameter.result.method = stats::TestMethod::permutedSets;
-  EXPECT_EQ(comparisonCells(parameter)[8], "Kolmogorov-Smirnov (9999 permutations of sets)");
+  EXPECT_EQ(comparisonCells(parameter)[8],
+            "Kolmogorov-Smirnov (9999 permutations of sets; seed 7)");
   parameter.result.method = stats::TestMethod::permutedBaseSamples;
   parameter.result.comparedBy = stats::ComparedBy::rankSum;
-  EXPECT_EQ(comparisonCells(parameter)[8], "Mann-Whitney (9999 permutations of base samples)");
+  EXPECT_EQ(comparisonCells(parameter)[8],
+            "Mann-Whitney (9999 permutations of base samples; seed 7)");
+}
+
+TEST(ComparisonFile, TellsHowPWasAdjustedAndOfWhichHalfItIs)
+{
+  ComparedParameter parameter = sample();
+  parameter.result.adjustment = stats::Adjustment::holm;
+  EXPECT_EQ(comparisonCells(parameter)[8], "Kolmogorov-Smirnov (exact); adjusted by Holm");
+  parameter.seedOfHalf = 3;
+  parameter.result.adjustment = stats::Adjustment::maxT;
+  parameter.result.adjustingPermutations = 9'999;
+  parameter.result.seed = 3;
+  EXPECT_EQ(comparisonCells(parameter)[8],
+            "Kolmogorov-Smirnov (exact); adjusted by maxT (9999 permutations; seed 3); second half "
+            "of the runs; seed 3");
+  parameter.obstacle = TestObstacle::alikeInFirstHalf;
+  EXPECT_EQ(comparisonCells(parameter)[8],
+            "not tested: does not differ in the first half; second half of the runs; seed 3");
+}
+
+TEST(ComparisonFile, HasABoundForPBelowAllDoubles)
+{
+  ComparedParameter parameter = sample();
+  parameter.result.p = std::numeric_limits<double>::min();
+  parameter.result.logP = -827.0 * std::log(10.0);
+  const QStringList cells = comparisonCells(parameter);
+  EXPECT_EQ(cells[6], "2.2250738585072014e-308");
+  EXPECT_GT(cells[6].toDouble(), 0.0);
+  EXPECT_EQ(cells[8], "Kolmogorov-Smirnov (exact); log10 p = -827.0000");
 }
 
 TEST(ComparisonFile, IsWrittenWholeOrNotAtAll)

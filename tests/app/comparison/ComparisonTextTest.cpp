@@ -1,5 +1,6 @@
 #include "app/comparison/ComparisonText.h"
 
+#include "app/comparison/ComparisonSummary.h"
 #include "app/comparison/TestNames.h"
 
 #include <gtest/gtest.h>
@@ -53,11 +54,27 @@ TEST(ComparisonText, SaysHowManyPermutationsThereWere)
   EXPECT_EQ(p(0.0001, 9'999), "\u2264 0.0001 (9,999)");
   EXPECT_EQ(p(0.0002, 9'999), "0.0002 (9,999)");
   EXPECT_EQ(p(0.01234, 9'999), "0.0123 (9,999)");
+  EXPECT_EQ(p(0.9997, 9'999), "> 0.999 (9,999)");
   EXPECT_EQ(p(1.0, 9'999), "1 (9,999)");
   EXPECT_EQ(p(1e-6, 999'999), "\u2264 1e-06 (999,999)");
   EXPECT_EQ(adjustedText(withP(0.0001, 0.0003, 9'999)).toStdString(), "\u2264 0.0003");
   EXPECT_EQ(adjustedText(withP(0.0002, 0.0006, 9'999)).toStdString(), "0.0006");
   EXPECT_EQ(adjustedText(withP(0.9, 1.0, 9'999)).toStdString(), "1");
+  EXPECT_EQ(adjustedText(withP(0.9, 0.9997, 9'999)).toStdString(), "> 0.999");
+}
+
+TEST(ComparisonText, SaysOfPermutationsWhatTheyCannotTell)
+{
+  // An exact p, adjusted by permutations of which none reached the largest statistic.
+  stats::ParameterComparison result = withP(1e-9, 0.0001);
+  result.adjustingPermutations = 9'999;
+  EXPECT_EQ(adjustedText(result).toStdString(), "\u2264 0.0001");
+  result.adjusted = 0.0003;
+  EXPECT_EQ(adjustedText(result).toStdString(), "0.0003");
+  // One that no permutation reached, while others had larger statistics.
+  result = withP(0.0001, 0.0123, 9'999);
+  result.adjustingPermutations = 9'999;
+  EXPECT_EQ(adjustedText(result).toStdString(), "0.0123");
 }
 
 TEST(ComparisonText, ShowsTheIntervalWhereThereIsOne)
@@ -98,7 +115,7 @@ TEST(ComparisonText, SumsAComparisonUp)
   comparison.seed = 1;
   EXPECT_EQ(summaryText(comparison, 3),
             "Independent: 12 sets of 10 runs. 9,999 permutations, seed 1. p-values found after "
-            "looking are exploratory; selections looked at so far: 3.");
+            "looking are exploratory; selections looked at so far: 3; check in halves.");
   comparison.pending = true;
   EXPECT_TRUE(summaryText(comparison, 3).contains("under way"));
   comparison.halved = true;
@@ -118,7 +135,8 @@ TEST(ComparisonText, TitlesChartsByTheAdjustedPOrWhyThereIsNone)
   for (const TestObstacle obstacle :
        {TestObstacle::emptyGroup, TestObstacle::constant, TestObstacle::chosenByParameter,
         TestObstacle::tooManyLevels, TestObstacle::tooFewUnits, TestObstacle::cancelled,
-        TestObstacle::changingValues, TestObstacle::pending, TestObstacle::alikeInFirstHalf})
+        TestObstacle::changingValues, TestObstacle::pending, TestObstacle::alikeInFirstHalf,
+        TestObstacle::label})
   {
     parameter.obstacle = obstacle;
     EXPECT_EQ(chartTitle(parameter), obstacleLabel(obstacle));
@@ -129,7 +147,7 @@ TEST(ComparisonText, TitlesChartsByTheAdjustedPOrWhyThereIsNone)
 
 TEST(ComparisonText, NamesEveryMethodAndDirection)
 {
-  for (int method = 1; method <= static_cast<int>(stats::TestMethod::permutedBaseSamples); ++method)
+  for (int method = 1; method <= static_cast<int>(stats::TestMethod::permutedLinkedRuns); ++method)
     EXPECT_FALSE(methodText(static_cast<stats::TestMethod>(method)).isEmpty()) << method;
   EXPECT_EQ(directionText(stats::Direction::larger), "larger in selected");
   EXPECT_EQ(directionText(stats::Direction::smaller), "smaller in selected");

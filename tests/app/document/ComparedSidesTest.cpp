@@ -131,7 +131,36 @@ protected:
   }
 };
 
+/// One row per run.
+std::string runsWithoutTime()
+{
+  std::ostringstream text;
+  text << "Run,Parameter: k,Parameter: m,Molecule: X\n";
+  for (int run = 0; run < 48; ++run)
+    text << run << ',' << 0.5 * run << ',' << run * 7 % 48 << ',' << run % 5 << '\n';
+  return text.str();
+}
+
+class DrawnWithoutTime : public DrawnComparison
+{
+protected:
+  DrawnWithoutTime()
+      : DrawnComparison(runsWithoutTime())
+  {
+  }
+};
+
 } // namespace
+
+TEST_F(DrawnWithoutTime, HasTheGapsOfTheTableAndNoComplaints)
+{
+  testing::internal::CaptureStderr();
+  selectRows({0, 1, 2, 3, 4, 20, 30, 41});
+  const std::string complaints = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(complaints.find("TimeColumnIndex"), std::string::npos) << complaints;
+  ASSERT_EQ(comparison.current().parameters[0].result.selected, 8U);
+  expectGapsOfTheTable();
+}
 
 TEST_F(DrawnGrid, HasTheGapsOfTheTable)
 {

@@ -196,7 +196,7 @@ TEST_F(SelectionComparisonOfRuns, DoesNotTestTheParameterThatTheWordsName)
   ASSERT_EQ(found.parameters.size(), 2U);
   EXPECT_EQ(found.parameters[0].obstacle, TestObstacle::chosenByParameter);
   EXPECT_EQ(found.parameters[1].obstacle, TestObstacle::none);
-  EXPECT_EQ(handed()[0].title, "chosen by this");
+  EXPECT_EQ(handed()[0].title, "chosen by this parameter");
   comparison.setWords([] { return std::string("dot(k over m, 0, 1, 0, 1)"); });
   EXPECT_EQ(comparison.current().parameters[1].obstacle, TestObstacle::chosenByParameter);
   comparison.setWords([] { return std::string("not a condition ("); });

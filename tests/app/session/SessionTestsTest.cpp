@@ -22,3 +22,20 @@ TEST(SessionTests, AreEmptyWhereTheyAreMistyped)
   EXPECT_TRUE(read.adjustment.isEmpty());
   EXPECT_FALSE(read.halves);
 }
+
+TEST(SessionTests, KeepSeedAndSides)
+{
+  SessionTests tests;
+  tests.seed = 4711.0;
+  tests.compared = "low \u2264 1";
+  tests.comparedWith = "high";
+  tests.looked = 12;
+  const SessionTests read = readTests(objectOf(tests));
+  EXPECT_EQ(read.seed, 4711.0);
+  EXPECT_EQ(read.compared, tests.compared);
+  EXPECT_EQ(read.comparedWith, "high");
+  EXPECT_EQ(read.looked, 12);
+  for (const double seed : {0.0, -3.0, 1e12})
+    EXPECT_EQ(readTests({{"seed", seed}}).seed, 1.0);
+  EXPECT_EQ(readTests({{"looked", -1}}).looked, 0);
+}

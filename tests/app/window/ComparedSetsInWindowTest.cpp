@@ -3,6 +3,7 @@
 
 #include <vtkChart.h>
 
+#include <QSpinBox>
 #include <QToolButton>
 
 #include <sstream>
@@ -142,15 +143,49 @@ TEST_F(ComparedSetsInWindow, AreNotTestedForTheParameterThatChoseThem)
         return cell(row, ComparisonModel::PValue);
     return std::string("no such row");
   };
-  EXPECT_EQ(pOf("k"), "chosen by this");
-  EXPECT_NE(pOf("m"), "chosen by this");
+  EXPECT_EQ(pOf("k"), "chosen by this parameter");
+  EXPECT_NE(pOf("m"), "chosen by this parameter");
   selectWhere("max(X) > 4.95");
-  EXPECT_NE(pOf("k"), "chosen by this");
+  EXPECT_NE(pOf("k"), "chosen by this parameter");
   window.selectionController()->undoStack().undo();
   QCoreApplication::processEvents();
-  EXPECT_EQ(pOf("k"), "chosen by this");
+  EXPECT_EQ(pOf("k"), "chosen by this parameter");
   window.selectionController()->selectWhere("m < 2", RunCombination::Add);
   QCoreApplication::processEvents();
-  EXPECT_EQ(pOf("k"), "chosen by this");
-  EXPECT_EQ(pOf("m"), "chosen by this");
+  EXPECT_EQ(pOf("k"), "chosen by this parameter");
+  EXPECT_EQ(pOf("m"), "chosen by this parameter");
+}
+
+TEST_F(ComparedSetsInWindow, ShowTheAdjustedPInNarrowWindows)
+{
+  std::string text = replicates(10);
+  text.replace(text.find(",k,m,"), 5, ",transcription rate of the first gene,m,");
+  open({}, text);
+  selectWhere("max(X) > 3.95");
+  ASSERT_TRUE(becomesIdle());
+  auto& view = *window.findChild<QTableView*>(QStringLiteral("comparisonTable"));
+  for (const int width : {1190, 1024})
+  {
+    window.resize(width, 800);
+    QTest::qWait(50);
+    ASSERT_LE(window.width(), width);
+    const int end = view.columnViewportPosition(ComparisonModel::AdjustedPValue) +
+                    view.columnWidth(ComparisonModel::AdjustedPValue);
+    EXPECT_LE(end, view.viewport()->width()) << width;
+    EXPECT_GT(view.columnWidth(ComparisonModel::Name), 30) << width;
+  }
+}
+
+TEST_F(ComparedSetsInWindow, AreDrawnAnewByTheSeed)
+{
+  open({}, replicates(10));
+  selectWhere("max(X) > 3.95");
+  ASSERT_TRUE(becomesIdle());
+  auto* seed = window.findChild<QSpinBox*>(QStringLiteral("seed"));
+  ASSERT_TRUE(seed->isEnabled());
+  seed->selectAll();
+  QTest::keyClicks(seed, "42");
+  QTest::keyClick(seed, Qt::Key_Return);
+  ASSERT_TRUE(becomesIdle());
+  EXPECT_NE(summary().find("9,999 permutations, seed 42."), std::string::npos) << summary();
 }
