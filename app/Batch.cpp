@@ -58,14 +58,19 @@ std::string writeComparison(const Comparison& comparison, const QString& path)
 }
 
 /// @param notes what was noted of the table, which may tell why it has no runs
-std::string writeRuns(PlotContainer& container, const std::vector<std::string>& notes,
+std::string writeRuns(Document& document, const std::vector<std::string>& notes, bool selects,
                       const QString& path)
 {
-  const TableRuns runs(container);
+  const TableRuns runs(*document.container());
   if (runs.numberOfRuns() == 0)
     return notes.empty() ? "there are no runs to list"
                          : "there are no runs to list: " + notes.front();
-  return writeText(path, QString::fromStdString(commaText(runTable(runs, allColumnsOfRuns(runs)))));
+  RunTable table = runTable(runs, allColumnsOfRuns(runs));
+  addColumn(table, "group", groupNumbers(document.groups().groups()));
+  const std::vector<bool> selected = runs.selected();
+  if (selects)
+    addColumn(table, "selected", std::vector<double>(selected.begin(), selected.end()));
+  return writeText(path, QString::fromStdString(commaText(table)));
 }
 
 /// Pictures need a widget that paints; the document of tables only draws, into a scene.
@@ -96,7 +101,8 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
   if (error.empty() && !options.compare.empty())
     error = writeComparison(comparison, QFile::decodeName(options.compare.c_str()));
   if (error.empty() && !options.runs.empty())
-    error = writeRuns(*document.container(), opened.notes, QFile::decodeName(options.runs.c_str()));
+    error = writeRuns(document, opened.notes, !options.select.empty(),
+                      QFile::decodeName(options.runs.c_str()));
   // What shows a container ends before it.
   widget.reset();
   return error;

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ColouredRuns</name>
+    <message>
+        <source>Other runs</source>
+        <translation>Andere Läufe</translation>
+    </message>
+</context>
+<context>
     <name>ComparisonText</name>
     <message>
         <source>larger in selected</source>
@@ -556,6 +563,14 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Toggle 1 run</source>
         <translation>1 Lauf umschalten</translation>
+    </message>
+    <message>
+        <source>%1, too many to name</source>
+        <translation>%1, zu viele, um sie zu nennen</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>Nichts auswählen</translation>
     </message>
 </context>
 <context>
@@ -1118,10 +1133,6 @@ p, li { white-space: pre-wrap; }
         <translation>&amp;Farben der Gruppen</translation>
     </message>
     <message>
-        <source>Draw each run in the colour of its group in the XY plot</source>
-        <translation>Im XY-Diagramm jeden Lauf in der Farbe seiner Gruppe zeichnen</translation>
-    </message>
-    <message>
         <source>&amp;Mean of each group</source>
         <translation>&amp;Mittel jeder Gruppe</translation>
     </message>
@@ -1144,6 +1155,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Scale each run of the chosen y columns so that its largest value is 1; unticked, the values are loaded again. Times, numbers of runs and parameters are left out</source>
         <translation>Jeden Lauf der gewählten y-Spalten so skalieren, dass sein größter Wert 1 ist; ohne Haken werden die Werte wieder geladen. Zeiten, Nummern der Läufe und Parameter bleiben außen vor</translation>
+    </message>
+    <message>
+        <source>Draw each run in the colour of its group, in the XY plot, the scatter-plot matrix and parallel coordinates</source>
+        <translation>Jeden Lauf in der Farbe seiner Gruppe zeichnen, im XY-Diagramm, in der Streudiagramm-Matrix und in parallelen Koordinaten</translation>
     </message>
 </context>
 <context>
@@ -1737,6 +1752,14 @@ Grafiken simulierter Läufe.</translation>
         <source>Wrote %1</source>
         <translation>%1 geschrieben</translation>
     </message>
+    <message>
+        <source>Show in charts</source>
+        <translation>In Diagrammen zeigen</translation>
+    </message>
+    <message>
+        <source>Draw runs in the colours of these selections; that of the last one counts</source>
+        <translation>Läufe in den Farben dieser Auswahlen zeichnen; die der letzten zählt</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::MainWindow</name>
@@ -2064,6 +2087,14 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Copied the condition</source>
         <translation>Bedingung kopiert</translation>
+    </message>
+    <message>
+        <source>As opened: %1</source>
+        <translation>Wie geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>%1 steps after that are no longer known</source>
+        <translation>%1 Schritte danach sind nicht mehr bekannt</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,9 @@
 namespace Talmesh
 {
 
+/// Pixels of the scene. A hand that means to click does not move farther.
+constexpr float clickExtent = 3.0F;
+
 /// What a program does with gestures, shared by all charts of a page.
 struct GestureHandling
 {

@@ -30,8 +30,6 @@ using Gesture = Talmesh::SelectionGesture;
 /// Pixels, as all here. So far beside the axes a drag may begin; no farther than half of the gutter
 /// between charts, so that neighbours do not compete.
 constexpr int besideAxes = 14;
-/// A hand that means to click does not move farther.
-constexpr float clickExtent = 3.0F;
 /// Corners of a lasso are as far apart at least.
 constexpr float trailStep = 4.0F;
 constexpr float trailWidth = 1.5F;
@@ -197,13 +195,14 @@ bool vtkSelectableChartXY::EndGesture(const vtkContextMouseEvent& mouse)
   auto kind = box ? Gesture::Kind::Rectangle
                   : (Gestures->tool == Talmesh::SelectionTool::Lasso ? Gesture::Kind::Lasso
                                                                      : Gesture::Kind::Line);
-  if (extentOf(drawn) < clickExtent)
+  if (extentOf(drawn) < Talmesh::clickExtent)
   {
     kind = Gesture::Kind::Click;
     drawn = {end};
   }
+  // There and back again encloses nothing.
   if (kind == Gesture::Kind::Lasso && drawn.size() < 3)
-    return true;
+    drawn.push_back(drawn.front());
   if (std::optional<Gesture> gesture = GestureOf(drawn))
   {
     gesture->kind = kind;

@@ -29,9 +29,7 @@ namespace
 using Gesture = Talmesh::SelectionGesture;
 using Rows = std::vector<vtkIdType>;
 
-/// Pixels, as all here. A hand that means to click does not move farther.
-constexpr float clickExtent = 3.0F;
-/// So near to the mouse a point is meant by it.
+/// Pixels, as all here. So near to the mouse a point is meant by it.
 constexpr float pointingReach = 8.0F;
 constexpr float tooltipOffset = 2.0F;
 
@@ -159,7 +157,7 @@ bool vtkSelectableChartXYZ::MouseButtonReleaseEvent(const vtkContextMouseEvent& 
     return true;
   Scene->SetDirty(true);
   const vtkVector2f to = mouse.GetScenePos();
-  const bool click = (to - from).Norm() < clickExtent;
+  const bool click = (to - from).Norm() < Talmesh::clickExtent;
   Gesture gesture = click ? gestureOf(Table, NearestRow(to), Gesture::Kind::Click)
                           : gestureOf(Table, RowsBetween(from, to), Gesture::Kind::Rectangle);
   gesture.mode = Talmesh::gestureMode(

@@ -90,6 +90,10 @@ bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
   const bool painted = Superclass::Paint(painter);
   if (painted && PlacesNames)
     PaintNames(painter);
+  // Axes, which are items too, have been painted.
+  for (unsigned int i = 0; painted && i < GetNumberOfItems(); ++i)
+    if (!vtkAxis::SafeDownCast(GetItem(i)))
+      GetItem(i)->Paint(painter);
   if (painted)
     PaintGestures(painter);
   return painted;

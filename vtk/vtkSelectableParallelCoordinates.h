@@ -30,6 +30,8 @@ struct GestureHandling;
 /// those keys stands alone and is not kept. A click means the row whose line is nearest, and beside
 /// the mouse stands what the program says of that row.
 ///
+/// Items that a program puts into it are painted on top.
+///
 /// Where the button of the action PAN moves an axis, the axes stand at equal distances again when
 /// it is released, in their new order, and the chart invokes vtkCommand::InteractionEvent.
 class vtkSelectableParallelCoordinates : public vtkChartParallelCoordinates

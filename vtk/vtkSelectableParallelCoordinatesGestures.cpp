@@ -25,9 +25,7 @@ namespace
 using Gesture = Talmesh::SelectionGesture;
 using Brush = Gesture::Brush;
 
-/// Pixels, as all here. A hand that means to click does not move farther.
-constexpr float clickExtent = 3.0F;
-/// So near to the mouse a line is meant by it.
+/// Pixels, as all here. So near to the mouse a line is meant by it.
 constexpr double pointingReach = 6.0;
 constexpr float brushWidth = 14.0F;
 constexpr float tooltipOffset = 2.0F;
@@ -116,7 +114,7 @@ bool vtkSelectableParallelCoordinates::EndGesture(const vtkContextMouseEvent& mo
     return true;
   const Gesture::Mode mode = Talmesh::gestureMode(
       vtkChartXY::GetMouseSelectionMode(mouse, vtkContextScene::SELECTION_DEFAULT));
-  if ((mouse.GetScenePos() - Pressed).Norm() < clickExtent)
+  if ((mouse.GetScenePos() - Pressed).Norm() < Talmesh::clickExtent)
   {
     Gesture click = PointedAt(mouse.GetScenePos());
     click.mode = mode;

@@ -1,9 +1,11 @@
 #include "app/document/Document.h"
 
+#include "app/document/ColouredRuns.h"
 #include "app/document/FeatureColumns.h"
 #include "app/document/ShownChart.h"
 #include "app/document/ShownStudy.h"
 #include "app/memory/PaintingMemory.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 
 #include <QScopedValueRollback>
@@ -20,7 +22,11 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
     , keptSelections(selected.undoStack())
     , isThere(hasMemory)
 {
+  grouped.setKept([this]
+                  { return groupsOfKept(keptSelections.list(), keptSelections.numberOfRuns()); });
+  connect(&keptSelections, &KeptSelections::changed, this, &Document::followKept);
   connect(&axisOrder, &AxisOrder::changed, this, &Document::followAxes);
+  connect(&shownPair, &ShownPair::changed, this, &Document::followPair);
   connect(&selected, &SelectionController::changing, this, [this] { beforeSelection = drawings; });
   connect(&selected, &SelectionController::changed, this, &Document::followSelection);
   compared.setWords([this] { return selected.followedWords(); });
@@ -52,6 +58,7 @@ void Document::show(PlotContainer* container)
                            {
                              ++drawings;
                              axisOrder.watch(shown.container->getItem());
+                             shownPair.watch(shown.container->getItem());
                              error.clear();
                            });
   stage(*container);
@@ -129,8 +136,10 @@ QString Document::remark() const
 /// What charts of runs draw; values of the runs may be others since the last time.
 void Document::summarise()
 {
-  if (shown.container && !shown.study.chart)
-    shown.container->setSummary(summary.of(*shown.container, shown.choice));
+  if (!shown.container || shown.study.chart)
+    return;
+  shown.container->setSummary(summary.of(*shown.container, shown.choice));
+  summary.setGroups(grouped.colouring().groupOfRun);
 }
 
 std::vector<int> Document::features() const
@@ -145,6 +154,24 @@ void Document::followAxes()
 {
   shown.choice.axes = summary.columnsNamed(axisOrder.names());
   emit choiceChanged();
+}
+
+/// The legend of charts and their colours are those of what is kept now.
+void Document::followKept()
+{
+  if (grouped.state().look.keptColours)
+    draw();
+}
+
+void Document::followPair()
+{
+  if (!shown.container || shown.study.chart)
+    return;
+  const RunGroups groups = grouped.colouring();
+  if (groups.names.empty())
+    return;
+  colourPair(*shown.container, groups);
+  emit drawn();
 }
 
 void Document::drawSilently()
@@ -238,10 +265,17 @@ void Document::takeGroups(const RunClustering& found)
 
 void Document::setLook(const RunLook& look)
 {
+  const RunLook before = grouped.state().look;
   grouped.setLook(look);
   PlotChoice choice = shown.choice;
-  if (look.groupColours || look.groupMeans || look.quartileBands)
+  const bool colours = look.groupColours || look.keptColours;
+  const bool courses = look.groupMeans || look.quartileBands;
+  const bool newCourses =
+      (look.groupMeans && !before.groupMeans) || (look.quartileBands && !before.quartileBands);
+  if ((colours || courses) &&
+      (newCourses || !colours || !showsColoursOfRuns(viewerStyle(choice.style))))
     choice.style = xyPlot;
+  choice.legend = choice.legend || (look.keptColours && !before.keptColours);
   choose(choice);
 }
 

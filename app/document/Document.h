@@ -9,6 +9,7 @@
 #include "app/document/RunSummary.h"
 #include "app/document/SelectionComparison.h"
 #include "app/document/SelectionController.h"
+#include "app/document/ShownPair.h"
 #include "app/import/Study.h"
 #include "app/session/Session.h"
 #include "app/session/StudyFile.h"
@@ -95,7 +96,8 @@ public:
   /// Takes groups that were found for the runs now shown, see `GroupedRuns::clustering`, and shows
   /// them in their colours.
   void takeGroups(const RunClustering& found);
-  /// Shows the runs as the look says, in the XY plot if the style shows nothing of it.
+  /// Shows the runs as the look says, in the XY plot if the style shows nothing of it, or not what
+  /// is new in it. Colours of kept selections come with the legend.
   void setLook(const RunLook& look);
 
   /// Whether what is shown can be saved as a session.
@@ -140,6 +142,8 @@ private:
   void restore(const RestoredSession& session);
   void summarise();
   void followAxes();
+  void followKept();
+  void followPair();
   void drawSilently();
   void announceDrawing();
   void drawNewValues();
@@ -157,6 +161,7 @@ private:
   QPointer<ShownChart> ownChart;
   RunSummary summary;
   AxisOrder axisOrder;
+  ShownPair shownPair;
   SelectionController selected;
   SelectionComparison compared;
   GroupedRuns grouped;

@@ -196,7 +196,7 @@ std::optional<std::string> wordsOfGesture(const PlotContainer& container, const 
   const NearestRun nearest = nearestOf(runs, gesture, *series);
   if (!nearest.series)
     return std::string();
-  return "runs(" + runText(runs, nearest.run) + ')';
+  return runs.wordsOf(nearest.run);
 }
 
 std::optional<std::string> nearestRun(const PlotContainer& container, const TableRuns& runs,

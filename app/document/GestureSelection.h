@@ -27,8 +27,9 @@ std::string textBeside(const TableRuns& runs, std::size_t run, const std::string
 /// The condition in words that selects the runs that a gesture means. A click means the run drawn
 /// nearest to it, within a few pixels.
 /// @param rule of rectangles; where no lines are drawn, points go through
-/// @return empty where it means none by being beside everything; none where it is not about the
-/// runs of this table
+/// @return empty for a click beside everything, which changes nothing; `none`, or a condition that
+/// no run meets, for what was drawn around nothing; none where it is not about the runs of this
+/// table
 std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
                                           const SelectionGesture& gesture, GestureRule rule);
 

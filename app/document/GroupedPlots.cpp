@@ -168,10 +168,24 @@ void addMean(const DrawnRuns& drawn, const RunGroups& groups, int group)
 
 } // namespace
 
+std::vector<double> groupNumbers(const RunGroups& groups)
+{
+  std::vector<double> numbers;
+  for (const int group : groups.groupOfRun)
+    numbers.push_back(group + 1.0);
+  return numbers;
+}
+
 QColor groupColour(int group)
 {
   const plot::PaletteColor& colour = plot::paletteColor(static_cast<std::size_t>(group));
   return QColor::fromRgbF(colour[0] * brightness, colour[1] * brightness, colour[2] * brightness);
+}
+
+QColor colourOf(const RunGroups& groups, int group)
+{
+  const auto place = static_cast<std::size_t>(group);
+  return place < groups.colours.size() ? groups.colours[place] : groupColour(group);
 }
 
 void colourGroups(PlotContainer& container, const RunGroups& groups)
@@ -187,7 +201,7 @@ void colourGroups(PlotContainer& container, const RunGroups& groups)
       continue;
     const vtkSmartPointer<vtkPlotPoints> members = makePlotLike(drawn);
     members->SetWidth(drawn.plot->GetWidth());
-    paint(members, groupColour(group), runAlpha);
+    paint(members, colourOf(groups, group), runAlpha);
     members->SetLabel(groups.names[static_cast<std::size_t>(group)]);
     plot::feedPlot(members, table, 0, 1);
     plot::makeUnselectable(members);
@@ -241,10 +255,11 @@ RunGroups namedGroups(const std::vector<int>& groupOfRun)
   return groups;
 }
 
-void dressRuns(PlotContainer& container, const RunGroups& groups, const RunLook& look)
+void dressRuns(PlotContainer& container, const RunGroups& groups, const RunGroups& colours,
+               const RunLook& look)
 {
-  if (look.groupColours)
-    colourGroups(container, groups);
+  if (!colours.names.empty())
+    colourGroups(container, colours);
   // Runs that are one point each have no course.
   if (container.showsSummary())
     return;

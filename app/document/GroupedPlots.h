@@ -20,14 +20,27 @@ struct RunGroups
   std::vector<int> groupOfRun;
   /// One name per group, for the legend, UTF-8.
   std::vector<std::string> names;
+  /// One colour per group; none for those that groups have by their numbers.
+  std::vector<QColor> colours;
+
+  friend bool operator==(const RunGroups& left, const RunGroups& right)
+  {
+    return left.groupOfRun == right.groupOfRun && left.names == right.names &&
+           left.colours == right.colours;
+  }
 };
 
 /// Groups with their names in the user's language.
 /// @param groupOfRun the group of every run, from 0
 RunGroups namedGroups(const std::vector<int>& groupOfRun);
 
+/// The group of each run as the window numbers them, from 1; none without groups.
+std::vector<double> groupNumbers(const RunGroups& groups);
+
 /// The colour of a group in lists and charts; those of the first twelve groups differ.
 QColor groupColour(int group);
+/// That of one of these groups.
+QColor colourOf(const RunGroups& groups, int group);
 
 /// The following complete the XY chart of a container's drawing, with the first y column
 /// over the x axis, and do nothing where it shows another chart. The runs themselves stay
@@ -44,7 +57,9 @@ void addGroupMeans(PlotContainer& container, const RunGroups& groups);
 void showQuartileBands(PlotContainer& container);
 
 /// All of them that the look asks for.
-void dressRuns(PlotContainer& container, const RunGroups& groups, const RunLook& look);
+/// @param colours the groups that colour the runs; none of no groups
+void dressRuns(PlotContainer& container, const RunGroups& groups, const RunGroups& colours,
+               const RunLook& look);
 
 } // namespace Talmesh::app
 

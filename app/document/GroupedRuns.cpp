@@ -1,5 +1,6 @@
 #include "app/document/GroupedRuns.h"
 
+#include "app/document/ColouredRuns.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "plot/RunLayout.h"
@@ -106,7 +107,7 @@ void GroupedRuns::restore(const SessionGroups& groups)
     kept.mode = groups.mode;
   const bool any = !named.names.empty();
   kept.look = {groups.look.groupColours && any, groups.look.groupMeans && any,
-               groups.look.quartileBands && runCount > 0};
+               groups.look.quartileBands && runCount > 0, groups.look.keptColours};
 }
 
 void GroupedRuns::setLook(const RunLook& look)
@@ -162,9 +163,19 @@ bool GroupedRuns::showsNormalised() const
   return container && normaliser.isNormalised(shownColumns());
 }
 
+RunGroups GroupedRuns::colouring() const
+{
+  if (kept.look.keptColours && keptGroups)
+    if (RunGroups groups = keptGroups(); !groups.names.empty())
+      return groups;
+  return kept.look.groupColours ? named : RunGroups();
+}
+
 void GroupedRuns::complete()
 {
-  dressRuns(*container, named, kept.look);
+  const RunGroups colours = colouring();
+  dressRuns(*container, named, colours, kept.look);
+  colourCharts(*container, colours);
 }
 
 } // namespace Talmesh::app

@@ -9,7 +9,9 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class PlotContainer;
@@ -47,6 +49,11 @@ public:
   /// Into how many groups they can be sorted; at least 1.
   int mostPossible() const;
   const RunGroups& groups() const { return named; }
+  /// The groups that colour the runs now: those of kept selections, if the look asks for them and
+  /// there are any, or the groups found; none where the look asks for neither.
+  RunGroups colouring() const;
+  /// Says what groups kept selections are, see `groupsOfKept`.
+  void setKept(std::function<RunGroups()> groups) { keptGroups = std::move(groups); }
   /// What a session keeps of all this.
   const SessionGroups& state() const { return kept; }
   /// Brings back what a session kept of the same runs, as far as it fits them. Emits and draws
@@ -87,6 +94,7 @@ private:
   int runCount = 0;
   SessionGroups kept;
   RunGroups named;
+  std::function<RunGroups()> keptGroups;
 };
 
 } // namespace Talmesh::app

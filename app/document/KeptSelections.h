@@ -29,6 +29,8 @@ public:
   void restore(const std::vector<KeptSelection>& kept);
 
   const std::vector<KeptSelection>& list() const { return kept; }
+  /// Of the table.
+  std::size_t numberOfRuns() const { return runCount; }
   /// Whether there is room for another one.
   bool hasRoom() const { return runCount > 0 && kept.size() < mostKeptSelections(runCount); }
 

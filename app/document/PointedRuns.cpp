@@ -200,13 +200,6 @@ std::optional<std::vector<bool>> runsOfRows(const TableRuns& runs, const Selecti
   return found;
 }
 
-std::vector<bool> onlyRun(const TableRuns& runs, std::size_t run)
-{
-  std::vector<bool> only(runs.numberOfRuns(), false);
-  only[run] = true;
-  return only;
-}
-
 } // namespace
 
 std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture)
@@ -229,7 +222,7 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
   if (gesture.kind == SelectionGesture::Kind::Click)
   {
     const NearestPoint nearest = nearestOf(runs, gesture, *points);
-    return nearest.series ? runs.words(onlyRun(runs, nearest.run)) : std::string();
+    return nearest.series ? runs.wordsOf(nearest.run) : std::string();
   }
   const std::string words = gesture.kind == SelectionGesture::Kind::Rectangle
                                 ? wordsOfRectangle(runs, gesture, *points)

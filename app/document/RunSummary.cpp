@@ -1,5 +1,6 @@
 #include "app/document/RunSummary.h"
 
+#include "app/document/ColouredRuns.h"
 #include "app/document/FeatureColumns.h"
 #include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
@@ -230,6 +231,23 @@ SummaryTable RunSummary::of(const PlotContainer& container, const PlotChoice& ch
       summary.columns.push_back(at);
   summary.table = table;
   return summary;
+}
+
+void RunSummary::setGroups(const std::vector<int>& groupOfRun)
+{
+  if (!table || static_cast<vtkIdType>(groupOfRun.size()) != runs)
+    return;
+  int at = plot::columnIndex(table, groupColumnName());
+  if (at < 0)
+  {
+    at = static_cast<int>(columns.size());
+    columns.push_back({-1, nullptr, 0});
+    table->AddColumn(plot::makeColumn(groupColumnName(), std::vector<double>(groupOfRun.size())));
+  }
+  vtkDoubleArray* column = plot::doubleColumn(table, at);
+  std::copy(groupOfRun.begin(), groupOfRun.end(), column->GetPointer(0));
+  column->Modified();
+  table->Modified();
 }
 
 std::vector<int> RunSummary::columnsNamed(const std::vector<std::string>& names) const

@@ -41,13 +41,17 @@ public:
   /// Without a table where the choice draws rows.
   SummaryTable of(const PlotContainer& container, const PlotChoice& choice);
 
+  /// Keeps the group of each run in a column of its own, which no axis shows, see
+  /// `groupColumnName`.
+  void setGroups(const std::vector<int>& groupOfRun);
+
   /// The columns, as choices name them, of the given names in the table.
   std::vector<int> columnsNamed(const std::vector<std::string>& names) const;
 
 private:
   struct Column
   {
-    int shown;
+    int shown; ///< -1 for groups
     vtkWeakPointer<vtkDoubleArray> source;
     vtkMTimeType sourceTime;
   };

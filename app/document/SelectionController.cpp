@@ -1,8 +1,5 @@
 #include "app/document/SelectionController.h"
 
-#include "app/document/ListedRuns.h"
-#include "app/session/RunSelectionFile.h"
-#include "external/ParameterSelection.h"
 #include "plot/PlotContainer.h"
 #include "vtk/RowSelections.h"
 
@@ -14,7 +11,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <set>
 #include <vector>
 
 namespace Talmesh::app
@@ -63,6 +59,8 @@ SelectionController::SelectionController(QObject* parent)
             return selected;
           })
 {
+  for (SelectionHistory* steps : {&history, &visitHistory})
+    steps->setNaming(&SelectionController::stepToSelected);
   for (QUndoStack* steps : {&stack, &visitStack})
   {
     steps->setUndoLimit(mostSteps);
@@ -86,6 +84,7 @@ void SelectionController::follow(PlotContainer* another, const std::string& word
   observe(another, stack);
   history.follow(another);
   history.restart(words);
+  emit restarted();
 }
 
 void SelectionController::visit(PlotContainer* another)
@@ -140,6 +139,18 @@ bool SelectionController::makeWhole()
   return true;
 }
 
+/// Also those who select whole runs, all or none of them.
+NamedStep SelectionController::stepToSelected(PlotContainer& changed)
+{
+  const TableRuns runs(changed);
+  if (runs.numberOfRuns() == 0)
+    return {};
+  const std::vector<bool> selected = runs.selected();
+  const std::string words = runs.words(selected);
+  return {QString::fromStdString(stepText(RunCombination::Replace, selected, words)),
+          {RunCombination::Replace, words}};
+}
+
 /// @return whether nobody else is to hear of it
 bool SelectionController::announce(vtkObject*, unsigned long, void*)
 {
@@ -170,11 +181,9 @@ void SelectionController::selectAll()
     return;
   TableRuns runs(*container);
   if (runs.numberOfRuns() > 0)
-    runs.select(std::vector<bool>(runs.numberOfRuns(), true));
-  else
-    selectRows(*container,
-               std::vector<bool>(static_cast<std::size_t>(container->getTable()->GetNumberOfRows()),
-                                 true));
+    return runs.select(std::vector<bool>(runs.numberOfRuns(), true));
+  const auto rows = static_cast<std::size_t>(container->getTable()->GetNumberOfRows());
+  selectRows(*container, std::vector<bool>(rows, true));
 }
 
 void SelectionController::clear()
@@ -194,10 +203,10 @@ void SelectionController::invert()
                                  : markedRows(container->getAnnotationLink()->GetCurrentSelection(),
                                               container->getTable());
   others.flip();
-  const std::string said = words().empty() ? std::string() : "not (" + words() + ')';
-  const SelectionHistory::Step step(
-      shownHistory(), tr("Invert Selection"),
-      {said.empty() ? RunCombination::Toggle : RunCombination::Replace, said});
+  const std::string before = words();
+  const std::string said = ofRuns && before.empty() ? runs.words(others) : wordsOfOthers(before);
+  const QString named = QString::fromStdString(namedBy(tr("Invert Selection").toStdString(), said));
+  const SelectionHistory::Step step(shownHistory(), named, {RunCombination::Replace, said, true});
   if (ofRuns)
     runs.select(others);
   else
@@ -235,7 +244,11 @@ void SelectionController::selectRuns(const std::vector<bool>& hit, const std::st
     return;
   const SelectionHistory::Step step(
       shownHistory(), QString::fromStdString(stepText(how, hit, words)), {how, words});
-  runs.select(combineRuns(runs.selected(), hit, how));
+  const std::vector<bool> before = runs.selected();
+  const std::vector<bool> after = combineRuns(before, hit, how);
+  runs.select(after);
+  if (after == before)
+    shownHistory().note({how, words});
 }
 
 std::vector<bool> SelectionController::selectedRuns() const
@@ -243,32 +256,19 @@ std::vector<bool> SelectionController::selectedRuns() const
   return container ? TableRuns(*container).selected() : std::vector<bool>();
 }
 
+std::string SelectionController::wordsAtFirst() const
+{
+  return container == followed ? history.wordsAtFirst() : visitHistory.wordsAtFirst();
+}
+
+int SelectionController::forgottenSteps() const
+{
+  return container == followed ? history.forgotten() : visitHistory.forgotten();
+}
+
 std::string SelectionController::words() const
 {
   return container == followed ? history.words() : visitHistory.words();
-}
-
-std::string SelectionController::save(const QString& path) const
-{
-  return hasRuns() ? saveSelectedRuns(path, *container) : noRuns();
-}
-
-std::string SelectionController::load(const QString& path)
-{
-  const Result<ParameterSelection> loaded = loadRunSelection(path);
-  if (!loaded.hasValue())
-    return loaded.error();
-  if (!hasRuns())
-    return noRuns();
-  const TableRuns table(*container);
-  const std::set<int>& wanted = loaded.value().runs;
-  const ListedRuns listed = findListed(wanted, table);
-  // A file may well say that nothing is selected.
-  if (wanted.empty())
-    clear();
-  else if (listed.missing.size() < wanted.size())
-    selectWhere(table.words(listed.runs), RunCombination::Replace);
-  return noteOnMissing(path, listed.missing, wanted.size());
 }
 
 bool SelectionController::hasRuns() const

@@ -62,6 +62,9 @@ public:
   /// The condition in words that only the selected runs meet: that of the steps that led there.
   /// Empty where nobody has said it.
   std::string words() const;
+  /// That of what was selected as the steps began, and how many of them are forgotten.
+  std::string wordsAtFirst() const;
+  int forgottenSteps() const;
   /// The same of the container that is followed, while another one is visited.
   std::string followedWords() const { return history.words(); }
   /// What was asked for on the way there, see `SelectionHistory::conditions`.
@@ -87,6 +90,8 @@ public:
   RunGestures& gestures() { return pointing; }
 
 signals:
+  /// The steps begin anew, with another container.
+  void restarted();
   /// Another selection is announced, which nobody has answered yet.
   void changing();
   /// The selection is another one. Emitted from the event loop, after the chart's own handler, once
@@ -99,6 +104,7 @@ private:
   SelectionHistory& shownHistory();
   bool hasRuns() const;
   static std::string noRuns();
+  static NamedStep stepToSelected(PlotContainer& changed);
   bool makeWhole();
   bool announce(vtkObject*, unsigned long, void*);
   void announceLater();

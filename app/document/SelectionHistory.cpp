@@ -154,9 +154,15 @@ void SelectionHistory::restart(const std::string& words)
   {
     const Snapshot rows = followed->selected();
     followed->current = {rows, {}, {}};
-    if (isAny(rows) && !words.empty())
-      followed->current = {rows, words, {words}};
+    if (isAny(rows))
+      followed->current.words = words.empty() && naming && followed->container
+                                    ? wordsAfter({}, false, naming(*followed->container).step)
+                                    : words;
+    if (!followed->current.words.empty())
+      followed->current.conditions = {followed->current.words};
   }
+  first = followed ? followed->current.words : std::string();
+  dropped = 0;
   // Those who hear of it ask for the words.
   stack.clear();
 }
@@ -167,14 +173,28 @@ std::string SelectionHistory::words() const
   if (!followed || !followed->current.rows)
     return {};
   const Snapshot rows = followed->selected();
-  return *rows == *followed->current.rows ? followed->current.words : wordsWith(rows);
+  if (!isAny(rows))
+    return {};
+  return *rows == *followed->current.rows ? followed->current.words : wordsWith(stepNow());
+}
+
+void SelectionHistory::note(const SelectionStep& step)
+{
+  if (followed && followed->current.rows && !isAny(followed->current.rows))
+    followed->current.words = wordsAfter(followed->current.words, false, step);
 }
 
 /// Those of a change that is yet to be recorded.
-std::string SelectionHistory::wordsWith(const Snapshot& rows) const
+std::string SelectionHistory::wordsWith(const NamedStep& named) const
 {
   const Selected& before = followed->current;
-  return isAny(rows) ? wordsAfter(before.words, isAny(before.rows), stepInWords) : std::string();
+  return wordsAfter(before.words, isAny(before.rows), named.step);
+}
+
+/// To what is now selected.
+NamedStep SelectionHistory::stepNow() const
+{
+  return said.text.isEmpty() && naming && followed->container ? naming(*followed->container) : said;
 }
 
 std::vector<std::string> SelectionHistory::conditions() const
@@ -182,19 +202,20 @@ std::vector<std::string> SelectionHistory::conditions() const
   if (!followed || !followed->current.rows)
     return {};
   const Snapshot rows = followed->selected();
-  return *rows == *followed->current.rows ? followed->current.conditions : conditionsWith(rows);
+  return *rows == *followed->current.rows ? followed->current.conditions
+                                          : conditionsWith(rows, stepNow().step);
 }
 
-std::vector<std::string> SelectionHistory::conditionsWith(const Snapshot& rows) const
+std::vector<std::string> SelectionHistory::conditionsWith(const Snapshot& rows,
+                                                          const SelectionStep& step) const
 {
   std::vector<std::string> asked;
   if (!isAny(rows))
     return asked;
-  if (stepInWords.how != RunCombination::Replace)
+  if (step.goesOn || step.how != RunCombination::Replace)
     asked = followed->current.conditions;
-  const bool isNew = std::find(asked.begin(), asked.end(), stepInWords.words) == asked.end();
-  if (isNew && !stepInWords.words.empty())
-    asked.push_back(stepInWords.words);
+  if (!step.words.empty() && std::find(asked.begin(), asked.end(), step.words) == asked.end())
+    asked.push_back(step.words);
   return asked;
 }
 
@@ -207,12 +228,13 @@ void SelectionHistory::record()
   if (*before.rows == *rows)
     return;
   const bool clears = !isAny(rows);
-  followed->current = {rows, wordsWith(rows), conditionsWith(rows)};
-  QString text = stepText;
-  if (text.isEmpty())
-    text = clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
-                  : QCoreApplication::translate("SelectionHistory", "Select");
-  stack.push(new SelectCommand(followed, before, followed->current, text));
+  NamedStep named = stepNow();
+  followed->current = {rows, wordsWith(named), conditionsWith(rows, named.step)};
+  if (named.text.isEmpty())
+    named.text = clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
+                        : QCoreApplication::translate("SelectionHistory", "Select");
+  dropped += stack.index() == stack.undoLimit() ? 1 : 0;
+  stack.push(new SelectCommand(followed, before, followed->current, named.text));
 }
 
 void SelectionHistory::stopObserving()

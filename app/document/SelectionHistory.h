@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -17,6 +18,13 @@ namespace Talmesh::app
 {
 
 struct FollowedContainer;
+
+/// What a step of the history is called, as of `QUndoCommand::setText`, and does.
+struct NamedStep
+{
+  QString text;
+  SelectionStep step;
+};
 
 /// Makes the selections of a container undoable.
 ///
@@ -35,22 +43,22 @@ public:
   SelectionHistory(const SelectionHistory&) = delete;
   SelectionHistory& operator=(const SelectionHistory&) = delete;
 
-  /// For as long as it lives, changes of the selection are recorded under a text of their own, as
-  /// of `QUndoCommand::setText`, and with the words that they stand for.
+  /// Names steps to what is now selected in a container by whoever does not say what he does.
+  using Naming = std::function<NamedStep(PlotContainer&)>;
+  /// Without one they are called after whether anything is selected.
+  void setNaming(Naming names) { naming = std::move(names); }
+
+  /// For as long as it lives, changes of the selection are recorded under a text of their own and
+  /// with the words that they stand for.
   class Step
   {
   public:
     Step(SelectionHistory& recorded, const QString& text, SelectionStep step = {})
         : history(recorded)
     {
-      history.stepText = text;
-      history.stepInWords = std::move(step);
+      history.said = {text, std::move(step)};
     }
-    ~Step()
-    {
-      history.stepText.clear();
-      history.stepInWords = {};
-    }
+    ~Step() { history.said = {}; }
     Step(const Step&) = delete;
     Step& operator=(const Step&) = delete;
 
@@ -74,19 +82,29 @@ public:
   /// All conditions by which runs have come or gone since the selection was last replaced, also
   /// where the selection as a whole stands for none.
   std::vector<std::string> conditions() const;
+  /// That of what was selected when it began.
+  const std::string& wordsAtFirst() const { return first; }
+  /// How many steps it has forgotten for later ones.
+  int forgotten() const { return dropped; }
+  /// Keeps what a step says that changes nothing from nothing selected: the steps after it go on
+  /// from there.
+  void note(const SelectionStep& step);
 
 private:
-  std::string wordsWith(const std::shared_ptr<const std::vector<bool>>& rows) const;
-  std::vector<std::string>
-  conditionsWith(const std::shared_ptr<const std::vector<bool>>& rows) const;
+  std::string wordsWith(const NamedStep& named) const;
+  std::vector<std::string> conditionsWith(const std::shared_ptr<const std::vector<bool>>& rows,
+                                          const SelectionStep& step) const;
+  NamedStep stepNow() const;
   void record();
   void stopObserving();
 
   QUndoStack& stack;
   std::shared_ptr<FollowedContainer> followed;
   unsigned long observerTag = 0;
-  QString stepText;
-  SelectionStep stepInWords;
+  std::string first;
+  int dropped = 0;
+  Naming naming;
+  NamedStep said;
 };
 
 } // namespace Talmesh::app

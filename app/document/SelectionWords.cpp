@@ -1,6 +1,7 @@
 #include "app/document/SelectionWords.h"
 
 #include "app/import/TranslatedText.h"
+#include "app/runs/FilterSyntax.h"
 
 #include <algorithm>
 
@@ -15,9 +16,48 @@ std::string bracketed(const std::string& words)
   return '(' + words + ')';
 }
 
+/// In parentheses unless it is joined in the same way: what is changed step by step nests no
+/// deeper.
+std::string bracketedUnless(FilterNode::Kind kind, const std::string& words)
+{
+  FilterNode node;
+  const bool isAlike = parseFilter(words, node).text.empty() && node.kind == kind;
+  return isAlike ? words : bracketed(words);
+}
+
 std::string butNot(const std::string& words, const std::string& excepted)
 {
-  return bracketed(words) + " and not " + bracketed(excepted);
+  return bracketedUnless(FilterNode::Kind::And, words) + " and not " + bracketed(excepted);
+}
+
+std::string eitherOr(const std::string& words, const std::string& other)
+{
+  return bracketedUnless(FilterNode::Kind::Xor, words) + " xor " + bracketed(other);
+}
+
+/// Words that are too long, or nested too deep to be read, are none.
+std::string usable(const std::string& words)
+{
+  FilterNode node;
+  const bool readable =
+      words.size() <= mostCharactersOfWords && parseFilter(words, node).text.empty();
+  return readable ? words : std::string();
+}
+
+/// The place of the parenthesis that closes the one at `open`.
+std::size_t closingOf(const std::string& words, std::size_t open)
+{
+  int depth = 0;
+  bool quoted = false;
+  for (std::size_t i = open; i < words.size(); ++i)
+  {
+    quoted ^= words[i] == '"';
+    if (!quoted)
+      depth += (words[i] == '(') - (words[i] == ')');
+    if (depth == 0)
+      return i;
+  }
+  return std::string::npos;
 }
 
 } // namespace
@@ -40,7 +80,8 @@ std::vector<bool> combineRuns(std::vector<bool> before, const std::vector<bool>&
 
 std::string wordsAfter(const std::string& before, bool any, const SelectionStep& step)
 {
-  const bool fromNothing = !any && step.how != RunCombination::Subtract;
+  const bool fromNothing =
+      !any && step.how != RunCombination::Subtract && (before.empty() || before == "none");
   if (step.how != RunCombination::Replace && !fromNothing && before.empty())
     return {};
   if (step.words.empty())
@@ -53,8 +94,20 @@ std::string wordsAfter(const std::string& before, bool any, const SelectionStep&
   else if (step.how == RunCombination::Subtract)
     words = butNot(before, step.words);
   else
-    words = butNot(before, step.words) + " or " + butNot(step.words, before);
-  return words.size() <= mostCharactersOfWords ? words : std::string();
+    words = eitherOr(before, step.words);
+  return usable(words);
+}
+
+std::string wordsOfOthers(const std::string& words)
+{
+  if (words.empty())
+    return {};
+  const std::string start = "not ";
+  const bool isNegated = words.compare(0, start.size() + 1, start + '(') == 0 &&
+                         closingOf(words, start.size()) == words.size() - 1;
+  if (isNegated)
+    return words.substr(start.size() + 1, words.size() - start.size() - 2);
+  return usable(start + bracketed(words));
 }
 
 std::string wordsOfAny(const std::vector<std::string>& conditions)
@@ -80,12 +133,20 @@ RunStep shortestStep(const std::vector<bool>& before, const std::vector<bool>& a
   return {RunCombination::Toggle, changed};
 }
 
+std::string namedBy(const std::string& step, const std::string& words)
+{
+  if (words.size() > mostCharactersOfWords)
+    return withValues(translated("RunFilter", "%1, too many to name"), {step}) + '\n' + step;
+  return words.empty() ? step : step + ": " + words + '\n' + step;
+}
+
 std::string stepText(RunCombination how, const std::vector<bool>& hit, const std::string& words)
 {
   const auto count = std::count(hit.begin(), hit.end(), true);
   const bool one = count == 1;
-  std::string text =
-      one ? translated("RunFilter", "Select 1 run") : translated("RunFilter", "Select %1 runs");
+  std::string text = count == 0 ? translated("RunFilter", "Select nothing")
+                     : one      ? translated("RunFilter", "Select 1 run")
+                                : translated("RunFilter", "Select %1 runs");
   if (how == RunCombination::Add)
     text = one ? translated("RunFilter", "Add 1 run") : translated("RunFilter", "Add %1 runs");
   else if (how == RunCombination::Subtract)
@@ -94,8 +155,7 @@ std::string stepText(RunCombination how, const std::vector<bool>& hit, const std
   else if (how == RunCombination::Toggle)
     text =
         one ? translated("RunFilter", "Toggle 1 run") : translated("RunFilter", "Toggle %1 runs");
-  text = withValues(text, {std::to_string(count)});
-  return words.empty() ? text : text + ": " + words + '\n' + text;
+  return namedBy(withValues(text, {std::to_string(count)}), words);
 }
 
 } // namespace Talmesh::app

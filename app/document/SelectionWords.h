@@ -27,6 +27,8 @@ struct SelectionStep
   RunCombination how = RunCombination::Replace;
   /// A condition, as of `RunFilter`; empty where nobody has said it in words.
   std::string words;
+  /// Whether a replacement follows from what was selected before.
+  bool goesOn = false;
 };
 
 /// Longer conditions are no words for anyone.
@@ -34,9 +36,13 @@ inline constexpr std::size_t mostCharactersOfWords = 20000;
 
 /// The condition that all runs meet which are selected after a step, and no others.
 /// @param before the condition before, empty where it is not known
-/// @param any whether anything was selected before
+/// @param any whether anything was selected before; runs may meet in another study what none meets
+/// here
 /// @return empty where it is not known, or longer than `mostCharactersOfWords`
 std::string wordsAfter(const std::string& before, bool any, const SelectionStep& step);
+
+/// The condition that all runs meet which do not meet this one; empty as above.
+std::string wordsOfOthers(const std::string& words);
 
 /// The condition that is met where any of these is.
 std::string wordsOfAny(const std::vector<std::string>& conditions);
@@ -52,8 +58,11 @@ struct RunStep
 /// those that have come or gone.
 RunStep shortestStep(const std::vector<bool>& before, const std::vector<bool>& after);
 
-/// What a step of a history did, with the words to do it again; after a line end without them, for
-/// menus.
+/// What a step of a history is called: with the words to do it again, unless they are too long for
+/// anyone; after a line end without them, for menus.
+std::string namedBy(const std::string& step, const std::string& words);
+
+/// The same of a step that selects runs.
 /// @param hit the runs that met the words
 std::string stepText(RunCombination how, const std::vector<bool>& hit, const std::string& words);
 

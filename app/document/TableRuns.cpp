@@ -25,6 +25,14 @@
 namespace Talmesh::app
 {
 
+namespace
+{
+
+/// Fewer neighbours are named one by one.
+constexpr std::size_t shortestStretch = 4;
+
+} // namespace
+
 TableRuns::TableRuns(PlotContainer& shown)
     : container(shown)
     , points(static_cast<std::size_t>(std::max(0, shown.getMetaData()->getStride())))
@@ -64,7 +72,23 @@ bool TableRuns::isOfWholeRun(int column) const
 {
   const std::vector<int>& parameters = container.getMetaData()->parameterColumns;
   return std::find(parameters.begin(), parameters.end(), column) != parameters.end() ||
-         plot::columnName(container.getTable(), column) == selectionPairToString(runIndexItem());
+         plot::columnName(container.getTable(), column) == selectionPairToString(runIndexItem()) ||
+         isConstantInRuns(column);
+}
+
+/// A parameter that the study did not vary is none of its settings.
+bool TableRuns::isConstantInRuns(int column) const
+{
+  vtkDoubleArray* values = plot::doubleColumn(container.getTable(), column);
+  if (points < 2 || !values || values == times)
+    return false;
+  return std::all_of(runs.begin(), runs.end(),
+                     [&](const Run& run)
+                     {
+                       const double* first = values->GetPointer(run.firstRow);
+                       return std::all_of(first, first + points,
+                                          [first](double value) { return value == *first; });
+                     });
 }
 
 RunCourse TableRuns::course(std::size_t run, int column, int over) const
@@ -86,11 +110,21 @@ std::string TableRuns::nameOf(int column) const
 
 std::vector<int> TableRuns::parameters() const
 {
-  return container.getMetaData()->parameterColumns;
+  std::vector<int> columns = container.getMetaData()->parameterColumns;
+  for (const int item : changing(true))
+    columns.push_back(item);
+  return columns;
 }
 
 std::vector<int> TableRuns::items() const
 {
+  return changing(false);
+}
+
+/// The columns of items, those that change in no run or those that do.
+std::vector<int> TableRuns::changing(bool never) const
+{
+  const std::vector<int>& parameters = container.getMetaData()->parameterColumns;
   vtkTable* table = container.getTable();
   const auto& kinds = container.getColumnItems();
   std::vector<int> columns;
@@ -99,8 +133,12 @@ std::vector<int> TableRuns::items() const
     const auto place = static_cast<std::size_t>(column);
     const bool isItem = place >= kinds.size() ||
                         (kinds[place].first != TimeOrValue && kinds[place].first != Parameter);
-    if (isItem && !isOfWholeRun(column) && plot::doubleColumn(table, column) &&
-        !plot::isSelectionMark(plot::columnName(table, column)))
+    const std::string& name = plot::columnName(table, column);
+    const bool isOther =
+        std::find(parameters.begin(), parameters.end(), column) != parameters.end() ||
+        name == selectionPairToString(runIndexItem()) || plot::isSelectionMark(name);
+    if (isItem && !isOther && plot::doubleColumn(table, column) &&
+        isConstantInRuns(column) == never)
       columns.push_back(column);
   }
   return columns;
@@ -120,13 +158,48 @@ std::vector<bool> TableRuns::selected() const
   return any;
 }
 
+/// Whether runs between two numbers are those between their places, and `run` means the number.
+bool TableRuns::numbersAreRuler() const
+{
+  const auto falls = [](const Run& left, const Run& right) { return left.number >= right.number; };
+  const Result<int> named = column("run");
+  return std::adjacent_find(runs.begin(), runs.end(), falls) == runs.end() &&
+         (!named.hasValue() || plot::columnName(container.getTable(), named.value()) ==
+                                   selectionPairToString(runIndexItem()));
+}
+
 std::string TableRuns::words(const std::vector<bool>& these) const
 {
-  std::string numbers;
+  const auto count = std::count(these.begin(), these.end(), true);
+  if (count == 0)
+    return "none";
+  if (static_cast<std::size_t>(count) == runs.size())
+    return "all";
+  const std::size_t shortest = numbersAreRuler() ? shortestStretch : runs.size();
+  std::string stretches;
+  std::string singles;
   for (std::size_t run = 0; run < runs.size(); ++run)
-    if (these[run])
-      numbers += (numbers.empty() ? "" : ", ") + std::to_string(runs[run].number);
-  return numbers.empty() ? numbers : "runs(" + numbers + ')';
+  {
+    if (!these[run])
+      continue;
+    const std::size_t first = run;
+    while (run + 1 < runs.size() && these[run + 1])
+      ++run;
+    if (run + 1 - first >= shortest)
+      stretches += (stretches.empty() ? "" : " or ") + std::to_string(runs[first].number) +
+                   " <= run <= " + std::to_string(runs[run].number);
+    else
+      for (std::size_t one = first; one <= run; ++one)
+        singles += (singles.empty() ? "" : ", ") + std::to_string(runs[one].number);
+  }
+  if (singles.empty())
+    return stretches;
+  return stretches + (stretches.empty() ? "" : " or ") + "runs(" + singles + ')';
+}
+
+std::string TableRuns::wordsOf(std::size_t run) const
+{
+  return "runs(" + std::to_string(runs[run].number) + ')';
 }
 
 bool TableRuns::areSelectedWhole() const

@@ -31,13 +31,14 @@ public:
   double runNumber(std::size_t run) const override;
   /// As `findColumn`; a column of anything but doubles is refused.
   Result<int> column(const std::string& name) const override;
-  /// Parameters and the column of the runs' numbers.
+  /// Parameters, the column of the runs' numbers and what changes in no run.
   bool isOfWholeRun(int column) const override;
   RunCourse course(std::size_t run, int column, int over) const override;
 
   /// The name by which `column` finds a column.
   std::string nameOf(int column) const;
-  /// The columns of parameters that differ between runs, as the container's settings list them.
+  /// The columns of parameters that differ between runs, as the container's settings list them,
+  /// then of what changes in no run.
   std::vector<int> parameters() const;
   /// The columns of all that changes during a run: neither time nor numbers of runs, nor marks.
   std::vector<int> items() const;
@@ -45,8 +46,11 @@ public:
 
   /// The runs of which any row is selected.
   std::vector<bool> selected() const;
-  /// The condition that only these runs meet: `runs(3, 5, 8)`; empty for none.
+  /// The condition that only these runs meet: `all`, `none`, or their numbers, those that follow
+  /// each other by the first and last one: `0 <= run <= 99 or runs(103, 105)`.
   std::string words(const std::vector<bool>& these) const;
+  /// That of a single run: `runs(3)`.
+  std::string wordsOf(std::size_t run) const;
   /// Whether all selected rows are those of whole runs, every one of them.
   bool areSelectedWhole() const;
   /// Selects all rows of these runs, so that every chart and table counts the same runs.
@@ -60,6 +64,9 @@ private:
   };
 
   void countRuns();
+  bool numbersAreRuler() const;
+  bool isConstantInRuns(int column) const;
+  std::vector<int> changing(bool never) const;
 
   PlotContainer& container;
   std::vector<Run> runs;

@@ -1,9 +1,16 @@
 #include "app/document/TimeCourses.h"
 
+#include "app/document/ColouredRuns.h"
 #include "app/import/TranslatedText.h"
 #include "app/runs/RunCourse.h"
 #include "external/ColumnNames.h"
 #include "plot/PlotContainer.h"
+
+#include <vtkAbstractArray.h>
+#include <vtkChartXY.h>
+#include <vtkContextMapper2D.h>
+#include <vtkPlot.h>
+#include <vtkTable.h>
 
 #include <algorithm>
 #include <cmath>
@@ -96,11 +103,36 @@ RunCourses::RunCourses(const LinePlotTable& runs, int time, const std::vector<st
         name.second = withValues(translated("TimeCourses", "%1, run %2"),
                                  {name.second, std::to_string(numbers[run])});
       items[name.second] = runs.items[i].second;
+      places[selectionPairToString(name)] = run;
       values.push_back(pointsOf(runs, i, run));
       record.series[name] = &values.back();
     }
   record.xName = runs.items[static_cast<std::size_t>(time)].second;
   record.xValues = &times;
+}
+
+void colourCourses(PlotContainer& container, const std::map<std::string, std::size_t>& runs,
+                   const RunGroups& kept)
+{
+  vtkChartXY* chart = container.getChartXY();
+  for (vtkIdType i = 0; chart && i < chart->GetNumberOfPlots(); ++i)
+  {
+    vtkPlot* plot = chart->GetPlot(i);
+    auto* values = plot->GetInput()
+                       ? plot->GetData()->GetInputAbstractArrayToProcess(1, plot->GetInput())
+                       : nullptr;
+    const auto found = values && values->GetName() ? runs.find(values->GetName()) : runs.end();
+    if (found == runs.end() || found->second >= kept.groupOfRun.size())
+      continue;
+    const int group = kept.groupOfRun[found->second];
+    if (group == othersOfKept)
+      continue;
+    const QColor colour = colourOf(kept, group);
+    plot->SetColor(static_cast<unsigned char>(colour.red()),
+                   static_cast<unsigned char>(colour.green()),
+                   static_cast<unsigned char>(colour.blue()), 255);
+    plot->SetLabel(plot->GetLabel() + " (" + kept.names[static_cast<std::size_t>(group)] + ')');
+  }
 }
 
 void drawTimeCourses(const LinePlotTable& runs, std::size_t run, std::size_t items,

@@ -1,6 +1,7 @@
 #ifndef TimeCourses_h
 #define TimeCourses_h
 
+#include "app/document/GroupedPlots.h"
 #include "external/LinePlotData.h"
 #include "external/LinePlotTable.h"
 
@@ -41,11 +42,19 @@ public:
   LinePlotData record;
   /// What the items of the record are called without their runs.
   std::map<std::string, std::string> items;
+  /// The places of the runs by the names of their columns.
+  std::map<std::string, std::size_t> places;
 
 private:
   std::vector<double> times;
   std::vector<std::vector<double>> values;
 };
+
+/// Draws the courses that a container now shows in the colours of the kept selections that their
+/// runs are in, and names these beside them in the legend. Other courses stay as they are.
+/// @param runs the places of the runs by the names of their columns
+void colourCourses(PlotContainer& container, const std::map<std::string, std::size_t>& runs,
+                   const RunGroups& kept);
 
 /// Fills a container, which is in a scene, with the time courses of one run, and draws those of its
 /// first items as the page does. Draws nothing of runs without a time.

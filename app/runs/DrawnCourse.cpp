@@ -175,6 +175,27 @@ std::vector<DrawnPoint> polygonOf(const std::vector<DrawnPoint>& corners, const 
   return places;
 }
 
+/// The smallest window around a polygon.
+DrawnWindow boundsOf(const std::vector<DrawnPoint>& corners)
+{
+  DrawnWindow bounds{corners[0].x, corners[0].x, corners[0].y, corners[0].y};
+  for (const DrawnPoint& corner : corners)
+  {
+    bounds.x0 = std::min(bounds.x0, corner.x);
+    bounds.x1 = std::max(bounds.x1, corner.x);
+    bounds.y0 = std::min(bounds.y0, corner.y);
+    bounds.y1 = std::max(bounds.y1, corner.y);
+  }
+  return bounds;
+}
+
+/// Whether a piece lies beside a window on one of its sides.
+bool isBeside(const DrawnWindow& window, const DrawnPoint& a, const DrawnPoint& b)
+{
+  return (a.x < window.x0 && b.x < window.x0) || (a.x > window.x1 && b.x > window.x1) ||
+         (a.y < window.y0 && b.y < window.y0) || (a.y > window.y1 && b.y > window.y1);
+}
+
 } // namespace
 
 bool passesThrough(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)
@@ -229,9 +250,13 @@ bool entersPolygon(const RunCourse& course, const std::vector<DrawnPoint>& corne
                    const DrawnScale& scale)
 {
   const std::vector<DrawnPoint> places = polygonOf(corners, scale);
-  return !places.empty() && anyPiece(course, scale,
-                                     [&places](const DrawnPoint& from, const DrawnPoint& to)
-                                     { return isIn(places, from, to); });
+  if (places.empty())
+    return false;
+  // Most lines pass far from what is drawn around few.
+  const DrawnWindow bounds = boundsOf(places);
+  return anyPiece(course, scale,
+                  [&](const DrawnPoint& from, const DrawnPoint& to)
+                  { return !isBeside(bounds, from, to) && isIn(places, from, to); });
 }
 
 bool hasPointIn(const RunCourse& course, const DrawnWindow& window, const DrawnScale& scale)

@@ -96,7 +96,7 @@ private:
 
 bool isLogic(Kind kind)
 {
-  return kind == Kind::Not || kind == Kind::And || kind == Kind::Or;
+  return kind == Kind::Not || kind == Kind::And || kind == Kind::Xor || kind == Kind::Or;
 }
 
 const Signature* signatureOf(const std::string& name)
@@ -114,6 +114,12 @@ bool isCondition(const FilterNode& node)
   return signature && signature->isCondition;
 }
 
+/// Words that stand alone for a condition. Where a number is wanted they may be names of columns.
+bool isConstant(const FilterNode& node)
+{
+  return node.kind == Kind::Name && (node.name == "all" || node.name == "none");
+}
+
 bool isKnown(const FilterNode& node)
 {
   return node.kind != Kind::Call || signatureOf(node.name);
@@ -125,7 +131,10 @@ BoundTerm Binder::term(const FilterNode& node, bool condition)
   bound.kind = node.kind;
   bound.number = node.number;
   bound.marks = node.marks;
-  if (isKnown(node) && isCondition(node) != condition)
+  // All of no conditions are met, and not any of them.
+  if (condition && isConstant(node))
+    bound.kind = node.name == "all" ? Kind::And : Kind::Or;
+  else if (isKnown(node) && isCondition(node) != condition)
     blame(node, condition
                     ? translated("RunFilter", "a condition is wanted here, such as \"max(A) > 1\"")
                     : translated("RunFilter", "a number is wanted here, not a condition"));
@@ -214,6 +223,18 @@ void Binder::checkNumbers(const FilterNode& node, const Signature& signature, st
           withValues(translated("RunFilter", "%1 takes an item and at most one number"), {name}));
 }
 
+/// Lists of very many runs are looked up, not gone through.
+void sortNumbers(BoundTerm& list)
+{
+  const auto isNumber = [](const BoundTerm& term) { return term.kind == Kind::Number; };
+  if (!std::all_of(list.children.begin(), list.children.end(), isNumber))
+    return;
+  for (const BoundTerm& term : list.children)
+    list.sorted.push_back(term.number);
+  std::sort(list.sorted.begin(), list.sorted.end());
+  list.children.clear();
+}
+
 void Binder::bindCall(const FilterNode& node, BoundTerm& bound)
 {
   const Signature* signature = signatureOf(node.name);
@@ -244,6 +265,8 @@ void Binder::bindCall(const FilterNode& node, BoundTerm& bound)
   checkNumbers(node, *signature, end - next);
   for (; next < end; ++next)
     bound.children.push_back(term(node.children[next], false));
+  if (bound.function == FilterFunction::Runs)
+    sortNumbers(bound);
 }
 
 } // namespace

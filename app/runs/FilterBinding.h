@@ -54,6 +54,8 @@ struct BoundTerm
   std::string marks;
   /// Of a call its numbers.
   std::vector<BoundTerm> children;
+  /// In place of the numbers of `runs` that need no computing.
+  std::vector<double> sorted;
 };
 
 /// Looks up what the names of a filter mean.

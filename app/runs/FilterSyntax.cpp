@@ -113,7 +113,7 @@ auto keyword(const char* word)
   return x3::lexeme[x3::no_case[x3::lit(word)] >> !wordByte];
 }
 
-const auto reserved = x3::no_case[x3::lit("and") | "or" | "not" | "over"] >> !wordByte;
+const auto reserved = x3::no_case[x3::lit("and") | "xor" | "or" | "not" | "over"] >> !wordByte;
 const auto word = x3::rule<struct WordTag, std::string>("word") =
     x3::lexeme[!reserved >> letter >> *wordByte];
 const auto closingQuote = x3::rule<struct ClosingQuoteTag>("quote") = x3::lit('"');
@@ -130,6 +130,7 @@ struct ComparisonSigns : x3::symbols<char>
 } const comparisonSigns;
 
 const x3::rule<struct OrTag, FilterNode> orRule("value");
+const x3::rule<struct XorTag, FilterNode> xorRule("value");
 const x3::rule<struct AndTag, FilterNode> andRule("value");
 const x3::rule<struct NotTag, FilterNode> notRule("value");
 const x3::rule<struct ComparisonTag, FilterNode> comparisonRule("value");
@@ -141,8 +142,10 @@ const x3::rule<struct ArgumentTag, FilterNode> argumentRule("value");
 
 const auto signs = *x3::char_("+-");
 
-const auto orRule_def = x3::eps[here] >> andRule[child] >>
-                        *(keyword("or") > andRule[child]) >> x3::eps[joined<Kind::Or>];
+const auto orRule_def = x3::eps[here] >> xorRule[child] >>
+                        *(keyword("or") > xorRule[child]) >> x3::eps[joined<Kind::Or>];
+const auto xorRule_def = x3::eps[here] >> andRule[child] >>
+                         *(keyword("xor") > andRule[child]) >> x3::eps[joined<Kind::Xor>];
 const auto andRule_def = x3::eps[here] >> notRule[child] >>
                          *(keyword("and") > notRule[child]) >> x3::eps[joined<Kind::And>];
 const auto notRule_def = x3::eps[here] >> *(keyword("not") >> x3::eps[marked<'!'>]) >>
@@ -168,8 +171,8 @@ const auto
     argumentRule_def = x3::eps[here] >> orRule[child] >>
                        -(keyword("over") > primaryRule[child]) >> x3::eps[joined<Kind::Over>];
 
-BOOST_SPIRIT_DEFINE(orRule, andRule, notRule, comparisonRule, sumRule, productRule, powerRule,
-                    primaryRule, argumentRule)
+BOOST_SPIRIT_DEFINE(orRule, xorRule, andRule, notRule, comparisonRule, sumRule, productRule,
+                    powerRule, primaryRule, argumentRule)
 
 const auto blank = x3::char_(" \t\r\n");
 

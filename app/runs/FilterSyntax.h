@@ -36,6 +36,8 @@ struct FilterNode
     Comparison,
     Not,
     And,
+    /// Met where an odd number of them is.
+    Xor,
     Or
   };
   Kind kind = Kind::Number;

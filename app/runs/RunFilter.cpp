@@ -97,11 +97,19 @@ double numberOfCall(const BoundTerm& call, const FilteredRun& run)
   }
 }
 
+bool isAmong(const BoundTerm& list, const FilteredRun& run)
+{
+  const double own = run.runs.runNumber(run.run);
+  return std::binary_search(list.sorted.begin(), list.sorted.end(), own) ||
+         std::any_of(list.children.begin(), list.children.end(),
+                     [&](const BoundTerm& number) { return numberOf(number, run) == own; });
+}
+
 bool isCallMet(const BoundTerm& call, const FilteredRun& run)
 {
-  const std::vector<double> n = numbersOf(call, run);
   if (call.function == FilterFunction::Runs)
-    return std::find(n.begin(), n.end(), run.runs.runNumber(run.run)) != n.end();
+    return isAmong(call, run);
+  const std::vector<double> n = numbersOf(call, run);
   if (!areThere(n))
     return false;
   const RunCourse course = courseOf(call, run);
@@ -206,6 +214,8 @@ bool isMet(const BoundTerm& term, const FilteredRun& run)
   {
   case Kind::And:
     return std::all_of(term.children.begin(), term.children.end(), met);
+  case Kind::Xor:
+    return std::count_if(term.children.begin(), term.children.end(), met) % 2 == 1;
   case Kind::Or:
     return std::any_of(term.children.begin(), term.children.end(), met);
   case Kind::Not:

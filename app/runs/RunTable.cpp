@@ -14,8 +14,6 @@ namespace
 {
 
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
-/// All doubles are told apart by as many digits.
-constexpr int allDigits = 17;
 
 std::vector<double> missingValues(std::size_t count)
 {
@@ -26,7 +24,8 @@ std::vector<double> missingValues(std::size_t count)
 
 RunColumn runColumn(std::optional<RunFeature> feature, int column, const std::string& name)
 {
-  return {feature, column, feature ? featureWords(*feature, name) : filterName(name)};
+  const std::string words = feature ? featureWords(*feature, name) : filterName(name);
+  return {feature, column, words, feature ? words : name};
 }
 
 double numberOf(const FilteredRuns& runs, std::size_t run, const RunColumn& column)
@@ -59,6 +58,15 @@ void RunTableFilling::goOn(int milliseconds)
   }
 }
 
+void addColumn(RunTable& table, const std::string& name, const std::vector<double>& values)
+{
+  if (values.size() != table.numbers.size())
+    return;
+  constexpr int ofNoTable = -1;
+  table.columns.push_back({std::nullopt, ofNoTable, name, name});
+  table.values.push_back(values);
+}
+
 RunTable runTable(const FilteredRuns& runs, const std::vector<RunColumn>& columns)
 {
   RunTableFilling filling(runs, columns);
@@ -72,9 +80,7 @@ std::string fullNumber(double value)
   if (std::isnan(value))
     return {};
   std::array<char, 32> text{};
-  char* const end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                  std::chars_format::general, allDigits)
-                        .ptr;
+  char* const end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
   return {text.data(), end};
 }
 
@@ -92,7 +98,7 @@ std::string commaText(const RunTable& table)
 {
   std::string text = "run";
   for (const RunColumn& column : table.columns)
-    text += ',' + commaCell(column.words);
+    text += ',' + commaCell(column.title);
   text += '\n';
   for (std::size_t run = 0; run < table.numbers.size(); ++run)
   {

@@ -20,8 +20,10 @@ struct RunColumn
   std::optional<RunFeature> feature;
   /// Of the table that the runs are in.
   int column = -1;
-  /// What a filter calls this number: `alpha`, `max(TetR)`.
+  /// What a filter calls this number: `alpha`, `max(TetR)`, `"k [1/s]"`.
   std::string words;
+  /// What files call it: a parameter by its plain name.
+  std::string title = {};
 
   friend bool operator==(const RunColumn& left, const RunColumn& right)
   {
@@ -65,16 +67,19 @@ private:
   std::size_t next = 0;
 };
 
+/// Adds a column that is no filter's.
+void addColumn(RunTable& table, const std::string& name, const std::vector<double>& values);
+
 /// The whole table at once.
 RunTable runTable(const FilteredRuns& runs, const std::vector<RunColumn>& columns);
 
-/// The table as comma-separated text: a line of names, `run` and the words of the columns, then one
-/// line per run. Numbers have 17 digits; those that are missing are left out.
+/// The table as comma-separated text: a line of names, `run` and the titles of the columns, then
+/// one line per run. Numbers that are missing are left out.
 std::string commaText(const RunTable& table);
 
 /// A cell of such a text, in quotes where it needs them.
 std::string commaCell(const std::string& text);
-/// A number of such a text, which all readers read as the same one.
+/// A number of such a text, with as many digits as all readers need to read the same one.
 std::string fullNumber(double value);
 
 } // namespace Talmesh::app

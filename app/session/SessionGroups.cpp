@@ -44,7 +44,8 @@ QJsonObject objectOf(const SessionGroups& groups)
           {"mode", groups.mode},
           {"colours", groups.look.groupColours},
           {"means", groups.look.groupMeans},
-          {"bands", groups.look.quartileBands}};
+          {"bands", groups.look.quartileBands},
+          {"kept", groups.look.keptColours}};
 }
 
 SessionGroups readGroups(const QJsonObject& object)
@@ -53,7 +54,8 @@ SessionGroups readGroups(const QJsonObject& object)
   groups.groupOfRun = readMembers(object["ofRun"].toString());
   groups.count = object["count"].toInt();
   groups.mode = object["mode"].toInt();
-  groups.look = {object["colours"].toBool(), object["means"].toBool(), object["bands"].toBool()};
+  groups.look = {object["colours"].toBool(), object["means"].toBool(), object["bands"].toBool(),
+                 object["kept"].toBool()};
   return groups;
 }
 

@@ -17,6 +17,8 @@ struct RunLook
   bool groupColours = false;
   bool groupMeans = false;
   bool quartileBands = false;
+  /// In the colours of kept selections, which come before those of groups.
+  bool keptColours = false;
 };
 
 /// What a session keeps of the panel of groups.

@@ -227,6 +227,11 @@ PageColumns pageColumns(const PlotMetaData& settings, vtkIdType columns)
           settings.parameterColumns.size(), settings.getLimitColumVisibility()};
 }
 
+bool showsColoursOfRuns(const ViewerStyle& style)
+{
+  return style.hasSeries || style.unit == ChartUnit::Runs;
+}
+
 QString titleOf(const ViewerStyle& style)
 {
   return QCoreApplication::translate("ViewerStyles", style.title);

@@ -105,6 +105,9 @@ const ViewerStyle& styleOf(const PlotMetaData& settings);
 /// What the extent of the page of a table with that many columns depends on.
 PageColumns pageColumns(const PlotMetaData& settings, vtkIdType columns);
 
+/// Whether charts of a style can have runs in colours of groups.
+bool showsColoursOfRuns(const ViewerStyle& style);
+
 /// What the window calls a style, in the user's language.
 QString titleOf(const ViewerStyle& style);
 

@@ -64,7 +64,8 @@ void ClusterDock::makeForm()
   layout->addRow(list);
   setWidget(panel);
   colours = addSwitch(QStringLiteral("groupColours"), tr("&Colours of the groups"),
-                      tr("Draw each run in the colour of its group in the XY plot"));
+                      tr("Draw each run in the colour of its group, in the XY plot, the "
+                         "scatter-plot matrix and parallel coordinates"));
   means = addSwitch(QStringLiteral("groupMeans"), tr("&Mean of each group"),
                     tr("Draw the mean course of each group in the XY plot"));
   bands = addSwitch(QStringLiteral("runBands"), tr("&Quartile bands"),
@@ -162,7 +163,11 @@ int ClusterDock::mode() const
 
 RunLook ClusterDock::look() const
 {
-  return {colours->isChecked(), means->isChecked(), bands->isChecked()};
+  RunLook look;
+  look.groupColours = colours->isChecked();
+  look.groupMeans = means->isChecked();
+  look.quartileBands = bands->isChecked();
+  return look;
 }
 
 } // namespace Talmesh::app

@@ -4,10 +4,13 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -46,6 +49,7 @@ FilterLine::FilterLine(SelectionController& changed, QWidget* parent)
   message->setWordWrap(true);
   message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   message->hide();
+  line->installEventFilter(this);
   connect(line, &QLineEdit::returnPressed, this, &FilterLine::apply);
   connect(line, &QLineEdit::textEdited, this, [this] { showFault({}); });
   connect(button, &QPushButton::clicked, this, &FilterLine::apply);
@@ -59,6 +63,29 @@ void FilterLine::show(const QString& words)
   showFault({});
 }
 
+void FilterLine::follow(const QString& words)
+{
+  // What was typed stays to be changed, and what is being typed in any case.
+  const bool own = std::exchange(applied, false);
+  if (!own && !line->isModified())
+    show(words);
+}
+
+void FilterLine::put(const QString& words)
+{
+  show(words);
+  line->setModified(true);
+}
+
+/// The key that selects nothing means the line while something is typed there.
+bool FilterLine::eventFilter(QObject* watched, QEvent* event)
+{
+  if (watched == line && event->type() == QEvent::ShortcutOverride &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+    event->accept();
+  return QWidget::eventFilter(watched, event);
+}
+
 QString FilterLine::fault() const
 {
   return message->text();
@@ -67,7 +94,10 @@ QString FilterLine::fault() const
 void FilterLine::apply()
 {
   const auto how = static_cast<RunCombination>(combination->currentData().toInt());
-  showFault(selection.selectWhere(line->text().toStdString(), how));
+  const FilterFault fault = selection.selectWhere(line->text().toStdString(), how);
+  applied = fault.text.empty();
+  line->setModified(!applied);
+  showFault(fault);
 }
 
 void FilterLine::showFault(const FilterFault& fault)

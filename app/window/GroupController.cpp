@@ -24,7 +24,13 @@ GroupController::GroupController(ClusterDock& panel, Document& shown, TaskBar& b
   connect(&dock, &ClusterDock::groupingRequested, this, &GroupController::group);
   connect(&dock, &ClusterDock::groupChosen, this,
           [this](int group) { document.groups().select(group); });
-  connect(&dock, &ClusterDock::lookChanged, this, [this] { document.setLook(dock.look()); });
+  connect(&dock, &ClusterDock::lookChanged, this,
+          [this]
+          {
+            RunLook look = dock.look();
+            look.keptColours = document.groups().state().look.keptColours;
+            document.setLook(look);
+          });
   connect(&dock, &ClusterDock::normalisingRequested, this, &GroupController::normalise);
   connect(&document, &Document::studyChanged, runner, &TaskRunner::cancel);
   connect(&document, &Document::studyChanged, this, &GroupController::showStudy);

@@ -91,6 +91,7 @@ KeptSelectionsDock::KeptSelectionsDock(Document& shown, QWidget* parent)
           addStep(*tree, tr("Remove"), "removeSelection", *this, &KeptSelectionsDock::remove))
     , saveAction(
           addStep(*tree, tr("Save all..."), "saveKeptSelections", *this, &KeptSelectionsDock::save))
+    , chartsAction(addSwitch())
 {
   setObjectName(QStringLiteral("keptSelectionsDock"));
   keepAction->setShortcut(QKeySequence(tr("Ctrl+K")));
@@ -129,6 +130,25 @@ QAction* KeptSelectionsDock::addCombinations()
   return menu->menuAction();
 }
 
+QAction* KeptSelectionsDock::addSwitch()
+{
+  auto* action = new QAction(tr("Show in charts"), this);
+  action->setObjectName(QStringLiteral("showKept"));
+  action->setCheckable(true);
+  action->setToolTip(
+      tr("Draw runs in the colours of these selections; that of the last one counts"));
+  connect(action, &QAction::toggled, this, &KeptSelectionsDock::showInCharts);
+  tree->addAction(action);
+  return action;
+}
+
+void KeptSelectionsDock::showInCharts(bool on)
+{
+  RunLook look = document.groups().state().look;
+  look.keptColours = on;
+  document.setLook(look);
+}
+
 QWidget* KeptSelectionsDock::makePanel()
 {
   pages->addWidget(makeExplanation(
@@ -141,8 +161,8 @@ QWidget* KeptSelectionsDock::makePanel()
   auto* row = new QHBoxLayout(panel);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(pages, 1);
-  row->addWidget(makeButtonColumn(
-      {keepAction, selectAction, renameAction, colourAction, removeAction, saveAction}));
+  row->addWidget(makeButtonColumn({keepAction, selectAction, renameAction, colourAction,
+                                   removeAction, saveAction, chartsAction}));
   return panel;
 }
 
@@ -263,10 +283,12 @@ void KeptSelectionsDock::enableSteps()
       usable ? document.selection().selectedRuns() : std::vector<bool>();
   keepAction->setEnabled(document.kept().hasRoom() &&
                          std::find(selected.begin(), selected.end(), true) != selected.end());
-  const bool any = usable && chosen() >= 0;
   for (QAction* step : {selectAction, renameAction, colourAction, removeAction})
-    step->setEnabled(any);
+    step->setEnabled(usable && chosen() >= 0);
   saveAction->setEnabled(usable && !document.kept().list().empty());
+  const QSignalBlocker silent(chartsAction);
+  chartsAction->setChecked(document.groups().state().look.keptColours);
+  chartsAction->setEnabled(saveAction->isEnabled());
 }
 
 } // namespace Talmesh::app

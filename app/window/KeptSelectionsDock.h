@@ -34,6 +34,7 @@ signals:
 
 private:
   QAction* addCombinations();
+  QAction* addSwitch();
   QWidget* makePanel();
   void keep();
   void selectAgain(RunCombination how);
@@ -44,6 +45,7 @@ private:
   void list();
   void enableSteps();
   void takeName(QTreeWidgetItem* item);
+  void showInCharts(bool on);
   int chosen() const;
 
   Document& document;
@@ -55,6 +57,7 @@ private:
   QAction* colourAction;
   QAction* removeAction;
   QAction* saveAction;
+  QAction* chartsAction;
 };
 
 } // namespace Talmesh::app

@@ -17,6 +17,7 @@
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QUndoStack>
 
 #include <set>
 #include <utility>
@@ -82,7 +83,7 @@ RunTableDock::RunTableDock(Document& shown, QWidget* parent)
   connect(idle, &QTimer::timeout, this, &RunTableDock::goOn);
   connect(view, &RunTableView::rowsChosen, this, &RunTableDock::selectChosen);
   connect(view, &QTableView::doubleClicked, this,
-          [this](const QModelIndex& index) { emit runOpened(model->runOf(index.row())); });
+          [this](const QModelIndex& index) { openRun(index.row()); });
   connect(model, &RunTableModel::modelReset, this,
           [this]
           {
@@ -98,6 +99,7 @@ RunTableDock::RunTableDock(Document& shown, QWidget* parent)
   connect(columns, &RunColumnMenu::chosenChanged, this, &RunTableDock::invalidate);
   connect(&document, &Document::studyChanged, this, &RunTableDock::takeStudy);
   connect(&document, &Document::valuesChanged, this, &RunTableDock::invalidate);
+  connect(&document, &Document::drawn, this, &RunTableDock::followGroups);
   connect(&document.selection(), &SelectionController::changed, this, &RunTableDock::showSelection);
   takeStudy();
 }
@@ -127,6 +129,23 @@ void RunTableDock::takeStudy()
   if (usable)
     columns->list(TableRuns(*document.container()));
   invalidate();
+}
+
+void RunTableDock::followGroups()
+{
+  if (complete && shownGroups != document.groups().groups().groupOfRun)
+    invalidate();
+}
+
+/// The first of the two clicks has selected the run, which nobody wanted who looks at it.
+void RunTableDock::openRun(int row)
+{
+  QUndoStack& steps = document.selection().undoStack();
+  if (clicked.isValid() && clicked.elapsed() < 2 * QApplication::doubleClickInterval() &&
+      steps.index() == stepOfClick)
+    steps.undo();
+  clicked.invalidate();
+  emit runOpened(model->runOf(row));
 }
 
 /// What the table shows is computed anew when it is seen.
@@ -174,7 +193,10 @@ void RunTableDock::goOn()
   }
   idle->stop();
   complete = true;
-  model->setTable(filling->take());
+  RunTable table = filling->take();
+  shownGroups = document.groups().groups().groupOfRun;
+  addColumn(table, "group", groupNumbers(document.groups().groups()));
+  model->setTable(std::move(table));
   filling.reset();
   runs.reset();
   pages->setCurrentIndex(tablePage);
@@ -216,11 +238,12 @@ void RunTableDock::selectChosen()
     return;
   const RunStep step = shortestStep(shownSelection, chosen);
   shownSelection = chosen;
-  const std::string words = TableRuns(*document.container()).words(step.hit);
-  if (words.empty())
-    document.selection().clear();
-  else
-    document.selection().selectRuns(step.hit, words, step.how);
+  const int before = document.selection().undoStack().index();
+  document.selection().selectRuns(step.hit, TableRuns(*document.container()).words(step.hit),
+                                  step.how);
+  stepOfClick = document.selection().undoStack().index();
+  if (stepOfClick == before + 1)
+    clicked.start();
 }
 
 void RunTableDock::copy()

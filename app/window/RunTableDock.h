@@ -4,6 +4,7 @@
 #include "app/document/TableRuns.h"
 
 #include <QDockWidget>
+#include <QElapsedTimer>
 
 #include <memory>
 #include <vector>
@@ -53,6 +54,8 @@ private:
   void goOn();
   void showSelection();
   void selectChosen();
+  void openRun(int row);
+  void followGroups();
   std::vector<int> chosenRows() const;
   void copy();
   void save();
@@ -71,6 +74,11 @@ private:
   std::unique_ptr<RunTableFilling> filling;
   /// What the view shows as selected.
   std::vector<bool> shownSelection;
+  /// The group of each run that the table shows.
+  std::vector<int> shownGroups;
+  /// Since the user has selected by a click, and the step that was.
+  QElapsedTimer clicked;
+  int stepOfClick = 0;
   bool seen = false;
   bool complete = false;
   bool showing = false;

@@ -17,7 +17,7 @@ StepsDock::StepsDock(SelectionController& shown, QWidget* parent)
     , selection(shown)
 {
   setObjectName(QStringLiteral("stepsDock"));
-  auto* list = new QUndoView(&selection.undoGroup());
+  list = new QUndoView(&selection.undoGroup());
   list->setObjectName(QStringLiteral("steps"));
   list->setEmptyLabel(tr("As opened"));
   list->setToolTip(tr("Click a step to return to what was selected then"));
@@ -43,15 +43,20 @@ StepsDock::StepsDock(SelectionController& shown, QWidget* parent)
   setWidget(panel);
   connect(&selection.undoGroup(), &QUndoGroup::indexChanged, this, &StepsDock::enableSteps);
   connect(&selection, &SelectionController::changed, this, &StepsDock::enableSteps);
+  connect(&selection, &SelectionController::restarted, this, &StepsDock::enableSteps);
   enableSteps();
 }
 
 QString StepsDock::stepsText() const
 {
   const QUndoStack* steps = selection.undoGroup().activeStack();
-  QString text;
+  const QString first = QString::fromStdString(selection.wordsAtFirst());
+  const int forgotten = selection.forgottenSteps();
+  QString text = first.isEmpty() ? QString() : tr("As opened: %1").arg(first) + QLatin1Char('\n');
+  if (forgotten > 0)
+    text += tr("%1 steps after that are no longer known").arg(forgotten) + QLatin1Char('\n');
   for (int step = 0; steps && step < steps->index(); ++step)
-    text += QStringLiteral("%1. %2\n").arg(step + 1).arg(steps->text(step));
+    text += QStringLiteral("%1. %2\n").arg(forgotten + step + 1).arg(steps->text(step));
   return text + selection.summary() + QLatin1Char('\n');
 }
 
@@ -80,7 +85,9 @@ void StepsDock::reuseCondition()
 void StepsDock::enableSteps()
 {
   const QUndoStack* steps = selection.undoGroup().activeStack();
-  copyStepsAction->setEnabled(steps && steps->index() > 0);
+  const QString first = QString::fromStdString(selection.wordsAtFirst());
+  list->setEmptyLabel(first.isEmpty() ? tr("As opened") : tr("As opened: %1").arg(first));
+  copyStepsAction->setEnabled(!first.isEmpty() || (steps && steps->index() > 0));
   const bool known = !condition().isEmpty();
   copyConditionAction->setEnabled(known);
   reuseAction->setEnabled(known);

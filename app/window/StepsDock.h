@@ -4,6 +4,7 @@
 #include <QDockWidget>
 
 class QAction;
+class QUndoView;
 
 namespace Talmesh::app
 {
@@ -37,6 +38,7 @@ private:
   QString condition() const;
 
   SelectionController& selection;
+  QUndoView* list = nullptr;
   QAction* copyStepsAction = nullptr;
   QAction* copyConditionAction = nullptr;
   QAction* reuseAction = nullptr;

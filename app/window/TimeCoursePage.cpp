@@ -4,8 +4,10 @@
 #include "app/runs/NearestRuns.h"
 #include "app/window/RunNumberBox.h"
 #include "external/LinePlotData.h"
+#include "plot/PlotContainer.h"
 #include "widgets/LinePlotWidget.h"
 #include "widgets/PlotSelector.h"
+#include "widgets/VtkPlotWidget.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -147,6 +149,9 @@ void TimeCoursePage::build()
                       "deviations."));
   note = new QLabel;
   note->setObjectName(QStringLiteral("shownRunsNote"));
+  PlotContainer* container = chart->findChild<VtkPlotWidget*>()->plotContainer();
+  container->addCompletion(this,
+                           [this, container] { colourCourses(*container, shownPlaces, kept); });
   auto* label = new QLabel(tr("R&un"));
   label->setBuddy(run);
   auto* choice = new QHBoxLayout;
@@ -235,8 +240,9 @@ void TimeCoursePage::showRuns()
     chosen = lastChosen;
   shown.resize(std::min(shown.size(), mostShown));
   RunCourses courses(*runs, timeOfCourses(*runs), shown);
-  chart->setData(&courses.record);
   items = courses.items;
+  shownPlaces = courses.places;
+  chart->setData(&courses.record);
   selector.expandAll();
   select(selector, chosen, [this](const QString& name) { return itemOf(name); });
 }
@@ -259,6 +265,16 @@ void TimeCoursePage::setSelectedRuns(const std::vector<bool>& those)
   selected = those;
   if (!chart || mode->currentIndex() != SelectedRuns)
     return;
+  stale = true;
+  if (isVisible())
+    bringUpToDate();
+}
+
+void TimeCoursePage::setKept(const RunGroups& groups)
+{
+  if (groups == kept)
+    return;
+  kept = groups;
   stale = true;
   if (isVisible())
     bringUpToDate();

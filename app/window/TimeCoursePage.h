@@ -1,6 +1,7 @@
 #ifndef TimeCoursePage_h
 #define TimeCoursePage_h
 
+#include "app/document/GroupedPlots.h"
 #include "app/import/Study.h"
 
 #include <QWidget>
@@ -43,6 +44,8 @@ public:
   void openRun(std::size_t run);
   /// Which runs are selected, of those of the study.
   void setSelectedRuns(const std::vector<bool>& runs);
+  /// The kept selections by which runs are coloured, see `groupsOfKept`; none for none.
+  void setKept(const RunGroups& groups);
 
 protected:
   void showEvent(QShowEvent* event) override;
@@ -64,10 +67,13 @@ private:
   QComboBox* mode = nullptr;
   QLabel* note = nullptr;
   std::vector<bool> selected;
+  RunGroups kept;
   /// Of the runs as they are; empty until they are asked for.
   std::vector<std::vector<double>> features;
   /// What the items in the list are called without their runs.
   std::map<std::string, std::string> items;
+  /// The places of the runs whose courses are shown, by the names of their columns.
+  std::map<std::string, std::size_t> shownPlaces;
   /// The kinds and names of the items that were shown when there were runs to show.
   std::set<std::pair<QString, QString>> lastChosen;
   /// The run to show next, where the user has asked for one.

@@ -87,6 +87,13 @@ void WindowPanels::connectDocument()
   { timeCourses->setSelectedRuns(document.selection().selectedRuns()); };
   connect(&document.selection(), &SelectionController::changed, timeCourses, tellSelected);
   connect(&document, &Document::studyChanged, timeCourses, tellSelected);
+  connect(&document, &Document::drawn, timeCourses,
+          [this]
+          {
+            const GroupedRuns& groups = document.groups();
+            timeCourses->setKept(groups.state().look.keptColours ? groups.colouring()
+                                                                 : RunGroups());
+          });
   connect(&document, &Document::choiceChanged, choices,
           [this]
           {
@@ -120,9 +127,12 @@ void WindowPanels::connectRunLists()
           });
   connect(keptSelections, &KeptSelectionsDock::said, this, &WindowPanels::said);
   connect(keptSelections, &KeptSelectionsDock::failed, this, &WindowPanels::failed);
-  connect(&document.selection(), &SelectionController::pointed, filter, &FilterLine::show);
+  const auto tellWords = [this]
+  { filter->follow(QString::fromStdString(document.selection().words())); };
+  connect(&document.selection(), &SelectionController::changed, filter, tellWords);
+  connect(&document, &Document::studyChanged, filter, tellWords);
   connect(steps, &StepsDock::said, this, &WindowPanels::said);
-  connect(steps, &StepsDock::wordsWanted, filter, &FilterLine::show);
+  connect(steps, &StepsDock::wordsWanted, filter, &FilterLine::put);
 }
 
 void WindowPanels::showStudy()

@@ -106,7 +106,11 @@ TEST_F(GesturesInCharts, AreNumbersOfRunsWhereNoWordsSayMore)
   const auto lasso =
       gestureIn(table, "k", "height", Kind::Lasso, {{4.5, 30}, {6.5, 30}, {6.5, 60}, {4.5, 60}});
   EXPECT_EQ(wordsOf(lasso), "runs(4, 5)");
-  EXPECT_EQ(wordsOf(gestureIn(table, "k", "height", Kind::Line, {{0, 0}, {9, 60}})), "");
+  EXPECT_EQ(wordsOf(gestureIn(table, "k", "height", Kind::Line, {{0, 0}, {9, 60}})), "none")
+      << "there is nothing to cross";
+  EXPECT_EQ(wordsOf(gestureIn(table, "k", "height", Kind::Rectangle, {{1.2, 0}, {1.8, 50}})),
+            "none");
+  EXPECT_EQ(wordsOf(gestureIn(table, "k", "height", Kind::Rectangle, {{0, 0}, {9, 50}})), "all");
   EXPECT_EQ(wordsOf(gestureIn(table, "k", "height", Kind::Click, {{4.03, 32.03}})), "runs(3)");
   EXPECT_EQ(wordsOf(gestureIn(table, "k", "height", Kind::Click, {{4.3, 32}})), "");
   EXPECT_EQ(beside(gestureIn(table, "k", "height", Kind::Click, {{4.03, 32.03}})),

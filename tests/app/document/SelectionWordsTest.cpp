@@ -2,6 +2,10 @@
 
 #include "app/document/DocumentScene.h"
 #include "app/document/TableRuns.h"
+#include "vtk/RowSelections.h"
+
+#include <vtkAnnotationLink.h>
+#include <vtkTable.h>
 
 #include <gtest/gtest.h>
 
@@ -72,14 +76,57 @@ TEST_F(SelectionInWords, NamesTheRunsWhoseRowsAClientHasSelected)
   EXPECT_EQ(selection().words(), "runs(0) or k > 2");
 }
 
-TEST_F(SelectionInWords, IsUnknownAfterAChangeThatNobodyHasSaid)
+TEST_F(SelectionInWords, SaysWhatIsSelectedByWhoeverSaysNothing)
 {
   selection().selectAll();
-  EXPECT_EQ(selection().words(), "");
+  EXPECT_EQ(selection().words(), "all");
+  EXPECT_EQ(steps().text(0), "Select 6 runs: all");
   step("k > 2", RunCombination::Subtract);
-  EXPECT_EQ(selection().words(), "") << "what it was taken from is unknown";
-  step("m > 2", RunCombination::Replace);
-  EXPECT_EQ(selection().words(), "m > 2");
+  EXPECT_EQ(selection().words(), "(all) and not (k > 2)");
+  Talmesh::selectRows(container().getAnnotationLink(), container().getTable(),
+                      std::vector<bool>(48, true), 0);
+  EXPECT_EQ(selection().words(), "all") << "whole runs of a client";
+  selection().clear();
+  EXPECT_EQ(steps().text(3), "Select nothing: none");
+  EXPECT_EQ(steps().undoText(), "Select nothing");
+  group();
+  document.groups().select(0);
+  EXPECT_EQ(steps().text(4).toStdString().find(": runs("), 13u) << "Select n runs: runs(...)";
+  EXPECT_EQ(runsOfWords(), selection().selectedRuns());
+}
+
+TEST_F(SelectionInWords, AreNotNeededForARunAfterAnother)
+{
+  TableRuns runs(container());
+  EXPECT_EQ(runs.words({true, true, true, true, false, true}), "0 <= run <= 3 or runs(5)");
+  EXPECT_EQ(runs.words({false, true, true, true, false, true}), "runs(1, 2, 3, 5)");
+  EXPECT_EQ(runs.words({false, false, true, true, true, true}), "2 <= run <= 5");
+  step(runs.words({true, true, true, true, false, true}), RunCombination::Replace);
+  EXPECT_EQ(selectedRuns(), (std::set<int>{0, 1, 2, 3, 5}));
+}
+
+TEST_F(SelectionInWords, AreTakenAwayFromWithoutEnd)
+{
+  selection().selectAll();
+  std::string words = selection().words();
+  for (int i = 0; i < 300; ++i)
+    words = wordsAfter(words, true, {RunCombination::Subtract, "k > 9"});
+  step(words, RunCombination::Replace);
+  EXPECT_EQ(selectedRuns().size(), 6u);
+  for (int i = 0; i < 300; ++i)
+    words = wordsOfOthers(words);
+  step(words, RunCombination::Replace);
+  EXPECT_EQ(selectedRuns().size(), 6u);
+  words = "k > 1";
+  for (int i = 0; i < 300 && !words.empty(); ++i)
+  {
+    TableRuns runs(container());
+    FilterFault fault;
+    RunFilter::read(words, runs, fault);
+    ASSERT_EQ(fault.text, "") << i;
+    words =
+        wordsAfter(words, true, {i % 2 ? RunCombination::Add : RunCombination::Subtract, "m = 1"});
+  }
 }
 
 TEST_F(SelectionInWords, IsTurnedRoundWithTheSelection)
@@ -88,8 +135,25 @@ TEST_F(SelectionInWords, IsTurnedRoundWithTheSelection)
   const std::vector<bool> before = selection().selectedRuns();
   selection().invert();
   EXPECT_EQ(selection().words(), "not (k > 2 or m = 1)");
+  EXPECT_EQ(steps().text(1), "Invert Selection: not (k > 2 or m = 1)");
   EXPECT_NE(runsOfWords(), before);
   EXPECT_EQ(runsOfWords(), selection().selectedRuns());
+  selection().invert();
+  EXPECT_EQ(selection().words(), "k > 2 or m = 1");
+  step("not (k > 2) or not (m = 5)", RunCombination::Replace);
+  selection().invert();
+  EXPECT_EQ(selection().words(), "not (not (k > 2) or not (m = 5))");
+  EXPECT_EQ(runsOfWords(), selection().selectedRuns());
+}
+
+TEST_F(SelectionInWords, AreAllAfterNothingIsTurnedRound)
+{
+  selection().invert();
+  EXPECT_EQ(selection().words(), "all");
+  EXPECT_EQ(steps().text(0), "Invert Selection: all");
+  selection().invert();
+  EXPECT_EQ(selectedRuns(), std::set<int>{});
+  EXPECT_EQ(selection().words(), "");
 }
 
 TEST_F(SelectionInWords, IsNothingWithoutASelection)
@@ -99,6 +163,32 @@ TEST_F(SelectionInWords, IsNothingWithoutASelection)
   EXPECT_EQ(selection().words(), "");
   step("m > 2", RunCombination::Toggle);
   EXPECT_EQ(selection().words(), "m > 2") << "toggled from nothing";
+}
+
+TEST_F(SelectionInWords, KeepConditionsThatNoRunMeetsHere)
+{
+  step("k > 99", RunCombination::Replace);
+  EXPECT_EQ(steps().count(), 0) << "nothing was selected, and nothing is";
+  step("m > 2", RunCombination::Add);
+  EXPECT_EQ(selection().words(), "k > 99 or m > 2");
+  step("k > 99", RunCombination::Replace);
+  EXPECT_EQ(selection().words(), "");
+  step("m = 1", RunCombination::Toggle);
+  EXPECT_EQ(selection().words(), "(k > 99) xor (m = 1)");
+  EXPECT_EQ(runsOfWords(), selection().selectedRuns());
+}
+
+TEST_F(SelectionInWords, AreThoseOfWhatWasSelectedAtFirst)
+{
+  EXPECT_EQ(selection().wordsAtFirst(), "");
+  PlotWishes wishes;
+  wishes.select = {"k > 4", "m = 1"};
+  ASSERT_EQ(open(sixRuns(), wishes), "");
+  EXPECT_EQ(selection().wordsAtFirst(), "k > 4 or m = 1");
+  for (int i = 0; i < 130; ++i)
+    step(i % 2 ? "k > 4" : "m > 4", RunCombination::Replace);
+  EXPECT_EQ(steps().count(), 100);
+  EXPECT_EQ(selection().forgottenSteps(), 30);
 }
 
 TEST_F(SelectionInWords, FollowsUndoAndRedo)
@@ -122,7 +212,16 @@ TEST(SelectionWords, AreNoWordsWhenTheyAreTooLongForAnyone)
   std::string words = "k > 1";
   for (int i = 0; i < 40; ++i)
     words = wordsAfter(words, true, {RunCombination::Toggle, "m > 2"});
-  EXPECT_EQ(words, "");
+  EXPECT_EQ(words.substr(0, 35), "(k > 1) xor (m > 2) xor (m > 2) xor") << "as long as it is said";
+  const std::string tooLong = "m > " + std::string(mostCharactersOfWords, '1');
+  EXPECT_EQ(wordsAfter(words, true, {RunCombination::Add, tooLong}), "");
+}
+
+TEST(SelectionWords, AreNotInAStepThatNamesTooManyRuns)
+{
+  const std::vector<bool> hit(9000, true);
+  EXPECT_EQ(stepText(RunCombination::Replace, hit, std::string(mostCharactersOfWords + 1, '1')),
+            "Select 9000 runs, too many to name\nSelect 9000 runs");
 }
 
 TEST_F(SelectionInWords, AreThoseOfTheStudyThatIsOpenedForWhoeverHearsOfIt)

@@ -90,6 +90,19 @@ TEST_F(SelectedTableRuns, CountsTheCharactersBeforeWhatIsWrong)
   EXPECT_EQ(describe({6, "wrong"}, "\"Ü\" > k"), "\"Ü\" > k: at character 6: wrong");
 }
 
+TEST_F(SelectedTableRuns, HaveOneValueOfWhatChangesInNoRun)
+{
+  ASSERT_EQ(open("run,time,k,fixed,X\n0,0,1,7,1\n0,1,1,7,2\n1,0,2,7,2\n1,1,2,7,5\n"), "");
+  EXPECT_EQ(selectWords({"fixed = 7 and k < 2"}), "");
+  EXPECT_EQ(selectedRuns(), Runs{0});
+  const TableRuns runs(container());
+  EXPECT_EQ(runs.items().size(), 1u);
+  std::vector<std::string> names;
+  for (const RunColumn& column : allColumnsOfRuns(runs))
+    names.push_back(column.words);
+  EXPECT_EQ(names, (std::vector<std::string>{"k", "fixed", "max(X)", "mean(X)", "final(X)"}));
+}
+
 TEST_F(SelectedTableRuns, KnowsWhatHasOneValueForARun)
 {
   ASSERT_EQ(open(), "");

@@ -71,6 +71,30 @@ TEST(RunFilter, JoinsConditions)
   EXPECT_EQ(runsOf("NOT not max(TetR) > 60"), (Runs{102, 104}));
 }
 
+TEST(RunFilter, KnowsAllAndNoneWhereAConditionIsWanted)
+{
+  EXPECT_EQ(runsOf("all"), (Runs{101, 102, 103, 104}));
+  EXPECT_EQ(runsOf("none"), Runs{});
+  EXPECT_EQ(runsOf("not (none)"), (Runs{101, 102, 103, 104}));
+  EXPECT_EQ(runsOf("all and alpha < 5 or (none)"), (Runs{101, 102}));
+  EXPECT_EQ(faultOf("all < 5"), "0: no column all");
+  EXPECT_EQ(faultOf("max(none) > 1"), "4: no column none");
+}
+
+TEST(RunFilter, TellsOneOrTheOtherFromBoth)
+{
+  EXPECT_EQ(runsOf("alpha < 5 xor max(TetR) > 60"), (Runs{101, 104}));
+  EXPECT_EQ(runsOf("alpha < 5 xor max(TetR) > 60 xor run = 103"), (Runs{101, 103, 104}));
+  EXPECT_EQ(runsOf("run = 103 or alpha < 5 xor max(TetR) > 60 and all"), (Runs{101, 103, 104}))
+      << "between or and and";
+}
+
+TEST(RunFilter, FindsRunsInLists)
+{
+  EXPECT_EQ(runsOf("runs(104, 7, 101, 104)"), (Runs{101, 104}));
+  EXPECT_EQ(runsOf("runs(100 + 2, 103)"), (Runs{102, 103}));
+}
+
 TEST(RunFilter, Calculates)
 {
   EXPECT_EQ(runsOf("max(TetR) - min(TetR) = 10 * alpha"), (Runs{101}));

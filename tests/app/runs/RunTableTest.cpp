@@ -63,16 +63,18 @@ TEST(RunTable, IsFilledAFewRunsAtATime)
   EXPECT_EQ(filling.take().values[1], runTable(runs, someColumns()).values[1]);
 }
 
-TEST(RunTable, IsWrittenWithAllDigitsAndWithoutWhatIsMissing)
+TEST(RunTable, IsWrittenWithThePlainNamesOfParametersAndTheDigitsThatItTakes)
 {
   RunTable table;
   table.columns = {runColumn({}, 0, "a,b"), runColumn(RunFeature::Max, 1, "X")};
   table.numbers = {1, 2};
   table.values = {
-      {0.1, 1e300},
+      {0.1 + 0.2, 1e300},
       {std::numeric_limits<double>::quiet_NaN(), -std::numeric_limits<double>::infinity()}};
-  // 0.1 with 17 digits, as printf's %.17g has it.
-  EXPECT_EQ(commaText(table), "run,\"\"\"a,b\"\"\",max(X)\n"
-                              "1,0.10000000000000001,\n"
-                              "2,1.0000000000000001e+300,-inf\n");
+  addColumn(table, "group", {1, 2});
+  addColumn(table, "of no runs", {});
+  // 0.1 + 0.2 as Python's repr() has it, the shortest that is read as the same number.
+  EXPECT_EQ(commaText(table), "run,\"a,b\",max(X),group\n"
+                              "1,0.30000000000000004,,1\n"
+                              "2,1e+300,-inf,2\n");
 }

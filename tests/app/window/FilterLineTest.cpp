@@ -57,6 +57,34 @@ TEST_F(FilterLineInWindow, CombinesThemWithThoseSelectedSoFar)
   EXPECT_EQ(runs(), (Runs{0, 2}));
 }
 
+TEST_F(FilterLineInWindow, LeavesTheSelectionWhenEscapeIsTypedThere)
+{
+  type("run > 0");
+  QTest::keyClicks(&edit(), " and r");
+  QTest::keyClick(&edit(), Qt::Key_Escape);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(runs(), (Runs{1, 2}));
+  EXPECT_EQ(edit().text(), "run > 0 and r");
+}
+
+TEST_F(FilterLineInWindow, ShowsTheWordsOfWhatIsSelectedNow)
+{
+  type("run > 0");
+  combine(RunCombination::Subtract);
+  type("run = 2");
+  EXPECT_EQ(edit().text(), "run = 2") << "as it was typed";
+  edit().clearFocus();
+  press(QKeySequence("Ctrl+I"));
+  EXPECT_EQ(edit().text(), "not ((run > 0) and not (run = 2))");
+  press(QKeySequence::Undo);
+  EXPECT_EQ(edit().text(), "(run > 0) and not (run = 2)");
+  dragAround(0, 1, Qt::ControlModifier);
+  EXPECT_TRUE(edit().text().startsWith("(run > 0) and not (run = 2) or through(X, "))
+      << edit().text().toStdString();
+  press(QKeySequence(Qt::Key_Escape));
+  EXPECT_EQ(edit().text(), "");
+}
+
 TEST_F(FilterLineInWindow, SaysWhatIsWrongAndMarksItInTheLine)
 {
   type("run = 1");

@@ -10,6 +10,14 @@
 #include <QMouseEvent>
 #include <QTest>
 
+/// The pixel of a plot widget at a place in its scene: the mouse counts pixels of the window, from
+/// above, the scene those of the screen, from below.
+inline QPoint pixelOfScene(const VtkPlotWidget& plot, double x, double y)
+{
+  const double ratio = plot.devicePixelRatioF();
+  return {qRound(x / ratio), plot.height() - 1 - qRound(y / ratio)};
+}
+
 /// The pixel of a plot widget at which a chart shows a point.
 inline QPoint pixelOf(vtkChartXY* chart, const VtkPlotWidget& plot, double x, double y)
 {
@@ -19,10 +27,8 @@ inline QPoint pixelOf(vtkChartXY* chart, const VtkPlotWidget& plot, double x, do
     const float* ends[] = {axis->GetPoint1(), axis->GetPoint2()};
     return ends[0][coordinate] + part * (ends[1][coordinate] - ends[0][coordinate]);
   };
-  // The scene counts pixels of the screen, the mouse those of the window.
-  const double ratio = plot.devicePixelRatioF();
-  return {qRound(along(chart->GetAxis(vtkAxis::BOTTOM), x, 0) / ratio),
-          plot.height() - 1 - qRound(along(chart->GetAxis(vtkAxis::LEFT), y, 1) / ratio)};
+  return pixelOfScene(plot, along(chart->GetAxis(vtkAxis::BOTTOM), x, 0),
+                      along(chart->GetAxis(vtkAxis::LEFT), y, 1));
 }
 
 /// Presses a button, moves the mouse and releases the button, as the window system reports it.

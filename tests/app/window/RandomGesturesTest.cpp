@@ -51,7 +51,7 @@ protected:
   {
     const int x = where->GetPoint1()[0] + upTo(where->GetPoint2()[0] - where->GetPoint1()[0] - 1);
     const int y = where->GetPoint1()[1] + upTo(where->GetPoint2()[1] - where->GetPoint1()[1] - 1);
-    return {x, plot().height() - 1 - y};
+    return pixelOfScene(plot(), x, y);
   }
 
   Qt::KeyboardModifiers anyModifiers()

@@ -34,7 +34,7 @@ protected:
     vtkAxis* shown = lines()->GetAxis(axis);
     const double part = (value - shown->GetMinimum()) / (shown->GetMaximum() - shown->GetMinimum());
     const double y = shown->GetPoint1()[1] + part * (shown->GetPoint2()[1] - shown->GetPoint1()[1]);
-    return {qRound(shown->GetPoint1()[0]), plot().height() - 1 - qRound(y)};
+    return pixelOfScene(plot(), shown->GetPoint1()[0], y);
   }
 
   /// Brushes the part of the axis of k around that of a run.
@@ -62,8 +62,8 @@ protected:
     {
       const double part = (value - x->GetMinimum()) / (x->GetMaximum() - x->GetMinimum());
       const double row = y->GetPoint1()[1] + height * (y->GetPoint2()[1] - y->GetPoint1()[1]);
-      return QPoint(qRound(x->GetPoint1()[0] + part * (x->GetPoint2()[0] - x->GetPoint1()[0])),
-                    plot().height() - 1 - qRound(row));
+      return pixelOfScene(plot(),
+                          x->GetPoint1()[0] + part * (x->GetPoint2()[0] - x->GetPoint1()[0]), row);
     };
     drag(plot(), Qt::RightButton, pixel(run + 0.4, 0.01), pixel(run + 0.6, 0.99), modifiers);
   }

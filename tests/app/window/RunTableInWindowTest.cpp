@@ -213,12 +213,24 @@ TEST_F(RunTableInWindow, ShowsTheColumnsThatAreTicked)
 TEST_F(RunTableInWindow, ShowsTheCoursesOfARunThatIsDoubleClicked)
 {
   const QPoint place = placeOf(3);
+  select({10, 20});
   QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  EXPECT_EQ(runs(), Runs{40});
   QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
   QTest::qWait(20);
   EXPECT_EQ(window.pages()->currentIndex(), 1);
   EXPECT_EQ(find<QSpinBox>("run")->text(), "40");
-  EXPECT_EQ(runs(), Runs{40});
+  EXPECT_EQ(runs(), (Runs{10, 20})) << "whoever looks at a run selects none";
+}
+
+TEST_F(RunTableInWindow, HasTheGroupsOfTheRuns)
+{
+  EXPECT_FALSE(names().contains("group"));
+  group(2);
+  QTest::qWait(20);
+  ASSERT_TRUE(names().contains("group"));
+  const int column = names().indexOf("group");
+  EXPECT_EQ(columnOf(column), (QStringList{"1", "2", "1", "2", "1", "2"}));
 }
 
 TEST_F(RunTableInWindow, FollowsOtherStudiesAndValues)

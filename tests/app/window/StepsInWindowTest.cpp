@@ -87,6 +87,19 @@ TEST_F(StepsInWindow, AreCopiedAsFarAsTheyWent)
   EXPECT_EQ(QApplication::clipboard()->text(), "1. Select 2 runs: run > 0\n2 of 3 runs selected\n");
 }
 
+TEST_F(StepsInWindow, AreCopiedWithWhatWasSelectedAtFirst)
+{
+  OpeningWishes wishes;
+  wishes.file = folder.filePath("runs.csv").toStdString();
+  wishes.select = {"run = 2"};
+  window.open(wishes);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, patience));
+  QTest::qWait(20);
+  EXPECT_EQ(textOfStep(0), "As opened: run = 2");
+  QTest::mouseClick(button("copySteps"), Qt::LeftButton);
+  EXPECT_EQ(QApplication::clipboard()->text(), "As opened: run = 2\n1 of 3 runs selected\n");
+}
+
 TEST_F(StepsInWindow, GiveTheConditionOfTheSelectionToOtherProgramsAndToTheLine)
 {
   EXPECT_FALSE(button("copyCondition")->isEnabled());
