@@ -81,9 +81,10 @@ std::string readStyle(const std::string& value, CommandLineOptions& options)
   return "unknown style " + value + "; the styles are " + names;
 }
 
-std::string readX(const std::string& value, CommandLineOptions& options)
+template <auto wish>
+std::string readName(const std::string& value, CommandLineOptions& options)
 {
-  options.x = typedText(value);
+  options.*wish = typedText(value);
   return {};
 }
 
@@ -98,21 +99,9 @@ std::string readY(const std::string& value, CommandLineOptions& options)
   return {};
 }
 
-std::string readZ(const std::string& value, CommandLineOptions& options)
-{
-  options.z = typedText(value);
-  return {};
-}
-
 std::string readSelect(const std::string& value, CommandLineOptions& options)
 {
   options.select.push_back(typedText(value));
-  return {};
-}
-
-std::string readWith(const std::string& value, CommandLineOptions& options)
-{
-  options.with = typedText(value);
   return {};
 }
 
@@ -221,11 +210,11 @@ struct Option
 
 /// In the order in which they are read.
 constexpr Option optionsWithValue[] = {{"style", readStyle},
-                                       {"x", readX},
+                                       {"x", readName<&CommandLineOptions::x>},
                                        {"y", readY},
-                                       {"z", readZ},
+                                       {"z", readName<&CommandLineOptions::z>},
                                        {"select", readSelect},
-                                       {"with", readWith},
+                                       {"with", readName<&CommandLineOptions::with>},
                                        {"seed", readSeed},
                                        {"export", readExport},
                                        {"compare", readCompare},

@@ -185,10 +185,6 @@
         <translation>kleiner in %1</translation>
     </message>
     <message>
-        <source>Permutations of whole groups of runs that share values</source>
-        <translation>Vertauschungen ganzer Gruppen von Läufen mit gemeinsamen Werten</translation>
-    </message>
-    <message>
         <source>chosen by this parameter</source>
         <translation>hiernach gewählt</translation>
     </message>
@@ -2376,6 +2372,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Permutations of whole base samples</source>
         <translation>Vertauschungen ganzer Grundstichproben</translation>
+    </message>
+    <message>
+        <source>Permutations of whole groups of runs that share values</source>
+        <translation>Vertauschungen ganzer Gruppen von Läufen mit gemeinsamen Werten</translation>
     </message>
 </context>
 <context>

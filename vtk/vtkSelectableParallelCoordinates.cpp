@@ -54,10 +54,8 @@ bool vtkSelectableParallelCoordinates::HasColumns()
 {
   vtkTable* table = GetPlot(0)->GetInput();
   for (vtkIdType i = 0; table && i < VisibleColumns->GetNumberOfValues(); ++i)
-  {
     if (!Talmesh::hasNumbers(table, VisibleColumns->GetValue(i)))
       return false;
-  }
   return true;
 }
 
@@ -87,16 +85,16 @@ bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
     ShowSelection();
   for (int i = 0; i < static_cast<int>(GetNumberOfAxes()); ++i)
     GetAxis(i)->SetTitleVisible(!PlacesNames);
-  const bool painted = Superclass::Paint(painter);
-  if (painted && PlacesNames)
+  if (!Superclass::Paint(painter))
+    return false;
+  if (PlacesNames)
     PaintNames(painter);
   // Axes, which are items too, have been painted.
-  for (unsigned int i = 0; painted && i < GetNumberOfItems(); ++i)
+  for (unsigned int i = 0; i < GetNumberOfItems(); ++i)
     if (!vtkAxis::SafeDownCast(GetItem(i)))
       GetItem(i)->Paint(painter);
-  if (painted)
-    PaintGestures(painter);
-  return painted;
+  PaintGestures(painter);
+  return true;
 }
 
 void vtkSelectableParallelCoordinates::SetPlacesNames(bool places)

@@ -34,7 +34,6 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
   compared.setKept([this] { return keptSelections.list(); });
   connect(&compared, &SelectionComparison::found, this, &Document::draw);
   connect(&keptSelections, &KeptSelections::renamed, this, &Document::followName);
-  connect(&keptSelections, &KeptSelections::changed, this, &Document::followKept);
   connect(&grouped, &GroupedRuns::valuesChanged, this, &Document::drawNewValues);
   shown.container = before;
   selected.follow(before);
@@ -156,13 +155,6 @@ void Document::followAxes()
   emit choiceChanged();
 }
 
-/// The legend of charts and their colours are those of what is kept now.
-void Document::followKept()
-{
-  if (grouped.state().look.keptColours)
-    draw();
-}
-
 void Document::followPair()
 {
   if (!shown.container || shown.study.chart)
@@ -230,13 +222,13 @@ void Document::followName(const std::string& before, const std::string& now)
   writeComparisonChoice(*container, choice);
 }
 
-/// Runs and colours of what is compared may be others.
+/// Runs and colours of what is compared, and those that charts show, may be others.
 void Document::followKept()
 {
   const bool isCompared = shown.container && !shown.study.chart &&
                           !(comparisonChoiceOf(*shown.container).compared.empty() &&
                             comparisonChoiceOf(*shown.container).comparedWith.empty());
-  if (isCompared)
+  if (isCompared || grouped.state().look.keptColours)
     drawSilently();
   emit drawn();
 }

@@ -150,7 +150,6 @@ private:
   void followSelection();
   void followSettings();
   void followName(const std::string& before, const std::string& now);
-  void followKept();
   void drop(PlotContainer* container);
 
   Stage stage;

@@ -93,6 +93,25 @@ std::string wordsOfRectangle(const TableRuns& runs, const SelectionGesture& gest
   return words;
 }
 
+/// The rectangle around what is drawn, with a pixel to spare.
+SelectionGesture rectangleAround(const SelectionGesture& gesture)
+{
+  const auto [left, right] =
+      std::minmax_element(gesture.points.begin(), gesture.points.end(),
+                          [](const auto& one, const auto& other) { return one.x < other.x; });
+  const auto [lowest, highest] =
+      std::minmax_element(gesture.points.begin(), gesture.points.end(),
+                          [](const auto& one, const auto& other) { return one.y < other.y; });
+  const auto beside = [](double place, double pixel, bool log)
+  { return log ? place * std::pow(10.0, pixel) : place + pixel; };
+  SelectionGesture around = gesture;
+  around.points = {{beside(left->x, -gesture.unitsX, gesture.logX),
+                    beside(lowest->y, -gesture.unitsY, gesture.logY)},
+                   {beside(right->x, gesture.unitsX, gesture.logX),
+                    beside(highest->y, gesture.unitsY, gesture.logY)}};
+  return around;
+}
+
 bool isHit(const RunCourse& point, const SelectionGesture& gesture)
 {
   const DrawnScale scale{gesture.logX, gesture.logY};
@@ -207,7 +226,10 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
   if (gesture.rows)
   {
     const auto found = runsOfRows(runs, gesture);
-    return found ? std::optional(runs.words(*found)) : std::nullopt;
+    if (!found)
+      return {};
+    const bool isClick = gesture.kind == SelectionGesture::Kind::Click;
+    return isClick && gesture.rows->empty() ? std::string() : runs.words(*found);
   }
   if (!gesture.brushes.empty())
   {
@@ -229,7 +251,12 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
                                 : std::string();
   if (!words.empty())
     return words;
-  return runs.words(hitBy(runs, gesture, *points));
+  const std::string numbers = runs.words(hitBy(runs, gesture, *points));
+  if (gesture.kind != SelectionGesture::Kind::Lasso)
+    return numbers;
+  // Numbers alone would not tell which columns the lasso was drawn over.
+  const std::string around = wordsOfRectangle(runs, rectangleAround(gesture), *points);
+  return around.empty() ? numbers : '(' + numbers + ") and (" + around + ')';
 }
 
 std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place)

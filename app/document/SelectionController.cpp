@@ -224,8 +224,7 @@ FilterFault SelectionController::selectWhere(const std::string& words, RunCombin
   const RunFilter filter = RunFilter::read(words, runs, fault);
   if (!fault.text.empty())
     return fault;
-  const std::vector<bool> hit = filter.select(runs, {}).value();
-  selectRuns(hit, words, how);
+  selectRuns(filter.select(runs, {}).value(), words, how);
   return {};
 }
 

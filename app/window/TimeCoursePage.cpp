@@ -149,9 +149,13 @@ void TimeCoursePage::build()
                       "deviations."));
   note = new QLabel;
   note->setObjectName(QStringLiteral("shownRunsNote"));
-  PlotContainer* container = chart->findChild<VtkPlotWidget*>()->plotContainer();
-  container->addCompletion(this,
-                           [this, container] { colourCourses(*container, shownPlaces, kept); });
+  // After the container has drawn the items, which is no redraw with steps of its own.
+  connect(chart->selector(), &PlotSelector::notifySelectionChanged, this,
+          [this, plot = chart->findChild<VtkPlotWidget*>()]
+          {
+            colourCourses(*plot->plotContainer(), shownPlaces, kept);
+            plot->updatePlot();
+          });
   auto* label = new QLabel(tr("R&un"));
   label->setBuddy(run);
   auto* choice = new QHBoxLayout;
@@ -275,9 +279,7 @@ void TimeCoursePage::setKept(const RunGroups& groups)
   if (groups == kept)
     return;
   kept = groups;
-  stale = true;
-  if (isVisible())
-    bringUpToDate();
+  refresh();
 }
 
 /// An empty chart would look like a failure.

@@ -17,6 +17,7 @@
 #include <QSettings>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -149,6 +150,9 @@ TEST_F(ExportDialogOfAWindow, WritesAPlotThatAnotherTabHides)
   window.resize(1200, 900);
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  QSignalSpy opened(&window, &MainWindow::opened);
+  window.openExample();
+  ASSERT_TRUE(opened.wait(60000));
   const QSize before = window.plotWidget()->size();
   auto* tabs = window.findChild<QTabWidget*>();
   tabs->setCurrentIndex(1);

@@ -110,7 +110,9 @@ TEST_F(KeptColoursInWindow, AreThoseOfTheRunsWhenTheUserWantsIt)
     unsigned char colour[3];
     chart().GetPlot(i)->GetColor(colour);
     if (chart().GetPlot(i)->GetLabel() == "second")
+    {
       EXPECT_EQ(colour[0] * 256 + colour[1], 0xC000);
+    }
   }
   showKept(false);
   EXPECT_FALSE(labels().contains("rising"));

@@ -193,3 +193,18 @@ TEST_F(PointedChartsInWindow, SelectInTheMainChartsOfPagesOverParameters)
     expectSelected({}, findStyle(style)->name);
   }
 }
+
+TEST_F(PointedChartsInWindow, KnowWhichColumnsALassoInTheMatrixAskedFor)
+{
+  choose(scatterPlotMatrix);
+  window.selectionController()->gestures().setTool(Talmesh::SelectionTool::Lasso);
+  drawInMatrix(
+      {inMatrix(1.3, 0.01), inMatrix(1.7, 0.01), inMatrix(1.7, 0.99), inMatrix(1.3, 0.99)});
+  expectSelected({1}, "lasso");
+  const std::string words = window.selectionController()->words();
+  EXPECT_NE(words.find("k >= 1.2"), std::string::npos) << words;
+  // The same again from its words.
+  window.selectionController()->clear();
+  EXPECT_EQ(window.selectionController()->selectWhere(words, RunCombination::Replace).text, "");
+  expectSelected({1}, words.c_str());
+}

@@ -51,21 +51,37 @@ protected:
     return vtkScatterPlotMatrix::SafeDownCast(container().getItem());
   }
 
-  /// Drags in the large chart of the matrix, whose axes stand right and above, around k of a run
-  /// over its whole height.
-  void dragInMatrix(int run, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+  /// In the large chart of the matrix, whose axes stand right and above, at a value of k and a part
+  /// of the height.
+  QPoint inMatrix(double value, double height)
   {
     vtkChart* chart = matrix()->GetMainChart();
     vtkAxis* x = chart->GetAxis(vtkAxis::TOP);
     vtkAxis* y = chart->GetAxis(vtkAxis::RIGHT);
-    const auto pixel = [&](double value, double height)
+    const double part = (value - x->GetMinimum()) / (x->GetMaximum() - x->GetMinimum());
+    const double row = y->GetPoint1()[1] + height * (y->GetPoint2()[1] - y->GetPoint1()[1]);
+    return pixelOfScene(plot(), x->GetPoint1()[0] + part * (x->GetPoint2()[0] - x->GetPoint1()[0]),
+                        row);
+  }
+
+  /// Drags there around k of a run over its whole height.
+  void dragInMatrix(int run, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+  {
+    drag(plot(), Qt::RightButton, inMatrix(run + 0.4, 0.01), inMatrix(run + 0.6, 0.99), modifiers);
+  }
+
+  /// Draws through all these places there.
+  void drawInMatrix(const std::vector<QPoint>& places)
+  {
+    QTest::mousePress(&plot(), Qt::RightButton, Qt::NoModifier, places.front());
+    for (const QPoint& place : places)
     {
-      const double part = (value - x->GetMinimum()) / (x->GetMaximum() - x->GetMinimum());
-      const double row = y->GetPoint1()[1] + height * (y->GetPoint2()[1] - y->GetPoint1()[1]);
-      return pixelOfScene(plot(),
-                          x->GetPoint1()[0] + part * (x->GetPoint2()[0] - x->GetPoint1()[0]), row);
-    };
-    drag(plot(), Qt::RightButton, pixel(run + 0.4, 0.01), pixel(run + 0.6, 0.99), modifiers);
+      QMouseEvent move(QEvent::MouseMove, place, plot().mapToGlobal(place), Qt::NoButton,
+                       Qt::RightButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(&plot(), &move);
+    }
+    QTest::mouseRelease(&plot(), Qt::RightButton, Qt::NoModifier, places.back());
+    QCoreApplication::processEvents();
   }
 
   /// Rows of whole runs.
