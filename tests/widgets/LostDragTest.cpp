@@ -1,5 +1,6 @@
 #include "plot/ContainerAccess.h"
 #include "plot/PlotState.h"
+#include "support/DrawnStyles.h"
 
 #include <vtkRenderWindowInteractor.h>
 
@@ -31,17 +32,9 @@ INSTANTIATE_TEST_SUITE_P(Buttons, LostDrag,
 
 TEST_P(LostDrag, EndsWithTheChartOfAnotherStyle)
 {
-  const std::vector<plotStyles> styles = {xyPlot,
-                                          scatterPlotMatrix,
-                                          xyzPlot,
-                                          multiPlot,
-                                          selectionCdfPlot,
-                                          scatterWithErrorBars,
-                                          fitParameterDistribution,
-                                          parallelCoordinates};
-  for (const plotStyles from : styles)
+  for (const plotStyles from : drawnStyles)
   {
-    for (const plotStyles to : styles)
+    for (const plotStyles to : drawnStyles)
     {
       showStyle(from);
       press(middle());

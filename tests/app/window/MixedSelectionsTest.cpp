@@ -1,6 +1,7 @@
 #include "app/session/RunSelectionFile.h"
 #include "app/window/FilterLine.h"
 #include "app/window/RunTableView.h"
+#include "support/DrawnStyles.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -19,14 +20,6 @@ using Runs = std::set<int>;
 constexpr int manyRuns = 10;
 constexpr int points = 6;
 constexpr int operations = 120;
-constexpr plotStyles allStyles[] = {xyPlot,
-                                    scatterPlotMatrix,
-                                    xyzPlot,
-                                    multiPlot,
-                                    selectionCdfPlot,
-                                    scatterWithErrorBars,
-                                    fitParameterDistribution,
-                                    parallelCoordinates};
 
 /// Ways to select, one after the other and in any order: the mouse in charts, the table of runs,
 /// the line of conditions, kept selections and the keyboard. What each of them means is known.
@@ -256,7 +249,7 @@ TEST_F(MixedSelections, AreTheSameForEverybodyAndUndoneInTheirOrder)
     expectEverybody(states[current]);
     EXPECT_EQ(steps() - first, static_cast<int>(current));
     if (i % 15 == 0)
-      for (const plotStyles style : allStyles)
+      for (const plotStyles style : drawnStyles)
       {
         choose(style);
         expectEverybody(states[current]);
