@@ -68,8 +68,11 @@ std::vector<Ruler> rulersOf(vtkChartParallelCoordinates& chart)
       return {};
     const double minimum = axis->GetUnscaledMinimum();
     const double bottom = axis->GetPoint1()[1];
-    rulers.push_back({numbers, axis->GetPoint1()[0], bottom, minimum,
-                      (axis->GetPoint2()[1] - bottom) / (axis->GetUnscaledMaximum() - minimum)});
+    const double height = axis->GetPoint2()[1] - bottom;
+    const double range = axis->GetUnscaledMaximum() - minimum;
+    // Of an axis without extent all values are one.
+    rulers.push_back({numbers, axis->GetPoint1()[0], range > 0.0 ? bottom : bottom + height / 2,
+                      minimum, range > 0.0 ? height / range : 0.0});
   }
   return rulers;
 }

@@ -77,6 +77,8 @@ void vtkSelectableChartXYZ::SetPoints(vtkTable* table, std::vector<vtkVector3f> 
   Table = table;
   Places = std::move(points);
   RowLink = link;
+  if (!table)
+    Pressed.reset();
   Say({});
 }
 
@@ -199,8 +201,10 @@ void vtkSelectableChartXYZ::Take(const Gesture& gesture)
   if (select(gesture) || !link || (gesture.kind == Gesture::Kind::Click && gesture.rows->empty()))
     return;
   std::vector<bool> hit(static_cast<std::size_t>(table->GetNumberOfRows()), false);
+  // The table may have lost rows in place, whose points are still there.
   for (const vtkIdType row : *gesture.rows)
-    hit[static_cast<std::size_t>(row)] = true;
+    if (static_cast<std::size_t>(row) < hit.size())
+      hit[static_cast<std::size_t>(row)] = true;
   Talmesh::selectRows(link, table, hit, Talmesh::selectionMode(gesture.mode));
 }
 

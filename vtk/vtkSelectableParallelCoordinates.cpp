@@ -78,11 +78,13 @@ bool vtkSelectableParallelCoordinates::Paint(vtkContext2D* painter)
       ResetAxesSelection();
     KeepsBrush = false;
     ShowSelection();
-    DropOtherBrushes();
+    BrushesUnsure = true;
   }
   // A table that has lost rows in place has outdated the rows shown too.
   else if (AnnotationLink && RowsNow() != ShownRows)
     ShowSelection();
+  if (std::exchange(BrushesUnsure, false))
+    DropOtherBrushes();
   for (int i = 0; i < static_cast<int>(GetNumberOfAxes()); ++i)
     GetAxis(i)->SetTitleVisible(!PlacesNames);
   if (!Superclass::Paint(painter))
@@ -231,31 +233,6 @@ bool vtkSelectableParallelCoordinates::MouseMoveEvent(const vtkContextMouseEvent
     FollowMouse(mouse);
   else
     return Superclass::MouseMoveEvent(mouse);
-  return true;
-}
-
-void vtkSelectableParallelCoordinates::SetPlot(vtkPlotParallelCoordinates* plot)
-{
-  MovedAxis = -1;
-  Superclass::SetPlot(plot);
-}
-
-bool vtkSelectableParallelCoordinates::CancelDrag()
-{
-  if (MovedAxis >= 0)
-  {
-    MovedAxis = -1;
-    SetVisibleColumns(ColumnsBefore);
-    PlaceAxes();
-    return Cancelled = true;
-  }
-  if (BrushedAxis < 0)
-    return false;
-  BrushedAxis = -1;
-  Cancelled = true;
-  ResetAxesSelection();
-  if (Scene)
-    Scene->SetDirty(true);
   return true;
 }
 

@@ -50,8 +50,9 @@ public:
   /// Does nothing once the chart has lost its place in the scene since the button was pressed, or
   /// after CancelDrag().
   bool MouseButtonReleaseEvent(const vtkContextMouseEvent& mouse) override;
-  /// Takes the brush away that the mouse is drawing, or an axis back that it is moving.
-  /// @return whether there was one
+  /// Takes the brush away that the mouse is drawing, or an axis back that it is moving; while it
+  /// does neither, all brushes.
+  /// @return whether the mouse was doing either
   bool CancelDrag();
 
   /// Whether the names of axes make room for each other, see Talmesh::placeNames(). Otherwise, as
@@ -64,7 +65,8 @@ public:
   /// What stands beside the mouse.
   vtkTooltipItem* GetTooltip() { return Tooltip; }
 
-  /// Ends a move of an axis: the lines may be others, of other columns.
+  /// Ends a move of an axis: the lines may be others, of other columns, and brushes that do not
+  /// tell what is selected of these are dropped.
   void SetPlot(vtkPlotParallelCoordinates* plot) override;
 
   /// Highlights the rows that the link's selection names.
@@ -109,6 +111,8 @@ private:
   vtkVector2f Pressed;     ///< where, in the scene
   /// Of several axes, where a program takes gestures.
   std::vector<Talmesh::SelectionGesture::Brush> Brushes;
+  /// Whether they still tell what is selected is to be seen.
+  bool BrushesUnsure = false;
   vtkNew<vtkTooltipItem> Tooltip;
   int MovedAxis = -1;     ///< while its button is down; -1 for none
   bool Cancelled = false; ///< the button is still down

@@ -101,8 +101,10 @@ void vtkSelectableParallelCoordinates::Take(const Gesture& gesture)
   if (select(gesture) || !link || (gesture.rows && gesture.rows->empty()))
     return;
   std::vector<bool> rows = Talmesh::rowsWithin(table, gesture.brushes);
+  // The table may have lost rows in place, of which the gesture still tells.
   for (const vtkIdType row : gesture.rows.value_or(std::vector<vtkIdType>()))
-    rows[static_cast<std::size_t>(row)] = true;
+    if (static_cast<std::size_t>(row) < rows.size())
+      rows[static_cast<std::size_t>(row)] = true;
   Talmesh::selectRows(link, table, rows, Talmesh::selectionMode(gesture.mode));
 }
 
@@ -160,11 +162,45 @@ bool vtkSelectableParallelCoordinates::MouseLeaveEvent(const vtkContextMouseEven
   return Superclass::MouseLeaveEvent(mouse);
 }
 
-/// The brushes of a selection that is others' do not tell what is selected.
+void vtkSelectableParallelCoordinates::SetPlot(vtkPlotParallelCoordinates* plot)
+{
+  MovedAxis = -1;
+  BrushesUnsure = true;
+  Superclass::SetPlot(plot);
+}
+
+bool vtkSelectableParallelCoordinates::CancelDrag()
+{
+  if (MovedAxis >= 0)
+  {
+    MovedAxis = -1;
+    SetVisibleColumns(ColumnsBefore);
+    PlaceAxes();
+    return Cancelled = true;
+  }
+  if (BrushedAxis < 0)
+  {
+    // Those that meet no row cannot be taken away by selecting nothing.
+    if (!std::exchange(Brushes, {}).empty() && Scene)
+      Scene->SetDirty(true);
+    return false;
+  }
+  BrushedAxis = -1;
+  Cancelled = true;
+  ResetAxesSelection();
+  if (Scene)
+    Scene->SetDirty(true);
+  return true;
+}
+
+/// The brushes of a selection that is others' do not tell what is selected, nor do those of axes
+/// that nobody sees.
 void vtkSelectableParallelCoordinates::DropOtherBrushes()
 {
+  const auto isHidden = [this](const Brush& brush) { return axisOf(*this, brush.column) < 0; };
   vtkTable* table = GetPlot(0)->GetInput();
-  if (!AsksFirst() || !table ||
+  if (!AsksFirst() || !table || !AnnotationLink ||
+      std::any_of(Brushes.begin(), Brushes.end(), isHidden) ||
       !Talmesh::areWithin(table, Brushes,
                           Talmesh::markedRows(AnnotationLink->GetCurrentSelection(), table)))
     Brushes.clear();
@@ -180,7 +216,8 @@ void vtkSelectableParallelCoordinates::PaintBrush(vtkContext2D* painter, int axi
   const double range = shown->GetUnscaledMaximum() - minimum;
   const auto pixelOf = [&](double value)
   {
-    const double part = std::clamp((value - minimum) / range, 0.0, 1.0);
+    // Of an axis without extent all values are one.
+    const double part = range > 0.0 ? std::clamp((value - minimum) / range, 0.0, 1.0) : 0.5;
     return static_cast<float>(bottom + part * height);
   };
   painter->GetBrush()->SetColor(brushColor[0], brushColor[1], brushColor[2], brushColor[3]);

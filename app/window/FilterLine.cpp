@@ -77,11 +77,13 @@ void FilterLine::put(const QString& words)
   line->setModified(true);
 }
 
-/// The key that selects nothing means the line while something is typed there.
+/// The key that selects nothing means the line while something stands there that is typed and not
+/// yet applied.
 bool FilterLine::eventFilter(QObject* watched, QEvent* event)
 {
   if (watched == line && event->type() == QEvent::ShortcutOverride &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && line->isModified() &&
+      !line->text().isEmpty())
     event->accept();
   return QWidget::eventFilter(watched, event);
 }

@@ -81,6 +81,7 @@ RunTableDock::RunTableDock(Document& shown, QWidget* parent)
   setWidget(makePanel());
   idle->setInterval(0);
   connect(idle, &QTimer::timeout, this, &RunTableDock::goOn);
+  connect(view, &RunTableView::pressBegins, this, [this] { stepOfClick = nullptr; });
   connect(view, &RunTableView::rowsChosen, this, &RunTableDock::selectChosen);
   connect(view, &QTableView::doubleClicked, this,
           [this](const QModelIndex& index) { openRun(index.row()); });
@@ -137,14 +138,19 @@ void RunTableDock::followGroups()
     invalidate();
 }
 
+/// Null if there is none.
+const QUndoCommand* RunTableDock::lastStep() const
+{
+  const QUndoStack* steps = document.selection().undoGroup().activeStack();
+  return steps ? steps->command(steps->index() - 1) : nullptr;
+}
+
 /// The first of the two clicks has selected the run, which nobody wanted who looks at it.
 void RunTableDock::openRun(int row)
 {
-  QUndoStack& steps = document.selection().undoStack();
-  if (clicked.isValid() && clicked.elapsed() < 2 * QApplication::doubleClickInterval() &&
-      steps.index() == stepOfClick)
-    steps.undo();
-  clicked.invalidate();
+  const QUndoCommand* step = std::exchange(stepOfClick, nullptr);
+  if (step && step == lastStep())
+    document.selection().undoGroup().undo();
   emit runOpened(model->runOf(row));
 }
 
@@ -238,12 +244,12 @@ void RunTableDock::selectChosen()
     return;
   const RunStep step = shortestStep(shownSelection, chosen);
   shownSelection = chosen;
-  const int before = document.selection().undoStack().index();
+  const QUndoCommand* before = lastStep();
   document.selection().selectRuns(step.hit, TableRuns(*document.container()).words(step.hit),
                                   step.how);
-  stepOfClick = document.selection().undoStack().index();
-  if (stepOfClick == before + 1)
-    clicked.start();
+  // Not their number, which stays where the oldest is forgotten for another one.
+  if (lastStep() != before)
+    stepOfClick = lastStep();
 }
 
 void RunTableDock::copy()

@@ -4,7 +4,6 @@
 #include "app/document/TableRuns.h"
 
 #include <QDockWidget>
-#include <QElapsedTimer>
 
 #include <memory>
 #include <vector>
@@ -12,6 +11,7 @@
 class QLabel;
 class QStackedWidget;
 class QTimer;
+class QUndoCommand;
 
 namespace Talmesh::app
 {
@@ -57,6 +57,7 @@ private:
   void openRun(int row);
   void followGroups();
   std::vector<int> chosenRows() const;
+  const QUndoCommand* lastStep() const;
   void copy();
   void save();
 
@@ -76,9 +77,8 @@ private:
   std::vector<bool> shownSelection;
   /// The group of each run that the table shows.
   std::vector<int> shownGroups;
-  /// Since the user has selected by a click, and the step that was.
-  QElapsedTimer clicked;
-  int stepOfClick = 0;
+  /// By which the last press of the mouse has selected, if by any; only to be compared.
+  const QUndoCommand* stepOfClick = nullptr;
   bool seen = false;
   bool complete = false;
   bool showing = false;

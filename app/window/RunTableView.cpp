@@ -39,6 +39,12 @@ RunTableView::RunTableView(QWidget* parent)
   connect(pause, &QTimer::timeout, this, &RunTableView::rowsChosen);
 }
 
+void RunTableView::mousePressEvent(QMouseEvent* event)
+{
+  emit pressBegins();
+  QTableView::mousePressEvent(event);
+}
+
 void RunTableView::mouseReleaseEvent(QMouseEvent* event)
 {
   QTableView::mouseReleaseEvent(event);

@@ -67,6 +67,15 @@ TEST_F(FilterLineInWindow, LeavesTheSelectionWhenEscapeIsTypedThere)
   EXPECT_EQ(edit().text(), "run > 0 and r");
 }
 
+TEST_F(FilterLineInWindow, SelectsNothingWhenEscapeIsTypedBehindWhatIsSelected)
+{
+  type("run > 0");
+  QTest::keyClick(&edit(), Qt::Key_Escape);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(runs(), Runs{});
+  EXPECT_EQ(edit().text(), "");
+}
+
 TEST_F(FilterLineInWindow, ShowsTheWordsOfWhatIsSelectedNow)
 {
   type("run > 0");

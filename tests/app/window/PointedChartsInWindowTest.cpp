@@ -102,6 +102,33 @@ TEST_F(PointedChartsInWindow, ShowBrushesAsLongAsTheyTellWhatIsSelected)
   expectSelected({2}, "without the brushes before");
 }
 
+TEST_F(PointedChartsInWindow, DropBrushesOfAxesThatAreNoLongerShown)
+{
+  choose(parallelCoordinates);
+  brushAxis(1, 2.95, 2.99);
+  brushAxis(1, 2.85, 2.95);
+  expectSelected({2}, "by the highest X");
+  PlotChoice choice = window.plotDock()->choice();
+  choice.y = {featureColumn(1, RunFeature::Min)};
+  show(choice);
+  expectSelected({2}, "still");
+  brushAxis(0, 1.2, 1.8);
+  expectSelected({1}, "whatever its highest X");
+}
+
+TEST_F(PointedChartsInWindow, DropBrushesThatMeetNoRunByEscape)
+{
+  choose(parallelCoordinates);
+  brushAxis(0, 1.7, 2.2);
+  expectSelected({}, "between the runs");
+  EXPECT_TRUE(isBrushed(0, 1.95));
+  press(QKeySequence(Qt::Key_Escape));
+  plot().updatePlot(true);
+  EXPECT_FALSE(isBrushed(0, 1.95));
+  brushAxis(1, 2.85, 2.95);
+  expectSelected({2}, "without the brush before");
+}
+
 TEST_F(PointedChartsInWindow, TakeABrushWithAKeyAlone)
 {
   choose(parallelCoordinates);

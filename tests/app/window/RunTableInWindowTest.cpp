@@ -223,6 +223,20 @@ TEST_F(RunTableInWindow, ShowsTheCoursesOfARunThatIsDoubleClicked)
   EXPECT_EQ(runs(), (Runs{10, 20})) << "whoever looks at a run selects none";
 }
 
+TEST_F(RunTableInWindow, KeepsTheSelectionOfALongHistoryWhenARunIsDoubleClicked)
+{
+  const QPoint place = placeOf(3);
+  for (int i = 0; i <= steps().undoLimit(); ++i)
+    select(i % 2 == 0 ? Runs{10, 20} : Runs{30});
+  ASSERT_EQ(steps().index(), steps().undoLimit());
+  ASSERT_EQ(runs(), (Runs{10, 20}));
+  QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  EXPECT_EQ(runs(), Runs{40});
+  QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  QTest::qWait(20);
+  EXPECT_EQ(runs(), (Runs{10, 20}));
+}
+
 TEST_F(RunTableInWindow, HasTheGroupsOfTheRuns)
 {
   EXPECT_FALSE(names().contains("group"));
