@@ -172,6 +172,29 @@ ExchangeUnits partOfUnits(const ExchangeUnits& units, const std::vector<char>& i
   return part;
 }
 
+ExchangeUnits onlyCompared(ExchangeUnits units, const std::vector<char>& leftOut)
+{
+  // Else swaps with units of neither group would make the observed difference look rare.
+  if (leftOut.empty())
+    return units;
+  std::vector<char> isCompared(units.runsOfCell.size(), 0);
+  for (std::size_t run = 0; run < leftOut.size(); ++run)
+    if (leftOut[run] == 0)
+      isCompared[units.cellOfRun[run]] = 1;
+  const auto hasNone = [&](std::uint32_t unit)
+  {
+    const auto first = isCompared.begin();
+    return std::find(first + units.firstCell[unit], first + units.firstCell[unit + 1], 1) ==
+           first + units.firstCell[unit + 1];
+  };
+  for (Numbers& members : units.classes)
+    members.erase(std::remove_if(members.begin(), members.end(), hasNone), members.end());
+  units.classes.erase(std::remove_if(units.classes.begin(), units.classes.end(),
+                                     [](const Numbers& members) { return members.empty(); }),
+                      units.classes.end());
+  return units;
+}
+
 ExchangeUnits exchangeUnits(const ParameterColumns& columns)
 {
   const std::size_t runs = runsIn(columns);

@@ -33,6 +33,11 @@ struct ExchangeUnits
 /// The units of the runs for which `isKept` is not 0, of each unit all or none.
 ExchangeUnits partOfUnits(const ExchangeUnits& units, const std::vector<char>& isKept);
 
+/// The units without those in their classes that have no run for which `leftOut` is 0: such units
+/// change no places and do not count.
+/// @param leftOut an entry per run, or empty for none
+ExchangeUnits onlyCompared(ExchangeUnits units, const std::vector<char>& leftOut);
+
 /// With fewer arrangements no p below 0.05 exists, and permuting tells nothing.
 constexpr double fewestArrangements = 20.0;
 

@@ -54,7 +54,7 @@ public:
       : columns(parameterColumns)
       , selected(selectedRuns)
       , plan(comparisonPlan)
-      , units(exchangeUnits(parameterColumns))
+      , units(onlyCompared(exchangeUnits(parameterColumns), comparisonPlan.leftOut))
       , second(secondHalf(units, comparisonPlan.seed))
   {
   }

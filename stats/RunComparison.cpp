@@ -25,13 +25,14 @@ UnitSummary summaryOf(const ExchangeUnits& units)
 {
   UnitSummary summary;
   summary.kind = units.kind;
-  summary.units = units.units();
-  for (std::size_t unit = 0; unit < summary.units; ++unit)
-  {
-    const std::size_t runs = units.runsOfUnit(unit);
-    summary.fewestRuns = unit == 0 ? runs : std::min(summary.fewestRuns, runs);
-    summary.mostRuns = std::max(summary.mostRuns, runs);
-  }
+  for (const std::vector<std::uint32_t>& members : units.classes)
+    for (const std::uint32_t unit : members)
+    {
+      const std::size_t runs = units.runsOfUnit(unit);
+      summary.fewestRuns = summary.units == 0 ? runs : std::min(summary.fewestRuns, runs);
+      summary.mostRuns = std::max(summary.mostRuns, runs);
+      ++summary.units;
+    }
   return summary;
 }
 
@@ -75,7 +76,7 @@ public:
            const ComparisonPlan& comparisonPlan, ExchangeUnits exchanged)
       : columns(parameterColumns)
       , plan(comparisonPlan)
-      , units(std::move(exchanged))
+      , units(onlyCompared(std::move(exchanged), comparisonPlan.leftOut))
       , groups(groupsOf(units, selected, comparisonPlan.leftOut))
   {
     result.units = summaryOf(units);

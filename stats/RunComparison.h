@@ -25,12 +25,13 @@ struct ComparisonPlan
   std::vector<std::size_t> untested;
   /// Runs that are in neither group, an entry per run, 0 for the others; empty for none. Units of
   /// the study's design keep them: what is permuted is which unit has how many runs of each group.
+  /// Units of such runs alone take no part.
   std::vector<char> leftOut;
   /// As in `PermutationPlan`. Heard before the first parameter, too.
   std::function<bool(double)> progress;
 };
 
-/// What is independent in a study, in a few numbers.
+/// What is independent among the runs that are compared, in a few numbers.
 struct UnitSummary
 {
   IndependentUnit kind = IndependentUnit::run;

@@ -1,3 +1,4 @@
+#include "stats/HalfComparison.h"
 #include "stats/PortableRandom.h"
 #include "stats/RunComparison.h"
 #include "stats/SimulatedStudies.h"
@@ -34,6 +35,28 @@ Subset withoutThose(const SimulatedStudy& study, const std::vector<char>& leftOu
   }
   return subset;
 }
+
+/// Sets of five runs each, first those of neither group, then the selected, then the others.
+struct SetsOfFive
+{
+  SetsOfFive(int ofNeither, int ofEach)
+      : columns(1)
+  {
+    for (int set = 0; set < ofNeither + 2 * ofEach; ++set)
+    {
+      const int group = set < ofNeither ? 2 : set < ofNeither + ofEach ? 1 : 0;
+      columns[0].insert(columns[0].end(), 5, static_cast<double>(set));
+      selected.insert(selected.end(), 5, group == 1 ? 1 : 0);
+      plan.leftOut.insert(plan.leftOut.end(), 5, group == 2 ? 1 : 0);
+    }
+  }
+
+  RunComparison compare() const { return compareRuns(columns, selected, plan); }
+
+  ParameterColumns columns;
+  std::vector<char> selected;
+  ComparisonPlan plan;
+};
 
 /// Every third run, selected or not.
 std::vector<char> everyThird(std::size_t runs)
@@ -150,6 +173,50 @@ TEST(RunsLeftOut, RejectAnIdleParameterNoMoreOftenInReplicates)
   }
   // 5 % of 200 and three standard deviations of 3.1; run-level tests reject 34 %.
   EXPECT_LE(rejected, 20);
+}
+
+TEST(RunsLeftOut, TakeNoPartAsWholeSets)
+{
+  const SetsOfFive study(30, 3);
+  const RunComparison found = study.compare();
+  EXPECT_EQ(found.units.units, 6U);
+  // The observed division and its mirror image, of all that there are.
+  EXPECT_NEAR(found.parameters.front().p, 2.0 / 20.0, 0.015);
+}
+
+TEST(RunsLeftOut, TakeNoPartInHalves)
+{
+  const SetsOfFive study(31, 8);
+  const HalfComparison halves = compareHalves(study.columns, study.selected, study.plan,
+                                              [](const ParameterComparison&) { return true; });
+  EXPECT_EQ(halves.explored.units.units, 8U);
+  EXPECT_EQ(halves.tested.units.units, 8U);
+}
+
+TEST(RunsLeftOut, DoNotMakeTooFewSetsEnough)
+{
+  const RunComparison found = SetsOfFive(30, 2).compare();
+  EXPECT_EQ(found.units.units, 4U);
+  EXPECT_EQ(found.parameters.front().reason, NotTested::tested);
+  EXPECT_EQ(SetsOfFive(30, 1).compare().parameters.front().reason, NotTested::tooFewUnits);
+}
+
+TEST(RunsLeftOut, AreNotPermutedAmongSingleRunsEither)
+{
+  // Six runs in three and three, and thirty in neither.
+  ParameterColumns columns{std::vector<double>(36), std::vector<double>(36)};
+  std::iota(columns[0].begin(), columns[0].end(), 0.0);
+  std::iota(columns[1].rbegin(), columns[1].rend(), 0.0);
+  std::vector<char> selected(36, 0);
+  ComparisonPlan plan;
+  plan.leftOut.assign(36, 1);
+  for (std::size_t run = 30; run < 36; ++run)
+    plan.leftOut[run] = 0;
+  std::fill(selected.begin() + 30, selected.begin() + 33, 1);
+  plan.adjustment = Adjustment::maxT;
+  const RunComparison found = compareRuns(columns, selected, plan);
+  EXPECT_EQ(found.units.units, 6U);
+  EXPECT_NEAR(found.parameters.front().adjusted, 2.0 / 20.0, 0.015);
 }
 
 TEST(RunsLeftOut, AreAsManyAsThereAreRuns)
