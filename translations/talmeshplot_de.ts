@@ -1913,6 +1913,10 @@ Grafiken simulierter Läufe.</translation>
         <source>Run</source>
         <translation>Lauf</translation>
     </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::SeedBox</name>

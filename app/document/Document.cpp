@@ -252,20 +252,28 @@ void Document::together(const std::function<void()>& changes)
 void Document::takeGroups(const RunClustering& found)
 {
   grouped.take(found);
-  setLook(grouped.state().look);
+  RunLook before = grouped.state().look;
+  before.groupColours = false;
+  showLook(before);
 }
 
 void Document::setLook(const RunLook& look)
 {
   const RunLook before = grouped.state().look;
   grouped.setLook(look);
+  showLook(before);
+}
+
+/// In a style that shows what is new of the look.
+void Document::showLook(const RunLook& before)
+{
+  const RunLook& look = grouped.state().look;
   PlotChoice choice = shown.choice;
-  const bool colours = look.groupColours || look.keptColours;
-  const bool courses = look.groupMeans || look.quartileBands;
+  const bool newColours =
+      (look.groupColours && !before.groupColours) || (look.keptColours && !before.keptColours);
   const bool newCourses =
       (look.groupMeans && !before.groupMeans) || (look.quartileBands && !before.quartileBands);
-  if ((colours || courses) &&
-      (newCourses || !colours || !showsColoursOfRuns(viewerStyle(choice.style))))
+  if (newCourses || (newColours && !showsColoursOfRuns(viewerStyle(choice.style))))
     choice.style = xyPlot;
   choice.legend = choice.legend || (look.keptColours && !before.keptColours);
   choose(choice);

@@ -141,6 +141,7 @@ private:
   void openOwnChart();
   void restore(const RestoredSession& session);
   void summarise();
+  void showLook(const RunLook& before);
   void followAxes();
   void followKept();
   void followPair();

@@ -165,10 +165,13 @@ bool GroupedRuns::showsNormalised() const
 
 RunGroups GroupedRuns::colouring() const
 {
-  if (kept.look.keptColours && keptGroups)
-    if (RunGroups groups = keptGroups(); !groups.names.empty())
-      return groups;
-  return kept.look.groupColours ? named : RunGroups();
+  RunGroups groups = keptColouring();
+  return groups.names.empty() && kept.look.groupColours ? named : groups;
+}
+
+RunGroups GroupedRuns::keptColouring() const
+{
+  return kept.look.keptColours && keptGroups ? keptGroups() : RunGroups();
 }
 
 void GroupedRuns::complete()

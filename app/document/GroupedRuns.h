@@ -52,6 +52,8 @@ public:
   /// The groups that colour the runs now: those of kept selections, if the look asks for them and
   /// there are any, or the groups found; none where the look asks for neither.
   RunGroups colouring() const;
+  /// Those of kept selections, if the look asks for them.
+  RunGroups keptColouring() const;
   /// Says what groups kept selections are, see `groupsOfKept`.
   void setKept(std::function<RunGroups()> groups) { keptGroups = std::move(groups); }
   /// What a session keeps of all this.

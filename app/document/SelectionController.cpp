@@ -203,8 +203,8 @@ void SelectionController::invert()
                                  : markedRows(container->getAnnotationLink()->GetCurrentSelection(),
                                               container->getTable());
   others.flip();
-  const std::string before = words();
-  const std::string said = ofRuns && before.empty() ? runs.words(others) : wordsOfOthers(before);
+  const std::string turned = wordsOfOthers(words());
+  const std::string said = ofRuns && turned.empty() ? runs.words(others) : turned;
   const QString named = QString::fromStdString(namedBy(tr("Invert Selection").toStdString(), said));
   const SelectionHistory::Step step(shownHistory(), named, {RunCombination::Replace, said, true});
   if (ofRuns)

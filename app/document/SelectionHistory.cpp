@@ -188,7 +188,11 @@ void SelectionHistory::note(const SelectionStep& step)
 std::string SelectionHistory::wordsWith(const NamedStep& named) const
 {
   const Selected& before = followed->current;
-  return wordsAfter(before.words, isAny(before.rows), named.step);
+  std::string words = wordsAfter(before.words, isAny(before.rows), named.step);
+  // Where the way there has no words, or too many, what is selected may have some.
+  if (words.empty() && naming && followed->container && isAny(followed->selected()))
+    words = wordsAfter({}, false, naming(*followed->container).step);
+  return words;
 }
 
 /// To what is now selected.
@@ -233,7 +237,7 @@ void SelectionHistory::record()
   if (named.text.isEmpty())
     named.text = clears ? QCoreApplication::translate("SelectionHistory", "Clear Selection")
                         : QCoreApplication::translate("SelectionHistory", "Select");
-  dropped += stack.index() == stack.undoLimit() ? 1 : 0;
+  dropped += stack.undoLimit() > 0 && stack.index() == stack.undoLimit() ? 1 : 0;
   stack.push(new SelectCommand(followed, before, followed->current, named.text));
 }
 

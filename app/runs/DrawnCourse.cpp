@@ -160,6 +160,18 @@ bool isIn(const std::vector<DrawnPoint>& corners, const DrawnPoint& from, const 
   return false;
 }
 
+/// Whether corners lie on one straight line, as those do that all are one.
+bool areOnOneLine(const std::vector<DrawnPoint>& corners)
+{
+  const auto another = std::find_if(corners.begin(), corners.end(),
+                                    [&first = corners[0]](const DrawnPoint& corner)
+                                    { return corner.x != first.x || corner.y != first.y; });
+  return another == corners.end() || std::all_of(another, corners.end(),
+                                                 [&](const DrawnPoint& corner) {
+                                                   return sideOf(corners[0], *another, corner) == 0;
+                                                 });
+}
+
 /// The corners of a polygon that has an inside, in places; else none.
 std::vector<DrawnPoint> polygonOf(const std::vector<DrawnPoint>& corners, const DrawnScale& scale)
 {
@@ -170,7 +182,7 @@ std::vector<DrawnPoint> polygonOf(const std::vector<DrawnPoint>& corners, const 
     if (isDrawn(place))
       places.push_back(place);
   }
-  if (places.size() < 3)
+  if (places.size() < 3 || areOnOneLine(places))
     places.clear();
   return places;
 }
@@ -274,9 +286,12 @@ bool hasPointIn(const RunCourse& course, const std::vector<DrawnPoint>& corners,
                 const DrawnScale& scale)
 {
   const std::vector<DrawnPoint> places = polygonOf(corners, scale);
-  return !places.empty() && anyPiece(course, scale,
-                                     [&places](const DrawnPoint&, const DrawnPoint& point)
-                                     { return isIn(places, point, point); });
+  if (places.empty())
+    return false;
+  const DrawnWindow bounds = boundsOf(places);
+  return anyPiece(course, scale,
+                  [&](const DrawnPoint&, const DrawnPoint& point)
+                  { return !isBeside(bounds, point, point) && isIn(places, point, point); });
 }
 
 } // namespace Talmesh::app

@@ -148,7 +148,8 @@ double meanOf(const RunCourse& course)
     double rest = 0;
     for (const double value : points.y)
       rest += value - mean;
-    return mean + rest / count;
+    const double exact = mean + rest / count;
+    return std::isfinite(exact) ? exact : mean;
   }
   double sumOfParts = 0;
   for (const double value : points.y)

@@ -86,7 +86,6 @@ protected:
 private:
   void takeFirstSize();
   void connectDocument();
-  void connectPanels();
   void connectControllers();
   void makeMenus();
   void makeFileMenu();

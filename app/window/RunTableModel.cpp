@@ -102,7 +102,10 @@ QVariant RunTableModel::headerData(int section, Qt::Orientation orientation, int
     return {};
   if (section == 0)
     return tr("Run");
-  return QString::fromStdString(runs.columns[static_cast<std::size_t>(section - 1)].words);
+  const RunColumn& column = runs.columns[static_cast<std::size_t>(section - 1)];
+  // No filter asks for it: it has a name for readers here and another one in files.
+  return column.title == "group" && column.column < 0 ? tr("Group")
+                                                      : QString::fromStdString(column.words);
 }
 
 QString RunTableModel::tabbedText(const std::vector<int>& chosenRows) const
@@ -115,7 +118,7 @@ QString RunTableModel::tabbedText(const std::vector<int>& chosenRows) const
   }
   std::string text = "run";
   for (const RunColumn& column : runs.columns)
-    text += '\t' + column.words;
+    text += '\t' + column.title;
   text += '\n';
   for (const int row : copied)
   {

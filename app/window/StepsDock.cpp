@@ -52,7 +52,11 @@ QString StepsDock::stepsText() const
   const QUndoStack* steps = selection.undoGroup().activeStack();
   const QString first = QString::fromStdString(selection.wordsAtFirst());
   const int forgotten = selection.forgottenSteps();
-  QString text = first.isEmpty() ? QString() : tr("As opened: %1").arg(first) + QLatin1Char('\n');
+  QString text;
+  if (!first.isEmpty())
+    text = tr("As opened: %1").arg(first) + QLatin1Char('\n');
+  else if (forgotten > 0)
+    text = tr("As opened") + QLatin1Char('\n');
   if (forgotten > 0)
     text += tr("%1 steps after that are no longer known").arg(forgotten) + QLatin1Char('\n');
   for (int step = 0; steps && step < steps->index(); ++step)

@@ -88,12 +88,7 @@ void WindowPanels::connectDocument()
   connect(&document.selection(), &SelectionController::changed, timeCourses, tellSelected);
   connect(&document, &Document::studyChanged, timeCourses, tellSelected);
   connect(&document, &Document::drawn, timeCourses,
-          [this]
-          {
-            const GroupedRuns& groups = document.groups();
-            timeCourses->setKept(groups.state().look.keptColours ? groups.colouring()
-                                                                 : RunGroups());
-          });
+          [this] { timeCourses->setKept(document.groups().keptColouring()); });
   connect(&document, &Document::choiceChanged, choices,
           [this]
           {

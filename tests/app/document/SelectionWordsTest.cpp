@@ -156,6 +156,21 @@ TEST_F(SelectionInWords, AreAllAfterNothingIsTurnedRound)
   EXPECT_EQ(selection().words(), "");
 }
 
+TEST_F(SelectionInWords, NameTheRunsWhereTheWayThereIsTooLong)
+{
+  const std::string blanks(mostCharactersOfWords - 10, ' ');
+  step("k > 4 or" + blanks + "m = 1", RunCombination::Replace);
+  step("k > 4 and" + blanks + "m > 1", RunCombination::Add);
+  ASSERT_FALSE(selectedRuns().empty());
+  EXPECT_LT(selection().words().size(), 100U);
+  EXPECT_EQ(runsOfWords(), selection().selectedRuns());
+  selection().invert();
+  step("k > 4 or" + blanks + "m = 1", RunCombination::Replace);
+  selection().invert();
+  EXPECT_LT(selection().words().size(), 100U);
+  EXPECT_EQ(runsOfWords(), selection().selectedRuns());
+}
+
 TEST_F(SelectionInWords, IsNothingWithoutASelection)
 {
   step("k > 2", RunCombination::Replace);

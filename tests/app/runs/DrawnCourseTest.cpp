@@ -138,6 +138,15 @@ TEST(DrawnCourse, EntersAPolygon)
   EXPECT_FALSE(entersPolygon(roof, {{4, 40}, {8, 80}}, plain)) << "no inside";
 }
 
+TEST(DrawnCourse, EntersNoCornersOnOneLine)
+{
+  EXPECT_FALSE(entersPolygon(roof, {{4, 50}, {5, 50}, {6, 50}}, plain)) << "across the line";
+  EXPECT_FALSE(entersPolygon(roof, {{5, 50}, {5, 50}, {5, 50}}, plain)) << "a point of it";
+  EXPECT_FALSE(entersPolygon(Course{{0, 2}, {1, 100}}, {{0, 100}, {1, 10}, {2, 1}}, logY))
+      << "on one line where it is drawn";
+  EXPECT_TRUE(entersPolygon(Course{{0, 2}, {1, 100}}, {{0, 100}, {1, 50}, {2, 1}}, logY));
+}
+
 TEST(DrawnCourse, EntersTheLegsButNotTheGapOfAHorseshoe)
 {
   // Two legs below x = 4 and above x = 6, joined above y = 8.

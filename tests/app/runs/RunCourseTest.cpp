@@ -107,6 +107,7 @@ TEST(RunCourse, HasTheVeryMeanOfWholeAndOfEqualNumbers)
 TEST(RunCourse, HasAMeanWhereTheSumOverflows)
 {
   EXPECT_DOUBLE_EQ(meanOf(Course({1.5e308, 1.7e308})), 1.6e308);
+  EXPECT_DOUBLE_EQ(meanOf(Course({1.7e308, -1.7e308, -1.5e308})), -0.5e308) << "or the rests do";
 }
 
 TEST(RunCourse, TakesTheValueAtATimeFromTheLineBetweenPoints)

@@ -221,4 +221,33 @@ TEST_F(KeptColoursInWindow, AreThoseOfCoursesOnTheirPage)
   EXPECT_TRUE(second);
 }
 
+TEST_F(KeptColoursInWindow, AreNotThoseOfGroupsOnThePageOfCoursesWhereNothingIsKept)
+{
+  group(2);
+  showKept(true);
+  select({20, 60});
+  window.pages()->setCurrentIndex(1);
+  find<QComboBox>("shownRuns")->setCurrentIndex(2);
+  while (!window.document().kept().list().empty())
+    window.document().kept().remove(0);
+  QTest::qWait(20);
+  vtkChartXY* courses =
+      find<QWidget>("timeCourses")->findChild<VtkPlotWidget*>()->plotContainer()->getChartXY();
+  ASSERT_GT(courses->GetNumberOfPlots(), 0);
+  for (vtkIdType i = 0; i < courses->GetNumberOfPlots(); ++i)
+    EXPECT_EQ(courses->GetPlot(i)->GetLabel().find("Group"), std::string::npos)
+        << courses->GetPlot(i)->GetLabel();
+}
+
+TEST_F(KeptColoursInWindow, LeaveTheStyleAsItIsWhenTheyAreNoLongerWanted)
+{
+  group(2);
+  showKept(true);
+  chooseStyle(selectionCdfPlot);
+  showKept(false);
+  EXPECT_EQ(window.document().choice().style, selectionCdfPlot);
+  showKept(true);
+  EXPECT_EQ(window.document().choice().style, xyPlot) << "which shows them";
+}
+
 } // namespace

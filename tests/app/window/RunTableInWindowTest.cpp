@@ -239,11 +239,11 @@ TEST_F(RunTableInWindow, KeepsTheSelectionOfALongHistoryWhenARunIsDoubleClicked)
 
 TEST_F(RunTableInWindow, HasTheGroupsOfTheRuns)
 {
-  EXPECT_FALSE(names().contains("group"));
+  EXPECT_FALSE(names().contains("Group"));
   group(2);
   QTest::qWait(20);
-  ASSERT_TRUE(names().contains("group"));
-  const int column = names().indexOf("group");
+  ASSERT_TRUE(names().contains("Group"));
+  const int column = names().indexOf("Group");
   EXPECT_EQ(columnOf(column), (QStringList{"1", "2", "1", "2", "1", "2"}));
 }
 

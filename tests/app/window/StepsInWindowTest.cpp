@@ -100,6 +100,16 @@ TEST_F(StepsInWindow, AreCopiedWithWhatWasSelectedAtFirst)
   EXPECT_EQ(QApplication::clipboard()->text(), "As opened: run = 2\n1 of 3 runs selected\n");
 }
 
+TEST_F(StepsInWindow, SayThatOthersWentBeforeThoseThatAreKnown)
+{
+  const int known = window.selectionController()->undoStack().undoLimit();
+  for (int i = 0; i <= known; ++i)
+    type(i % 2 == 0 ? "run = 1" : "run = 2");
+  QTest::mouseClick(button("copySteps"), Qt::LeftButton);
+  EXPECT_EQ(QApplication::clipboard()->text().split('\n').value(0), "As opened");
+  EXPECT_EQ(QApplication::clipboard()->text().split('\n').value(2), "2. Select 1 run: run = 2");
+}
+
 TEST_F(StepsInWindow, GiveTheConditionOfTheSelectionToOtherProgramsAndToTheLine)
 {
   EXPECT_FALSE(button("copyCondition")->isEnabled());
