@@ -18,6 +18,8 @@
 
 #include <iostream>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace Talmesh::app
 {
@@ -41,13 +43,20 @@ std::string writeExport(const CommandLineOptions& options, VtkPlotWidget& widget
 
 std::string writeComparison(const Comparison& comparison, const QString& path)
 {
+  const std::string& selected = comparison.sides.selected;
+  const std::string& others = comparison.sides.others;
   switch (comparison.state)
   {
   case Comparison::State::noParameters:
     return "there are no parameters of runs to compare";
   case Comparison::State::nothingSelected:
-    return "no run is selected to be compared; name some by --select";
+    return selected.empty() ? "no run is selected to be compared; name some by --select"
+                            : "no run is in \"" + selected + "\"";
   case Comparison::State::noOthers:
+    if (!others.empty())
+      return "no run to compare with is in \"" + others + "\"";
+    if (!selected.empty())
+      return "all runs are in \"" + selected + "\"; there are none to compare them with";
     return "all runs are selected; there are none to compare them with";
   case Comparison::State::onlyInBoth:
     return "runs in both selections count for neither; without them there is nothing to compare";
@@ -63,8 +72,9 @@ std::string writeRuns(Document& document, const std::vector<std::string>& notes,
 {
   const TableRuns runs(*document.container());
   if (runs.numberOfRuns() == 0)
+    // Notes on columns come before that on the rows.
     return notes.empty() ? "there are no runs to list"
-                         : "there are no runs to list: " + notes.front();
+                         : "there are no runs to list: " + notes.back();
   RunTable table = runTable(runs, allColumnsOfRuns(runs));
   addColumn(table, "group", groupNumbers(document.groups().groups()));
   const std::vector<bool> selected = runs.selected();
@@ -74,8 +84,9 @@ std::string writeRuns(Document& document, const std::vector<std::string>& notes,
 }
 
 /// Pictures need a widget that paints; the document of tables only draws, into a scene.
+/// @param remarks gets what the pictures cannot show
 std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& opened,
-                       const QSize& size)
+                       const QSize& size, std::vector<std::string>& remarks)
 {
   const vtkNew<vtkContextScene> scene;
   std::unique_ptr<VtkPlotWidget> widget;
@@ -92,8 +103,6 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
   std::string error = document.open(opened, options);
   if (error.empty())
     error = document.drawingError();
-  if (error.empty() && !options.exports.empty() && !document.remark().isEmpty())
-    std::cerr << "talmesh-plot: " << document.remark().toStdString() << std::endl;
   const Comparison& comparison = document.comparison().current();
   for (const std::string& path : options.exports)
     if (error.empty())
@@ -103,6 +112,8 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
   if (error.empty() && !options.runs.empty())
     error = writeRuns(document, opened.notes, !options.select.empty(),
                       QFile::decodeName(options.runs.c_str()));
+  if (error.empty() && !options.exports.empty() && !document.remark().isEmpty())
+    remarks.push_back(document.remark().toStdString());
   // What shows a container ends before it.
   widget.reset();
   return error;
@@ -128,12 +139,14 @@ std::string runBatch(const CommandLineOptions& options)
     return result.error();
   const OpenedStudy& opened = result.value();
   const QSize size = options.width > 0 ? QSize(options.width, options.height) : defaultSize;
-  std::string error = writeNamed(options, opened, size);
+  std::vector<std::string> remarks;
+  std::string error = writeNamed(options, opened, size, remarks);
   if (error.empty() && !options.gallery.empty())
     error = writeGallery(opened.study, QFile::decodeName(options.gallery.c_str()), size,
                          options.vectors, options.dotsPerInch.value_or(resolutionOfScreenPages));
   // What fails says so in one line.
-  for (const std::string& note : opened.notes)
+  remarks.insert(remarks.end(), opened.notes.begin(), opened.notes.end());
+  for (const std::string& note : remarks)
     if (error.empty())
       std::cerr << "talmesh-plot: " << note << std::endl;
   return error;

@@ -19,7 +19,9 @@ QString placeOf(const std::string& name)
   const QFileInfo info(QFile::decodeName(name.c_str()));
   if (info.exists())
     return info.isFile() ? info.canonicalFilePath() : QString();
-  return QDir(info.absolutePath()).canonicalPath() + QLatin1Char('/') + info.fileName();
+  const QString folder = QDir(info.absolutePath()).canonicalPath();
+  // Folders that do not exist have no canonical path, and are told apart all the same.
+  return (folder.isEmpty() ? info.absolutePath() : folder) + QLatin1Char('/') + info.fileName();
 }
 
 } // namespace

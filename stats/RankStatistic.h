@@ -45,8 +45,6 @@ public:
   /// groups.
   double statistic(ComparedBy comparedBy, const CellGroups& groups) const;
 
-  std::size_t values() const { return ends.size(); }
-
 private:
   std::uint64_t sumOver(const std::vector<std::uint32_t>& runsOfCell) const;
   template <class Visit>

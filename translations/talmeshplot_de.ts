@@ -1241,6 +1241,24 @@ p, li { white-space: pre-wrap; }
         <comment>adjusted p, as a narrow header</comment>
         <translation>Korr. p</translation>
     </message>
+    <message>
+        <source>%1 permutations, seed %2</source>
+        <translation>%1 Vertauschungen, Startwert %2</translation>
+    </message>
+    <message>
+        <source>Number of runs in %1</source>
+        <comment>a kept selection</comment>
+        <translation>Anzahl der Läufe in %1</translation>
+    </message>
+    <message>
+        <source>Number of the other runs</source>
+        <translation>Anzahl der anderen Läufe</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <comment>the other runs</comment>
+        <translation>Andere</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::ComparisonSettings</name>

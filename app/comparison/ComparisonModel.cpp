@@ -14,6 +14,8 @@ namespace
 {
 
 constexpr int allDigits = 17;
+/// Of the name of a group, in its header.
+constexpr int charactersOfAGroup = 16;
 
 bool isOfTest(int column)
 {
@@ -49,7 +51,43 @@ double numberIn(const stats::ParameterComparison& result, int column)
   }
 }
 
+QString shortened(const std::string& name)
+{
+  const QString text = QString::fromStdString(name);
+  return text.size() <= charactersOfAGroup ? text
+                                           : text.left(charactersOfAGroup - 1) + QChar(0x2026);
+}
+
 } // namespace
+
+/// By what the groups were compared, or p was adjusted, and what that drew at random.
+QString ComparisonModel::testText(const stats::ParameterComparison& result, int column)
+{
+  const bool adjusts = column == AdjustedPValue;
+  QStringList lines;
+  if (adjusts)
+    lines.append(adjustmentNames().value(static_cast<int>(result.adjustment)).text);
+  else
+    lines << comparedByNames().value(static_cast<int>(result.comparedBy)).text
+          << methodText(result.method);
+  const std::size_t permutations = adjusts ? result.adjustingPermutations : result.permutations;
+  if (permutations > 0)
+    lines.append(tr("%1 permutations, seed %2").arg(countText(permutations)).arg(result.seed));
+  return lines.join(QLatin1Char('\n'));
+}
+
+QString ComparisonModel::headerOfGroup(int column, bool isTip) const
+{
+  const std::string& name = column == Selected ? names.selected : names.others;
+  if (!name.empty())
+    return isTip ? tr("Number of runs in %1", "a kept selection").arg(QString::fromStdString(name))
+                 : shortened(name);
+  if (column == Selected)
+    return isTip ? tr("Number of selected runs") : tr("Selected");
+  if (!names.selected.empty())
+    return isTip ? tr("Number of the other runs") : tr("Others", "the other runs");
+  return isTip ? tr("Number of runs that are not selected") : tr("Not selected");
+}
 
 QString ComparisonModel::cellText(const ComparedParameter& parameter, int column) const
 {
@@ -93,8 +131,8 @@ QString ComparisonModel::tipText(const ComparedParameter& parameter, int column)
   QString tip = std::isnan(number) ? QString() : QString::number(number, 'g', allDigits);
   if (column == PValue && parameter.result.isOnlyBounded())
     tip = log10Text(parameter.result);
-  if (column == ComparisonModel::PValue)
-    tip += QLatin1Char('\n') + methodText(parameter.result.method);
+  if (isOfTest(column))
+    tip += QLatin1Char('\n') + testText(parameter.result, column);
   return tip;
 }
 
@@ -185,9 +223,8 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
                     "thresholds")
                : tr("Adj. p", "adjusted p, as a narrow header");
   case Selected:
-    return tip ? tr("Number of selected runs") : tr("Selected");
   case Others:
-    return tip ? tr("Number of runs that are not selected") : tr("Not selected");
+    return headerOfGroup(section, tip);
   default:
     return {};
   }

@@ -50,6 +50,8 @@ public:
 private:
   QString cellText(const ComparedParameter& parameter, int column) const;
   QString shownText(const ComparedParameter& parameter, int column) const;
+  static QString testText(const stats::ParameterComparison& result, int column);
+  QString headerOfGroup(int column, bool isTip) const;
   QString tipText(const ComparedParameter& parameter, int column) const;
   QVariant sortedBy(const ComparedParameter& parameter, int column) const;
 

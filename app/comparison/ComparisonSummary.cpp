@@ -116,7 +116,7 @@ QString summaryText(const Comparison& comparison, std::size_t selections)
                          .arg(comparison.seed));
   if (comparison.pending)
     sentences.append(Words::tr("The test is under way."));
-  if (!comparison.halved)
+  if (!comparison.halved && !comparison.pending)
     sentences.append(
         Words::tr("p-values found after looking are exploratory; selections looked at so "
                   "far: %1; check in halves.")

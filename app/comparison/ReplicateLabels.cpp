@@ -29,6 +29,12 @@ bool numbersReplicates(const std::string& name)
   return names.count(letters) > 0;
 }
 
+bool areWholeNumbers(const std::vector<double>& values)
+{
+  return std::all_of(values.begin(), values.end(),
+                     [](double value) { return std::isnan(value) || value == std::floor(value); });
+}
+
 bool isAmong(const std::vector<std::size_t>& positions, std::size_t position)
 {
   return std::find(positions.begin(), positions.end(), position) != positions.end();
@@ -59,7 +65,8 @@ std::vector<std::size_t> replicateLabels(const ComparedStudy& study)
 {
   std::vector<std::size_t> named;
   for (std::size_t k = 0; k < study.names.size(); ++k)
-    if (numbersReplicates(study.names[k]) && !isAmong(study.changing, k))
+    if (numbersReplicates(study.names[k]) && !isAmong(study.changing, k) &&
+        areWholeNumbers(study.columns[k]))
       named.push_back(k);
   if (named.empty() || !repeatWithout(named, study))
     return {};

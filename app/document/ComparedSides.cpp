@@ -163,6 +163,8 @@ ComparedSides comparedSides(PlotContainer& container, const ComparisonChoice& ch
 
 std::string chooseSides(PlotContainer& container, const PlotWishes& wishes, KeptSelections& kept)
 {
+  if (!wishes.with.empty() && TableRuns(container).numberOfRuns() == 0)
+    return "--with: this table has no runs to compare";
   ComparisonChoice choice = comparisonChoiceOf(container);
   choice.halves = choice.halves || wishes.halves;
   choice.seed = wishes.seed.value_or(choice.seed);

@@ -38,7 +38,12 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   compared.follow(&container);
   shown.choice = choiceOf(container);
   if (opened.session)
+  {
     restore(*opened.session);
+    // What is asked for is not the selection that was looked at last.
+    if (!wishes.select.empty() || !wishes.with.empty())
+      compared.setLookedBefore(static_cast<std::size_t>(opened.session->settings.tests.looked) + 1);
+  }
   shown.columns = choosableColumns(container);
   PlotChoice wished = shown.choice;
   std::string failure = chooseByName(container, wishes, wished);

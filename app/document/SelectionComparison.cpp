@@ -61,7 +61,7 @@ void SelectionComparison::follow(PlotContainer* container)
 {
   if (followed)
     followed->removeDrawingSteps(this);
-  if (underWay)
+  if (underWay && background.cancel)
     background.cancel();
   underWay = false;
   followed = container;
@@ -119,7 +119,7 @@ bool SelectionComparison::update()
 
 void SelectionComparison::begin()
 {
-  if (underWay)
+  if (underWay && background.cancel)
     background.cancel();
   underWay = false;
   if (comparisonState(*compared) == Comparison::State::compared)
@@ -155,7 +155,8 @@ void SelectionComparison::giveUp()
   if (!underWay)
     return;
   underWay = false;
-  background.cancel();
+  if (background.cancel)
+    background.cancel();
   comparison = describe(*compared, choice, TestObstacle::cancelled);
   handOver();
   emit found();

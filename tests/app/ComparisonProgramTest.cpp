@@ -160,6 +160,12 @@ TEST_F(ComparisonProgram, ComparesTwoConditions)
       run({csv, "--select", "max(X) > 9.5", "--with", "max(X) <", "--compare", path("out.csv")});
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.errors.count('\n'), 1);
+  expectError(
+      {csv, "--select", "max(X) > 9.5", "--with", "max(X) < 0", "--compare", path("other.csv")},
+      "no run to compare with is in \"max(X) < 0\"");
+  expectError(
+      {write("plain.csv", "a,b\n1,2\n3,4\n"), "--with", "a < 2", "--compare", path("other.csv")},
+      "--with: this table has no runs to compare");
 }
 
 TEST_F(ComparisonProgram, TakesTheSeedAndChecksInHalves)

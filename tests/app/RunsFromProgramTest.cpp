@@ -101,6 +101,8 @@ TEST_F(RunsFromProgram, AreRefusedInOneLine)
   EXPECT_EQ(plain.errors.toStdString(),
             "talmesh-plot: there are no runs to list: There is no time column, so the rows are not "
             "taken for runs.\n");
+  const Ended empty = run({write("text.csv", "a,b,c\n1,2,x\n3,4,y\n"), "--runs", out});
+  EXPECT_EQ(empty.errors, plain.errors) << "whatever else is noted";
   EXPECT_FALSE(QFile::exists(out));
   const QString csv = write("runs.csv", sampleRuns());
   const QString nowhere = path("nowhere/out.csv");
@@ -119,6 +121,11 @@ TEST_F(RunsFromProgram, AreSaidToBeMissingInAPictureThatCannotShowThem)
   EXPECT_EQ(over.status, 0);
   EXPECT_EQ(over.errors, "talmesh-plot: max(X) is one value for a run: shown only over parameters "
                          "and other such values\n");
+  const QString nowhere = path("nowhere/out.csv");
+  const Ended failed =
+      run({csv, "--x", "time", "--y", "max(X)", "--export", picture, "--runs", nowhere});
+  EXPECT_EQ(failed.status, 1);
+  EXPECT_EQ(failed.errors.count('\n'), 1) << failed.errors.toStdString();
   expectSuccess({csv, "--x", "k", "--y", "max(X)", "--export", picture});
 }
 

@@ -118,6 +118,7 @@ TEST(ComparisonText, SumsAComparisonUp)
             "looking are exploratory; selections looked at so far: 3; check in halves.");
   comparison.pending = true;
   EXPECT_TRUE(summaryText(comparison, 3).contains("under way"));
+  EXPECT_FALSE(summaryText(comparison, 3).contains("exploratory")) << "it may be one in halves";
   comparison.halved = true;
   comparison.seedOfHalves = 1;
   EXPECT_TRUE(summaryText(comparison, 3).startsWith("Tested is one half"));

@@ -33,6 +33,15 @@ TEST(ReplicateLabels, AreKnownByTheirNames)
     EXPECT_TRUE(replicateLabels(replicates(name)).empty()) << name;
 }
 
+TEST(ReplicateLabels, AreWholeNumbers)
+{
+  ComparedStudy study = replicates("rep");
+  study.columns[1][5] = std::nan("");
+  EXPECT_EQ(replicateLabels(study), Positions{1});
+  study.columns[1] = {0.1, 0.2, 0.1, 0.2, 0.1, 0.2};
+  EXPECT_TRUE(replicateLabels(study).empty()) << "as a repression has";
+}
+
 TEST(ReplicateLabels, AreNoneWhereAllRunsDifferWithoutThem)
 {
   ComparedStudy study = replicates("seed");

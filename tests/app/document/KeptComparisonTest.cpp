@@ -163,6 +163,15 @@ TEST_F(KeptComparison, IsKeptInSessions)
   EXPECT_EQ(document.comparison().selections(), looked);
   compare("low", "");
   EXPECT_EQ(document.comparison().selections(), looked + 1);
+  compare("", "");
+  PlotWishes wishes;
+  wishes.select = {"max(X) < 35"};
+  ASSERT_EQ(document.save(path), "");
+  const std::size_t lookedThen = document.comparison().selections();
+  const Result<OpenedStudy> again = openStudyFile(path);
+  ASSERT_EQ(document.open(again.value(), wishes), "");
+  ASSERT_EQ(document.comparison().current().state, State::compared);
+  EXPECT_EQ(document.comparison().selections(), lookedThen + 1);
 }
 
 TEST_F(KeptComparison, SaysInHalvesWhatSelectsTheRuns)
