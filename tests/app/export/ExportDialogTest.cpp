@@ -15,9 +15,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
