@@ -1,8 +1,4 @@
-#include "app/document/SelectionComparison.h"
-
 #include "external/PlotMetaData.h"
-#include "plot/ContainerAccess.h"
-#include "plot/PlotState.h"
 
 #include <vtkTable.h>
 
@@ -10,7 +6,7 @@
 
 #include <cmath>
 
-#include "document/ComparedRuns.h"
+#include "document/SelectionComparisonOfRuns.h"
 
 using namespace Talmesh::app;
 using State = Comparison::State;
@@ -31,56 +27,6 @@ std::string runsWith(int runs, Values values)
            << '\n';
   return text.str();
 }
-
-/// Five sets of four runs.
-std::string replicatedRuns()
-{
-  std::ostringstream text;
-  text << "run,time,k,X\n";
-  for (int run = 0; run < 20; ++run)
-    for (int point = 0; point < 3; ++point)
-      text << run << ',' << point << ',' << run / 4 << ',' << run + point << '\n';
-  return text.str();
-}
-
-class SelectionComparisonOfRuns : public ComparedRuns
-{
-protected:
-  explicit SelectionComparisonOfRuns(const std::string& text = twentyRuns())
-      : ComparedRuns(text)
-  {
-    comparison.follow(&container());
-  }
-
-  /// Of tables without a column of run numbers: three rows a run.
-  void selectRunsByRows(const std::set<int>& runs)
-  {
-    std::vector<vtkIdType> rows;
-    for (const int run : runs)
-      rows.push_back(3 * run);
-    selectRows(rows);
-  }
-
-  /// What the container's charts are told.
-  std::vector<ParameterTest> handed() { return *::stateOf(container()).parameterTests; }
-
-  /// Takes work and keeps it until it is done by hand.
-  void delay()
-  {
-    comparison.setBackground({[this](const SelectionComparison::Work& work, const auto& deliver)
-                              {
-                                begun.push_back(work);
-                                deliveries.push_back(deliver);
-                              },
-                              [this] { ++cancelled; }});
-  }
-  void finish(std::size_t which) { deliveries[which](begun[which]({})); }
-
-  SelectionComparison comparison;
-  std::vector<SelectionComparison::Work> begun;
-  std::vector<std::function<void(const Comparison&)>> deliveries;
-  int cancelled = 0;
-};
 
 class SelectionComparisonOfASwitch : public SelectionComparisonOfRuns
 {
@@ -106,15 +52,6 @@ class SelectionComparisonOfAChangingParameter : public SelectionComparisonOfRuns
 protected:
   SelectionComparisonOfAChangingParameter()
       : SelectionComparisonOfRuns(runsWith(20, [](int run, int point) { return 10 * run + point; }))
-  {
-  }
-};
-
-class SelectionComparisonOfReplicates : public SelectionComparisonOfRuns
-{
-protected:
-  SelectionComparisonOfReplicates()
-      : SelectionComparisonOfRuns(replicatedRuns())
   {
   }
 };
@@ -253,56 +190,4 @@ TEST_F(SelectionComparisonOfAChangingParameter, TestsTheOthersOnly)
   EXPECT_EQ(found.parameters[0].obstacle, TestObstacle::changingValues);
   EXPECT_EQ(found.parameters[1].obstacle, TestObstacle::none);
   EXPECT_FALSE(std::isnan(found.parameters[1].result.p));
-}
-
-TEST_F(SelectionComparisonOfReplicates, PermutesAtOnceWithoutABackground)
-{
-  select({0, 1, 2, 4});
-  const Comparison& found = comparison.current();
-  EXPECT_EQ(found.units.kind, stats::IndependentUnit::parameterSet);
-  EXPECT_EQ(found.permutations, 9'999U);
-  EXPECT_FALSE(std::isnan(found.parameters[0].result.p));
-}
-
-TEST_F(SelectionComparisonOfReplicates, ShowsTheResultsOfTheBackgroundWhenTheyAreThere)
-{
-  delay();
-  QSignalSpy found(&comparison, &SelectionComparison::found);
-  select({0, 1, 2, 4});
-  EXPECT_TRUE(comparison.current().pending);
-  EXPECT_EQ(handed()[0].title, "\u2026");
-  EXPECT_GT(comparison.current().parameters[0].result.distance, 0.0);
-  container().redraw();
-  ASSERT_EQ(begun.size(), 1U) << "begun once";
-  finish(0);
-  EXPECT_EQ(found.count(), 1);
-  EXPECT_FALSE(comparison.current().pending);
-  EXPECT_EQ(handed()[0].title.rfind("adjusted p", 0), 0U);
-  EXPECT_EQ(begun.size(), 1U);
-}
-
-TEST_F(SelectionComparisonOfReplicates, GivesUpWhatANewerSelectionSupersedes)
-{
-  delay();
-  select({0, 1, 2, 4});
-  select({0, 1, 2, 5, 6});
-  EXPECT_EQ(cancelled, 1);
-  ASSERT_EQ(begun.size(), 2U);
-  selectRows({});
-  EXPECT_EQ(cancelled, 2);
-  EXPECT_EQ(comparison.current().state, State::nothingSelected);
-}
-
-TEST_F(SelectionComparisonOfReplicates, CanBeGivenUp)
-{
-  delay();
-  select({0, 1, 2, 4});
-  comparison.giveUp();
-  EXPECT_EQ(cancelled, 1);
-  EXPECT_EQ(comparison.current().parameters[0].obstacle, TestObstacle::cancelled);
-  EXPECT_EQ(handed()[0].title, "cancelled");
-  comparison.giveUp();
-  EXPECT_EQ(cancelled, 1) << "nothing is under way";
-  select({0, 1, 5});
-  EXPECT_EQ(begun.size(), 2U);
 }
