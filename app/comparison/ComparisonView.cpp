@@ -93,7 +93,8 @@ void ComparisonView::fitColumns()
   const int direction = wished(ComparisonModel::DirectionOfDifference);
   const int name = std::min(wished(ComparisonModel::Name), charactersOfAName * letter);
   const int narrowest = charactersAtLeast * letter;
-  const int nameThen = std::clamp(room - direction, std::min(narrowest, name), name);
+  const int shortest = std::max(narrowest, header.sectionSizeHint(ComparisonModel::Name));
+  const int nameThen = std::clamp(room - direction, std::min(shortest, name), name);
   const int directionThen = std::clamp(room - nameThen, std::min(narrowest, direction), direction);
   setColumnWidth(ComparisonModel::Name, nameThen);
   setColumnWidth(ComparisonModel::DirectionOfDifference, directionThen);
