@@ -15,6 +15,16 @@ set(TALMESH_PRECOMPILED_WINDOWS
 function(talmesh_precompile target)
   target_precompile_headers(${target} PRIVATE
     ${TALMESH_PRECOMPILED_STANDARD} ${TALMESH_PRECOMPILED_CHARTS} ${ARGN})
+  talmesh_preprocess_precompiled(${target})
+endfunction()
+
+# For targets with the flags of `host`.
+function(talmesh_share_precompiled target host)
+  target_precompile_headers(${target} REUSE_FROM ${host})
+  talmesh_preprocess_precompiled(${target})
+endfunction()
+
+function(talmesh_preprocess_precompiled target)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
   endif()

@@ -32,16 +32,32 @@ protected:
     type(name);
   }
 
+  /// Where a name is typed, if one is asked for. One that has been closed may not be gone yet.
+  QLineEdit* nameEditor()
+  {
+    for (QLineEdit* any : tree().findChildren<QLineEdit*>())
+      if (any->isVisible())
+        return any;
+    return nullptr;
+  }
+
+  /// Strikes a key of the list, which has the keyboard only in a window that has it.
+  void strike(Qt::Key key)
+  {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    tree().setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return tree().hasFocus(); }, patience));
+    QTest::keyClick(&tree(), key);
+  }
+
   /// Types the name into the row that waits for it.
   void type(const QString& name)
   {
-    // One that has been closed may not be gone yet.
-    QLineEdit* edit = nullptr;
-    for (QLineEdit* any : tree().findChildren<QLineEdit*>())
-      edit = any->isVisible() ? any : edit;
-    ASSERT_NE(edit, nullptr) << "no name is asked for";
-    QTest::keyClicks(edit, name);
-    QTest::keyClick(edit, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return nameEditor() != nullptr; }, patience))
+        << "no name is asked for";
+    QTest::keyClicks(nameEditor(), name);
+    QTest::keyClick(nameEditor(), Qt::Key_Return);
     // The name is taken when the row is no longer at work.
     const auto isTaken = [&]
     {
@@ -50,6 +66,7 @@ protected:
                          { return selection.name == name.toStdString(); });
     };
     EXPECT_TRUE(QTest::qWaitFor(isTaken, patience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return nameEditor() == nullptr; }, patience));
     QTest::qWait(20);
   }
 
@@ -152,7 +169,7 @@ TEST_F(KeptSelectionsInWindow, RenamesColoursAndRemoves)
 {
   keepAs({20}, "a");
   click(0);
-  QTest::keyClick(&tree(), Qt::Key_F2);
+  strike(Qt::Key_F2);
   type("b");
   EXPECT_EQ(kept().front().name, "b");
   clickButton("renameSelection");
@@ -166,10 +183,7 @@ TEST_F(KeptSelectionsInWindow, RenamesColoursAndRemoves)
   QTest::qWait(20);
   EXPECT_EQ(kept().front().colour, 0x010203U);
   // The dialog had the keyboard.
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  tree().setFocus();
-  QTest::keyClick(&tree(), Qt::Key_Delete);
+  strike(Qt::Key_Delete);
   EXPECT_TRUE(kept().empty());
   EXPECT_FALSE(button("removeSelection")->isEnabled());
   press(QKeySequence::Undo);
