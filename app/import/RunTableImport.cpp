@@ -18,6 +18,9 @@ namespace Talmesh::app
 namespace
 {
 
+/// A layout whose score is this part of the best one could be meant as well.
+constexpr double closeScores = 0.8;
+
 bool isTextColumn(const ColumnValues& column)
 {
   return column.texts > 0 && column.numbers == 0;
@@ -152,19 +155,60 @@ bool hasNumbers(const TableText& text)
                      [](const ColumnValues& column) { return column.numbers > 0; });
 }
 
-} // namespace
+void describe(const ImportedTable& imported, ImportReport& report)
+{
+  report.warnings.insert(report.warnings.end(), imported.notes.begin(), imported.notes.end());
+  report.runs = imported.runs->numberOfTrajectories;
+  report.fewestPoints = imported.runs->pointsPerTrajectory;
+  report.mostPoints = imported.runs->pointsPerTrajectory;
+  for (const auto& [kind, name] : imported.runs->items)
+    if (kind == Parameter)
+      report.parameters.push_back(name);
+    else if (kind != TimeOrValue)
+      report.items.push_back(name);
+}
 
-Result<ImportedTable> importRunTable(std::string_view bytes, const ImportProgress& progress,
-                                     const TextPassed& passed)
+std::string namesOf(const std::vector<LayoutCandidate>& candidates)
+{
+  std::string names;
+  for (const LayoutCandidate& candidate : candidates)
+    names += (names.empty() ? "--layout " : ", --layout ") + candidate.layout + " (" +
+             candidate.reason + ')';
+  return names;
+}
+
+/// The layout that the user names, else the one that fits best.
+Result<const Layout*> chosenLayout(const TableText& text, const ImportRequest& request,
+                                   ImportReport& report)
+{
+  using Chosen = Result<const Layout*>;
+  if (!request.layout.empty())
+  {
+    if (const Layout* named = findLayout(request.layout))
+      return named;
+    return Chosen::failed(withValues(translated("RunTableImport", "there is no layout %1"),
+                                     {quotedForMessage(request.layout)}));
+  }
+  std::vector<LayoutCandidate> candidates = candidatesFor(text, request);
+  if (candidates.empty())
+    return Chosen::failed(noNumbers());
+  report.reasons.push_back(candidates.front().reason);
+  const double close = closeScores * candidates.front().score;
+  candidates.erase(std::remove_if(candidates.begin(), candidates.end(),
+                                  [close](const LayoutCandidate& candidate)
+                                  { return candidate.score < close; }),
+                   candidates.end());
+  if (candidates.size() == 1)
+    return findLayout(candidates.front().layout);
+  report.candidates = candidates;
+  return Chosen::failed(withValues(
+      translated("RunTableImport", "it is not clear how the table is laid out; say which: %1"),
+      {namesOf(candidates)}));
+}
+
+Result<ImportedTable> importArranged(TableText text, ImportReport& report)
 {
   using Imported = Result<ImportedTable>;
-  Result<TableText> read = readTableText(bytes, progress, passed);
-  if (!read.hasValue())
-    return Imported::without(read);
-  TableText& text = read.value();
-  const std::string refused = hasNumbers(text) ? mistypedCell(text) : noNumbers();
-  if (!refused.empty())
-    return Imported::failed(refused);
   LeftOutColumns leftOut = leftOutOf(text);
   if (std::find(leftOut.flags.begin(), leftOut.flags.end(), false) == leftOut.flags.end())
     return Imported::failed(noNumbers());
@@ -175,7 +219,7 @@ Result<ImportedTable> importRunTable(std::string_view bytes, const ImportProgres
     if (!note.empty())
       imported.notes.push_back(note);
   };
-  if (!text.roles.describeRuns())
+  if (!text.hasRuns)
   {
     addNote(noteOnMissingTime(text, 0));
     imported.table = plainTable(text, leftOut.flags);
@@ -189,7 +233,41 @@ Result<ImportedTable> importRunTable(std::string_view bytes, const ImportProgres
   imported.runs = built.runs;
   for (const std::string& parameter : built.unvariedParameters)
     addNote(noteOnUnvaried(parameter));
+  describe(imported, report);
   return imported;
+}
+
+} // namespace
+
+Result<ImportedTable> importTable(TableText text, const ImportTask& task, ImportReport& report)
+{
+  using Imported = Result<ImportedTable>;
+  const std::string refused = hasNumbers(text) ? mistypedCell(text) : noNumbers();
+  if (!refused.empty())
+    return Imported::failed(refused);
+  const Result<const Layout*> layout = chosenLayout(text, task.request, report);
+  if (!layout.hasValue())
+    return Imported::without(layout);
+  report.layout = layout.value()->name;
+  Result<TableText> arranged =
+      layout.value()->arrange(std::move(text), {task.request, task.beside, report});
+  return arranged.hasValue() ? importArranged(std::move(arranged.value()), report)
+                             : Imported::without(arranged);
+}
+
+Result<ImportedTable> importTable(std::string_view bytes, const ImportTask& task,
+                                  ImportReport& report)
+{
+  Result<TableText> read = readTableText(bytes, task.progress, task.passed);
+  return read.hasValue() ? importTable(std::move(read.value()), task, report)
+                         : Result<ImportedTable>::without(read);
+}
+
+Result<ImportedTable> importRunTable(std::string_view bytes, const ImportProgress& progress,
+                                     const TextPassed& passed)
+{
+  ImportReport report;
+  return importTable(bytes, {{}, progress, passed, {}}, report);
 }
 
 } // namespace Talmesh::app

@@ -2,7 +2,11 @@
 #define RunTableImport_h
 
 #include "app/import/ImportProgress.h"
+#include "app/import/ImportReport.h"
+#include "app/import/ImportRequest.h"
+#include "app/import/Layouts.h"
 #include "app/import/Result.h"
+#include "app/import/Study.h"
 #include "app/import/TableText.h"
 #include "external/LinePlotTable.h"
 
@@ -25,11 +29,33 @@ struct ImportedTable
   boost::shared_ptr<LinePlotTable> runs;
   /// A table of double columns without an order of rows: no time, no run, no typed header.
   vtkSmartPointer<vtkTable> table;
+  /// The columns of runs or table whose numbers stand for texts.
+  std::vector<Category> categories;
   /// What the user should know although the import succeeded, one line each.
   std::vector<std::string> notes;
 };
 
-/// Reads a delimited table of runs: a line of headers, then one row per time point.
+/// How a table is to be imported. Everything may be left out.
+struct ImportTask
+{
+  ImportRequest request;
+  /// Told every few thousand rows.
+  ImportProgress progress;
+  TextPassed passed;
+  FileBeside beside;
+};
+
+/// Makes runs or a plain table of named columns, as `request` says or else as the columns
+/// themselves tell. Fails where two layouts fit about equally well, naming both.
+/// @param report gets what was understood, and the candidates where that is unsure
+Result<ImportedTable> importTable(TableText text, const ImportTask& task, ImportReport& report);
+
+/// The same of a delimited text.
+Result<ImportedTable> importTable(std::string_view bytes, const ImportTask& task,
+                                  ImportReport& report);
+
+/// Reads a delimited table of runs of which nothing else is known: a line of headers, then one row
+/// per time point.
 ///
 /// Comma, semicolon and tab are recognised, as are decimal commas between tabs and semicolons.
 /// Names that are not valid UTF-8 are taken for Latin-1. Empty cells are NaN. Blank rows are

@@ -10,11 +10,21 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Talmesh::app
 {
 
 struct OwnChart;
+
+/// A column whose numbers 0, 1, 2, ... stand for texts.
+struct Category
+{
+  /// The column's label: "Parameter: drug" of runs, "drug" of a plain table.
+  std::string column;
+  /// The text of each number.
+  std::vector<std::string> levels;
+};
 
 /// The data that the viewer shows: runs or, for data without runs, a plain table, or else a chart
 /// that is computed. Texts are UTF-8.
@@ -26,6 +36,7 @@ struct Study
   vtkSmartPointer<vtkTable> table;
   /// Null for data whose chart the user composes.
   std::shared_ptr<const OwnChart> chart = nullptr;
+  std::vector<Category> categories = {};
 };
 
 /// The state of every run at its last point, as a study of one point per run; of a plain table the

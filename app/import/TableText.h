@@ -49,6 +49,8 @@ struct TableText
   /// The run of each row, into `runNames`; empty without a run column.
   std::vector<int> runOfRow;
   std::vector<std::string> runNames;
+  /// Whether rows are points of runs at all.
+  bool hasRuns = true;
 };
 
 /// Told how many bytes of a text, from its first one on, will not be looked at again.

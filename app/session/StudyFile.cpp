@@ -5,6 +5,7 @@
 #include "app/session/Session.h"
 #include "app/session/SessionFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -12,6 +13,7 @@
 #include <cstdint>
 #include <exception>
 #include <new>
+#include <optional>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <utility>
@@ -120,18 +122,31 @@ private:
   std::uintptr_t begin;
 };
 
-Result<OpenedStudy> openBytes(std::string& bytes, const ImportProgress& progress)
+/// Reads small files that stand beside a table.
+FileBeside besideOf(const QString& path)
 {
-  const auto parsing = [&progress](double done)
+  const QDir folder = QFileInfo(path).dir();
+  return [folder](const std::string& name) -> std::optional<std::string>
+  {
+    const Result<std::string> read = readBytes(folder.filePath(QString::fromStdString(name)), {});
+    return read.hasValue() ? std::make_optional(read.value()) : std::nullopt;
+  };
+}
+
+Result<OpenedStudy> openBytes(std::string& bytes, ImportTask task, ImportReport& report)
+{
+  const ImportProgress progress = task.progress;
+  task.progress = [&progress](double done)
   { return !progress || progress(readingPart + (1.0 - readingPart) * done); };
   PassedPages pages(bytes);
-  const Result<ImportedTable> imported =
-      importRunTable(bytes, parsing, [&pages](std::size_t passed) { pages.pass(passed); });
+  task.passed = [&pages](std::size_t passed) { pages.pass(passed); };
+  const Result<ImportedTable> imported = importTable(bytes, task, report);
   if (!imported.hasValue())
     return Result<OpenedStudy>::without(imported);
   OpenedStudy opened;
   opened.study.runs = imported.value().runs;
   opened.study.table = imported.value().table;
+  opened.study.categories = imported.value().categories;
   opened.notes = imported.value().notes;
   return opened;
 }
@@ -147,20 +162,22 @@ Result<OpenedStudy> openFromSession(const QString& path, const ImportProgress& p
   return opened;
 }
 
-Result<OpenedStudy> open(const QString& path, const ImportProgress& progress)
+Result<OpenedStudy> open(const QString& path, const ImportTask& task, ImportReport& report)
 {
   if (isSessionFile(path))
-    return openFromSession(path, progress);
-  Result<std::string> read = readBytes(path, progress);
-  return read.hasValue() ? openBytes(read.value(), progress) : Result<OpenedStudy>::without(read);
+    return openFromSession(path, task.progress);
+  Result<std::string> read = readBytes(path, task.progress);
+  return read.hasValue() ? openBytes(read.value(), task, report)
+                         : Result<OpenedStudy>::without(read);
 }
 
 /// What is thrown becomes an error.
-Result<OpenedStudy> openOrSayWhyNot(const QString& path, const ImportProgress& progress)
+Result<OpenedStudy> openOrSayWhyNot(const QString& path, const ImportTask& task,
+                                    ImportReport& report)
 {
   try
   {
-    return open(path, progress);
+    return open(path, task, report);
   }
   catch (const std::bad_alloc&)
   {
@@ -176,9 +193,12 @@ Result<OpenedStudy> openOrSayWhyNot(const QString& path, const ImportProgress& p
 
 } // namespace
 
-Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress)
+Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress,
+                                  const ImportRequest& request, ImportReport* report)
 {
-  Result<OpenedStudy> opened = openOrSayWhyNot(path, progress);
+  ImportReport untold;
+  Result<OpenedStudy> opened =
+      openOrSayWhyNot(path, {request, progress, {}, besideOf(path)}, report ? *report : untold);
   if (!opened.error().empty())
     return Result<OpenedStudy>::failed(path.toStdString() + ": " + opened.error());
   if (opened.hasValue() && !opened.value().session)

@@ -2,6 +2,8 @@
 #define StudyFile_h
 
 #include "app/import/ImportProgress.h"
+#include "app/import/ImportReport.h"
+#include "app/import/ImportRequest.h"
 #include "app/import/Result.h"
 #include "app/import/Study.h"
 
@@ -32,7 +34,11 @@ using StudyJob = std::function<Result<OpenedStudy>(const ImportProgress&)>;
 
 /// Reads a table or a session from a regular file. Errors begin with the file's name. May run in
 /// any thread.
-Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress = {});
+/// @param request what the user has said of the table
+/// @param report gets what was understood of it, also when it cannot be opened
+Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress = {},
+                                  const ImportRequest& request = {},
+                                  ImportReport* report = nullptr);
 
 } // namespace Talmesh::app
 

@@ -1,0 +1,43 @@
+#ifndef ImportRequest_h
+#define ImportRequest_h
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// What becomes of runs whose times differ: the union of all times, where each run has gaps, or
+/// that union with straight lines across the gaps inside each run.
+enum class UnequalRuns
+{
+  Union,
+  Interpolate
+};
+
+/// What the user has said of a table. Everything may be left open, and is found out then. Names are
+/// those of columns, in UTF-8.
+struct ImportRequest
+{
+  /// The name of a layout (Layouts.h); empty to recognise it.
+  std::string layout;
+  std::string time;
+  /// Columns that name the run of a row together.
+  std::vector<std::string> run;
+  std::string item;
+  std::string value;
+  std::vector<std::string> parameters;
+  /// Columns of text, or of few values, that become categories.
+  std::vector<std::string> conditions;
+  std::vector<std::string> ignored;
+  /// A blank stands for any number of blanks and tabs.
+  std::optional<char> separator;
+  /// A point or a comma.
+  std::optional<char> decimalMark;
+  std::optional<UnequalRuns> unequal;
+};
+
+} // namespace Talmesh::app
+
+#endif

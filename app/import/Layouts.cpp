@@ -1,0 +1,38 @@
+#include "app/import/Layouts.h"
+
+#include "app/import/LayoutUnits.h"
+
+#include <algorithm>
+
+namespace Talmesh::app
+{
+
+const std::vector<Layout>& layouts()
+{
+  static const std::vector<Layout> all = {stackedLayout, plainLayout};
+  return all;
+}
+
+const Layout* findLayout(const std::string& name)
+{
+  const auto found = std::find_if(layouts().begin(), layouts().end(),
+                                  [&](const Layout& layout) { return name == layout.name; });
+  return found == layouts().end() ? nullptr : &*found;
+}
+
+std::vector<LayoutCandidate> candidatesFor(const TableText& text, const ImportRequest& request)
+{
+  std::vector<LayoutCandidate> candidates;
+  for (const Layout& layout : layouts())
+  {
+    const LayoutFit fit = layout.recognise(text, request);
+    if (fit.score > 0.0)
+      candidates.push_back({layout.name, fit.score, fit.reason});
+  }
+  std::stable_sort(candidates.begin(), candidates.end(),
+                   [](const LayoutCandidate& a, const LayoutCandidate& b)
+                   { return a.score > b.score; });
+  return candidates;
+}
+
+} // namespace Talmesh::app
