@@ -568,6 +568,10 @@ p, li { white-space: pre-wrap; }
         <source>Select nothing</source>
         <translation>Nichts auswählen</translation>
     </message>
+    <message>
+        <source>there is not enough memory for this condition</source>
+        <translation>der Speicher reicht für diese Bedingung nicht</translation>
+    </message>
 </context>
 <context>
     <name>RunGrouping</name>
@@ -1934,6 +1938,17 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Group</source>
         <translation>Gruppe</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::SearchController</name>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Looking for the runs that meet the condition ...</source>
+        <translation>Suche die Läufe, die die Bedingung erfüllen ...</translation>
     </message>
 </context>
 <context>

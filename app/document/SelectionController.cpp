@@ -7,8 +7,6 @@
 #include <vtkIntArray.h>
 #include <vtkTable.h>
 
-#include <QMetaObject>
-
 #include <algorithm>
 #include <numeric>
 #include <vector>
@@ -50,14 +48,12 @@ SelectionController::SelectionController(QObject* parent)
     : QObject(parent)
     , history(stack)
     , visitHistory(visitStack)
-    , pointing(
-          [this](const std::string& words, RunCombination how)
-          {
-            const bool selected = selectWhere(words, how).text.empty();
-            if (selected)
-              emit pointed(QString::fromStdString(words));
-            return selected;
-          })
+    , pointing([this](const std::string& words, RunCombination how)
+               { return selectWhere(words, how).text.empty(); })
+    , search([this](const std::vector<bool>& hit, const std::string& words, RunCombination how)
+             { selectRuns(hit, words, how); },
+             [this] { emit gaveUp(); })
+    , telling(*this, [this] { emit changed(); })
 {
   for (SelectionHistory* steps : {&history, &visitHistory})
     steps->setNaming(&SelectionController::stepToSelected);
@@ -102,6 +98,7 @@ void SelectionController::endVisit()
 void SelectionController::observe(PlotContainer* observed, QUndoStack& itsStack)
 {
   stopObserving();
+  giveUp();
   container = observed;
   link = observed ? observed->getAnnotationLink() : nullptr;
   pointing.follow(observed);
@@ -156,23 +153,15 @@ bool SelectionController::announce(vtkObject*, unsigned long, void*)
 {
   if (container && makeWhole())
     return true;
+  if (search.isUnderWay())
+    search.giveUpUnless(selectedRuns());
   emit changing();
   return false;
 }
 
 void SelectionController::announceLater()
 {
-  if (announcing)
-    return;
-  announcing = true;
-  QMetaObject::invokeMethod(
-      this,
-      [this]
-      {
-        announcing = false;
-        emit changed();
-      },
-      Qt::QueuedConnection);
+  telling.ask();
 }
 
 void SelectionController::selectAll()
@@ -219,13 +208,7 @@ FilterFault SelectionController::selectWhere(const std::string& words, RunCombin
     return {};
   if (!hasRuns())
     return {0, noRuns()};
-  TableRuns runs(*container);
-  FilterFault fault;
-  const RunFilter filter = RunFilter::read(words, runs, fault);
-  if (!fault.text.empty())
-    return fault;
-  selectRuns(filter.select(runs, {}).value(), words, how);
-  return {};
+  return search.search(TableRuns(*container), words, how);
 }
 
 SelectionHistory& SelectionController::shownHistory()

@@ -1,7 +1,9 @@
 #ifndef SelectionController_h
 #define SelectionController_h
 
+#include "app/document/LaterCall.h"
 #include "app/document/RunGestures.h"
+#include "app/document/RunSearch.h"
 #include "app/document/SelectionHistory.h"
 #include "app/document/TableRuns.h"
 
@@ -50,9 +52,17 @@ public:
   void clear();
   /// Selects the others.
   void invert();
-  /// Selects the runs that meet a condition in words, as one step of the history that says so.
+  /// Selects the runs that meet a condition in words, as one step of the history that says so;
+  /// later where that takes long, see `RunSearch`.
   /// @return what is wrong with the words, if anything is; nothing is changed then
   FilterFault selectWhere(const std::string& words, RunCombination how);
+  /// Where such work is done; without one all is done at once.
+  void setBackground(const RunSearch::Background& elsewhere) { search.setBackground(elsewhere); }
+  void setPatience(std::chrono::milliseconds most) { search.setPatience(most); }
+  bool isSearching() const { return search.isUnderWay(); }
+  /// Leaves what is selected as it is, whatever is still being looked for.
+  /// @return whether anything was
+  bool giveUp() { return search.giveUp(); }
   /// Selects runs that are known already, as one step of the history.
   /// @param hit for each run of the table whether it is one of them
   /// @param words the condition that they meet, by which the step is named
@@ -97,8 +107,8 @@ signals:
   /// The selection is another one. Emitted from the event loop, after the chart's own handler, once
   /// for changes that come together.
   void changed();
-  /// Runs were selected by the mouse, which these words do as well.
-  void pointed(const QString& words);
+  /// What was being looked for is not selected any more: the user or another selection ended that.
+  void gaveUp();
 
 private:
   SelectionHistory& shownHistory();
@@ -123,7 +133,8 @@ private:
   SelectionHistory history;
   SelectionHistory visitHistory;
   RunGestures pointing;
-  bool announcing = false;
+  RunSearch search;
+  LaterCall telling;
 };
 
 } // namespace Talmesh::app

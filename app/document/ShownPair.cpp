@@ -2,13 +2,12 @@
 
 #include <vtkCommand.h>
 
-#include <QMetaObject>
-
 namespace Talmesh::app
 {
 
 ShownPair::ShownPair(QObject* parent)
     : QObject(parent)
+    , telling(*this, [this] { emit changed(); })
 {
 }
 
@@ -27,23 +26,13 @@ void ShownPair::watch(vtkAbstractContextItem* item)
   matrix = next;
   if (matrix)
     observerTag =
-        matrix->AddObserver(vtkCommand::AnnotationChangedEvent, this, &ShownPair::announceLater);
+        matrix->AddObserver(vtkCommand::AnnotationChangedEvent, this, &ShownPair::announce);
 }
 
 /// The matrix tells of it before it shows the pair.
-void ShownPair::announceLater()
+void ShownPair::announce()
 {
-  if (announcing)
-    return;
-  announcing = true;
-  QMetaObject::invokeMethod(
-      this,
-      [this]
-      {
-        announcing = false;
-        emit changed();
-      },
-      Qt::QueuedConnection);
+  telling.ask();
 }
 
 } // namespace Talmesh::app

@@ -1,6 +1,8 @@
 #ifndef ShownPair_h
 #define ShownPair_h
 
+#include "app/document/LaterCall.h"
+
 #include <vtkScatterPlotMatrix.h>
 #include <vtkWeakPointer.h>
 
@@ -28,11 +30,11 @@ signals:
   void changed();
 
 private:
-  void announceLater();
+  void announce();
 
   vtkWeakPointer<vtkScatterPlotMatrix> matrix;
   unsigned long observerTag = 0;
-  bool announcing = false;
+  LaterCall telling;
 };
 
 } // namespace Talmesh::app

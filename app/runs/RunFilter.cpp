@@ -22,7 +22,7 @@ constexpr std::size_t runsAtATime = 64;
 /// One run as filters see it.
 struct FilteredRun
 {
-  const FilteredRuns& runs;
+  const NumberedRuns& runs;
   std::size_t run;
 };
 
@@ -276,12 +276,12 @@ bool RunFilter::listsRuns() const
   return condition && namesRunNumbers(*condition);
 }
 
-bool RunFilter::selects(const FilteredRuns& runs, std::size_t run) const
+bool RunFilter::selects(const NumberedRuns& runs, std::size_t run) const
 {
   return condition && isMet(*condition, {runs, run});
 }
 
-Result<std::vector<bool>> RunFilter::select(const FilteredRuns& runs,
+Result<std::vector<bool>> RunFilter::select(const NumberedRuns& runs,
                                             const ImportProgress& progress) const
 {
   std::vector<bool> selected(runs.numberOfRuns(), false);

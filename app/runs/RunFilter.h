@@ -15,22 +15,28 @@
 namespace Talmesh::app
 {
 
-/// What filters read: runs, each with the same number of points of every item.
-class FilteredRuns
+/// Runs by their places, each with the same number of points of every item.
+class NumberedRuns
 {
 public:
-  virtual ~FilteredRuns() = default;
+  virtual ~NumberedRuns() = default;
 
   virtual std::size_t numberOfRuns() const = 0;
   /// What the table calls a run.
   virtual double runNumber(std::size_t run) const = 0;
+  /// What the first of two columns draws over the other; over time where that is negative. Valid
+  /// while the table is.
+  virtual RunCourse course(std::size_t run, int column, int over) const = 0;
+};
+
+/// What filters are read for: runs whose columns have names.
+class FilteredRuns : public NumberedRuns
+{
+public:
   /// The column that a filter names, or why there is none.
   virtual Result<int> column(const std::string& name) const = 0;
   /// Whether a column has one value for a whole run, as parameters have.
   virtual bool isOfWholeRun(int column) const = 0;
-  /// What the first of two columns draws over the other; over time where that is negative. Valid
-  /// while the table is.
-  virtual RunCourse course(std::size_t run, int column, int over) const = 0;
 };
 
 struct BoundTerm;
@@ -58,9 +64,9 @@ public:
 
   /// Whether a run meets the condition. A comparison with a missing value (NaN) is not met.
   /// @param runs those that the filter was read for, or others of the same columns
-  bool selects(const FilteredRuns& runs, std::size_t run) const;
+  bool selects(const NumberedRuns& runs, std::size_t run) const;
   /// For all runs; cancelled when `progress`, which may be empty, says so.
-  Result<std::vector<bool>> select(const FilteredRuns& runs, const ImportProgress& progress) const;
+  Result<std::vector<bool>> select(const NumberedRuns& runs, const ImportProgress& progress) const;
 
 private:
   std::unique_ptr<const BoundTerm> condition;

@@ -53,6 +53,13 @@ FilterLine::FilterLine(SelectionController& changed, QWidget* parent)
   connect(line, &QLineEdit::returnPressed, this, &FilterLine::apply);
   connect(line, &QLineEdit::textEdited, this, [this] { showFault({}); });
   connect(button, &QPushButton::clicked, this, &FilterLine::apply);
+  connect(&selection, &SelectionController::gaveUp, this,
+          [this]
+          {
+            // What stands there does not select what it says.
+            if (std::exchange(applied, false))
+              line->setModified(true);
+          });
 }
 
 void FilterLine::show(const QString& words)
@@ -96,9 +103,11 @@ QString FilterLine::fault() const
 void FilterLine::apply()
 {
   const auto how = static_cast<RunCombination>(combination->currentData().toInt());
+  const std::vector<bool> before = selection.selectedRuns();
   const FilterFault fault = selection.selectWhere(line->text().toStdString(), how);
-  applied = fault.text.empty();
-  line->setModified(!applied);
+  // Of a selection that stays as it is nobody hears.
+  applied = fault.text.empty() && (selection.isSearching() || selection.selectedRuns() != before);
+  line->setModified(!fault.text.empty());
   showFault(fault);
 }
 

@@ -6,6 +6,7 @@
 #include "app/window/ExportController.h"
 #include "app/window/GroupController.h"
 #include "app/window/RecentMenu.h"
+#include "app/window/SearchController.h"
 #include "app/window/SessionController.h"
 #include "app/window/WindowPanels.h"
 #include "plot/PlotContainer.h"
@@ -50,6 +51,7 @@ MainWindow::MainWindow(QWidget* parent)
     , panels(new WindowPanels(*this, shown, *plot))
     , status(*statusBar())
     , opener(new StudyOpener(shown, status.opening(), this))
+    , searching(new SearchController(shown, status.searching(), this))
     , grouping(new GroupController(*panels->clusters, shown, status.grouping(), this))
     , comparing(new ComparisonController(*panels->comparison, shown, status.comparing(), this))
     , sessions(new SessionController(*this, shown))
@@ -71,6 +73,7 @@ MainWindow::~MainWindow()
 {
   // Their threads must not outlive what they report to.
   delete opener;
+  delete searching;
   delete grouping;
   delete comparing;
   delete exports;
@@ -137,8 +140,8 @@ bool MainWindow::isLoading() const
 
 bool MainWindow::isBusy() const
 {
-  return isLoading() || grouping->isGrouping() || comparing->isComparing() ||
-         exports->isExporting();
+  return isLoading() || searching->isSearching() || grouping->isGrouping() ||
+         comparing->isComparing() || exports->isExporting();
 }
 
 void MainWindow::returnToRuns()

@@ -23,6 +23,7 @@ class GestureActions;
 class GroupController;
 class PlotDock;
 class RecentMenu;
+class SearchController;
 class SessionController;
 class WindowPanels;
 
@@ -44,8 +45,7 @@ public:
   /// Starts to simulate the example study.
   void openExample();
   bool isLoading() const;
-  /// Whether anything long is going on: opening, grouping, comparing or
-  /// writing.
+  /// Whether anything long is going on: opening, looking for runs, grouping, comparing or writing.
   bool isBusy() const;
   /// Shows once more the runs or the table opened last; a computed study has taken their place.
   void returnToRuns();
@@ -105,6 +105,7 @@ private:
   WindowPanels* panels;
   StatusLine status;
   StudyOpener* opener;
+  SearchController* searching;
   GroupController* grouping;
   ComparisonController* comparing;
   SessionController* sessions;

@@ -58,7 +58,7 @@ void MainWindow::makeFileMenu()
 void MainWindow::makeSelectionMenu()
 {
   auto* menu = new SelectionMenu(
-      shown.selection(), [this] { return plot->cancelDrag(); }, this);
+      shown.selection(), [this] { return plot->cancelDrag() || shown.selection().giveUp(); }, this);
   menu->addSeparator();
   panels->pointing->addTo(*menu);
   connect(menu, &SelectionMenu::failed, this, &MainWindow::showError);

@@ -5,6 +5,7 @@
 #include "app/window/GroupController.h"
 #include "app/window/MainWindow.h"
 #include "app/window/RecentMenu.h"
+#include "app/window/SearchController.h"
 #include "app/window/SessionController.h"
 #include "app/window/WindowPanels.h"
 #include "plot/PlotContainer.h"
@@ -38,6 +39,10 @@ void MainWindow::connectControllers()
   connect(opener, &StudyOpener::said, this, tell);
   connect(opener, &StudyOpener::stopped, this, say);
   connect(opener, &StudyOpener::ended, this, clear);
+  connect(searching, &SearchController::said, this, tell);
+  connect(searching, &SearchController::stopped, this, say);
+  connect(searching, &SearchController::ended, this, clear);
+  connect(searching, &SearchController::failed, this, &MainWindow::showError);
   connect(grouping, &GroupController::said, this, tell);
   connect(grouping, &GroupController::stopped, this, say);
   connect(grouping, &GroupController::ended, this, clear);

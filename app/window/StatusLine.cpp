@@ -18,6 +18,7 @@ constexpr int noteMilliseconds = 10000;
 StatusLine::StatusLine(QStatusBar& bar)
     : line(bar)
     , openingBar(new TaskBar)
+    , searchingBar(new TaskBar)
     , groupingBar(new TaskBar)
     , comparingBar(new TaskBar)
     , exportingBar(new TaskBar)
@@ -26,8 +27,8 @@ StatusLine::StatusLine(QStatusBar& bar)
 {
   sizeLabel->setObjectName(QStringLiteral("studySize"));
   selectedLabel->setObjectName(QStringLiteral("selectionSize"));
-  const std::initializer_list<QWidget*> widgets = {openingBar,   groupingBar,   comparingBar,
-                                                   exportingBar, selectedLabel, sizeLabel};
+  const std::initializer_list<QWidget*> widgets = {
+      openingBar, searchingBar, groupingBar, comparingBar, exportingBar, selectedLabel, sizeLabel};
   for (QWidget* widget : widgets)
   {
     line.addPermanentWidget(widget);

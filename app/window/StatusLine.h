@@ -21,6 +21,7 @@ public:
 
   /// One of its own for each kind of long work.
   TaskBar& opening() { return *openingBar; }
+  TaskBar& searching() { return *searchingBar; }
   TaskBar& grouping() { return *groupingBar; }
   TaskBar& comparing() { return *comparingBar; }
   TaskBar& exporting() { return *exportingBar; }
@@ -39,6 +40,7 @@ public:
 private:
   QStatusBar& line;
   TaskBar* openingBar;
+  TaskBar* searchingBar;
   TaskBar* groupingBar;
   TaskBar* comparingBar;
   TaskBar* exportingBar;
