@@ -362,6 +362,13 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>PlainLayout</name>
+    <message>
+        <source>there is neither a time nor a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PlotChoice</name>
     <message>
         <source>cannot draw this: %1</source>
@@ -669,6 +676,14 @@ p, li { white-space: pre-wrap; }
         <source>The column %1 marks a former selection and is left out.</source>
         <translation>Die Spalte %1 markiert eine frühere Auswahl und wird ausgelassen.</translation>
     </message>
+    <message>
+        <source>there is no layout %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not clear how the table is laid out; say which: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SelectionHistory</name>
@@ -797,6 +812,13 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>kept selections</source>
         <translation>gemerkte Auswahlen</translation>
+    </message>
+</context>
+<context>
+    <name>StackedLayout</name>
+    <message>
+        <source>a row per run and time</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2150,14 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>%1 steps after that are no longer known</source>
         <translation>%1 Schritte danach sind nicht mehr bekannt</translation>
+    </message>
+    <message>
+        <source>The steps before the session was saved, to be read: what was selected then is not kept</source>
+        <translation>Die Schritte, bevor die Sitzung gespeichert wurde, zum Nachlesen: Was dazwischen ausgewählt war, ist nicht aufgehoben</translation>
+    </message>
+    <message>
+        <source>%1 steps before that are no longer known</source>
+        <translation>%1 Schritte davor sind nicht mehr bekannt</translation>
     </message>
 </context>
 <context>

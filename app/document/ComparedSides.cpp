@@ -1,6 +1,7 @@
 #include "app/document/ComparedSides.h"
 
 #include "app/comparison/ReplicateLabels.h"
+#include "app/document/AskedParameters.h"
 #include "app/document/TableRuns.h"
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
@@ -30,7 +31,7 @@ ComparedSide sideOf(const KeptSelection& kept)
 {
   const auto part = [&kept](int shift)
   { return static_cast<unsigned char>(kept.colour >> shift & 0xFFU); };
-  return {kept.name, kept.runs, kept.words, {part(16), part(8), part(0)}};
+  return {kept.name, kept.runs, kept.words, {part(16), part(8), part(0)}, conditionsOn(kept.asked)};
 }
 
 /// The condition of a side; one that selects nothing where there is none, or it cannot be read.
@@ -199,7 +200,11 @@ ComparedStudy comparedStudy(PlotContainer& container, ComparedSides sides, bool 
     second = filterOf(*sides.others, runs, study.byWords);
   std::vector<int> asked = filter.columns();
   addColumns(second.columns(), asked);
-  for (const std::string& condition : sides.selected.conditions)
+  std::vector<std::string> conditions = sides.selected.conditions;
+  if (sides.others)
+    conditions.insert(conditions.end(), sides.others->conditions.begin(),
+                      sides.others->conditions.end());
+  for (const std::string& condition : conditions)
   {
     FilterFault fault;
     addColumns(RunFilter::read(condition, runs, fault).columns(), asked);

@@ -81,6 +81,8 @@ public:
   SelectionController& selection() { return selected; }
   GroupedRuns& groups() { return grouped; }
   KeptSelections& kept() { return keptSelections; }
+  /// How panels and pages show the runs, as far as anybody has chosen it, for sessions to keep.
+  SessionViews& views() { return viewed; }
   /// Of the selected runs or rows with the others of the study opened last.
   SelectionComparison& comparison() { return compared; }
 
@@ -166,6 +168,7 @@ private:
   SelectionComparison compared;
   GroupedRuns grouped;
   KeptSelections keptSelections;
+  SessionViews viewed;
   std::string error;
   std::function<bool(std::size_t)> isThere;
   /// Whether a drawing follows anyway.

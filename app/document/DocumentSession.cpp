@@ -1,9 +1,44 @@
+#include "app/document/AskedParameters.h"
 #include "app/document/Document.h"
 #include "app/document/PlotSession.h"
+
+#include <array>
+#include <utility>
 
 /// What a session keeps of a document, and brings back.
 namespace Talmesh::app
 {
+
+namespace
+{
+
+constexpr std::array<std::pair<SelectionTool, const char*>, 3> toolKeys = {
+    {{SelectionTool::Rectangle, "rectangle"},
+     {SelectionTool::Lasso, "lasso"},
+     {SelectionTool::Line, "line"}}};
+constexpr std::array<std::pair<GestureRule, const char*>, 2> ruleKeys = {
+    {{GestureRule::Through, "through"}, {GestureRule::Inside, "inside"}}};
+
+template <typename Keys, typename Value>
+const char* keyOf(const Keys& keys, Value value)
+{
+  for (const auto& [known, key] : keys)
+    if (known == value)
+      return key;
+  return "";
+}
+
+/// The fallback for a key that nobody knows.
+template <typename Keys, typename Value>
+Value valueOf(const Keys& keys, const std::string& wanted, Value fallback)
+{
+  for (const auto& [value, key] : keys)
+    if (key == wanted)
+      return value;
+  return fallback;
+}
+
+} // namespace
 
 void Document::restore(const RestoredSession& session)
 {
@@ -14,6 +49,10 @@ void Document::restore(const RestoredSession& session)
   grouped.restoreNormalised(session.settings.normalised);
   grouped.restore(session.settings.groups);
   keptSelections.restore(session.settings.kept);
+  viewed = session.settings.views;
+  RunGestures& gestures = selected.gestures();
+  gestures.setTool(valueOf(toolKeys, viewed.tool, gestures.tool()));
+  gestures.setRule(valueOf(ruleKeys, viewed.rule, gestures.rule()));
   shown.choice = restoredChoice(session, container);
   summarise();
   // Normalising has forgotten the window.
@@ -31,6 +70,11 @@ std::optional<SessionSource> Document::sessionSource()
   source.groups = grouped.state();
   source.kept = keptSelections.list();
   source.words = selected.followedWords();
+  source.asked = askedBeside(source.words, *opened.container, selected.followedConditions());
+  source.steps = selected.followedSteps();
+  source.views = viewed;
+  source.views.tool = keyOf(toolKeys, selected.gestures().tool());
+  source.views.rule = keyOf(ruleKeys, selected.gestures().rule());
   source.tests.looked = static_cast<int>(compared.selections());
   return source;
 }

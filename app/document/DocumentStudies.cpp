@@ -1,3 +1,4 @@
+#include "app/document/AskedParameters.h"
 #include "app/document/ComparedSides.h"
 #include "app/document/Document.h"
 #include "app/document/PlotSession.h"
@@ -37,6 +38,7 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   keptSelections.follow(TableRuns(container).numberOfRuns());
   compared.follow(&container);
   shown.choice = choiceOf(container);
+  viewed = {};
   if (opened.session)
   {
     restore(*opened.session);
@@ -54,9 +56,13 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   if (failure.empty())
     shown.choice = wished;
   // The history begins with what is restored, whole runs of it, as they are drawn.
-  const bool restores = opened.session && wishes.select.empty();
-  selected.follow(&container,
-                  restores ? opened.session->settings.words : wordsOfAny(wishes.select));
+  SelectionStart start;
+  if (opened.session && wishes.select.empty())
+    start = {opened.session->settings.words, conditionsOn(opened.session->settings.asked),
+             opened.session->settings.steps};
+  else
+    start.words = wordsOfAny(wishes.select);
+  selected.follow(&container, start);
   drawSilently();
   return failure;
 }

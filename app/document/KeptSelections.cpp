@@ -96,9 +96,9 @@ void KeptSelections::restore(const std::vector<KeptSelection>& restored)
 
 std::string KeptSelections::freeName(const std::string& wished, std::size_t own) const
 {
-  const std::string base = wished.empty()
-                               ? tr("Selection").toStdString()
-                               : QString::fromStdString(wished).simplified().toStdString();
+  const std::string base =
+      wished.empty() ? tr("Selection").toStdString()
+                     : shortName(QString::fromStdString(wished).simplified().toStdString());
   const auto isTaken = [this, own](const std::string& name)
   {
     for (std::size_t i = 0; i < kept.size(); ++i)
@@ -108,7 +108,10 @@ std::string KeptSelections::freeName(const std::string& wished, std::size_t own)
   };
   std::string name = base;
   for (int number = 2; isTaken(name); ++number)
-    name = base + ' ' + std::to_string(number);
+  {
+    const std::string end = ' ' + std::to_string(number);
+    name = shortName(base, end.size()) + end;
+  }
   return name;
 }
 
@@ -128,12 +131,12 @@ unsigned KeptSelections::freeColour() const
 }
 
 void KeptSelections::keep(const std::string& name, const std::vector<bool>& runs,
-                          const std::string& words)
+                          const std::string& words, const std::vector<std::string>& asked)
 {
   if (!hasRoom() || runs.size() != runCount)
     return;
   std::vector<KeptSelection> next = kept;
-  next.push_back({freeName(name, KeepCommand::nowhere), freeColour(), runs, words});
+  next.push_back({freeName(name, KeepCommand::nowhere), freeColour(), runs, words, asked});
   change(next, tr("Keep %1").arg(QString::fromStdString(next.back().name)), kept.size());
 }
 

@@ -40,7 +40,9 @@ public:
   /// @param name made different from those of the others
   /// @param runs for each run of the table whether it is one of them
   /// @param words the condition that they meet, if known
-  void keep(const std::string& name, const std::vector<bool>& runs, const std::string& words);
+  /// @param asked the parameters that they were chosen by, beside those that the words name
+  void keep(const std::string& name, const std::vector<bool>& runs, const std::string& words,
+            const std::vector<std::string>& asked = {});
   /// Renames one, to a name that no other one has. An empty one changes nothing.
   void rename(std::size_t index, const std::string& name);
   void recolour(std::size_t index, unsigned colour);

@@ -103,7 +103,8 @@ void restoreTests(const RestoredSession& session, PlotContainer& container)
   choice.adjustment =
       static_cast<stats::Adjustment>(positionOf(tests.adjustment, adjustmentNames()));
   choice.halves = tests.halves;
-  choice.seed = static_cast<std::uint64_t>(tests.seed);
+  if (const auto seed = static_cast<std::uint64_t>(tests.seed); seed <= largestSeed)
+    choice.seed = seed;
   choice.compared = tests.compared;
   choice.comparedWith = tests.comparedWith;
   writeComparisonChoice(container, choice);

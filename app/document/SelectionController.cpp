@@ -73,13 +73,14 @@ SelectionController::~SelectionController()
   group.blockSignals(true);
 }
 
-void SelectionController::follow(PlotContainer* another, const std::string& words)
+void SelectionController::follow(PlotContainer* another, const SelectionStart& start)
 {
+  earlier = start.steps;
   visitHistory.follow(nullptr);
   followed = another;
   observe(another, stack);
   history.follow(another);
-  history.restart(words);
+  history.restart(start.words, start.asked);
   emit restarted();
 }
 

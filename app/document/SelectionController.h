@@ -6,6 +6,7 @@
 #include "app/document/RunSearch.h"
 #include "app/document/SelectionHistory.h"
 #include "app/document/TableRuns.h"
+#include "app/session/SessionSteps.h"
 
 #include <vtkAnnotationLink.h>
 #include <vtkWeakPointer.h>
@@ -24,6 +25,17 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
+/// What is known of a selection that is there when its history begins.
+struct SelectionStart
+{
+  /// The condition that it stands for, empty where it is not known.
+  std::string words;
+  /// Conditions that it was made by beside the words.
+  std::vector<std::string> asked;
+  /// The steps that led there, to be read.
+  SessionSteps steps;
+};
+
 /// The selection of the plot now shown: what the mouse and the menus do with it, its history and
 /// its size.
 ///
@@ -39,8 +51,7 @@ public:
 
   /// Turns to the selection of another container, not owned; its history starts anew. Null turns to
   /// none.
-  /// @param words the condition that it stands for, empty where it is not known
-  void follow(PlotContainer* container, const std::string& words = {});
+  void follow(PlotContainer* container, const SelectionStart& start = {});
   /// Turns to the selection of another container, not owned, until `endVisit` returns to the one
   /// followed last and to its history.
   void visit(PlotContainer* container);
@@ -75,6 +86,10 @@ public:
   /// That of what was selected as the steps began, and how many of them are forgotten.
   std::string wordsAtFirst() const;
   int forgottenSteps() const;
+  /// The steps that led to what was selected at first; none while another container is visited.
+  SessionSteps earlierSteps() const;
+  /// All steps that led to what is selected in the container that is followed.
+  SessionSteps followedSteps() const;
   /// The same of the container that is followed, while another one is visited.
   std::string followedWords() const { return history.words(); }
   /// What was asked for on the way there, see `SelectionHistory::conditions`.
@@ -132,6 +147,7 @@ private:
   QUndoStack visitStack;
   SelectionHistory history;
   SelectionHistory visitHistory;
+  SessionSteps earlier;
   RunGestures pointing;
   RunSearch search;
   LaterCall telling;

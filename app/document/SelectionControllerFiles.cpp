@@ -6,7 +6,7 @@
 
 #include <set>
 
-/// Selected runs in files of their own.
+/// Selected runs in files of their own, and what sessions keep of the steps.
 namespace Talmesh::app
 {
 
@@ -29,6 +29,21 @@ std::string SelectionController::load(const QString& path)
   if (wanted.empty() || listed.missing.size() < wanted.size())
     selectRuns(listed.runs, table.words(listed.runs), RunCombination::Replace);
   return noteOnMissing(path, listed.missing, wanted.size());
+}
+
+SessionSteps SelectionController::earlierSteps() const
+{
+  return container == followed ? earlier : SessionSteps();
+}
+
+SessionSteps SelectionController::followedSteps() const
+{
+  SessionSteps steps = earlier;
+  if (const int lost = history.forgotten(); lost > 0)
+    steps = {{}, earlier.forgotten + static_cast<int>(earlier.texts.size()) + lost};
+  for (int step = 0; step < stack.index(); ++step)
+    steps.texts.push_back(stack.text(step).toStdString());
+  return steps;
 }
 
 } // namespace Talmesh::app

@@ -148,7 +148,7 @@ void SelectionHistory::follow(PlotContainer* container)
   restart();
 }
 
-void SelectionHistory::restart(const std::string& words)
+void SelectionHistory::restart(const std::string& words, const std::vector<std::string>& asked)
 {
   if (followed)
   {
@@ -158,8 +158,10 @@ void SelectionHistory::restart(const std::string& words)
       followed->current.words = words.empty() && naming && followed->container
                                     ? wordsAfter({}, false, naming(*followed->container).step)
                                     : words;
+    if (isAny(rows))
+      followed->current.conditions = asked;
     if (!followed->current.words.empty())
-      followed->current.conditions = {followed->current.words};
+      followed->current.conditions.push_back(followed->current.words);
   }
   first = followed ? followed->current.words : std::string();
   dropped = 0;

@@ -73,7 +73,8 @@ public:
   /// Takes what is selected now as the state to start from and clears the stack: for a table that
   /// has been replaced, whose old rows mean nothing.
   /// @param words the condition in words that this state stands for, empty where it is not known
-  void restart(const std::string& words = {});
+  /// @param asked conditions by which runs came to be selected that the words do not tell of
+  void restart(const std::string& words = {}, const std::vector<std::string>& asked = {});
 
   /// The condition in words that what is now selected stands for: that of the steps that led there.
   /// Empty without a selection, and where nobody has said it.

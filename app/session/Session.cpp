@@ -126,6 +126,12 @@ SessionSettings settingsOf(const SessionSource& source)
        {&settings.shown.x, &settings.shown.y, &settings.shown.z, &settings.shown.axes})
     for (SessionColumn& entry : *columns)
       entry.column = places.of(entry.column);
+  settings.asked = source.asked;
+  settings.steps = source.steps;
+  settings.views = source.views;
+  if (settings.views.runTable)
+    for (int& item : settings.views.runTable->items)
+      item = places.of(item);
   settings.plot->colorColumn = places.of(settings.plot->colorColumn);
   for (const int column : source.normalised)
     settings.normalised.push_back(places.of(column));

@@ -44,6 +44,10 @@ struct SessionSource
   std::function<vtkSmartPointer<vtkTable>()> original;
   SessionTests tests;
   SessionColumns shown = {};
+  /// Parameters that it was chosen by beside the words, by name.
+  std::vector<std::string> asked = {};
+  SessionSteps steps = {};
+  SessionViews views = {};
 };
 
 /// What a session restores beside its study.

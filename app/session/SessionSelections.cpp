@@ -20,6 +20,8 @@ constexpr unsigned highestBit = 8;
 constexpr unsigned largestColour = 0xFFFFFF;
 constexpr int digitsOfColour = 6;
 constexpr int mostCharactersOfName = 200;
+constexpr int mostCharactersOfParameter = 1000;
+constexpr int mostNames = 100;
 constexpr int mostCharactersOfCondition = 20000;
 
 /// Four runs per hexadecimal digit: a list of numbers would make settings of many runs too large.
@@ -67,12 +69,32 @@ unsigned readColour(const QString& text)
   return isNumber && text.startsWith(QLatin1Char('#')) ? std::min(colour, largestColour) : 0;
 }
 
-QString shortName(const QString& name)
+} // namespace
+
+std::string shortName(const std::string& name, std::size_t spare)
 {
-  return name.left(mostCharactersOfName);
+  const int most = mostCharactersOfName - static_cast<int>(spare);
+  return QString::fromStdString(name).left(most).trimmed().toStdString();
 }
 
-} // namespace
+QJsonArray arrayOfNames(const std::vector<std::string>& names)
+{
+  QJsonArray array;
+  for (const std::string& name : names)
+    array.append(QString::fromStdString(name));
+  return array;
+}
+
+std::vector<std::string> readNames(const QJsonArray& array)
+{
+  std::vector<std::string> names;
+  for (const QJsonValue value : array)
+    if (const QString name = value.toString(); !name.isEmpty() &&
+                                               name.size() <= mostCharactersOfParameter &&
+                                               static_cast<int>(names.size()) < mostNames)
+      names.push_back(name.toStdString());
+  return names;
+}
 
 QString wholeWords(const std::string& words)
 {
@@ -90,11 +112,16 @@ QJsonArray arrayOf(const std::vector<KeptSelection>& kept)
 {
   QJsonArray array;
   for (const KeptSelection& selection : kept)
-    array.append(QJsonObject{{"name", shortName(QString::fromStdString(selection.name))},
-                             {"colour", colourText(selection.colour)},
-                             {"of", static_cast<double>(selection.runs.size())},
-                             {"runs", textOf(selection.runs)},
-                             {"words", wholeWords(selection.words)}});
+  {
+    QJsonObject object{{"name", QString::fromStdString(shortName(selection.name))},
+                       {"colour", colourText(selection.colour)},
+                       {"of", static_cast<double>(selection.runs.size())},
+                       {"runs", textOf(selection.runs)},
+                       {"words", wholeWords(selection.words)}};
+    if (!selection.asked.empty())
+      object["asked"] = arrayOfNames(selection.asked);
+    array.append(object);
+  }
   return array;
 }
 
@@ -109,9 +136,10 @@ std::vector<KeptSelection> readKeptSelections(const QJsonArray& array)
       continue;
     if (kept.size() >= mostKeptSelections(selection.runs.size()))
       break;
-    selection.name = shortName(object["name"].toString()).toStdString();
+    selection.name = shortName(object["name"].toString().toStdString());
     selection.colour = readColour(object["colour"].toString());
     selection.words = wholeWords(object["words"].toString().toStdString()).toStdString();
+    selection.asked = readNames(object["asked"].toArray());
     kept.push_back(std::move(selection));
   }
   return kept;

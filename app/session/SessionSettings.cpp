@@ -209,6 +209,11 @@ QByteArray settingsText(const SessionSettings& settings)
   object["groups"] = objectOf(settings.groups);
   object["kept"] = arrayOf(settings.kept);
   object["words"] = wholeWords(settings.words);
+  if (!settings.asked.empty())
+    object["asked"] = arrayOfNames(settings.asked);
+  if (!settings.steps.texts.empty())
+    object["steps"] = objectOf(settings.steps);
+  object["views"] = objectOf(settings.views);
   if (const QJsonObject shown = objectOf(settings.shown); !shown.isEmpty())
     object["shown"] = shown;
   if (!settings.origin.path.isEmpty())
@@ -238,6 +243,9 @@ Result<SessionSettings> readSettings(const QByteArray& text, int columns)
   settings.groups = readGroups(object["groups"].toObject());
   settings.kept = readKeptSelections(object["kept"].toArray());
   settings.words = wholeWords(object["words"].toString().toStdString()).toStdString();
+  settings.asked = readNames(object["asked"].toArray());
+  settings.steps = readSteps(object["steps"].toObject());
+  settings.views = readViews(object["views"].toObject(), columns);
   settings.shown = readSessionColumns(object["shown"].toObject(), columns);
   settings.origin = readOrigin(object["origin"].toObject());
   settings.legend = object["legend"].toBool();

@@ -6,7 +6,9 @@
 #include "app/session/SessionGroups.h"
 #include "app/session/SessionOrigin.h"
 #include "app/session/SessionSelections.h"
+#include "app/session/SessionSteps.h"
 #include "app/session/SessionTests.h"
+#include "app/session/SessionViews.h"
 #include "external/PlotMetaData.h"
 #include "plot/AxisWindows.h"
 
@@ -35,7 +37,11 @@ struct SessionSettings
   std::vector<KeptSelection> kept;
   /// The condition in words that the selection stands for, if known.
   std::string words;
+  /// Parameters that it was chosen by beside the words, by name.
+  std::vector<std::string> asked;
+  SessionSteps steps;
   SessionColumns shown;
+  SessionViews views;
   /// Of work that is kept until the user saves it.
   SessionOrigin origin;
   bool legend = false;

@@ -9,7 +9,8 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr double largestSessionSeed = 999'999'999.0;
+/// Of those below, a double has each.
+constexpr double largestWholeNumber = 9007199254740992.0;
 
 } // namespace
 
@@ -31,7 +32,7 @@ SessionTests readTests(const QJsonObject& object)
   tests.adjustment = object["adjust"].toString();
   tests.halves = object["halves"].toBool();
   const double seed = object["seed"].toDouble();
-  if (seed >= 1.0 && seed <= largestSessionSeed)
+  if (seed >= 1.0 && seed <= largestWholeNumber)
     tests.seed = std::floor(seed);
   tests.looked = std::max(0, object["looked"].toInt());
   tests.compared = object["compared"].toString().toStdString();

@@ -16,7 +16,7 @@ struct SessionTests
   QString comparedBy;
   QString adjustment;
   bool halves = false;
-  /// Of all that is drawn at random, above 0.
+  /// Of all that is drawn at random, a whole number above 0.
   double seed = 1.0;
   /// The kept selections that are compared, by name; empty for the present one, and for the others.
   std::string compared{};

@@ -41,6 +41,11 @@ SessionWork workOf(const SessionSource& source)
   work.normalised.swap(settings.normalised);
   work.selections.swap(settings.kept);
   settings.words.clear();
+  settings.asked.clear();
+  settings.steps = {};
+  // What the mouse draws next changes nothing that is there.
+  settings.views.tool.clear();
+  settings.views.rule.clear();
   settings.origin = {};
   settings.plot->storedCoordinateWindow = CoordinateWindow();
   settings.windowScales = {};

@@ -101,6 +101,12 @@ void GestureActions::addTo(QWidget& menuOrBar) const
   menuOrBar.addActions(rules->actions());
 }
 
+void GestureActions::refresh()
+{
+  action(gestures.tool())->setChecked(true);
+  action(gestures.rule())->setChecked(true);
+}
+
 QAction* GestureActions::action(SelectionTool tool) const
 {
   return withData(*tools, static_cast<int>(tool));

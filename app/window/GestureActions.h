@@ -27,6 +27,8 @@ public:
 
   /// Adds all of them, in two sections.
   void addTo(QWidget& menuOrBar) const;
+  /// Shows what is on, which others have changed.
+  void refresh();
   QAction* action(SelectionTool tool) const;
   QAction* action(GestureRule rule) const;
 

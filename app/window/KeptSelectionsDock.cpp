@@ -1,5 +1,6 @@
 #include "app/window/KeptSelectionsDock.h"
 
+#include "app/document/AskedParameters.h"
 #include "app/document/Document.h"
 #include "app/panels/PanelParts.h"
 #include "app/window/FileDialogs.h"
@@ -175,7 +176,9 @@ int KeptSelectionsDock::chosen() const
 void KeptSelectionsDock::keep()
 {
   SelectionController& selection = document.selection();
-  document.kept().keep({}, selection.selectedRuns(), selection.words());
+  const std::string words = selection.words();
+  document.kept().keep({}, selection.selectedRuns(), words,
+                       askedBeside(words, *document.container(), selection.followedConditions()));
   show();
   raise();
   tree->setCurrentItem(tree->topLevelItem(tree->topLevelItemCount() - 1));

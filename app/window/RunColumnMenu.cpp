@@ -1,6 +1,7 @@
 #include "app/window/RunColumnMenu.h"
 
 #include <QCoreApplication>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <optional>
@@ -72,6 +73,43 @@ void RunColumnMenu::list(const TableRuns& runs)
                   .replace(QLatin1Char('&'), QLatin1String("&&")),
               i < mostFirstItems)
         ->setProperty(itemProperty, items[i]);
+}
+
+ShownRunColumns RunColumnMenu::ticked() const
+{
+  ShownRunColumns shown;
+  shown.parameters = false;
+  for (const QAction* action : actions())
+  {
+    const QVariant feature = action->property(featureProperty);
+    if (!action->isChecked())
+      continue;
+    if (!feature.isValid())
+      shown.items.push_back(action->property(itemProperty).toInt());
+    else if (feature.toInt() == ofParameters)
+      shown.parameters = true;
+    else
+      shown.features.emplace_back(functionOf(static_cast<RunFeature>(feature.toInt())));
+  }
+  return shown;
+}
+
+void RunColumnMenu::tick(const ShownRunColumns& shown)
+{
+  const auto isIn = [](const auto& list, const auto& wanted)
+  { return std::find(list.begin(), list.end(), wanted) != list.end(); };
+  for (QAction* action : actions())
+  {
+    const QSignalBlocker silent(action);
+    const QVariant feature = action->property(featureProperty);
+    if (!feature.isValid())
+      action->setChecked(isIn(shown.items, action->property(itemProperty).toInt()));
+    else if (feature.toInt() == ofParameters)
+      action->setChecked(shown.parameters);
+    else
+      action->setChecked(
+          isIn(shown.features, functionOf(static_cast<RunFeature>(feature.toInt()))));
+  }
 }
 
 std::vector<RunColumn> RunColumnMenu::chosen(const TableRuns& runs) const

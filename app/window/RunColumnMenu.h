@@ -2,6 +2,7 @@
 #define RunColumnMenu_h
 
 #include "app/document/TableRuns.h"
+#include "app/session/SessionViews.h"
 
 #include <QMenu>
 
@@ -20,6 +21,10 @@ public:
 
   /// Turns to other runs, and ticks what their table begins with. Emits nothing.
   void list(const TableRuns& runs);
+  /// What is ticked.
+  ShownRunColumns ticked() const;
+  /// Ticks what is listed of these, and nothing else. Emits nothing.
+  void tick(const ShownRunColumns& shown);
   /// The columns of what is ticked.
   std::vector<RunColumn> chosen(const TableRuns& runs) const;
 

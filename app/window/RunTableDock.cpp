@@ -97,7 +97,12 @@ RunTableDock::RunTableDock(Document& shown, QWidget* parent)
             seen = visible;
             begin();
           });
-  connect(columns, &RunColumnMenu::chosenChanged, this, &RunTableDock::invalidate);
+  connect(columns, &RunColumnMenu::chosenChanged, this,
+          [this]
+          {
+            document.views().runTable = columns->ticked();
+            invalidate();
+          });
   connect(&document, &Document::studyChanged, this, &RunTableDock::takeStudy);
   connect(&document, &Document::valuesChanged, this, &RunTableDock::invalidate);
   connect(&document, &Document::drawn, this, &RunTableDock::followGroups);
@@ -129,6 +134,8 @@ void RunTableDock::takeStudy()
   const bool usable = document.container() && !document.study().chart;
   if (usable)
     columns->list(TableRuns(*document.container()));
+  if (usable && document.views().runTable)
+    columns->tick(*document.views().runTable);
   invalidate();
 }
 

@@ -4,6 +4,7 @@
 #include <QDockWidget>
 
 class QAction;
+class QListWidget;
 class QUndoView;
 
 namespace Talmesh::app
@@ -12,6 +13,7 @@ namespace Talmesh::app
 class SelectionController;
 
 /// The panel that lists the steps which led to the selection, in words; a click returns to a step.
+/// Above them stand those that were made before a session was saved, only to be read.
 class StepsDock : public QDockWidget
 {
   Q_OBJECT
@@ -35,10 +37,12 @@ private:
   void copyCondition();
   void reuseCondition();
   void enableSteps();
+  void listEarlier();
   QString condition() const;
 
   SelectionController& selection;
   QUndoView* list = nullptr;
+  QListWidget* earlier = nullptr;
   QAction* copyStepsAction = nullptr;
   QAction* copyConditionAction = nullptr;
   QAction* reuseAction = nullptr;

@@ -2,6 +2,7 @@
 
 #include "app/document/TimeCourses.h"
 #include "app/runs/NearestRuns.h"
+#include "app/window/CourseItems.h"
 #include "app/window/RunNumberBox.h"
 #include "external/LinePlotData.h"
 #include "plot/PlotContainer.h"
@@ -16,14 +17,13 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 
 namespace Talmesh::app
 {
 
 namespace
 {
-
-using ItemNames = std::set<std::pair<QString, QString>>;
 
 /// In the order in which they are offered.
 enum ShownRuns
@@ -33,47 +33,11 @@ enum ShownRuns
   SelectedRuns
 };
 
+constexpr std::array<const char*, 3> modeKeys = {"one", "nearest", "selected"};
+
 constexpr std::size_t mostNearest = 5;
 /// As many as can be told apart.
 constexpr std::size_t mostShown = 12;
-
-std::pair<QString, QString> nameOf(const QTreeWidgetItem& item)
-{
-  return {item.parent() ? item.parent()->text(0) : QString(), item.text(0)};
-}
-
-ItemNames selectedNames(const PlotSelector& selector)
-{
-  ItemNames names;
-  for (const QTreeWidgetItem* item : selector.selectedItems())
-    names.insert(nameOf(*item));
-  return names;
-}
-
-template <typename Visit>
-void forEachItem(const PlotSelector& selector, Visit visit)
-{
-  for (int i = 0; i < selector.topLevelItemCount(); ++i)
-    for (int child = 0; child < selector.topLevelItem(i)->childCount(); ++child)
-      visit(selector.topLevelItem(i)->child(child));
-}
-
-/// @param itemOf what an item is called in `names`
-template <typename ItemOf>
-void select(PlotSelector& selector, const ItemNames& names, const ItemOf& itemOf)
-{
-  {
-    // One report for all items, below.
-    const QSignalBlocker silent(selector);
-    forEachItem(selector,
-                [&](QTreeWidgetItem* item)
-                {
-                  const auto [kind, name] = nameOf(*item);
-                  item->setSelected(names.count({kind, itemOf(name)}) > 0);
-                });
-  }
-  selector.processNewSelection();
-}
 
 } // namespace
 
@@ -103,6 +67,24 @@ void TimeCoursePage::refresh()
     bringUpToDate();
 }
 
+std::string TimeCoursePage::mode() const
+{
+  return modeKeys[static_cast<std::size_t>(shownRuns ? shownRuns->currentIndex() : firstMode)];
+}
+
+void TimeCoursePage::setMode(const std::string& key)
+{
+  const auto found = std::find(modeKeys.begin(), modeKeys.end(), key);
+  if (found == modeKeys.end() || key == mode())
+    return;
+  firstMode = static_cast<int>(found - modeKeys.begin());
+  if (!shownRuns)
+    return;
+  const QSignalBlocker silent(shownRuns);
+  shownRuns->setCurrentIndex(firstMode);
+  stale = true;
+}
+
 bool TimeCoursePage::isUsable() const
 {
   return runs && timeOfCourses(*runs) >= 0 && runs->numberOfTrajectories > 0;
@@ -125,10 +107,13 @@ void TimeCoursePage::bringUpToDate()
   stale = false;
   if (!opened || !isUsable())
     return;
-  const QSignalBlocker silentMode(mode);
+  const QSignalBlocker silentMode(shownRuns);
   const QSignalBlocker silentRun(run);
-  if (mode->currentIndex() == SelectedRuns)
-    mode->setCurrentIndex(OneRun);
+  if (shownRuns->currentIndex() == SelectedRuns)
+  {
+    shownRuns->setCurrentIndex(OneRun);
+    emit modeChosen();
+  }
   run->setValue(static_cast<int>(*opened));
   opened.reset();
   showRuns();
@@ -140,13 +125,15 @@ void TimeCoursePage::build()
   run->setObjectName(QStringLiteral("run"));
   run->setToolTip(tr("The run whose time courses are shown"));
   chart = new LinePlotWidget;
-  mode = new QComboBox;
-  mode->setObjectName(QStringLiteral("shownRuns"));
-  mode->addItems({tr("this run"), tr("this run and its %1 nearest").arg(mostNearest),
-                  tr("the selected runs")});
-  mode->setToolTip(tr("Which runs are shown. The nearest are those whose smallest, largest, mean "
-                      "and final values differ least from those of this run, in standard "
-                      "deviations."));
+  shownRuns = new QComboBox;
+  shownRuns->setObjectName(QStringLiteral("shownRuns"));
+  shownRuns->addItems({tr("this run"), tr("this run and its %1 nearest").arg(mostNearest),
+                       tr("the selected runs")});
+  shownRuns->setToolTip(
+      tr("Which runs are shown. The nearest are those whose smallest, largest, mean "
+         "and final values differ least from those of this run, in standard "
+         "deviations."));
+  shownRuns->setCurrentIndex(firstMode);
   note = new QLabel;
   note->setObjectName(QStringLiteral("shownRunsNote"));
   // After the container has drawn the items, which is no redraw with steps of its own.
@@ -161,15 +148,17 @@ void TimeCoursePage::build()
   auto* choice = new QHBoxLayout;
   choice->addWidget(label);
   choice->addWidget(run);
-  choice->addWidget(mode);
+  choice->addWidget(shownRuns);
   choice->addWidget(note);
   choice->addStretch();
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(choice);
   layout->addWidget(chart, 1);
   connect(run, QOverload<int>::of(&RunNumberBox::valueChanged), this, &TimeCoursePage::showRuns);
-  connect(mode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+  connect(shownRuns, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
           &TimeCoursePage::showRuns);
+  connect(shownRuns, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          &TimeCoursePage::modeChosen);
 }
 
 void TimeCoursePage::fill()
@@ -179,7 +168,7 @@ void TimeCoursePage::fill()
   features.clear();
   run->setNumbers(shown ? shownRunNumbers(*runs) : std::vector<int>());
   run->setEnabled(shown);
-  mode->setEnabled(shown);
+  shownRuns->setEnabled(shown);
   if (!shown)
   {
     note->clear();
@@ -196,7 +185,7 @@ std::vector<std::size_t> TimeCoursePage::wantedRuns()
 {
   const auto one = static_cast<std::size_t>(run->value());
   std::vector<std::size_t> wanted;
-  if (mode->currentIndex() == SelectedRuns)
+  if (shownRuns->currentIndex() == SelectedRuns)
   {
     for (std::size_t place = 0; place < std::min(selected.size(), runs->numberOfTrajectories);
          ++place)
@@ -204,7 +193,7 @@ std::vector<std::size_t> TimeCoursePage::wantedRuns()
         wanted.push_back(place);
     return wanted;
   }
-  if (mode->currentIndex() == WithNearest)
+  if (shownRuns->currentIndex() == WithNearest)
   {
     if (features.empty())
       features = featuresOfRuns(*runs, timeOfCourses(*runs));
@@ -217,7 +206,7 @@ std::vector<std::size_t> TimeCoursePage::wantedRuns()
 void TimeCoursePage::sayWhich(std::size_t wanted)
 {
   QString text;
-  if (mode->currentIndex() == SelectedRuns && wanted == 0)
+  if (shownRuns->currentIndex() == SelectedRuns && wanted == 0)
     text = tr("No run is selected.");
   else if (wanted > mostShown)
     text = tr("The first %1 of %2 selected runs").arg(mostShown).arg(wanted);
@@ -227,7 +216,7 @@ void TimeCoursePage::sayWhich(std::size_t wanted)
 void TimeCoursePage::showRuns()
 {
   std::vector<std::size_t> shown = wantedRuns();
-  run->setEnabled(mode->currentIndex() != SelectedRuns);
+  run->setEnabled(shownRuns->currentIndex() != SelectedRuns);
   sayWhich(shown.size());
   auto& selector = *chart->selector();
   // Which items are shown stays, whichever runs they are of.
@@ -267,7 +256,7 @@ void TimeCoursePage::openRun(std::size_t place)
 void TimeCoursePage::setSelectedRuns(const std::vector<bool>& those)
 {
   selected = those;
-  if (!chart || mode->currentIndex() != SelectedRuns)
+  if (!chart || shownRuns->currentIndex() != SelectedRuns)
     return;
   stale = true;
   if (isVisible())

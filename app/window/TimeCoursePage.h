@@ -42,10 +42,17 @@ public:
   void refresh();
   /// Shows a run, counted by its place.
   void openRun(std::size_t run);
+  /// Which runs it shows, as sessions call it; a key that nobody knows changes nothing.
+  std::string mode() const;
+  void setMode(const std::string& key);
   /// Which runs are selected, of those of the study.
   void setSelectedRuns(const std::vector<bool>& runs);
   /// The kept selections by which runs are coloured, see `groupsOfKept`; none for none.
   void setKept(const RunGroups& groups);
+
+signals:
+  /// The user wants to see others of the runs.
+  void modeChosen();
 
 protected:
   void showEvent(QShowEvent* event) override;
@@ -64,7 +71,7 @@ private:
   boost::shared_ptr<LinePlotTable> runs;
   LinePlotWidget* chart = nullptr;
   RunNumberBox* run = nullptr;
-  QComboBox* mode = nullptr;
+  QComboBox* shownRuns = nullptr;
   QLabel* note = nullptr;
   std::vector<bool> selected;
   RunGroups kept;
@@ -78,6 +85,8 @@ private:
   std::set<std::pair<QString, QString>> lastChosen;
   /// The run to show next, where the user has asked for one.
   std::optional<std::size_t> opened;
+  /// What is chosen as long as there is no chart.
+  int firstMode = 0;
   /// Whether the study is one that the chart does not show yet.
   bool outdated = true;
   /// Whether values of the study have changed since the chart showed them.

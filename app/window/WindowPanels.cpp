@@ -89,6 +89,9 @@ void WindowPanels::connectDocument()
   connect(&document, &Document::studyChanged, timeCourses, tellSelected);
   connect(&document, &Document::drawn, timeCourses,
           [this] { timeCourses->setKept(document.groups().keptColouring()); });
+  connect(timeCourses, &TimeCoursePage::modeChosen, this,
+          [this] { document.views().courses = timeCourses->mode(); });
+  connect(&document, &Document::studyChanged, pointing, &GestureActions::refresh);
   connect(&document, &Document::choiceChanged, choices,
           [this]
           {
@@ -140,6 +143,8 @@ void WindowPanels::showStudy()
                           QString::fromStdString(columnTitle(*document.container(), column)));
   choices->setColumns(document.columns(), features);
   choices->setChoice(document.choice());
+  timeCourses->setMode(document.views().courses);
+  document.views().courses = timeCourses->mode();
   timeCourses->setStudy(shown);
   for (QDockWidget* panel : std::initializer_list<QDockWidget*>{choices, clusters})
   {

@@ -154,3 +154,19 @@ TEST_F(KeptInDocument, AreLeftOutOfASessionOfOtherRuns)
   kept().restore({{"six", 1, Bits(6, true), "k > 0"}, {"five", 2, Bits(5, true), ""}});
   EXPECT_EQ(names(), Names{"six"});
 }
+
+TEST_F(KeptInDocument, HaveNamesOfALengthThatSessionsKeep)
+{
+  const std::string name(300, 'x');
+  keepWhere("k > 4", name);
+  keepWhere("k > 3", name);
+  keepWhere("k > 2", "short");
+  kept().rename(2, name + name);
+  for (const std::string& one : names())
+    EXPECT_LE(one.size(), 200U);
+  EXPECT_EQ(names()[1].substr(198), " 2");
+  EXPECT_EQ(names()[2].substr(198), " 3");
+  const Names before = names();
+  saveAndOpen();
+  EXPECT_EQ(names(), before);
+}

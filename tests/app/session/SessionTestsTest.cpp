@@ -35,7 +35,7 @@ TEST(SessionTests, KeepSeedAndSides)
   EXPECT_EQ(read.compared, tests.compared);
   EXPECT_EQ(read.comparedWith, "high");
   EXPECT_EQ(read.looked, 12);
-  for (const double seed : {0.0, -3.0, 1e12})
+  for (const double seed : {0.0, -3.0, 1e17})
     EXPECT_EQ(readTests({{"seed", seed}}).seed, 1.0);
   EXPECT_EQ(readTests({{"looked", -1}}).looked, 0);
 }
