@@ -29,8 +29,14 @@ struct ColumnRoles
   std::vector<ColumnHeader> headers;
   /// Index of the time column, -1 without one.
   int timeColumn = -1;
-  /// Index of the column that names the run of each row, -1 without one.
+  /// Index of the column that names the run of each row, the first one if several do so together;
+  /// -1 without one.
   int runColumn = -1;
+  /// The columns that name the run together, as the user says; else empty.
+  std::vector<int> askedRuns;
+  /// Columns that say what is measured in a row, and the value; -1 without them.
+  int itemColumn = -1;
+  int valueColumn = -1;
   /// All columns with a name of runs, the one that goes first in front.
   std::vector<int> runCandidates;
   bool anyTyped = false;

@@ -1,6 +1,5 @@
 #include "app/import/DelimitedText.h"
 
-#include "app/import/NumberText.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
@@ -11,70 +10,24 @@ namespace Talmesh::app
 namespace
 {
 
-/// So many records tell the delimiter; more would only cost time.
-constexpr std::size_t sampledRecords = 20;
-
 bool isLineEnd(char c)
 {
   return c == '\n' || c == '\r';
 }
 
-struct DelimiterFit
-{
-  bool even = true;
-  std::size_t fields = 0;
-  /// What the cells below the headers hold.
-  std::size_t numbers = 0;
-  std::size_t texts = 0;
-};
-
-void countCells(DelimiterFit& fit, const std::vector<std::string_view>& fields, char delimiter)
-{
-  for (const std::string_view field : fields)
-  {
-    const NumberText::Kind kind = readNumber(field, delimiter != ',').kind;
-    fit.numbers += kind == NumberText::Kind::Number ? 1 : 0;
-    fit.texts += kind == NumberText::Kind::Text ? 1 : 0;
-  }
-}
-
-DelimiterFit fitOf(std::string_view text, char delimiter)
-{
-  DelimitedText reader(text, delimiter);
-  std::vector<std::string_view> fields;
-  DelimiterFit fit;
-  for (std::size_t record = 0; record < sampledRecords && reader.next(fields); ++record)
-  {
-    if (isBlankRecord(fields))
-      continue;
-    if (fit.fields == 0)
-      fit.fields = fields.size();
-    else
-    {
-      fit.even = fit.even && fields.size() == fit.fields;
-      countCells(fit, fields, delimiter);
-    }
-  }
-  return fit;
-}
-
-bool fitsBetter(const DelimiterFit& fit, const DelimiterFit& other)
-{
-  if (fit.even != other.even)
-    return fit.even;
-  const std::size_t share = fit.numbers * (other.numbers + other.texts);
-  const std::size_t otherShare = other.numbers * (fit.numbers + fit.texts);
-  if (fit.even && share != otherShare)
-    return share > otherShare;
-  return fit.fields > other.fields;
-}
-
 } // namespace
 
-DelimitedText::DelimitedText(std::string_view text_, char delimiter_)
+DelimitedText::DelimitedText(std::string_view text_, char delimiter_, std::string_view comment_)
     : text(text_)
     , delimiter(delimiter_)
+    , comment(comment_)
 {
+}
+
+void DelimitedText::skipTo(std::size_t position, std::size_t line)
+{
+  cursor = position;
+  currentLine = line;
 }
 
 bool DelimitedText::atLineEnd() const
@@ -99,6 +52,23 @@ void DelimitedText::skipEmptyLines()
     skipLineEnd();
 }
 
+/// @return whether there was a line of comment
+bool DelimitedText::skipComment()
+{
+  if (comment.empty())
+    return false;
+  std::size_t words = cursor;
+  while (words < text.size() && (text[words] == ' ' || text[words] == '\t'))
+    ++words;
+  if (text.substr(words, comment.size()) != comment)
+    return false;
+  cursor = words;
+  while (!atLineEnd())
+    ++cursor;
+  skipLineEnd();
+  return true;
+}
+
 bool DelimitedText::isBlank(char c) const
 {
   return (c == ' ' || c == '\t') && c != delimiter;
@@ -121,7 +91,9 @@ std::string_view DelimitedText::plainField()
 
 bool DelimitedText::closesField(std::size_t quote) const
 {
-  const std::size_t after = afterBlanks(quote + 1);
+  const std::size_t after = delimiter == ' ' ? quote + 1 : afterBlanks(quote + 1);
+  if (delimiter == ' ' && after < text.size() && text[after] == '\t')
+    return true;
   return after == text.size() || text[after] == delimiter || isLineEnd(text[after]);
 }
 
@@ -160,10 +132,22 @@ bool DelimitedText::next(std::vector<std::string_view>& fields)
   fields.clear();
   unescaped.clear();
   openQuotes = false;
-  skipEmptyLines();
+  do
+    skipEmptyLines();
+  while (skipComment());
   recordLine = currentLine;
   if (cursor == text.size())
     return false;
+  if (delimiter == ' ')
+    readWords(fields);
+  else
+    readFields(fields);
+  skipLineEnd();
+  return true;
+}
+
+void DelimitedText::readFields(std::vector<std::string_view>& fields)
+{
   for (;;)
   {
     const std::size_t quote = afterBlanks(cursor);
@@ -172,36 +156,40 @@ bool DelimitedText::next(std::vector<std::string_view>& fields)
       cursor = quote;
     fields.push_back(quoted ? quotedField() : plainField());
     if (atLineEnd())
-      break;
+      return;
     ++cursor;
   }
-  skipLineEnd();
-  return true;
+}
+
+void DelimitedText::readWords(std::vector<std::string_view>& fields)
+{
+  const auto isGap = [](char c) { return c == ' ' || c == '\t'; };
+  const auto skipGap = [&]
+  {
+    while (cursor < text.size() && isGap(text[cursor]))
+      ++cursor;
+  };
+  for (skipGap(); !atLineEnd(); skipGap())
+  {
+    if (text[cursor] == '"')
+    {
+      fields.push_back(quotedField());
+      continue;
+    }
+    const std::size_t begin = cursor;
+    while (!atLineEnd() && !isGap(text[cursor]))
+      ++cursor;
+    fields.push_back(text.substr(begin, cursor - begin));
+  }
+  // A line of blanks has one blank field, as under any other delimiter.
+  if (fields.empty())
+    fields.emplace_back();
 }
 
 bool isBlankRecord(const std::vector<std::string_view>& fields)
 {
   return std::all_of(fields.begin(), fields.end(),
                      [](std::string_view field) { return withoutOuterBlanks(field).empty(); });
-}
-
-char detectDelimiter(std::string_view text)
-{
-  char best = ';';
-  DelimiterFit bestFit;
-  bestFit.even = false;
-  for (const char candidate : {'\t', ';', ','})
-  {
-    const DelimiterFit fit = fitOf(text, candidate);
-    if (fit.fields < 2)
-      continue;
-    if (fitsBetter(fit, bestFit))
-    {
-      best = candidate;
-      bestFit = fit;
-    }
-  }
-  return best;
 }
 
 std::string_view withoutByteOrderMark(std::string_view text)

@@ -15,12 +15,17 @@ namespace Talmesh::app
 /// A field may stand in double quotes; inside, a doubled quote is one quote, and delimiters and
 /// line ends belong to the field. Blanks around the quotes do not. A lone quote inside a quoted
 /// field is taken as it stands, as writers that do not double their quotes mean it. Records end
-/// with LF, CR LF or CR. Records without any character are skipped.
+/// with LF, CR LF or CR. Records without any character are skipped, and so are lines of comment.
+/// Where a blank parts the fields, any number of blanks and tabs is one.
 class DelimitedText
 {
 public:
   /// @param text the whole text, without a byte-order mark; it must outlive the reader.
-  DelimitedText(std::string_view text, char delimiter);
+  /// @param comment what lines of comment begin with, behind blanks; empty without such lines.
+  DelimitedText(std::string_view text, char delimiter, std::string_view comment = {});
+
+  /// Goes on at `position`, which is where the given line starts.
+  void skipTo(std::size_t position, std::size_t line);
 
   /// Reads the next record.
   /// @param fields receives its fields; they stay valid until the next call.
@@ -29,6 +34,8 @@ public:
 
   /// The line, counted from 1, on which the last record starts.
   std::size_t line() const { return recordLine; }
+  /// The line behind the last record.
+  std::size_t followingLine() const { return currentLine; }
   /// How many bytes are read.
   std::size_t position() const { return cursor; }
   /// Whether the last record ended with the text inside a quoted field.
@@ -38,6 +45,9 @@ private:
   bool atLineEnd() const;
   void skipLineEnd();
   void skipEmptyLines();
+  bool skipComment();
+  void readFields(std::vector<std::string_view>& fields);
+  void readWords(std::vector<std::string_view>& fields);
   bool isBlank(char c) const;
   std::size_t afterBlanks(std::size_t from) const;
   std::string_view plainField();
@@ -46,6 +56,7 @@ private:
 
   std::string_view text;
   char delimiter;
+  std::string_view comment;
   std::size_t cursor = 0;
   std::size_t currentLine = 1;
   std::size_t recordLine = 1;
@@ -55,13 +66,6 @@ private:
 
 /// Whether a record holds nothing but blanks, as spreadsheets leave them.
 bool isBlankRecord(const std::vector<std::string_view>& fields);
-
-/// The delimiter among tab, semicolon and comma that splits the first records most evenly: the
-/// same number of fields, more than one, in every record that is not blank; among equals the one
-/// under which the largest part of the cells below the headers are numbers, then the one with most
-/// fields. A text that none of them splits has a single column, and the answer is the semicolon, so
-/// that decimal commas can be read.
-char detectDelimiter(std::string_view text);
 
 /// The text without a leading UTF-8 byte-order mark.
 std::string_view withoutByteOrderMark(std::string_view text);

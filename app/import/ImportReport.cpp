@@ -41,8 +41,9 @@ QJsonValue pointsOf(const ImportReport& report)
 QJsonArray candidatesOf(const ImportReport& report)
 {
   QJsonArray list;
-  for (const LayoutCandidate& candidate : report.candidates)
-    list.append(QJsonObject{{"layout", QString::fromStdString(candidate.layout)},
+  for (const ImportCandidate& candidate : report.candidates)
+    list.append(QJsonObject{{"layout", textOrNull(candidate.layout)},
+                            {"option", QString::fromStdString(candidate.option)},
                             {"score", candidate.score},
                             {"reason", QString::fromStdString(candidate.reason)}});
   return list;

@@ -8,9 +8,12 @@
 namespace Talmesh::app
 {
 
-/// A layout that a table may have.
-struct LayoutCandidate
+/// One way in which a table may be meant.
+struct ImportCandidate
 {
+  /// What the command line calls it: "--layout tidy".
+  std::string option;
+  /// The layout; empty where something else is unsure.
   std::string layout;
   /// How well it fits, from 0 to 1.
   double score = 0.0;
@@ -38,15 +41,15 @@ struct ImportReport
   std::vector<std::string> warnings;
   /// Why the table is read as it is, a line for each guess.
   std::vector<std::string> reasons;
-  /// The layouts that fit about equally well, the best one first; empty when one is clear.
-  std::vector<LayoutCandidate> candidates;
+  /// What fits about equally well, the best one first; empty when all is clear.
+  std::vector<ImportCandidate> candidates;
 
   bool isUnsure() const { return !candidates.empty(); }
 };
 
 /// The report as one JSON object. Its keys are layout, runs, points (a number, or the fewest and
 /// the most in a list), time, items, parameters, categories, ignored, warnings and reasons; and
-/// candidates where the layout is unsure. What there is none of is null, or an empty list.
+/// candidates where something is unsure. What there is none of is null, or an empty list.
 std::string jsonOf(const ImportReport& report);
 
 } // namespace Talmesh::app

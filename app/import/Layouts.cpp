@@ -20,17 +20,18 @@ const Layout* findLayout(const std::string& name)
   return found == layouts().end() ? nullptr : &*found;
 }
 
-std::vector<LayoutCandidate> candidatesFor(const TableText& text, const ImportRequest& request)
+std::vector<ImportCandidate> candidatesFor(const TableText& text, const ImportRequest& request)
 {
-  std::vector<LayoutCandidate> candidates;
+  std::vector<ImportCandidate> candidates;
   for (const Layout& layout : layouts())
   {
     const LayoutFit fit = layout.recognise(text, request);
     if (fit.score > 0.0)
-      candidates.push_back({layout.name, fit.score, fit.reason});
+      candidates.push_back(
+          {std::string("--layout ") + layout.name, layout.name, fit.score, fit.reason});
   }
   std::stable_sort(candidates.begin(), candidates.end(),
-                   [](const LayoutCandidate& a, const LayoutCandidate& b)
+                   [](const ImportCandidate& a, const ImportCandidate& b)
                    { return a.score > b.score; });
   return candidates;
 }

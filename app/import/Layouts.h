@@ -52,7 +52,7 @@ const std::vector<Layout>& layouts();
 const Layout* findLayout(const std::string& name);
 
 /// The layouts that fit, the best one first. Those of a score of 0 are left out.
-std::vector<LayoutCandidate> candidatesFor(const TableText& text, const ImportRequest& request);
+std::vector<ImportCandidate> candidatesFor(const TableText& text, const ImportRequest& request);
 
 } // namespace Talmesh::app
 

@@ -49,6 +49,12 @@ std::size_t oddRun(const std::vector<std::size_t>& lengths, std::size_t usual)
                                   lengths.begin());
 }
 
+/// Tables of other formats have no lines, and their rows count.
+std::size_t lineOf(const RunColumns& columns, std::size_t row)
+{
+  return columns.lines->empty() ? row + 1 : (*columns.lines)[row];
+}
+
 std::vector<std::size_t> startsByTime(const RunColumns& columns)
 {
   std::vector<std::size_t> starts{0};
@@ -68,7 +74,7 @@ std::vector<std::size_t> startsByTime(const RunColumns& columns)
 
 Result<RunGrouping> groupByTime(const RunColumns& columns)
 {
-  const std::vector<std::size_t> starts = startsByTime(columns);
+  std::vector<std::size_t> starts = startsByTime(columns);
   std::vector<std::size_t> lengths;
   for (std::size_t run = 0; run < starts.size(); ++run)
     lengths.push_back((run + 1 < starts.size() ? starts[run + 1] : columns.rows) - starts[run]);
@@ -77,13 +83,15 @@ Result<RunGrouping> groupByTime(const RunColumns& columns)
   grouping.pointsPerRun = usualLength(lengths);
   const std::size_t odd = oddRun(lengths, grouping.pointsPerRun);
   if (odd == 0)
-    return Result<RunGrouping>::failed(unequalRun("0", lengths[0], grouping.pointsPerRun));
-  if (odd < lengths.size())
-    return Result<RunGrouping>::failed(withValues(
+    grouping.unequal = unequalRun("0", lengths[0], grouping.pointsPerRun);
+  else if (odd < lengths.size())
+    grouping.unequal = withValues(
         translated("RunGrouping",
                    "run %1 (from line %2, where time falls back) has %3, other runs have %4"),
-        {std::to_string(odd), std::to_string((*columns.lines)[starts[odd]]), points(lengths[odd]),
-         std::to_string(grouping.pointsPerRun)}));
+        {std::to_string(odd), std::to_string(lineOf(columns, starts[odd])), points(lengths[odd]),
+         std::to_string(grouping.pointsPerRun)});
+  grouping.starts = std::move(starts);
+  grouping.starts.push_back(columns.rows);
   grouping.indices.resize(grouping.numberOfRuns);
   std::iota(grouping.indices.begin(), grouping.indices.end(), 0.0);
   return grouping;
@@ -160,7 +168,7 @@ std::string orderByTime(const RunColumns& columns, RowsOfRuns& rows)
     const std::size_t at = fallBack(*columns.time, rows[run]);
     if (at == rows[run].size())
       continue;
-    const std::size_t line = (*columns.lines)[rows[run][at]];
+    const std::size_t line = lineOf(columns, rows[run][at]);
     if (!sortByTime(*columns.time, rows[run]))
       return withValues(
           translated("RunGrouping", "run %1 starts again in line %2: two runs have the same name"),
@@ -184,8 +192,8 @@ Result<RunGrouping> groupByName(const RunColumns& columns)
     return Result<RunGrouping>::failed(unsorted);
   const std::size_t odd = oddRun(lengths, grouping.pointsPerRun);
   if (odd < count)
-    return Result<RunGrouping>::failed(
-        unequalRun(quotedForMessage((*columns.names)[odd]), lengths[odd], grouping.pointsPerRun));
+    grouping.unequal =
+        unequalRun(quotedForMessage((*columns.names)[odd]), lengths[odd], grouping.pointsPerRun);
 
   grouping.runs.resize(count);
   std::iota(grouping.runs.begin(), grouping.runs.end(), 0);
@@ -200,6 +208,9 @@ Result<RunGrouping> groupByName(const RunColumns& columns)
   std::sort(grouping.indices.begin(), grouping.indices.end());
 
   grouping.order.reserve(columns.rows);
+  grouping.starts.push_back(0);
+  for (const int run : grouping.runs)
+    grouping.starts.push_back(grouping.starts.back() + rows[run].size());
   for (const int run : grouping.runs)
     grouping.order.insert(grouping.order.end(), rows[run].begin(), rows[run].end());
   if (std::is_sorted(grouping.order.begin(), grouping.order.end()))

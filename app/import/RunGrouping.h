@@ -24,7 +24,7 @@ struct RunColumns
   const std::vector<std::size_t>* lines = nullptr;
 };
 
-/// Rows sorted into runs of equal length.
+/// Rows sorted into runs.
 struct RunGrouping
 {
   /// The row that each place of the stacked table takes: run after run, inside a run in the order
@@ -33,7 +33,13 @@ struct RunGrouping
   /// The run, into `RunColumns::names`, that stands at each place; empty without a run column.
   std::vector<int> runs;
   std::size_t numberOfRuns = 0;
+  /// The place at which each run starts, and behind the last one the number of all.
+  std::vector<std::size_t> starts;
+  /// The points of each run; of runs of different lengths, of most of them.
   std::size_t pointsPerRun = 0;
+  /// Which run is the first that differs in its length from most, as a message; empty when all have
+  /// the same.
+  std::string unequal;
   /// The numbers of the runs: the names as numbers when all are different whole numbers, which
   /// also puts the runs into ascending order; else 0, 1, 2, ...
   std::vector<double> indices;
@@ -42,8 +48,8 @@ struct RunGrouping
 /// Finds the runs: by the run column, whose rows need not be contiguous, else by time: a run
 /// starts where time falls back. Without either all rows are one run. The rows of a named run whose
 /// time falls back are sorted by time when no two of them share one; otherwise two runs of the same
-/// name would be taken for one, which is an error. Messages count runs without a name from 0, as
-/// their indices do.
+/// name would be taken for one, which is an error. A run may have another length than others.
+/// Messages count runs without a name from 0, as their indices do.
 Result<RunGrouping> groupRuns(const RunColumns& columns);
 
 } // namespace Talmesh::app

@@ -30,9 +30,8 @@ std::pair<double, double> rangeAround(double value)
 class RunTableBuilder
 {
 public:
-  RunTableBuilder(TableText& text_, const std::vector<bool>& leftOut_, const RunGrouping& grouping_)
+  RunTableBuilder(TableText& text_, const RunGrouping& grouping_)
       : text(text_)
-      , leftOut(leftOut_)
       , grouping(grouping_)
   {
   }
@@ -40,7 +39,7 @@ public:
   BuiltRuns build()
   {
     for (std::size_t i = 0; i < text.columns.size(); ++i)
-      if (!leftOut[i])
+      if (text.uses[i] != ColumnUse::Ignored && text.uses[i] != ColumnUse::RunName)
         addColumn(i);
     if (!text.roles.anyTyped && text.roles.runColumn < 0)
       addRunIndex(runIndexName, false);
@@ -53,6 +52,9 @@ public:
     for (const StackedColumn& column : columns)
       if (column.item.first == Parameter && !column.varies())
         built.unvariedParameters.push_back(column.item.second);
+    for (const StackedColumn& column : columns)
+      if (column.source != StackedColumn::noSource)
+        built.labels.emplace(column.source, selectionPairToString(column.item));
     built.runs = handOver();
     return built;
   }
@@ -92,6 +94,13 @@ private:
     return true;
   }
 
+  bool isParameter(ColumnUse use, const StackedColumn& column) const
+  {
+    if (use == ColumnUse::Item || use == ColumnUse::Parameter)
+      return use == ColumnUse::Parameter;
+    return column.varies() && constantWithinRuns(column.values.get());
+  }
+
   void addRunIndex(const std::string& name, bool typed)
   {
     columns.push_back(
@@ -110,6 +119,7 @@ private:
     StackedColumn column;
     column.item = {header.kind, header.name};
     column.typed = header.typed;
+    column.source = index;
     column.values = stacked(text.columns[index]);
     column.range = rangeOf(column.values.get());
     if (position == text.roles.timeColumn)
@@ -120,8 +130,7 @@ private:
     else if (!header.typed)
     {
       // Plots leave out a parameter that does not vary; as an item the column stays to be seen.
-      const bool parameter = column.varies() && constantWithinRuns(column.values.get());
-      column.item.first = parameter ? Parameter : Molecule;
+      column.item.first = isParameter(text.uses[index], column) ? Parameter : Molecule;
     }
     else if (header.kind == Parameter && !column.varies() && hasOneValueInSomeRuns(column))
       column.range = rangeAround(column.range.first);
@@ -166,17 +175,15 @@ private:
   }
 
   TableText& text;
-  const std::vector<bool>& leftOut;
   const RunGrouping& grouping;
   std::vector<StackedColumn> columns;
 };
 
 } // namespace
 
-BuiltRuns buildRunTable(TableText& text, const std::vector<bool>& leftOut,
-                        const RunGrouping& grouping)
+BuiltRuns buildRunTable(TableText& text, const RunGrouping& grouping)
 {
-  return RunTableBuilder(text, leftOut, grouping).build();
+  return RunTableBuilder(text, grouping).build();
 }
 
 } // namespace Talmesh::app

@@ -7,6 +7,8 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -19,14 +21,14 @@ struct BuiltRuns
   boost::shared_ptr<LinePlotTable> runs;
   /// Names of the parameters that plots leave out because they are the same in all runs.
   std::vector<std::string> unvariedParameters;
+  /// The labels that columns of the text have got.
+  std::map<std::size_t, std::string> labels;
 };
 
 /// Stacks the columns of a text run after run, gives each its kind and its label, and adds the run
 /// index that a table of plain headers lacks.
 /// @param text is emptied on the way, so that no column is in memory twice.
-/// @param leftOut tells the columns that do not come into the table.
-BuiltRuns buildRunTable(TableText& text, const std::vector<bool>& leftOut,
-                        const RunGrouping& grouping);
+BuiltRuns buildRunTable(TableText& text, const RunGrouping& grouping);
 
 } // namespace Talmesh::app
 

@@ -1,15 +1,20 @@
 #include "app/import/RunTableImport.h"
 
+#include "app/import/CategoryColumns.h"
+#include "app/import/CommonGrid.h"
+#include "app/import/LayoutChoice.h"
+#include "app/import/RoleChoice.h"
 #include "app/import/RunGrouping.h"
 #include "app/import/RunTableBuilder.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
-#include "plot/SelectionFlags.h"
 
 #include <vtkDoubleArray.h>
 #include <vtkNew.h>
 
 #include <algorithm>
+#include <numeric>
+#include <set>
 #include <utility>
 
 namespace Talmesh::app
@@ -18,62 +23,16 @@ namespace Talmesh::app
 namespace
 {
 
-/// A layout whose score is this part of the best one could be meant as well.
-constexpr double closeScores = 0.8;
+using Imported = Result<ImportedTable>;
 
-bool isTextColumn(const ColumnValues& column)
+std::string noNumbers()
 {
-  return column.texts > 0 && column.numbers == 0;
+  return translated("RunTableImport", "not a table: no column holds numbers");
 }
 
-/// Whether the first column is the one that pandas and R put before a table unless told otherwise:
-/// without a name, it counts the rows.
-bool firstColumnCountsRows(const TableText& text)
+bool isLeftOut(const TableText& text, std::size_t column)
 {
-  const ColumnValues& first = text.columns.front();
-  if (!text.roles.headers.front().unnamed || first.numbers != text.rows)
-    return false;
-  const double start = first.values.front();
-  for (std::size_t row = 0; row < text.rows; ++row)
-    if (first.values[row] != start + static_cast<double>(row))
-      return false;
-  const bool otherNumbers =
-      std::any_of(text.columns.begin() + 1, text.columns.end(),
-                  [](const ColumnValues& column) { return column.numbers > 0; });
-  return otherNumbers && (start == 0.0 || start == 1.0);
-}
-
-/// The columns that are no data, one flag each, and what to say of them.
-struct LeftOutColumns
-{
-  std::vector<bool> flags;
-  std::vector<std::string> notes;
-};
-
-LeftOutColumns leftOutOf(const TableText& text)
-{
-  LeftOutColumns leftOut;
-  for (std::size_t i = 0; i < text.columns.size(); ++i)
-  {
-    const ColumnHeader& header = text.roles.headers[i];
-    const bool marks = !header.typed && plot::isSelectionMark(header.name);
-    leftOut.flags.push_back(marks || isTextColumn(text.columns[i]));
-    if (marks)
-      leftOut.notes.push_back(withValues(
-          translated("RunTableImport", "The column %1 marks a former selection and is left out."),
-          {quotedForMessage(header.name)}));
-    else if (leftOut.flags.back())
-      leftOut.notes.push_back(
-          withValues(translated("RunTableImport", "The column %1 holds text and is left out."),
-                     {quotedForMessage(header.name)}));
-  }
-  if (firstColumnCountsRows(text))
-  {
-    leftOut.flags.front() = true;
-    leftOut.notes.push_back(translated(
-        "RunTableImport", "The first column has no name and counts the rows; it is left out."));
-  }
-  return leftOut;
+  return text.uses[column] == ColumnUse::Ignored || text.uses[column] == ColumnUse::RunName;
 }
 
 /// Texts among numbers are an error, because a silent gap would look like data.
@@ -81,159 +40,234 @@ std::string mistypedCell(const TableText& text)
 {
   for (std::size_t i = 0; i < text.columns.size(); ++i)
   {
-    const ColumnValues& column = text.columns[i];
-    const bool needed = static_cast<int>(i) == text.roles.timeColumn;
-    if (column.texts > 0 && (column.numbers > 0 || needed))
-      return withValues(
-          translated("RunTableImport", "line %1: %2 in the column %3 is not a number"),
-          {std::to_string(column.firstText.line), quotedForMessage(column.firstText.text),
-           quotedForMessage(text.roles.headers[i].name)});
+    const bool needed = !isLeftOut(text, i) && text.uses[i] != ColumnUse::Condition;
+    const std::string error = needed ? mistypedCell(text, i) : std::string();
+    if (!error.empty())
+      return error;
   }
   return {};
 }
 
-vtkSmartPointer<vtkTable> plainTable(TableText& text, const std::vector<bool>& leftOut)
+/// The stacked runs, or what keeps the rows from being such.
+class RunsOfText
 {
-  auto table = vtkSmartPointer<vtkTable>::New();
+public:
+  RunsOfText(TableText& text_, const ImportTask& task_, ImportReport& report_)
+      : text(text_)
+      , request(task_.request)
+      , report(report_)
+  {
+  }
+
+  Imported build(const std::vector<ColumnLevels>& levels)
+  {
+    Result<RunGrouping> grouped = text.rowsAreRuns ? everyRow() : grouping();
+    if (!grouped.hasValue())
+      return Imported::without(grouped);
+    RunGrouping& runs = grouped.value();
+    ImportedTable imported;
+    const std::string error = layOnGrid(runs, imported);
+    if (!error.empty())
+      return Imported::failed(error);
+    noteOnMissingTime(runs.pointsPerRun);
+    const BuiltRuns built = buildRunTable(text, runs);
+    imported.runs = built.runs;
+    for (const std::string& parameter : built.unvariedParameters)
+      report.warnings.push_back(withValues(
+          translated("RunTableImport", "The parameter %1 is the same in all runs and is left out."),
+          {quotedForMessage(parameter)}));
+    for (const ColumnLevels& category : levels)
+      if (const auto label = built.labels.find(category.column); label != built.labels.end())
+        imported.categories.push_back({label->second, category.levels});
+    describe(*built.runs);
+    return imported;
+  }
+
+private:
+  Result<RunGrouping> grouping() const
+  {
+    RunColumns columns;
+    columns.rows = text.rows;
+    columns.lines = &text.lines;
+    if (text.roles.timeColumn >= 0)
+      columns.time = &text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
+    if (!text.runNames.empty())
+    {
+      columns.run = &text.runOfRow;
+      columns.names = &text.runNames;
+    }
+    return groupRuns(columns);
+  }
+
+  Result<RunGrouping> everyRow() const
+  {
+    if (text.runNames.size() == text.rows)
+      return grouping();
+    RunGrouping rows;
+    rows.numberOfRuns = text.rows;
+    rows.pointsPerRun = 1;
+    rows.indices.resize(text.rows);
+    std::iota(rows.indices.begin(), rows.indices.end(), 0.0);
+    rows.starts.resize(text.rows + 1);
+    std::iota(rows.starts.begin(), rows.starts.end(), std::size_t{0});
+    return rows;
+  }
+
+  bool hasInfiniteTime() const
+  {
+    if (text.roles.timeColumn < 0)
+      return false;
+    const auto& time = text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
+    return std::any_of(time.begin(), time.end(), [](double value) { return std::isinf(value); });
+  }
+
+  std::string layOnGrid(RunGrouping& runs, ImportedTable& imported)
+  {
+    if (hasInfiniteTime())
+    {
+      stackRows(text, runs);
+      takeSteadyStates(text, runs, report);
+    }
+    tellLengths(runs);
+    if (!runs.unequal.empty())
+    {
+      if (text.runNames.empty() && !request.unequal && request.layout.empty())
+        return doubtedRestarts(runs);
+      stackRows(text, runs);
+      const std::string error =
+          putOnCommonGrid(text, runs, request.unequal, report, imported.measured);
+      if (!error.empty())
+        return error;
+    }
+    if (text.hasGaps && !text.isMeasured && request.unequal != UnequalRuns::Union)
+    {
+      stackRows(text, runs);
+      bridgeGaps(text, runs, report);
+    }
+    return {};
+  }
+
+  void tellLengths(const RunGrouping& runs)
+  {
+    report.runs = runs.numberOfRuns;
+    report.fewestPoints = runs.pointsPerRun;
+    report.mostPoints = runs.pointsPerRun;
+    for (std::size_t run = 0; run < runs.numberOfRuns; ++run)
+    {
+      const std::size_t points = runs.starts[run + 1] - runs.starts[run];
+      report.fewestPoints = std::min(report.fewestPoints, points);
+      report.mostPoints = std::max(report.mostPoints, points);
+    }
+  }
+
+  /// Where time falls back now here, now there, it may not be that a run starts.
+  std::string doubtedRestarts(const RunGrouping& runs)
+  {
+    report.candidates = {
+        {"--layout stacked", "stacked", 0.5,
+         translated("RunTableImport", "a run starts wherever time falls back, and runs differ in "
+                                      "length")},
+        {"--layout table", "table", 0.5, translated("RunTableImport", "the rows have no order")}};
+    return withValues(translated("RunTableImport",
+                                 "%1. If a run starts wherever time falls back, say --layout "
+                                 "stacked; if a column names the runs, --run and its name; if "
+                                 "there are none, --layout table"),
+                      {runs.unequal});
+  }
+
+  /// In which order points are when there is no time.
+  void noteOnMissingTime(std::size_t pointsPerRun)
+  {
+    if (text.roles.timeColumn < 0 && pointsPerRun > 1)
+      report.warnings.push_back(translated("RunTableImport",
+                                           "There is no time column, so the points of a run are "
+                                           "in the order of the file."));
+  }
+
+  void describe(const LinePlotTable& runs)
+  {
+    if (text.roles.timeColumn >= 0)
+      report.time = text.roles.headers[static_cast<std::size_t>(text.roles.timeColumn)].name;
+    const std::set<std::string> categories(report.categories.begin(), report.categories.end());
+    for (const auto& [kind, name] : runs.items)
+      if (categories.count(name) > 0)
+        continue;
+      else if (kind == Parameter)
+        report.parameters.push_back(name);
+      else if (kind != TimeOrValue)
+        report.items.push_back(name);
+  }
+
+  TableText& text;
+  const ImportRequest& request;
+  ImportReport& report;
+};
+
+/// A table without an order of its rows.
+ImportedTable plainTable(TableText& text, const std::vector<ColumnLevels>& levels,
+                         ImportReport& report)
+{
+  ImportedTable imported;
+  report.warnings.push_back(
+      translated("RunTableImport", "There is no time column, so the rows are not taken for runs."));
+  imported.table = vtkSmartPointer<vtkTable>::New();
+  const std::set<std::string> categories(report.categories.begin(), report.categories.end());
   for (std::size_t i = 0; i < text.columns.size(); ++i)
   {
     ColumnValues& column = text.columns[i];
-    if (leftOut[i])
+    if (isLeftOut(text, i))
       continue;
+    const std::string& name = text.roles.headers[i].name;
     vtkNew<vtkDoubleArray> array;
-    array->SetName(text.roles.headers[i].name.c_str());
+    array->SetName(name.c_str());
     array->SetNumberOfValues(static_cast<vtkIdType>(text.rows));
     std::copy(column.values.begin(), column.values.end(), array->GetPointer(0));
     std::vector<double>().swap(column.values);
-    table->AddColumn(array);
+    imported.table->AddColumn(array);
+    if (categories.count(name) == 0)
+      report.items.push_back(name);
   }
-  return table;
-}
-
-std::string noteOnUnvaried(const std::string& parameter)
-{
-  return withValues(
-      translated("RunTableImport", "The parameter %1 is the same in all runs and is left out."),
-      {quotedForMessage(parameter)});
-}
-
-/// Why the rows are no runs, or in which order their points are, when there is no time; else empty.
-std::string noteOnMissingTime(const TableText& text, std::size_t pointsPerRun)
-{
-  if (text.roles.timeColumn >= 0 || pointsPerRun == 1)
-    return {};
-  return text.roles.describeRuns()
-             ? translated("RunTableImport", "There is no time column, so the points of a run are "
-                                            "in the order of the file.")
-             : translated("RunTableImport",
-                          "There is no time column, so the rows are not taken for runs.");
-}
-
-Result<RunGrouping> groupingOf(const TableText& text)
-{
-  RunColumns columns;
-  columns.rows = text.rows;
-  columns.lines = &text.lines;
-  if (text.roles.timeColumn >= 0)
-    columns.time = &text.columns[text.roles.timeColumn].values;
-  if (text.roles.runColumn >= 0)
-  {
-    columns.run = &text.runOfRow;
-    columns.names = &text.runNames;
-  }
-  return groupRuns(columns);
-}
-
-std::string noNumbers()
-{
-  return translated("RunTableImport", "not a table: no column holds numbers");
+  for (const ColumnLevels& category : levels)
+    imported.categories.push_back({text.roles.headers[category.column].name, category.levels});
+  report.fewestPoints = text.rows;
+  report.mostPoints = text.rows;
+  return imported;
 }
 
 bool hasNumbers(const TableText& text)
 {
   return std::any_of(text.columns.begin(), text.columns.end(),
-                     [](const ColumnValues& column) { return column.numbers > 0; });
+                     [](const ColumnValues& column)
+                     { return column.numbers > 0 || column.dates > 0; });
 }
 
-void describe(const ImportedTable& imported, ImportReport& report)
+bool hasColumns(const TableText& text)
 {
-  report.warnings.insert(report.warnings.end(), imported.notes.begin(), imported.notes.end());
-  report.runs = imported.runs->numberOfTrajectories;
-  report.fewestPoints = imported.runs->pointsPerTrajectory;
-  report.mostPoints = imported.runs->pointsPerTrajectory;
-  for (const auto& [kind, name] : imported.runs->items)
-    if (kind == Parameter)
-      report.parameters.push_back(name);
-    else if (kind != TimeOrValue)
-      report.items.push_back(name);
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+    if (!isLeftOut(text, i))
+      return true;
+  return false;
 }
 
-std::string namesOf(const std::vector<LayoutCandidate>& candidates)
+Imported importArranged(TableText text, const ImportTask& task, ImportReport& report)
 {
-  std::string names;
-  for (const LayoutCandidate& candidate : candidates)
-    names += (names.empty() ? "--layout " : ", --layout ") + candidate.layout + " (" +
-             candidate.reason + ')';
-  return names;
-}
-
-/// The layout that the user names, else the one that fits best.
-Result<const Layout*> chosenLayout(const TableText& text, const ImportRequest& request,
-                                   ImportReport& report)
-{
-  using Chosen = Result<const Layout*>;
-  if (!request.layout.empty())
-  {
-    if (const Layout* named = findLayout(request.layout))
-      return named;
-    return Chosen::failed(withValues(translated("RunTableImport", "there is no layout %1"),
-                                     {quotedForMessage(request.layout)}));
-  }
-  std::vector<LayoutCandidate> candidates = candidatesFor(text, request);
-  if (candidates.empty())
-    return Chosen::failed(noNumbers());
-  report.reasons.push_back(candidates.front().reason);
-  const double close = closeScores * candidates.front().score;
-  candidates.erase(std::remove_if(candidates.begin(), candidates.end(),
-                                  [close](const LayoutCandidate& candidate)
-                                  { return candidate.score < close; }),
-                   candidates.end());
-  if (candidates.size() == 1)
-    return findLayout(candidates.front().layout);
-  report.candidates = candidates;
-  return Chosen::failed(withValues(
-      translated("RunTableImport", "it is not clear how the table is laid out; say which: %1"),
-      {namesOf(candidates)}));
-}
-
-Result<ImportedTable> importArranged(TableText text, ImportReport& report)
-{
-  using Imported = Result<ImportedTable>;
-  LeftOutColumns leftOut = leftOutOf(text);
-  if (std::find(leftOut.flags.begin(), leftOut.flags.end(), false) == leftOut.flags.end())
+  const std::string refused = mistypedCell(text);
+  if (!refused.empty())
+    return Imported::failed(refused);
+  std::string error;
+  if (text.hasRuns && text.runNames.empty())
+    error = nameRuns(text);
+  if (!error.empty())
+    return Imported::failed(error);
+  const std::vector<ColumnLevels> levels = makeCategories(text, report);
+  for (const ColumnLevels& category : levels)
+    text.levelColumns.push_back(category.column);
+  if (!hasColumns(text))
     return Imported::failed(noNumbers());
-  ImportedTable imported;
-  imported.notes = std::move(leftOut.notes);
-  const auto addNote = [&imported](const std::string& note)
-  {
-    if (!note.empty())
-      imported.notes.push_back(note);
-  };
-  if (!text.hasRuns)
-  {
-    addNote(noteOnMissingTime(text, 0));
-    imported.table = plainTable(text, leftOut.flags);
-    return imported;
-  }
-  const Result<RunGrouping> grouping = groupingOf(text);
-  if (!grouping.hasValue())
-    return Imported::without(grouping);
-  addNote(noteOnMissingTime(text, grouping.value().pointsPerRun));
-  const BuiltRuns built = buildRunTable(text, leftOut.flags, grouping.value());
-  imported.runs = built.runs;
-  for (const std::string& parameter : built.unvariedParameters)
-    addNote(noteOnUnvaried(parameter));
-  describe(imported, report);
+  Imported imported = text.hasRuns ? RunsOfText(text, task, report).build(levels)
+                                   : Imported(plainTable(text, levels, report));
+  if (imported.hasValue())
+    imported.value().notes = report.warnings;
   return imported;
 }
 
@@ -241,26 +275,28 @@ Result<ImportedTable> importArranged(TableText text, ImportReport& report)
 
 Result<ImportedTable> importTable(TableText text, const ImportTask& task, ImportReport& report)
 {
-  using Imported = Result<ImportedTable>;
-  const std::string refused = hasNumbers(text) ? mistypedCell(text) : noNumbers();
-  if (!refused.empty())
-    return Imported::failed(refused);
-  const Result<const Layout*> layout = chosenLayout(text, task.request, report);
+  std::string error = applyRequest(text, task.request);
+  if (error.empty() && !hasNumbers(text))
+    error = noNumbers();
+  if (!error.empty())
+    return Imported::failed(error);
+  settleColumns(text, report);
+  const Result<const Layout*> layout = chooseLayout(text, task.request, report);
   if (!layout.hasValue())
     return Imported::without(layout);
   report.layout = layout.value()->name;
   Result<TableText> arranged =
       layout.value()->arrange(std::move(text), {task.request, task.beside, report});
-  return arranged.hasValue() ? importArranged(std::move(arranged.value()), report)
+  return arranged.hasValue() ? importArranged(std::move(arranged.value()), task, report)
                              : Imported::without(arranged);
 }
 
 Result<ImportedTable> importTable(std::string_view bytes, const ImportTask& task,
                                   ImportReport& report)
 {
-  Result<TableText> read = readTableText(bytes, task.progress, task.passed);
+  Result<TableText> read = readTableText(bytes, task.request, report, task.progress, task.passed);
   return read.hasValue() ? importTable(std::move(read.value()), task, report)
-                         : Result<ImportedTable>::without(read);
+                         : Imported::without(read);
 }
 
 Result<ImportedTable> importRunTable(std::string_view bytes, const ImportProgress& progress,

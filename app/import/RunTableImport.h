@@ -15,6 +15,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,8 @@ struct ImportedTable
   vtkSmartPointer<vtkTable> table;
   /// The columns of runs or table whose numbers stand for texts.
   std::vector<Category> categories;
+  /// The times that runs of different times had.
+  std::shared_ptr<const MeasuredTimes> measured;
   /// What the user should know although the import succeeded, one line each.
   std::vector<std::string> notes;
 };

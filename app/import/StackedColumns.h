@@ -3,6 +3,7 @@
 
 #include "external/TypedConcentrationName.h"
 
+#include <cstddef>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -26,6 +27,9 @@ struct StackedColumn
   std::unique_ptr<double[]> values;
   /// (smallest, largest) finite value; (0, 0) without one.
   std::pair<double, double> range;
+  /// The column of the text that it was; `noSource` for one that was added.
+  static constexpr std::size_t noSource = static_cast<std::size_t>(-1);
+  std::size_t source = noSource;
 
   bool varies() const { return range.first != range.second; }
 };

@@ -8,6 +8,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,6 +27,14 @@ struct Category
   std::vector<std::string> levels;
 };
 
+/// The times that runs had before they got common ones.
+struct MeasuredTimes
+{
+  /// Where the times of each run start, and behind the last run the number of all.
+  std::vector<std::size_t> starts;
+  std::vector<double> times;
+};
+
 /// The data that the viewer shows: runs or, for data without runs, a plain table, or else a chart
 /// that is computed. Texts are UTF-8.
 struct Study
@@ -37,6 +46,8 @@ struct Study
   /// Null for data whose chart the user composes.
   std::shared_ptr<const OwnChart> chart = nullptr;
   std::vector<Category> categories = {};
+  /// Null where all runs were read at the times that they have.
+  std::shared_ptr<const MeasuredTimes> measured = nullptr;
 };
 
 /// The state of every run at its last point, as a study of one point per run; of a plain table the

@@ -1,13 +1,13 @@
 #include "app/import/TableText.h"
 
 #include "app/import/DelimitedText.h"
-#include "app/import/NumberText.h"
+#include "app/import/RoleChoice.h"
+#include "app/import/TextShape.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
-#include <cmath>
-#include <unordered_map>
+#include <utility>
 
 namespace Talmesh::app
 {
@@ -18,7 +18,6 @@ namespace
 constexpr std::size_t rowsBetweenReports = 2000;
 /// The first rows may be longer than those behind them.
 constexpr double reservedShare = 1.1;
-constexpr std::size_t longestNote = 80;
 
 std::string unreadable(std::string_view bytes)
 {
@@ -32,33 +31,6 @@ std::string unreadable(std::string_view bytes)
   return {};
 }
 
-/// A column that may name the runs.
-struct RunNames
-{
-  std::vector<int> runOfRow;
-  std::vector<std::string> names;
-  std::unordered_map<std::string, int> numbers;
-  /// The first line without a name; 0 when there is none.
-  std::size_t unnamedLine = 0;
-
-  void add(std::string_view field, std::size_t line)
-  {
-    const std::string name = toUtf8(withoutOuterBlanks(field));
-    if (name.empty() && unnamedLine == 0)
-      unnamedLine = line;
-    const auto [entry, added] = numbers.emplace(name, static_cast<int>(names.size()));
-    if (added)
-      names.push_back(name);
-    runOfRow.push_back(entry->second);
-  }
-};
-
-void note(NotedCell& cell, bool wanted, std::string_view field, std::size_t line)
-{
-  if (wanted && cell.line == 0)
-    cell = {line, std::string(field.substr(0, longestNote))};
-}
-
 /// The cell of the earliest line that `noted` tells of any column; null without one.
 const NotedCell* earliest(const std::vector<ColumnValues>& columns, NotedCell ColumnValues::*noted)
 {
@@ -66,16 +38,42 @@ const NotedCell* earliest(const std::vector<ColumnValues>& columns, NotedCell Co
   for (const ColumnValues& column : columns)
   {
     const NotedCell& cell = column.*noted;
-    if (cell.line > 0 && (!first || cell.line < first->line))
+    // A name with a point is no number.
+    if (!column.keepsTexts && cell.line > 0 && (!first || cell.line < first->line))
       first = &cell;
   }
   return first;
 }
 
-std::string ambiguousCell(const std::vector<ColumnValues>& columns)
+/// Whether all commas in numbers stand where they could part thousands.
+bool mayAllBeThousands(const std::vector<ColumnValues>& columns)
+{
+  std::size_t commas = 0;
+  std::size_t thousands = 0;
+  for (const ColumnValues& column : columns)
+  {
+    commas += column.commas;
+    thousands += column.thousands;
+  }
+  return commas > 0 && commas == thousands;
+}
+
+/// Decimal points beside decimal commas, or commas that may part thousands.
+std::string ambiguousCell(const std::vector<ColumnValues>& columns, const ImportRequest& request,
+                          ImportReport& report)
 {
   const NotedCell* point = earliest(columns, &ColumnValues::firstDecimalPoint);
   const NotedCell* comma = earliest(columns, &ColumnValues::firstDecimalComma);
+  if (comma && !point && !request.decimalMark && mayAllBeThousands(columns))
+  {
+    report.candidates = {
+        {"--decimal ,", {}, 0.5, translated("TableText", "the comma is the decimal mark")},
+        {"--decimal .", {}, 0.5, translated("TableText", "the comma parts thousands")}};
+    return withValues(translated("TableText",
+                                 "line %1: %2 could have a decimal comma (--decimal ,) or a comma "
+                                 "between thousands (write the table without them)"),
+                      {std::to_string(comma->line), quotedForMessage(comma->text)});
+  }
   if (!point || !comma)
     return {};
   const NotedCell& later = point->line < comma->line ? *comma : *point;
@@ -88,11 +86,12 @@ std::string ambiguousCell(const std::vector<ColumnValues>& columns)
 class TableTextReader
 {
 public:
-  TableTextReader(std::string_view text_, const ImportProgress& progress_,
-                  const TextPassed& passed_)
+  TableTextReader(std::string_view text_, const ImportRequest& request_, ImportReport& report_,
+                  const ImportProgress& progress_, const TextPassed& passed_)
       : text(text_)
-      , delimiter(detectDelimiter(text_))
-      , records(text_, delimiter)
+      , request(request_)
+      , report(report_)
+      , records({}, ',')
       , progress(progress_)
       , passed(passed_)
   {
@@ -106,9 +105,7 @@ public:
     if (cancelled)
       return Result<TableText>::cancelled();
     if (error.empty())
-      chooseRunColumn();
-    if (error.empty())
-      error = ambiguousCell(table.columns);
+      error = ambiguousCell(table.columns, request, report);
     return error.empty() ? Result<TableText>(std::move(table)) : Result<TableText>::failed(error);
   }
 
@@ -117,37 +114,34 @@ private:
 
   void readHeaders()
   {
-    // Above the headers a line of nothing but blanks is blank in every table.
-    bool found = records.next(fields);
-    while (found && isBlankRecord(fields) && (fields.size() > 1 || !fields.front().empty()))
-      found = records.next(fields);
-    if (!found)
-      error = translated("TableText", "the file is empty");
-    else if (records.endedInsideQuotes())
-      error = withValues(translated("TableText", "line %1: a quoted name is not closed"), {line()});
-    else
-      dropTrailingEmptyFields(1);
-    if (error.empty() && fields.size() > mostColumns)
-      error =
-          withValues(translated("TableText", "the table has %1 columns; at most %2 can be read"),
-                     {std::to_string(fields.size()), std::to_string(mostColumns)});
-    if (!error.empty())
-      return;
-    const bool numbersOnly =
-        std::all_of(fields.begin(), fields.end(),
-                    [this](std::string_view field)
-                    { return readNumber(field, commas()).kind == NumberText::Kind::Number; });
-    if (numbersOnly)
+    Result<TextShape> sniffed = sniffText(text, request);
+    if (!sniffed.hasValue())
     {
-      error = translated("TableText", "the first line holds numbers, not the names of the columns");
+      error = sniffed.error();
       return;
     }
+    shape = std::move(sniffed.value());
+    report.reasons.insert(report.reasons.end(), shape.reasons.begin(), shape.reasons.end());
+    report.warnings.insert(report.warnings.end(), shape.warnings.begin(), shape.warnings.end());
+    std::vector<std::string>& names = shape.headers;
+    while (names.size() > 1 && withoutOuterBlanks(names.back()).empty())
+      names.pop_back();
+    if (names.size() > mostColumns)
+      error =
+          withValues(translated("TableText", "the table has %1 columns; at most %2 can be read"),
+                     {std::to_string(names.size()), std::to_string(mostColumns)});
+    if (!error.empty())
+      return;
     std::vector<std::string> headers;
-    for (const std::string_view field : fields)
-      headers.push_back(toUtf8(field));
+    for (const std::string& name : names)
+      headers.push_back(toUtf8(name));
     table.roles = assignRoles(headers);
-    candidates.resize(table.roles.runCandidates.size());
     table.columns.resize(headers.size());
+    table.uses.resize(headers.size());
+    for (const int column : columnsOfNames(table.roles, request))
+      table.columns[static_cast<std::size_t>(column)].keepsTexts = true;
+    records = DelimitedText(text, shape.separator, shape.comment);
+    records.skipTo(shape.dataBegin, shape.dataLine);
   }
 
   void readRows()
@@ -155,15 +149,14 @@ private:
     while (error.empty() && records.next(fields))
     {
       if (records.endedInsideQuotes())
-        error =
-            withValues(translated("TableText", "line %1: a quoted field is not closed"), {line()});
+        tellOpenQuotes();
       else if (table.columns.size() > 1 && isBlankRecord(fields))
         continue;
       else if (rowFits())
         readRow();
       if (table.rows == rowsBetweenReports)
         reserveRows();
-      if (table.rows % rowsBetweenReports == 0 && !report())
+      if (table.rows % rowsBetweenReports == 0 && !tellProgress())
         return;
     }
     if (error.empty() && table.rows == 0)
@@ -178,13 +171,11 @@ private:
     const auto rows =
         static_cast<std::size_t>(reservedShare * static_cast<double>(table.rows) / part);
     for (ColumnValues& column : table.columns)
-      column.values.reserve(rows);
-    for (RunNames& candidate : candidates)
-      candidate.runOfRow.reserve(rows);
+      column.reserve(rows);
     table.lines.reserve(rows);
   }
 
-  bool report()
+  bool tellProgress()
   {
     if (passed)
       passed(records.position());
@@ -195,83 +186,61 @@ private:
 
   bool rowFits()
   {
-    dropTrailingEmptyFields(table.columns.size());
+    while (fields.size() > table.columns.size() && withoutOuterBlanks(fields.back()).empty())
+      fields.pop_back();
     if (fields.size() == table.columns.size())
       return true;
-    error =
-        fields.size() == 1
-            ? withValues(translated("TableText", "line %1 has 1 field, the first line has %2"),
-                         {line(), std::to_string(table.columns.size())})
-            : withValues(
-                  translated("TableText", "line %1 has %2 fields, the first line has %3"),
-                  {line(), std::to_string(fields.size()), std::to_string(table.columns.size())});
+    if (isCut())
+      return false;
+    const std::string header = shape.headerLine == 1
+                                   ? translated("TableText", "the first line")
+                                   : withValues(translated("TableText", "the header in line %1"),
+                                                {std::to_string(shape.headerLine)});
+    const std::string have = std::to_string(table.columns.size());
+    error = fields.size() == 1
+                ? withValues(translated("TableText", "line %1 has 1 field, %3 has %2"),
+                             {line(), have, header})
+                : withValues(translated("TableText", "line %1 has %2 fields, %4 has %3"),
+                             {line(), std::to_string(fields.size()), have, header});
     return false;
   }
 
-  void dropTrailingEmptyFields(std::size_t kept)
+  /// A program that was ended while it wrote leaves a last line without its end.
+  bool isCut()
   {
-    while (fields.size() > kept && withoutOuterBlanks(fields.back()).empty())
-      fields.pop_back();
+    const bool cut = records.position() == text.size() && table.rows > 0 && text.back() != '\n' &&
+                     text.back() != '\r' && fields.size() < table.columns.size();
+    if (cut)
+      report.warnings.push_back(withValues(
+          translated("TableText", "Line %1, the last one, is cut short and is not read."),
+          {line()}));
+    return cut;
+  }
+
+  void tellOpenQuotes()
+  {
+    // A quote that opens in the last line is cut with it; any other takes lines in.
+    if (records.followingLine() == records.line() && isCut())
+      return;
+    error = withValues(translated("TableText", "line %1: a quoted field is not closed"), {line()});
   }
 
   void readRow()
   {
     for (std::size_t column = 0; column < fields.size(); ++column)
-      readCell(table.columns[column], fields[column]);
-    for (std::size_t i = 0; i < candidates.size(); ++i)
-      candidates[i].add(fields[table.roles.runCandidates[i]], records.line());
+      table.columns[column].read(fields[column], shape.decimalCommas, records.line());
     table.lines.push_back(records.line());
     ++table.rows;
   }
 
-  void readCell(ColumnValues& column, std::string_view field)
-  {
-    const NumberText number = readNumber(field, commas());
-    const bool isNumber = number.kind == NumberText::Kind::Number;
-    const bool isText = number.kind == NumberText::Kind::Text;
-    column.values.push_back(number.value);
-    column.numbers += isNumber ? 1 : 0;
-    column.texts += isText ? 1 : 0;
-    note(column.firstText, isText, field, records.line());
-    note(column.firstFraction, isNumber && number.value != std::floor(number.value), field,
-         records.line());
-    note(column.firstDecimalPoint, number.decimalPoint, field, records.line());
-    note(column.firstDecimalComma, number.decimalComma, field, records.line());
-  }
-
-  void chooseRunColumn()
-  {
-    table.roles.runColumn = -1;
-    for (std::size_t i = 0; i < candidates.size() && table.roles.runColumn < 0; ++i)
-    {
-      const int column = table.roles.runCandidates[i];
-      if (table.columns[column].texts > 0 || table.columns[column].firstFraction.line == 0)
-        takeRuns(column, candidates[i]);
-    }
-  }
-
-  void takeRuns(int column, RunNames& names)
-  {
-    if (names.unnamedLine > 0)
-      error = withValues(
-          translated("TableText", "line %1: the run has no name in the column %2"),
-          {std::to_string(names.unnamedLine), quotedForMessage(table.roles.headers[column].name)});
-    table.roles.runColumn = column;
-    table.columns[column] = ColumnValues();
-    table.runOfRow = std::move(names.runOfRow);
-    table.runNames = std::move(names.names);
-  }
-
-  bool commas() const { return delimiter != ','; }
-
   std::string_view text;
-  char delimiter;
+  const ImportRequest& request;
+  ImportReport& report;
+  TextShape shape;
   DelimitedText records;
   const ImportProgress& progress;
   const TextPassed& passed;
   std::vector<std::string_view> fields;
-  /// One for each of the roles' run candidates.
-  std::vector<RunNames> candidates;
   TableText table;
   /// Why there is none, in one line.
   std::string error;
@@ -280,13 +249,24 @@ private:
 
 } // namespace
 
-Result<TableText> readTableText(std::string_view bytes, const ImportProgress& progress,
+TableText tableOfColumns(const std::vector<std::string>& headers, std::vector<ColumnValues> columns)
+{
+  TableText table;
+  table.roles = assignRoles(headers);
+  table.rows = columns.empty() ? 0 : columns.front().values.size();
+  table.columns = std::move(columns);
+  table.uses.resize(table.columns.size());
+  return table;
+}
+
+Result<TableText> readTableText(std::string_view bytes, const ImportRequest& request,
+                                ImportReport& report, const ImportProgress& progress,
                                 const TextPassed& passed)
 {
   const std::string refused = unreadable(bytes);
   if (!refused.empty())
     return Result<TableText>::failed(refused);
-  return TableTextReader(withoutByteOrderMark(bytes), progress, passed).read();
+  return TableTextReader(withoutByteOrderMark(bytes), request, report, progress, passed).read();
 }
 
 } // namespace Talmesh::app

@@ -2,14 +2,16 @@
 #define TableText_h
 
 #include "app/import/ColumnRoles.h"
+#include "app/import/ColumnValues.h"
 #include "app/import/ImportProgress.h"
+#include "app/import/ImportReport.h"
+#include "app/import/ImportRequest.h"
 #include "app/import/Result.h"
 
 #include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace Talmesh::app
@@ -18,49 +20,62 @@ namespace Talmesh::app
 /// More columns are refused.
 inline constexpr std::size_t mostColumns = 20000;
 
-/// A cell that a message may have to name.
-struct NotedCell
+/// What becomes of a column.
+enum class ColumnUse
 {
-  /// The line, counted from 1; 0 for none.
-  std::size_t line = 0;
-  std::string text;
+  /// What its values say: a parameter if they are constant within each run and differ between runs.
+  Open,
+  Item,
+  Parameter,
+  /// A category even if its texts are numbers.
+  Condition,
+  /// One of several columns that name the run.
+  RunName,
+  Ignored
 };
 
-/// The values of one column as read.
-struct ColumnValues
-{
-  std::vector<double> values;
-  std::size_t numbers = 0;
-  std::size_t texts = 0;
-  NotedCell firstText;
-  NotedCell firstFraction;
-  NotedCell firstDecimalPoint;
-  NotedCell firstDecimalComma;
-};
-
-/// A delimited text read into columns, without regard to runs.
+/// A table in columns, without regard to runs.
 struct TableText
 {
   ColumnRoles roles;
-  /// The values of all columns but that of the runs, which has none.
   std::vector<ColumnValues> columns;
+  /// One for each column.
+  std::vector<ColumnUse> uses;
   std::size_t rows = 0;
+  /// The line of each row in the file; empty for tables that have no lines.
   std::vector<std::size_t> lines;
-  /// The run of each row, into `runNames`; empty without a run column.
+  /// The run of each row, into `runNames`; empty where the time tells the runs.
   std::vector<int> runOfRow;
   std::vector<std::string> runNames;
+  /// Columns whose numbers stand for texts.
+  std::vector<std::size_t> levelColumns;
   /// Whether rows are points of runs at all.
   bool hasRuns = true;
+  /// Whether every row is a run of its own.
+  bool rowsAreRuns = false;
+  /// Whether cells are missing because nothing was measured there, and not because the file says
+  /// so.
+  bool hasGaps = false;
+  /// Whether the values were measured, so that nothing is known between them.
+  bool isMeasured = false;
+
+  /// The line of a row for messages, or else its number from 1.
+  std::size_t lineOf(std::size_t row) const { return lines.empty() ? row + 1 : lines[row]; }
 };
+
+/// A table of named columns of equal length.
+TableText tableOfColumns(const std::vector<std::string>& headers,
+                         std::vector<ColumnValues> columns);
 
 /// Told how many bytes of a text, from its first one on, will not be looked at again.
 using TextPassed = std::function<void(std::size_t)>;
 
-/// Reads headers and cells. Every row must have as many fields as there are headers; empty fields
-/// beyond them and, in a table of several columns, blank rows, as spreadsheets leave them, are
-/// ignored. A column with a name of runs whose cells are numbers, not all of them whole, does not
-/// name runs, and the next one with such a name does.
-Result<TableText> readTableText(std::string_view bytes, const ImportProgress& progress,
+/// Reads headers and cells of a delimited text. Every row must have as many fields as there are
+/// headers; empty fields beyond them and, in a table of several columns, blank rows, as
+/// spreadsheets leave them, are ignored. So is a last row that the end of the file cuts short.
+/// @param report gets reasons and warnings
+Result<TableText> readTableText(std::string_view bytes, const ImportRequest& request,
+                                ImportReport& report, const ImportProgress& progress = {},
                                 const TextPassed& passed = {});
 
 } // namespace Talmesh::app

@@ -6,7 +6,6 @@
 #include <vector>
 
 using Talmesh::app::DelimitedText;
-using Talmesh::app::detectDelimiter;
 
 namespace
 {
@@ -100,37 +99,30 @@ TEST(DelimitedText, CountsTheLinesOfItsRecords)
   EXPECT_EQ(lines, (std::vector<std::size_t>{1, 3, 5}));
 }
 
-TEST(DelimitedText, RecognisesTheDelimiter)
+TEST(DelimitedText, PartsWordsAtAnyNumberOfBlanksAndTabs)
 {
-  EXPECT_EQ(detectDelimiter("a,b\n1,2\n"), ',');
-  EXPECT_EQ(detectDelimiter("a;b\n1;2\n"), ';');
-  EXPECT_EQ(detectDelimiter("a\tb\n1\t2\n"), '\t');
+  EXPECT_EQ(readAll("  a \t b\n\"c d\" e  \n", ' '), (Records{{"a", "b"}, {"c d", "e"}}));
 }
 
-TEST(DelimitedText, DoesNotTakeDecimalCommasForDelimiters)
+TEST(DelimitedText, SkipsLinesOfComment)
 {
-  EXPECT_EQ(detectDelimiter("t;x\n0,5;1,25\n"), ';');
-  EXPECT_EQ(detectDelimiter("t\tx\n0,5\t1,25\n"), '\t');
-  EXPECT_EQ(detectDelimiter("x\n0,5\n1,5\n"), ';');
+  const std::string text = "# x\n a,b\n  # c,d\n1,2 # e\n#\n";
+  DelimitedText reader(text, ',', "#");
+  std::vector<std::string_view> fields;
+  std::vector<std::size_t> lines;
+  while (reader.next(fields))
+    lines.push_back(reader.line());
+  EXPECT_EQ(lines, (std::vector<std::size_t>{2, 4}));
 }
 
-TEST(DelimitedText, PrefersTheDelimiterThatLeavesNumbers)
+TEST(DelimitedText, GoesOnWhereItIsTold)
 {
-  EXPECT_EQ(detectDelimiter("Time, s;Conc, mM\n0,5;1,25\n1,5;2,25\n"), ';');
-  EXPECT_EQ(detectDelimiter("Time, s\tConc, mM\n0,5\t1,25\n"), '\t');
-  EXPECT_EQ(detectDelimiter("name;unit,time\nX;mM,0.5\n"), ',');
-  EXPECT_EQ(detectDelimiter("a,b;c,d\nx,y;z,u\n"), ',');
-}
-
-TEST(DelimitedText, DoesNotLetBlankRowsDecideOnTheDelimiter)
-{
-  EXPECT_EQ(detectDelimiter("a,b;x\n  \n;\n1,2;3\n"), ';');
-  EXPECT_EQ(detectDelimiter("  \na,b\n \n1,2\n"), ',');
-}
-
-TEST(DelimitedText, DoesNotCountDelimitersInsideQuotes)
-{
-  EXPECT_EQ(detectDelimiter("\"a;b;c\",d\n1,2\n"), ',');
+  DelimitedText reader("a,b\n1,2\n3,4\n", ',');
+  reader.skipTo(8, 3);
+  std::vector<std::string_view> fields;
+  ASSERT_TRUE(reader.next(fields));
+  EXPECT_EQ(fields, (std::vector<std::string_view>{"3", "4"}));
+  EXPECT_EQ(reader.line(), 3u);
 }
 
 TEST(DelimitedText, DropsOnlyALeadingByteOrderMark)

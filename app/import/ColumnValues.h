@@ -1,0 +1,80 @@
+#ifndef ColumnValues_h
+#define ColumnValues_h
+
+#include "app/import/TextLevels.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// A cell that a message may have to name.
+struct NotedCell
+{
+  /// The line, counted from 1; 0 for none.
+  std::size_t line = 0;
+  std::string text;
+
+  /// Keeps the first cell that is noted.
+  void note(std::string_view field, std::size_t at);
+};
+
+/// The values of one column as read.
+struct ColumnValues
+{
+  /// Columns of more different texts hold no categories, and their texts are not kept.
+  static constexpr std::size_t mostLevels = 10000;
+
+  /// Of texts NaN, of dates the seconds since 1970, of times of day those since midnight.
+  std::vector<double> values;
+  std::size_t numbers = 0;
+  /// Cells that are neither numbers nor dates nor missing.
+  std::size_t texts = 0;
+  std::size_t dates = 0;
+  /// Dates without a time of day, and times of day without a date.
+  std::size_t bareDates = 0;
+  std::size_t bareTimes = 0;
+  /// Values beyond what could be measured, which are missing: "<BLQ".
+  std::size_t censored = 0;
+  /// Numbers with a decimal comma, and those of them that could be thousands: 1,234.
+  std::size_t commas = 0;
+  std::size_t thousands = 0;
+  /// The texts, from the first one on, or of all cells where the text counts.
+  TextLevels levels;
+  /// Whether the text of each cell counts, also of numbers, as in names of runs.
+  bool keepsTexts = false;
+  bool hasTooManyTexts = false;
+  NotedCell firstText;
+  NotedCell firstFraction;
+  NotedCell firstDecimalPoint;
+  NotedCell firstDecimalComma;
+  NotedCell firstCensored;
+  /// The first cell without anything in it; noted where texts are kept.
+  NotedCell firstEmpty;
+
+  /// Reads the next cell.
+  void read(std::string_view field, bool mayHaveCommas, std::size_t line);
+  void reserve(std::size_t rows);
+  /// Gives every number a text, the shortest one that is read as that number.
+  void completeTexts();
+
+  /// Whether the column is one of numbers: of several, or of nothing at all.
+  bool isNumeric() const { return texts == 0 && dates == 0; }
+  /// Whether its cells are dates or times of day.
+  bool isDates() const { return dates > 0 && texts == 0 && numbers == 0; }
+  /// Whether it holds texts, at least more of them than numbers.
+  bool isText() const { return texts + dates > numbers && !isDates(); }
+};
+
+/// A column of numbers that a reader of another format has.
+ColumnValues columnOfNumbers(std::vector<double> values);
+
+/// A column of texts; numbers among them are read as such.
+ColumnValues columnOfTexts(const std::vector<std::string>& texts);
+
+} // namespace Talmesh::app
+
+#endif

@@ -1,0 +1,16 @@
+#ifndef LayoutChoice_h
+#define LayoutChoice_h
+
+#include "app/import/Layouts.h"
+
+namespace Talmesh::app
+{
+
+/// The layout that the user names, else the one that fits best. Fails where another one fits about
+/// as well; both are named then, and in `report`.
+Result<const Layout*> chooseLayout(const TableText& text, const ImportRequest& request,
+                                   ImportReport& report);
+
+} // namespace Talmesh::app
+
+#endif

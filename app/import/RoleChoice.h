@@ -1,0 +1,35 @@
+#ifndef RoleChoice_h
+#define RoleChoice_h
+
+#include "app/import/ImportReport.h"
+#include "app/import/ImportRequest.h"
+#include "app/import/TableText.h"
+
+#include <string>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+/// The columns whose cells are names, also where they are numbers: those that name runs, items and
+/// conditions, by their own names or as the user says.
+std::vector<int> columnsOfNames(const ColumnRoles& roles, const ImportRequest& request);
+
+/// Gives the columns that the user names the roles that they shall have.
+/// @return why that cannot be, in one line; empty on success
+std::string applyRequest(TableText& text, const ImportRequest& request);
+
+/// Sets row numbers, marks of former selections and columns of nothing but texts that differ in
+/// every row aside, unless they were asked for, and makes times of dates.
+void settleColumns(TableText& text, ImportReport& report);
+
+/// Numbers the runs by the columns that name them, several together; without any, time will tell.
+/// @return why that cannot be, in one line; empty on success
+std::string nameRuns(TableText& text);
+
+/// A text among the numbers of a column, as a message; empty without one.
+std::string mistypedCell(const TableText& text, std::size_t column);
+
+} // namespace Talmesh::app
+
+#endif

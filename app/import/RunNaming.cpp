@@ -1,0 +1,144 @@
+#include "app/import/RoleChoice.h"
+#include "app/import/TranslatedText.h"
+#include "app/import/Utf8Text.h"
+
+#include <cmath>
+#include <cstdint>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// Numbers of runs with their names.
+struct NamedRuns
+{
+  std::vector<int> ofRow;
+  std::vector<std::string> names;
+};
+
+std::uint64_t together(int first, int second)
+{
+  return (static_cast<std::uint64_t>(static_cast<std::uint32_t>(first)) << 32U) |
+         static_cast<std::uint32_t>(second);
+}
+
+/// Runs of which two names together tell one.
+NamedRuns joined(const NamedRuns& runs, const ColumnValues& column)
+{
+  NamedRuns both;
+  std::unordered_map<std::uint64_t, int> numbers;
+  for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
+  {
+    const int second = column.levels.rows()[row];
+    const auto [entry, added] =
+        numbers.emplace(together(runs.ofRow[row], second), static_cast<int>(both.names.size()));
+    if (added)
+      both.names.push_back(runs.names[static_cast<std::size_t>(runs.ofRow[row])] + ", " +
+                           column.levels.names()[static_cast<std::size_t>(second)]);
+    both.ofRow.push_back(entry->second);
+  }
+  return both;
+}
+
+/// Whether a run has two rows at one time.
+bool repeatsTimes(const NamedRuns& runs, const std::vector<double>& time)
+{
+  std::vector<std::unordered_set<double>> seen(runs.names.size());
+  for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
+    if (!std::isnan(time[row]) &&
+        !seen[static_cast<std::size_t>(runs.ofRow[row])].insert(time[row]).second)
+      return true;
+  return false;
+}
+
+class RunNamer
+{
+public:
+  explicit RunNamer(TableText& text_)
+      : text(text_)
+  {
+  }
+
+  std::string name()
+  {
+    const std::vector<int> columns = text.roles.askedRuns.empty() ? found() : text.roles.askedRuns;
+    text.roles.runColumn = columns.empty() ? -1 : columns.front();
+    for (std::size_t i = 0; i < columns.size() && error.empty(); ++i)
+      take(static_cast<std::size_t>(columns[i]), i == 0);
+    // More names are only wanted where one does not tell the runs apart.
+    for (std::size_t i = 0; i < further.size() && error.empty() && repeats(); ++i)
+      take(further[i], false);
+    text.runOfRow = std::move(runs.ofRow);
+    text.runNames = std::move(runs.names);
+    return error;
+  }
+
+private:
+  /// A column with a name of runs whose cells are numbers, not all of them whole, names no runs.
+  bool mayNameRuns(std::size_t column) const
+  {
+    const ColumnValues& values = text.columns[column];
+    return text.uses[column] == ColumnUse::Open &&
+           (values.texts + values.dates > 0 || values.firstFraction.line == 0);
+  }
+
+  std::vector<int> found()
+  {
+    std::vector<int> first;
+    for (const int column : text.roles.runCandidates)
+      if (mayNameRuns(static_cast<std::size_t>(column)))
+      {
+        if (first.empty())
+          first.push_back(column);
+        else if (!text.roles.headers[static_cast<std::size_t>(column)].typed)
+          further.push_back(static_cast<std::size_t>(column));
+      }
+    return first;
+  }
+
+  bool repeats() const
+  {
+    return text.roles.timeColumn >= 0 && !runs.ofRow.empty() &&
+           repeatsTimes(runs, text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values);
+  }
+
+  void take(std::size_t column, bool isFirst)
+  {
+    ColumnValues& values = text.columns[column];
+    if (values.firstEmpty.line > 0)
+    {
+      error = withValues(translated("TableText", "line %1: the run has no name in the column %2"),
+                         {std::to_string(values.firstEmpty.line),
+                          quotedForMessage(text.roles.headers[column].name)});
+      return;
+    }
+    values.completeTexts();
+    if (isFirst)
+      runs = {values.levels.rows(), values.levels.names()};
+    else
+    {
+      runs = joined(runs, values);
+      text.uses[column] = ColumnUse::RunName;
+    }
+    values = ColumnValues();
+  }
+
+  TableText& text;
+  NamedRuns runs;
+  std::vector<std::size_t> further;
+  std::string error;
+};
+
+} // namespace
+
+std::string nameRuns(TableText& text)
+{
+  return RunNamer(text).name();
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,148 @@
+#include "app/import/UnitText.h"
+
+#include "app/import/AsciiText.h"
+#include "app/import/NumberText.h"
+#include "app/import/Utf8Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr std::array<std::string_view, 62> units = {"s",
+                                                    "sec",
+                                                    "ms",
+                                                    "us",
+                                                    "ns",
+                                                    "min",
+                                                    "h",
+                                                    "hr",
+                                                    "hour",
+                                                    "hours",
+                                                    "d",
+                                                    "day",
+                                                    "days",
+                                                    "week",
+                                                    "weeks",
+                                                    "year",
+                                                    "years",
+                                                    "seconds",
+                                                    "g",
+                                                    "mg",
+                                                    "ug",
+                                                    "ng",
+                                                    "kg",
+                                                    "l",
+                                                    "ml",
+                                                    "ul",
+                                                    "m",
+                                                    "mm",
+                                                    "um",
+                                                    "nm",
+                                                    "cm",
+                                                    "km",
+                                                    "mol",
+                                                    "mmol",
+                                                    "umol",
+                                                    "nmol",
+                                                    "um/s",
+                                                    "nm/s",
+                                                    "mg/l",
+                                                    "ng/ml",
+                                                    "ug/ml",
+                                                    "mol/l",
+                                                    "mmol/l",
+                                                    "umol/l",
+                                                    "1/s",
+                                                    "1/h",
+                                                    "1/min",
+                                                    "k",
+                                                    "pa",
+                                                    "v",
+                                                    "mv",
+                                                    "a",
+                                                    "ma",
+                                                    "hz",
+                                                    "%",
+                                                    "-",
+                                                    "au",
+                                                    "a.u.",
+                                                    "counts",
+                                                    "cells",
+                                                    "molecules",
+                                                    "\xC2\xB0"
+                                                    "c"};
+
+constexpr std::array<std::string_view, 8> limits = {"blq",  "bloq", "bql",  "lloq",
+                                                    "uloq", "lod",  "blod", "bdl"};
+
+std::string lowerCase(std::string_view text)
+{
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(), toLower);
+  // The letter mu and the sign micro are written for u.
+  for (const std::string_view mu : {"\xC2\xB5", "\xCE\xBC"})
+    for (std::size_t at = 0; (at = lower.find(mu, at)) != std::string::npos;)
+      lower.replace(at, mu.size(), "u");
+  return lower;
+}
+
+template <std::size_t N>
+bool isOneOf(std::string_view text, const std::array<std::string_view, N>& words)
+{
+  return std::find(words.begin(), words.end(), text) != words.end();
+}
+
+bool isInBrackets(std::string_view text)
+{
+  return text.size() > 1 && ((text.front() == '[' && text.back() == ']') ||
+                             (text.front() == '(' && text.back() == ')'));
+}
+
+} // namespace
+
+bool isUnit(std::string_view text)
+{
+  const std::string_view word = withoutOuterBlanks(text);
+  return isInBrackets(word) || isOneOf(lowerCase(word), units);
+}
+
+std::string withUnit(const std::string& name, std::string_view unit)
+{
+  std::string_view word = withoutOuterBlanks(unit);
+  if (isInBrackets(word))
+    word = withoutOuterBlanks(word.substr(1, word.size() - 2));
+  if (word.empty() || word == "-" || name.find('[') != std::string::npos)
+    return name;
+  return std::string(withoutOuterBlanks(name)) + " [" + std::string(word) + ']';
+}
+
+bool isCensored(std::string_view text)
+{
+  std::string_view word = withoutOuterBlanks(text);
+  const bool compared = !word.empty() && (word.front() == '<' || word.front() == '>');
+  if (compared)
+  {
+    word.remove_prefix(1);
+    if (!word.empty() && word.front() == '=')
+      word.remove_prefix(1);
+    word = withoutOuterBlanks(word);
+  }
+  return isOneOf(lowerCase(word), limits) ||
+         (compared && readNumber(word, true).kind == NumberText::Kind::Number);
+}
+
+bool looksLikeThousands(std::string_view text)
+{
+  const std::string_view word = withoutOuterBlanks(text);
+  if (word.empty() || word.find_first_not_of("0123456789,.'+-") != std::string_view::npos)
+    return false;
+  const std::size_t mark = word.find_first_of(",.'");
+  return mark != std::string_view::npos && mark > 0 && word.size() > mark + 3;
+}
+
+} // namespace Talmesh::app
