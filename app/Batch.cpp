@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QString>
 
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -122,7 +123,7 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
 Result<OpenedStudy> openNamed(const CommandLineOptions& options)
 {
   if (!options.file.empty())
-    return openStudyFile(QFile::decodeName(options.file.c_str()));
+    return openStudyFile(QFile::decodeName(options.file.c_str()), {}, options.import);
   OpenedStudy example;
   example.study = exampleStudyOfRepressilator();
   return example;
@@ -150,6 +151,41 @@ std::string runBatch(const CommandLineOptions& options)
     if (error.empty())
       std::cerr << "talmesh-plot: " << note << std::endl;
   return error;
+}
+
+namespace
+{
+
+/// A session says itself what it holds.
+void describeSession(const Study& study, ImportReport& report)
+{
+  report.layout = "session";
+  if (!study.runs)
+    return;
+  report.runs = study.runs->numberOfTrajectories;
+  report.fewestPoints = study.runs->pointsPerTrajectory;
+  report.mostPoints = study.runs->pointsPerTrajectory;
+  for (const auto& [kind, name] : study.runs->items)
+    if (kind != TimeOrValue)
+      (kind == Parameter ? report.parameters : report.items).push_back(name);
+}
+
+} // namespace
+
+Description describeFile(const CommandLineOptions& options)
+{
+  Description description;
+  ImportReport report;
+  const Result<OpenedStudy> opened =
+      openStudyFile(QFile::decodeName(options.file.c_str()), {}, options.import, &report);
+  description.error = opened.error();
+  if (opened.hasValue() && opened.value().session)
+    describeSession(opened.value().study, report);
+  if (opened.hasValue() || report.isUnsure())
+    description.json = jsonOf(report);
+  constexpr int unsure = 3;
+  description.status = opened.hasValue() ? EXIT_SUCCESS : report.isUnsure() ? unsure : EXIT_FAILURE;
+  return description;
 }
 
 } // namespace Talmesh::app

@@ -1,5 +1,7 @@
 #include "app/CommandLine.h"
 
+#include "app/ImportOptions.h"
+#include "app/OptionValues.h"
 #include "app/comparison/ComparisonChoice.h"
 #include "app/export/PictureFile.h"
 #include "app/styles/ViewerStyles.h"
@@ -8,7 +10,6 @@
 #include <QFile>
 
 #include <algorithm>
-#include <charconv>
 #include <map>
 #include <string_view>
 
@@ -20,37 +21,6 @@ namespace
 
 constexpr int smallestSide = 16;
 constexpr int largestSide = 16384;
-
-std::vector<std::string> splitAtCommas(std::string_view text)
-{
-  std::vector<std::string> parts;
-  for (;;)
-  {
-    const std::size_t comma = text.find(',');
-    parts.emplace_back(text.substr(0, comma));
-    if (comma == std::string_view::npos)
-      return parts;
-    text.remove_prefix(comma + 1);
-  }
-}
-
-template <typename Number>
-bool readNumber(std::string_view text, Number smallest, Number largest, Number& number)
-{
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() && end == text.data() + text.size() && number >= smallest &&
-         number <= largest;
-}
-
-/// Reads "WIDTHxHEIGHT".
-template <typename Number>
-bool readSize(std::string_view text, Number smallest, Number largest, Number& width, Number& height)
-{
-  const std::size_t cross = text.find('x');
-  return cross != std::string_view::npos &&
-         readNumber(text.substr(0, cross), smallest, largest, width) &&
-         readNumber(text.substr(cross + 1), smallest, largest, height);
-}
 
 /// The bytes of an argument, which Qt's parser gets as a file's name: no byte is lost in that.
 std::string bytesOf(const QString& argument)
@@ -225,17 +195,31 @@ constexpr Option optionsWithValue[] = {{"style", readStyle},
                                        {"dpi", readResolution},
                                        {"vector", readVectors}};
 
-std::string readOption(const QCommandLineParser& line, const Option& option,
-                       CommandLineOptions& options)
+/// Reads the option as often as it is given.
+template <typename Read>
+std::string readOption(const QCommandLineParser& line, const char* name, Read read)
 {
-  for (const QString& value : line.values(QLatin1String(option.name)))
+  for (const QString& value : line.values(QLatin1String(name)))
   {
-    const std::string error = value.isEmpty() ? "--" + std::string(option.name) + " needs a value"
-                                              : option.read(bytesOf(value), options);
+    const std::string error =
+        value.isEmpty() ? "--" + std::string(name) + " needs a value" : read(bytesOf(value));
     if (!error.empty())
       return error;
   }
   return {};
+}
+
+std::string readImport(const QCommandLineParser& line, CommandLineOptions& options)
+{
+  std::string error;
+  for (const ImportOption& option : importOptions())
+    if (error.empty())
+      error = readOption(line, option.name,
+                         [&](const std::string& value)
+                         { return option.read(typedText(value), options.import); });
+  if (error.empty() && options.describes && options.file.empty())
+    error = "--describe needs a file";
+  return error;
 }
 
 std::string readFile(const QStringList& files, CommandLineOptions& options)
@@ -264,7 +248,10 @@ std::string read(const QCommandLineParser& line, CommandLineOptions& options)
   std::string error = readFile(line.positionalArguments(), options);
   for (const Option& option : optionsWithValue)
     if (error.empty())
-      error = readOption(line, option, options);
+      error = readOption(line, option.name,
+                         [&](const std::string& value) { return option.read(value, options); });
+  if (error.empty())
+    error = readImport(line, options);
   return error.empty() ? checkPixels(options) : error;
 }
 
@@ -276,8 +263,11 @@ Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& argu
   const QCommandLineOption help(QStringList{QStringLiteral("help"), QStringLiteral("h")});
   const QCommandLineOption version(QStringLiteral("version"));
   const QCommandLineOption halves(QStringLiteral("halves"));
-  line.addOptions({help, version, halves});
+  const QCommandLineOption describe(QStringLiteral("describe"));
+  line.addOptions({help, version, halves, describe});
   for (const Option& option : optionsWithValue)
+    line.addOption({QLatin1String(option.name), {}, QStringLiteral("value")});
+  for (const ImportOption& option : importOptions())
     line.addOption({QLatin1String(option.name), {}, QStringLiteral("value")});
   QStringList all{QString()};
   for (const std::string& argument : arguments)
@@ -291,6 +281,7 @@ Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& argu
   if (options.help || options.version)
     return options;
   options.halves = line.isSet(halves);
+  options.describes = line.isSet(describe);
   const std::string error = sound ? read(line, options) : refusal(line, all.back());
   return error.empty() ? Result<CommandLineOptions>(options)
                        : Result<CommandLineOptions>::failed(error);

@@ -31,6 +31,8 @@ struct CommandLineOptions : OpeningWishes
   std::optional<int> dotsPerInch;
   /// Which lines and points of a PDF are vectors.
   Vectors vectors = Vectors::Auto;
+  /// Prints what was understood of the table instead of showing it.
+  bool describes = false;
   bool help = false;
   bool version = false;
 

@@ -1,5 +1,6 @@
 #include "app/CommandLineHelp.h"
 
+#include "app/ImportOptions.h"
 #include "app/export/PictureFile.h"
 #include "app/styles/ViewerStyles.h"
 
@@ -29,8 +30,8 @@ std::string commandLineHelp()
       "Shows simulated runs. Without FILE the example study opens, the repressilator gene "
       "circuit.\n"
       "\n"
-      "FILE is a table (.csv): a line of names, then one row per time point, runs one after\n"
-      "another; or a session that the window has saved (.talmesh).\n"
+      "FILE is a table of runs, mostly a line of names, then one row per time point, runs one\n"
+      "after another; or a session that the window has saved (.talmesh).\n"
       "\n"
       "  --style NAME            the kind of plot (below)\n"
       "  --x NAME                the column for the x axis; over a parameter, or a number of runs\n"
@@ -63,6 +64,8 @@ std::string commandLineHelp()
       "                          are a picture\n"
       "  --help                  this text\n"
       "  --version               the version\n"
+      "\n" +
+      importHelp() +
       "\n"
       "Styles:\n";
   for (const ViewerStyle& style : viewerStyles())

@@ -72,6 +72,16 @@ int writeFiles(const CommandLineOptions& options)
   return error.empty() ? EXIT_SUCCESS : fail(error);
 }
 
+/// Needs neither a display nor an application.
+int describe(const CommandLineOptions& options)
+{
+  const Description description = describeFile(options);
+  if (!description.error.empty())
+    fail(description.error);
+  const int printed = description.json.empty() ? EXIT_SUCCESS : print(description.json);
+  return description.status == EXIT_SUCCESS ? printed : description.status;
+}
+
 int runProgram(int argc, char** argv)
 {
   // Qt asks for the encoding of names when it first meets one.
@@ -85,6 +95,8 @@ int runProgram(int argc, char** argv)
     return print(commandLineHelp());
   if (options.version)
     return print("talmesh-plot " TALMESH_VERSION "\n");
+  if (options.describes)
+    return describe(options);
 
   if (!startSharedThreads())
     std::_Exit(fail("there is not enough memory"));

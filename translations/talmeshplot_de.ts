@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CategoryColumns</name>
+    <message>
+        <source>The column %1 holds the same text in all rows, %2, and is left out.</source>
+        <translation>Die Spalte %1 enthält in allen Zeilen denselben Text, %2, und wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>the column %1 holds %2 different texts: %3</source>
+        <translation>die Spalte %1 enthält %2 verschiedene Texte: %3</translation>
+    </message>
+</context>
+<context>
     <name>ColouredRuns</name>
     <message>
         <source>Other runs</source>
         <translation>Andere Läufe</translation>
+    </message>
+</context>
+<context>
+    <name>CommonGrid</name>
+    <message>
+        <source>line %1: the run has a second point at the same time, and %2. Name the columns that tell the runs apart (--run)</source>
+        <translation>Zeile %1: Der Lauf hat einen zweiten Punkt zur selben Zeit, und %2. Bitte die Spalten nennen, die die Läufe unterscheiden (--run)</translation>
+    </message>
+    <message>
+        <source>The runs have different times. They are shown at %1 of them, with straight lines between the points of each run.</source>
+        <translation>Die Läufe haben verschiedene Zeiten. Sie werden zu %1 davon gezeigt, mit Geraden zwischen den Punkten jedes Laufs.</translation>
+    </message>
+    <message>
+        <source>The runs have different times. They are shown at all %1 of them, with straight lines between the points of each run.</source>
+        <translation>Die Läufe haben verschiedene Zeiten. Sie werden zu allen %1 gezeigt, mit Geraden zwischen den Punkten jedes Laufs.</translation>
+    </message>
+    <message>
+        <source>The runs have different times. They are shown at all %1 of them, with gaps where a run has no point.</source>
+        <translation>Die Läufe haben verschiedene Zeiten. Sie werden zu allen %1 gezeigt, mit Lücken, wo ein Lauf keinen Punkt hat.</translation>
+    </message>
+    <message>
+        <source>the runs have %1 different times together, too many to show each run at all of them; --unequal interpolate shows it at fewer</source>
+        <translation>die Läufe haben zusammen %1 verschiedene Zeiten, zu viele, um jeden Lauf zu allen zu zeigen; --unequal interpolate zeigt ihn zu weniger</translation>
+    </message>
+    <message>
+        <source>Rows without a time are left out, because the runs differ in their times.</source>
+        <translation>Zeilen ohne Zeit werden ausgelassen, weil sich die Zeiten der Läufe unterscheiden.</translation>
+    </message>
+    <message>
+        <source>no row has a time</source>
+        <translation>keine Zeile hat eine Zeit</translation>
+    </message>
+    <message>
+        <source>Not all items have values at all times. Straight lines cross the gaps between them.</source>
+        <translation>Nicht alle Größen haben zu allen Zeiten Werte. Geraden überbrücken die Lücken dazwischen.</translation>
     </message>
 </context>
 <context>
@@ -246,6 +292,52 @@
     </message>
 </context>
 <context>
+    <name>HeaderSearch</name>
+    <message>
+        <source>the line below the names holds units</source>
+        <translation>die Zeile unter den Namen enthält Einheiten</translation>
+    </message>
+    <message>
+        <source>two lines hold the names of the columns</source>
+        <translation>zwei Zeilen enthalten die Namen der Spalten</translation>
+    </message>
+    <message>
+        <source>the header is one name short, so the first column names the rows</source>
+        <translation>den Überschriften fehlt ein Name, also benennt die erste Spalte die Zeilen</translation>
+    </message>
+    <message>
+        <source>a comment above the rows names the columns</source>
+        <translation>ein Kommentar über den Zeilen benennt die Spalten</translation>
+    </message>
+    <message>
+        <source>Line %1 stands above the table and is not read.</source>
+        <translation>Zeile %1 steht über der Tabelle und wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The lines %1 to %2 stand above the table and are not read.</source>
+        <translation>Die Zeilen %1 bis %2 stehen über der Tabelle und werden nicht gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutChoice</name>
+    <message>
+        <source>there is no layout %1; the layouts are %2</source>
+        <translation>es gibt keinen Aufbau %1; es gibt %2</translation>
+    </message>
+    <message>
+        <source>the layout is %1, as was asked for</source>
+        <translation>der Aufbau ist %1, wie verlangt</translation>
+    </message>
+    <message>
+        <source>the layout is %1: %2</source>
+        <translation>der Aufbau ist %1: %2</translation>
+    </message>
+    <message>
+        <source>it is not clear how the table is laid out. Say %1</source>
+        <translation>es ist nicht klar, wie die Tabelle aufgebaut ist. Bitte angeben: %1</translation>
+    </message>
+</context>
+<context>
     <name>LinePlotWidgetClass</name>
     <message>
         <source>Form</source>
@@ -316,10 +408,67 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>LongTable</name>
+    <message>
+        <source>line %1: a second value of %2 at the same time. Name the columns that tell the runs apart (--run)</source>
+        <translation>Zeile %1: ein zweiter Wert von %2 zur selben Zeit. Bitte die Spalten nennen, die die Läufe unterscheiden (--run)</translation>
+    </message>
+    <message>
+        <source>%1 rows without an item or a time are left out.</source>
+        <translation>%1 Zeilen ohne Größe oder Zeit werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>no row has an item and a time</source>
+        <translation>keine Zeile hat eine Größe und eine Zeit</translation>
+    </message>
+    <message>
+        <source>%1 items at %2 points, most of them without a value, are too many; name the item column (--item) if it is another one</source>
+        <translation>%1 Größen an %2 Punkten, meist ohne Wert, sind zu viele; falls eine andere Spalte die Größen nennt, bitte angeben (--item)</translation>
+    </message>
+    <message>
+        <source>the column %1 tells how exact the values are, which is not shown</source>
+        <translation>die Spalte %1 sagt, wie genau die Werte sind, was nicht gezeigt wird</translation>
+    </message>
+    <message>
+        <source>the column %1 differs between the items of a point and is left out</source>
+        <translation>die Spalte %1 unterscheidet sich zwischen den Größen eines Punktes und wird ausgelassen</translation>
+    </message>
+</context>
+<context>
     <name>PaintingMemory</name>
     <message>
         <source>there is not enough memory for this picture</source>
         <translation>für dieses Bild ist nicht genug Speicher da</translation>
+    </message>
+</context>
+<context>
+    <name>PetabConditions</name>
+    <message>
+        <source>names of parameters in %1 stand for their nominal values</source>
+        <translation>Namen von Parametern in %1 stehen für deren Nominalwerte</translation>
+    </message>
+    <message>
+        <source>there is no %1 beside the table, so conditions are names only</source>
+        <translation>neben der Tabelle liegt keine %1, also sind Bedingungen nur Namen</translation>
+    </message>
+    <message>
+        <source>%1 beside the table says what the conditions are</source>
+        <translation>%1 neben der Tabelle sagt, was die Bedingungen sind</translation>
+    </message>
+</context>
+<context>
+    <name>PetabLayout</name>
+    <message>
+        <source>the columns are those of a PEtab table of measurements or simulations</source>
+        <translation>die Spalten sind die einer PEtab-Tabelle von Messungen oder Simulationen</translation>
+    </message>
+    <message>
+        <source>a PEtab table has the columns observableId, simulationConditionId, time, and measurement or simulation</source>
+        <translation>eine PEtab-Tabelle hat die Spalten observableId, simulationConditionId, time und measurement oder simulation</translation>
+    </message>
+    <message>
+        <source>the values are measurements: nothing is drawn between them</source>
+        <translation>die Werte sind Messungen: Dazwischen wird nichts gezeichnet</translation>
     </message>
 </context>
 <context>
@@ -365,7 +514,7 @@ p, li { white-space: pre-wrap; }
     <name>PlainLayout</name>
     <message>
         <source>there is neither a time nor a run</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt weder eine Zeit noch einen Lauf</translation>
     </message>
 </context>
 <context>
@@ -404,6 +553,40 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Select Items to View</source>
         <translation>Angezeigte Größen wählen</translation>
+    </message>
+</context>
+<context>
+    <name>RoleChoice</name>
+    <message>
+        <source>there is no column %1; the columns are %2</source>
+        <translation>es gibt keine Spalte %1; die Spalten sind %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2 in the column %3 has commas between thousands; write the numbers without them</source>
+        <translation>Zeile %1: %2 in der Spalte %3 hat Trennzeichen zwischen Tausendern; bitte die Zahlen ohne sie schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>RowsLayout</name>
+    <message>
+        <source>every row names a run of its own, and there is no time</source>
+        <translation>jede Zeile benennt einen eigenen Lauf, und es gibt keine Zeit</translation>
+    </message>
+    <message>
+        <source>there are parameters and no time</source>
+        <translation>es gibt Parameter und keine Zeit</translation>
+    </message>
+    <message>
+        <source>columns are called as samplers and fits call them, and there is no time</source>
+        <translation>Spalten heißen wie bei Stichproben und Anpassungen, und es gibt keine Zeit</translation>
+    </message>
+    <message>
+        <source>most columns are called as parameters are, and there is no time</source>
+        <translation>die meisten Spalten heißen wie Parameter, und es gibt keine Zeit</translation>
+    </message>
+    <message>
+        <source>a column is called as parameters are, and there is no time: a row may be a run</source>
+        <translation>eine Spalte heißt wie ein Parameter, und es gibt keine Zeit: Eine Zeile kann ein Lauf sein</translation>
     </message>
 </context>
 <context>
@@ -649,10 +832,6 @@ p, li { white-space: pre-wrap; }
         <translation>Zeile %1: %2 in der Spalte %3 ist keine Zahl</translation>
     </message>
     <message>
-        <source>The column %1 holds text and is left out.</source>
-        <translation>Die Spalte %1 enthält Text und wird ausgelassen.</translation>
-    </message>
-    <message>
         <source>not a table: no column holds numbers</source>
         <translation>keine Tabelle: Keine Spalte enthält Zahlen</translation>
     </message>
@@ -677,12 +856,16 @@ p, li { white-space: pre-wrap; }
         <translation>Die Spalte %1 markiert eine frühere Auswahl und wird ausgelassen.</translation>
     </message>
     <message>
-        <source>there is no layout %1</source>
-        <translation type="unfinished"></translation>
+        <source>a run starts wherever time falls back, and runs differ in length</source>
+        <translation>ein Lauf beginnt, wo die Zeit zurückspringt, und die Läufe sind verschieden lang</translation>
     </message>
     <message>
-        <source>it is not clear how the table is laid out; say which: %1</source>
-        <translation type="unfinished"></translation>
+        <source>the rows have no order</source>
+        <translation>die Zeilen haben keine Ordnung</translation>
+    </message>
+    <message>
+        <source>%1. If a run starts wherever time falls back, say --layout stacked; if a column names the runs, --run and its name; if there are none, --layout table</source>
+        <translation>%1. Wenn ein Lauf beginnt, wo die Zeit zurückspringt, hilft --layout stacked; wenn eine Spalte die Läufe benennt, --run und ihr Name; wenn es keine Läufe sind, --layout table</translation>
     </message>
 </context>
 <context>
@@ -694,6 +877,45 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Select</source>
         <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>SeparatorVote</name>
+    <message>
+        <source>%1 part %2 fields in %3 of the lines looked at</source>
+        <translation>%1 trennen %2 Felder in %3 der angesehenen Zeilen</translation>
+    </message>
+    <message>
+        <source>nothing parts the lines: one column</source>
+        <translation>nichts trennt die Zeilen: eine Spalte</translation>
+    </message>
+    <message>
+        <source>%1 part the fields, as was asked for</source>
+        <translation>%1 trennen die Felder, wie verlangt</translation>
+    </message>
+    <message>
+        <source>tabs</source>
+        <translation>Tabulatoren</translation>
+    </message>
+    <message>
+        <source>semicolons</source>
+        <translation>Semikolons</translation>
+    </message>
+    <message>
+        <source>commas</source>
+        <translation>Kommas</translation>
+    </message>
+    <message>
+        <source>bars</source>
+        <translation>senkrechte Striche</translation>
+    </message>
+    <message>
+        <source>blanks</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>colons</source>
+        <translation>Doppelpunkte</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1037,60 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>SettledColumns</name>
+    <message>
+        <source>The column %1 counts the rows; it is left out.</source>
+        <translation>Die Spalte %1 zählt die Zeilen; sie wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>The first column holds names of the rows and is left out.</source>
+        <translation>Die erste Spalte enthält Namen der Zeilen und wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>The column %1 holds more than %2 different texts and is left out.</source>
+        <translation>Die Spalte %1 enthält mehr als %2 verschiedene Texte und wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 in the column %3 is beyond what could be measured, and counts as missing (%4 in all).</source>
+        <translation>Zeile %1: %2 in der Spalte %3 liegt jenseits des Messbaren und gilt als fehlend (insgesamt %4).</translation>
+    </message>
+    <message>
+        <source>the dates of %1 are days since the first of them</source>
+        <translation>die Daten von %1 sind Tage seit dem ersten</translation>
+    </message>
+    <message>
+        <source>the times of %1 are seconds since the first of them</source>
+        <translation>die Zeiten von %1 sind Sekunden seit der ersten</translation>
+    </message>
+</context>
+<context>
     <name>StackedLayout</name>
     <message>
         <source>a row per run and time</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zeile je Lauf und Zeit</translation>
+    </message>
+    <message>
+        <source>a row per run</source>
+        <translation>eine Zeile je Lauf</translation>
+    </message>
+    <message>
+        <source>a row per run and time, some of them at the same time</source>
+        <translation>eine Zeile je Lauf und Zeit, einige zur selben Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>StackedRows</name>
+    <message>
+        <source>the runs have different numbers of points</source>
+        <translation>die Läufe haben verschieden viele Punkte</translation>
+    </message>
+    <message>
+        <source>All times are infinite: the values are steady states.</source>
+        <translation>Alle Zeiten sind unendlich: Die Werte sind stationäre Zustände.</translation>
+    </message>
+    <message>
+        <source>Line %1: the time is infinite. Steady states are items of their own, &quot;... at steady state&quot;.</source>
+        <translation>Zeile %1: Die Zeit ist unendlich. Stationäre Zustände sind eigene Größen, &quot;... at steady state&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1088,20 +1360,44 @@ p, li { white-space: pre-wrap; }
         <translation>die Tabelle hat unter ihren Überschriften keine Zeilen</translation>
     </message>
     <message>
-        <source>line %1 has 1 field, the first line has %2</source>
-        <translation>Zeile %1 hat 1 Feld, die erste Zeile hat %2</translation>
-    </message>
-    <message>
-        <source>line %1 has %2 fields, the first line has %3</source>
-        <translation>Zeile %1 hat %2 Felder, die erste Zeile hat %3</translation>
-    </message>
-    <message>
         <source>line %1: the run has no name in the column %2</source>
         <translation>Zeile %1: Der Lauf hat keinen Namen in der Spalte %2</translation>
     </message>
     <message>
         <source>line %1: %2 is ambiguous: the table has both decimal points and decimal commas</source>
         <translation>Zeile %1: %2 ist mehrdeutig: Die Tabelle enthält Dezimalpunkte und Dezimalkommas</translation>
+    </message>
+    <message>
+        <source>the comma is the decimal mark</source>
+        <translation>das Komma ist das Dezimalzeichen</translation>
+    </message>
+    <message>
+        <source>the comma parts thousands</source>
+        <translation>das Komma trennt Tausender</translation>
+    </message>
+    <message>
+        <source>line %1: %2 could have a decimal comma (--decimal ,) or a comma between thousands (write the table without them)</source>
+        <translation>Zeile %1: %2 kann ein Dezimalkomma haben (--decimal ,) oder ein Komma zwischen Tausendern (dann bitte die Tabelle ohne sie schreiben)</translation>
+    </message>
+    <message>
+        <source>the first line</source>
+        <translation>die erste Zeile</translation>
+    </message>
+    <message>
+        <source>the header in line %1</source>
+        <translation>die Kopfzeile %1</translation>
+    </message>
+    <message>
+        <source>line %1 has 1 field, %3 has %2</source>
+        <translation>Zeile %1 hat 1 Feld, %3 hat %2</translation>
+    </message>
+    <message>
+        <source>line %1 has %2 fields, %4 has %3</source>
+        <translation>Zeile %1 hat %2 Felder, %4 hat %3</translation>
+    </message>
+    <message>
+        <source>Line %1, the last one, is cut short and is not read.</source>
+        <translation>Zeile %1, die letzte, ist abgeschnitten und wird nicht gelesen.</translation>
     </message>
 </context>
 <context>
@@ -2446,6 +2742,25 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>TidyLayout</name>
+    <message>
+        <source>%1 says which item a row is of, and %2 has its value</source>
+        <translation>%1 sagt, von welcher Größe eine Zeile ist, und %2 hat ihren Wert</translation>
+    </message>
+    <message>
+        <source>no column says which item a row is of; name it by --item</source>
+        <translation>keine Spalte sagt, von welcher Größe eine Zeile ist; bitte mit --item nennen</translation>
+    </message>
+    <message>
+        <source>no column is clear to hold the values; name it by --value</source>
+        <translation>es ist nicht klar, welche Spalte die Werte enthält; bitte mit --value nennen</translation>
+    </message>
+    <message>
+        <source>the column %1 holds no numbers</source>
+        <translation>die Spalte %1 enthält keine Zahlen</translation>
+    </message>
+</context>
+<context>
     <name>TimeCourses</name>
     <message>
         <source>%1, run %2</source>
@@ -2493,6 +2808,21 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Parallel coordinates</source>
         <translation>Parallele Koordinaten</translation>
+    </message>
+</context>
+<context>
+    <name>WideLayout</name>
+    <message>
+        <source>the names of %1 columns number runs, such as %2</source>
+        <translation>die Namen von %1 Spalten zählen Läufe, wie %2</translation>
+    </message>
+    <message>
+        <source>The column %1 is of no run and is left out.</source>
+        <translation>Die Spalte %1 gehört zu keinem Lauf und wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>there are not several columns of numbers that could be runs</source>
+        <translation>es gibt nicht mehrere Spalten von Zahlen, die Läufe sein könnten</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #ifndef PlotWishes_h
 #define PlotWishes_h
 
+#include "app/import/ImportRequest.h"
 #include "external/PlotStyles.h"
 
 #include <cstdint>
@@ -36,6 +37,8 @@ struct OpeningWishes : PlotWishes
   /// The table to open, named by the bytes that the system knows it by; empty for the example
   /// study.
   std::string file;
+  /// How it is to be read.
+  ImportRequest import;
   /// Width and height of the picture in pixels; 0 for the default.
   int width = 0;
   int height = 0;

@@ -1,5 +1,6 @@
 #include "app/import/ColumnValues.h"
 
+#include "app/import/AsciiText.h"
 #include "app/import/DateText.h"
 #include "app/import/NumberText.h"
 #include "app/import/UnitText.h"
@@ -68,6 +69,15 @@ std::string shortestText(double value)
   return {text, written.ptr};
 }
 
+/// Words that stand for nothing among numbers, and for something among texts: no drug, no gene.
+bool isNoneWord(std::string_view field)
+{
+  constexpr std::string_view none = "none";
+  const std::string_view text = withoutOuterBlanks(field);
+  return text == "-" || std::equal(text.begin(), text.end(), none.begin(), none.end(),
+                                   [](char a, char b) { return toLower(a) == b; });
+}
+
 void keepText(ColumnValues& column, std::string_view field, bool isText)
 {
   if (column.keepsTexts || isText)
@@ -94,6 +104,8 @@ void ColumnValues::read(std::string_view field, bool mayHaveCommas, std::size_t 
   const NumberText number = readNumber(field, mayHaveCommas);
   double value = number.value;
   const bool isText = number.kind == NumberText::Kind::Text;
+  const bool isWord =
+      isText || (number.kind == NumberText::Kind::Missing && !field.empty() && isNoneWord(field));
   if (number.kind == NumberText::Kind::Number)
   {
     ++numbers;
@@ -109,15 +121,13 @@ void ColumnValues::read(std::string_view field, bool mayHaveCommas, std::size_t 
     }
   }
   else if (isText)
-  {
-    if (levels.rows().empty() && !keepsTexts && !hasTooManyTexts)
-      levels.startAt(values.size());
     value = readText(*this, field, value, line);
-  }
+  if (isWord && levels.rows().empty() && !keepsTexts && !hasTooManyTexts)
+    levels.startAt(values.size());
   if (keepsTexts && withoutOuterBlanks(field).empty())
     firstEmpty.note("-", line);
-  if (keepsTexts || (!hasTooManyTexts && (isText || !levels.isEmpty())))
-    keepText(*this, field, isText);
+  if (keepsTexts || (!hasTooManyTexts && (isWord || !levels.isEmpty())))
+    keepText(*this, field, isWord);
   values.push_back(value);
 }
 

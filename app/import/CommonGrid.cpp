@@ -296,5 +296,4 @@ void bridgeGaps(TableText& text, const RunGrouping& grouping, ImportReport& repo
                                                        "Straight lines cross the gaps between "
                                                        "them."));
 }
-
 } // namespace Talmesh::app

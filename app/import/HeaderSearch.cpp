@@ -1,7 +1,6 @@
 #include "app/import/HeaderSearch.h"
 
-#include "app/import/DateText.h"
-#include "app/import/NumberText.h"
+#include "app/import/HeadRecords.h"
 #include "app/import/TableText.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/UnitText.h"
@@ -23,7 +22,7 @@ public:
   HeaderSearch(const std::vector<SampledRecord>& head_, const std::vector<SampledRecord>& places_,
                std::size_t usual_, TextShape& shape_)
       : head(head_)
-      , places(places_)
+      , records(head_, places_, shape_.decimalCommas)
       , usual(usual_)
       , shape(shape_)
   {
@@ -32,14 +31,6 @@ public:
   std::string find();
 
 private:
-  bool isNumber(const std::string& field) const
-  {
-    return readNumber(field, shape.decimalCommas).kind == NumberText::Kind::Number;
-  }
-  bool isMissing(const std::string& field) const
-  {
-    return readNumber(field, shape.decimalCommas).kind == NumberText::Kind::Missing;
-  }
   bool isRow(const SampledRecord& record) const
   {
     return !record.isComment && record.fields.size() >= usual;
@@ -47,10 +38,6 @@ private:
 
   std::size_t afterBrackets() const;
   std::size_t firstOfTable(std::size_t from) const;
-  bool rowsAreOneLonger(std::size_t header) const;
-  bool columnHasNumbers(std::size_t column, std::size_t behind) const;
-  bool isLowerHeader(std::size_t at, std::size_t header) const;
-  std::size_t nextRecord(std::size_t at) const;
   int headerInComment(std::size_t before) const;
   void take(std::size_t at);
   void takeComment(int at, std::size_t firstRow);
@@ -59,26 +46,10 @@ private:
   void tellWhatIsAbove(std::size_t header);
 
   const std::vector<SampledRecord>& head;
-  const std::vector<SampledRecord>& places;
+  HeadRecords records;
   std::size_t usual;
   TextShape& shape;
 };
-
-Fields withoutEmptyEnd(Fields fields)
-{
-  while (fields.size() > 1 && withoutOuterBlanks(fields.back()).empty())
-    fields.pop_back();
-  return fields;
-}
-
-bool isBracketLine(const SampledRecord& record)
-{
-  if (record.isComment || withoutEmptyEnd(record.fields).size() != 1)
-    return false;
-  const std::string_view word = withoutOuterBlanks(record.fields.front());
-  return word == "[" || word == "]" ||
-         (word.size() > 2 && word.front() == '[' && word.back() == ']');
-}
 
 /// Behind the last section whose name stands in brackets above the table.
 std::size_t HeaderSearch::afterBrackets() const
@@ -106,13 +77,13 @@ std::size_t HeaderSearch::firstOfTable(std::size_t from) const
     const std::size_t fields = record.fields.size();
     const std::size_t filled = withoutEmptyEnd(record.fields).size();
     const bool fits = fields == usual || filled == usual ||
-                      (usual > 2 && fields + 1 == usual && rowsAreOneLonger(i)) ||
-                      (usual == 2 && fields == 1 && i == from && rowsAreOneLonger(i));
+                      (usual > 2 && fields + 1 == usual && records.rowsAreOneLonger(i)) ||
+                      (usual == 2 && fields == 1 && i == from && records.rowsAreOneLonger(i));
     if (fits)
     {
       const bool numbersOnly =
           std::all_of(record.fields.begin(), record.fields.end(),
-                      [this](const std::string& field) { return isNumber(field); });
+                      [this](const std::string& field) { return records.isNumber(field); });
       const bool namesAbove =
           numbersOnly && previous < head.size() && head[previous].fields.size() > 1;
       return namesAbove ? previous : i;
@@ -120,59 +91,6 @@ std::size_t HeaderSearch::firstOfTable(std::size_t from) const
     previous = i;
   }
   return previous < head.size() ? previous : from;
-}
-
-std::size_t HeaderSearch::nextRecord(std::size_t at) const
-{
-  do
-    ++at;
-  while (at < head.size() && head[at].isComment);
-  return at;
-}
-
-/// Whether a header lacks a name as R leaves it out, for the names of the rows.
-bool HeaderSearch::rowsAreOneLonger(std::size_t header) const
-{
-  const auto isLonger = [&](const SampledRecord& record)
-  { return record.fields.size() == head[header].fields.size() + 1; };
-  bool filled = false;
-  std::size_t rows = 0;
-  for (std::size_t i = nextRecord(header); i < head.size(); i = nextRecord(i), ++rows)
-  {
-    const bool last = nextRecord(i) >= head.size() && places.empty();
-    if (!isLonger(head[i]) && !(last && rows > 0))
-      return false;
-    filled = filled || !withoutOuterBlanks(head[i].fields.back()).empty();
-  }
-  const bool allNames = std::none_of(head[header].fields.begin(), head[header].fields.end(),
-                                     [this](const std::string& field) { return isNumber(field); });
-  return rows > 0 && filled && allNames && std::all_of(places.begin(), places.end(), isLonger);
-}
-
-bool HeaderSearch::columnHasNumbers(std::size_t column, std::size_t behind) const
-{
-  const auto hasNumber = [&](const SampledRecord& record)
-  { return !record.isComment && column < record.fields.size() && isNumber(record.fields[column]); };
-  return std::any_of(head.begin() + static_cast<std::ptrdiff_t>(std::min(behind, head.size())),
-                     head.end(), hasNumber) ||
-         std::any_of(places.begin(), places.end(), hasNumber);
-}
-
-/// Whether a record below the names is a second line of them, or of units: no number, and words
-/// where the rows have numbers.
-bool HeaderSearch::isLowerHeader(std::size_t at, std::size_t header) const
-{
-  if (at >= head.size() || head[at].fields.size() != head[header].fields.size())
-    return false;
-  bool words = false;
-  for (std::size_t column = 0; column < head[at].fields.size(); ++column)
-  {
-    const std::string& field = head[at].fields[column];
-    if (isNumber(field) || isCensored(field) || isDateText(field))
-      return false;
-    words = words || (!isMissing(field) && columnHasNumbers(column, at + 1));
-  }
-  return words;
 }
 
 /// The last comment above the rows that names as many columns as they have; -1 without one.
@@ -183,9 +101,10 @@ int HeaderSearch::headerInComment(std::size_t before) const
     if (!head[i].isComment)
       continue;
     const Fields& names = head[i].fields;
-    const bool fits = names.size() == head[before].fields.size() &&
-                      std::none_of(names.begin(), names.end(),
-                                   [this](const std::string& name) { return isNumber(name); });
+    const bool fits =
+        names.size() == head[before].fields.size() &&
+        std::none_of(names.begin(), names.end(),
+                     [this](const std::string& name) { return records.isNumber(name); });
     if (fits)
       return static_cast<int>(i);
   }
@@ -237,14 +156,14 @@ void HeaderSearch::take(std::size_t at)
 {
   shape.headers = head[at].fields;
   shape.headerLine = head[at].line;
-  const std::size_t below = nextRecord(at);
+  const std::size_t below = records.nextRecord(at);
   std::size_t firstRow = below;
-  if (isLowerHeader(below, at))
+  if (records.isLowerHeader(below, at))
   {
     joinLower(head[below].fields);
-    firstRow = nextRecord(below);
+    firstRow = records.nextRecord(below);
   }
-  else if (usual > 1 && rowsAreOneLonger(at))
+  else if (usual > 1 && records.rowsAreOneLonger(at))
   {
     shape.headers.insert(shape.headers.begin(), std::string());
     shape.hasRowNames = true;
@@ -312,13 +231,18 @@ std::string HeaderSearch::find()
                         : translated("TableText", "the table has no rows below its headers");
   std::size_t first = firstOfTable(afterBrackets());
   if (first < head.size() && head[first].isComment)
-    first = nextRecord(first);
+    first = records.nextRecord(first);
+  if (head[first].isOpen)
+    return withValues(translated("TableText", "line %1: a quoted name is not closed"),
+                      {std::to_string(head[first].line)});
   const Fields& fields = head[first].fields;
-  const bool anyNumber = std::any_of(fields.begin(), fields.end(),
-                                     [this](const std::string& field) { return isNumber(field); });
+  const bool anyNumber =
+      std::any_of(fields.begin(), fields.end(),
+                  [this](const std::string& field) { return records.isNumber(field); });
   const int comment = anyNumber ? headerInComment(first) : -1;
-  const bool numbersOnly = std::all_of(
-      fields.begin(), fields.end(), [this](const std::string& field) { return isNumber(field); });
+  const bool numbersOnly =
+      std::all_of(fields.begin(), fields.end(),
+                  [this](const std::string& field) { return records.isNumber(field); });
   tellWhatIsAbove(first);
   if (comment >= 0)
     takeComment(comment, first);

@@ -9,7 +9,8 @@ namespace Talmesh::app
 
 const std::vector<Layout>& layouts()
 {
-  static const std::vector<Layout> all = {stackedLayout, plainLayout};
+  static const std::vector<Layout> all = {petabLayout, stackedLayout, tidyLayout,
+                                          wideLayout,  rowsLayout,    plainLayout};
   return all;
 }
 

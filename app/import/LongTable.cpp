@@ -66,7 +66,10 @@ public:
   {
     item.completeTexts();
     if (text.runOfRow.empty())
+    {
       text.runOfRow.assign(text.rows, 0);
+      text.runNames = {"0"};
+    }
     findRows();
     if (error.empty())
       findPoints();
@@ -126,11 +129,11 @@ void Pivot::findRows()
     const int repeat = seen[{run, itemOf(row), timeOf(row)}]++;
     if (repeat > 0 && !columns.repeatsAreReplicates)
     {
-      error = withValues(
-          translated("LongTable", "line %1: a second value of %2 at the same time. Name the "
-                                  "columns that tell the runs apart (--run)"),
-          {std::to_string(text.lineOf(row)),
-           quotedForMessage(itemName(static_cast<std::size_t>(itemOf(row))))});
+      error = withValues(translated("LongTable",
+                                    "line %1: a second value of %2 at the same time. Name the "
+                                    "columns that tell the runs apart (--run)"),
+                         {std::to_string(text.lineOf(row)),
+                          quotedForMessage(itemName(static_cast<std::size_t>(itemOf(row))))});
       return;
     }
     if (repeat > 0)
@@ -138,19 +141,16 @@ void Pivot::findRows()
       const auto [entry, added] =
           replicates.emplace(Place{run, repeat, 0.0}, static_cast<int>(text.runNames.size()));
       if (added)
-        text.runNames.push_back(
-            withValues(translated("LongTable", "%1, replicate %2"),
-                       {text.runNames.empty() ? std::string()
-                                              : text.runNames[static_cast<std::size_t>(run)],
-                        std::to_string(repeat + 1)}));
+        text.runNames.push_back(text.runNames[static_cast<std::size_t>(run)] + ", replicate " +
+                                std::to_string(repeat + 1));
       run = entry->second;
     }
     rows.push_back(row);
   }
   if (withoutTime > 0)
-    report.warnings.push_back(withValues(
-        translated("LongTable", "%1 rows without an item or a time are left out."),
-        {std::to_string(withoutTime)}));
+    report.warnings.push_back(
+        withValues(translated("LongTable", "%1 rows without an item or a time are left out."),
+                   {std::to_string(withoutTime)}));
   if (rows.empty())
     error = translated("LongTable", "no row has an item and a time");
 }
@@ -170,11 +170,11 @@ void Pivot::findPoints()
   }
   const std::size_t cells = firstRows.size() * item.levels.names().size();
   if (cells > std::max(mostGrowth * rows.size(), alwaysCells))
-    error = withValues(translated("LongTable", "%1 items at %2 points, most of them without a "
-                                               "value, are too many; name the item column "
-                                               "(--item) if it is another one"),
-                       {std::to_string(item.levels.names().size()),
-                        std::to_string(firstRows.size())});
+    error =
+        withValues(translated("LongTable", "%1 items at %2 points, most of them without a "
+                                           "value, are too many; name the item column "
+                                           "(--item) if it is another one"),
+                   {std::to_string(item.levels.names().size()), std::to_string(firstRows.size())});
 }
 
 void Pivot::addItems()
@@ -223,15 +223,16 @@ void Pivot::addAttributes()
     if (taken)
       continue;
     const std::string& name = text.roles.headers[i].name;
-    const bool error = isErrorName(name);
-    if (error || differsWithinPoints(text.columns[i]))
+    const bool isError = isErrorName(name);
+    if (isError || differsWithinPoints(text.columns[i]))
     {
       report.ignored.push_back(name);
       const std::string why =
-          error ? translated("LongTable", "the column %1 tells how exact the values are, which is "
-                                          "not shown")
-                : translated("LongTable", "the column %1 differs between the items of a point and "
-                                          "is left out");
+          isError
+              ? translated("LongTable", "the column %1 tells how exact the values are, which is "
+                                        "not shown")
+              : translated("LongTable", "the column %1 differs between the items of a point and "
+                                        "is left out");
       report.reasons.push_back(withValues(why, {quotedForMessage(name)}));
       continue;
     }
@@ -260,18 +261,20 @@ void Pivot::fill()
     wide.runOfRow.push_back(text.runOfRow[row]);
   }
   wide.runNames = text.runNames;
-  // One run needs no name.
-  if (wide.runNames.empty())
-    wide.runNames.emplace_back("0");
 }
 
 } // namespace
 
 ColumnValues gatheredColumn(const ColumnValues& column, const std::vector<std::size_t>& rows)
 {
-  ColumnValues gathered = column;
-  gathered.values.clear();
-  gathered.levels.clear();
+  ColumnValues gathered;
+  gathered.numbers = column.numbers;
+  gathered.texts = column.texts;
+  gathered.dates = column.dates;
+  gathered.keepsTexts = column.keepsTexts;
+  gathered.hasTooManyTexts = column.hasTooManyTexts;
+  gathered.firstText = column.firstText;
+  gathered.values.reserve(rows.size());
   for (const std::size_t row : rows)
   {
     gathered.values.push_back(column.values[row]);

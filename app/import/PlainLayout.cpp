@@ -1,3 +1,4 @@
+#include "app/import/LayoutFacts.h"
 #include "app/import/LayoutUnits.h"
 #include "app/import/TranslatedText.h"
 
@@ -9,7 +10,7 @@ namespace
 
 LayoutFit recognise(const TableText& text, const ImportRequest& request)
 {
-  if (!request.time.empty() || !request.run.empty() || text.roles.describeRuns())
+  if (asksForRuns(request) || text.roles.describeRuns())
     return {};
   return {0.6, translated("PlainLayout", "there is neither a time nor a run")};
 }

@@ -116,12 +116,13 @@ std::string mistypedCell(const TableText& text, std::size_t index)
 {
   const ColumnValues& column = text.columns[index];
   const bool needed = static_cast<int>(index) == text.roles.timeColumn;
-  if (column.texts == 0 || (!needed && (column.isText() || column.numbers == 0)))
+  const bool thousands = looksLikeThousands(column.firstText.text);
+  if (column.texts == 0 || (!needed && !thousands && (column.isText() || column.numbers == 0)))
     return {};
   const std::string line = std::to_string(column.firstText.line);
   const std::string cell = quotedForMessage(column.firstText.text);
   const std::string name = quotedForMessage(text.roles.headers[index].name);
-  if (looksLikeThousands(column.firstText.text))
+  if (thousands)
     return withValues(translated("RoleChoice", "line %1: %2 in the column %3 has commas between "
                                                "thousands; write the numbers without them"),
                       {line, cell, name});

@@ -134,7 +134,8 @@ bool isErrorName(std::string_view name)
 
 bool isRowNumberName(std::string_view name)
 {
-  return isOneOf(plainName(name), rowNumberWords) && name != "1";
+  // A small x and a column 1 hold what is plotted.
+  return isOneOf(plainName(name), rowNumberWords) && name != "1" && name != "x";
 }
 
 bool isDrawName(std::string_view name)

@@ -7,6 +7,7 @@
 #include "app/import/TranslatedText.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <vector>
 
@@ -56,6 +57,13 @@ struct Ballot
       votes.numbers += number ? 1 : 0;
       votes.texts += kind == NumberText::Kind::Text && !number ? 1 : 0;
     }
+  }
+
+  /// Lets a number of fields that one record has alone not count.
+  void dropSingles()
+  {
+    for (auto entry = byFields.begin(); entry != byFields.end();)
+      entry = entry->second.records == 1 ? byFields.erase(entry) : std::next(entry);
   }
 
   /// The number of fields that most records have, of equals the larger one.
@@ -109,9 +117,17 @@ SeparatorVote voteOf(const std::pair<const std::size_t, Votes>& usual, char sepa
   return vote;
 }
 
-/// Whether every line but the first is one number, which may have a decimal comma.
-bool isOneColumnOfNumbers(const Ballot& ballot)
+/// Whether every line but the first is one number, which may have a decimal comma. A comma in the
+/// first line, too, parts names.
+bool isOneColumnOfNumbers(const Ballot& ballot, std::string_view text, std::string_view comment)
 {
+  DelimitedText reader(headText(text), ',', comment);
+  std::vector<std::string_view> first;
+  bool any = reader.next(first);
+  while (any && isBlankRecord(first))
+    any = reader.next(first);
+  if (any && first.size() > 1)
+    return false;
   const auto* usual = ballot.usual();
   return usual && usual->first == 1 && usual->second.records == ballot.records &&
          usual->second.numbers > 0 && usual->second.texts == 0;
@@ -123,7 +139,7 @@ SeparatorVote voteOnSeparator(std::string_view text, std::string_view comment)
 {
   SeparatorVote oneColumn;
   oneColumn.reason = translated("SeparatorVote", "nothing parts the lines: one column");
-  if (isOneColumnOfNumbers(ballotOf(text, comment, ';')))
+  if (isOneColumnOfNumbers(ballotOf(text, comment, ';'), text, comment))
     return oneColumn;
   Ballot best;
   SeparatorVote vote = oneColumn;
@@ -132,6 +148,9 @@ SeparatorVote voteOnSeparator(std::string_view text, std::string_view comment)
     Ballot ballot = ballotOf(text, comment, candidate);
     // Lines that stay whole do not vote on where they are parted.
     ballot.byFields.erase(1);
+    // Blanks, colons and bars stand in single lines of prose, too.
+    if (candidate == ' ' || candidate == ':' || candidate == '|')
+      ballot.dropSingles();
     if (!ballot.usual() || (best.usual() && !isBetter(*ballot.usual(), *best.usual())))
       continue;
     best = std::move(ballot);

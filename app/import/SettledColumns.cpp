@@ -117,7 +117,7 @@ private:
       return;
     report.warnings.push_back(withValues(
         translated("SettledColumns", "Line %1: %2 in the column %3 is beyond what could "
-                                     "be measured; %4 such cells count as missing."),
+                                     "be measured, and counts as missing (%4 in all)."),
         {std::to_string(column.firstCensored.line), quotedForMessage(column.firstCensored.text),
          quotedForMessage(name(i)), std::to_string(column.censored)}));
   }

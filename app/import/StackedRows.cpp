@@ -13,6 +13,8 @@ namespace Talmesh::app
 namespace
 {
 
+/// Behind the name of the item, in every language.
+constexpr const char* steadyName = " at steady state";
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
 /// The cells of some rows in their order; columns of names have none.
@@ -84,8 +86,7 @@ void addSteadyItems(TableText& text, const RunGrouping& grouping)
       std::fill(values.begin() + static_cast<std::ptrdiff_t>(grouping.starts[run]),
                 values.begin() + static_cast<std::ptrdiff_t>(grouping.starts[run + 1]),
                 steady[run]);
-    addColumn(text, withValues(translated("StackedRows", "%1 at steady state"), {header.name}),
-              std::move(values));
+    addColumn(text, header.name + steadyName, std::move(values));
   }
 }
 
@@ -140,7 +141,7 @@ void takeSteadyStates(TableText& text, RunGrouping& grouping, ImportReport& repo
 {
   if (text.roles.timeColumn < 0)
     return;
-  ColumnValues& time = text.columns[static_cast<std::size_t>(text.roles.timeColumn)];
+  const ColumnValues& time = text.columns[static_cast<std::size_t>(text.roles.timeColumn)];
   const auto isInfinite = [](double value) { return std::isinf(value); };
   const auto first = std::find_if(time.values.begin(), time.values.end(), isInfinite);
   if (first == time.values.end())
@@ -157,7 +158,8 @@ void takeSteadyStates(TableText& text, RunGrouping& grouping, ImportReport& repo
   }
   addSteadyItems(text, grouping);
   std::vector<bool> kept;
-  for (const double value : time.values)
+  // The new columns have moved the one of times.
+  for (const double value : text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values)
     kept.push_back(!std::isinf(value));
   report.warnings.push_back(
       withValues(translated("StackedRows", "Line %1: the time is infinite. Steady states are items "

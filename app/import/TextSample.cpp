@@ -98,6 +98,7 @@ private:
     std::vector<std::string_view> fields;
     reader.next(fields);
     record.fields = kept(fields);
+    record.isOpen = reader.endedInsideQuotes();
     line += reader.followingLine() - 1;
     at += reader.position();
     return true;

@@ -18,6 +18,8 @@ struct SampledRecord
   /// Where it starts and what follows it, in bytes.
   std::size_t begin = 0;
   std::size_t end = 0;
+  /// Whether a quote in it is never closed.
+  bool isOpen = false;
   /// A line behind a mark of comments, without that mark.
   bool isComment = false;
   /// Whether the mark stood apart from the words behind it.

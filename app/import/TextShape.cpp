@@ -5,7 +5,7 @@
 #include "app/import/HeaderSearch.h"
 #include "app/import/SeparatorVote.h"
 #include "app/import/TextSample.h"
-#include "app/import/TranslatedText.h"
+#include "app/import/Utf8Text.h"
 
 #include <algorithm>
 
@@ -42,11 +42,12 @@ bool commasMayBeDecimal(const TextShape& shape, const ImportRequest& request)
   return shape.separator != ',' && request.decimalMark.value_or(',') == ',';
 }
 
-bool isBlankField(const SampledRecord& record)
+/// A name in quotes without anything in them is one.
+bool isBlankLine(const SampledRecord& record)
 {
-  return std::all_of(record.fields.begin(), record.fields.end(),
-                     [](const std::string& field)
-                     { return trimmed(field, " \t\xC2\xA0").empty(); });
+  return (record.fields.size() > 1 || !record.fields.front().empty()) &&
+         std::all_of(record.fields.begin(), record.fields.end(),
+                     [](const std::string& field) { return withoutOuterBlanks(field).empty(); });
 }
 
 } // namespace
@@ -68,7 +69,7 @@ Result<TextShape> sniffText(std::string_view text, const ImportRequest& request)
   std::vector<SampledRecord> head = headOf(table, shape.separator, shape.comment);
   head.erase(std::remove_if(head.begin(), head.end(),
                             [&](const SampledRecord& record)
-                            { return !record.isComment && isBlankField(record); }),
+                            { return !record.isComment && isBlankLine(record); }),
              head.end());
   const std::string error =
       findHeader(head, placesOf(table, shape.separator, shape.comment), vote.fields, shape);

@@ -138,11 +138,31 @@ bool isCensored(std::string_view text)
 
 bool looksLikeThousands(std::string_view text)
 {
-  const std::string_view word = withoutOuterBlanks(text);
-  if (word.empty() || word.find_first_not_of("0123456789,.'+-") != std::string_view::npos)
+  constexpr std::size_t group = 3;
+  std::string_view rest = trimmed(withoutOuterBlanks(text), "+-");
+  const auto digits = [&rest]
+  {
+    const std::size_t end = std::min(rest.find_first_not_of("0123456789"), rest.size());
+    rest.remove_prefix(end);
+    return end;
+  };
+  const std::size_t first = digits();
+  if (first == 0 || first > group || rest.empty() ||
+      std::string_view(",.'").find(rest.front()) == std::string_view::npos)
     return false;
-  const std::size_t mark = word.find_first_of(",.'");
-  return mark != std::string_view::npos && mark > 0 && word.size() > mark + 3;
+  const char mark = rest.front();
+  while (!rest.empty() && rest.front() == mark)
+  {
+    rest.remove_prefix(1);
+    if (digits() != group)
+      return false;
+  }
+  if (rest.empty())
+    return true;
+  // A decimal mark of the other kind.
+  rest.remove_prefix(1);
+  digits();
+  return rest.empty();
 }
 
 } // namespace Talmesh::app

@@ -24,9 +24,10 @@ Result<OpenedStudy> openExampleStudy(const ImportProgress& progress)
   return example.study.runs ? Result<OpenedStudy>(example) : Result<OpenedStudy>::cancelled();
 }
 
-StudyJob jobFor(const QString& path)
+StudyJob jobFor(const QString& path, const ImportRequest& request = {})
 {
-  return [path](const ImportProgress& progress) { return openStudyFile(path, progress); };
+  return [path, request](const ImportProgress& progress)
+  { return openStudyFile(path, progress, request); };
 }
 
 OpeningTask taskFor(const QString& path)
@@ -62,7 +63,7 @@ void StudyOpener::open(const OpeningWishes& asked)
   task.namedByCommandLine = true;
   if (!path.isEmpty())
   {
-    load(task, jobFor(path));
+    load(task, jobFor(path, asked.import));
     return;
   }
   task.name = tr("the example study");

@@ -66,7 +66,8 @@ TEST_F(Program, TellsWhatItLeavesOutOfAnExport)
   const Ended ended = run({csv, "--export", path("plot.csv")});
   EXPECT_EQ(ended.status, 0);
   EXPECT_EQ(ended.errors.toStdString(),
-            "talmesh-plot: The column \"drug\" holds text and is left out.\n");
+            "talmesh-plot: The column \"drug\" holds the same text in all rows, \"aspirin\", and "
+            "is left out.\n");
 }
 
 TEST_F(Program, ExportsForPrint)
@@ -191,11 +192,18 @@ TEST_F(Program, RefusesWhatIsNoTable)
   EXPECT_FALSE(QFile::exists(path("out")));
 }
 
-TEST_F(Program, NamesTheRunOfAnotherLength)
+TEST_F(Program, NamesTheRunWhoseTimesAreNotTheOthers)
 {
-  const QString csv = write("runs.csv", "run,time,X\n1,0,1\n1,1,2\n2,0,1\n");
-  expectError({csv, "--export", path("plot.png")},
-              csv + ": run \"2\" has 1 point, other runs have 2");
+  const QString csv = write("runs.csv", "time,X\n0,1\n1,2\n0,1\n");
+  expectError({csv, "--export", path("plot.csv")},
+              csv + ": run 1 (from line 4, where time falls back) has 1 point, other runs have 2. "
+                    "If a run starts wherever time falls back, say --layout stacked; if a column "
+                    "names the runs, --run and its name; if there are none, --layout table");
+  const Ended asked = run({csv, "--layout", "stacked", "--export", path("plot.csv")});
+  EXPECT_EQ(asked.status, 0);
+  EXPECT_EQ(asked.errors.toStdString(),
+            "talmesh-plot: The runs have different times. They are shown at all 2 of them, with "
+            "gaps where a run has no point.\n");
 }
 
 TEST_F(Program, SpeaksGermanInAGermanEnvironment)

@@ -197,12 +197,12 @@ TEST(RunTableImport, NotesDeclaredParametersThatPlotsLeaveOut)
                              "The parameter \"empty\" is the same in all runs and is left out."}));
 }
 
-TEST(RunTableImport, FindsNoParametersInRunsOfOnePoint)
+TEST(RunTableImport, FindsTheParametersOfRunsOfOnePointByTheirNames)
 {
   const ImportedTable table = imported("run,k,score\n0,1,2\n1,3,4\n2,5,6\n");
   expectShape(table, 3, 1);
   EXPECT_EQ(labels(table),
-            (std::vector<std::string>{"Molecule: k", "Molecule: score", ": Run Index"}));
+            (std::vector<std::string>{"Molecule: score", ": Run Index", "Parameter: k"}));
 }
 
 TEST(RunTableImport, GathersTheScatteredRowsOfARun)
@@ -243,12 +243,13 @@ TEST(RunTableImport, MakesAPlainTableOfColumnsWithoutTimeAndRun)
   EXPECT_TRUE(std::isnan(y->GetValue(1)));
 }
 
-TEST(RunTableImport, LeavesColumnsOfTextOutAndSaysSo)
+TEST(RunTableImport, LeavesColumnsOfOneTextOutAndSaysSo)
 {
-  const ImportedTable table = imported("time,X,drug\n0,1,none given\n1,2,\n2,4,aspirin\n");
+  const ImportedTable table = imported("time,X,drug\n0,1,aspirin\n1,2,\n2,4,aspirin\n");
   EXPECT_EQ(labels(table), (std::vector<std::string>{"Molecule: X", ": time", ": Run Index"}));
   EXPECT_EQ(table.notes,
-            (std::vector<std::string>{"The column \"drug\" holds text and is left out."}));
+            (std::vector<std::string>{"The column \"drug\" holds the same text in all rows, "
+                                      "\"aspirin\", and is left out."}));
 }
 
 TEST(RunTableImport, IgnoresEmptyFieldsBeyondTheHeaders)

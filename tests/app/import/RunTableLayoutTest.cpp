@@ -90,8 +90,9 @@ TEST(RunTableLayout, PutsTheRunIndexBeforeAnItemWithItsWord)
   for (const char* item : {"Index", "Mitotic Index"})
     EXPECT_EQ(labels(imported(threeRuns(std::string("run,time,k,") + item))),
               (Labels{": Time", ": Run Index", "Parameter: k", std::string("Molecule: ") + item}));
+  // What says nothing of itself in a row per run is a parameter of it.
   EXPECT_EQ(labels(imported("run,Index,X\n3,1,2\n4,3,4\n")),
-            (Labels{": Run Index", "Molecule: Index", "Molecule: X"}));
+            (Labels{": Run Index", "Parameter: Index", "Parameter: X"}));
 }
 
 TEST(RunTableLayout, KeepsItemsThatNeverVaryBehindTheOthers)

@@ -111,10 +111,10 @@ TEST_F(MainWindowWithRuns, KeepsWhatItShowsWhenAFileCannotBeOpened)
 
 TEST_F(MainWindowWithRuns, SaysWhichColumnsItLeftOut)
 {
-  window->openFile(write("runs.csv", "time,X,drug\n0,1,none given\n1,2,aspirin\n"));
+  window->openFile(write("runs.csv", "time,X,drug\n0,1,aspirin\n1,2,aspirin\n"));
   ASSERT_TRUE(waitUntilLoaded());
   EXPECT_EQ(window->statusBar()->currentMessage(),
-            "The column \"drug\" holds text and is left out.");
+            "The column \"drug\" holds the same text in all rows, \"aspirin\", and is left out.");
 }
 
 TEST_F(MainWindowWithRuns, OpensADroppedFile)

@@ -1,0 +1,124 @@
+#include "app/ImportOptions.h"
+
+#include "app/OptionValues.h"
+#include "app/import/Layouts.h"
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+std::string layoutNames()
+{
+  std::string names;
+  for (const Layout& layout : layouts())
+    names += (names.empty() ? "" : ", ") + std::string(layout.name);
+  return names;
+}
+
+std::string readLayout(const std::string& value, ImportRequest& request)
+{
+  if (!findLayout(value))
+    return "unknown layout " + value + "; the layouts are " + layoutNames();
+  request.layout = value;
+  return {};
+}
+
+template <auto field>
+std::string readName(const std::string& value, ImportRequest& request)
+{
+  request.*field = value;
+  return {};
+}
+
+/// Names between commas.
+template <auto field>
+std::string readNames(const std::string& value, ImportRequest& request)
+{
+  for (std::string& name : splitAtCommas(value))
+  {
+    if (name.empty())
+      return "a name is empty in " + value;
+    (request.*field).push_back(std::move(name));
+  }
+  return {};
+}
+
+std::string readSeparator(const std::string& value, ImportRequest& request)
+{
+  if (value == "tab" || value == "\\t")
+    request.separator = '\t';
+  else if (value == "blank" || value == "space")
+    request.separator = ' ';
+  else if (value.size() == 1 && std::string_view(",;|: \t").find(value) != std::string_view::npos)
+    request.separator = value.front();
+  else
+    return "--separator takes one of , ; | : tab blank, not " + value;
+  return {};
+}
+
+std::string readDecimal(const std::string& value, ImportRequest& request)
+{
+  if (value != "." && value != ",")
+    return "--decimal takes . or a comma, not " + value;
+  request.decimalMark = value.front();
+  return {};
+}
+
+std::string readUnequal(const std::string& value, ImportRequest& request)
+{
+  if (value != "union" && value != "interpolate")
+    return "--unequal takes union or interpolate, not " + value;
+  request.unequal = value == "union" ? UnequalRuns::Union : UnequalRuns::Interpolate;
+  return {};
+}
+
+} // namespace
+
+const std::array<ImportOption, 11>& importOptions()
+{
+  static const std::array<ImportOption, 11> options = {
+      {{"layout", readLayout},
+       {"time", readName<&ImportRequest::time>},
+       {"run", readNames<&ImportRequest::run>},
+       {"item", readName<&ImportRequest::item>},
+       {"value", readName<&ImportRequest::value>},
+       {"parameter", readNames<&ImportRequest::parameters>},
+       {"condition", readNames<&ImportRequest::conditions>},
+       {"ignore", readNames<&ImportRequest::ignored>},
+       {"separator", readSeparator},
+       {"decimal", readDecimal},
+       {"unequal", readUnequal}}};
+  return options;
+}
+
+std::string importHelp()
+{
+  return "How a table is read, where it does not tell by itself:\n"
+         "  --layout NAME           how its rows and columns are laid out: " +
+         layoutNames() +
+         "\n"
+         "  --time NAME             the column of times\n"
+         "  --run NAME[,NAME...]    the columns that name the run of a row together\n"
+         "  --item NAME             the column that says what a row has the value of\n"
+         "  --value NAME            the column of these values\n"
+         "  --parameter NAME[,...]  columns that are parameters of runs\n"
+         "  --condition NAME[,...]  columns whose cells are names, such as of drugs\n"
+         "  --ignore NAME[,...]     columns to leave out\n"
+         "  --separator CHAR        what parts the fields: , ; | : tab or blank\n"
+         "  --decimal CHAR          the decimal mark: . or ,\n"
+         "  --unequal union|interpolate\n"
+         "                          runs of different times have gaps at the times of others, or\n"
+         "                          straight lines across them\n"
+         "  --describe              print what was understood of the table as JSON, and open no\n"
+         "                          window; the exit status is 0, 1 where the table is refused, "
+         "or\n"
+         "                          3 where several readings fit about equally well\n";
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,121 @@
+#include "app/import/LayoutFacts.h"
+#include "app/import/LayoutUnits.h"
+#include "app/import/LongTable.h"
+#include "app/import/PetabConditions.h"
+#include "app/import/RoleChoice.h"
+#include "app/import/TranslatedText.h"
+
+#include <array>
+
+/// Tables of measurements and simulations of parameter estimation problems in the PEtab format: a
+/// row per value, with the observable and the condition that it was simulated or measured under.
+namespace Talmesh::app
+{
+
+namespace
+{
+
+constexpr const char* conditionColumn = "simulationConditionId";
+constexpr const char* itemColumn = "observableId";
+/// Columns that name runs together.
+constexpr std::array<const char*, 3> runColumns = {conditionColumn, "preequilibrationConditionId",
+                                                   "replicateId"};
+/// What the estimation needs and a plot does not.
+constexpr std::array<const char*, 6> otherColumns = {
+    "noiseParameters", "observableParameters",     "noiseDistribution",
+    "datasetId",       "observableTransformation", "noiseFormula"};
+
+int valueColumn(const TableText& text)
+{
+  const int measured = columnCalled(text, "measurement");
+  return measured >= 0 ? measured : columnCalled(text, "simulation");
+}
+
+LayoutFit recognise(const TableText& text, const ImportRequest&)
+{
+  const bool all = columnCalled(text, itemColumn) >= 0 &&
+                   columnCalled(text, conditionColumn) >= 0 && valueColumn(text) >= 0 &&
+                   text.roles.timeColumn >= 0;
+  return {all ? 1.0 : 0.0,
+          translated("PetabLayout", "the columns are those of a PEtab table of measurements or "
+                                    "simulations")};
+}
+
+void ignoreOthers(TableText& text, ImportReport& report)
+{
+  for (const char* name : otherColumns)
+    if (const int column = columnCalled(text, name);
+        column >= 0 && text.uses[static_cast<std::size_t>(column)] != ColumnUse::Ignored)
+    {
+      text.uses[static_cast<std::size_t>(column)] = ColumnUse::Ignored;
+      report.ignored.push_back(text.roles.headers[static_cast<std::size_t>(column)].name);
+    }
+}
+
+/// Names the runs by conditions and replicates, and keeps these columns for what they say.
+std::string nameConditions(TableText& text)
+{
+  text.roles.askedRuns.clear();
+  std::vector<ColumnValues> kept;
+  for (const char* name : runColumns)
+    if (const int column = columnCalled(text, name); column >= 0)
+    {
+      ColumnValues& values = text.columns[static_cast<std::size_t>(column)];
+      values.completeTexts();
+      // Cells may be empty where there was no equilibration before.
+      values.firstEmpty = {};
+      for (std::size_t row = 0; row < text.rows; ++row)
+        if (values.levels.rows()[row] == TextLevels::none)
+          values.levels.set(row, {});
+      text.roles.askedRuns.push_back(column);
+      kept.push_back(values);
+    }
+  const std::vector<ColumnUse> uses = text.uses;
+  const std::string error = nameRuns(text);
+  for (std::size_t i = 0; i < kept.size(); ++i)
+    text.columns[static_cast<std::size_t>(text.roles.askedRuns[i])] = std::move(kept[i]);
+  text.uses = uses;
+  text.roles.askedRuns.clear();
+  text.roles.runColumn = -1;
+  return error;
+}
+
+Result<TableText> arrange(TableText text, const LayoutTask& task)
+{
+  using Arranged = Result<TableText>;
+  LongColumns columns;
+  const int condition = columnCalled(text, conditionColumn);
+  const int item = columnCalled(text, itemColumn);
+  const int value = valueColumn(text);
+  if (condition < 0 || item < 0 || value < 0)
+    return Arranged::failed(
+        translated("PetabLayout", "a PEtab table has the columns observableId, "
+                                  "simulationConditionId, time, and measurement or simulation"));
+  const bool measured = columnCalled(text, "measurement") >= 0;
+  columns.item = static_cast<std::size_t>(item);
+  columns.value = static_cast<std::size_t>(value);
+  columns.repeatsAreReplicates = true;
+  ignoreOthers(text, task.report);
+  std::string error = mistypedCell(text, columns.value);
+  if (error.empty())
+    error = nameConditions(text);
+  // Names of conditions are texts, also where they are numbers.
+  text.uses[static_cast<std::size_t>(condition)] = ColumnUse::Condition;
+  if (error.empty())
+    error = joinConditions(text, static_cast<std::size_t>(condition), task.beside, task.report);
+  if (!error.empty())
+    return Arranged::failed(error);
+  if (measured)
+    task.report.reasons.push_back(
+        translated("PetabLayout", "the values are measurements: nothing is drawn between them"));
+  Result<TableText> wide = pivotLong(std::move(text), columns, task.report);
+  if (wide.hasValue())
+    wide.value().isMeasured = measured;
+  return wide;
+}
+
+} // namespace
+
+const Layout petabLayout = {"petab", recognise, arrange};
+
+} // namespace Talmesh::app

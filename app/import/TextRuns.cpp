@@ -1,0 +1,186 @@
+#include "app/import/TextRuns.h"
+
+#include "app/import/CommonGrid.h"
+#include "app/import/RunGrouping.h"
+#include "app/import/RunTableBuilder.h"
+#include "app/import/TranslatedText.h"
+#include "app/import/Utf8Text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <set>
+#include <string>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+using Imported = Result<ImportedTable>;
+
+/// The stacked runs, or what keeps the rows from being such.
+class RunsOfText
+{
+public:
+  RunsOfText(TableText& text_, const ImportRequest& request_, ImportReport& report_)
+      : text(text_)
+      , request(request_)
+      , report(report_)
+  {
+  }
+
+  Imported build(const std::vector<ColumnLevels>& levels)
+  {
+    Result<RunGrouping> grouped = text.rowsAreRuns ? everyRow() : grouping();
+    if (!grouped.hasValue())
+      return Imported::without(grouped);
+    RunGrouping& runs = grouped.value();
+    ImportedTable imported;
+    const std::string error = layOnGrid(runs, imported);
+    if (!error.empty())
+      return Imported::failed(error);
+    noteOnMissingTime(runs.pointsPerRun);
+    const BuiltRuns built = buildRunTable(text, runs);
+    imported.runs = built.runs;
+    for (const std::string& parameter : built.unvariedParameters)
+      report.warnings.push_back(withValues(
+          translated("RunTableImport", "The parameter %1 is the same in all runs and is left out."),
+          {quotedForMessage(parameter)}));
+    for (const ColumnLevels& category : levels)
+      if (const auto label = built.labels.find(category.column); label != built.labels.end())
+        imported.categories.push_back({label->second, category.levels});
+    describe(*built.runs);
+    return imported;
+  }
+
+private:
+  Result<RunGrouping> grouping() const
+  {
+    RunColumns columns;
+    columns.rows = text.rows;
+    columns.lines = &text.lines;
+    if (text.roles.timeColumn >= 0)
+      columns.time = &text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
+    if (!text.runNames.empty())
+    {
+      columns.run = &text.runOfRow;
+      columns.names = &text.runNames;
+    }
+    return groupRuns(columns);
+  }
+
+  Result<RunGrouping> everyRow() const
+  {
+    if (text.runNames.size() == text.rows)
+      return grouping();
+    RunGrouping rows;
+    rows.numberOfRuns = text.rows;
+    rows.pointsPerRun = 1;
+    rows.indices.resize(text.rows);
+    std::iota(rows.indices.begin(), rows.indices.end(), 0.0);
+    rows.starts.resize(text.rows + 1);
+    std::iota(rows.starts.begin(), rows.starts.end(), std::size_t{0});
+    return rows;
+  }
+
+  bool hasInfiniteTime() const
+  {
+    if (text.roles.timeColumn < 0)
+      return false;
+    const auto& time = text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
+    return std::any_of(time.begin(), time.end(), [](double value) { return std::isinf(value); });
+  }
+
+  std::string layOnGrid(RunGrouping& runs, ImportedTable& imported)
+  {
+    if (hasInfiniteTime())
+    {
+      stackRows(text, runs);
+      takeSteadyStates(text, runs, report);
+    }
+    tellLengths(runs);
+    if (!runs.unequal.empty())
+    {
+      if (text.runNames.empty() && !request.unequal && request.layout.empty())
+        return doubtedRestarts(runs);
+      stackRows(text, runs);
+      const std::string error =
+          putOnCommonGrid(text, runs, request.unequal, report, imported.measured);
+      if (!error.empty())
+        return error;
+    }
+    if (text.hasGaps && !text.isMeasured && request.unequal != UnequalRuns::Union)
+    {
+      stackRows(text, runs);
+      bridgeGaps(text, runs, report);
+    }
+    return {};
+  }
+
+  void tellLengths(const RunGrouping& runs)
+  {
+    report.runs = runs.numberOfRuns;
+    report.fewestPoints = runs.pointsPerRun;
+    report.mostPoints = runs.pointsPerRun;
+    for (std::size_t run = 0; run < runs.numberOfRuns; ++run)
+    {
+      const std::size_t points = runs.starts[run + 1] - runs.starts[run];
+      report.fewestPoints = std::min(report.fewestPoints, points);
+      report.mostPoints = std::max(report.mostPoints, points);
+    }
+  }
+
+  /// Where time falls back now here, now there, it may not be that a run starts.
+  std::string doubtedRestarts(const RunGrouping& runs)
+  {
+    report.candidates = {
+        {"--layout stacked", "stacked", 0.5,
+         translated("RunTableImport", "a run starts wherever time falls back, and runs differ in "
+                                      "length")},
+        {"--layout table", "table", 0.5, translated("RunTableImport", "the rows have no order")}};
+    return withValues(translated("RunTableImport",
+                                 "%1. If a run starts wherever time falls back, say --layout "
+                                 "stacked; if a column names the runs, --run and its name; if "
+                                 "there are none, --layout table"),
+                      {runs.unequal});
+  }
+
+  /// In which order points are when there is no time.
+  void noteOnMissingTime(std::size_t pointsPerRun)
+  {
+    if (text.roles.timeColumn < 0 && pointsPerRun > 1)
+      report.warnings.push_back(translated("RunTableImport",
+                                           "There is no time column, so the points of a run are "
+                                           "in the order of the file."));
+  }
+
+  void describe(const LinePlotTable& runs)
+  {
+    if (text.roles.timeColumn >= 0)
+      report.time = text.roles.headers[static_cast<std::size_t>(text.roles.timeColumn)].name;
+    const std::set<std::string> categories(report.categories.begin(), report.categories.end());
+    for (const auto& [kind, name] : runs.items)
+      if (categories.count(name) > 0)
+        continue;
+      else if (kind == Parameter)
+        report.parameters.push_back(name);
+      else if (kind != TimeOrValue)
+        report.items.push_back(name);
+  }
+
+  TableText& text;
+  const ImportRequest& request;
+  ImportReport& report;
+};
+
+} // namespace
+
+Result<ImportedTable> buildRuns(TableText& text, const std::vector<ColumnLevels>& levels,
+                                const ImportRequest& request, ImportReport& report)
+{
+  return RunsOfText(text, request, report).build(levels);
+}
+
+} // namespace Talmesh::app

@@ -1,0 +1,150 @@
+#include "app/import/LayoutFacts.h"
+#include "app/import/LayoutUnits.h"
+#include "app/import/LongTable.h"
+#include "app/import/RoleChoice.h"
+#include "app/import/RoleNames.h"
+#include "app/import/TranslatedText.h"
+#include "app/import/Utf8Text.h"
+
+#include <algorithm>
+
+/// A row per value: run, time, which item, its value.
+namespace Talmesh::app
+{
+
+namespace
+{
+
+struct Found
+{
+  int item = -1;
+  int value = -1;
+  bool itemByName = false;
+  bool valueByName = false;
+
+  bool isWhole() const { return item >= 0 && value >= 0; }
+};
+
+int onlyOne(const std::vector<std::size_t>& columns)
+{
+  return columns.size() == 1 ? static_cast<int>(columns.front()) : -1;
+}
+
+bool hasLevels(const TableText& text, std::size_t column)
+{
+  const ColumnValues& values = text.columns[column];
+  return values.levels.names().size() > 1 && values.levels.names().size() < text.rows;
+}
+
+Found find(const TableText& text)
+{
+  Found found;
+  found.item = text.roles.itemColumn;
+  found.itemByName = found.item >= 0;
+  std::vector<std::size_t> items = textColumns(text);
+  for (const std::size_t column : items)
+    if (!found.itemByName && isItemName(text.roles.headers[column].name) && hasLevels(text, column))
+    {
+      found.item = static_cast<int>(column);
+      found.itemByName = true;
+    }
+  if (found.item < 0 && items.size() == 1 && hasLevels(text, items.front()))
+    found.item = static_cast<int>(items.front());
+
+  found.value = text.roles.valueColumn;
+  found.valueByName = found.value >= 0;
+  std::vector<std::size_t> numbers;
+  for (const std::size_t column : numberColumns(text))
+  {
+    const std::string& name = text.roles.headers[column].name;
+    if (static_cast<int>(column) == found.item || isErrorName(name))
+      continue;
+    numbers.push_back(column);
+    if (!found.valueByName && isValueName(name))
+    {
+      found.value = static_cast<int>(column);
+      found.valueByName = true;
+    }
+  }
+  if (found.value < 0)
+    found.value = onlyOne(numbers);
+  return found;
+}
+
+LayoutFit recognise(const TableText& text, const ImportRequest& request)
+{
+  const Found found = find(text);
+  if (!found.isWhole())
+    return {};
+  const std::string reason = withValues(
+      translated("TidyLayout", "%1 says which item a row is of, and %2 has its value"),
+      {quotedForMessage(text.roles.headers[static_cast<std::size_t>(found.item)].name),
+       quotedForMessage(text.roles.headers[static_cast<std::size_t>(found.value)].name)});
+  if (!request.item.empty() || !request.value.empty())
+    return {0.95, reason};
+  // Tables of that format name conditions and replicates their own way.
+  if (columnCalled(text, "simulationConditionId") >= 0)
+    return {0.5, reason};
+  if (text.roles.timeColumn < 0)
+    return {found.itemByName && found.valueByName ? 0.55 : 0.0, reason};
+  if (found.itemByName && found.valueByName)
+    return {0.9, reason};
+  if (pointsRepeat(text))
+    return {found.itemByName || found.valueByName ? 0.75 : 0.6, reason};
+  return {found.itemByName || found.valueByName ? 0.6 : 0.0, reason};
+}
+
+/// Texts that are no items tell runs apart as well as names of runs do.
+std::string nameRunsByConditions(TableText& text, std::size_t item)
+{
+  std::string error = nameRuns(text);
+  if (!error.empty() || !text.runNames.empty())
+    return error;
+  for (const std::size_t column : textColumns(text))
+    if (column != item && hasLevels(text, column) && !text.columns[column].hasTooManyTexts)
+      text.roles.askedRuns.push_back(static_cast<int>(column));
+  if (text.roles.askedRuns.empty())
+    return {};
+  // The columns stay categories.
+  std::vector<ColumnValues> kept;
+  for (const int column : text.roles.askedRuns)
+    kept.push_back(text.columns[static_cast<std::size_t>(column)]);
+  const std::vector<ColumnUse> uses = text.uses;
+  error = nameRuns(text);
+  for (std::size_t i = 0; i < kept.size(); ++i)
+    text.columns[static_cast<std::size_t>(text.roles.askedRuns[i])] = std::move(kept[i]);
+  text.uses = uses;
+  text.roles.askedRuns.clear();
+  text.roles.runColumn = -1;
+  return error;
+}
+
+Result<TableText> arrange(TableText text, const LayoutTask& task)
+{
+  using Arranged = Result<TableText>;
+  const Found found = find(text);
+  if (!found.isWhole())
+    return Arranged::failed(
+        found.item < 0
+            ? translated("TidyLayout", "no column says which item a row is of; name it by --item")
+            : translated("TidyLayout", "no column is clear to hold the values; name it by "
+                                       "--value"));
+  LongColumns columns;
+  columns.item = static_cast<std::size_t>(found.item);
+  columns.value = static_cast<std::size_t>(found.value);
+  std::string error = mistypedCell(text, columns.value);
+  if (error.empty() && text.columns[columns.value].isText())
+    error = withValues(translated("TidyLayout", "the column %1 holds no numbers"),
+                       {quotedForMessage(text.roles.headers[columns.value].name)});
+  if (error.empty() && text.roles.timeColumn >= 0)
+    error = mistypedCell(text, static_cast<std::size_t>(text.roles.timeColumn));
+  if (error.empty())
+    error = nameRunsByConditions(text, columns.item);
+  return error.empty() ? pivotLong(std::move(text), columns, task.report) : Arranged::failed(error);
+}
+
+} // namespace
+
+const Layout tidyLayout = {"tidy", recognise, arrange};
+
+} // namespace Talmesh::app
