@@ -16,7 +16,6 @@
 #include <QFile>
 #include <QString>
 
-#include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -172,20 +171,15 @@ void describeSession(const Study& study, ImportReport& report)
 
 } // namespace
 
-Description describeFile(const CommandLineOptions& options)
+Result<std::string> describeFile(const CommandLineOptions& options, ImportReport& report)
 {
-  Description description;
-  ImportReport report;
   const Result<OpenedStudy> opened =
       openStudyFile(QFile::decodeName(options.file.c_str()), {}, options.import, &report);
-  description.error = opened.error();
-  if (opened.hasValue() && opened.value().session)
+  if (!opened.hasValue())
+    return Result<std::string>::without(opened);
+  if (opened.value().session)
     describeSession(opened.value().study, report);
-  if (opened.hasValue() || report.isUnsure())
-    description.json = jsonOf(report);
-  constexpr int unsure = 3;
-  description.status = opened.hasValue() ? EXIT_SUCCESS : report.isUnsure() ? unsure : EXIT_FAILURE;
-  return description;
+  return jsonOf(report);
 }
 
 } // namespace Talmesh::app

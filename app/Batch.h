@@ -2,6 +2,8 @@
 #define Batch_h
 
 #include "app/CommandLine.h"
+#include "app/import/ImportReport.h"
+#include "app/import/Result.h"
 
 #include <string>
 
@@ -14,19 +16,10 @@ namespace Talmesh::app
 /// @return why something could not be done, in one line; empty on success
 std::string runBatch(const CommandLineOptions& options);
 
-/// What was understood of a file.
-struct Description
-{
-  /// The report as JSON; empty of what is refused.
-  std::string json;
-  /// Why it is refused or unsure, in one line.
-  std::string error;
-  /// Of the program: 0 understood, 1 refused, 3 unsure.
-  int status = 0;
-};
-
 /// Reads the table of the command line without showing it. Needs no QApplication.
-Description describeFile(const CommandLineOptions& options);
+/// @param report gets what was understood of it, and the candidates where that is unsure
+/// @return the report as JSON, or why the table is not read
+Result<std::string> describeFile(const CommandLineOptions& options, ImportReport& report);
 
 } // namespace Talmesh::app
 

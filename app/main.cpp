@@ -75,11 +75,16 @@ int writeFiles(const CommandLineOptions& options)
 /// Needs neither a display nor an application.
 int describe(const CommandLineOptions& options)
 {
-  const Description description = describeFile(options);
-  if (!description.error.empty())
-    fail(description.error);
-  const int printed = description.json.empty() ? EXIT_SUCCESS : print(description.json);
-  return description.status == EXIT_SUCCESS ? printed : description.status;
+  constexpr int unsure = 3;
+  ImportReport report;
+  const Result<std::string> description = describeFile(options, report);
+  if (description.hasValue())
+    return print(description.value());
+  const int refused = fail(description.error());
+  if (!report.isUnsure())
+    return refused;
+  print(jsonOf(report));
+  return unsure;
 }
 
 int runProgram(int argc, char** argv)

@@ -130,7 +130,7 @@ private:
     ColumnValues values = columnOfTexts(cells);
     values.keepsTexts = false;
     // Some cells may be names of parameters that have no value.
-    text.uses.push_back(values.texts > 0 ? ColumnUse::Condition : ColumnUse::Open);
+    text.uses.push_back(values.texts > 0 ? ColumnUse::Condition : ColumnUse::Parameter);
     text.columns.push_back(std::move(values));
     ColumnHeader header;
     header.name = table.names[column];

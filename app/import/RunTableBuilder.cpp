@@ -98,6 +98,9 @@ private:
   {
     if (use == ColumnUse::Item || use == ColumnUse::Parameter)
       return use == ColumnUse::Parameter;
+    // What is a condition of a single point is one of its run.
+    if (use == ColumnUse::Condition && grouping.pointsPerRun == 1)
+      return column.varies();
     return column.varies() && constantWithinRuns(column.values.get());
   }
 
