@@ -49,10 +49,6 @@
         <source>no row has a time</source>
         <translation>keine Zeile hat eine Zeit</translation>
     </message>
-    <message>
-        <source>Not all items have values at all times. Straight lines cross the gaps between them.</source>
-        <translation>Nicht alle Größen haben zu allen Zeiten Werte. Geraden überbrücken die Lücken dazwischen.</translation>
-    </message>
 </context>
 <context>
     <name>ComparisonText</name>
@@ -553,6 +549,41 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Select Items to View</source>
         <translation>Angezeigte Größen wählen</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingQuestion</name>
+    <message>
+        <source>Decimal commas</source>
+        <translation>Dezimalkommas</translation>
+    </message>
+    <message>
+        <source>Runs one below the other</source>
+        <translation>Läufe untereinander</translation>
+    </message>
+    <message>
+        <source>A value per row</source>
+        <translation>Ein Wert je Zeile</translation>
+    </message>
+    <message>
+        <source>A column per run</source>
+        <translation>Eine Spalte je Lauf</translation>
+    </message>
+    <message>
+        <source>A row per run</source>
+        <translation>Eine Zeile je Lauf</translation>
+    </message>
+    <message>
+        <source>A table without runs</source>
+        <translation>Eine Tabelle ohne Läufe</translation>
+    </message>
+    <message>
+        <source>How is the table %1 to be read?</source>
+        <translation>Wie ist die Tabelle %1 zu lesen?</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1091,6 +1122,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Line %1: the time is infinite. Steady states are items of their own, &quot;... at steady state&quot;.</source>
         <translation>Zeile %1: Die Zeit ist unendlich. Stationäre Zustände sind eigene Größen, &quot;... at steady state&quot;.</translation>
+    </message>
+    <message>
+        <source>Not all items have values at all times. Straight lines cross the gaps between them.</source>
+        <translation>Nicht alle Größen haben zu allen Zeiten Werte. Geraden überbrücken die Lücken dazwischen.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "app/document/ShownStudy.h"
 
 #include "app/document/ChartDressing.h"
+#include "app/document/ShownCategories.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
@@ -48,6 +49,7 @@ void fill(const Study& study, PlotContainer& container)
   options.movesParallelAxes = true;
   container.setOptions(options);
   settings.sourceName = study.name;
+  keepCategories(container, study.categories);
   if (study.chart)
     return;
   dressDrawings(container);

@@ -1,6 +1,7 @@
 #include "app/document/TableRuns.h"
 
 #include "app/document/PlotChoice.h"
+#include "app/document/ShownCategories.h"
 #include "app/import/ColumnRoles.h"
 #include "app/import/TranslatedText.h"
 #include "external/ColumnNames.h"
@@ -74,6 +75,19 @@ bool TableRuns::isOfWholeRun(int column) const
   return std::find(parameters.begin(), parameters.end(), column) != parameters.end() ||
          plot::columnName(container.getTable(), column) == selectionPairToString(runIndexItem()) ||
          isConstantInRuns(column);
+}
+
+std::optional<double> TableRuns::numberOf(int column, const std::string& text) const
+{
+  const std::string label = plot::columnName(container.getTable(), column);
+  for (const Category& category : categoriesOf(container))
+    if (category.column == label)
+    {
+      const auto level = std::find(category.levels.begin(), category.levels.end(), text);
+      if (level != category.levels.end())
+        return static_cast<double>(level - category.levels.begin());
+    }
+  return std::nullopt;
 }
 
 /// A parameter that the study did not vary is none of its settings.

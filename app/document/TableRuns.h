@@ -9,6 +9,7 @@
 #include <vtkType.h>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,7 @@ public:
   Result<int> column(const std::string& name) const override;
   /// Parameters, the column of the runs' numbers and what changes in no run.
   bool isOfWholeRun(int column) const override;
+  std::optional<double> numberOf(int column, const std::string& text) const override;
   RunCourse course(std::size_t run, int column, int over) const override;
 
   /// The name by which `column` finds a column.

@@ -92,9 +92,9 @@ std::size_t leadingTimeWord(const std::string& name)
   return 0;
 }
 
-constexpr std::array<std::string_view, 9> timeWords = {
-    "time",        "t",       "times",          "timepoint", "timepoints",
-    "elapsedtime", "simtime", "simulationtime", "zeit"};
+constexpr std::array<std::string_view, 14> timeWords = {
+    "time",           "t",    "times",     "timepoint", "timepoints", "elapsedtime", "simtime",
+    "simulationtime", "zeit", "zeitpunkt", "temps",     "tiempo",     "tijd",        "timestamp"};
 
 /// A name of time that needs no unit, or has it in brackets.
 bool isWholeTimeName(std::string_view name)
@@ -213,9 +213,11 @@ std::string plottedTimeName(const std::string& name)
 
 bool isRunName(std::string_view name)
 {
-  constexpr std::array<std::string_view, 11> words = {
-      "run", "runs",       "trajectory",  "traj",        "replicate", "rep",
-      "sim", "simulation", "realization", "realisation", "subject"};
+  constexpr std::array<std::string_view, 20> words = {
+      "run",     "runs",    "trajectory", "traj",        "replicate",
+      "rep",     "sim",     "simulation", "realization", "realisation",
+      "subject", "lauf",    "replikat",   "trajektorie", "proband",
+      "essai",   "replica", "corrida",    "simulacion",  "patient"};
   constexpr std::array<std::string_view, 7> endings = {"",       "id", "index", "idx",
                                                        "number", "nr", "no"};
   const std::string joined = withoutSeparators(lowerCase(bare(name)));

@@ -15,15 +15,9 @@ namespace
 {
 
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
-/// The grid may take so many times the room of what was measured, or so many rows.
+/// The grid may take so many times the room of what was measured, or so many cells.
 constexpr std::size_t mostGrowth = 4;
-constexpr std::size_t alwaysRows = 200000;
-
-double between(double at, double fromTime, double toTime, double from, double to)
-{
-  const double part = (at - fromTime) / (toTime - fromTime);
-  return from + part * (to - from);
-}
+constexpr std::size_t alwaysCells = 2000000;
 
 class GridBuilder
 {
@@ -42,6 +36,7 @@ private:
   void readTimes();
   std::string repeatedTime() const;
   void unite();
+  std::size_t mostRows() const;
   void thin();
   bool gapsAreInside() const;
   std::size_t longest() const;
@@ -99,10 +94,17 @@ std::size_t GridBuilder::longest() const
   return most;
 }
 
-/// Keeps as many times as the longest run has, dense where the measured ones are.
+std::size_t GridBuilder::mostRows() const
+{
+  return std::max(mostGrowth * text.rows, alwaysCells / text.columns.size());
+}
+
+/// Keeps as many times as the longest run has, or as there is room for, dense where the measured
+/// ones are.
 void GridBuilder::thin()
 {
-  const std::size_t count = std::max<std::size_t>(longest(), 2);
+  const std::size_t room = mostRows() / grouping.numberOfRuns;
+  const std::size_t count = std::max<std::size_t>(std::min(longest(), room), 2);
   std::vector<double> thinned;
   for (std::size_t i = 0; i < count; ++i)
     thinned.push_back(grid[i * (grid.size() - 1) / (count - 1)]);
@@ -161,7 +163,7 @@ void GridBuilder::fillRun(std::size_t run, const std::vector<double>& values, bo
       value = values[row];
     else if (interpolates && row < end && row > grouping.starts[run])
       value = steps ? values[row - 1]
-                    : between(grid[i], times[row - 1], times[row], values[row - 1], values[row]);
+                    : onLine(grid[i], times[row - 1], times[row], values[row - 1], values[row]);
   }
 }
 
@@ -212,8 +214,7 @@ std::string GridBuilder::build(std::optional<UnequalRuns> unequal, ImportReport&
   if (const std::string error = repeatedTime(); !error.empty())
     return error;
   unite();
-  const bool tooMany =
-      grid.size() * grouping.numberOfRuns > std::max(mostGrowth * text.rows, alwaysRows);
+  const bool tooMany = grid.size() * grouping.numberOfRuns > mostRows();
   if (tooMany && (unequal == UnequalRuns::Union || (text.isMeasured && !unequal)))
     return withValues(translated("CommonGrid", "the runs have %1 different times together, too "
                                                "many to show each run at all of them; "
@@ -266,34 +267,4 @@ std::string putOnCommonGrid(TableText& text, RunGrouping& grouping,
   return error;
 }
 
-void bridgeGaps(TableText& text, const RunGrouping& grouping, ImportReport& report)
-{
-  if (text.roles.timeColumn < 0)
-    return;
-  const std::vector<double>& time =
-      text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
-  std::size_t bridged = 0;
-  for (std::size_t i = 0; i < text.columns.size(); ++i)
-  {
-    std::vector<double>& values = text.columns[i].values;
-    if (text.uses[i] != ColumnUse::Item || values.empty())
-      continue;
-    for (std::size_t run = 0; run < grouping.numberOfRuns; ++run)
-    {
-      std::size_t last = grouping.starts[run + 1];
-      for (std::size_t row = grouping.starts[run]; row < grouping.starts[run + 1]; ++row)
-      {
-        if (std::isnan(values[row]))
-          continue;
-        for (std::size_t gap = last + 1; gap < row; ++gap, ++bridged)
-          values[gap] = between(time[gap], time[last], time[row], values[last], values[row]);
-        last = row;
-      }
-    }
-  }
-  if (bridged > 0)
-    report.warnings.push_back(translated("CommonGrid", "Not all items have values at all times. "
-                                                       "Straight lines cross the gaps between "
-                                                       "them."));
-}
 } // namespace Talmesh::app

@@ -35,6 +35,9 @@ std::string putOnCommonGrid(TableText& text, RunGrouping& grouping,
                             std::optional<UnequalRuns> unequal, ImportReport& report,
                             std::shared_ptr<const MeasuredTimes>& measured);
 
+/// The value at a time on the straight line between two points.
+double onLine(double at, double fromTime, double toTime, double from, double to);
+
 /// Crosses the gaps between two values of an item of a run by straight lines.
 void bridgeGaps(TableText& text, const RunGrouping& grouping, ImportReport& report);
 

@@ -65,4 +65,15 @@ Result<const Layout*> chooseLayout(const TableText& text, const ImportRequest& r
                  {optionsOf(candidates)}));
 }
 
+bool takeCandidate(const ImportCandidate& candidate, ImportRequest& request)
+{
+  if (!candidate.layout.empty())
+    request.layout = candidate.layout;
+  else if (candidate.option == "--decimal ,")
+    request.decimalMark = ',';
+  else
+    return false;
+  return true;
+}
+
 } // namespace Talmesh::app

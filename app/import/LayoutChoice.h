@@ -11,6 +11,10 @@ namespace Talmesh::app
 Result<const Layout*> chooseLayout(const TableText& text, const ImportRequest& request,
                                    ImportReport& report);
 
+/// Says in a request what a candidate stands for.
+/// @return whether the table can be read so; commas between thousands are not
+bool takeCandidate(const ImportCandidate& candidate, ImportRequest& request);
+
 } // namespace Talmesh::app
 
 #endif

@@ -2,8 +2,10 @@
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -45,9 +47,26 @@ NamedRuns joined(const NamedRuns& runs, const ColumnValues& column)
   return both;
 }
 
+/// Whether the time rises from each row of a run to its next.
+bool timesRise(const NamedRuns& runs, const std::vector<double>& time)
+{
+  std::vector<double> last(runs.names.size(), -std::numeric_limits<double>::infinity());
+  for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
+  {
+    double& before = last[static_cast<std::size_t>(runs.ofRow[row])];
+    if (!(time[row] > before))
+      return false;
+    before = time[row];
+  }
+  return true;
+}
+
 /// Whether a run has two rows at one time.
 bool repeatsTimes(const NamedRuns& runs, const std::vector<double>& time)
 {
+  // Most tables need no memory for it.
+  if (timesRise(runs, time))
+    return false;
   std::vector<std::unordered_set<double>> seen(runs.names.size());
   for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
     if (!std::isnan(time[row]) &&
@@ -73,6 +92,8 @@ public:
     // More names are only wanted where one does not tell the runs apart.
     for (std::size_t i = 0; i < further.size() && error.empty() && repeats(); ++i)
       take(further[i], false);
+    if (error.empty() && text.roles.askedRuns.empty() && repeats())
+      tellApartByTexts();
     text.runOfRow = std::move(runs.ofRow);
     text.runNames = std::move(runs.names);
     return error;
@@ -105,6 +126,29 @@ private:
   {
     return text.roles.timeColumn >= 0 && !runs.ofRow.empty() &&
            repeatsTimes(runs, text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values);
+  }
+
+  /// Replicates may be counted anew under each condition. Columns of texts stay what they are;
+  /// where they do not tell the runs apart either, nothing is changed.
+  void tellApartByTexts()
+  {
+    NamedRuns named = runs;
+    for (std::size_t i = 0; i < text.columns.size(); ++i)
+    {
+      ColumnValues& column = text.columns[i];
+      const bool free = text.uses[i] == ColumnUse::Open && !text.roles.headers[i].typed &&
+                        static_cast<int>(i) != text.roles.timeColumn &&
+                        static_cast<int>(i) != text.roles.runColumn &&
+                        static_cast<int>(i) != text.roles.itemColumn;
+      if (!free || !column.isText() || column.hasTooManyTexts)
+        continue;
+      const auto& levels = column.levels.rows();
+      if (std::find(levels.begin(), levels.end(), TextLevels::none) == levels.end())
+        named = joined(named, column);
+    }
+    const auto& time = text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
+    if (!repeatsTimes(named, time))
+      runs = std::move(named);
   }
 
   void take(std::size_t column, bool isFirst)

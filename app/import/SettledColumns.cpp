@@ -86,10 +86,11 @@ private:
                            {shown, std::to_string(ColumnValues::mostLevels)}));
   }
 
-  /// Whether a column without a name holds another text in each row.
+  /// Whether a column without a name, or with one for row numbers, holds another text in each row.
   bool namesRows(const ColumnValues& column) const
   {
-    return text.roles.headers.front().unnamed && text.rows > 1 &&
+    const ColumnHeader& header = text.roles.headers.front();
+    return (header.unnamed || isRowNumberName(header.name)) && text.rows > 1 &&
            (column.hasTooManyTexts || column.levels.names().size() == text.rows);
   }
 

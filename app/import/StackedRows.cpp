@@ -168,4 +168,40 @@ void takeSteadyStates(TableText& text, RunGrouping& grouping, ImportReport& repo
   keepRows(text, grouping, kept);
 }
 
+double onLine(double at, double fromTime, double toTime, double from, double to)
+{
+  const double part = (at - fromTime) / (toTime - fromTime);
+  return from + part * (to - from);
+}
+
+void bridgeGaps(TableText& text, const RunGrouping& grouping, ImportReport& report)
+{
+  if (text.roles.timeColumn < 0)
+    return;
+  const std::vector<double>& time =
+      text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
+  std::size_t bridged = 0;
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    std::vector<double>& values = text.columns[i].values;
+    if (text.uses[i] != ColumnUse::Item || values.empty())
+      continue;
+    for (std::size_t run = 0; run < grouping.numberOfRuns; ++run)
+    {
+      std::size_t last = grouping.starts[run + 1];
+      for (std::size_t row = grouping.starts[run]; row < grouping.starts[run + 1]; ++row)
+      {
+        if (std::isnan(values[row]))
+          continue;
+        for (std::size_t gap = last + 1; gap < row; ++gap, ++bridged)
+          values[gap] = onLine(time[gap], time[last], time[row], values[last], values[row]);
+        last = row;
+      }
+    }
+  }
+  if (bridged > 0)
+    report.warnings.push_back(translated("StackedRows", "Not all items have values at all times. "
+                                                        "Straight lines cross the gaps between "
+                                                        "them."));
+}
 } // namespace Talmesh::app

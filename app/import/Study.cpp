@@ -80,7 +80,7 @@ Study lastPoints(const Study& study)
     for (std::size_t run = 0; run < runs.numberOfTrajectories; ++run)
       last->values.back()[run] = values[(run + 1) * runs.pointsPerTrajectory - 1];
   }
-  return {study.name, last, nullptr};
+  return {study.name, last, nullptr, nullptr, study.categories};
 }
 
 int runsOverTime(const Study& study)

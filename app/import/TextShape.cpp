@@ -38,8 +38,8 @@ char namedSeparator(std::string_view text, std::size_t& behind)
 
 bool commasMayBeDecimal(const TextShape& shape, const ImportRequest& request)
 {
-  // Where a comma parts the fields it cannot be inside a number.
-  return shape.separator != ',' && request.decimalMark.value_or(',') == ',';
+  // Where a comma parts the fields it is inside a number only in quotes, and if the user says so.
+  return request.decimalMark ? *request.decimalMark == ',' : shape.separator != ',';
 }
 
 /// A name in quotes without anything in them is one.

@@ -90,7 +90,7 @@ LayoutFit recognise(const TableText& text, const ImportRequest& request)
   if (found.itemByName && found.valueByName)
     return {0.9, reason};
   if (pointsRepeat(text))
-    return {found.itemByName || found.valueByName ? 0.75 : 0.6, reason};
+    return {found.itemByName || found.valueByName ? 0.75 : 0.45, reason};
   return {found.itemByName || found.valueByName ? 0.6 : 0.0, reason};
 }
 
@@ -132,6 +132,7 @@ Result<TableText> arrange(TableText text, const LayoutTask& task)
   LongColumns columns;
   columns.item = static_cast<std::size_t>(found.item);
   columns.value = static_cast<std::size_t>(found.value);
+  text.roles.itemColumn = found.item;
   std::string error = mistypedCell(text, columns.value);
   if (error.empty() && text.columns[columns.value].isText())
     error = withValues(translated("TidyLayout", "the column %1 holds no numbers"),

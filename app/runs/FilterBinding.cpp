@@ -1,6 +1,7 @@
 #include "app/runs/FilterBinding.h"
 
 #include "app/import/TranslatedText.h"
+#include "app/runs/ComparedText.h"
 #include "app/runs/RunFilter.h"
 
 #include <algorithm>
@@ -148,8 +149,14 @@ BoundTerm Binder::term(const FilterNode& node, bool condition)
                     "\"over\" joins two items of a line, as in \"through(B over A, 0, 1, 2, 3)\""));
   else
   {
-    for (const FilterNode& child : node.children)
-      bound.children.push_back(term(child, isLogic(node.kind)));
+    for (std::size_t i = 0; i < node.children.size(); ++i)
+      if (const auto number = textBesideColumn(node, i, runs))
+      {
+        bound.children.emplace_back();
+        bound.children.back().number = *number;
+      }
+      else
+        bound.children.push_back(term(node.children[i], isLogic(node.kind)));
   }
   return bound;
 }

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,8 @@ public:
   virtual Result<int> column(const std::string& name) const = 0;
   /// Whether a column has one value for a whole run, as parameters have.
   virtual bool isOfWholeRun(int column) const = 0;
+  /// The number that stands for a text in a column; none where the column has no such text.
+  virtual std::optional<double> numberOf(int column, const std::string& text) const;
 };
 
 struct BoundTerm;

@@ -91,6 +91,8 @@ Result<std::shared_ptr<const RestoredSession>> readRest(const ReadSessionParts& 
     settings.plot->setStride(settings.pointsPerRun);
   dropStrangeGroups(settings.groups, study);
   study.name = settings.name;
+  study.categories = settings.import.categories;
+  study.measured = settings.import.measured;
   return Rest(std::make_shared<const RestoredSession>(
       RestoredSession{settings, file.end, table.further, table.selected}));
 }
@@ -128,6 +130,7 @@ SessionSettings settingsOf(const SessionSource& source)
       entry.column = places.of(entry.column);
   settings.asked = source.asked;
   settings.steps = source.steps;
+  settings.import = {study.categories, study.measured};
   settings.views = source.views;
   if (settings.views.runTable)
     for (int& item : settings.views.runTable->items)

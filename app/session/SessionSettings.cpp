@@ -214,6 +214,8 @@ QByteArray settingsText(const SessionSettings& settings)
   if (!settings.steps.texts.empty())
     object["steps"] = objectOf(settings.steps);
   object["views"] = objectOf(settings.views);
+  if (const QJsonObject import = objectOf(settings.import); !import.isEmpty())
+    object["import"] = import;
   if (const QJsonObject shown = objectOf(settings.shown); !shown.isEmpty())
     object["shown"] = shown;
   if (!settings.origin.path.isEmpty())
@@ -246,6 +248,7 @@ Result<SessionSettings> readSettings(const QByteArray& text, int columns)
   settings.asked = readNames(object["asked"].toArray());
   settings.steps = readSteps(object["steps"].toObject());
   settings.views = readViews(object["views"].toObject(), columns);
+  settings.import = readImport(object["import"].toObject());
   settings.shown = readSessionColumns(object["shown"].toObject(), columns);
   settings.origin = readOrigin(object["origin"].toObject());
   settings.legend = object["legend"].toBool();

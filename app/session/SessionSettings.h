@@ -4,6 +4,7 @@
 #include "app/import/Result.h"
 #include "app/session/SessionColumns.h"
 #include "app/session/SessionGroups.h"
+#include "app/session/SessionImport.h"
 #include "app/session/SessionOrigin.h"
 #include "app/session/SessionSelections.h"
 #include "app/session/SessionSteps.h"
@@ -42,6 +43,7 @@ struct SessionSettings
   SessionSteps steps;
   SessionColumns shown;
   SessionViews views;
+  SessionImport import;
   /// Of work that is kept until the user saves it.
   SessionOrigin origin;
   bool legend = false;

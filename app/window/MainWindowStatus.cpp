@@ -4,6 +4,7 @@
 #include "app/window/FileDialogs.h"
 #include "app/window/GroupController.h"
 #include "app/window/MainWindow.h"
+#include "app/window/ReadingQuestion.h"
 #include "app/window/RecentMenu.h"
 #include "app/window/SearchController.h"
 #include "app/window/SessionController.h"
@@ -57,6 +58,14 @@ void MainWindow::connectControllers()
               recent->remove(task.path);
           });
   connect(opener, &StudyOpener::failed, this, &MainWindow::noteFailure);
+  connect(opener, &StudyOpener::unsure, this,
+          [this](const QString& message, const OpeningTask& task)
+          {
+            status.say(message);
+            askForReading(this, task.name, *task.report, task.request,
+                          [this, task](const ImportRequest& request)
+                          { opener->openAgain(task, request); });
+          });
   connect(exports, &ExportController::said, this, tell);
   connect(exports, &ExportController::stopped, this, say);
   connect(exports, &ExportController::written, this, &MainWindow::noteWritten);

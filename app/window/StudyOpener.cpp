@@ -24,12 +24,6 @@ Result<OpenedStudy> openExampleStudy(const ImportProgress& progress)
   return example.study.runs ? Result<OpenedStudy>(example) : Result<OpenedStudy>::cancelled();
 }
 
-StudyJob jobFor(const QString& path, const ImportRequest& request = {})
-{
-  return [path, request](const ImportProgress& progress)
-  { return openStudyFile(path, progress, request); };
-}
-
 OpeningTask taskFor(const QString& path)
 {
   OpeningTask task;
@@ -60,10 +54,11 @@ void StudyOpener::open(const OpeningWishes& asked)
   const QString path = QFile::decodeName(asked.file.c_str());
   OpeningTask task = taskFor(path);
   task.wishes = asked;
+  task.request = asked.import;
   task.namedByCommandLine = true;
   if (!path.isEmpty())
   {
-    load(task, jobFor(path, asked.import));
+    loadFile(task);
     return;
   }
   task.name = tr("the example study");
@@ -72,7 +67,14 @@ void StudyOpener::open(const OpeningWishes& asked)
 
 void StudyOpener::openFile(const QString& path)
 {
-  load(taskFor(path), jobFor(path));
+  loadFile(taskFor(path));
+}
+
+void StudyOpener::openAgain(const OpeningTask& unsure, const ImportRequest& request)
+{
+  OpeningTask task = unsure;
+  task.request = request;
+  loadFile(task);
 }
 
 void StudyOpener::openExample()
@@ -92,12 +94,20 @@ void StudyOpener::bringBack(const LeftWork& work)
   OpeningTask task = taskFor(work.path);
   task.path.clear();
   task.left = work;
-  load(task, jobFor(work.path));
+  load(task, [path = work.path](const ImportProgress& progress)
+       { return openStudyFile(path, progress); });
 }
 
 bool StudyOpener::isOpening() const
 {
   return runner->isRunning();
+}
+
+void StudyOpener::loadFile(OpeningTask task)
+{
+  task.report = std::make_shared<ImportReport>();
+  load(task, [task](const ImportProgress& progress)
+       { return openStudyFile(task.path, progress, task.request, task.report.get()); });
 }
 
 void StudyOpener::load(OpeningTask task, const StudyJob& job)
@@ -123,8 +133,14 @@ void StudyOpener::finish(const Result<OpenedStudy>& result)
     show(result.value(), task);
   if (result.error().empty())
     return;
+  const QString message = QString::fromStdString(result.error());
+  if (task.report && task.report->isUnsure())
+  {
+    emit unsure(message, task);
+    return;
+  }
   emit notOpened(task);
-  emit failed(QString::fromStdString(result.error()), task);
+  emit failed(message, task);
 }
 
 void StudyOpener::show(const OpenedStudy& study, const OpeningTask& task)

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 namespace Talmesh::app
 {
 
@@ -26,6 +28,9 @@ struct OpeningTask
   LeftWork left;
   /// What the command line wishes of the study that it names.
   PlotWishes wishes;
+  /// What is said of a table, and what was understood of it.
+  ImportRequest request;
+  std::shared_ptr<ImportReport> report;
   bool namedByCommandLine = false;
 };
 
@@ -44,6 +49,8 @@ public:
   /// Opens the file or example that the command line names.
   void open(const OpeningWishes& asked);
   void openFile(const QString& path);
+  /// Opens a file again whose reading was unsure.
+  void openAgain(const OpeningTask& unsure, const ImportRequest& request);
   void openExample();
   void openComputed(const QString& name, const StudyJob& job);
   /// Opens work that an earlier window has left; it is no file of the user's own.
@@ -63,6 +70,8 @@ signals:
   void shown(const Talmesh::app::OpenedStudy& opened, const Talmesh::app::OpeningTask& task);
   /// The same, with all wishes.
   void opened();
+  /// A table may be read in several ways, as the task's report says; why, in one line.
+  void unsure(const QString& message, const Talmesh::app::OpeningTask& task);
   /// Nothing is shown of it.
   void notOpened(const Talmesh::app::OpeningTask& task);
   /// Why what was to be opened could not be, or not as wished, in one line.
@@ -70,6 +79,7 @@ signals:
 
 private:
   void load(OpeningTask task, const StudyJob& job);
+  void loadFile(OpeningTask task);
   void show(const OpenedStudy& study, const OpeningTask& task);
   void finish(const Result<OpenedStudy>& result);
 

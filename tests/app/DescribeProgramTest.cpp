@@ -100,3 +100,24 @@ TEST_F(DescribeProgram, RefusesOptionsThatMakeNoSense)
   EXPECT_TRUE(
       run({"a.csv", "--layout", "x"}).errors.startsWith("talmesh-plot: unknown layout x; "));
 }
+
+TEST_F(DescribeProgram, SelectsRunsByTheTextsOfTheirCategories)
+{
+  const QString csv = write("runs.csv", "run,time,drug,X\n4,0,none,1\n4,1,none,2\n"
+                                        "5,0,wild type,3\n5,1,wild type,4\n"
+                                        "6,0,none,5\n6,1,none,6\n");
+  const auto selected = [&](const char* condition)
+  {
+    expectSuccess({csv, "--select", condition, "--runs", path("out.csv")});
+    QFile file(path("out.csv"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    std::string flags;
+    for (const QByteArray& line : file.readAll().trimmed().split('\n').mid(1))
+      flags += line.trimmed().back();
+    return flags;
+  };
+  EXPECT_EQ(selected("drug = \"wild type\""), "010");
+  EXPECT_EQ(selected("drug != \"wild type\""), "101");
+  EXPECT_EQ(selected("none = drug"), "101");
+  EXPECT_EQ(run({csv, "--select", "drug = aspirin", "--runs", path("out.csv")}).status, 1);
+}

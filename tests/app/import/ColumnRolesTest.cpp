@@ -71,6 +71,9 @@ TEST(ColumnRoles, KnowsTheNamesOfTime)
                            "Zeit",
                            "Zeit [s]",
                            "Zeit / s",
+                           "Zeitpunkt",
+                           "temps [s]",
+                           "tiempo",
                            "Time\u00A0[s]"})
     EXPECT_TRUE(isTimeName(name)) << name;
   for (const char* name :
@@ -81,8 +84,9 @@ TEST(ColumnRoles, KnowsTheNamesOfTime)
 
 TEST(ColumnRoles, KnowsTheNamesOfRuns)
 {
-  for (const char* name : {"run", "Run", "run_id", "RunID", "Run Index", "run-no", "trajectory",
-                           "trajectory_id", "replicate", "rep", "sim", "Simulation ID", "subject"})
+  for (const char* name :
+       {"run", "Run", "run_id", "RunID", "Run Index", "run-no", "trajectory", "trajectory_id",
+        "replicate", "rep", "sim", "Simulation ID", "subject", "Lauf", "Replikat Nr"})
     EXPECT_TRUE(isRunName(name)) << name;
   for (const char* name : {"", "id", "index", "runoff", "repressor", "running", "simX", "time"})
     EXPECT_FALSE(isRunName(name)) << name;

@@ -93,6 +93,22 @@ TEST(SniffedText, LeavesRowNumbersOut)
   expectDescribed(described("X,time\n5,0\n7,1\n"), "stacked", 1, 2, {"X"});
 }
 
+TEST(SniffedText, LeavesNamesOfRowsOut)
+{
+  const DescribedTable cars = described("\"rownames\",\"mpg\",\"cyl\"\n\"Mazda\",21,6\n"
+                                        "\"Datsun\",22.8,4\n");
+  expectDescribed(cars, "table", 0, 2, {"mpg", "cyl"});
+  EXPECT_EQ(cars.report.ignored, Names{"rownames"});
+}
+
+TEST(SniffedText, ReadsDecimalCommasInQuotesBetweenCommasWhereItIsToldTo)
+{
+  ImportRequest request;
+  request.decimalMark = ',';
+  expectValues(described("time,A\n0,\"1,5\"\n1,\"2,5\"\n", request).table, "Molecule: A",
+               {1.5, 2.5});
+}
+
 TEST(SniffedText, CountsWhatLiesBeyondMeasuringAsMissingAndSaysSo)
 {
   const DescribedTable table =

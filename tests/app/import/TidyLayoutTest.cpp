@@ -82,6 +82,8 @@ TEST(TidyLayout, AsksWhereATextColumnMayBeItemOrCondition)
 {
   const DescribedTable table = described("drug,time,value\nx,0,1\nx,1,2\ny,0,3\ny,1,4\n");
   EXPECT_EQ(table.options(), (Names{"--layout stacked", "--layout tidy"}));
+  EXPECT_EQ(described("time,cond,rep,A\n0,x,1,1\n1,x,1,2\n0,y,1,5\n1,y,1,6\n").options(),
+            (Names{"--layout tidy", "--layout stacked"}));
   EXPECT_NE(table.error.find("--layout tidy"), std::string::npos);
   EXPECT_NE(table.error.find("--layout stacked"), std::string::npos);
 }

@@ -134,6 +134,16 @@ TEST(TextColumns, NameRunsTogetherWhereOneDoesNotTellThemApart)
   expectValues(table.table, "Molecule: X", {1, 2, 3, 4, 5, 6});
 }
 
+TEST(TextColumns, TellReplicatesApartThatAreCountedAnewUnderEachCondition)
+{
+  const std::string text = "time,cond,rep,A,B\n0,x,1,1,7\n1,x,1,2,7\n0,x,2,3,7\n"
+                           "1,x,2,4,7\n0,y,1,5,7\n1,y,1,6,8\n";
+  const DescribedTable table = described(text);
+  expectDescribed(table, "stacked", 3, 2, {"A", "B"}, {}, {"cond"});
+  expectValues(table.table, "Molecule: A", {1, 2, 3, 4, 5, 6});
+  expectValues(table.table, "Parameter: cond", {0, 0, 0, 0, 1, 1});
+}
+
 TEST(TextColumns, AreNotFoundByWrongNames)
 {
   ImportRequest request;

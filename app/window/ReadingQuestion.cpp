@@ -1,0 +1,77 @@
+#include "app/window/ReadingQuestion.h"
+
+#include "app/import/LayoutChoice.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <utility>
+#include <vector>
+
+namespace Talmesh::app
+{
+
+namespace
+{
+
+/// The names of layouts for people.
+QString titleOf(const ImportCandidate& candidate)
+{
+  if (candidate.option == "--decimal ,")
+    return QCoreApplication::translate("ReadingQuestion", "Decimal commas");
+  if (candidate.layout == "stacked")
+    return QCoreApplication::translate("ReadingQuestion", "Runs one below the other");
+  if (candidate.layout == "tidy")
+    return QCoreApplication::translate("ReadingQuestion", "A value per row");
+  if (candidate.layout == "wide")
+    return QCoreApplication::translate("ReadingQuestion", "A column per run");
+  if (candidate.layout == "rows")
+    return QCoreApplication::translate("ReadingQuestion", "A row per run");
+  if (candidate.layout == "table")
+    return QCoreApplication::translate("ReadingQuestion", "A table without runs");
+  return QString::fromStdString(candidate.option);
+}
+
+} // namespace
+
+QMessageBox* askForReading(QWidget* window, const QString& name, const ImportReport& report,
+                           const ImportRequest& request,
+                           std::function<void(const ImportRequest&)> chosen)
+{
+  auto* box = new QMessageBox(
+      QMessageBox::Question, QStringLiteral("Talmesh Plot"),
+      QCoreApplication::translate("ReadingQuestion", "How is the table %1 to be read?").arg(name),
+      QMessageBox::Cancel, window);
+  box->setObjectName(QStringLiteral("reading"));
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  // Names of files and columns are no markup.
+  box->setTextFormat(Qt::PlainText);
+  QString reasons;
+  std::vector<std::pair<QAbstractButton*, ImportRequest>> answers;
+  for (const ImportCandidate& candidate : report.candidates)
+  {
+    ImportRequest asked = request;
+    // What cannot be read by it needs no button.
+    if (!takeCandidate(candidate, asked))
+      continue;
+    const QString title = titleOf(candidate);
+    answers.emplace_back(box->addButton(title, QMessageBox::AcceptRole), asked);
+    reasons += QCoreApplication::translate("ReadingQuestion", "%1: %2")
+                   .arg(title, QString::fromStdString(candidate.reason)) +
+               QLatin1Char('\n');
+  }
+  box->setInformativeText(reasons.trimmed());
+  QObject::connect(box, &QMessageBox::finished, window,
+                   [box, answers, chosen = std::move(chosen)]
+                   {
+                     for (const auto& [button, asked] : answers)
+                       if (box->clickedButton() == button)
+                         chosen(asked);
+                   });
+  box->open();
+  return box;
+}
+
+} // namespace Talmesh::app
