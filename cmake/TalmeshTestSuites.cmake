@@ -1,5 +1,5 @@
 # The tests of what reads files, which `./test --readers` runs under the sanitizers, by their sources.
-set(TALMESH_READER_TESTS "/tests/(app/(import|session)/|plot/([A-Za-z]*Dump[A-Za-z]*|DelimitedFiles)Test\\.cpp)")
+set(TALMESH_READER_TESTS "/tests/(app/(formats|import|session)/|plot/([A-Za-z]*Dump[A-Za-z]*|DelimitedFiles)Test\\.cpp)")
 
 # talmesh_register_suites(TARGET): makes every suite of a GoogleTest executable one CTest test.
 # A process per test case would spend most of its time on loading VTK; a process per suite still keeps

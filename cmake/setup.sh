@@ -7,6 +7,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(
   g++ cmake ninja-build
   libvtk9-dev libvtk9-qt-dev qtbase5-dev libeigen3-dev libboost-dev
+  zlib1g-dev libzip-dev libhdf5-dev
   qttools5-dev qttools5-dev-tools qttranslations5-l10n
   libgtest-dev poppler-utils qpdf
   xvfb xauth libgl1-mesa-dri fonts-liberation fonts-dejavu-core locales

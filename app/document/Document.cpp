@@ -4,6 +4,7 @@
 #include "app/document/FeatureColumns.h"
 #include "app/document/ShownChart.h"
 #include "app/document/ShownStudy.h"
+#include "app/import/SystemMemory.h"
 #include "app/memory/PaintingMemory.h"
 #include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"

@@ -2,6 +2,7 @@
 
 #include "app/export/ScaledPicture.h"
 #include "app/import/TranslatedText.h"
+#include "app/import/SystemMemory.h"
 #include "app/memory/PaintingMemory.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"

@@ -11,9 +11,6 @@
 #include <vtkTable.h>
 
 #include <algorithm>
-#include <fstream>
-#include <limits>
-#include <sys/mman.h>
 
 namespace Talmesh::app
 {
@@ -87,24 +84,6 @@ QSize sceneOf(const PlotContainer& container)
   return scene ? QSize(scene->GetSceneWidth(), scene->GetSceneHeight()) : QSize();
 }
 
-/// What programs may still take before the system must take it from others, in bytes; without
-/// bound where the system does not tell.
-std::size_t availableMemory()
-{
-  constexpr std::size_t unit = 1024;
-  std::ifstream file("/proc/meminfo");
-  std::size_t bytes = 0;
-  bool told = false;
-  std::string name;
-  for (std::size_t number = 0; file >> name >> number; file.ignore(unit, '\n'))
-  {
-    if (name == "MemAvailable:" || name == "SwapFree:")
-      bytes += number * unit;
-    told = told || name == "MemAvailable:";
-  }
-  return told ? bytes : std::numeric_limits<std::size_t>::max();
-}
-
 } // namespace
 
 std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels)
@@ -119,19 +98,6 @@ std::size_t memoryToDraw(const PlotContainer& container)
 {
   const auto rows = static_cast<std::size_t>(container.getTable()->GetNumberOfRows());
   return memoryToPaint(container, sceneOf(container)) + rows * splitBytesPerRow(container);
-}
-
-bool hasMemory(std::size_t bytes)
-{
-  if (bytes == 0)
-    return true;
-  if (bytes > availableMemory())
-    return false;
-  void* probe = ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-  if (probe == MAP_FAILED)
-    return false;
-  ::munmap(probe, bytes);
-  return true;
 }
 
 std::string missingMemory()

@@ -19,11 +19,7 @@ std::size_t memoryToPaint(const PlotContainer& container, const QSize& pixels);
 /// those of the tables that are made for a chart.
 std::size_t memoryToDraw(const PlotContainer& container);
 
-/// Whether the system would give that many bytes now: within the bounds of this process, and
-/// without taking them from other programs.
-bool hasMemory(std::size_t bytes);
-
-/// What to say when it would not.
+/// What to say when the system has less (see hasMemory()).
 std::string missingMemory();
 
 } // namespace Talmesh::app

@@ -11,19 +11,20 @@ const Reach& reachableRooms()
 {
   static const Reach rooms{
       {"import", {"import"}},
+      {"formats", {"formats", "import"}},
       {"styles", {"styles"}},
       {"panels", {"panels"}},
       {"memory", {"memory", "styles", "import"}},
       {"comparison", {"comparison", "styles", "panels", "import"}},
       {"runs", {"runs", "import"}},
-      {"session", {"session", "styles", "import"}},
+      {"session", {"session", "formats", "styles", "import"}},
       {"tasks", {"tasks", "import"}},
       {"document", {"document", "session", "runs", "comparison", "memory", "styles", "import"}},
       {"export", {"export", "tasks", "memory", "import"}},
       {"examples", {"examples", "export", "document", "session", "comparison", "styles", "import"}},
       {"window",
-       {"window", "examples", "export", "document", "tasks", "session", "runs", "comparison",
-        "styles", "panels", "import"}},
+       {"window", "examples", "export", "document", "tasks", "session", "formats", "runs",
+        "comparison", "styles", "panels", "import"}},
   };
   return rooms;
 }

@@ -1,3 +1,4 @@
+#include "app/import/SystemMemory.h"
 #include "app/memory/PaintingMemory.h"
 
 #include "app/document/PlotChoice.h"
