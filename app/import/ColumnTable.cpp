@@ -1,9 +1,12 @@
 #include "app/import/ColumnTable.h"
 
+#include "app/import/ColumnWords.h"
+#include "app/import/RoleChoice.h"
+
+#include <QString>
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <numeric>
 #include <utility>
 
 namespace Talmesh::app
@@ -12,47 +15,73 @@ namespace Talmesh::app
 namespace
 {
 
-ColumnValues valuesOf(NamedColumn& column)
+std::string textOf(double number)
 {
-  ColumnValues values;
-  const std::size_t rows = column.rows();
-  values.values = std::move(column.values);
-  values.numbers = static_cast<std::size_t>(std::count_if(
-      values.values.begin(), values.values.end(), [](double value) { return !std::isnan(value); }));
-  values.values.resize(rows, std::numeric_limits<double>::quiet_NaN());
-  if (column.isText())
+  return std::isnan(number) ? std::string() : QString::number(number, 'g', 17).toStdString();
+}
+
+/// The texts of a column, also those of numbers that are names.
+ColumnValues namesOf(const NamedColumn& column)
+{
+  std::vector<std::string> texts;
+  texts.reserve(column.rows());
+  for (const int word : column.wordOfRow)
+    texts.push_back(column.words[static_cast<std::size_t>(word)]);
+  for (const double value : column.values)
+    texts.push_back(textOf(value));
+  return columnOfTexts(texts);
+}
+
+NamedColumn columnOf(ColumnValues& values, std::string name)
+{
+  NamedColumn column{std::move(name), {}, {}, {}};
+  if (values.isNumeric() && !values.keepsTexts)
   {
-    values.texts = rows;
-    values.firstText = {1, column.words.front()};
+    column.values = std::move(values.values);
+    return column;
   }
-  return values;
+  ColumnWords words;
+  for (std::size_t row = 0; row < values.values.size(); ++row)
+  {
+    const std::vector<int>& levels = values.levels.rows();
+    const int level = row < levels.size() ? levels[row] : TextLevels::none;
+    words.add(level == TextLevels::none ? textOf(values.values[row])
+                                        : values.levels.names()[static_cast<std::size_t>(level)]);
+  }
+  return words.take(std::move(column));
 }
 
 } // namespace
 
-TableText tableOf(std::vector<NamedColumn> columns)
+TableText tableOf(std::vector<NamedColumn> columns, const ImportRequest& request)
 {
-  TableText table;
   std::vector<std::string> headers;
   for (const NamedColumn& column : columns)
     headers.push_back(column.name);
-  table.roles = assignRoles(headers);
-  table.rows = columns.front().rows();
-  table.lines.resize(table.rows);
-  std::iota(table.lines.begin(), table.lines.end(), std::size_t{1});
+  const std::vector<int> named = columnsOfNames(assignRoles(headers), request);
+  std::vector<ColumnValues> values;
   for (NamedColumn& column : columns)
   {
-    const auto index = static_cast<int>(table.columns.size());
-    if (index == table.roles.runColumn && column.isText())
-    {
-      table.runOfRow = std::move(column.wordOfRow);
-      table.runNames = std::move(column.words);
-      table.columns.emplace_back();
-    }
-    else
-      table.columns.push_back(valuesOf(column));
+    const auto index = static_cast<int>(values.size());
+    const bool isName = std::find(named.begin(), named.end(), index) != named.end();
+    values.push_back(column.isText() || isName ? namesOf(column)
+                                               : columnOfNumbers(std::move(column.values)));
+    column = NamedColumn();
   }
-  return table;
+  return tableOfColumns(headers, std::move(values));
+}
+
+std::vector<NamedColumn> columnsOf(TableText table)
+{
+  std::vector<NamedColumn> columns;
+  for (std::size_t i = 0; i < table.columns.size(); ++i)
+  {
+    const ColumnHeader& header = table.roles.headers[i];
+    const std::string name =
+        header.typed ? Talmesh::selectionPairToString({header.kind, header.name}) : header.name;
+    columns.push_back(columnOf(table.columns[i], name));
+  }
+  return columns;
 }
 
 } // namespace Talmesh::app

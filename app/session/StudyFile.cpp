@@ -49,7 +49,7 @@ Result<ImportedTable> importContent(FileContent& content, ImportTask task, Impor
   const ImportProgress progress = task.progress;
   task.progress = laterPart(progress);
   if (!content.isText())
-    return importTable(tableOf(std::move(content.columns)), task, report);
+    return importTable(tableOf(std::move(content.columns), task.request), task, report);
   PassedPages pages(content.text);
   task.passed = [&pages](std::size_t passed) { pages.pass(passed); };
   return importTable(content.text, task, report);
