@@ -11,6 +11,7 @@
 #include "app/import/TranslatedText.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -26,7 +27,8 @@ FileStart startOf(const QString& path)
 {
   FileStart start;
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly))
+  // A pipe would wait for who writes into it.
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
     return start;
   start.bytes = file.read(startBytes).toStdString();
   const std::string mark = start.bytes.substr(0, 4);

@@ -1,11 +1,11 @@
 #include "app/formats/Hdf5Object.h"
 
+#include "app/import/NameParts.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
 #include <cstring>
-#include <string_view>
 
 namespace Talmesh::app
 {
@@ -37,51 +37,6 @@ herr_t list(hid_t group, const char* name, const H5L_info_t* link, void* data)
   else if (object.type == H5O_TYPE_DATASET)
     listing.members.dataSets.emplace_back(name);
   return 0;
-}
-
-bool isDigit(char c)
-{
-  return c >= '0' && c <= '9';
-}
-
-/// The digits at `at` without zeros in front.
-std::string_view numberAt(std::string_view text, std::size_t& at)
-{
-  while (at < text.size() && text[at] == '0')
-    ++at;
-  const std::size_t begin = at;
-  while (at < text.size() && isDigit(text[at]))
-    ++at;
-  return text.substr(begin, at - begin);
-}
-
-/// "run2" before "run10".
-bool comesBefore(const std::string& a, const std::string& b)
-{
-  std::size_t i = 0;
-  std::size_t j = 0;
-  while (i < a.size() && j < b.size())
-  {
-    if (isDigit(a[i]) && isDigit(b[j]))
-    {
-      const std::string_view first = numberAt(a, i);
-      const std::string_view second = numberAt(b, j);
-      if (first.size() != second.size())
-        return first.size() < second.size();
-      if (first != second)
-        return first < second;
-    }
-    else if (a[i] != b[j])
-      return a[i] < b[j];
-    else
-    {
-      ++i;
-      ++j;
-    }
-  }
-  const bool aEnds = i == a.size();
-  const bool bEnds = j == b.size();
-  return aEnds != bEnds ? aEnds : a < b;
 }
 
 herr_t readInto(hid_t stored, bool isAttribute, hid_t type, void* buffer)
@@ -119,8 +74,8 @@ Hdf5Members hdf5MembersOf(hid_t group, std::size_t most)
 {
   Listing listing{{}, most};
   H5Literate(group, H5_INDEX_NAME, H5_ITER_NATIVE, nullptr, list, &listing);
-  std::sort(listing.members.groups.begin(), listing.members.groups.end(), comesBefore);
-  std::sort(listing.members.dataSets.begin(), listing.members.dataSets.end(), comesBefore);
+  std::sort(listing.members.groups.begin(), listing.members.groups.end(), comesBeforeInNumbers);
+  std::sort(listing.members.dataSets.begin(), listing.members.dataSets.end(), comesBeforeInNumbers);
   return listing.members;
 }
 

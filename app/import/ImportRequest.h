@@ -36,6 +36,14 @@ struct ImportRequest
   /// A point or a comma.
   std::optional<char> decimalMark;
   std::optional<UnequalRuns> unequal;
+  /// Of a file with several tables: the sheet, array, group or member; empty for the first one.
+  std::string sheet;
+  /// What each of several files is: "runs" or "items"; empty to find out.
+  std::string files;
+  /// The path of the table of parameters that belongs to several files; empty without one.
+  std::string parameterTable;
+  /// How that is joined: "name", or "order" of its rows; empty for the former.
+  std::string join;
 };
 
 } // namespace Talmesh::app

@@ -1,12 +1,13 @@
 #include "app/session/StudyFile.h"
 
-#include "app/formats/FileFormats.h"
 #include "app/formats/PlainText.h"
 #include "app/import/ColumnTable.h"
 #include "app/import/RunTableImport.h"
 #include "app/import/TranslatedText.h"
+#include "app/session/RunFiles.h"
 #include "app/session/Session.h"
 #include "app/session/SessionFile.h"
+#include "app/session/TableFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -55,37 +56,33 @@ Result<ImportedTable> importContent(FileContent& content, ImportTask task, Impor
   return importTable(content.text, task, report);
 }
 
-Result<FileContent> readContent(const QString& path, const ImportProgress& progress)
+/// A table of one file.
+Result<ImportedTable> importFile(const QString& path, const ImportTask& task, ImportReport& report)
 {
-  const ImportProgress reading = [&progress](double done)
-  { return !progress || progress(readingPart * done); };
-  if (const FileFormat* format = formatOf(path))
-    return readFormat(*format, path, {}, reading);
-  Result<std::string> text = readPlainText(path, reading);
-  if (!text.hasValue())
-    return Result<FileContent>::without(text);
-  FileContent content;
-  content.text = std::move(text.value());
-  return content;
+  const ImportProgress& progress = task.progress;
+  Result<FileContent> content =
+      readTableFile(path, task.request,
+                    [&progress](double done) { return !progress || progress(readingPart * done); });
+  if (!content.hasValue())
+    return Result<ImportedTable>::without(content);
+  const std::vector<std::string>& notes = content.value().notes;
+  report.warnings.insert(report.warnings.end(), notes.begin(), notes.end());
+  return importContent(content.value(), task, report);
 }
 
-Result<OpenedStudy> openTable(const QString& path, const ImportTask& task, ImportReport& report)
+Result<OpenedStudy> openTable(const QStringList& paths, const ImportTask& task,
+                              ImportReport& report)
 {
-  Result<FileContent> content = readContent(path, task.progress);
-  if (!content.hasValue())
-    return Result<OpenedStudy>::without(content);
-  const std::vector<std::string> notes = content.value().notes;
-  report.warnings.insert(report.warnings.end(), notes.begin(), notes.end());
-  const Result<ImportedTable> imported = importContent(content.value(), task, report);
+  const bool several = paths.size() > 1 || !task.request.parameterTable.empty();
+  const Result<ImportedTable> imported =
+      several ? importFiles(paths, task, report) : importFile(paths.front(), task, report);
   if (!imported.hasValue())
     return Result<OpenedStudy>::without(imported);
   OpenedStudy opened;
   opened.study.runs = imported.value().runs;
   opened.study.table = imported.value().table;
   opened.study.categories = imported.value().categories;
-  opened.notes = notes;
-  opened.notes.insert(opened.notes.end(), imported.value().notes.begin(),
-                      imported.value().notes.end());
+  opened.notes = imported.value().notes;
   return opened;
 }
 
@@ -100,20 +97,28 @@ Result<OpenedStudy> openFromSession(const QString& path, const ImportProgress& p
   return opened;
 }
 
-Result<OpenedStudy> open(const QString& path, const ImportTask& task, ImportReport& report)
+Result<OpenedStudy> open(const QStringList& paths, const ImportTask& task, ImportReport& report)
 {
-  if (isSessionFile(path))
-    return openFromSession(path, task.progress);
-  return openTable(path, task, report);
+  if (paths.size() == 1 && isSessionFile(paths.front()))
+    return openFromSession(paths.front(), task.progress);
+  return openTable(paths, task, report);
+}
+
+/// What several files are called together.
+std::string nameOf(const QStringList& files)
+{
+  return withValues(translated("StudyFile", "%1 files of %2"),
+                    {std::to_string(files.size()),
+                     QFileInfo(QFileInfo(files.front()).absolutePath()).fileName().toStdString()});
 }
 
 /// What is thrown becomes an error.
-Result<OpenedStudy> openOrSayWhyNot(const QString& path, const ImportTask& task,
+Result<OpenedStudy> openOrSayWhyNot(const QStringList& paths, const ImportTask& task,
                                     ImportReport& report)
 {
   try
   {
-    return open(path, task, report);
+    return open(paths, task, report);
   }
   catch (const std::bad_alloc&)
   {
@@ -129,17 +134,29 @@ Result<OpenedStudy> openOrSayWhyNot(const QString& path, const ImportTask& task,
 
 } // namespace
 
+Result<OpenedStudy> openStudyFiles(const QStringList& paths, const ImportProgress& progress,
+                                   const ImportRequest& request, ImportReport* report)
+{
+  ImportReport untold;
+  const QString& first = paths.front();
+  const QStringList files = namedFiles(paths);
+  Result<OpenedStudy> opened =
+      openOrSayWhyNot(files, {request, progress, {}, besideOf(first)}, report ? *report : untold);
+  const bool several = files.size() > 1;
+  if (!opened.error().empty())
+    return Result<OpenedStudy>::failed(
+        (several && paths.size() > 1 ? QFileInfo(first).path() : first).toStdString() + ": " +
+        opened.error());
+  if (opened.hasValue() && !opened.value().session)
+    opened.value().study.name =
+        several ? nameOf(files) : QFileInfo(files.front()).fileName().toStdString();
+  return opened;
+}
+
 Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress,
                                   const ImportRequest& request, ImportReport* report)
 {
-  ImportReport untold;
-  Result<OpenedStudy> opened =
-      openOrSayWhyNot(path, {request, progress, {}, besideOf(path)}, report ? *report : untold);
-  if (!opened.error().empty())
-    return Result<OpenedStudy>::failed(path.toStdString() + ": " + opened.error());
-  if (opened.hasValue() && !opened.value().session)
-    opened.value().study.name = QFileInfo(path).fileName().toStdString();
-  return opened;
+  return openStudyFiles({path}, progress, request, report);
 }
 
 } // namespace Talmesh::app

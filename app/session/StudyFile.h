@@ -8,6 +8,7 @@
 #include "app/import/Study.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -32,13 +33,21 @@ struct OpenedStudy
 /// Opens a study; may run in another thread and must look at the progress it is given.
 using StudyJob = std::function<Result<OpenedStudy>(const ImportProgress&)>;
 
-/// Reads a table or a session from a regular file. Errors begin with the file's name. May run in
+/// Reads a table or a session from a regular file, or the tables of a folder as openStudyFiles()
+/// does. Errors begin with the file's name. May run in
 /// any thread.
 /// @param request what the user has said of the table
 /// @param report gets what was understood of it, also when it cannot be opened
 Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress = {},
                                   const ImportRequest& request = {},
                                   ImportReport* report = nullptr);
+
+/// The same of files that belong together: a run or an item each (see joinFiles()). A folder stands
+/// for the tables in it, a name with * for the files that fit it, also if it is the only one.
+/// @param paths at least one
+Result<OpenedStudy> openStudyFiles(const QStringList& paths, const ImportProgress& progress = {},
+                                   const ImportRequest& request = {},
+                                   ImportReport* report = nullptr);
 
 } // namespace Talmesh::app
 

@@ -1,6 +1,7 @@
 #include "app/window/FileMenu.h"
 
 #include "app/document/Document.h"
+#include "app/formats/FileFormats.h"
 #include "app/window/FileDialogs.h"
 #include "app/window/RecentMenu.h"
 
@@ -30,9 +31,11 @@ FileMenu::FileMenu(Document& document, RecentMenu& recent, QWidget* window)
 void FileMenu::addOpening(RecentMenu& recent)
 {
   add(tr("&Open..."), QKeySequence::Open, this,
-      [this] {
+      [this]
+      {
         ask(tr("Open runs"),
-            tr("Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)"));
+            tr("Tables and sessions (%1 *.talmesh)").arg(readableEndings().join(QLatin1Char(' '))) +
+                QStringLiteral(";;") + tr("All files (*)"));
       });
   addMenu(&recent);
   connect(&recent, &RecentMenu::fileChosen, this, &FileMenu::fileChosen);
