@@ -1,4 +1,4 @@
-#include "WrittenFiles.h"
+#include "formats/WrittenFiles.h"
 
 #include <QFile>
 
@@ -22,14 +22,12 @@ QString WrittenFiles::write(const std::string& name, const std::string& bytes) c
   return file.fileName();
 }
 
-QString
-WrittenFiles::writeZip(const std::string& name,
-                       const std::vector<std::pair<std::string, std::string>>& members) const
+void writeZipTo(const QString& path,
+                const std::vector<std::pair<std::string, std::string>>& members)
 {
   int error = 0;
-  zip_t* archive =
-      zip_open(path(name).toLocal8Bit().constData(), ZIP_CREATE | ZIP_TRUNCATE, &error);
-  EXPECT_NE(archive, nullptr);
+  zip_t* archive = zip_open(path.toLocal8Bit().constData(), ZIP_CREATE | ZIP_TRUNCATE, &error);
+  ASSERT_NE(archive, nullptr);
   for (const auto& [member, content] : members)
   {
     zip_source_t* source = zip_source_buffer(archive, content.data(), content.size(), 0);
@@ -38,7 +36,14 @@ WrittenFiles::writeZip(const std::string& name,
     if (member == "mimetype")
       zip_set_file_compression(archive, static_cast<zip_uint64_t>(place), ZIP_CM_STORE, 0);
   }
-  EXPECT_EQ(zip_close(archive), 0);
+  ASSERT_EQ(zip_close(archive), 0);
+}
+
+QString
+WrittenFiles::writeZip(const std::string& name,
+                       const std::vector<std::pair<std::string, std::string>>& members) const
+{
+  writeZipTo(path(name), members);
   return path(name);
 }
 

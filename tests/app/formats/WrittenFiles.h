@@ -31,6 +31,10 @@ protected:
   QTemporaryDir folder;
 };
 
+/// Writes a ZIP file of these members.
+void writeZipTo(const QString& path,
+                const std::vector<std::pair<std::string, std::string>>& members);
+
 /// What gzip makes of a text.
 std::string gzipped(const std::string& text);
 
