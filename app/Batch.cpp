@@ -122,7 +122,7 @@ std::string writeNamed(const CommandLineOptions& options, const OpenedStudy& ope
 Result<OpenedStudy> openNamed(const CommandLineOptions& options)
 {
   if (!options.file.empty())
-    return openStudyFile(QFile::decodeName(options.file.c_str()), {}, options.import);
+    return openStudyFiles(studyPaths(options.file, options.moreFiles), {}, options.import);
   OpenedStudy example;
   example.study = exampleStudyOfRepressilator();
   return example;
@@ -174,7 +174,7 @@ void describeSession(const Study& study, ImportReport& report)
 Result<std::string> describeFile(const CommandLineOptions& options, ImportReport& report)
 {
   const Result<OpenedStudy> opened =
-      openStudyFile(QFile::decodeName(options.file.c_str()), {}, options.import, &report);
+      openStudyFiles(studyPaths(options.file, options.moreFiles), {}, options.import, &report);
   if (!opened.hasValue())
     return Result<std::string>::without(opened);
   if (opened.value().session)

@@ -226,9 +226,9 @@ std::string readFile(const QStringList& files, CommandLineOptions& options)
 {
   if (files.contains(QString()))
     return "the name of the file is empty";
-  if (files.size() > 1)
-    return "more than one file to open: " + bytesOf(files[0]) + " and " + bytesOf(files[1]);
   options.file = files.isEmpty() ? std::string() : bytesOf(files.front());
+  for (const QString& file : files.mid(1))
+    options.moreFiles.push_back(bytesOf(file));
   return {};
 }
 

@@ -26,12 +26,14 @@ std::string helpEntry(const std::string& name, const std::string& meaning)
 std::string commandLineHelp()
 {
   std::string help =
-      "Usage: talmesh-plot [FILE] [OPTION]...\n"
+      "Usage: talmesh-plot [FILE]... [OPTION]...\n"
       "Shows simulated runs. Without FILE the example study opens, the repressilator gene "
       "circuit.\n"
       "\n"
       "FILE is a table of runs, mostly a line of names, then one row per time point, runs one\n"
-      "after another; or a session that the window has saved (.talmesh).\n"
+      "after another; or a session that the window has saved (.talmesh). Several files, a folder "
+      "or a name\n"
+      "with * are one table: a run or an item each.\n"
       "\n"
       "  --style NAME            the kind of plot (below)\n"
       "  --x NAME                the column for the x axis; over a parameter, or a number of runs\n"

@@ -78,11 +78,27 @@ std::string readUnequal(const std::string& value, ImportRequest& request)
   return {};
 }
 
+std::string readFiles(const std::string& value, ImportRequest& request)
+{
+  if (value != "runs" && value != "items")
+    return "--files takes runs or items, not " + value;
+  request.files = value;
+  return {};
+}
+
+std::string readJoin(const std::string& value, ImportRequest& request)
+{
+  if (value != "name" && value != "order")
+    return "--join takes name or order, not " + value;
+  request.join = value;
+  return {};
+}
+
 } // namespace
 
-const std::array<ImportOption, 11>& importOptions()
+const std::array<ImportOption, 15>& importOptions()
 {
-  static const std::array<ImportOption, 11> options = {
+  static const std::array<ImportOption, 15> options = {
       {{"layout", readLayout},
        {"time", readName<&ImportRequest::time>},
        {"run", readNames<&ImportRequest::run>},
@@ -93,7 +109,11 @@ const std::array<ImportOption, 11>& importOptions()
        {"ignore", readNames<&ImportRequest::ignored>},
        {"separator", readSeparator},
        {"decimal", readDecimal},
-       {"unequal", readUnequal}}};
+       {"unequal", readUnequal},
+       {"sheet", readName<&ImportRequest::sheet>},
+       {"files", readFiles},
+       {"parameter-table", readName<&ImportRequest::parameterTable>},
+       {"join", readJoin}}};
   return options;
 }
 
@@ -115,6 +135,14 @@ std::string importHelp()
          "  --unequal union|interpolate\n"
          "                          runs of different times have gaps at the times of others, or\n"
          "                          straight lines across them\n"
+         "  --sheet NAME            the sheet of a workbook, the array, or the group or data set "
+         "of\n"
+         "                          an HDF5 file, where there are several\n"
+         "  --files runs|items      what each of several files is\n"
+         "  --parameter-table FILE  the table of parameters that belongs to several files\n"
+         "  --join name|order       how that is joined: by the column that names runs or files, "
+         "or\n"
+         "                          by the order of its rows\n"
          "  --describe              print what was understood of the table as JSON, and open no\n"
          "                          window; the exit status is 0, 1 where the table is refused, "
          "or\n"

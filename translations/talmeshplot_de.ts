@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ArrayLayout</name>
+    <message>
+        <source>there is no array in it</source>
+        <translation>die Datei enthält kein Feld</translation>
+    </message>
+    <message>
+        <source>the array holds no values</source>
+        <translation>das Feld enthält keine Werte</translation>
+    </message>
+    <message>
+        <source>nothing tells which axis of %1 is the time: add an array of the times, called &quot;time&quot;, or name one array with --sheet</source>
+        <translation>nichts sagt, welche Achse von %1 die Zeit ist: ergänzen Sie ein Feld der Zeiten namens &quot;time&quot;, oder nennen Sie ein Feld mit --sheet</translation>
+    </message>
+    <message>
+        <source>it holds several tables (%1); name one with --sheet</source>
+        <translation>die Datei enthält mehrere Tabellen (%1); nennen Sie eine mit --sheet</translation>
+    </message>
+    <message>
+        <source>%1 has %2 axes; arrays of runs, times and items have three</source>
+        <translation>%1 hat %2 Achsen; Felder aus Läufen, Zeiten und Größen haben drei</translation>
+    </message>
+    <message>
+        <source>its arrays are no table: %1; columns need equal lengths, and arrays of runs, times and items as many times as &quot;time&quot; has</source>
+        <translation>ihre Felder sind keine Tabelle: %1; Spalten müssen gleich lang sein, und Felder aus Läufen, Zeiten und Größen so viele Zeiten haben wie &quot;time&quot;</translation>
+    </message>
+</context>
+<context>
     <name>CategoryColumns</name>
     <message>
         <source>The column %1 holds the same text in all rows, %2, and is left out.</source>
@@ -251,6 +278,56 @@
     </message>
 </context>
 <context>
+    <name>FileFormats</name>
+    <message>
+        <source>this is a file of %1, which is not read; %2</source>
+        <translation>dies ist eine Datei von %1, die nicht gelesen wird; %2</translation>
+    </message>
+</context>
+<context>
+    <name>FileJoin</name>
+    <message>
+        <source>each of the %1 files holds an item, whose columns are runs</source>
+        <translation>jede der %1 Dateien enthält eine Größe, deren Spalten Läufe sind</translation>
+    </message>
+    <message>
+        <source>each of the %1 files holds a run</source>
+        <translation>jede der %1 Dateien enthält einen Lauf</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have different columns (%3 is only in one of them); files that are opened together need the same</source>
+        <translation>%1 und %2 haben verschiedene Spalten (%3 steht nur in einer von beiden); Dateien, die zusammen geöffnet werden, brauchen dieselben</translation>
+    </message>
+    <message>
+        <source>each file is a run</source>
+        <translation>jede Datei ist ein Lauf</translation>
+    </message>
+    <message>
+        <source>each file is an item, and its columns are runs</source>
+        <translation>jede Datei ist eine Größe, und ihre Spalten sind Läufe</translation>
+    </message>
+    <message>
+        <source>files and columns are numbered, so that either may be runs: say --files runs or --files items</source>
+        <translation>Dateien und Spalten sind nummeriert, beides können Läufe sein: sagen Sie --files runs oder --files items</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have different times; files of one item each need the same. If each file is a run, say --files runs</source>
+        <translation>%1 und %2 haben verschiedene Zeiten; Dateien mit je einer Größe brauchen dieselben. Ist jede Datei ein Lauf, sagen Sie --files runs</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have different numbers of rows; files of one item each need the same. If each file is a run, say --files runs</source>
+        <translation>%1 und %2 haben verschieden viele Zeilen; Dateien mit je einer Größe brauchen gleich viele. Ist jede Datei ein Lauf, sagen Sie --files runs</translation>
+    </message>
+    <message>
+        <source>each file is an item; rows of the same number are one time</source>
+        <translation>jede Datei ist eine Größe; Zeilen mit derselben Nummer sind eine Zeit</translation>
+    </message>
+    <message>
+        <source>the files have no times, so that only the order of their rows could join them: say --files items to do so, or --files runs where each is a run</source>
+        <translation>die Dateien haben keine Zeiten, so dass sie nur die Reihenfolge ihrer Zeilen verbinden könnte: sagen Sie dafür --files items, oder --files runs, wenn jede ein Lauf ist</translation>
+    </message>
+</context>
+<context>
     <name>FileWriter</name>
     <message>
         <source>not all of it could be written</source>
@@ -263,6 +340,33 @@
     <message>
         <source>the reader of this pipe takes no more</source>
         <translation>der Leser dieser Pipe nimmt nichts mehr an</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFormats</name>
+    <message>
+        <source>save it as .xlsx, .ods or CSV</source>
+        <translation>speichern Sie sie als .xlsx, .ods oder CSV</translation>
+    </message>
+    <message>
+        <source>save the table as CSV, HDF5 or .npz</source>
+        <translation>speichern Sie die Tabelle als CSV, HDF5 oder .npz</translation>
+    </message>
+    <message>
+        <source>save the table with write.csv()</source>
+        <translation>speichern Sie die Tabelle mit write.csv()</translation>
+    </message>
+    <message>
+        <source>save it with the option -v7.3, or the table as CSV</source>
+        <translation>speichern Sie sie mit der Option -v7.3, oder die Tabelle als CSV</translation>
+    </message>
+    <message>
+        <source>convert it to netCDF-4, or save the table as CSV</source>
+        <translation>wandeln Sie sie in netCDF-4 um, oder speichern Sie die Tabelle als CSV</translation>
+    </message>
+    <message>
+        <source>unpack it, or compress it with gzip</source>
+        <translation>entpacken Sie sie, oder komprimieren Sie sie mit gzip</translation>
     </message>
 </context>
 <context>
@@ -285,6 +389,87 @@
     <message>
         <source>Group %1: %2 runs</source>
         <translation>Gruppe %1: %2 Läufe</translation>
+    </message>
+</context>
+<context>
+    <name>GzipText</name>
+    <message>
+        <source>the compressed file is damaged; copy it again</source>
+        <translation>die komprimierte Datei ist beschädigt; kopieren Sie sie noch einmal</translation>
+    </message>
+    <message>
+        <source>%1 is compressed in it; unpack it with gunzip, and open that</source>
+        <translation>sie enthält komprimiert %1; entpacken Sie sie mit gunzip, und öffnen Sie das</translation>
+    </message>
+    <message>
+        <source>the compressed file is cut short; copy it again</source>
+        <translation>die komprimierte Datei ist abgeschnitten; kopieren Sie sie noch einmal</translation>
+    </message>
+</context>
+<context>
+    <name>Hdf5File</name>
+    <message>
+        <source>it holds no %1; at its top are %2</source>
+        <translation>die Datei enthält kein %1; ganz oben sind %2</translation>
+    </message>
+    <message>
+        <source>its groups hold each other; name a data set with --sheet</source>
+        <translation>ihre Gruppen enthalten einander; nennen Sie einen Datensatz mit --sheet</translation>
+    </message>
+    <message>
+        <source>it holds no data set</source>
+        <translation>die Datei enthält keinen Datensatz</translation>
+    </message>
+    <message>
+        <source>it holds several groups (%1); name one with --sheet</source>
+        <translation>die Datei enthält mehrere Gruppen (%1); nennen Sie eine mit --sheet</translation>
+    </message>
+</context>
+<context>
+    <name>Hdf5Frames</name>
+    <message>
+        <source>The names of columns are Python objects, which are not read; to_hdf() with data_columns=True writes them as text.</source>
+        <translation>Die Namen der Spalten sind Python-Objekte, die nicht gelesen werden; to_hdf() mit data_columns=True schreibt sie als Text.</translation>
+    </message>
+    <message>
+        <source>The column %1 holds Python objects and is left out.</source>
+        <translation>Die Spalte %1 enthält Python-Objekte und ist weggelassen.</translation>
+    </message>
+    <message>
+        <source>the table does not fit into memory</source>
+        <translation>die Tabelle passt nicht in den Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>Hdf5Object</name>
+    <message>
+        <source>the HDF5 file is damaged, or packed in a way that is not installed here; copy it again, or repack it with h5repack</source>
+        <translation>die HDF5-Datei ist beschädigt, oder auf eine Weise gepackt, die hier nicht installiert ist; kopieren Sie sie noch einmal, oder packen Sie sie mit h5repack um</translation>
+    </message>
+</context>
+<context>
+    <name>Hdf5Records</name>
+    <message>
+        <source>it holds more than %1 columns</source>
+        <translation>sie enthält mehr als %1 Spalten</translation>
+    </message>
+</context>
+<context>
+    <name>Hdf5Runs</name>
+    <message>
+        <source>The group %1 is left out: %2.</source>
+        <translation>Die Gruppe %1 ist weggelassen: %2.</translation>
+    </message>
+    <message>
+        <source>the table does not fit into memory</source>
+        <translation>die Tabelle passt nicht in den Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>Hdf5Source</name>
+    <message>
+        <source>its values lie in other files, which are not read; copy them into one file</source>
+        <translation>ihre Werte liegen in anderen Dateien, die nicht gelesen werden; kopieren Sie sie in eine Datei</translation>
     </message>
 </context>
 <context>
@@ -431,10 +616,74 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>NpyHeader</name>
+    <message>
+        <source>the header of the NumPy array is damaged; save it again</source>
+        <translation>der Kopf des NumPy-Felds ist beschädigt; speichern Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>values of the NumPy type %1 are not read; save them with .astype(float)</source>
+        <translation>Werte des NumPy-Typs %1 werden nicht gelesen; speichern Sie sie mit .astype(float)</translation>
+    </message>
+    <message>
+        <source>the array holds Python objects, which may run programs and are not read; save it as numbers or text</source>
+        <translation>das Feld enthält Python-Objekte, die Programme ausführen können und nicht gelesen werden; speichern Sie es als Zahlen oder Text</translation>
+    </message>
+    <message>
+        <source>the field %1 has fields of its own, which are not read; save each as an array</source>
+        <translation>das Feld %1 hat selbst Felder, die nicht gelesen werden; speichern Sie jedes für sich</translation>
+    </message>
+</context>
+<context>
+    <name>NumpyFiles</name>
+    <message>
+        <source>the array is cut short; save or copy it again</source>
+        <translation>das Feld ist abgeschnitten; speichern oder kopieren Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>the array holds bytes without a meaning; save it as numbers</source>
+        <translation>das Feld enthält Bytes ohne Bedeutung; speichern Sie es als Zahlen</translation>
+    </message>
+    <message>
+        <source>The array %1 is left out: %2.</source>
+        <translation>Das Feld %1 ist weggelassen: %2.</translation>
+    </message>
+</context>
+<context>
     <name>PaintingMemory</name>
     <message>
         <source>there is not enough memory for this picture</source>
         <translation>für dieses Bild ist nicht genug Speicher da</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterJoin</name>
+    <message>
+        <source>the table of parameters %1 has no row for %2</source>
+        <translation>die Tabelle der Parameter %1 hat keine Zeile für %2</translation>
+    </message>
+    <message>
+        <source>the rows of the table stand in the order of the files</source>
+        <translation>die Zeilen der Tabelle stehen in der Reihenfolge der Dateien</translation>
+    </message>
+    <message>
+        <source>a column names the files, and is still to be added</source>
+        <translation>eine Spalte benennt die Dateien und ist noch zu ergänzen</translation>
+    </message>
+    <message>
+        <source>no column of the table of parameters %1 names the files or runs (such as %2): add one for --join name, or say --join order to join by the order of rows</source>
+        <translation>keine Spalte der Tabelle der Parameter %1 benennt die Dateien oder Läufe (etwa %2): ergänzen Sie eine für --join name, oder sagen Sie --join order für die Reihenfolge der Zeilen</translation>
+    </message>
+    <message>
+        <source>the column %1 of %2 names the runs</source>
+        <translation>die Spalte %1 von %2 benennt die Läufe</translation>
+    </message>
+</context>
+<context>
+    <name>PartNames</name>
+    <message>
+        <source>it holds no %1; it holds %2</source>
+        <translation>sie enthält kein %1; sie enthält %2</translation>
     </message>
 </context>
 <context>
@@ -511,6 +760,21 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>there is neither a time nor a run</source>
         <translation>es gibt weder eine Zeit noch einen Lauf</translation>
+    </message>
+</context>
+<context>
+    <name>PlainText</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>this is not a file</source>
+        <translation>dies ist keine Datei</translation>
     </message>
 </context>
 <context>
@@ -621,6 +885,45 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>RunArrays</name>
+    <message>
+        <source>Nothing tells the times; the points are counted.</source>
+        <translation>Nichts nennt die Zeiten; die Punkte sind gezählt.</translation>
+    </message>
+    <message>
+        <source>%1 has times for %2 runs and points, the data for %3</source>
+        <translation>%1 hat Zeiten für %2 Läufe und Punkte, die Daten für %3</translation>
+    </message>
+    <message>
+        <source>Parameter %1</source>
+        <translation>Parameter %1</translation>
+    </message>
+    <message>
+        <source>the table does not fit into memory</source>
+        <translation>die Tabelle passt nicht in den Speicher</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>%1 has %2 columns; at most %3 can be read</source>
+        <translation>%1 hat %2 Spalten; höchstens %3 können gelesen werden</translation>
+    </message>
+    <message>
+        <source>Nothing names the axes of %1; they are taken for runs, times and items.</source>
+        <translation>Nichts benennt die Achsen von %1; sie gelten als Läufe, Zeiten und Größen.</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 columns</source>
+        <translation>sie enthält mehr als %1 Spalten</translation>
+    </message>
+    <message>
+        <source>What does not fit the table is left out: %1; --sheet chooses another one.</source>
+        <translation>Was nicht zur Tabelle passt, ist weggelassen: %1; --sheet wählt anderes.</translation>
+    </message>
+</context>
+<context>
     <name>RunColumnMenu</name>
     <message>
         <source>Parameters</source>
@@ -653,6 +956,25 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Period</source>
         <translation>Periode</translation>
+    </message>
+</context>
+<context>
+    <name>RunFiles</name>
+    <message>
+        <source>a session is opened alone</source>
+        <translation>eine Sitzung wird allein geöffnet</translation>
+    </message>
+    <message>
+        <source>it holds no columns</source>
+        <translation>sie enthält keine Spalten</translation>
+    </message>
+    <message>
+        <source>%1 files are too many; at most %2 can be read together</source>
+        <translation>%1 Dateien sind zu viele; höchstens %2 können zusammen gelesen werden</translation>
+    </message>
+    <message>
+        <source>there are no files of runs</source>
+        <translation>es gibt keine Dateien mit Läufen</translation>
     </message>
 </context>
 <context>
@@ -1095,6 +1417,25 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>SheetText</name>
+    <message>
+        <source>The sheet %1 is shown; --sheet chooses another one: %2.</source>
+        <translation>Das Blatt %1 ist gezeigt; --sheet wählt ein anderes: %2.</translation>
+    </message>
+    <message>
+        <source>none of its sheets (%1) is a table: a table has a row of names and rows of numbers below</source>
+        <translation>keins ihrer Blätter (%1) ist eine Tabelle: eine Tabelle hat eine Zeile mit Namen und darunter Zeilen mit Zahlen</translation>
+    </message>
+    <message>
+        <source>the sheet is mostly blank cells; copy the table into a sheet of its own</source>
+        <translation>das Blatt besteht fast nur aus leeren Zellen; kopieren Sie die Tabelle in ein eigenes Blatt</translation>
+    </message>
+    <message>
+        <source>the workbook is damaged; save it again, or as CSV</source>
+        <translation>die Arbeitsmappe ist beschädigt; speichern Sie sie noch einmal, oder als CSV</translation>
+    </message>
+</context>
+<context>
     <name>StackedLayout</name>
     <message>
         <source>a row per run and time</source>
@@ -1340,24 +1681,16 @@ p, li { white-space: pre-wrap; }
 <context>
     <name>StudyFile</name>
     <message>
-        <source>there is no such file</source>
-        <translation>es gibt keine solche Datei</translation>
-    </message>
-    <message>
-        <source>this is not a file</source>
-        <translation>das ist keine Datei</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>kann nicht gelesen werden: %1</translation>
-    </message>
-    <message>
         <source>the table does not fit into memory</source>
         <translation>die Tabelle passt nicht in den Speicher</translation>
     </message>
     <message>
         <source>cannot be opened: %1</source>
         <translation>lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>%1 files of %2</source>
+        <translation>%1 Dateien aus %2</translation>
     </message>
 </context>
 <context>
@@ -1836,10 +2169,6 @@ p, li { white-space: pre-wrap; }
         <translation>Läufe öffnen</translation>
     </message>
     <message>
-        <source>Tables and sessions (*.csv *.tsv *.txt *.talmesh);;All files (*)</source>
-        <translation>Tabellen und Sitzungen (*.csv *.tsv *.txt *.talmesh);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Open the e&amp;xample study</source>
         <translation>&amp;Beispielstudie öffnen</translation>
     </message>
@@ -1874,6 +2203,14 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Ctrl+Alt+S</source>
         <translation>Ctrl+Alt+S</translation>
+    </message>
+    <message>
+        <source>Tables and sessions (%1 *.talmesh)</source>
+        <translation>Tabellen und Sitzungen (%1 *.talmesh)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -2543,6 +2880,13 @@ Grafiken simulierter Läufe.</translation>
         <source>Cancelled</source>
         <translation>Abgebrochen</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::TaskBar</name>
@@ -2803,6 +3147,17 @@ Grafiken simulierter Läufe.</translation>
     </message>
 </context>
 <context>
+    <name>UnpackLimit</name>
+    <message>
+        <source>it unpacks to more than %1 times its size, as damaged files do; unpack it before opening it</source>
+        <translation>sie entpackt sich auf mehr als das %1fache, wie beschädigte Dateien es tun; entpacken Sie sie vor dem Öffnen</translation>
+    </message>
+    <message>
+        <source>the table does not fit into memory</source>
+        <translation>die Tabelle passt nicht in den Speicher</translation>
+    </message>
+</context>
+<context>
     <name>ViewerStyles</name>
     <message>
         <source>XY plot</source>
@@ -2858,6 +3213,44 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>there are not several columns of numbers that could be runs</source>
         <translation>es gibt nicht mehrere Spalten von Zahlen, die Läufe sein könnten</translation>
+    </message>
+</context>
+<context>
+    <name>ZipArchive</name>
+    <message>
+        <source>%1 in it is damaged or cut short; copy it again</source>
+        <translation>%1 darin ist beschädigt oder abgeschnitten; kopieren Sie die Datei noch einmal</translation>
+    </message>
+    <message>
+        <source>the table does not fit into memory</source>
+        <translation>die Tabelle passt nicht in den Speicher</translation>
+    </message>
+    <message>
+        <source>the ZIP file is damaged or cut short; copy it again</source>
+        <translation>die ZIP-Datei ist beschädigt oder abgeschnitten; kopieren Sie sie noch einmal</translation>
+    </message>
+    <message>
+        <source>the ZIP file holds %1 files; at most %2 are read</source>
+        <translation>die ZIP-Datei enthält %1 Dateien; höchstens %2 werden gelesen</translation>
+    </message>
+    <message>
+        <source>it is protected by a password; save it without, or as a table of text</source>
+        <translation>sie ist durch ein Passwort geschützt; speichern Sie sie ohne, oder als Texttabelle</translation>
+    </message>
+    <message>
+        <source>%1 in it is too large to be read</source>
+        <translation>%1 darin ist zu groß zum Lesen</translation>
+    </message>
+</context>
+<context>
+    <name>ZippedText</name>
+    <message>
+        <source>the ZIP file is empty</source>
+        <translation>die ZIP-Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it holds several files (%1); name one with --sheet, or unpack it</source>
+        <translation>sie enthält mehrere Dateien (%1); nennen Sie eine mit --sheet, oder entpacken Sie sie</translation>
     </message>
 </context>
 </TS>

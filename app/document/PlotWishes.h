@@ -37,6 +37,8 @@ struct OpeningWishes : PlotWishes
   /// The table to open, named by the bytes that the system knows it by; empty for the example
   /// study.
   std::string file;
+  /// Further files that belong to it, as openStudyFiles() puts them together.
+  std::vector<std::string> moreFiles;
   /// How it is to be read.
   ImportRequest import;
   /// Width and height of the picture in pixels; 0 for the default.

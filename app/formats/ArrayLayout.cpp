@@ -1,8 +1,8 @@
 #include "app/formats/ArrayLayout.h"
 
-#include "app/formats/ArrayColumns.h"
 #include "app/formats/ArrayMeaning.h"
 #include "app/formats/PartNames.h"
+#include "app/formats/RunArrays.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
 
@@ -167,7 +167,7 @@ private:
 
   Content runsOf(const std::vector<std::size_t>& mains)
   {
-    ArrayColumns columns(source, companions, progress);
+    RunArrays columns(source, companions, progress);
     const std::size_t first = mains.front();
     ArrayMeaning meaning = meaningOf(arrays[first], arrays, companions);
     const bool plane = arrays[first].shape.size() == 2;
@@ -193,7 +193,7 @@ private:
     return meaning;
   }
 
-  Content finished(ArrayColumns& columns, const std::string& error)
+  Content finished(RunArrays& columns, const std::string& error)
   {
     if (columns.isCancelled())
       return Content::cancelled();
@@ -234,7 +234,7 @@ private:
 
 Content ArrayArranger::columnsOfLength(std::size_t length)
 {
-  ArrayColumns columns(source, companions, progress);
+  RunArrays columns(source, companions, progress);
   std::string error;
   bool any = false;
   for (std::size_t i = 0; i < arrays.size() && error.empty() && !columns.isCancelled(); ++i)

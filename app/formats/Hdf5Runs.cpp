@@ -10,6 +10,8 @@
 #include "app/import/TableText.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
+#include "external/ColumnNames.h"
+#include "external/TypedConcentrationName.h"
 
 #include <algorithm>
 #include <set>
@@ -71,7 +73,7 @@ public:
     if (collector.numberOfRuns() == 0)
       return Content::failed(notes.front());
     FileContent content;
-    content.columns = collector.take(": Run Index");
+    content.columns = collector.take(selectionPairToString({TimeOrValue, runIndexName}));
     content.notes = std::move(notes);
     return content;
   }
@@ -123,7 +125,10 @@ private:
   static void addConstant(const std::string& name, double value, std::size_t points,
                           std::vector<NamedColumn>& columns)
   {
-    columns.push_back({"Parameter: " + toUtf8(name), std::vector<double>(points, value), {}, {}});
+    columns.push_back({selectionPairToString({Parameter, toUtf8(name)}),
+                       std::vector<double>(points, value),
+                       {},
+                       {}});
   }
 
   static void addText(const std::string& name, const std::vector<std::string>& texts,

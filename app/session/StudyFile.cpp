@@ -10,6 +10,7 @@
 #include "app/session/TableFile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <exception>
@@ -151,6 +152,14 @@ Result<OpenedStudy> openStudyFiles(const QStringList& paths, const ImportProgres
     opened.value().study.name =
         several ? nameOf(files) : QFileInfo(files.front()).fileName().toStdString();
   return opened;
+}
+
+QStringList studyPaths(const std::string& file, const std::vector<std::string>& moreFiles)
+{
+  QStringList paths{QFile::decodeName(file.c_str())};
+  for (const std::string& further : moreFiles)
+    paths.append(QFile::decodeName(further.c_str()));
+  return paths;
 }
 
 Result<OpenedStudy> openStudyFile(const QString& path, const ImportProgress& progress,

@@ -49,6 +49,9 @@ Result<OpenedStudy> openStudyFiles(const QStringList& paths, const ImportProgres
                                    const ImportRequest& request = {},
                                    ImportReport* report = nullptr);
 
+/// The files that the command line names, as the system knows them.
+QStringList studyPaths(const std::string& file, const std::vector<std::string>& moreFiles);
+
 } // namespace Talmesh::app
 
 #endif

@@ -36,6 +36,16 @@ QFileDialog* askToOpen(QWidget* parent, const QString& title, const QString& fil
   return dialog;
 }
 
+QFileDialog* askToOpenSeveral(QWidget* parent, const QString& title, const QString& filter,
+                              std::function<void(const QStringList&)> chosen)
+{
+  QFileDialog* dialog = makeDialog(parent, title, filter, [](const QString&) {});
+  QObject::connect(dialog, &QFileDialog::filesSelected, parent, std::move(chosen));
+  dialog->setFileMode(QFileDialog::ExistingFiles);
+  dialog->open();
+  return dialog;
+}
+
 QFileDialog* askToSave(QWidget* parent, const QString& title, const QString& filter,
                        const QString& suffix, FileChosen chosen)
 {

@@ -2,6 +2,7 @@
 #define FileDialogs_h
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <string>
@@ -22,6 +23,10 @@ using FileChosen = std::function<void(const QString&)>;
 /// @return the open dialog, which deletes itself when it is closed
 QFileDialog* askToOpen(QWidget* parent, const QString& title, const QString& filter,
                        FileChosen chosen);
+
+/// The same for one file or several.
+QFileDialog* askToOpenSeveral(QWidget* parent, const QString& title, const QString& filter,
+                              std::function<void(const QStringList&)> chosen);
 
 /// The same for a file to write, with a name suggested.
 /// @param suffix appended to names without one, given without its dot

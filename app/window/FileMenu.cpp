@@ -33,9 +33,11 @@ void FileMenu::addOpening(RecentMenu& recent)
   add(tr("&Open..."), QKeySequence::Open, this,
       [this]
       {
-        ask(tr("Open runs"),
+        askToOpenSeveral(
+            parentWidget(), tr("Open runs"),
             tr("Tables and sessions (%1 *.talmesh)").arg(readableEndings().join(QLatin1Char(' '))) +
-                QStringLiteral(";;") + tr("All files (*)"));
+                QStringLiteral(";;") + tr("All files (*)"),
+            [this](const QStringList& paths) { emit filesChosen(paths); });
       });
   addMenu(&recent);
   connect(&recent, &RecentMenu::fileChosen, this, &FileMenu::fileChosen);

@@ -23,6 +23,8 @@ public:
 
 signals:
   void fileChosen(const QString& path);
+  /// One file, or several that belong together.
+  void filesChosen(const QStringList& paths);
   void exampleWanted();
   void saveWanted();
   void saveAsWanted();

@@ -35,10 +35,13 @@ constexpr int firstLines = 54;
 /// as wide as the window, so that p is in sight.
 constexpr int comparisonLines = 14;
 
-QString droppedFile(const QMimeData* data)
+/// All that is dropped; nothing where a part of it is no file of this system.
+QStringList droppedFiles(const QMimeData* data)
 {
-  const QList<QUrl> urls = data->urls();
-  return urls.size() == 1 ? localFileOf(urls.front()) : QString();
+  QStringList files;
+  for (const QUrl& url : data->urls())
+    files.append(localFileOf(url));
+  return files.contains(QString()) ? QStringList() : files;
 }
 
 } // namespace
@@ -128,6 +131,11 @@ void MainWindow::openFile(const QString& path)
   opener->openFile(path);
 }
 
+void MainWindow::openFiles(const QStringList& paths)
+{
+  opener->openFiles(paths);
+}
+
 void MainWindow::openExample()
 {
   opener->openExample();
@@ -185,17 +193,17 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-  if (!droppedFile(event->mimeData()).isEmpty())
+  if (!droppedFiles(event->mimeData()).isEmpty())
     event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-  const QString path = droppedFile(event->mimeData());
-  if (path.isEmpty())
+  const QStringList paths = droppedFiles(event->mimeData());
+  if (paths.isEmpty())
     return;
   event->acceptProposedAction();
-  openInstead(path);
+  openInstead(paths);
 }
 
 } // namespace Talmesh::app

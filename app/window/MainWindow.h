@@ -42,6 +42,8 @@ public:
   void open(const OpeningWishes& asked);
   /// Starts to open a file; the window stays alive meanwhile.
   void openFile(const QString& path);
+  /// Opens files that belong together.
+  void openFiles(const QStringList& paths);
   /// Starts to simulate the example study.
   void openExample();
   bool isLoading() const;
@@ -90,7 +92,7 @@ private:
   void makeMenus();
   void makeFileMenu();
   void makeSelectionMenu();
-  void openInstead(const QString& path);
+  void openInstead(const QStringList& paths);
   void openExampleInstead();
   void chooseStyle(plotStyles style);
   void showStudy();

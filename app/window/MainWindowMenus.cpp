@@ -47,7 +47,8 @@ void MainWindow::makeMenus()
 void MainWindow::makeFileMenu()
 {
   auto* file = new FileMenu(shown, *recent, this);
-  connect(file, &FileMenu::fileChosen, this, &MainWindow::openInstead);
+  connect(file, &FileMenu::fileChosen, this, [this](const QString& path) { openInstead({path}); });
+  connect(file, &FileMenu::filesChosen, this, &MainWindow::openInstead);
   connect(file, &FileMenu::exampleWanted, this, &MainWindow::openExampleInstead);
   connect(file, &FileMenu::saveWanted, sessions, [this] { sessions->save(); });
   connect(file, &FileMenu::saveAsWanted, sessions, [this] { sessions->saveAs(); });
@@ -81,9 +82,9 @@ void MainWindow::chooseStyle(plotStyles style)
   shown.choose(choice);
 }
 
-void MainWindow::openInstead(const QString& path)
+void MainWindow::openInstead(const QStringList& paths)
 {
-  sessions->leave([this, path] { openFile(path); });
+  sessions->leave([this, paths] { openFiles(paths); });
 }
 
 void MainWindow::openExampleInstead()

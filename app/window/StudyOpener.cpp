@@ -5,7 +5,6 @@
 #include "app/tasks/TaskRunner.h"
 #include "app/window/TaskBar.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -24,11 +23,16 @@ Result<OpenedStudy> openExampleStudy(const ImportProgress& progress)
   return example.study.runs ? Result<OpenedStudy>(example) : Result<OpenedStudy>::cancelled();
 }
 
-OpeningTask taskFor(const QString& path)
+/// Several files have no path that could be opened again.
+OpeningTask taskFor(const QStringList& paths)
 {
   OpeningTask task;
-  task.name = QFileInfo(path).fileName();
-  task.path = path;
+  task.paths = paths;
+  task.name = QFileInfo(paths.front()).fileName();
+  if (paths.size() > 1)
+    task.name = StudyOpener::tr("%1 files").arg(paths.size());
+  else
+    task.path = paths.front();
   return task;
 }
 
@@ -51,12 +55,11 @@ StudyOpener::~StudyOpener()
 
 void StudyOpener::open(const OpeningWishes& asked)
 {
-  const QString path = QFile::decodeName(asked.file.c_str());
-  OpeningTask task = taskFor(path);
+  OpeningTask task = taskFor(studyPaths(asked.file, asked.moreFiles));
   task.wishes = asked;
   task.request = asked.import;
   task.namedByCommandLine = true;
-  if (!path.isEmpty())
+  if (!asked.file.empty())
   {
     loadFile(task);
     return;
@@ -67,7 +70,12 @@ void StudyOpener::open(const OpeningWishes& asked)
 
 void StudyOpener::openFile(const QString& path)
 {
-  loadFile(taskFor(path));
+  openFiles({path});
+}
+
+void StudyOpener::openFiles(const QStringList& paths)
+{
+  loadFile(taskFor(paths));
 }
 
 void StudyOpener::openAgain(const OpeningTask& unsure, const ImportRequest& request)
@@ -91,7 +99,7 @@ void StudyOpener::openComputed(const QString& name, const StudyJob& job)
 
 void StudyOpener::bringBack(const LeftWork& work)
 {
-  OpeningTask task = taskFor(work.path);
+  OpeningTask task = taskFor({work.path});
   task.path.clear();
   task.left = work;
   load(task, [path = work.path](const ImportProgress& progress)
@@ -107,7 +115,7 @@ void StudyOpener::loadFile(OpeningTask task)
 {
   task.report = std::make_shared<ImportReport>();
   load(task, [task](const ImportProgress& progress)
-       { return openStudyFile(task.path, progress, task.request, task.report.get()); });
+       { return openStudyFiles(task.paths, progress, task.request, task.report.get()); });
 }
 
 void StudyOpener::load(OpeningTask task, const StudyJob& job)

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -22,8 +23,11 @@ struct OpeningTask
 {
   /// As messages call it.
   QString name;
-  /// The file; empty for what is computed, and for work that an earlier window has left.
+  /// The file; empty for what is computed, for several, and for work that an earlier window has
+  /// left.
   QString path;
+  /// All files; empty for what is computed.
+  QStringList paths;
   /// The work that an earlier window has left, if that is what is opened.
   LeftWork left;
   /// What the command line wishes of the study that it names.
@@ -49,6 +53,8 @@ public:
   /// Opens the file or example that the command line names.
   void open(const OpeningWishes& asked);
   void openFile(const QString& path);
+  /// Opens files that belong together; a single one as openFile() does.
+  void openFiles(const QStringList& paths);
   /// Opens a file again whose reading was unsure.
   void openAgain(const OpeningTask& unsure, const ImportRequest& request);
   void openExample();

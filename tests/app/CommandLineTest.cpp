@@ -121,9 +121,19 @@ TEST(CommandLine, RefusesAnOptionWithoutItsValue)
   }
 }
 
-TEST(CommandLine, RefusesASecondFile)
+TEST(CommandLine, TakesSeveralFiles)
 {
-  EXPECT_EQ(errorOf({"a.csv", "b.csv"}), "more than one file to open: a.csv and b.csv");
+  const Result<CommandLineOptions> read = parseCommandLine({"a.csv", "--files", "runs", "b.csv"});
+  ASSERT_TRUE(read.hasValue()) << read.error();
+  EXPECT_EQ(read.value().file, "a.csv");
+  EXPECT_EQ(read.value().moreFiles, std::vector<std::string>{"b.csv"});
+  EXPECT_EQ(read.value().import.files, "runs");
+  EXPECT_EQ(errorOf({"a.csv", "--files", "rows"}), "--files takes runs or items, not rows");
+  EXPECT_EQ(errorOf({"a.csv", "--join", "luck"}), "--join takes name or order, not luck");
+}
+
+TEST(CommandLine, RefusesAnEmptyName)
+{
   EXPECT_EQ(errorOf({""}), "the name of the file is empty");
 }
 

@@ -151,7 +151,6 @@ TEST_F(Program, KeepsNumbersReadableWhateverTheLocale)
 TEST_F(Program, RefusesBadOptions)
 {
   expectError({"--frobnicate"}, "unknown option --frobnicate");
-  expectError({"a.csv", "b.csv"}, "more than one file to open: a.csv and b.csv");
   expectError({"--size", "0x0"},
               "--size takes WIDTHxHEIGHT in pixels, each from 16 to 16384, not 0x0");
   expectError({"--export", "plot.svg"},

@@ -1,4 +1,4 @@
-#include "app/formats/ArrayColumns.h"
+#include "app/formats/RunArrays.h"
 
 #include "app/formats/ArrayScatter.h"
 #include "app/formats/PartNames.h"
@@ -23,8 +23,8 @@ std::string lastPart(const std::string& name)
 
 } // namespace
 
-ArrayColumns::ArrayColumns(ArraySource& source_, const ArrayCompanions& companions_,
-                           const ImportProgress& progress_)
+RunArrays::RunArrays(ArraySource& source_, const ArrayCompanions& companions_,
+                     const ImportProgress& progress_)
     : source(source_)
     , arrays(source_.arrays())
     , companions(companions_)
@@ -33,7 +33,7 @@ ArrayColumns::ArrayColumns(ArraySource& source_, const ArrayCompanions& companio
 {
 }
 
-NumberSink ArrayColumns::counting(const NumberSink& sink)
+NumberSink RunArrays::counting(const NumberSink& sink)
 {
   return [this, sink](const double* values, std::size_t count)
   {
@@ -44,8 +44,8 @@ NumberSink ArrayColumns::counting(const NumberSink& sink)
   };
 }
 
-std::string ArrayColumns::itemNames(std::size_t array, std::size_t items,
-                                    std::vector<std::string>& names)
+std::string RunArrays::itemNames(std::size_t array, std::size_t items,
+                                 std::vector<std::string>& names)
 {
   names = arrays[array].labels;
   if (names.empty() && companions.items != noArray && arrays[companions.items].shape[0] == items)
@@ -56,26 +56,25 @@ std::string ArrayColumns::itemNames(std::size_t array, std::size_t items,
       return error;
   }
   for (std::size_t i = names.size(); i < items; ++i)
-    names.push_back(withValues(translated("ArrayColumns", "Column %1"), {std::to_string(i + 1)}));
+    names.push_back(withValues(translated("RunArrays", "Column %1"), {std::to_string(i + 1)}));
   names.resize(items);
   return {};
 }
 
-std::string ArrayColumns::readItems(std::size_t array, const ArrayMeaning& meaning,
-                                    const char* kind)
+std::string RunArrays::readItems(std::size_t array, const ArrayMeaning& meaning, DataType kind)
 {
   const StoredArray& stored = arrays[array];
   const std::size_t items = extentOf(stored, meaning, ArrayAxis::Item);
   if (items + columns.size() > mostColumns)
     return withValues(
-        translated("ArrayColumns", "%1 has %2 columns; at most %3 can be read"),
+        translated("RunArrays", "%1 has %2 columns; at most %3 can be read"),
         {quotedForMessage(stored.name), std::to_string(items), std::to_string(mostColumns)});
   const std::string refused = source.objectionTo(array);
   if (!refused.empty())
     return refused;
   const std::size_t rows = numberOfValues(stored.shape) / items;
   if (!hasMemory(rows * items * sizeof(double)))
-    return translated("ArrayColumns", "the table does not fit into memory");
+    return translated("RunArrays", "the table does not fit into memory");
   std::vector<std::string> names{lastPart(stored.name)};
   const bool hasItems =
       std::find(meaning.axes.begin(), meaning.axes.end(), ArrayAxis::Item) != meaning.axes.end();
@@ -85,7 +84,10 @@ std::string ArrayColumns::readItems(std::size_t array, const ArrayMeaning& meani
   const std::size_t first = columns.size();
   std::vector<double*> places;
   for (const std::string& name : names)
-    columns.push_back({kind + name, std::vector<double>(rows), {}, {}});
+    columns.push_back({kind == UndefinedType ? name : selectionPairToString({kind, name}),
+                       std::vector<double>(rows),
+                       {},
+                       {}});
   for (std::size_t i = first; i < columns.size(); ++i)
     places.push_back(columns[i].values.data());
   ArrayScatter scatter(stored, meaning, places);
@@ -98,7 +100,7 @@ std::string ArrayColumns::readItems(std::size_t array, const ArrayMeaning& meani
                                        }));
 }
 
-std::string ArrayColumns::make(std::size_t main, const ArrayMeaning& meaning)
+std::string RunArrays::make(std::size_t main, const ArrayMeaning& meaning)
 {
   runs = extentOf(arrays[main], meaning, ArrayAxis::Run);
   times = extentOf(arrays[main], meaning, ArrayAxis::Time);
@@ -108,34 +110,34 @@ std::string ArrayColumns::make(std::size_t main, const ArrayMeaning& meaning)
       valuesInAll += numberOfValues(array.shape);
   if (!meaning.told && meaning.axes.size() == 3)
     said.push_back(withValues(
-        translated("ArrayColumns",
+        translated("RunArrays",
                    "Nothing names the axes of %1; they are taken for runs, times and items."),
         {quotedForMessage(arrays[main].name)}));
-  return readItems(main, meaning, "Molecule: ");
+  return readItems(main, meaning, Molecule);
 }
 
-bool ArrayColumns::add(std::size_t array, const ArrayMeaning& meaning, std::string& error)
+bool RunArrays::add(std::size_t array, const ArrayMeaning& meaning, std::string& error)
 {
   const bool fits = extentOf(arrays[array], meaning, ArrayAxis::Run) == runs &&
                     extentOf(arrays[array], meaning, ArrayAxis::Time) == times;
   if (fits)
-    error = readItems(array, meaning, "Molecule: ");
+    error = readItems(array, meaning, Molecule);
   return fits;
 }
 
-std::string ArrayColumns::makeTable(std::size_t array, const ArrayMeaning& meaning)
+std::string RunArrays::makeTable(std::size_t array, const ArrayMeaning& meaning)
 {
   valuesInAll = numberOfValues(arrays[array].shape);
-  const std::string error = readItems(array, meaning, "");
+  const std::string error = readItems(array, meaning, UndefinedType);
   if (error.empty())
     noteLeftOut();
   return error;
 }
 
-std::string ArrayColumns::addColumn(std::size_t array)
+std::string RunArrays::addColumn(std::size_t array)
 {
   if (columns.size() >= mostColumns)
-    return withValues(translated("ArrayColumns", "it holds more than %1 columns"),
+    return withValues(translated("RunArrays", "it holds more than %1 columns"),
                       {std::to_string(mostColumns)});
   NamedColumn column{lastPart(arrays[array].name), {}, {}, {}};
   std::string error;
@@ -155,7 +157,7 @@ std::string ArrayColumns::addColumn(std::size_t array)
   return error;
 }
 
-std::string ArrayColumns::readLine(std::size_t array, std::vector<double>& values)
+std::string RunArrays::readLine(std::size_t array, std::vector<double>& values)
 {
   used[array] = true;
   return source.readNumbers(array, counting(
@@ -166,7 +168,7 @@ std::string ArrayColumns::readLine(std::size_t array, std::vector<double>& value
                                        }));
 }
 
-void ArrayColumns::noteLeftOut()
+void RunArrays::noteLeftOut()
 {
   std::vector<std::string> names;
   for (std::size_t i = 0; i < arrays.size(); ++i)
@@ -174,7 +176,7 @@ void ArrayColumns::noteLeftOut()
       names.push_back(arrays[i].name);
   if (!names.empty())
     said.push_back(withValues(
-        translated("ArrayColumns",
+        translated("RunArrays",
                    "What does not fit the table is left out: %1; --sheet chooses another one."),
         {listOfParts(names)}));
 }

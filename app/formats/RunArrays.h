@@ -1,8 +1,9 @@
-#ifndef ArrayColumns_h
-#define ArrayColumns_h
+#ifndef RunArrays_h
+#define RunArrays_h
 
 #include "app/formats/ArrayMeaning.h"
 #include "app/import/NamedColumn.h"
+#include "external/TypedConcentrationName.h"
 
 #include <cstddef>
 #include <string>
@@ -13,11 +14,10 @@ namespace Talmesh::app
 {
 
 /// Makes the columns of a table of runs from arrays of runs, times and items.
-class ArrayColumns
+class RunArrays
 {
 public:
-  ArrayColumns(ArraySource& source, const ArrayCompanions& companions,
-               const ImportProgress& progress);
+  RunArrays(ArraySource& source, const ArrayCompanions& companions, const ImportProgress& progress);
 
   /// @param main an array with its meaning; it decides how many runs and times there are
   /// @return why it cannot, in one line; empty on success and when it was cancelled
@@ -39,7 +39,7 @@ public:
   const std::vector<std::string>& notes() const { return said; }
 
 private:
-  std::string readItems(std::size_t array, const ArrayMeaning& meaning, const char* kind);
+  std::string readItems(std::size_t array, const ArrayMeaning& meaning, DataType kind);
   std::string readLine(std::size_t array, std::vector<double>& values);
   std::string addRuns();
   std::string addTimes();

@@ -1,11 +1,12 @@
-#include "app/formats/ArrayColumns.h"
 #include "app/formats/ArrayScatter.h"
+#include "app/formats/RunArrays.h"
 #include "app/import/ColumnRoles.h"
 #include "app/import/ColumnWords.h"
 #include "app/import/SystemMemory.h"
 #include "app/import/TableText.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
+#include "external/ColumnNames.h"
 
 #include <numeric>
 
@@ -23,7 +24,7 @@ std::string lastPart(const std::string& name)
 
 } // namespace
 
-void ArrayColumns::addRepeated(const std::string& name, const std::vector<double>& ofRun)
+void RunArrays::addRepeated(const std::string& name, const std::vector<double>& ofRun)
 {
   NamedColumn column{name, {}, {}, {}};
   column.values.reserve(runs * times);
@@ -32,27 +33,29 @@ void ArrayColumns::addRepeated(const std::string& name, const std::vector<double
   columns.push_back(std::move(column));
 }
 
-std::string ArrayColumns::addTimes()
+std::string RunArrays::addTimes()
 {
   const std::size_t time = companions.time;
   if (time == noArray)
   {
-    said.push_back(translated("ArrayColumns", "Nothing tells the times; the points are counted."));
-    NamedColumn column{": Time", std::vector<double>(runs * times), {}, {}};
+    said.push_back(translated("RunArrays", "Nothing tells the times; the points are counted."));
+    NamedColumn column{
+        selectionPairToString({TimeOrValue, "Time"}), std::vector<double>(runs * times), {}, {}};
     for (std::size_t row = 0; row < column.values.size(); ++row)
       column.values[row] = static_cast<double>(row % times);
     columns.push_back(std::move(column));
     return {};
   }
-  const std::string name = ": " + plottedTimeName(lastPart(arrays[time].name));
+  const std::string name =
+      selectionPairToString({TimeOrValue, plottedTimeName(lastPart(arrays[time].name))});
   const std::vector<std::size_t>& shape = arrays[time].shape;
   if (shape.size() == 2)
   {
     columns.push_back({name, std::vector<double>(runs * times), {}, {}});
     if (shape != std::vector<std::size_t>{runs, times})
       return withValues(
-          translated("ArrayColumns", "%1 has times for %2 runs and points, the data "
-                                     "for %3"),
+          translated("RunArrays", "%1 has times for %2 runs and points, the data "
+                                  "for %3"),
           {quotedForMessage(arrays[time].name), shapeText(shape), shapeText({runs, times})});
     ArrayScatter scatter(arrays[time], {{ArrayAxis::Run, ArrayAxis::Time}, true},
                          {columns.back().values.data()});
@@ -76,9 +79,9 @@ std::string ArrayColumns::addTimes()
   return {};
 }
 
-std::string ArrayColumns::addRuns()
+std::string RunArrays::addRuns()
 {
-  const std::string name = ": Run Index";
+  const std::string name = selectionPairToString({TimeOrValue, runIndexName});
   const std::size_t named = companions.runs;
   if (named != noArray && arrays[named].shape.front() == runs)
   {
@@ -102,7 +105,7 @@ std::string ArrayColumns::addRuns()
   return {};
 }
 
-std::string ArrayColumns::addPerRun(std::size_t array)
+std::string RunArrays::addPerRun(std::size_t array)
 {
   const std::string name = lastPart(arrays[array].name);
   if (arrays[array].kind == StoredArray::Kind::Numbers)
@@ -110,7 +113,7 @@ std::string ArrayColumns::addPerRun(std::size_t array)
     std::vector<double> values;
     std::string error = readLine(array, values);
     if (error.empty() && !cancelled)
-      addRepeated("Parameter: " + name, values);
+      addRepeated(selectionPairToString({Parameter, name}), values);
     return error;
   }
   std::vector<std::string> texts;
@@ -123,7 +126,7 @@ std::string ArrayColumns::addPerRun(std::size_t array)
   return error;
 }
 
-std::string ArrayColumns::addParametersOfMatrix()
+std::string RunArrays::addParametersOfMatrix()
 {
   const std::size_t matrix = companions.parameters;
   if (matrix == noArray || arrays[matrix].shape.front() != runs)
@@ -141,8 +144,7 @@ std::string ArrayColumns::addParametersOfMatrix()
       return error;
   }
   for (std::size_t i = names.size(); i < count; ++i)
-    names.push_back(
-        withValues(translated("ArrayColumns", "Parameter %1"), {std::to_string(i + 1)}));
+    names.push_back(withValues(translated("RunArrays", "Parameter %1"), {std::to_string(i + 1)}));
   std::vector<std::vector<double>> values(count, std::vector<double>(runs));
   std::vector<double*> places;
   for (std::vector<double>& column : values)
@@ -158,11 +160,11 @@ std::string ArrayColumns::addParametersOfMatrix()
                                        return true;
                                      }));
   for (std::size_t i = 0; i < count && error.empty() && !cancelled; ++i)
-    addRepeated("Parameter: " + names[i], values[i]);
+    addRepeated(selectionPairToString({Parameter, names[i]}), values[i]);
   return error;
 }
 
-std::string ArrayColumns::addParameters()
+std::string RunArrays::addParameters()
 {
   std::string error = addParametersOfMatrix();
   for (std::size_t i = 0; i < arrays.size() && error.empty() && !cancelled; ++i)
@@ -175,11 +177,11 @@ std::string ArrayColumns::addParameters()
   return error;
 }
 
-std::string ArrayColumns::complete()
+std::string RunArrays::complete()
 {
   if (columns.size() + arrays.size() > mostColumns ||
       !hasMemory((columns.size() + arrays.size()) * runs * times))
-    return translated("ArrayColumns", "the table does not fit into memory");
+    return translated("RunArrays", "the table does not fit into memory");
   std::string error = addTimes();
   if (error.empty() && !cancelled && runs > 1)
     error = addRuns();
