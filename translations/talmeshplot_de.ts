@@ -2880,12 +2880,9 @@ Grafiken simulierter Läufe.</translation>
         <source>Cancelled</source>
         <translation>Abgebrochen</translation>
     </message>
-    <message numerus="yes">
-        <source>%n file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
     </message>
 </context>
 <context>
