@@ -1767,6 +1767,10 @@ p, li { white-space: pre-wrap; }
         <source>Line %1, the last one, is cut short and is not read.</source>
         <translation>Zeile %1, die letzte, ist abgeschnitten und wird nicht gelesen.</translation>
     </message>
+    <message>
+        <source>not a table: its first line does not end; tables have a line for each row</source>
+        <translation>keine Tabelle: die erste Zeile endet nicht; Tabellen haben eine Zeile je Reihe</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::ClusterDock</name>

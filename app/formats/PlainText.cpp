@@ -1,5 +1,6 @@
 #include "app/formats/PlainText.h"
 
+#include "app/import/LongestLine.h"
 #include "app/import/TranslatedText.h"
 
 #include <QFile>
@@ -82,6 +83,8 @@ Result<std::string> readPlainText(const QString& path, const ImportProgress& pro
     if (got == 0 || bytes.find('\0', static_cast<std::size_t>(filled)) != std::string::npos)
       break;
     filled += got;
+    if (hasEndlessLine(bytes))
+      break;
     bytes.reserve(static_cast<std::size_t>(size));
     if (progress && !progress(static_cast<double>(filled) / static_cast<double>(size)))
       return Bytes::cancelled();

@@ -13,8 +13,9 @@
 namespace Talmesh::app
 {
 
-/// Reads a regular file as it is. Reading ends behind the first zero byte, as no table has one, and
-/// with the last line that is whole where somebody writes the file meanwhile.
+/// Reads a regular file as it is. Reading ends behind the first zero byte, as no table has one,
+/// where the first line has no end, and with the last line that is whole where somebody writes the
+/// file meanwhile.
 Result<std::string> readPlainText(const QString& path, const ImportProgress& progress);
 
 /// Gives the memory of a text back to the system while it is read, so that a table is not held

@@ -261,6 +261,7 @@ void Pivot::fill()
     wide.runOfRow.push_back(text.runOfRow[row]);
   }
   wide.runNames = text.runNames;
+  forgetEmptyRuns(wide);
 }
 
 } // namespace

@@ -27,6 +27,9 @@ struct LongColumns
 /// linear in the rows.
 Result<TableText> pivotLong(TableText text, const LongColumns& columns, ImportReport& report);
 
+/// Forgets the names of runs that have no rows any more.
+void forgetEmptyRuns(TableText& table);
+
 /// Some rows of a column, in their order.
 ColumnValues gatheredColumn(const ColumnValues& column, const std::vector<std::size_t>& rows);
 

@@ -1,3 +1,4 @@
+#include "app/import/LongTable.h"
 #include "app/import/RoleChoice.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
@@ -183,6 +184,23 @@ private:
 std::string nameRuns(TableText& text)
 {
   return RunNamer(text).name();
+}
+
+void forgetEmptyRuns(TableText& table)
+{
+  std::vector<int> numbers(table.runNames.size(), -1);
+  std::vector<std::string> names;
+  for (int& run : table.runOfRow)
+  {
+    int& number = numbers[static_cast<std::size_t>(run)];
+    if (number < 0)
+    {
+      number = static_cast<int>(names.size());
+      names.push_back(table.runNames[static_cast<std::size_t>(run)]);
+    }
+    run = number;
+  }
+  table.runNames = std::move(names);
 }
 
 } // namespace Talmesh::app

@@ -1,6 +1,7 @@
 #include "app/import/TableText.h"
 
 #include "app/import/DelimitedText.h"
+#include "app/import/LongestLine.h"
 #include "app/import/RoleChoice.h"
 #include "app/import/TextShape.h"
 #include "app/import/TranslatedText.h"
@@ -28,6 +29,9 @@ std::string unreadable(std::string_view bytes)
     return translated("TableText", "the text is UTF-16; save it as UTF-8");
   if (bytes.find('\0') != std::string_view::npos)
     return translated("TableText", "not a table: the file holds binary data");
+  if (hasEndlessLine(bytes))
+    return translated("TableText", "not a table: its first line does not end; tables have a line "
+                                   "for each row");
   return {};
 }
 

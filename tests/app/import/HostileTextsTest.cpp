@@ -43,8 +43,8 @@ TEST(HostileTexts, WithQuotesAreHarmless)
 TEST(HostileTexts, OfEndlessLinesAreHarmless)
 {
   expectHarmless({
-      {"one line of letters", bytes(std::string(16 * mega, 'a')), ""},
-      {"one line of digits", bytes("time,A\n0," + std::string(16 * mega, '7')), ""},
+      {"one line of letters", bytes(std::string(64 * mega, 'a')), "does not end"},
+      {"one line of digits", bytes("time,A\n0," + std::string(4 * mega, '7')), ""},
       {"a number of a million digits", bytes("time,A\n0," + std::string(mega, '7') + "\n1,2\n"),
        ""},
       {"one line of separators", bytes(std::string(8 * mega, ',')), ""},

@@ -112,3 +112,13 @@ TEST(TidyLayout, RefusesMoreItemsThanAnyPointHas)
   request.value = "value";
   EXPECT_NE(described(text, request).error.find("5000 items at 5000 points"), std::string::npos);
 }
+
+TEST(TidyLayout, HasNoRunAllOfWhoseRowsAreLeftOut)
+{
+  ImportRequest request;
+  request.layout = "tidy";
+  const auto table =
+      described("sim,time,species,value\n1,0,A,1\n1,0,B,2\n2,0,A,1\n21,,B,2\n", request);
+  EXPECT_EQ(table.error, "");
+  EXPECT_EQ(table.report.runs, 2U);
+}
