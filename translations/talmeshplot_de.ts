@@ -849,6 +849,18 @@ p, li { white-space: pre-wrap; }
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>A file per run</source>
+        <translation>Eine Datei je Lauf</translation>
+    </message>
+    <message>
+        <source>A file per item</source>
+        <translation>Eine Datei je Größe</translation>
+    </message>
+    <message>
+        <source>In the order of rows</source>
+        <translation>In der Reihenfolge der Zeilen</translation>
+    </message>
 </context>
 <context>
     <name>RoleChoice</name>

@@ -71,6 +71,10 @@ bool takeCandidate(const ImportCandidate& candidate, ImportRequest& request)
     request.layout = candidate.layout;
   else if (candidate.option == "--decimal ,")
     request.decimalMark = ',';
+  else if (candidate.option == "--files runs" || candidate.option == "--files items")
+    request.files = candidate.option.substr(candidate.option.rfind(' ') + 1);
+  else if (candidate.option == "--join order")
+    request.join = "order";
   else
     return false;
   return true;

@@ -21,6 +21,12 @@ QString titleOf(const ImportCandidate& candidate)
 {
   if (candidate.option == "--decimal ,")
     return QCoreApplication::translate("ReadingQuestion", "Decimal commas");
+  if (candidate.option == "--files runs")
+    return QCoreApplication::translate("ReadingQuestion", "A file per run");
+  if (candidate.option == "--files items")
+    return QCoreApplication::translate("ReadingQuestion", "A file per item");
+  if (candidate.option == "--join order")
+    return QCoreApplication::translate("ReadingQuestion", "In the order of rows");
   if (candidate.layout == "stacked")
     return QCoreApplication::translate("ReadingQuestion", "Runs one below the other");
   if (candidate.layout == "tidy")

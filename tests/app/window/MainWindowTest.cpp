@@ -125,11 +125,22 @@ TEST_F(MainWindowWithRuns, OpensADroppedFile)
   EXPECT_EQ(window->sizeText(), "5 runs, 3 points each, 1 parameter");
 }
 
-TEST_F(MainWindowWithRuns, RefusesToDropWhatIsNotOneLocalFile)
+TEST_F(MainWindowWithRuns, OpensDroppedFilesAsOneTable)
+{
+  drop({QUrl::fromLocalFile(write("run1.csv", "time,X\n0,1\n1,2\n")),
+        QUrl::fromLocalFile(write("run2.csv", "time,X\n0,3\n1,4\n")),
+        QUrl::fromLocalFile(write("parameters.csv", "run,k\n1,5\n2,6\n"))});
+  EXPECT_TRUE(accepted);
+  ASSERT_TRUE(waitUntilLoaded());
+  EXPECT_EQ(window->sizeText(), "2 runs, 2 points each, 1 parameter");
+}
+
+TEST_F(MainWindowWithRuns, RefusesToDropWhatIsNoLocalFile)
 {
   drop({QUrl(QStringLiteral("https://example.org/runs.csv"))});
   EXPECT_FALSE(accepted);
-  drop({QUrl::fromLocalFile(QStringLiteral("/a")), QUrl::fromLocalFile(QStringLiteral("/b"))});
+  drop({QUrl::fromLocalFile(QStringLiteral("/a")),
+        QUrl(QStringLiteral("https://example.org/runs.csv"))});
   EXPECT_FALSE(accepted);
   EXPECT_FALSE(window->isLoading());
 }

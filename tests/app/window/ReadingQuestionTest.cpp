@@ -72,3 +72,20 @@ TEST_F(TableOfTwoReadings, IsNotOpenedWhereTheUserDoesNotSay)
   EXPECT_FALSE(window.isLoading());
   EXPECT_TRUE(window.windowTitle().startsWith("runs.csv"));
 }
+
+TEST_F(TableOfTwoReadings, MayBeSeveralFiles)
+{
+  QStringList files;
+  for (const char* name : {"a1.csv", "a2.csv"})
+  {
+    files.append(folder.filePath(QLatin1String(name)));
+    QFile file(files.back());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("time,X1,X2,X3\n0,1,2,3\n1,4,5,6\n");
+  }
+  window.openFiles(files);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return box() != nullptr; }, patience));
+  click("A file per item");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return window.sizeText().startsWith("3 runs"); }, patience));
+  EXPECT_EQ(window.sizeText(), "3 runs, 2 points each, 0 parameters");
+}
