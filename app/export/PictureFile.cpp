@@ -1,8 +1,8 @@
 #include "app/export/PictureFile.h"
 
 #include "app/export/ScaledPicture.h"
-#include "app/import/TranslatedText.h"
 #include "app/import/SystemMemory.h"
+#include "app/import/TranslatedText.h"
 #include "app/memory/PaintingMemory.h"
 #include "plot/PlotContainer.h"
 #include "widgets/VtkPlotWidget.h"

@@ -1,9 +1,9 @@
-#include "app/import/SystemMemory.h"
 #include "app/memory/PaintingMemory.h"
 
 #include "app/document/PlotChoice.h"
 #include "app/document/ShownStudy.h"
 #include "app/export/PictureFile.h"
+#include "app/import/SystemMemory.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 #include "support/TightMemory.h"
