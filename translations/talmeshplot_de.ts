@@ -76,6 +76,10 @@
         <source>no row has a time</source>
         <translation>keine Zeile hat eine Zeit</translation>
     </message>
+    <message>
+        <source>the runs have %1 different times together, too many to show each run at all of them, and some runs have too few points to be shown at fewer; --layout table shows the rows as they are</source>
+        <translation>die Läufe haben zusammen %1 verschiedene Zeiten, zu viele, um jeden Lauf zu allen zu zeigen, und einige haben zu wenige Punkte, um sie zu weniger Zeiten zu zeigen; --layout table zeigt die Zeilen, wie sie sind</translation>
+    </message>
 </context>
 <context>
     <name>ComparisonText</name>

@@ -39,6 +39,7 @@ private:
   std::size_t mostRows() const;
   void thin();
   bool gapsAreInside() const;
+  bool everyRunIsMet() const;
   std::size_t longest() const;
   void regrid(std::size_t column);
   bool isOfRuns(std::size_t column) const;
@@ -92,6 +93,18 @@ std::size_t GridBuilder::longest() const
   for (std::size_t run = 0; run < grouping.numberOfRuns; ++run)
     most = std::max(most, grouping.starts[run + 1] - grouping.starts[run]);
   return most;
+}
+
+/// Whether each run is at some time of the grid, so that none vanishes.
+bool GridBuilder::everyRunIsMet() const
+{
+  for (std::size_t run = 0; run < grouping.numberOfRuns; ++run)
+  {
+    const auto at = std::lower_bound(grid.begin(), grid.end(), times[grouping.starts[run]]);
+    if (at == grid.end() || *at > times[grouping.starts[run + 1] - 1])
+      return false;
+  }
+  return true;
 }
 
 std::size_t GridBuilder::mostRows() const
@@ -222,8 +235,15 @@ std::string GridBuilder::build(std::optional<UnequalRuns> unequal, ImportReport&
                       {std::to_string(grid.size())});
   const bool lines = !text.hasGaps && !text.isMeasured && gapsAreInside();
   interpolates = unequal ? unequal == UnequalRuns::Interpolate : tooMany || lines;
+  const std::string all = std::to_string(grid.size());
   if (tooMany)
     thin();
+  if (tooMany && !everyRunIsMet())
+    return withValues(translated("CommonGrid", "the runs have %1 different times together, too "
+                                               "many to show each run at all of them, and some "
+                                               "runs have too few points to be shown at fewer; "
+                                               "--layout table shows the rows as they are"),
+                      {all});
   for (std::size_t i = 0; i < text.columns.size(); ++i)
     if (!text.columns[i].values.empty())
       regrid(i);

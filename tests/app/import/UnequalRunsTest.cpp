@@ -93,6 +93,14 @@ TEST(UnequalRuns, OfTooManyTimesAreShownAtFewer)
             std::string::npos);
 }
 
+TEST(UnequalRuns, AreRefusedWhereSomeWouldVanish)
+{
+  std::string text = "run,time,X\n";
+  for (int run = 0; run < 1500; ++run)
+    text += std::to_string(run) + ',' + std::to_string(run) + ",1\n";
+  EXPECT_NE(described(text + "1,2000,1\n").error.find("--layout table"), std::string::npos);
+}
+
 TEST(UnequalRuns, OfOneNameAndTimeAreRefused)
 {
   EXPECT_EQ(described("run,time,X\na,0,1\na,1,2\na,1,3\nb,0,4\n").error,
