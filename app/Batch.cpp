@@ -63,6 +63,9 @@ std::string writeComparison(const Comparison& comparison, const QString& path)
   case Comparison::State::compared:
     break;
   }
+  if (comparison.units.contradictsDesign)
+    return "these runs are no Saltelli design of so many parameters, which has k + 2 or 2 k + 2 "
+           "runs for each base sample";
   return writeText(path, commaText(comparison.parameters));
 }
 

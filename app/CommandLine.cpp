@@ -21,6 +21,8 @@ namespace
 
 constexpr int smallestSide = 16;
 constexpr int largestSide = 16384;
+/// More parameters than a table has columns.
+constexpr std::size_t mostDesigned = 100'000;
 
 /// The bytes of an argument, which Qt's parser gets as a file's name: no byte is lost in that.
 std::string bytesOf(const QString& argument)
@@ -82,6 +84,20 @@ std::string readSeed(const std::string& value, CommandLineOptions& options)
     return "--seed takes a whole number from 1 to " + std::to_string(largestSeed) + ", not " +
            value;
   options.seed = seed;
+  return {};
+}
+
+std::string readDesign(const std::string& value, CommandLineOptions& options)
+{
+  const std::string_view text = value;
+  const std::string_view name = text.substr(0, text.find(':'));
+  stats::KnownDesign design{true, 0};
+  const bool isCounted = name.size() < text.size();
+  if (name != "saltelli" ||
+      (isCounted &&
+       !readNumber<std::size_t>(text.substr(name.size() + 1), 1, mostDesigned, design.parameters)))
+    return "--design takes saltelli, or saltelli:K for K parameters, not " + value;
+  options.design = design;
   return {};
 }
 
@@ -186,6 +202,7 @@ constexpr Option optionsWithValue[] = {{"style", readStyle},
                                        {"select", readSelect},
                                        {"with", readName<&CommandLineOptions::with>},
                                        {"seed", readSeed},
+                                       {"design", readDesign},
                                        {"export", readExport},
                                        {"compare", readCompare},
                                        {"runs", readRuns},

@@ -47,6 +47,9 @@ std::string commandLineHelp()
       "                          of that name, instead of all others\n"
       "  --halves                test in one half of the runs what differs in the other\n"
       "  --seed N                the seed of halves and permutations, 1 without this\n"
+      "  --design saltelli[:K]   the parameter sets are a Saltelli design of K parameters, or of "
+      "as\n"
+      "                          many as vary; otherwise it is recognised by the values\n"
       "  --export FILE           write " +
       exportNames("FILE") +
       " and open no window;\n"

@@ -33,8 +33,8 @@ struct RunSplit
 TALMESHPLOT_VIEWER_EXPORT int timeColumnOf(const PlotState& state);
 
 /// Parts the plot table by the selection and annotations of `link`, and marks its rows in the
-/// columns that vtkCombinedFilterAndSelectedRows writes. A table without a time column is reported
-/// by VTK and gives two tables without rows.
+/// columns that vtkCombinedFilterAndSelectedRows writes. A table without a time column gives an
+/// empty table and none to compare with; nothing is reported.
 RunSplit splitRuns(PlotState& state, vtkAnnotationLink* link);
 
 } // namespace Talmesh::plot

@@ -7,6 +7,7 @@
 #include <limits>
 #include <map>
 #include <numeric>
+#include <optional>
 
 namespace Talmesh::stats
 {
@@ -113,6 +114,21 @@ ParameterColumns columnsOfSets(const ParameterColumns& columns, const ParameterS
   }
   return reduced;
 }
+/// Nothing where there are too few runs or too many for such a design.
+std::optional<ExchangeUnits> knownBaseSamples(const ParameterColumns& columns,
+                                              std::size_t parameters)
+{
+  const ParameterSets sets = parameterSets(columns);
+  if (sets.replicated() && sets.balanced())
+  {
+    if (const auto design = namedSaltelliDesign(columnsOfSets(columns, sets), parameters))
+      return baseSamples(*design, sets);
+  }
+  const std::size_t runs = runsIn(columns);
+  if (const auto design = namedSaltelliDesign(columns, parameters))
+    return baseSamples(*design, ParameterSets{ascending(runs), Numbers(runs, 1)});
+  return std::nullopt;
+}
 } // namespace
 
 std::size_t ExchangeUnits::runsOfUnit(std::size_t unit) const
@@ -195,9 +211,14 @@ ExchangeUnits onlyCompared(ExchangeUnits units, const std::vector<char>& leftOut
   return units;
 }
 
-ExchangeUnits exchangeUnits(const ParameterColumns& columns)
+ExchangeUnits exchangeUnits(const ParameterColumns& columns, const KnownDesign& known)
 {
   const std::size_t runs = runsIn(columns);
+  if (known.isSaltelli)
+  {
+    if (auto units = knownBaseSamples(columns, known.parameters))
+      return *units;
+  }
   if (const auto design = recogniseSaltelliDesign(columns))
   {
     // Points may coincide and are points of their own all the same.

@@ -42,10 +42,10 @@ ExchangeUnits onlyCompared(ExchangeUnits units, const std::vector<char>& leftOut
 constexpr double fewestArrangements = 20.0;
 
 /// Base samples where the runs, or the sets of as many runs each in the order of their first runs,
-/// are a Saltelli design; else groups of runs that share values (stats/LinkedRuns.h); else sets
-/// where some set has several runs; else single runs.
+/// are a Saltelli design, or are known to be one that their number allows; else groups of runs that
+/// share values (stats/LinkedRuns.h); else sets where some set has several runs; else single runs.
 /// @throws as runsIn() does
-ExchangeUnits exchangeUnits(const ParameterColumns& columns);
+ExchangeUnits exchangeUnits(const ParameterColumns& columns, const KnownDesign& design = {});
 } // namespace Talmesh::stats
 
 #endif

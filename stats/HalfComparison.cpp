@@ -54,7 +54,8 @@ public:
       : columns(parameterColumns)
       , selected(selectedRuns)
       , plan(comparisonPlan)
-      , units(onlyCompared(exchangeUnits(parameterColumns), comparisonPlan.leftOut))
+      , units(onlyCompared(exchangeUnits(parameterColumns, comparisonPlan.design),
+                           comparisonPlan.leftOut))
       , second(secondHalf(units, comparisonPlan.seed))
   {
   }

@@ -24,6 +24,20 @@ enum class IndependentUnit
   linkedRuns
 };
 
+/// What somebody knows of how the parameters of a study were chosen, beyond what the values tell.
+struct KnownDesign
+{
+  /// The runs, or the sets of as many runs each, are a Saltelli design (stats/SaltelliDesign.h).
+  bool isSaltelli = false;
+  /// Of how many parameters; 0 for as many as vary.
+  std::size_t parameters = 0;
+
+  friend bool operator==(const KnownDesign& left, const KnownDesign& right)
+  {
+    return left.isSaltelli == right.isSaltelli && left.parameters == right.parameters;
+  }
+};
+
 /// What is compared between the selected runs and the others.
 enum class ComparedBy
 {

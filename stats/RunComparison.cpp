@@ -80,6 +80,8 @@ public:
       , groups(groupsOf(units, selected, comparisonPlan.leftOut))
   {
     result.units = summaryOf(units);
+    result.units.contradictsDesign =
+        plan.design.isSaltelli && units.kind != IndependentUnit::baseSample;
     result.parameters.resize(columns.size());
   }
 
@@ -256,7 +258,7 @@ RunComparison compareRuns(const ParameterColumns& columns, const std::vector<cha
   checkLengths(columns, selected, plan.leftOut);
   if (columns.empty())
     return {};
-  return Comparer(columns, selected, plan, exchangeUnits(columns)).run();
+  return Comparer(columns, selected, plan, exchangeUnits(columns, plan.design)).run();
 }
 
 RunComparison compareRunsIn(const ExchangeUnits& units, const ParameterColumns& columns,
@@ -271,7 +273,8 @@ bool takesTimeToCompare(const ParameterColumns& columns, const std::vector<char>
   /// Steps of the exact test's recursion, some 0.2 s on one core.
   constexpr double manySteps = 5e7;
   checkLengths(columns, selected, plan.leftOut);
-  if (plan.adjustment == Adjustment::maxT || exchangeUnits(columns).kind != IndependentUnit::run)
+  if (plan.adjustment == Adjustment::maxT ||
+      exchangeUnits(columns, plan.design).kind != IndependentUnit::run)
     return true;
   double first = 0.0;
   double second = 0.0;

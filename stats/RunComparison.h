@@ -19,6 +19,7 @@ struct ComparisonPlan
   /// At least 9,999 are made.
   std::size_t permutations = 9999;
   std::uint64_t seed = 1;
+  KnownDesign design{};
   /// Parameters by which the selection was made, by position.
   std::vector<std::size_t> chosenBy;
   /// Parameters that are described but not tested, by position.
@@ -39,6 +40,8 @@ struct UnitSummary
   /// Runs of the smallest and of the largest unit: "12 sets of 10 runs".
   std::size_t fewestRuns = 0;
   std::size_t mostRuns = 0;
+  /// They are not what somebody has said of their design, which their number rules out.
+  bool contradictsDesign = false;
 };
 
 struct RunComparison

@@ -128,7 +128,44 @@ bool fitsInSomeOrder(const Columns& columns, const SaltelliDesign& design)
                      [&candidate](const auto& point)
                      { return candidate.fits(point.first, point.second); });
 }
+/// The part of all values that a run of a base sample has in common with the one before it.
+double sharedPart(const ParameterColumns& columns, const SaltelliDesign& design)
+{
+  std::size_t shared = 0;
+  for (const std::vector<double>& column : columns)
+    for (std::size_t sample = 0; sample < design.baseSamples; ++sample)
+      for (std::size_t position = 1; position < design.runsPerSample; ++position)
+        shared += column[design.run(sample, position)] == column[design.run(sample, position - 1)];
+  const std::size_t pairs = columns.size() * design.baseSamples * (design.runsPerSample - 1);
+  return static_cast<double>(shared) / static_cast<double>(pairs);
+}
 } // namespace
+
+std::optional<SaltelliDesign> namedSaltelliDesign(const ParameterColumns& columns,
+                                                  std::size_t parameters)
+{
+  const std::size_t runs = runsIn(columns);
+  const std::size_t k = parameters > 0 ? parameters : varyingColumns(columns).size();
+  std::optional<SaltelliDesign> best;
+  double mostShared = -1.0;
+  if (k == 0 || k > runs)
+    return best;
+  for (const std::size_t width : {k + 2, 2 * k + 2})
+  {
+    if (runs % width != 0 || runs / width < 2)
+      continue;
+    for (const bool interleaved : {true, false})
+    {
+      const SaltelliDesign design{runs / width, width, interleaved};
+      const double shared = sharedPart(columns, design);
+      if (shared <= mostShared)
+        continue;
+      mostShared = shared;
+      best = design;
+    }
+  }
+  return best;
+}
 
 std::optional<SaltelliDesign> recogniseSaltelliDesign(const ParameterColumns& columns)
 {

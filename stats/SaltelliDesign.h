@@ -38,6 +38,14 @@ struct SaltelliDesign
 /// samples.
 /// @throws as runsIn() does
 std::optional<SaltelliDesign> recogniseSaltelliDesign(const ParameterColumns& columns);
+
+/// The design of so many parameters that the runs are said to be, whatever their values: with as
+/// many runs as all base samples have. Base samples lie as those do whose runs share most values.
+/// @param parameters 0 for as many as vary
+/// @return nothing where the runs are no multiple of k + 2 or 2 k + 2, at least 2 of them
+/// @throws as runsIn() does
+std::optional<SaltelliDesign> namedSaltelliDesign(const ParameterColumns& columns,
+                                                  std::size_t parameters);
 } // namespace Talmesh::stats
 
 #endif

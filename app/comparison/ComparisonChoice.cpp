@@ -16,6 +16,8 @@ constexpr const char* comparedByProperty = "talmeshComparedBy";
 constexpr const char* adjustmentProperty = "talmeshAdjustment";
 constexpr const char* halvesProperty = "talmeshHalves";
 constexpr const char* seedProperty = "talmeshSeed";
+constexpr const char* saltelliProperty = "talmeshSaltelliDesign";
+constexpr const char* designedProperty = "talmeshDesignedParameters";
 constexpr const char* comparedProperty = "talmeshCompared";
 constexpr const char* comparedWithProperty = "talmeshComparedWith";
 
@@ -43,6 +45,8 @@ ComparisonChoice comparisonChoiceOf(const PlotContainer& container)
   choice.halves = container.property(halvesProperty).toBool();
   if (const QVariant seed = container.property(seedProperty); seed.isValid())
     choice.seed = seed.toULongLong();
+  choice.design = {container.property(saltelliProperty).toBool(),
+                   container.property(designedProperty).toUInt()};
   choice.compared = container.property(comparedProperty).toString().toStdString();
   choice.comparedWith = container.property(comparedWithProperty).toString().toStdString();
   return choice;
@@ -63,6 +67,8 @@ void writeComparisonChoice(PlotContainer& container, const ComparisonChoice& cho
   container.setProperty(adjustmentProperty, static_cast<int>(choice.adjustment));
   container.setProperty(halvesProperty, choice.halves);
   container.setProperty(seedProperty, static_cast<qulonglong>(choice.seed));
+  container.setProperty(saltelliProperty, choice.design.isSaltelli);
+  container.setProperty(designedProperty, static_cast<uint>(choice.design.parameters));
   container.setProperty(comparedProperty, QString::fromStdString(choice.compared));
   container.setProperty(comparedWithProperty, QString::fromStdString(choice.comparedWith));
 }

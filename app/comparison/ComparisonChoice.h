@@ -38,6 +38,8 @@ struct ComparisonChoice
   bool halves = false;
   /// Of all that is drawn at random: halves and permutations. 1 to `largestSeed`.
   std::uint64_t seed = 1;
+  /// What the user knows of the design of the parameter sets.
+  stats::KnownDesign design{};
   /// The kept selection that is compared, by name; empty for the present selection.
   std::string compared;
   /// The kept selection that it is compared with, by name; empty for all other runs.

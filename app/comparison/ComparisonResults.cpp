@@ -44,6 +44,7 @@ stats::ComparisonPlan planOf(const ComparedStudy& study, const ComparisonChoice&
   plan.comparedBy = choice.comparedBy;
   plan.adjustment = choice.adjustment;
   plan.seed = choice.seed;
+  plan.design = choice.design;
   plan.leftOut = study.leftOut;
   const Positions positions = usable(study);
   for (std::size_t k = 0; k < positions.size(); ++k)

@@ -1,6 +1,7 @@
 #include "app/comparison/ComparisonSettings.h"
 
 #include "app/comparison/ComparisonControls.h"
+#include "app/comparison/DesignBox.h"
 #include "app/comparison/SeedBox.h"
 #include "app/comparison/SideBoxes.h"
 #include "app/comparison/TestNames.h"
@@ -154,9 +155,17 @@ void ComparisonSettings::addHalves(QGridLayout* layout)
                       tr("The honest check of what was found by looking: split the parameter sets "
                          "at random, keep what differs in one half, and test that in the other"));
   seed = new SeedBox;
+  design = new DesignBox;
   const int row = layout->rowCount();
   layout->addWidget(halves, row, 0);
   layout->addWidget(seed, row, 1);
+  layout->addWidget(design, row + 1, 0, 1, 2);
+  connect(design, &DesignBox::designChanged, this,
+          [this]
+          {
+            chosen.design = design->design();
+            emit choiceChanged();
+          });
   writeSwitch(halves, &ComparisonChoice::halves);
   connect(seed, &SeedBox::seedChanged, this,
           [this](std::uint64_t drawn)
@@ -203,6 +212,7 @@ void ComparisonSettings::setChoice(const ComparisonChoice& choice, plotStyles st
   showState(halves, choice.halves);
   sides->setSides(choice.compared, choice.comparedWith);
   seed->setSeed(choice.seed);
+  design->setDesign(choice.design);
   showEntry(comparedBy, static_cast<int>(choice.comparedBy));
   showEntry(adjustment, static_cast<int>(choice.adjustment));
   shownStyle = style;
@@ -215,8 +225,9 @@ void ComparisonSettings::enableControls()
   showState(distributions, hasParameters && shownStyle == selectionCdfPlot);
   showState(pairs, hasParameters && shownStyle == multiPlot);
   // The table of results shows the tests, and what meets the thresholds, in every style.
-  for (QWidget* control : std::initializer_list<QWidget*>{
-           distributions, pairs, comparedBy, adjustment, pThreshold, ksThreshold, halves, sides})
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{distributions, pairs, comparedBy, adjustment, pThreshold,
+                                       ksThreshold, halves, sides, design})
     control->setEnabled(hasParameters);
   seed->setEnabled(hasParameters &&
                    (drawsUnits || chosen.halves || chosen.adjustment == stats::Adjustment::maxT));

@@ -16,6 +16,7 @@ class QToolButton;
 namespace Talmesh::app
 {
 
+class DesignBox;
 class SeedBox;
 class SideBoxes;
 class ThresholdBox;
@@ -67,6 +68,7 @@ private:
   QCheckBox* halves = nullptr;
   SideBoxes* sides = nullptr;
   SeedBox* seed = nullptr;
+  DesignBox* design = nullptr;
   QCheckBox* density = nullptr;
   QCheckBox* commonDensityScale = nullptr;
   QCheckBox* logParameterAxes = nullptr;

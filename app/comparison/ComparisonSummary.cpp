@@ -110,6 +110,9 @@ QString summaryText(const Comparison& comparison, std::size_t selections)
     sentences.append(sentenceOnHalves(comparison));
   if (comparison.units.units > 0)
     sentences.append(Words::tr("Independent: %1.").arg(unitsText(comparison.units)));
+  if (comparison.units.contradictsDesign)
+    sentences.append(Words::tr("The runs are no Saltelli design of so many parameters, which has k "
+                               "+ 2 or 2 k + 2 runs for each base sample."));
   if (comparison.permutations > 0)
     sentences.append(Words::tr("%1 permutations, seed %2.")
                          .arg(countText(comparison.permutations))

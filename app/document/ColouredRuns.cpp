@@ -21,6 +21,7 @@ namespace
 {
 
 const QColor colourOfOthers(190, 190, 190);
+
 ColourKey::Entries entriesOf(const RunGroups& groups)
 {
   ColourKey::Entries entries;
@@ -29,7 +30,14 @@ ColourKey::Entries entriesOf(const RunGroups& groups)
   return entries;
 }
 
-vtkSmartPointer<vtkLookupTable> coloursOf(const RunGroups& groups)
+/// How runs are coloured.
+struct RunColours
+{
+  vtkSmartPointer<vtkLookupTable> ofGroups;
+  vtkIdType runs;
+};
+
+RunColours coloursOf(const RunGroups& groups)
 {
   const auto count = static_cast<int>(groups.names.size());
   auto colours = vtkSmartPointer<vtkLookupTable>::New();
@@ -41,38 +49,43 @@ vtkSmartPointer<vtkLookupTable> coloursOf(const RunGroups& groups)
     const QColor colour = colourOf(groups, group);
     colours->SetTableValue(group, colour.redF(), colour.greenF(), colour.blueF(), 1.0);
   }
-  return colours;
+  return {colours, static_cast<vtkIdType>(groups.groupOfRun.size())};
 }
 
 /// VTK's plots of points and of lines across axes have the same way to be coloured, but no common
 /// class that has it.
+/// @return whether it is
 template <typename Plot>
-void colourBy(Plot* plot, vtkScalarsToColors* colours)
+bool colourBy(Plot* plot, const RunColours& colours)
 {
   const int column = plot ? plot::columnIndex(plot->GetInput(), groupColumnName()) : -1;
-  if (column < 0)
-    return;
-  plot->SetLookupTable(colours);
+  // Groups of other runs say nothing of these.
+  if (column < 0 || plot->GetInput()->GetNumberOfRows() != colours.runs)
+    return false;
+  plot->SetLookupTable(colours.ofGroups);
   plot->SelectColorArray(static_cast<vtkIdType>(column));
   plot->SetScalarVisibility(true);
+  return true;
 }
 
-void colourCell(vtkChart* cell, vtkScalarsToColors* colours)
+bool colourCell(vtkChart* cell, const RunColours& colours)
 {
+  bool any = false;
   for (vtkIdType i = 0; cell && i < cell->GetNumberOfPlots(); ++i)
-    colourBy(vtkPlotPoints::SafeDownCast(cell->GetPlot(i)), colours);
+    any = colourBy(vtkPlotPoints::SafeDownCast(cell->GetPlot(i)), colours) || any;
+  return any;
 }
 
-void colourMatrix(vtkScatterPlotMatrix* matrix, const RunGroups& groups)
+bool colourMatrix(vtkScatterPlotMatrix* matrix, const RunGroups& groups)
 {
   // Its cells are made here.
   matrix->Update();
   const vtkVector2i size = matrix->GetSize();
-  const auto colours = coloursOf(groups);
+  const RunColours colours = coloursOf(groups);
   for (int column = 0; column < size.GetX(); ++column)
     for (int row = 0; row + column + 1 < size.GetY(); ++row)
       colourCell(matrix->GetChart({column, row}), colours);
-  colourCell(matrix->GetMainChart(), colours);
+  return colourCell(matrix->GetMainChart(), colours);
 }
 
 } // namespace
@@ -110,14 +123,12 @@ void colourCharts(PlotContainer& container, const RunGroups& groups)
   if (!lines && !matrix)
     return;
   // Of rows no groups are known.
-  const bool any = !groups.names.empty() && container.showsSummary();
+  bool any = !groups.names.empty() && container.showsSummary();
+  if (any && lines)
+    any = colourBy(vtkPlotParallelCoordinates::SafeDownCast(lines->GetPlot(0)), coloursOf(groups));
+  else if (any)
+    any = colourMatrix(matrix, groups);
   ColourKey::placeIn(item, any ? entriesOf(groups) : ColourKey::Entries());
-  if (!any)
-    return;
-  if (lines)
-    colourBy(vtkPlotParallelCoordinates::SafeDownCast(lines->GetPlot(0)), coloursOf(groups));
-  else
-    colourMatrix(matrix, groups);
 }
 
 void colourPair(PlotContainer& container, const RunGroups& groups)

@@ -169,6 +169,7 @@ std::string chooseSides(PlotContainer& container, const PlotWishes& wishes, Kept
   ComparisonChoice choice = comparisonChoiceOf(container);
   choice.halves = choice.halves || wishes.halves;
   choice.seed = wishes.seed.value_or(choice.seed);
+  choice.design = wishes.design.value_or(choice.design);
   if (!wishes.with.empty() && !findKept(kept.list(), wishes.with))
   {
     const TableRuns runs(container);

@@ -130,11 +130,11 @@ std::string wordsOf(const PlotContainer& container, const SelectionGesture& gest
 
 /// What is drawn last lies on top.
 NearestRun nearestOf(const TableRuns& runs, const SelectionGesture& gesture,
-                     const std::vector<DrawnSeries>& series)
+                     const std::vector<DrawnSeries>& series, double reach)
 {
   NearestRun nearest;
   const DrawnPoint point{gesture.points.front().x, gesture.points.front().y};
-  double within = pointingReach;
+  double within = reach;
   for (std::size_t i = series.size(); i-- > 0;)
   {
     const DrawnManner manner{
@@ -184,30 +184,31 @@ std::string textBeside(const TableRuns& runs, std::size_t run, const std::string
 }
 
 std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
-                                          const SelectionGesture& gesture, GestureRule rule)
+                                          const SelectionGesture& gesture, GestureRule rule,
+                                          double reach)
 {
   const auto series = hasNoSeries(gesture) ? std::nullopt : seriesOf(container, gesture);
   if (!series)
-    return wordsOfPoints(runs, gesture);
+    return wordsOfPoints(runs, gesture, reach);
   if (runs.numberOfRuns() == 0)
     return {};
   if (gesture.kind != SelectionGesture::Kind::Click)
     return wordsOf(container, gesture, rule, *series);
-  const NearestRun nearest = nearestOf(runs, gesture, *series);
+  const NearestRun nearest = nearestOf(runs, gesture, *series, reach);
   if (!nearest.series)
     return std::string();
   return runs.wordsOf(nearest.run);
 }
 
 std::optional<std::string> nearestRun(const PlotContainer& container, const TableRuns& runs,
-                                      const SelectionGesture& place)
+                                      const SelectionGesture& place, double reach)
 {
   const auto series = hasNoSeries(place) ? std::nullopt : seriesOf(container, place);
   if (!series)
-    return nearestPoint(runs, place);
+    return nearestPoint(runs, place, reach);
   if (runs.numberOfRuns() == 0)
     return {};
-  const NearestRun nearest = nearestOf(runs, place, *series);
+  const NearestRun nearest = nearestOf(runs, place, *series, reach);
   if (!nearest.series)
     return std::string();
   return textBeside(runs, nearest.run, plot::columnName(container.getTable(), nearest.series->item),

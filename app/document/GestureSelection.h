@@ -16,7 +16,7 @@ namespace Talmesh::app
 
 class TableRuns;
 
-/// Pixels that a line or point may be away from the mouse.
+/// Pixels that a line or point may be away from the mouse, where pixels have their usual size.
 constexpr double pointingReach = 6.0;
 
 /// What to say beside the mouse: "Run 17", or "Run 17, TetR: 4.5, 8.55".
@@ -27,17 +27,19 @@ std::string textBeside(const TableRuns& runs, std::size_t run, const std::string
 /// The condition in words that selects the runs that a gesture means. A click means the run drawn
 /// nearest to it, within a few pixels.
 /// @param rule of rectangles; where no lines are drawn, points go through
+/// @param reach pixels of the scene that a click may be away
 /// @return empty for a click beside everything, which changes nothing; `none`, or a condition that
 /// no run meets, for what was drawn around nothing; none where it is not about the runs of this
 /// table
 std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
-                                          const SelectionGesture& gesture, GestureRule rule);
+                                          const SelectionGesture& gesture, GestureRule rule,
+                                          double reach = pointingReach);
 
 /// What to say of the run that is drawn nearest to a place.
 /// @param place a click there
 /// @return as above
 std::optional<std::string> nearestRun(const PlotContainer& container, const TableRuns& runs,
-                                      const SelectionGesture& place);
+                                      const SelectionGesture& place, double reach = pointingReach);
 
 } // namespace Talmesh::app
 

@@ -13,6 +13,8 @@ namespace Talmesh::app
 namespace
 {
 
+constexpr const char* saltelliKey = "saltelli";
+
 std::vector<SessionColumn> entriesOf(const std::vector<int>& columns)
 {
   std::vector<SessionColumn> entries;
@@ -67,6 +69,11 @@ SessionSource sessionOf(const Study& study, PlotContainer& container, const Plot
                   static_cast<double>(comparison.seed),
                   comparison.compared,
                   comparison.comparedWith};
+  if (comparison.design.isSaltelli)
+  {
+    source.tests.design = QLatin1String(saltelliKey);
+    source.tests.designedParameters = static_cast<int>(comparison.design.parameters);
+  }
   source.shown = {entriesOfFeatures({choice.x}), entriesOfFeatures(choice.y),
                   entriesOfFeatures({choice.z}), entriesOf(choice.axes)};
   if (normaliser)
@@ -105,6 +112,8 @@ void restoreTests(const RestoredSession& session, PlotContainer& container)
   choice.halves = tests.halves;
   if (const auto seed = static_cast<std::uint64_t>(tests.seed); seed <= largestSeed)
     choice.seed = seed;
+  choice.design = {tests.design == QLatin1String(saltelliKey),
+                   static_cast<std::size_t>(tests.designedParameters)};
   choice.compared = tests.compared;
   choice.comparedWith = tests.comparedWith;
   writeComparisonChoice(container, choice);

@@ -3,6 +3,7 @@
 
 #include "app/import/ImportRequest.h"
 #include "external/PlotStyles.h"
+#include "stats/ParameterComparison.h"
 
 #include <cstdint>
 #include <optional>
@@ -29,6 +30,8 @@ struct PlotWishes
   bool halves = false;
   /// Of what a comparison draws at random.
   std::optional<std::uint64_t> seed;
+  /// What is known of the design of the parameter sets.
+  std::optional<Talmesh::stats::KnownDesign> design;
 };
 
 /// What the viewer should open first.

@@ -145,12 +145,12 @@ struct NearestPoint
 };
 
 NearestPoint nearestOf(const TableRuns& runs, const SelectionGesture& gesture,
-                       const std::vector<RunPoints>& points)
+                       const std::vector<RunPoints>& points, double reach)
 {
   const DrawnManner manner{{gesture.logX, gesture.logY}, gesture.unitsX, gesture.unitsY, false};
   const DrawnPoint place{gesture.points.front().x, gesture.points.front().y};
   NearestPoint nearest;
-  double within = pointingReach;
+  double within = reach;
   for (const RunPoints& one : points)
     for (std::size_t run = 0; run < runs.numberOfRuns(); ++run)
     {
@@ -221,7 +221,8 @@ std::optional<std::vector<bool>> runsOfRows(const TableRuns& runs, const Selecti
 
 } // namespace
 
-std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture)
+std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture,
+                                         double reach)
 {
   if (gesture.rows)
   {
@@ -243,7 +244,7 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
     return {};
   if (gesture.kind == SelectionGesture::Kind::Click)
   {
-    const NearestPoint nearest = nearestOf(runs, gesture, *points);
+    const NearestPoint nearest = nearestOf(runs, gesture, *points, reach);
     return nearest.series ? runs.wordsOf(nearest.run) : std::string();
   }
   const std::string words = gesture.kind == SelectionGesture::Kind::Rectangle
@@ -259,7 +260,8 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
   return around.empty() ? numbers : '(' + numbers + ") and (" + around + ')';
 }
 
-std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place)
+std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place,
+                                        double reach)
 {
   if (place.rows)
   {
@@ -273,7 +275,7 @@ std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGe
   const auto points = pointsOf(runs, place);
   if (!points)
     return {};
-  const NearestPoint nearest = nearestOf(runs, place, *points);
+  const NearestPoint nearest = nearestOf(runs, place, *points, reach);
   return nearest.series ? textBeside(runs, nearest.run, nearest.series->y, nearest.point)
                         : std::string();
 }

@@ -17,8 +17,10 @@ class TableRuns;
 /// As `wordsOfGesture` and `nearestRun`, of such charts alone, and of those that name rows or are
 /// brushed: the words of a rectangle or of brushes are comparisons, where its columns are called by
 /// words that filters read, otherwise the numbers of the runs. A line crosses no runs.
-std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture);
-std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place);
+std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture,
+                                         double reach);
+std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place,
+                                        double reach);
 
 } // namespace Talmesh::app
 

@@ -46,8 +46,9 @@ void RunGestures::follow(PlotContainer* container)
     return;
   container->setSelectionTool(chosenTool);
   container->setGestureHandler([this](const SelectionGesture& gesture) { return take(gesture); });
-  container->setHoverText([container](const SelectionGesture& place)
-                          { return nearestRun(*container, TableRuns(*container), place); });
+  container->setHoverText(
+      [this, container](const SelectionGesture& place)
+      { return nearestRun(*container, TableRuns(*container), place, reach()); });
 }
 
 void RunGestures::setTool(SelectionTool wanted)
@@ -65,9 +66,14 @@ void RunGestures::leave()
   followed->setHoverText(nullptr);
 }
 
+double RunGestures::reach() const
+{
+  return pointingReach * (pixelRatio ? pixelRatio() : 1.0);
+}
+
 bool RunGestures::take(const SelectionGesture& gesture)
 {
-  const auto words = wordsOfGesture(*followed, TableRuns(*followed), gesture, chosenRule);
+  const auto words = wordsOfGesture(*followed, TableRuns(*followed), gesture, chosenRule, reach());
   if (!words)
     return false;
   return words->empty() || select(*words, combinationOf(gesture.mode));

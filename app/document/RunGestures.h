@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 class PlotContainer;
 
@@ -32,6 +33,9 @@ public:
   /// Turns to another container, not owned; null for none.
   void follow(PlotContainer* container);
 
+  /// What says how many pixels of the scene make one of the usual size, where it is seen; without
+  /// it, one does.
+  void setPixelRatio(std::function<double()> says) { pixelRatio = std::move(says); }
   /// Which runs a rectangle means: `Through` or `Inside`.
   void setRule(GestureRule wanted) { chosenRule = wanted; }
   GestureRule rule() const { return chosenRule; }
@@ -41,8 +45,10 @@ public:
 private:
   void leave();
   bool take(const SelectionGesture& gesture);
+  double reach() const;
 
   Select select;
+  std::function<double()> pixelRatio;
   QPointer<PlotContainer> followed;
   GestureRule chosenRule = GestureRule::Through;
   SelectionTool chosenTool = SelectionTool::Rectangle;

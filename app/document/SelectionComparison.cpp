@@ -2,6 +2,7 @@
 
 #include "app/comparison/ComparisonText.h"
 #include "app/document/ComparedSides.h"
+#include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
@@ -25,7 +26,7 @@ std::size_t fingerprint(const ComparedStudy& study)
 bool isSameTest(const ComparisonChoice& one, const ComparisonChoice& other)
 {
   return one.comparedBy == other.comparedBy && one.adjustment == other.adjustment &&
-         one.halves == other.halves && one.seed == other.seed &&
+         one.halves == other.halves && one.seed == other.seed && one.design == other.design &&
          (!one.halves ||
           (one.pThreshold == other.pThreshold && one.ksThreshold == other.ksThreshold));
 }
@@ -178,6 +179,9 @@ bool SelectionComparison::handOver()
 /// @return as handOver()
 bool SelectionComparison::handOverGroups()
 {
+  // Another style than this one shows none; they are handed over before it is drawn.
+  if (!viewerStyle(followed->getMetaData()->getPlotStyle()).showsDistributions)
+    return false;
   std::vector<DistributionGroup> groups = drawnGroups(*followed, *compared, comparison, sides);
   if (areSame(groups, drawn))
     return false;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 
@@ -139,6 +140,8 @@ BoundTerm Binder::term(const FilterNode& node, bool condition)
     blame(node, condition
                     ? translated("RunFilter", "a condition is wanted here, such as \"max(A) > 1\"")
                     : translated("RunFilter", "a number is wanted here, not a condition"));
+  else if (node.kind == Kind::Number && std::isinf(node.number))
+    blame(node, translated("RunFilter", "this number is too large"));
   else if (node.kind == Kind::Name)
     bindName(node, bound);
   else if (node.kind == Kind::Call)

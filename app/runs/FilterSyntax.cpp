@@ -87,21 +87,12 @@ const auto sign = [](auto& context)
   x3::_val(context).marks.push_back(minus ? '-' : '+');
 };
 
+/// As many digits as there are, however large the number: what is wrong with it is said later.
 /// Words such as "infinity" are names.
-struct PlainNumber : x3::real_policies<double>
-{
-  template <typename Iterator, typename Attribute>
-  static bool parse_nan(Iterator&, const Iterator&, Attribute&)
-  {
-    return false;
-  }
-  template <typename Iterator, typename Attribute>
-  static bool parse_inf(Iterator&, const Iterator&, Attribute&)
-  {
-    return false;
-  }
-};
-const x3::real_parser<double, PlainNumber> plainNumber{};
+const auto digits = +x3::char_('0', '9');
+const auto plainNumber = x3::lexeme[((digits >> -(x3::char_('.') >> *x3::char_('0', '9'))) |
+                                     (x3::char_('.') >> digits)) >>
+                                    -(x3::char_("eE") >> -x3::char_("+-") >> digits)];
 
 // Bytes above ASCII are letters: what they are in UTF-8 is not for a filter to say.
 const auto letter =

@@ -21,6 +21,10 @@ struct SessionTests
   /// The kept selections that are compared, by name; empty for the present one, and for the others.
   std::string compared{};
   std::string comparedWith{};
+  /// The design that the parameter sets are said to be, and of how many parameters; 0 for as many
+  /// as vary.
+  QString design{};
+  int designedParameters = 0;
   /// How many selections have been compared.
   int looked = 0;
 };

@@ -23,7 +23,12 @@ FileMenu::FileMenu(Document& document, RecentMenu& recent, QWidget* window)
   addSeparator();
   addSessions(document);
   addSeparator();
-  add(tr("&Export..."), QKeySequence(tr("Ctrl+E")), this, &FileMenu::exportWanted);
+  QAction* exporting =
+      add(tr("&Export..."), QKeySequence(tr("Ctrl+E")), this, &FileMenu::exportWanted);
+  exporting->setObjectName(QStringLiteral("exportPlot"));
+  const auto follow = [exporting, &document] { exporting->setEnabled(!document.size().isEmpty()); };
+  connect(&document, &Document::studyChanged, exporting, follow);
+  follow();
   addSeparator();
   add(tr("&Quit"), QKeySequence(tr("Ctrl+Q")), window, &QWidget::close);
 }

@@ -65,6 +65,7 @@ MainWindow::MainWindow(QWidget* parent)
   setAcceptDrops(true);
   // What the widget shows by itself is nobody's data.
   plot->plotContainer()->getItem()->SetVisible(false);
+  shown.selection().gestures().setPixelRatio([this] { return plot->devicePixelRatioF(); });
   makeMenus();
   takeFirstSize();
   panels->connectDocument();

@@ -258,3 +258,13 @@ TEST(CommandLine, WritesAComparisonWithoutAWindow)
   EXPECT_FALSE(options.writesPictures());
   EXPECT_EQ(parsed({"runs.csv"}).compare, "");
 }
+
+TEST(CommandLine, TakesWhatIsKnownOfTheDesign)
+{
+  EXPECT_FALSE(parsed({"runs.csv"}).design);
+  EXPECT_EQ(parsed({"--design", "saltelli"}).design, (Talmesh::stats::KnownDesign{true, 0}));
+  EXPECT_EQ(parsed({"--design=saltelli:12"}).design, (Talmesh::stats::KnownDesign{true, 12}));
+  for (const char* wrong : {"morris", "saltelli:", "saltelli:0", "saltelli:x", "saltelli3"})
+    EXPECT_EQ(errorOf({"--design", wrong}),
+              std::string("--design takes saltelli, or saltelli:K for K parameters, not ") + wrong);
+}

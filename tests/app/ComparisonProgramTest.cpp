@@ -38,6 +38,24 @@ std::string sixSetsOfFour()
   return text.str();
 }
 
+/// Saltelli's design of a and b for eight base samples, with a column that follows from both.
+std::string designWithASum()
+{
+  std::ostringstream text;
+  text << "run,time,a,b,sum,X\n";
+  for (int run = 0; run < 32; ++run)
+  {
+    const int sample = run / 4;
+    const int position = run % 4;
+    const double a = position == 1 || position == 3 ? 50 + 3 * sample : 7 * sample % 8;
+    const double b = position >= 2 ? 20 + 5 * sample % 8 : 9 - sample;
+    for (int point = 0; point < 2; ++point)
+      text << run << ',' << point << ',' << a << ',' << b << ',' << a + 100 * b << ','
+           << run % 5 + point << '\n';
+  }
+  return text.str();
+}
+
 class ComparisonProgram : public RunningProgram
 {
 protected:
@@ -190,4 +208,18 @@ TEST_F(ComparisonProgram, WritesOverNothingThatItReadsOrWrites)
   expectError(select + QStringList{"--compare", out, "--compare", path("other.csv")},
               "--compare is given twice");
   EXPECT_FALSE(QFile::exists(out));
+}
+
+TEST_F(ComparisonProgram, TakesRunsForTheDesignThatIsNamed)
+{
+  const QString csv = write("design.csv", designWithASum());
+  const auto unnamed = comparison({csv, "--select", "max(X) > 4"});
+  ASSERT_EQ(unnamed.size(), 4U);
+  EXPECT_FALSE(unnamed[1][8].contains("base samples")) << unnamed[1][8].toStdString();
+  const auto named = comparison({csv, "--select", "max(X) > 4", "--design", "saltelli:2"});
+  EXPECT_EQ(named[1][8], "Kolmogorov-Smirnov (9999 permutations of base samples; seed 1)");
+  expectError({csv, "--select", "max(X) > 4", "--design", "saltelli:9", "--compare", path("o.csv")},
+              "these runs are no Saltelli design of so many parameters, which has k + 2 or 2 k + 2 "
+              "runs for each base sample");
+  EXPECT_FALSE(QFile::exists(path("o.csv")));
 }

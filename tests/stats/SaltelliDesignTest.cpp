@@ -152,3 +152,39 @@ TEST(SaltelliDesign, IsNotSeenWhereOneCoordinateIsTakenTwice)
   }
   EXPECT_FALSE(recogniseSaltelliDesign(columns));
 }
+
+TEST(SaltelliDesign, IsTakenAsNamedWhereFurtherColumnsHideIt)
+{
+  ParameterColumns columns = saltelliPoints(20, 3, 7);
+  columns.push_back(columns[0]);
+  for (std::size_t run = 0; run < columns[0].size(); ++run)
+    columns[3][run] += columns[1][run];
+  EXPECT_FALSE(recogniseSaltelliDesign(columns));
+  const auto named = namedSaltelliDesign(columns, 3);
+  ASSERT_TRUE(named);
+  EXPECT_EQ(named->baseSamples, 20U);
+  EXPECT_EQ(named->runsPerSample, 5U);
+  EXPECT_TRUE(named->interleaved);
+}
+
+TEST(SaltelliDesign, IsNamedInBlocksAndOfSecondOrderToo)
+{
+  const auto blocks = namedSaltelliDesign(inBlocks(saltelliPoints(16, 3, 7), {0, 1, 2, 3, 4}), 3);
+  ASSERT_TRUE(blocks);
+  EXPECT_EQ(blocks->baseSamples, 16U);
+  EXPECT_FALSE(blocks->interleaved);
+  // 40 runs are also 8 times 3 + 2.
+  const auto second = namedSaltelliDesign(secondOrderPoints(5, 3), 0);
+  ASSERT_TRUE(second);
+  EXPECT_EQ(second->runsPerSample, 8U);
+  EXPECT_EQ(second->baseSamples, 5U);
+}
+
+TEST(SaltelliDesign, CannotBeNamedOfAnotherNumberOfRuns)
+{
+  const ParameterColumns columns = saltelliPoints(20, 3, 7);
+  EXPECT_FALSE(namedSaltelliDesign(columns, 7)) << "100 runs are no multiple of 9 or 16";
+  EXPECT_FALSE(namedSaltelliDesign(columns, 98)) << "a single base sample";
+  EXPECT_FALSE(namedSaltelliDesign(columns, ~std::size_t{0}));
+  EXPECT_FALSE(namedSaltelliDesign({}, 3));
+}

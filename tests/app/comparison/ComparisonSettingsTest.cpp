@@ -198,3 +198,20 @@ TEST_F(ComparisonControls, ExplainThemselves)
   for (const char* name : controlNames)
     EXPECT_FALSE(control(name)->toolTip().isEmpty()) << name;
 }
+
+TEST_F(ComparisonControls, SayWhatIsKnownOfTheDesign)
+{
+  EXPECT_FALSE(isEnabled("designedParameters"));
+  press("saltelliDesign", Qt::Key_Space);
+  EXPECT_EQ(changes.count(), 1);
+  EXPECT_EQ(settings.choice().design, (Talmesh::stats::KnownDesign{true, 0}));
+  EXPECT_TRUE(isEnabled("designedParameters"));
+  press("designedParameters", Qt::Key_Up);
+  EXPECT_EQ(settings.choice().design.parameters, 1U);
+  ComparisonChoice choice;
+  choice.design = {true, 7};
+  settings.setChoice(choice, xyPlot, true);
+  EXPECT_EQ(changes.count(), 2) << "showing announces nothing";
+  press("designedParameters", Qt::Key_Down);
+  EXPECT_EQ(settings.choice().design.parameters, 6U);
+}

@@ -53,6 +53,7 @@ TEST_F(DocumentSession, BringsBackStatesNumbersAndPlots)
   comparison.pThreshold = 0.25;
   comparison.density = true;
   comparison.comparedBy = Talmesh::stats::ComparedBy::rankSum;
+  comparison.design = {true, 3};
   comparison.adjustment = Talmesh::stats::Adjustment::holm;
   document.compareBy(comparison);
   document.groups().setGrouping(2, byPhases);
@@ -70,6 +71,7 @@ TEST_F(DocumentSession, BringsBackStatesNumbersAndPlots)
   EXPECT_TRUE(comparisonChoiceOf(container()).density);
   EXPECT_EQ(comparisonChoiceOf(container()).comparedBy, Talmesh::stats::ComparedBy::rankSum);
   EXPECT_EQ(comparisonChoiceOf(container()).adjustment, Talmesh::stats::Adjustment::holm);
+  EXPECT_EQ(comparisonChoiceOf(container()).design, comparison.design);
   EXPECT_EQ(selectedRuns(), (std::set<int>{0, 1, 4}));
   EXPECT_EQ(numbers(), before);
   EXPECT_EQ(labels(), plots);

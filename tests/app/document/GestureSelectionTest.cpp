@@ -127,3 +127,22 @@ TEST_F(GesturesInCharts, AreNotTakenWhereTheyMeanNoRuns)
   ASSERT_EQ(open("a,b\n1,2\n3,4\n"), "");
   EXPECT_FALSE(wordsOf(gestureIn(container().getTable(), "a", "b", Kind::Click, {{1, 2}})));
 }
+
+TEST_F(GesturesInCharts, ReachAsManyPixelsAsTheyAreTold)
+{
+  // Ten pixels of the scene beside a point of either chart: time 3 of run 2, and k of run 2.
+  vtkTable* table = container().getTable();
+  const auto line = gestureIn(table, table->GetColumnName(2), table->GetColumnName(0), Kind::Click,
+                              {{3.1, value(0, 2 * 8 + 3)}});
+  const auto points = pointPerRun("max(X)");
+  const auto point = gestureIn(points, "k", "max(X)", Kind::Click, {{3.1, 24}});
+  for (const SelectionGesture& click : {line, point})
+  {
+    const TableRuns runs(container());
+    const auto rule = GestureRule::Through;
+    EXPECT_EQ(wordsOfGesture(container(), runs, click, rule), "");
+    EXPECT_EQ(wordsOfGesture(container(), runs, click, rule, 2 * pointingReach), "runs(2)");
+    EXPECT_EQ(nearestRun(container(), runs, click), "");
+    EXPECT_EQ(nearestRun(container(), runs, click, 2 * pointingReach)->rfind("Run 2", 0), 0U);
+  }
+}

@@ -191,3 +191,23 @@ TEST_F(SelectionComparisonOfAChangingParameter, TestsTheOthersOnly)
   EXPECT_EQ(found.parameters[1].obstacle, TestObstacle::none);
   EXPECT_FALSE(std::isnan(found.parameters[1].result.p));
 }
+
+TEST_F(SelectionComparisonOfRuns, HandsRunsOverOnlyWhereTheyAreDrawn)
+{
+  const auto groups = [this] { return ::stateOf(container()).distributionGroups; };
+  const auto show = [this](plotStyles style)
+  {
+    const QSignalBlocker silent(container().getMetaData());
+    container().getMetaData()->setPlotStyle(style);
+  };
+  show(xyPlot);
+  comparison.follow(&container());
+  container().setDistributionGroups(std::nullopt);
+  select(firstRuns(8));
+  comparison.current();
+  EXPECT_FALSE(groups());
+  show(selectionCdfPlot);
+  comparison.current();
+  ASSERT_TRUE(groups());
+  EXPECT_EQ(groups()->at(1).values[0].size(), 8U);
+}

@@ -182,6 +182,8 @@ TEST(RunFilter, PointsToWhatIsWrong)
       faultOf("lg(alpha) > 2"),
       "0: there is no function lg; there are min, max, mean, first, final, at, peaks, period, "
       "through, inside, crosses, lasso, dot, dotlasso, runs, abs, sqrt, exp, ln, log10");
+  EXPECT_EQ(faultOf("alpha < 1e999"), "8: this number is too large");
+  EXPECT_EQ(faultOf("through(TetR, 0, 1, 0, 2e308)"), "23: this number is too large");
   EXPECT_EQ(faultOf("alpha >"), "7: a name or a number is missing here");
 }
 

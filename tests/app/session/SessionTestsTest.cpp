@@ -39,3 +39,15 @@ TEST(SessionTests, KeepSeedAndSides)
     EXPECT_EQ(readTests({{"seed", seed}}).seed, 1.0);
   EXPECT_EQ(readTests({{"looked", -1}}).looked, 0);
 }
+
+TEST(SessionTests, KeepTheDesign)
+{
+  SessionTests tests;
+  tests.design = "saltelli";
+  tests.designedParameters = 4;
+  const SessionTests read = readTests(objectOf(tests));
+  EXPECT_EQ(read.design, "saltelli");
+  EXPECT_EQ(read.designedParameters, 4);
+  EXPECT_FALSE(objectOf(SessionTests()).contains("design"));
+  EXPECT_EQ(readTests({{"designedParameters", -4}}).designedParameters, 0);
+}

@@ -239,6 +239,18 @@ TEST_F(KeptColoursInWindow, AreNotThoseOfGroupsOnThePageOfCoursesWhereNothingIsK
         << courses->GetPlot(i)->GetLabel();
 }
 
+TEST_F(KeptColoursInWindow, HaveNoKeyWhereTheyAreOfOtherRuns)
+{
+  showKept(true);
+  for (const plotStyles style : {parallelCoordinates, scatterPlotMatrix})
+  {
+    chooseStyle(style);
+    ASSERT_FALSE(key().isEmpty()) << style;
+    colourCharts(container(), groupsOfKept(window.document().kept().list(), 5));
+    EXPECT_EQ(key(), QStringList()) << style;
+  }
+}
+
 TEST_F(KeptColoursInWindow, LeaveTheStyleAsItIsWhenTheyAreNoLongerWanted)
 {
   group(2);

@@ -32,6 +32,13 @@ TEST_F(MainWindowWithRuns, OpensAFileAndSaysHowMuchItHolds)
   EXPECT_EQ(container().getChartXY()->GetNumberOfPlots(), 1);
 }
 
+TEST_F(MainWindowWithRuns, ExportsNothingUntilSomethingIsOpen)
+{
+  EXPECT_FALSE(window->findChild<QAction*>("exportPlot")->isEnabled());
+  openSample();
+  EXPECT_TRUE(window->findChild<QAction*>("exportPlot")->isEnabled());
+}
+
 TEST_F(MainWindowWithRuns, OpensTheExampleStudy)
 {
   window->openExample();
