@@ -273,6 +273,10 @@
         <source>Not tested. By its name it tells replicates apart: without it, runs have equal parameters and are compared as sets.</source>
         <translation>Nicht getestet. Dem Namen nach unterscheidet er Replikate: ohne ihn haben Läufe gleiche Parameter und werden als Sätze verglichen.</translation>
     </message>
+    <message>
+        <source>The runs are no Saltelli design of so many parameters, which has k + 2 or 2 k + 2 runs for each base sample.</source>
+        <translation>Die Läufe sind kein Saltelli-Plan von so vielen Parametern, der k + 2 oder 2 k + 2 Läufe je Grundstichprobe hat.</translation>
+    </message>
 </context>
 <context>
     <name>FileDialogs</name>
@@ -1130,6 +1134,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>there is not enough memory for this condition</source>
         <translation>der Speicher reicht für diese Bedingung nicht</translation>
+    </message>
+    <message>
+        <source>this number is too large</source>
+        <translation>diese Zahl ist zu groß</translation>
     </message>
 </context>
 <context>
@@ -2086,6 +2094,21 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Wrote %1</source>
         <translation>%1 geschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::DesignBox</name>
+    <message>
+        <source>Saltelli design</source>
+        <translation>Saltelli-Plan</translation>
+    </message>
+    <message>
+        <source>The parameter sets are known to be a Saltelli design, for Sobol indices: k + 2 or 2 k + 2 runs for each base sample, which are not independent. Without this, such a design is recognised by its values</source>
+        <translation>Die Parametersätze sind bekanntlich ein Saltelli-Plan, für Sobol-Indizes: k + 2 oder 2 k + 2 Läufe je Grundstichprobe, die nicht unabhängig sind. Sonst wird ein solcher Plan an seinen Werten erkannt</translation>
+    </message>
+    <message>
+        <source>k: all that vary</source>
+        <translation>k: alle, die sich ändern</translation>
     </message>
 </context>
 <context>
