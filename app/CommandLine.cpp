@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 
+#include "app/DesignOption.h"
 #include "app/ImportOptions.h"
 #include "app/OptionValues.h"
 #include "app/comparison/ComparisonChoice.h"
@@ -21,8 +22,6 @@ namespace
 
 constexpr int smallestSide = 16;
 constexpr int largestSide = 16384;
-/// More parameters than a table has columns.
-constexpr std::size_t mostDesigned = 100'000;
 
 /// The bytes of an argument, which Qt's parser gets as a file's name: no byte is lost in that.
 std::string bytesOf(const QString& argument)
@@ -89,16 +88,9 @@ std::string readSeed(const std::string& value, CommandLineOptions& options)
 
 std::string readDesign(const std::string& value, CommandLineOptions& options)
 {
-  const std::string_view text = value;
-  const std::string_view name = text.substr(0, text.find(':'));
-  stats::KnownDesign design{true, 0};
-  const bool isCounted = name.size() < text.size();
-  if (name != "saltelli" ||
-      (isCounted &&
-       !readNumber<std::size_t>(text.substr(name.size() + 1), 1, mostDesigned, design.parameters)))
-    return "--design takes saltelli, or saltelli:K for K parameters, not " + value;
-  options.design = design;
-  return {};
+  options.design = readDesignOption(value);
+  return options.design ? std::string()
+                        : "--design takes saltelli, or saltelli:K for K parameters, not " + value;
 }
 
 std::string readExport(const std::string& value, CommandLineOptions& options)
