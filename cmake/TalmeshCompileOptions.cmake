@@ -1,7 +1,12 @@
 # Warnings and sanitizers for this project's own targets; clients that link the library inherit neither.
 add_library(talmesh_options INTERFACE)
-target_compile_options(talmesh_options INTERFACE
-  -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+target_compile_options(talmesh_options INTERFACE -Wall -Wextra -Wnon-virtual-dtor -Woverloaded-virtual)
+# Names of other files are no warning where these are compiled in one go; that is checked where each is compiled alone.
+set(together $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
+target_compile_options(talmesh_options INTERFACE $<$<NOT:${together}>:-Wshadow>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(talmesh_options INTERFACE $<${together}:-Wno-subobject-linkage>)
+endif()
 # Functions of a shared library may be replaced when it is loaded, which keeps compilers from inlining them even
 # within their own file, unless they are told that nobody does so.
 target_compile_options(talmesh_options INTERFACE $<$<CONFIG:Release>:-fno-semantic-interposition>)

@@ -25,6 +25,7 @@ set_target_properties(talmesh_objects PROPERTIES
   VISIBILITY_INLINES_HIDDEN ON)
 vtk_module_autoinit(TARGETS talmesh_objects MODULES ${VTK_LIBRARIES})
 talmesh_precompile(talmesh_objects)
+talmesh_compile_together(talmesh_objects)
 
 # The tree's public headers and nothing else, under the paths that they are installed at.
 set(public_include ${PROJECT_BINARY_DIR}/include)

@@ -6,6 +6,9 @@
 
 namespace Talmesh::stats
 {
+/// Numbers to copy or count that are worth a thread.
+inline constexpr std::size_t numbersOfPart = 65536;
+
 /// Calls `work(first, last)` for consecutive parts of [0, count), `size` items each but the last
 /// one, on as many threads as the machine has cores; the caller's is one of them. Returns when all
 /// parts are done.

@@ -19,14 +19,11 @@ vtkIdType toMarker(double value)
   return std::abs(value) < 9.0e18 ? static_cast<vtkIdType>(value) : 0;
 }
 
-/// Enough rows to be worth a thread.
-constexpr std::size_t rowsOfPart = 65536;
-
 /// Pages that the system has yet to give take longer than what is copied into them.
 vtkIdType copyValues(const vtkIdType* from, std::size_t count, vtkIdType* to)
 {
   std::atomic<vtkIdType> marked{0};
-  stats::inParallelParts(count, rowsOfPart,
+  stats::inParallelParts(count, stats::numbersOfPart,
                          [&](std::size_t first, std::size_t last)
                          {
                            std::copy(from + first, from + last, to + first);

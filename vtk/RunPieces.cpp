@@ -10,9 +10,6 @@ namespace Talmesh
 {
 namespace
 {
-/// Worth a thread.
-constexpr vtkIdType rowsOfPart = 65536;
-
 /// Of how many entries a run has.
 std::vector<CountedRun> runsWithEntries(const std::vector<vtkIdType>& entries, vtkIdType stride)
 {
@@ -66,17 +63,17 @@ std::vector<CountedRun> countMarkedRuns(const vtkIdType* rows, vtkIdType rowCoun
                                         vtkIdType runCount, vtkIdType stride)
 {
   std::vector<vtkIdType> entries(static_cast<std::size_t>(runCount), 0);
-  stats::inParallelParts(entries.size(), static_cast<std::size_t>(rowsOfPart / stride + 1),
-                         [&](std::size_t first, std::size_t last)
-                         {
-                           for (std::size_t run = first; run < last; ++run)
-                           {
-                             const vtkIdType from =
-                                 std::min(rowCount, static_cast<vtkIdType>(run) * stride);
-                             const vtkIdType end = std::min(rowCount, from + stride);
-                             entries[run] = end - from - std::count(rows + from, rows + end, 0);
-                           }
-                         });
+  stats::inParallelParts(
+      entries.size(), stats::numbersOfPart / static_cast<std::size_t>(stride) + 1,
+      [&](std::size_t first, std::size_t last)
+      {
+        for (std::size_t run = first; run < last; ++run)
+        {
+          const vtkIdType from = std::min(rowCount, static_cast<vtkIdType>(run) * stride);
+          const vtkIdType end = std::min(rowCount, from + stride);
+          entries[run] = end - from - std::count(rows + from, rows + end, 0);
+        }
+      });
   return runsWithEntries(entries, stride);
 }
 

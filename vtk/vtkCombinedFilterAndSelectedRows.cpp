@@ -22,9 +22,6 @@ vtkStandardNewMacro(vtkCombinedFilterAndSelectedRows);
 
 namespace
 {
-/// Enough rows to be worth a thread.
-constexpr std::size_t rowsOfPart = 65536;
-
 /// The rows to divide.
 struct Rows
 {
@@ -198,7 +195,7 @@ std::optional<Split> splitRows(const Rows& rows)
   Split split(rows.count());
   // A part has a place for each selected time, which must not take longer than its rows.
   const std::size_t runsOfPart =
-      std::max<std::size_t>(std::max(rowsOfPart, times.size()) / rows.stride, 1);
+      std::max<std::size_t>(std::max(Talmesh::stats::numbersOfPart, times.size()) / rows.stride, 1);
   struct Outputs
   {
     Blocks blocks[2];

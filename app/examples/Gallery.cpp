@@ -122,7 +122,7 @@ std::string write(const GalleryView& view, const Study& study, const QDir& folde
 }
 
 /// These views and those of the comparisons and of published data.
-std::vector<GalleryView> joined(std::vector<GalleryView> views)
+std::vector<GalleryView> allViews(std::vector<GalleryView> views)
 {
   for (const auto* further : {&statisticsViews(), &publishedViews()})
     views.insert(views.end(), further->begin(), further->end());
@@ -139,14 +139,14 @@ const std::vector<GalleryView>& galleryViews()
     { return drawLastPoints(study, document, style); };
   };
   static const std::vector<GalleryView> views =
-      joined({{"example", drawExample},
-              {"xyPlot-runs", drawRuns},
-              {"xyPlot-series", drawSeveralSeries},
-              {"xyPlot-points", drawPoints},
-              {"timeCourses", drawCourses},
-              {"scatterPlotMatrix", lastPointsIn(scatterPlotMatrix)},
-              {"xyzPlot", lastPointsIn(xyzPlot)},
-              {"parallelCoordinates", lastPointsIn(parallelCoordinates)}});
+      allViews({{"example", drawExample},
+                {"xyPlot-runs", drawRuns},
+                {"xyPlot-series", drawSeveralSeries},
+                {"xyPlot-points", drawPoints},
+                {"timeCourses", drawCourses},
+                {"scatterPlotMatrix", lastPointsIn(scatterPlotMatrix)},
+                {"xyzPlot", lastPointsIn(xyzPlot)},
+                {"parallelCoordinates", lastPointsIn(parallelCoordinates)}});
   return views;
 }
 

@@ -11,7 +11,7 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr double missing = std::numeric_limits<double>::quiet_NaN();
+constexpr double undefined = std::numeric_limits<double>::quiet_NaN();
 
 bool isPoint(const RunCourse& course, std::size_t i)
 {
@@ -21,7 +21,7 @@ bool isPoint(const RunCourse& course, std::size_t i)
 template <typename Better>
 double extremeOf(const RunCourse& course, Better better)
 {
-  double extreme = missing;
+  double extreme = undefined;
   for (std::size_t i = 0; i < course.size; ++i)
   {
     if (isPoint(course, i) && (std::isnan(extreme) || better(course.y[i], extreme)))
@@ -139,7 +139,7 @@ double meanOf(const RunCourse& course)
 {
   const Points points(course);
   if (points.y.empty())
-    return missing;
+    return undefined;
   const auto count = static_cast<double>(points.y.size());
   const double mean = std::accumulate(points.y.begin(), points.y.end(), 0.0) / count;
   if (std::isfinite(mean))
@@ -159,12 +159,12 @@ double meanOf(const RunCourse& course)
 
 double firstOf(const RunCourse& course)
 {
-  return course.size == 0 ? missing : course.y[0];
+  return course.size == 0 ? undefined : course.y[0];
 }
 
 double finalOf(const RunCourse& course)
 {
-  return course.size == 0 ? missing : course.y[course.size - 1];
+  return course.size == 0 ? undefined : course.y[course.size - 1];
 }
 
 double valueAt(const RunCourse& course, double time)
@@ -176,11 +176,11 @@ double valueAt(const RunCourse& course, double time)
     if (i == 0 || !(course.x[i - 1] < time && time < course.x[i]))
       continue;
     if (!std::isfinite(course.y[i - 1]) || !std::isfinite(course.y[i]))
-      return missing;
+      return undefined;
     const double part = (time - course.x[i - 1]) / (course.x[i] - course.x[i - 1]);
     return course.y[i - 1] * (1 - part) + course.y[i] * part;
   }
-  return missing;
+  return undefined;
 }
 
 std::vector<double> peaksOf(const RunCourse& course, double prominence)
@@ -205,7 +205,7 @@ double periodOf(const RunCourse& course, double prominence)
 {
   const std::vector<double> times = peaksOf(course, prominence);
   if (times.size() < 2)
-    return missing;
+    return undefined;
   std::vector<double> distances;
   for (std::size_t i = 1; i < times.size(); ++i)
     distances.push_back(times[i] - times[i - 1]);

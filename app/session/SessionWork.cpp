@@ -15,7 +15,7 @@ namespace Talmesh::app
 namespace
 {
 
-std::vector<bool> selectedRows(const PlotContainer& container)
+std::vector<bool> markedRows(const PlotContainer& container)
 {
   const vtkSmartPointer<vtkIntArray> flags = plot::selectionFlags(stateOf(container));
   if (!flags)
@@ -36,7 +36,7 @@ SessionWork workOf(const SessionSource& source)
 {
   SessionSettings settings = settingsOf(source);
   SessionWork work;
-  work.selected = selectedRows(source.container);
+  work.selected = markedRows(source.container);
   work.groupOfRun.swap(settings.groups.groupOfRun);
   work.normalised.swap(settings.normalised);
   work.selections.swap(settings.kept);

@@ -13,7 +13,7 @@ using SampleRuns::valuesOf;
 namespace
 {
 
-constexpr double inf = std::numeric_limits<double>::infinity();
+constexpr double unbounded = std::numeric_limits<double>::infinity();
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 /// What every plot of the fit looks like in a container of style 0.
@@ -132,7 +132,7 @@ TEST_F(UnusableResiduals, OfAZeroReferencePaintOverTheRowIndex)
   other.normalizeToReference = true;
   predictions = {{0.0, 4.0, -1.0}};
   show(other, false, false);
-  EXPECT_EQ(column("Residual M 0")[1], -inf);
+  EXPECT_EQ(column("Residual M 0")[1], -unbounded);
   expectPaintsOnFiniteAxes();
   predictions = {{0.0, 4.0, -1.0}};
   show(other, false, true);
@@ -158,7 +158,7 @@ TEST_F(UnusableResiduals, OfZeroErrorsPaintOverTheRowIndex)
   keepOneOutput();
   other.errors = {{0.0, 0.0, 0.0}};
   show(other, true, false);
-  EXPECT_EQ(column("Residual M 0")[0], -inf);
+  EXPECT_EQ(column("Residual M 0")[0], -unbounded);
   expectPaintsOnFiniteAxes();
   EXPECT_EQ(errors.text(), "");
 }

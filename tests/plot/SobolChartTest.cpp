@@ -23,8 +23,6 @@ using SampleRuns::valuesOf;
 namespace
 {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-
 class SobolChart : public SobolFixture
 {
 };
@@ -271,7 +269,8 @@ TEST_F(SobolChart, NoParametersOrNoTimesPaintWithoutComplaint)
 TEST_F(SobolChart, UnorderedAndUnknownTimesPaintWithoutComplaint)
 {
   VtkErrors errors;
-  for (const double time : {nan, std::numeric_limits<double>::infinity(), -1.0})
+  for (const double time :
+       {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), -1.0})
   {
     *result.timePoints = {5.0, time, 2.0};
     showOverTime(false, 1);

@@ -33,7 +33,7 @@ std::set<int> runsOf(const std::string& text)
 using Runs = std::set<int>;
 
 /// "3: what is wrong" for a filter that is wrong from its byte 3 on; it selects nothing.
-std::string faultOf(const std::string& text)
+std::string faultOfFilter(const std::string& text)
 {
   FilterFault fault;
   const RunFilter filter = RunFilter::read(text, sample, fault);
@@ -77,8 +77,8 @@ TEST(RunFilter, KnowsAllAndNoneWhereAConditionIsWanted)
   EXPECT_EQ(runsOf("none"), Runs{});
   EXPECT_EQ(runsOf("not (none)"), (Runs{101, 102, 103, 104}));
   EXPECT_EQ(runsOf("all and alpha < 5 or (none)"), (Runs{101, 102}));
-  EXPECT_EQ(faultOf("all < 5"), "0: no column all");
-  EXPECT_EQ(faultOf("max(none) > 1"), "4: no column none");
+  EXPECT_EQ(faultOfFilter("all < 5"), "0: no column all");
+  EXPECT_EQ(faultOfFilter("max(none) > 1"), "4: no column none");
 }
 
 TEST(RunFilter, TellsOneOrTheOtherFromBoth)
@@ -160,31 +160,32 @@ TEST(RunFilter, SelectsRunsByNumber)
 
 TEST(RunFilter, PointsToWhatIsWrong)
 {
-  EXPECT_EQ(faultOf("max(LacI) > 3"), "4: no column LacI");
-  EXPECT_EQ(faultOf("alpha > 1 and TetR > 3"),
+  EXPECT_EQ(faultOfFilter("max(LacI) > 3"), "4: no column LacI");
+  EXPECT_EQ(faultOfFilter("alpha > 1 and TetR > 3"),
             "14: TetR changes during a run: say max(TetR), final(TetR) or another number of it");
-  EXPECT_EQ(faultOf("max(TetR)"), "0: a condition is wanted here, such as \"max(A) > 1\"");
-  EXPECT_EQ(faultOf("alpha > (alpha < 3)"), "9: a number is wanted here, not a condition");
-  EXPECT_EQ(faultOf("alpha > through(TetR, 1, 2, 3, 4)"),
+  EXPECT_EQ(faultOfFilter("max(TetR)"), "0: a condition is wanted here, such as \"max(A) > 1\"");
+  EXPECT_EQ(faultOfFilter("alpha > (alpha < 3)"), "9: a number is wanted here, not a condition");
+  EXPECT_EQ(faultOfFilter("alpha > through(TetR, 1, 2, 3, 4)"),
             "8: a number is wanted here, not a condition");
-  EXPECT_EQ(faultOf("max(3) > 2"), "4: the name of an item is wanted here");
-  EXPECT_EQ(faultOf("max() > 2"), "0: max takes an item: the name of a column");
-  EXPECT_EQ(faultOf("max(TetR, 3) > 2"), "0: max takes one item and nothing else");
-  EXPECT_EQ(faultOf("at(TetR) > 2"), "0: at takes an item and one number");
-  EXPECT_EQ(faultOf("1 < peaks(TetR, 1, 2)"), "4: peaks takes an item and at most one number");
-  EXPECT_EQ(faultOf("through(TetR, 1, 2, 3)"), "0: through takes an item and 4 numbers");
-  EXPECT_EQ(faultOf("lasso(TetR, 1, 2, 3, 4, 5)"),
+  EXPECT_EQ(faultOfFilter("max(3) > 2"), "4: the name of an item is wanted here");
+  EXPECT_EQ(faultOfFilter("max() > 2"), "0: max takes an item: the name of a column");
+  EXPECT_EQ(faultOfFilter("max(TetR, 3) > 2"), "0: max takes one item and nothing else");
+  EXPECT_EQ(faultOfFilter("at(TetR) > 2"), "0: at takes an item and one number");
+  EXPECT_EQ(faultOfFilter("1 < peaks(TetR, 1, 2)"),
+            "4: peaks takes an item and at most one number");
+  EXPECT_EQ(faultOfFilter("through(TetR, 1, 2, 3)"), "0: through takes an item and 4 numbers");
+  EXPECT_EQ(faultOfFilter("lasso(TetR, 1, 2, 3, 4, 5)"),
             "0: lasso takes an item and three or more points, each a time and a value");
-  EXPECT_EQ(faultOf("runs()"), "0: runs takes one or more numbers");
-  EXPECT_EQ(faultOf("ln(1, 2) > 0"), "0: ln takes one number");
-  EXPECT_EQ(faultOf("max(TetR over alpha) > 0"), "0: max looks at one item over time");
+  EXPECT_EQ(faultOfFilter("runs()"), "0: runs takes one or more numbers");
+  EXPECT_EQ(faultOfFilter("ln(1, 2) > 0"), "0: ln takes one number");
+  EXPECT_EQ(faultOfFilter("max(TetR over alpha) > 0"), "0: max looks at one item over time");
   EXPECT_EQ(
-      faultOf("lg(alpha) > 2"),
+      faultOfFilter("lg(alpha) > 2"),
       "0: there is no function lg; there are min, max, mean, first, final, at, peaks, period, "
       "through, inside, crosses, lasso, dot, dotlasso, runs, abs, sqrt, exp, ln, log10");
-  EXPECT_EQ(faultOf("alpha < 1e999"), "8: this number is too large");
-  EXPECT_EQ(faultOf("through(TetR, 0, 1, 0, 2e308)"), "23: this number is too large");
-  EXPECT_EQ(faultOf("alpha >"), "7: a name or a number is missing here");
+  EXPECT_EQ(faultOfFilter("alpha < 1e999"), "8: this number is too large");
+  EXPECT_EQ(faultOfFilter("through(TetR, 0, 1, 0, 2e308)"), "23: this number is too large");
+  EXPECT_EQ(faultOfFilter("alpha >"), "7: a name or a number is missing here");
 }
 
 TEST(RunFilter, IsGivenUpWhenAsked)

@@ -17,7 +17,7 @@ namespace
 using namespace Talmesh::app;
 using Runs = std::set<int>;
 
-constexpr int manyRuns = 10;
+constexpr int mixedRuns = 10;
 constexpr int points = 6;
 constexpr int operations = 120;
 
@@ -30,7 +30,7 @@ protected:
   {
     QFile file(folder.filePath("many.csv"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray::fromStdString(sampleRuns(manyRuns, points)));
+    file.write(QByteArray::fromStdString(sampleRuns(mixedRuns, points)));
     file.close();
     window.openFile(file.fileName());
     EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isLoading(); }, patience));
@@ -67,7 +67,7 @@ protected:
   static Runs combined(const Runs& before, const Runs& hit, int how)
   {
     Runs after;
-    for (int run = 0; run < manyRuns; ++run)
+    for (int run = 0; run < mixedRuns; ++run)
     {
       const bool was = before.count(run) != 0;
       const bool is = hit.count(run) != 0;
@@ -94,7 +94,7 @@ protected:
 
   void typeCondition()
   {
-    const int from = below(manyRuns);
+    const int from = below(mixedRuns);
     const int how = below(4);
     QComboBox& box = *window.filterLine()->findChild<QComboBox*>();
     QTest::keyClick(&box, Qt::Key_Home);
@@ -106,7 +106,7 @@ protected:
     QTest::keyClicks(&edit, QString("run >= %1 and run < %2").arg(from).arg(from + 3));
     QTest::keyClick(&edit, Qt::Key_Return);
     Runs hit;
-    for (int run = from; run < std::min(from + 3, manyRuns); ++run)
+    for (int run = from; run < std::min(from + 3, mixedRuns); ++run)
       hit.insert(run);
     expect(combined(states[current], hit, how));
   }
@@ -115,7 +115,7 @@ protected:
   void dragRectangle()
   {
     choose(xyPlot);
-    const int run = below(manyRuns);
+    const int run = below(mixedRuns);
     const int how = below(4);
     const double height = 2.0 + std::sin(run);
     drawPixels({pixelOf(0, height + 0.025), pixelOf(0.05, height - 0.025)}, keysOf(how));
@@ -125,7 +125,7 @@ protected:
   void brushAxis()
   {
     choose(parallelCoordinates);
-    const int run = 1 + below(manyRuns - 2);
+    const int run = 1 + below(mixedRuns - 2);
     const int how = below(4);
     vtkAxis* axis = vtkChartParallelCoordinates::SafeDownCast(container().getItem())->GetAxis(0);
     const auto pixel = [&](double k)
@@ -140,7 +140,7 @@ protected:
 
   void clickTable()
   {
-    const int run = below(manyRuns);
+    const int run = below(mixedRuns);
     const bool toggles = below(2) == 1;
     const QModelIndex index = table().model()->index(run, 0);
     table().scrollTo(index);
@@ -190,7 +190,7 @@ protected:
   static Runs all()
   {
     Runs runs;
-    for (int run = 0; run < manyRuns; ++run)
+    for (int run = 0; run < mixedRuns; ++run)
       runs.insert(run);
     return runs;
   }
@@ -224,7 +224,7 @@ protected:
     EXPECT_EQ(runs(), expected);
     EXPECT_EQ(flags(), rows);
     EXPECT_EQ(window.selectionText(),
-              QString("%1 of %2 runs selected").arg(expected.size()).arg(manyRuns));
+              QString("%1 of %2 runs selected").arg(expected.size()).arg(mixedRuns));
     Runs marked;
     for (const QModelIndex& index : table().selectionModel()->selectedRows())
       marked.insert(index.data().toInt());
