@@ -151,7 +151,12 @@ bool vtkSelectableChartXY::PaintChildren(vtkContext2D* painter)
   // The large charts that a matrix had one after another share it, and the last of them to die
   // takes it out of the scene.
   if (Tooltip)
+  {
     Tooltip->SetScene(Scene);
+    // A new one is visible, and the frame of an empty text is no point.
+    if (Tooltip->GetText().empty())
+      Tooltip->SetVisible(false);
+  }
   return Superclass::PaintChildren(painter);
 }
 

@@ -62,7 +62,9 @@ bool vtkSelectableChartXYZ::Paint(vtkContext2D* painter)
                       Reached.GetY() - Pressed->GetY());
   }
   Tooltip->SetScene(Scene);
-  Tooltip->Paint(painter);
+  // The frame of an empty text is no point: one would see it in the corner.
+  if (!Tooltip->GetText().empty())
+    Tooltip->Paint(painter);
   return true;
 }
 

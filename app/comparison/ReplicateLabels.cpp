@@ -16,17 +16,45 @@ namespace
 /// In place of a missing value, which would not be equal to another one.
 constexpr double missingOfSets = -std::numeric_limits<double>::infinity();
 
+/// The words of a name in small letters: "sim", "seed" of "simSeed", "sim_seed" and "Sim. seed 2".
+std::vector<std::string> wordsOf(const std::string& name)
+{
+  std::vector<std::string> words;
+  bool isBegun = false;
+  bool wasSmall = false;
+  for (const char character : name)
+  {
+    const auto letter = static_cast<unsigned char>(character);
+    const bool isCapital = std::isupper(letter) != 0;
+    if (!std::isalpha(letter))
+      isBegun = false;
+    else
+    {
+      if (!isBegun || (isCapital && wasSmall))
+        words.emplace_back();
+      words.back() += static_cast<char>(std::tolower(letter));
+      isBegun = true;
+    }
+    wasSmall = isBegun && !isCapital;
+  }
+  return words;
+}
+
 /// Whether tables number the runs of one set of parameters under this name.
 bool numbersReplicates(const std::string& name)
 {
   static const std::set<std::string> names{
-      "seed",        "randomseed", "rngseed",    "rng",   "rep",         "replica",    "replicate",
-      "replication", "repeat",     "repetition", "trial", "realization", "realisation"};
-  std::string letters;
-  for (const char letter : name)
-    if (std::isalpha(static_cast<unsigned char>(letter)))
-      letters += static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-  return names.count(letters) > 0;
+      "seed",  "rep",         "replica",     "replicate", "replication", "repeat", "repetition",
+      "trial", "realization", "realisation", "rng",       "randomseed",  "rngseed"};
+  static const std::set<std::string> additions{"random", "rand", "sim", "simulation", "run",
+                                               "id",     "no",   "nr",  "num",        "number",
+                                               "index",  "idx",  "of"};
+  const std::vector<std::string> words = wordsOf(name);
+  const auto isName = [](const std::string& word) { return names.count(word) > 0; };
+  return std::any_of(words.begin(), words.end(), isName) &&
+         std::all_of(words.begin(), words.end(),
+                     [&isName](const std::string& word)
+                     { return isName(word) || additions.count(word) > 0; });
 }
 
 bool areWholeNumbers(const std::vector<double>& values)

@@ -65,4 +65,21 @@ TEST(MatrixPainting, ShowsTheTooltipAfterAFormerLargeChartHasDied)
             1);
 }
 
+TEST(MatrixPainting, ShowsNoFrameOfATooltipWithoutText)
+{
+  const PlotScene scene;
+  vtkNew<vtkSelectableScatterPlotMatrix> matrix;
+  scene.scene()->AddItem(matrix);
+  RecordingPainter recording;
+  recording.device->setSize(640, 480);
+  matrix->SetInput(plainTable());
+  matrix->Paint(recording.painter);
+  const auto texts = recording.device->calls(RecordingDevice::Kind::String);
+  EXPECT_FALSE(texts.empty());
+  EXPECT_EQ(
+      std::count_if(texts.begin(), texts.end(), [](const auto& call) { return call.text.empty(); }),
+      0);
+  EXPECT_FALSE(matrix->GetTooltip()->GetVisible());
+}
+
 } // namespace

@@ -27,9 +27,12 @@ ComparedStudy labelled(const std::string& name)
 
 TEST(ReplicateLabels, AreKnownByTheirNames)
 {
-  for (const char* name : {"seed", "Seed", "rng_seed", "random seed", "replicate", "rep", "Trial"})
+  for (const char* name :
+       {"seed", "Seed", "rng_seed", "random seed", "replicate", "rep", "Trial", "replicate_id",
+        "sim_seed", "rep_no", "Replicate number", "simSeed", "REP", "No. of replicate", "rngSeed"})
     EXPECT_EQ(replicateLabels(replicates(name)), Positions{1}) << name;
-  for (const char* name : {"k2", "seeding", "repressor", "temperature"})
+  for (const char* name : {"k2", "seeding", "repressor", "temperature", "seed_rate", "trial_dose",
+                           "reporter", "simulation", "run_id", "2"})
     EXPECT_TRUE(replicateLabels(replicates(name)).empty()) << name;
 }
 
