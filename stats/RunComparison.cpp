@@ -140,12 +140,13 @@ private:
       return NotTested::constant;
     if (isAmong(plan.chosenBy))
       return NotTested::chosenByParameter;
-    if (isAmong(plan.untested))
-      return NotTested::leftUntested;
     if (plan.comparedBy == ComparedBy::counts && row.levels > mostLevels)
       return NotTested::tooManyLevels;
     if (permutes() && units.arrangements() < fewestArrangements)
       return NotTested::tooFewUnits;
+    // Last: what could not be tested anyway has the better reason.
+    if (isAmong(plan.untested))
+      return NotTested::leftUntested;
     return NotTested::tested;
   }
 

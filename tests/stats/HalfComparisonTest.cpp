@@ -119,3 +119,21 @@ TEST(HalfComparison, ChecksItsArguments)
   EXPECT_TRUE(compareHalves({}, {}, {}, differs).tested.parameters.empty());
   EXPECT_THROW(compareHalves({{1, 2}}, {1}, {}, differs), std::invalid_argument);
 }
+
+TEST(HalfComparison, HasTooFewSetsWhereNoHalfCouldDiffer)
+{
+  std::vector<double> values;
+  std::vector<char> selected;
+  for (int set = 0; set < 6; ++set)
+    for (int replicate = 0; replicate < 5; ++replicate)
+    {
+      values.push_back(set);
+      selected.push_back(set < 3 ? 1 : 0);
+    }
+  // Halves of three sets have 6 arrangements at most.
+  const HalfComparison halves = compareHalves({values}, selected, {}, differs);
+  const ParameterComparison& row = halves.tested.parameters[0];
+  ASSERT_GT(row.selected, 0U);
+  ASSERT_GT(row.others, 0U);
+  EXPECT_EQ(row.reason, NotTested::tooFewUnits);
+}
