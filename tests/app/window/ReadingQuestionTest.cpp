@@ -86,6 +86,7 @@ TEST_F(TableOfTwoReadings, MayBeSeveralFiles)
   window.openFiles(files);
   ASSERT_TRUE(QTest::qWaitFor([this] { return box() != nullptr; }, patience));
   click("A file per item");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return window.sizeText().startsWith("3 runs"); }, patience));
+  ASSERT_TRUE(
+      QTest::qWaitFor([this] { return window.windowTitle().startsWith("2 files"); }, patience));
   EXPECT_EQ(window.sizeText(), "3 runs, 2 points each, 0 parameters");
 }
