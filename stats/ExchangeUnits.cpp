@@ -114,7 +114,8 @@ ParameterColumns columnsOfSets(const ParameterColumns& columns, const ParameterS
   }
   return reduced;
 }
-/// Nothing where there are too few runs or too many for such a design.
+
+/// Nothing where their number is none of such a design.
 std::optional<ExchangeUnits> knownBaseSamples(const ParameterColumns& columns,
                                               std::size_t parameters)
 {
@@ -158,6 +159,7 @@ ExchangeUnits partOfUnits(const ExchangeUnits& units, const std::vector<char>& i
       keepsCell[units.cellOfRun[run]] = 1;
   ExchangeUnits part;
   part.kind = units.kind;
+  part.contradictsDesign = units.contradictsDesign;
   Numbers cellNow(units.runsOfCell.size(), none);
   Numbers unitNow(units.units(), none);
   for (std::uint32_t unit = 0; unit < units.units(); ++unit)
@@ -211,14 +213,11 @@ ExchangeUnits onlyCompared(ExchangeUnits units, const std::vector<char>& leftOut
   return units;
 }
 
-ExchangeUnits exchangeUnits(const ParameterColumns& columns, const KnownDesign& known)
+namespace
+{
+ExchangeUnits recognisedUnits(const ParameterColumns& columns)
 {
   const std::size_t runs = runsIn(columns);
-  if (known.isSaltelli)
-  {
-    if (auto units = knownBaseSamples(columns, known.parameters))
-      return *units;
-  }
   if (const auto design = recogniseSaltelliDesign(columns))
   {
     // Points may coincide and are points of their own all the same.
@@ -234,5 +233,16 @@ ExchangeUnits exchangeUnits(const ParameterColumns& columns, const KnownDesign& 
   if (const auto groups = linkedRuns(points))
     return linkedGroups(*groups, sets);
   return sets.replicated() ? wholeSets(std::move(sets)) : singleRuns(runs);
+}
+} // namespace
+
+ExchangeUnits exchangeUnits(const ParameterColumns& columns, const KnownDesign& known)
+{
+  if (known.isSaltelli)
+    if (auto units = knownBaseSamples(columns, known.parameters))
+      return *units;
+  ExchangeUnits units = recognisedUnits(columns);
+  units.contradictsDesign = known.isSaltelli;
+  return units;
 }
 } // namespace Talmesh::stats

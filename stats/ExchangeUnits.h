@@ -20,6 +20,8 @@ struct ExchangeUnits
   std::vector<std::uint32_t> runsOfCell;
   /// First cell of each unit, then the number of cells.
   std::vector<std::uint32_t> firstCell;
+  /// Whether the runs cannot be of the design that they are said to be of.
+  bool contradictsDesign = false;
   /// Units that may change places: those of as many cells of as many runs. In order of their size.
   std::vector<std::vector<std::uint32_t>> classes;
 

@@ -25,6 +25,7 @@ UnitSummary summaryOf(const ExchangeUnits& units)
 {
   UnitSummary summary;
   summary.kind = units.kind;
+  summary.contradictsDesign = units.contradictsDesign;
   for (const std::vector<std::uint32_t>& members : units.classes)
     for (const std::uint32_t unit : members)
     {
@@ -80,8 +81,6 @@ public:
       , groups(groupsOf(units, selected, comparisonPlan.leftOut))
   {
     result.units = summaryOf(units);
-    result.units.contradictsDesign =
-        plan.design.isSaltelli && units.kind != IndependentUnit::baseSample;
     result.parameters.resize(columns.size());
   }
 

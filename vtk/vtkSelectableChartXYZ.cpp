@@ -62,9 +62,7 @@ bool vtkSelectableChartXYZ::Paint(vtkContext2D* painter)
                       Reached.GetY() - Pressed->GetY());
   }
   Tooltip->SetScene(Scene);
-  // The frame of an empty text is no point: one would see it in the corner.
-  if (!Tooltip->GetText().empty())
-    Tooltip->Paint(painter);
+  Tooltip->Paint(painter);
   return true;
 }
 

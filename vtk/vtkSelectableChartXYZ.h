@@ -54,7 +54,8 @@ public:
   void SetPoints(vtkTable* table, std::vector<vtkVector3f> points, vtkAnnotationLink* link);
 
 protected:
-  vtkSelectableChartXYZ() = default;
+  // A new tooltip is visible, and has a frame without a text.
+  vtkSelectableChartXYZ() { Tooltip->SetVisible(false); }
   ~vtkSelectableChartXYZ() override = default;
 
 private:

@@ -73,7 +73,8 @@ public:
   void ShowSelection();
 
 protected:
-  vtkSelectableParallelCoordinates() = default;
+  // A new tooltip is visible, and has a frame without a text.
+  vtkSelectableParallelCoordinates() { Tooltip->SetVisible(false); }
   ~vtkSelectableParallelCoordinates() override = default;
 
 private:

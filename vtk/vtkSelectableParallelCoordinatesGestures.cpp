@@ -239,7 +239,5 @@ void vtkSelectableParallelCoordinates::PaintGestures(vtkContext2D* painter)
   if (drawn >= 0 && drawn < static_cast<int>(GetNumberOfAxes()))
     PaintBrush(painter, drawn, Talmesh::brushOf(*this, drawn, {BrushedFrom, BrushedTo}));
   Tooltip->SetScene(Scene);
-  // The frame of an empty text is no point: one would see it in the corner.
-  if (!Tooltip->GetText().empty())
-    Tooltip->Paint(painter);
+  Tooltip->Paint(painter);
 }

@@ -155,13 +155,14 @@ void SelectionHistory::restart(const std::string& words, const std::vector<std::
     const Snapshot rows = followed->selected();
     followed->current = {rows, {}, {}};
     if (isAny(rows))
+    {
       followed->current.words = words.empty() && naming && followed->container
                                     ? wordsAfter({}, false, naming(*followed->container).step)
                                     : words;
-    if (isAny(rows))
       followed->current.conditions = asked;
-    if (!followed->current.words.empty())
-      followed->current.conditions.push_back(followed->current.words);
+      if (!followed->current.words.empty())
+        followed->current.conditions.push_back(followed->current.words);
+    }
   }
   first = followed ? followed->current.words : std::string();
   dropped = 0;

@@ -16,9 +16,6 @@ namespace
 
 using Kind = FilterNode::Kind;
 
-/// Between two looks at the progress.
-constexpr std::size_t runsAtATime = 64;
-
 /// One run as filters see it.
 struct FilteredRun
 {
@@ -288,7 +285,7 @@ Result<std::vector<bool>> RunFilter::select(const NumberedRuns& runs,
   for (std::size_t run = 0; run < selected.size(); ++run)
   {
     const double done = static_cast<double>(run) / static_cast<double>(selected.size());
-    if (progress && run % runsAtATime == 0 && !progress(done))
+    if (progress && !progress(done))
       return Result<std::vector<bool>>::cancelled();
     selected[run] = selects(runs, run);
   }

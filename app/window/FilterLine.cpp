@@ -103,11 +103,9 @@ QString FilterLine::fault() const
 void FilterLine::apply()
 {
   const auto how = static_cast<RunCombination>(combination->currentData().toInt());
-  const std::vector<bool> before = selection.selectedRuns();
   const FilterFault fault = selection.selectWhere(line->text().toStdString(), how);
-  // Of a selection that stays as it is nobody hears.
-  applied = fault.text.empty() && (selection.isSearching() || selection.selectedRuns() != before);
-  line->setModified(!fault.text.empty());
+  applied = fault.text.empty();
+  line->setModified(!applied);
   showFault(fault);
 }
 

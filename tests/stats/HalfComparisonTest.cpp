@@ -65,6 +65,21 @@ TEST(HalfComparison, KeepsTheRunsOfASetTogether)
   EXPECT_EQ(samples.tested.units.kind, IndependentUnit::baseSample);
 }
 
+TEST(HalfComparison, SaysThatRunsAreNotOfTheDesignThatIsNamed)
+{
+  const SimulatedStudy study = simulateStudy(StudyDesign::saltelli, true, 3);
+  // Seven parameters take nine runs a base sample; the design of the values is recognised.
+  ComparisonPlan plan;
+  plan.design = {true, 7};
+  ASSERT_NE(study.selected.size() % 9, 0U);
+  EXPECT_TRUE(compareRuns(study.columns, study.selected, plan).units.contradictsDesign);
+  const HalfComparison halves = compareHalves(study.columns, study.selected, plan, differs);
+  EXPECT_TRUE(halves.explored.units.contradictsDesign);
+  EXPECT_TRUE(halves.tested.units.contradictsDesign);
+  plan.design = {};
+  EXPECT_FALSE(compareRuns(study.columns, study.selected, plan).units.contradictsDesign);
+}
+
 TEST(HalfComparison, SplitsByTheSeed)
 {
   const SimulatedStudy study = simulateStudy(StudyDesign::singleRuns, false, 3);

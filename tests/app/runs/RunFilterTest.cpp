@@ -193,5 +193,8 @@ TEST(RunFilter, IsGivenUpWhenAsked)
   FilterFault fault;
   const RunFilter filter = RunFilter::read("alpha > 0", sample, fault);
   EXPECT_TRUE(filter.select(sample, [](double) { return false; }).isCancelled());
+  int asked = 0;
+  const auto once = [&asked](double) { return ++asked < 2; };
+  EXPECT_TRUE(filter.select(sample, once).isCancelled()) << "between any two runs";
   EXPECT_EQ(filter.select(sample, {}).value(), (std::vector<bool>{true, true, false, true}));
 }

@@ -122,6 +122,15 @@ TEST_F(FilterLineInWindow, OffersNoColumnsThatMarkASelection)
   EXPECT_FALSE(line().fault().contains("Selection")) << line().fault().toStdString();
 }
 
+TEST_F(FilterLineInWindow, KeepsWhatIsTypedThoughItSelectsWhatIsSelected)
+{
+  type("run > 99");
+  EXPECT_EQ(edit().text(), "run > 99") << "nothing";
+  type("run > 0");
+  type("run >= 1");
+  EXPECT_EQ(edit().text(), "run >= 1") << "the same runs";
+}
+
 TEST_F(FilterLineInWindow, NamesEachStepByItsWords)
 {
   QUndoStack& steps = window.selectionController()->undoStack();
