@@ -16,14 +16,16 @@
 /// to 2.24.
 class GesturesInWindow : public SelectionInWindow
 {
-protected:
-  using Tool = Talmesh::SelectionTool;
-  using Rule = Talmesh::app::GestureRule;
+public:
   struct Place
   {
     double x;
     double y;
   };
+
+protected:
+  using Tool = Talmesh::SelectionTool;
+  using Rule = Talmesh::app::GestureRule;
 
   ~GesturesInWindow() override { QSettings().clear(); }
 

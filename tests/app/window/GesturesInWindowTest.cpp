@@ -25,7 +25,7 @@ struct Pointing
   Talmesh::SelectionTool tool;
   GestureRule rule;
   /// Of the drag, as x and y.
-  std::vector<std::pair<double, double>> places;
+  std::vector<GesturesInWindow::Place> places;
   Runs hit;
 };
 
@@ -64,10 +64,7 @@ protected:
   {
     choose(pointing.tool);
     choose(pointing.rule);
-    std::vector<Place> places;
-    for (const auto& [x, y] : pointing.places)
-      places.push_back({x, y});
-    draw(places, modifiers);
+    draw(pointing.places, modifiers);
   }
 
   /// What everybody says of the selected runs.
