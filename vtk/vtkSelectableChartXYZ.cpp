@@ -13,6 +13,8 @@
 #include <vtkContextScene.h>
 #include <vtkObjectFactory.h>
 #include <vtkPen.h>
+#include <vtkPlane.h>
+#include <vtkPlaneCollection.h>
 #include <vtkRenderWindowInteractor.h>
 #include <vtkTransform.h>
 #include <vtkVectorOperators.h>
@@ -32,6 +34,8 @@ using Rows = std::vector<vtkIdType>;
 /// Pixels, as all here. So near to the mouse a point is meant by it.
 constexpr float pointingReach = 8.0F;
 constexpr float tooltipOffset = 2.0F;
+/// So far outside the box of the axes a point is still seen.
+constexpr double roomOutside = 0.5;
 
 Gesture gestureOf(vtkTable* table, const Rows& rows, Gesture::Kind kind)
 {
@@ -43,6 +47,15 @@ Gesture gestureOf(vtkTable* table, const Rows& rows, Gesture::Kind kind)
 }
 
 } // namespace
+
+/// A point with the largest or smallest value of an axis lies on a face of the box that what is
+/// painted is clipped to. Rounding would decide whether it is seen: with VTK 9.3 it is not.
+void vtkSelectableChartXYZ::CalculateTransforms()
+{
+  Superclass::CalculateTransforms();
+  for (int i = 0; i < BoundingCube->GetNumberOfItems(); ++i)
+    BoundingCube->GetItem(i)->Push(-roomOutside);
+}
 
 /// VTK's chart writes the numbers of its axes before it tells the painter how to write: in white on
 /// white in the first painting of all, and as the last item wrote in the others.

@@ -58,6 +58,8 @@ protected:
   vtkSelectableChartXYZ() { Tooltip->SetVisible(false); }
   ~vtkSelectableChartXYZ() override = default;
 
+  void CalculateTransforms() override;
+
 private:
   vtkSelectableChartXYZ(const vtkSelectableChartXYZ&) = delete;
   void operator=(const vtkSelectableChartXYZ&) = delete;
