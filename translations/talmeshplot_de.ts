@@ -854,10 +854,6 @@ p, li { white-space: pre-wrap; }
         <translation>Wie ist die Tabelle %1 zu lesen?</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>A file per run</source>
         <translation>Eine Datei je Lauf</translation>
     </message>

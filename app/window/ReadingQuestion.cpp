@@ -16,27 +16,32 @@ namespace Talmesh::app
 namespace
 {
 
+class ReadingWords
+{
+  Q_DECLARE_TR_FUNCTIONS(ReadingQuestion)
+};
+
 /// The names of layouts for people.
 QString titleOf(const ImportCandidate& candidate)
 {
   if (candidate.option == "--decimal ,")
-    return QCoreApplication::translate("ReadingQuestion", "Decimal commas");
+    return ReadingWords::tr("Decimal commas");
   if (candidate.option == "--files runs")
-    return QCoreApplication::translate("ReadingQuestion", "A file per run");
+    return ReadingWords::tr("A file per run");
   if (candidate.option == "--files items")
-    return QCoreApplication::translate("ReadingQuestion", "A file per item");
+    return ReadingWords::tr("A file per item");
   if (candidate.option == "--join order")
-    return QCoreApplication::translate("ReadingQuestion", "In the order of rows");
+    return ReadingWords::tr("In the order of rows");
   if (candidate.layout == "stacked")
-    return QCoreApplication::translate("ReadingQuestion", "Runs one below the other");
+    return ReadingWords::tr("Runs one below the other");
   if (candidate.layout == "tidy")
-    return QCoreApplication::translate("ReadingQuestion", "A value per row");
+    return ReadingWords::tr("A value per row");
   if (candidate.layout == "wide")
-    return QCoreApplication::translate("ReadingQuestion", "A column per run");
+    return ReadingWords::tr("A column per run");
   if (candidate.layout == "rows")
-    return QCoreApplication::translate("ReadingQuestion", "A row per run");
+    return ReadingWords::tr("A row per run");
   if (candidate.layout == "table")
-    return QCoreApplication::translate("ReadingQuestion", "A table without runs");
+    return ReadingWords::tr("A table without runs");
   return QString::fromStdString(candidate.option);
 }
 
@@ -46,10 +51,9 @@ QMessageBox* askForReading(QWidget* window, const QString& name, const ImportRep
                            const ImportRequest& request,
                            std::function<void(const ImportRequest&)> chosen)
 {
-  auto* box = new QMessageBox(
-      QMessageBox::Question, QStringLiteral("Talmesh Plot"),
-      QCoreApplication::translate("ReadingQuestion", "How is the table %1 to be read?").arg(name),
-      QMessageBox::Cancel, window);
+  auto* box = new QMessageBox(QMessageBox::Question, QStringLiteral("Talmesh Plot"),
+                              ReadingWords::tr("How is the table %1 to be read?").arg(name),
+                              QMessageBox::Cancel, window);
   box->setObjectName(QStringLiteral("reading"));
   box->setAttribute(Qt::WA_DeleteOnClose);
   // Names of files and columns are no markup.
@@ -64,9 +68,7 @@ QMessageBox* askForReading(QWidget* window, const QString& name, const ImportRep
       continue;
     const QString title = titleOf(candidate);
     answers.emplace_back(box->addButton(title, QMessageBox::AcceptRole), asked);
-    reasons += QCoreApplication::translate("ReadingQuestion", "%1: %2")
-                   .arg(title, QString::fromStdString(candidate.reason)) +
-               QLatin1Char('\n');
+    reasons += QStringLiteral("%1: %2\n").arg(title, QString::fromStdString(candidate.reason));
   }
   box->setInformativeText(reasons.trimmed());
   QObject::connect(box, &QMessageBox::finished, window,
