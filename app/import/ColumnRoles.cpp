@@ -213,13 +213,20 @@ std::string plottedTimeName(const std::string& name)
 
 bool isRunName(std::string_view name)
 {
-  constexpr std::array<std::string_view, 20> words = {
-      "run",     "runs",    "trajectory", "traj",        "replicate",
-      "rep",     "sim",     "simulation", "realization", "realisation",
-      "subject", "lauf",    "replikat",   "trajektorie", "proband",
-      "essai",   "replica", "corrida",    "simulacion",  "patient"};
-  constexpr std::array<std::string_view, 7> endings = {"",       "id", "index", "idx",
-                                                       "number", "nr", "no"};
+  constexpr std::array<std::string_view, 23> words = {"run",         "runs",
+                                                      "trajectory",  "traj",
+                                                      "replicate",   "rep",
+                                                      "sim",         "simulation",
+                                                      "realization", "realisation",
+                                                      "subject",     "lauf",
+                                                      "durchlauf",   "versuch",
+                                                      "replikat",    "trajektorie",
+                                                      "proband",     "essai",
+                                                      "replica",     "corrida",
+                                                      "simulacion",  "simulaci\xC3\xB3n",
+                                                      "patient"};
+  constexpr std::array<std::string_view, 8> endings = {"",       "id", "index", "idx",
+                                                       "number", "nr", "no",    "#"};
   const std::string joined = withoutSeparators(lowerCase(bare(name)));
   for (const std::string_view word : words)
     if (joined.size() >= word.size() && joined.compare(0, word.size(), word) == 0 &&

@@ -145,4 +145,26 @@ std::optional<DateText> readDate(std::string_view cell)
   return parts.isEmpty() ? std::make_optional(date) : std::nullopt;
 }
 
+bool isLocalDate(std::string_view cell)
+{
+  const std::string_view text = withoutOuterBlanks(cell);
+  std::size_t at = 0;
+  const auto digits = [&]
+  {
+    const std::size_t begin = at;
+    while (at < text.size() && isDigit(text[at]))
+      ++at;
+    return at - begin;
+  };
+  for (int part = 0; part < 2; ++part)
+  {
+    const std::size_t length = digits();
+    if (length < 1 || length > 2 || at == text.size() ||
+        (text[at] != '.' && text[at] != '/' && text[at] != '-'))
+      return false;
+    ++at;
+  }
+  return digits() == 4 && (at == text.size() || text[at] == ' ' || text[at] == ',');
+}
+
 } // namespace Talmesh::app

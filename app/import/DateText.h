@@ -20,6 +20,10 @@ struct DateText
 /// anything else. Dates without a zone are taken for UTC.
 std::optional<DateText> readDate(std::string_view text);
 
+/// Whether a text is a date in another order, as 01.03.2024 and 3/1/2024, whose day and month could
+/// be taken for each other.
+bool isLocalDate(std::string_view text);
+
 inline bool isDateText(std::string_view text)
 {
   return readDate(text).has_value();

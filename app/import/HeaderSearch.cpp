@@ -247,7 +247,8 @@ std::string HeaderSearch::find()
   if (comment >= 0)
     takeComment(comment, first);
   else if (numbersOnly)
-    return translated("TableText", "the first line holds numbers, not the names of the columns");
+    return translated("TableText", "the first line holds numbers, not the names of the columns; "
+                                   "write a line of names above it, as many as there are columns");
   else
     take(first);
   return {};

@@ -3,8 +3,9 @@
 #include "app/import/AsciiText.h"
 
 #include <algorithm>
+#include <cmath>
 #include <set>
-#include <utility>
+#include <tuple>
 
 namespace Talmesh::app
 {
@@ -78,27 +79,34 @@ int columnCalled(const TableText& text, std::string_view name)
                                            : static_cast<int>(found - text.roles.headers.begin());
 }
 
-bool pointsRepeat(const TableText& text)
+bool pointsRepeat(const TableText& text, int item)
 {
   if (text.roles.timeColumn < 0)
     return false;
   const std::vector<double>& time =
       text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
-  const std::size_t rows = std::min(text.rows, mostRows);
   const int run = firstRunColumn(text);
-  if (run < 0)
+  const auto levelIn = [&text](int column, std::size_t row)
   {
-    for (std::size_t row = 1; row < rows; ++row)
-      if (time[row] == time[row - 1])
-        return true;
-    return false;
-  }
-  const std::vector<int>& runs = text.columns[static_cast<std::size_t>(run)].levels.rows();
-  std::set<std::pair<int, double>> seen;
-  for (std::size_t row = 0; row < std::min(rows, runs.size()); ++row)
-    if (time[row] == time[row] && !seen.emplace(runs[row], time[row]).second)
+    const auto& levels = text.columns[static_cast<std::size_t>(column)].levels.rows();
+    return row < levels.size() ? levels[row] : TextLevels::none;
+  };
+  int restarts = 0;
+  std::set<std::tuple<int, int, double>> seen;
+  for (std::size_t row = 0; row < std::min(text.rows, mostRows); ++row)
+  {
+    restarts += row > 0 && time[row] < time[row - 1] ? 1 : 0;
+    const int runOfRow = run < 0 ? restarts : levelIn(run, row);
+    const int itemOfRow = item < 0 ? 0 : levelIn(item, row);
+    if (!std::isnan(time[row]) && !seen.emplace(runOfRow, itemOfRow, time[row]).second)
       return true;
+  }
   return false;
+}
+
+bool namesRuns(const TableText& text)
+{
+  return firstRunColumn(text) >= 0;
 }
 
 bool everyRowIsNamed(const TableText& text)

@@ -23,8 +23,12 @@ std::vector<std::size_t> numberColumns(const TableText& text);
 int columnCalled(const TableText& text, std::string_view name);
 
 /// Whether several rows of a run follow each other at the same time, or two rows of a named run
-/// have it. Looks at the first ten thousand rows.
-bool pointsRepeat(const TableText& text);
+/// have it; of rows of one item, where the column of items is given, whose texts are kept. Looks
+/// at the first ten thousand rows.
+bool pointsRepeat(const TableText& text, int item = -1);
+
+/// Whether a column names runs.
+bool namesRuns(const TableText& text);
 
 /// Whether a column names a run of its own for each row.
 bool everyRowIsNamed(const TableText& text);

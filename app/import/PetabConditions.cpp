@@ -96,12 +96,24 @@ public:
     std::map<std::string, std::size_t> rowOf;
     for (std::size_t row = 0; row < table.cells.front().size(); ++row)
       rowOf.emplace(table.cells[static_cast<std::size_t>(key)][row], row);
+    tellUnknown(text.columns[condition].levels.names(), rowOf);
     for (std::size_t i = 0; i < table.names.size(); ++i)
       if (static_cast<int>(i) != key && table.names[i] != "conditionName")
         add(i, text.columns[condition].levels, rowOf);
   }
 
 private:
+  void tellUnknown(const std::vector<std::string>& conditions,
+                   const std::map<std::string, std::size_t>& rowOf)
+  {
+    for (const std::string& name : conditions)
+      if (!name.empty() && rowOf.count(name) == 0)
+        report.warnings.push_back(
+            withValues(translated("PetabConditions", "The condition %1 does not stand in %2, so "
+                                                     "nothing more is known of it."),
+                       {quotedForMessage(name), conditionsFile}));
+  }
+
   /// A parameter's nominal value for its name.
   const std::string& resolved(const std::string& cell)
   {

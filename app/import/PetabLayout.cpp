@@ -5,7 +5,11 @@
 #include "app/import/RoleChoice.h"
 #include "app/import/TranslatedText.h"
 
+#include <algorithm>
 #include <array>
+#include <string>
+#include <utility>
+#include <vector>
 
 /// Tables of measurements and simulations of parameter estimation problems in the PEtab format: a
 /// row per value, with the observable and the condition that it was simulated or measured under.
@@ -17,6 +21,8 @@ namespace
 
 constexpr const char* conditionColumn = "simulationConditionId";
 constexpr const char* itemColumn = "observableId";
+/// Behind the name of the observable, in every language.
+constexpr const char* simulatedName = " simulated";
 /// Columns that name runs together.
 constexpr std::array<const char*, 3> runColumns = {conditionColumn, "preequilibrationConditionId",
                                                    "replicateId"};
@@ -29,6 +35,32 @@ int valueColumn(const TableText& text)
 {
   const int measured = columnCalled(text, "measurement");
   return measured >= 0 ? measured : columnCalled(text, "simulation");
+}
+
+/// Gives simulations that stand beside the measurements rows, and so items, of their own.
+void stackSimulations(TableText& text, const LongColumns& columns, std::size_t simulation)
+{
+  const std::size_t measured = text.rows;
+  std::vector<std::size_t> twice(2 * measured);
+  for (std::size_t row = 0; row < twice.size(); ++row)
+    twice[row] = row % measured;
+  text.columns[columns.item].completeTexts();
+  for (ColumnValues& column : text.columns)
+    column = gatheredColumn(column, twice);
+  std::vector<std::size_t> lines;
+  for (const std::size_t row : twice)
+    lines.push_back(text.lineOf(row));
+  text.lines = std::move(lines);
+  text.rows = twice.size();
+  ColumnValues& item = text.columns[columns.item];
+  const std::vector<std::string> names = item.levels.names();
+  for (std::size_t row = measured; row < text.rows; ++row)
+    if (const int level = item.levels.rows()[row]; level != TextLevels::none)
+      item.levels.set(row, names[static_cast<std::size_t>(level)] + simulatedName);
+  const std::vector<double>& simulated = text.columns[simulation].values;
+  std::copy(simulated.begin(), simulated.begin() + static_cast<std::ptrdiff_t>(measured),
+            text.columns[columns.value].values.begin() + static_cast<std::ptrdiff_t>(measured));
+  text.uses[simulation] = ColumnUse::Ignored;
 }
 
 LayoutFit recognise(const TableText& text, const ImportRequest&)
@@ -53,7 +85,7 @@ void ignoreOthers(TableText& text, ImportReport& report)
 }
 
 /// Names the runs by conditions and replicates, and keeps these columns for what they say.
-std::string nameConditions(TableText& text)
+std::string nameConditions(TableText& text, ImportReport& report)
 {
   text.roles.askedRuns.clear();
   std::vector<ColumnValues> kept;
@@ -61,6 +93,12 @@ std::string nameConditions(TableText& text)
     if (const int column = columnCalled(text, name); column >= 0)
     {
       ColumnValues& values = text.columns[static_cast<std::size_t>(column)];
+      if (values.numbers + values.texts + values.dates == 0)
+      {
+        text.uses[static_cast<std::size_t>(column)] = ColumnUse::Ignored;
+        report.ignored.push_back(name);
+        continue;
+      }
       values.completeTexts();
       // Cells may be empty where there was no equilibration before.
       values.firstEmpty = {};
@@ -97,8 +135,15 @@ Result<TableText> arrange(TableText text, const LayoutTask& task)
   columns.repeatsAreReplicates = true;
   ignoreOthers(text, task.report);
   std::string error = mistypedCell(text, columns.value);
+  if (const int simulation = columnCalled(text, "simulation");
+      error.empty() && measured && simulation >= 0)
+  {
+    error = mistypedCell(text, static_cast<std::size_t>(simulation));
+    if (error.empty())
+      stackSimulations(text, columns, static_cast<std::size_t>(simulation));
+  }
   if (error.empty())
-    error = nameConditions(text);
+    error = nameConditions(text, task.report);
   // Names of conditions are texts, also where they are numbers.
   text.uses[static_cast<std::size_t>(condition)] = ColumnUse::Condition;
   if (error.empty())

@@ -1,6 +1,7 @@
 #include "app/import/RoleChoice.h"
 
 #include "app/import/AsciiText.h"
+#include "app/import/DateText.h"
 #include "app/import/RoleNames.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/UnitText.h"
@@ -77,7 +78,33 @@ private:
   TableText& text;
 };
 
+/// How to write a number or date of a kind that is not read.
+std::string adviceOnWriting(const std::string& text)
+{
+  if (isLocalDate(text))
+    return translated("RoleChoice", "line %1: %2 in the column %3 is a date whose day and month "
+                                    "could be taken for each other; write it as 2024-03-31");
+  if (isPercentage(text))
+    return translated("RoleChoice", "line %1: %2 in the column %3 has a percent sign; write the "
+                                    "numbers without it");
+  const std::size_t mark = text.find_first_not_of("+-0123456789");
+  return mark != std::string::npos && text[mark] == ','
+             ? translated("RoleChoice", "line %1: %2 in the column %3 has commas between "
+                                        "thousands; write the numbers without them")
+             : translated("RoleChoice", "line %1: %2 in the column %3 has marks or blanks between "
+                                        "thousands; write the numbers without them");
+}
+
 } // namespace
+
+bool isStrangeNumber(const ColumnValues& column)
+{
+  const std::string& text = column.firstText.text;
+  // A few percentages may be what tells conditions apart.
+  const std::size_t different = column.levels.names().size();
+  const bool manyPercentages = isPercentage(text) && 2 * different > column.values.size();
+  return column.texts > 0 && (looksLikeThousands(text) || isLocalDate(text) || manyPercentages);
+}
 
 std::vector<int> columnsOfNames(const ColumnRoles& roles, const ImportRequest& request)
 {
@@ -89,7 +116,8 @@ std::vector<int> columnsOfNames(const ColumnRoles& roles, const ImportRequest& r
     if (const int found = columnNamed(roles, name); found >= 0)
       columns.push_back(found);
   for (std::size_t i = 0; i < roles.headers.size(); ++i)
-    if (!roles.headers[i].typed && isKeyName(roles.headers[i].name))
+    if (!roles.headers[i].typed &&
+        (isKeyName(roles.headers[i].name) || isMemberName(roles.headers[i].name)))
       columns.push_back(static_cast<int>(i));
   return columns;
 }
@@ -116,16 +144,14 @@ std::string mistypedCell(const TableText& text, std::size_t index)
 {
   const ColumnValues& column = text.columns[index];
   const bool needed = static_cast<int>(index) == text.roles.timeColumn;
-  const bool thousands = looksLikeThousands(column.firstText.text);
-  if (column.texts == 0 || (!needed && !thousands && (column.isText() || column.numbers == 0)))
+  const bool strange = isStrangeNumber(column);
+  if (column.texts == 0 || (!needed && !strange && (column.isText() || column.numbers == 0)))
     return {};
   const std::string line = std::to_string(column.firstText.line);
   const std::string cell = quotedForMessage(column.firstText.text);
   const std::string name = quotedForMessage(text.roles.headers[index].name);
-  if (thousands)
-    return withValues(translated("RoleChoice", "line %1: %2 in the column %3 has commas between "
-                                               "thousands; write the numbers without them"),
-                      {line, cell, name});
+  if (strange)
+    return withValues(adviceOnWriting(column.firstText.text), {line, cell, name});
   return withValues(translated("RunTableImport", "line %1: %2 in the column %3 is not a number"),
                     {line, cell, name});
 }

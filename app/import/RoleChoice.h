@@ -23,9 +23,18 @@ std::string applyRequest(TableText& text, const ImportRequest& request);
 /// every row aside, unless they were asked for, and makes times of dates.
 void settleColumns(TableText& text, ImportReport& report);
 
+/// Finds the time and the names of runs where names of columns alone say too little (`year`, `ID`):
+/// numbers that rise from row to row of each run count its times, and where the time falls back,
+/// or several rows have the same, what parts the rows into runs names these.
+void findOrder(TableText& text, const ImportRequest& request, ImportReport& report);
+
 /// Numbers the runs by the columns that name them, several together; without any, time will tell.
 /// @return why that cannot be, in one line; empty on success
 std::string nameRuns(TableText& text);
+
+/// Whether a column's texts are numbers or dates as people, but not programs, write them: 1 000,5,
+/// 5%, 01.03.2024.
+bool isStrangeNumber(const ColumnValues& column);
 
 /// A text among the numbers of a column, as a message; empty without one.
 std::string mistypedCell(const TableText& text, std::size_t column);

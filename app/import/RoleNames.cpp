@@ -55,16 +55,19 @@ constexpr std::array<std::string_view, 37> itemWords = {
     "größe",    "messgrösse", "messgröße",  "espece",       "espèce",        "especie",
     "key"};
 
-constexpr std::array<std::string_view, 27> valueWords = {
+constexpr std::array<std::string_view, 28> valueWords = {
     "value",         "values", "val",   "conc",   "concentration", "measurement", "measured",
     "simulation",    "amount", "level", "count",  "counts",        "abundance",   "intensity",
     "expression",    "dv",     "y",     "obs",    "observation",   "wert",        "messwert",
-    "konzentration", "valeur", "valor", "mesure", "concentracion", "number"};
+    "konzentration", "valeur", "valor", "mesure", "concentracion", "number",      "expr"};
 
 constexpr std::array<std::string_view, 20> errorWords = {
     "sd",  "sem",    "se",          "std",      "stddev", "stderr",          "error",
     "err", "sigma",  "uncertainty", "variance", "cv",     "noiseparameters", "noise",
     "ci",  "fehler", "streuung",    "erreur",   "stdev",  "standarderror"};
+
+constexpr std::array<std::string_view, 8> meanWords = {"mean",       "average", "avg",     "median",
+                                                       "mittelwert", "mittel",  "moyenne", "media"};
 
 constexpr std::array<std::string_view, 10> rowNumberWords = {
     "rownames", "x", "1", "unnamed:0", "index", "rowname", "rowid", "rownumber", "row", "obsno"};
@@ -105,10 +108,22 @@ constexpr std::array<std::string_view, 31> resultWords = {"lp",
                                                           "deviance",
                                                           "error"};
 
-constexpr std::array<std::string_view, 26> greekWords = {
-    "alpha", "beta",  "gamma",     "delta", "epsilon", "kappa", "lambda", "mu",   "nu",
-    "rho",   "sigma", "tau",       "theta", "phi",     "omega", "eta",    "zeta", "xi",
-    "par",   "param", "parameter", "rate",  "hill",    "kcat",  "vmax",   "km"};
+constexpr std::array<std::string_view, 37> countingWords = {
+    "year",       "years",     "jahr",   "jahre",   "month",  "months",  "monat", "monate",
+    "week",       "weeks",     "woche",  "wochen",  "day",    "days",    "tag",   "tage",
+    "jour",       "jours",     "hour",   "hours",   "stunde", "stunden", "heure", "heures",
+    "minute",     "minutes",   "second", "seconds", "cycle",  "cycles",  "step",  "timestep",
+    "generation", "iteration", "iter",   "epoch",   "frame"};
+
+constexpr std::array<std::string_view, 16> memberWords = {
+    "id",   "trial", "seed", "particle", "well",  "tree", "chick",      "animal",
+    "tier", "mouse", "maus", "cell",     "zelle", "plot", "individual", "experiment"};
+
+constexpr std::array<std::string_view, 39> greekWords = {
+    "alpha",     "beta", "gamma", "delta", "epsilon", "kappa", "lambda", "mu",   "nu",   "rho",
+    "sigma",     "tau",  "theta", "phi",   "omega",   "eta",   "zeta",   "xi",   "par",  "param",
+    "parameter", "rate", "hill",  "kcat",  "vmax",    "km",    "kon",    "koff", "kf",   "kr",
+    "kd",        "kp",   "kdeg",  "ksyn",  "kin",     "kout",  "kel",    "dose", "dosis"};
 
 } // namespace
 
@@ -130,6 +145,11 @@ bool isErrorName(std::string_view name)
   const std::size_t cut = name.find_last_of("_. ");
   return cut != std::string_view::npos && isOneOf(plainName(name.substr(cut + 1)), errorWords) &&
          plainName(name.substr(cut + 1)) != "error";
+}
+
+bool isMeanName(std::string_view name)
+{
+  return isOneOf(plainName(name), meanWords);
 }
 
 bool isRowNumberName(std::string_view name)
@@ -157,6 +177,26 @@ bool isParameterName(std::string_view name)
   while (!plain.empty() && isDigit(plain.back()))
     plain.pop_back();
   return plain == "k" || plain == "p" || isOneOf(plain, greekWords);
+}
+
+bool isCountingName(std::string_view name)
+{
+  return isOneOf(plainName(name), countingWords) || countsInRunsOnly(name);
+}
+
+bool countsInRunsOnly(std::string_view name)
+{
+  const std::string plain = plainName(name);
+  return plain == "age" || plain == "alter";
+}
+
+bool isMemberName(std::string_view name)
+{
+  std::string plain = plainName(name);
+  for (const std::string_view end : {"id", "nr", "no", "number", "#"})
+    if (endsWith(plain, end) && isOneOf(plain.substr(0, plain.size() - end.size()), memberWords))
+      return true;
+  return isOneOf(plain, memberWords);
 }
 
 bool isKeyName(std::string_view name)

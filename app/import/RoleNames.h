@@ -17,6 +17,9 @@ bool isValueName(std::string_view name);
 /// How exact a value is: sd, sem, stderr, noiseParameters, "X_sd".
 bool isErrorName(std::string_view name);
 
+/// What sums several values up: mean, _mean, average, median, Mittelwert.
+bool isMeanName(std::string_view name);
+
 /// What R, pandas and others call a column of row numbers: rownames, X, ...1, "Unnamed: 0", index.
 bool isRowNumberName(std::string_view name);
 
@@ -28,6 +31,15 @@ bool isResultName(std::string_view name);
 
 /// What parameters of models are mostly called: k1, k_on, Km, Vmax, alpha, theta[3].
 bool isParameterName(std::string_view name);
+
+/// What may count the times of runs where its numbers rise so: year, hours, cycle, iteration, age.
+bool isCountingName(std::string_view name);
+
+/// Whether only restarts make such a name one of times: an age is mostly a quantity.
+bool countsInRunsOnly(std::string_view name);
+
+/// What may name the runs where its cells part them: ID, seed, trial, well, particle, animal.
+bool isMemberName(std::string_view name);
 
 /// Names whose cells are names, also where they are numbers: replicate_id, conditionId.
 bool isKeyName(std::string_view name);

@@ -31,6 +31,8 @@ LayoutFit recognise(const TableText& text, const ImportRequest& request)
             translated("RowsLayout", "every row names a run of its own, and there is no time")};
   if (!request.run.empty() || !text.roles.runCandidates.empty())
     return {};
+  if (text.isScan && request.parameters.empty() && !numberColumns(text).empty())
+    return {0.9, translated("RowsLayout", "a file of this kind holds a scan of its first column")};
   if (!request.parameters.empty())
     return {0.9, translated("RowsLayout", "there are parameters and no time")};
   const std::size_t draws = countNames(text, isDrawName);
@@ -64,6 +66,10 @@ Result<TableText> arrange(TableText text, const LayoutTask& task)
 {
   text.rowsAreRuns = true;
   const bool asked = !task.request.parameters.empty();
+  if (const std::vector<std::size_t> numbers = numberColumns(text);
+      text.isScan && !asked && !numbers.empty())
+    for (const std::size_t column : numbers)
+      text.uses[column] = column == numbers.front() ? ColumnUse::Parameter : ColumnUse::Item;
   const bool namesResults = countNames(text, isDrawName) + countNames(text, isResultName) > 0;
   const bool namesParameters = countNames(text, isParameterName) > 0;
   for (const std::size_t column : freeColumns(text))

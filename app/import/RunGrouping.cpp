@@ -72,8 +72,34 @@ std::vector<std::size_t> startsByTime(const RunColumns& columns)
   return starts;
 }
 
+/// Whether the time falls from each row to the next, as where one run was written backwards.
+bool fallsThroughout(const RunColumns& columns)
+{
+  if (!columns.time || columns.rows < 2)
+    return false;
+  const std::vector<double>& time = *columns.time;
+  for (std::size_t row = 1; row < columns.rows; ++row)
+    if (!(time[row] < time[row - 1]))
+      return false;
+  return true;
+}
+
+RunGrouping backwardRun(std::size_t rows)
+{
+  RunGrouping grouping;
+  grouping.numberOfRuns = 1;
+  grouping.pointsPerRun = rows;
+  grouping.starts = {0, rows};
+  grouping.indices = {0.0};
+  grouping.order.resize(rows);
+  std::iota(grouping.order.rbegin(), grouping.order.rend(), std::size_t{0});
+  return grouping;
+}
+
 Result<RunGrouping> groupByTime(const RunColumns& columns)
 {
+  if (fallsThroughout(columns))
+    return backwardRun(columns.rows);
   std::vector<std::size_t> starts = startsByTime(columns);
   std::vector<std::size_t> lengths;
   for (std::size_t run = 0; run < starts.size(); ++run)

@@ -46,7 +46,8 @@ struct RunGrouping
 };
 
 /// Finds the runs: by the run column, whose rows need not be contiguous, else by time: a run
-/// starts where time falls back. Without either all rows are one run. The rows of a named run whose
+/// starts where time falls back; where it falls from each row to the next, all are one run,
+/// backwards. Without either all rows are one run. The rows of a named run whose
 /// time falls back are sorted by time when no two of them share one; otherwise two runs of the same
 /// name would be taken for one, which is an error. A run may have another length than others.
 /// Messages count runs without a name from 0, as their indices do.

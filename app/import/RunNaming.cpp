@@ -48,13 +48,35 @@ NamedRuns joined(const NamedRuns& runs, const ColumnValues& column)
   return both;
 }
 
-/// Whether the time rises from each row of a run to its next.
-bool timesRise(const NamedRuns& runs, const std::vector<double>& time)
+/// Rows sorted into series of one run, or one item of a run.
+struct RowSeries
 {
-  std::vector<double> last(runs.names.size(), -std::numeric_limits<double>::infinity());
+  std::vector<int> ofRow;
+  std::size_t count = 0;
+};
+
+/// The series of runs, or, where a column says which item a row is of, of runs and items.
+RowSeries seriesOf(const NamedRuns& runs, const std::vector<int>* items)
+{
+  if (!items || items->size() != runs.ofRow.size())
+    return {runs.ofRow, runs.names.size()};
+  RowSeries series;
+  std::unordered_map<std::uint64_t, int> numbers;
   for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
+    series.ofRow.push_back(
+        numbers.emplace(together(runs.ofRow[row], (*items)[row]), static_cast<int>(numbers.size()))
+            .first->second);
+  series.count = numbers.size();
+  return series;
+}
+
+/// Whether the time rises from each row of a series to its next.
+bool timesRise(const RowSeries& series, const std::vector<double>& time)
+{
+  std::vector<double> last(series.count, -std::numeric_limits<double>::infinity());
+  for (std::size_t row = 0; row < series.ofRow.size(); ++row)
   {
-    double& before = last[static_cast<std::size_t>(runs.ofRow[row])];
+    double& before = last[static_cast<std::size_t>(series.ofRow[row])];
     if (!(time[row] > before))
       return false;
     before = time[row];
@@ -62,16 +84,16 @@ bool timesRise(const NamedRuns& runs, const std::vector<double>& time)
   return true;
 }
 
-/// Whether a run has two rows at one time.
-bool repeatsTimes(const NamedRuns& runs, const std::vector<double>& time)
+/// Whether a series has two rows at one time.
+bool repeatsTimes(const RowSeries& series, const std::vector<double>& time)
 {
   // Most tables need no memory for it.
-  if (timesRise(runs, time))
+  if (timesRise(series, time))
     return false;
-  std::vector<std::unordered_set<double>> seen(runs.names.size());
-  for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
+  std::vector<std::unordered_set<double>> seen(series.count);
+  for (std::size_t row = 0; row < series.ofRow.size(); ++row)
     if (!std::isnan(time[row]) &&
-        !seen[static_cast<std::size_t>(runs.ofRow[row])].insert(time[row]).second)
+        !seen[static_cast<std::size_t>(series.ofRow[row])].insert(time[row]).second)
       return true;
   return false;
 }
@@ -87,7 +109,7 @@ public:
   std::string name()
   {
     const std::vector<int> columns = text.roles.askedRuns.empty() ? found() : text.roles.askedRuns;
-    text.roles.runColumn = columns.empty() ? -1 : columns.front();
+    text.roles.runColumn = columns.empty() || isCondition(columns.front()) ? -1 : columns.front();
     for (std::size_t i = 0; i < columns.size() && error.empty(); ++i)
       take(static_cast<std::size_t>(columns[i]), i == 0);
     // More names are only wanted where one does not tell the runs apart.
@@ -101,6 +123,14 @@ public:
   }
 
 private:
+  /// Texts that the user has name the runs, as drugs or countries, say more than that.
+  bool isCondition(int column) const
+  {
+    const auto index = static_cast<std::size_t>(column);
+    return !text.roles.askedRuns.empty() && text.columns[index].isText() &&
+           !text.roles.headers[index].typed && !isRunName(text.roles.headers[index].name);
+  }
+
   /// A column with a name of runs whose cells are numbers, not all of them whole, names no runs.
   bool mayNameRuns(std::size_t column) const
   {
@@ -125,8 +155,16 @@ private:
 
   bool repeats() const
   {
-    return text.roles.timeColumn >= 0 && !runs.ofRow.empty() &&
-           repeatsTimes(runs, text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values);
+    return text.roles.timeColumn >= 0 && !runs.ofRow.empty() && repeats(runs);
+  }
+
+  bool repeats(const NamedRuns& named) const
+  {
+    const int item = text.roles.itemColumn;
+    const auto* items =
+        item < 0 ? nullptr : &text.columns[static_cast<std::size_t>(item)].levels.rows();
+    return repeatsTimes(seriesOf(named, items),
+                        text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values);
   }
 
   /// Replicates may be counted anew under each condition. Columns of texts stay what they are;
@@ -147,8 +185,7 @@ private:
       if (std::find(levels.begin(), levels.end(), TextLevels::none) == levels.end())
         named = joined(named, column);
     }
-    const auto& time = text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
-    if (!repeatsTimes(named, time))
+    if (!repeats(named))
       runs = std::move(named);
   }
 
@@ -157,20 +194,25 @@ private:
     ColumnValues& values = text.columns[column];
     if (values.firstEmpty.line > 0)
     {
-      error = withValues(translated("TableText", "line %1: the run has no name in the column %2"),
-                         {std::to_string(values.firstEmpty.line),
-                          quotedForMessage(text.roles.headers[column].name)});
+      error =
+          withValues(translated("TableText", "line %1: the run has no name in the column %2; fill "
+                                             "it in, or name other columns (--run)"),
+                     {std::to_string(values.firstEmpty.line),
+                      quotedForMessage(text.roles.headers[column].name)});
       return;
     }
     values.completeTexts();
+    const bool stays = isCondition(static_cast<int>(column));
     if (isFirst)
       runs = {values.levels.rows(), values.levels.names()};
     else
     {
       runs = joined(runs, values);
-      text.uses[column] = ColumnUse::RunName;
+      if (!stays)
+        text.uses[column] = ColumnUse::RunName;
     }
-    values = ColumnValues();
+    if (!stays)
+      values = ColumnValues();
   }
 
   TableText& text;

@@ -1,6 +1,7 @@
 #include "app/import/RunSeriesName.h"
 
 #include "app/import/AsciiText.h"
+#include "app/import/NumberText.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
@@ -89,11 +90,24 @@ std::optional<RunSeriesName> readRunSeriesName(std::string_view given)
   const std::string_view front = trimmed(name.substr(0, digits), joints);
   const std::string_view word = runWordAtEnd(front);
   series.isClear = front.empty() || !word.empty();
+  series.isApart = front.size() < digits;
   series.item = std::string(trimmed(front.substr(0, front.size() - word.size()), joints));
   // A number with a sign or a fraction in front is no number of a run.
   if (digits > 0 && (front.empty() || isDigit(front.back())))
     return std::nullopt;
   return series;
+}
+
+std::optional<ParameterSeriesName> readParameterSeriesName(std::string_view given)
+{
+  const std::size_t sign = given.rfind('=');
+  if (sign == std::string_view::npos)
+    return std::nullopt;
+  const std::string_view parameter = withoutOuterBlanks(given.substr(0, sign));
+  const NumberText number = readNumber(given.substr(sign + 1), true);
+  if (parameter.empty() || number.kind != NumberText::Kind::Number)
+    return std::nullopt;
+  return ParameterSeriesName{std::string(parameter), number.value};
 }
 
 } // namespace Talmesh::app

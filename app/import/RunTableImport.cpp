@@ -11,6 +11,7 @@
 #include <vtkNew.h>
 
 #include <algorithm>
+#include <functional>
 #include <set>
 #include <utility>
 
@@ -39,10 +40,71 @@ std::string mistypedCell(const TableText& text)
   {
     const bool needed = !isLeftOut(text, i) && text.uses[i] != ColumnUse::Condition;
     const std::string error = needed ? mistypedCell(text, i) : std::string();
-    if (!error.empty())
+    if (error.empty())
+      continue;
+    if (static_cast<int>(i) == text.roles.timeColumn || isStrangeNumber(text.columns[i]))
       return error;
+    return error + withValues(translated("RunTableImport", ". --ignore %1 leaves the column out, "
+                                                           "--condition %1 takes it for texts"),
+                              {quotedForMessage(text.roles.headers[i].name)});
   }
   return {};
+}
+
+/// Texts that differ nearly everywhere are no categories of anything; where nothing but them goes
+/// with the time, there is nothing to plot.
+std::string nothingToPlot(const TableText& text)
+{
+  if (!text.hasRuns || text.rowsAreRuns || text.roles.timeColumn < 0 || text.rows < 3)
+    return {};
+  const ColumnValues* texts = nullptr;
+  std::size_t column = 0;
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    const int index = static_cast<int>(i);
+    if (isLeftOut(text, i) || index == text.roles.timeColumn || index == text.roles.runColumn)
+      continue;
+    if (!text.columns[i].isText() || 2 * text.columns[i].levels.names().size() <= text.rows)
+      return {};
+    if (!texts)
+    {
+      texts = &text.columns[i];
+      column = i;
+    }
+  }
+  if (!texts)
+    return {};
+  return withValues(translated("RunTableImport", "line %1: %2 in the column %3 is not a number"),
+                    {std::to_string(texts->firstText.line), quotedForMessage(texts->firstText.text),
+                     quotedForMessage(text.roles.headers[column].name)});
+}
+
+/// Columns of numbers that say the same in all rows tell nothing of runs or of time.
+void tellConstants(const TableText& text, ImportReport& report)
+{
+  constexpr std::size_t mostNames = 5;
+  std::size_t count = 0;
+  std::string names;
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    const std::vector<double>& values = text.columns[i].values;
+    const int index = static_cast<int>(i);
+    const bool counts = !isLeftOut(text, i) && index != text.roles.timeColumn &&
+                        index != text.roles.runColumn && text.uses[i] != ColumnUse::Parameter &&
+                        !text.roles.headers[i].typed && values.size() > 1 &&
+                        text.columns[i].isNumeric() && text.columns[i].numbers == values.size();
+    if (!counts ||
+        std::adjacent_find(values.begin(), values.end(), std::not_equal_to<>()) != values.end())
+      continue;
+    if (++count <= mostNames)
+      names += (count > 1 ? ", " : "") + quotedForMessage(text.roles.headers[i].name);
+  }
+  if (count == 0)
+    return;
+  if (count > mostNames)
+    names += ", ...";
+  report.warnings.push_back(withValues(
+      translated("RunTableImport", "The same value stands in all rows of %1."), {names}));
 }
 
 /// A table without an order of its rows.
@@ -98,8 +160,11 @@ Imported importArranged(TableText text, const ImportTask& task, ImportReport& re
     error = nameRuns(text);
   if (error.empty())
     error = mistypedCell(text);
+  if (error.empty())
+    error = nothingToPlot(text);
   if (!error.empty())
     return Imported::failed(error);
+  tellConstants(text, report);
   const std::vector<ColumnLevels> levels = makeCategories(text, report);
   for (const ColumnLevels& category : levels)
     text.levelColumns.push_back(category.column);
@@ -121,7 +186,9 @@ Result<ImportedTable> importTable(TableText text, const ImportTask& task, Import
     error = noNumbers();
   if (!error.empty())
     return Imported::failed(error);
+  text.isScan = task.isScan;
   settleColumns(text, report);
+  findOrder(text, task.request, report);
   const Result<const Layout*> layout = chooseLayout(text, task.request, report);
   if (!layout.hasValue())
     return Imported::without(layout);

@@ -46,6 +46,8 @@ struct ImportTask
   ImportProgress progress;
   TextPassed passed;
   FileBeside beside;
+  /// Whether the file is of a kind for scans: each row is a run, its first column the parameter.
+  bool isScan = false;
 };
 
 /// Makes runs or a plain table of named columns, as `request` says or else as the columns

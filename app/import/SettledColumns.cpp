@@ -76,6 +76,15 @@ private:
       ignore(i, withValues(translated("RunTableImport",
                                       "The column %1 marks a former selection and is left out."),
                            {shown}));
+    else if (!column.isText() && isErrorOfAnother(name(i)))
+    {
+      text.uses[i] = ColumnUse::Ignored;
+      report.ignored.push_back(name(i));
+      report.reasons.push_back(withValues(
+          translated("LongTable", "the column %1 tells how exact the values are, which is not "
+                                  "shown"),
+          {shown}));
+    }
     else if (i == 0 && column.isText() && namesRows(column))
       ignore(i, translated("SettledColumns",
                            "The first column holds names of the rows and is left out."));
@@ -84,6 +93,23 @@ private:
                                       "The column %1 holds more than %2 different texts and is "
                                       "left out."),
                            {shown, std::to_string(ColumnValues::mostLevels)}));
+  }
+
+  /// Whether a name is that of another column, or of its mean, with a word for errors: A_sd beside
+  /// A or A_mean.
+  bool isErrorOfAnother(const std::string& error) const
+  {
+    const std::size_t cut = error.find_last_of("_. ");
+    if (cut == std::string::npos || cut == 0 || !isErrorName(error))
+      return false;
+    const std::string stem = error.substr(0, cut);
+    return std::any_of(text.roles.headers.begin(), text.roles.headers.end(),
+                       [&stem](const ColumnHeader& header)
+                       {
+                         return header.name == stem ||
+                                (header.name.compare(0, stem.size(), stem) == 0 &&
+                                 isMeanName(header.name.substr(stem.size())));
+                       });
   }
 
   /// Whether a column without a name, or with one for row numbers, holds another text in each row.

@@ -5,6 +5,7 @@
 #include "app/import/RoleChoice.h"
 #include "app/import/TextShape.h"
 #include "app/import/TranslatedText.h"
+#include "app/import/Utf16Text.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
@@ -16,6 +17,8 @@ namespace Talmesh::app
 namespace
 {
 
+/// A text of UTF-16 is in memory twice.
+constexpr std::size_t longestUtf16 = std::size_t{256} << 20U;
 constexpr std::size_t rowsBetweenReports = 2000;
 /// The first rows may be longer than those behind them.
 constexpr double reservedShare = 1.1;
@@ -24,9 +27,10 @@ std::string unreadable(std::string_view bytes)
 {
   if (bytes.empty())
     return translated("TableText", "the file is empty");
-  const std::string_view start = bytes.substr(0, 2);
-  if (start == "\xFF\xFE" || start == "\xFE\xFF")
-    return translated("TableText", "the text is UTF-16; save it as UTF-8");
+  if (isUtf16(bytes))
+    return bytes.size() > longestUtf16
+               ? translated("TableText", "the text is UTF-16; save it as UTF-8")
+               : std::string();
   if (bytes.find('\0') != std::string_view::npos)
     return translated("TableText", "not a table: the file holds binary data");
   if (hasEndlessLine(bytes))
@@ -270,6 +274,11 @@ Result<TableText> readTableText(std::string_view bytes, const ImportRequest& req
   const std::string refused = unreadable(bytes);
   if (!refused.empty())
     return Result<TableText>::failed(refused);
+  if (isUtf16(bytes))
+  {
+    report.reasons.push_back(translated("TableText", "the text is UTF-16"));
+    return readTableText(utf8FromUtf16(bytes), request, report, progress);
+  }
   return TableTextReader(withoutByteOrderMark(bytes), request, report, progress, passed).read();
 }
 

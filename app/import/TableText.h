@@ -53,6 +53,8 @@ struct TableText
   bool hasRuns = true;
   /// Whether every row is a run of its own.
   bool rowsAreRuns = false;
+  /// Whether the kind of the file says that its rows are runs, the first column their parameter.
+  bool isScan = false;
   /// Whether cells are missing because nothing was measured there, and not because the file says
   /// so.
   bool hasGaps = false;

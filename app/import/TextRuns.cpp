@@ -93,8 +93,85 @@ private:
     return std::any_of(time.begin(), time.end(), [](double value) { return std::isinf(value); });
   }
 
+  /// A point without a time has no place in its run.
+  /// @return why there are no runs then, in one line; empty on success
+  std::string leaveOutTimeless(RunGrouping& runs)
+  {
+    if (text.roles.timeColumn < 0 || text.rowsAreRuns)
+      return {};
+    const std::vector<double>& time = times();
+    const auto isMissing = [](double value) { return std::isnan(value); };
+    const auto count = std::count_if(time.begin(), time.end(), isMissing);
+    if (count == 0)
+      return {};
+    if (static_cast<std::size_t>(count) == time.size())
+      return translated("TextRuns", "no row has a time");
+    const auto first = std::find_if(time.begin(), time.end(), isMissing) - time.begin();
+    report.warnings.push_back(withValues(
+        translated("TextRuns", "Line %1: the time is missing. Points without a time are left out "
+                               "(%2 in all)."),
+        {std::to_string(text.lineOf(static_cast<std::size_t>(first))), std::to_string(count)}));
+    stackRows(text, runs);
+    std::vector<bool> kept;
+    for (const double value : times())
+      kept.push_back(!std::isnan(value));
+    keepRows(text, runs, kept);
+    return {};
+  }
+
+  /// Several points of a run at one time are mostly of several runs or items.
+  /// @return what to say of them, in one line; empty where they may be meant
+  std::string doubtedRepeats(const RunGrouping& runs)
+  {
+    if (text.roles.timeColumn < 0 || text.rowsAreRuns || text.rows == 0)
+      return {};
+    const auto rowAt = [&runs](std::size_t place)
+    { return runs.order.empty() ? place : runs.order[place]; };
+    std::size_t repeats = 0;
+    std::size_t first = 0;
+    for (std::size_t run = 0; run < runs.numberOfRuns; ++run)
+      for (std::size_t place = runs.starts[run] + 1; place < runs.starts[run + 1]; ++place)
+        if (times()[rowAt(place)] == times()[rowAt(place - 1)] && ++repeats == 1)
+          first = rowAt(place);
+    if (repeats == 0)
+      return {};
+    const std::string line = std::to_string(text.lineOf(first));
+    if (2 * repeats < text.rows || !request.layout.empty() || !request.run.empty())
+    {
+      report.warnings.push_back(
+          withValues(translated("TextRuns", "Line %1: a run has a second point at the same time "
+                                            "(%2 such points in all)."),
+                     {line, std::to_string(repeats)}));
+      return {};
+    }
+    report.candidates = {
+        {"--layout stacked", "stacked", 0.5,
+         translated("TextRuns", "a run has several points at the same time")},
+        {"--layout table", "table", 0.5, translated("RunTableImport", "the rows have no order")}};
+    return withValues(translated("TextRuns",
+                                 "line %1: a second point of a run at the same time. If a column "
+                                 "names the runs, say --run and its name; if one names the items, "
+                                 "--item; if the points are of one run, --layout stacked; if the "
+                                 "rows have no order, --layout table"),
+                      {line});
+  }
+
+  const std::vector<double>& times() const
+  {
+    return text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values;
+  }
+
   std::string layOnGrid(RunGrouping& runs, ImportedTable& imported)
   {
+    std::string problem = leaveOutTimeless(runs);
+    if (problem.empty() && !hasInfiniteTime())
+      problem = doubtedRepeats(runs);
+    if (!problem.empty())
+      return problem;
+    if (text.runNames.empty() && !runs.order.empty())
+      report.warnings.push_back(translated("TextRuns", "The time falls from row to row, so the "
+                                                       "rows are read from the last to the "
+                                                       "first."));
     if (hasInfiniteTime())
     {
       stackRows(text, runs);

@@ -36,18 +36,47 @@ bool hasLevels(const TableText& text, std::size_t column)
   return values.levels.names().size() > 1 && values.levels.names().size() < text.rows;
 }
 
+/// Texts that are neither conditions nor parameters, as far as the user has said.
+std::vector<std::size_t> openTexts(const TableText& text)
+{
+  std::vector<std::size_t> columns = textColumns(text);
+  columns.erase(std::remove_if(columns.begin(), columns.end(),
+                               [&text](std::size_t column)
+                               { return text.uses[column] != ColumnUse::Open; }),
+                columns.end());
+  return columns;
+}
+
+/// Items may be numbered: a column called as they are tells rows of the same time apart then.
+int numberedItem(const TableText& text)
+{
+  if (!pointsRepeat(text))
+    return -1;
+  for (const std::size_t column : numberColumns(text))
+    if (isItemName(text.roles.headers[column].name) && hasLevels(text, column) &&
+        text.columns[column].firstFraction.line == 0 &&
+        !pointsRepeat(text, static_cast<int>(column)))
+      return static_cast<int>(column);
+  return -1;
+}
+
 Found find(const TableText& text)
 {
   Found found;
   found.item = text.roles.itemColumn;
   found.itemByName = found.item >= 0;
-  std::vector<std::size_t> items = textColumns(text);
+  const std::vector<std::size_t> items = openTexts(text);
   for (const std::size_t column : items)
     if (!found.itemByName && isItemName(text.roles.headers[column].name) && hasLevels(text, column))
     {
       found.item = static_cast<int>(column);
       found.itemByName = true;
     }
+  if (!found.itemByName)
+  {
+    found.item = numberedItem(text);
+    found.itemByName = found.item >= 0;
+  }
   if (found.item < 0 && items.size() == 1 && hasLevels(text, items.front()))
     found.item = static_cast<int>(items.front());
 
@@ -89,7 +118,11 @@ LayoutFit recognise(const TableText& text, const ImportRequest& request)
     return {found.itemByName && found.valueByName ? 0.55 : 0.0, reason};
   if (found.itemByName && found.valueByName)
     return {0.9, reason};
-  if (pointsRepeat(text))
+  const bool repeat = pointsRepeat(text);
+  // Where every run has one row at each time, a text says something of it.
+  if (!found.itemByName && !repeat && namesRuns(text))
+    return {0.0, reason};
+  if (repeat)
     return {found.itemByName || found.valueByName ? 0.75 : 0.45, reason};
   return {found.itemByName || found.valueByName ? 0.6 : 0.0, reason};
 }

@@ -97,6 +97,16 @@ bool isOneOf(std::string_view text, const std::array<std::string_view, N>& words
   return std::find(words.begin(), words.end(), text) != words.end();
 }
 
+/// Blanks that no line breaks at, and narrow ones, written as others.
+std::string withPlainBlanks(std::string_view text)
+{
+  std::string plain(text);
+  for (const std::string_view blank : {"\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89"})
+    for (std::size_t at = 0; (at = plain.find(blank, at)) != std::string::npos;)
+      plain.replace(at, blank.size(), " ");
+  return plain;
+}
+
 bool isInBrackets(std::string_view text)
 {
   return text.size() > 1 && ((text.front() == '[' && text.back() == ']') ||
@@ -136,10 +146,18 @@ bool isCensored(std::string_view text)
          (compared && readNumber(word, true).kind == NumberText::Kind::Number);
 }
 
+bool isPercentage(std::string_view text)
+{
+  const std::string_view word = withoutOuterBlanks(text);
+  return word.size() > 1 && word.back() == '%' &&
+         readNumber(word.substr(0, word.size() - 1), true).kind == NumberText::Kind::Number;
+}
+
 bool looksLikeThousands(std::string_view text)
 {
   constexpr std::size_t group = 3;
-  std::string_view rest = trimmed(withoutOuterBlanks(text), "+-");
+  const std::string plain = withPlainBlanks(text);
+  std::string_view rest = trimmed(withoutOuterBlanks(plain), "+-");
   const auto digits = [&rest]
   {
     const std::size_t end = std::min(rest.find_first_not_of("0123456789"), rest.size());
@@ -148,7 +166,7 @@ bool looksLikeThousands(std::string_view text)
   };
   const std::size_t first = digits();
   if (first == 0 || first > group || rest.empty() ||
-      std::string_view(",.'").find(rest.front()) == std::string_view::npos)
+      std::string_view(",.' ").find(rest.front()) == std::string_view::npos)
     return false;
   const char mark = rest.front();
   while (!rest.empty() && rest.front() == mark)
@@ -160,6 +178,8 @@ bool looksLikeThousands(std::string_view text)
   if (rest.empty())
     return true;
   // A decimal mark of the other kind.
+  if (rest.front() != '.' && rest.front() != ',')
+    return false;
   rest.remove_prefix(1);
   digits();
   return rest.empty();

@@ -18,9 +18,12 @@ std::string withUnit(const std::string& name, std::string_view unit);
 /// >100.
 bool isCensored(std::string_view text);
 
-/// Whether a text is a number with commas or points between its thousands, or with both: 1,234,567,
-/// 1.234,5.
+/// Whether a text is a number with commas, points, apostrophes or blanks between its thousands, and
+/// perhaps a decimal mark of another kind: 1,234,567, 1.234,5, 1 000,5.
 bool looksLikeThousands(std::string_view text);
+
+/// Whether a text is a number with a percent sign behind it.
+bool isPercentage(std::string_view text);
 
 } // namespace Talmesh::app
 

@@ -27,15 +27,36 @@ namespace
 /// The part of the progress that reading the bytes takes.
 constexpr double readingPart = 0.1;
 
+/// What collections of problems call the tables beside "measurementData_X.tsv":
+/// "experimentalCondition_X.tsv" for conditions.tsv, "parameters_X.tsv" for parameters.tsv. Empty
+/// beside tables of other names.
+QString nameInCollection(const QString& table, const QString& beside)
+{
+  const QString start = QStringLiteral("measurementData");
+  if (!table.startsWith(start))
+    return {};
+  const QString front = beside == QLatin1String("conditions.tsv")
+                            ? QStringLiteral("experimentalCondition")
+                            : beside.section(QLatin1Char('.'), 0, 0);
+  return front + table.mid(start.size());
+}
+
 /// Reads small files that stand beside a table.
 FileBeside besideOf(const QString& path)
 {
-  const QDir folder = QFileInfo(path).dir();
-  return [folder](const std::string& name) -> std::optional<std::string>
+  const QFileInfo table(path);
+  return [table](const std::string& name) -> std::optional<std::string>
   {
-    const Result<std::string> read =
-        readPlainText(folder.filePath(QString::fromStdString(name)), {});
-    return read.hasValue() ? std::make_optional(read.value()) : std::nullopt;
+    const QString plain = QString::fromStdString(name);
+    for (const QString& beside : {plain, nameInCollection(table.fileName(), plain)})
+    {
+      if (beside.isEmpty())
+        continue;
+      const Result<std::string> read = readPlainText(table.dir().filePath(beside), {});
+      if (read.hasValue())
+        return read.value();
+    }
+    return std::nullopt;
   };
 }
 
@@ -66,9 +87,12 @@ Result<ImportedTable> importFile(const QString& path, const ImportTask& task, Im
                     [&progress](double done) { return !progress || progress(readingPart * done); });
   if (!content.hasValue())
     return Result<ImportedTable>::without(content);
+  ImportTask known = task;
+  known.isScan = path.endsWith(QLatin1String(".scan"), Qt::CaseInsensitive) ||
+                 path.endsWith(QLatin1String(".scan.gz"), Qt::CaseInsensitive);
   const std::vector<std::string>& notes = content.value().notes;
   report.warnings.insert(report.warnings.end(), notes.begin(), notes.end());
-  return importContent(content.value(), task, report);
+  return importContent(content.value(), known, report);
 }
 
 Result<OpenedStudy> openTable(const QStringList& paths, const ImportTask& task,

@@ -101,3 +101,30 @@ TEST(PetabLayout, DrawsLinesBetweenSimulatedPointsOnly)
                                          "A\tc1\t0\t1\nA\tc1\t2\t3\nB\tc1\t1\t5\n");
   expectValues(petab.table, "Molecule: A", {1, 2, 3});
 }
+
+TEST(PetabLayout, KeepsSimulationsBesideMeasurements)
+{
+  const DescribedTable both =
+      described("observableId\tsimulationConditionId\ttime\tmeasurement\tsimulation\n"
+                "a\tc1\t0\t1\t1.5\na\tc1\t5\t2\t2.5\nb\tc1\t0\t3\t3.5\nb\tc1\t5\t4\t4.5\n");
+  expectDescribed(both, "petab", 1, 2, {"a", "b", "a simulated", "b simulated"});
+  expectValues(both.table, "Molecule: b simulated", {3.5, 4.5});
+  expectValues(both.table, "Molecule: b", {3, 4});
+}
+
+TEST(PetabLayout, NamesConditionsThatNothingIsSaidOf)
+{
+  const Beside beside = {{"conditions.tsv", "conditionId\tdose\nc1\t1\n"}};
+  const DescribedTable petab = described(measurements, {}, beside);
+  EXPECT_TRUE(petab.warns("The condition \"c2\" does not stand in conditions.tsv"));
+  EXPECT_FALSE(petab.warns("\"c1\""));
+}
+
+TEST(PetabLayout, LeavesAnEmptyPreequilibrationOut)
+{
+  const DescribedTable petab =
+      described("observableId\tpreequilibrationConditionId\tsimulationConditionId\ttime\t"
+                "measurement\nA\t\tc1\t0\t1\nA\t\tc1\t5\t2\n");
+  EXPECT_EQ(petab.error, "");
+  EXPECT_EQ(petab.report.items, Names{"A"});
+}

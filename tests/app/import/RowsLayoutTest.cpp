@@ -48,6 +48,25 @@ TEST(RowsLayout, KeepsTheTextsOfRuns)
   EXPECT_EQ(rows.levels("Parameter: gene"), (Names{"wild", "mutant"}));
 }
 
+TEST(RowsLayout, TakesAScanForRunsOfItsFirstColumn)
+{
+  ImportTask task;
+  task.isScan = true;
+  ImportReport report;
+  const auto scan = importTable("# IPTG GFP other\n1 0 3\n2 5 4\n4 6 1\n", task, report);
+  ASSERT_TRUE(scan.hasValue()) << scan.error();
+  EXPECT_EQ(report.layout, "rows");
+  EXPECT_EQ(report.runs, 3u);
+  EXPECT_EQ(report.parameters, Names{"IPTG"});
+  EXPECT_EQ(report.items, (Names{"GFP", "other"}));
+}
+
+TEST(RowsLayout, AsksWhereADoseMayBeScanned)
+{
+  EXPECT_EQ(described("dose,response\n0.01,1\n0.02,2\n").options(),
+            (Names{"--layout table", "--layout rows"}));
+}
+
 TEST(PlainLayout, ShowsATableWithoutTimeWithItsCategories)
 {
   const DescribedTable iris = described("Sepal.Length,Sepal.Width,Species\n"

@@ -16,6 +16,9 @@ namespace
 const std::string doubtedRestarts =
     ". If a run starts wherever time falls back, say --layout stacked; if a column names the runs, "
     "--run and its name; if there are none, --layout table";
+/// What may be done with a column that cannot be read as numbers.
+const std::string advice =
+    ". --ignore \"X\" leaves the column out, --condition \"X\" takes it for texts";
 
 } // namespace
 
@@ -57,7 +60,8 @@ TEST(RunTableRefusals, NumbersTheLineWhereAShortRunStarts)
 
 TEST(RunTableRefusals, RefusesTextAmongNumbers)
 {
-  EXPECT_EQ(errorOf("time,X\n0,1\n1,2a\n"), "line 3: \"2a\" in the column \"X\" is not a number");
+  EXPECT_EQ(errorOf("time,X\n0,1\n1,2a\n"),
+            "line 3: \"2a\" in the column \"X\" is not a number" + advice);
   EXPECT_EQ(errorOf("time,X\nnoon,1\n12:31,2\n"),
             "line 2: \"noon\" in the column \"time\" is not a number");
 }
@@ -81,7 +85,8 @@ TEST(RunTableRefusals, CountsRunsAsTheirIndexDoes)
 TEST(RunTableRefusals, RefusesARowWithoutItsRun)
 {
   EXPECT_EQ(errorOf("run,time,X\n0,0,1\n,1,2\n"),
-            "line 3: the run has no name in the column \"run\"");
+            "line 3: the run has no name in the column \"run\"; fill it in, or name other columns "
+            "(--run)");
 }
 
 TEST(RunTableRefusals, RefusesWhatIsNoTable)
@@ -91,9 +96,11 @@ TEST(RunTableRefusals, RefusesWhatIsNoTable)
   EXPECT_EQ(errorOf("\xEF\xBB\xBF"), "the file is empty");
   EXPECT_EQ(errorOf("time,X\n"), "the table has no rows below its headers");
   EXPECT_EQ(errorOf("Dear reader\nthis is prose\n"), "not a table: no column holds numbers");
-  EXPECT_EQ(errorOf("0,1\n1,2\n"), "the first line holds numbers, not the names of the columns");
+  EXPECT_EQ(
+      errorOf("0,1\n1,2\n"),
+      "the first line holds numbers, not the names of the columns; write a line of names above "
+      "it, as many as there are columns");
   EXPECT_EQ(errorOf(std::string("a,b\n1,\0\n", 8)), "not a table: the file holds binary data");
-  EXPECT_EQ(errorOf("\xFF\xFEt\x01"), "the text is UTF-16; save it as UTF-8");
   EXPECT_EQ(errorOf("time,X\n0,\"1\n"), "line 2: a quoted field is not closed");
   EXPECT_EQ(errorOf("time,\"X\n0,1\n"), "line 1: a quoted name is not closed");
 }
@@ -107,8 +114,8 @@ TEST(RunTableRefusals, RefusesAbsurdlyManyColumns)
 TEST(RunTableRefusals, KeepsMessagesInOneShortLine)
 {
   const std::string error = errorOf("time,X\n0,1\n1,\"a\nb\x01" + std::string(100, 'x') + "\"\n");
-  EXPECT_EQ(error,
-            "line 3: \"a b " + std::string(36, 'x') + "...\" in the column \"X\" is not a number");
+  EXPECT_EQ(error, "line 3: \"a b " + std::string(36, 'x') +
+                       "...\" in the column \"X\" is not a number" + advice);
 }
 
 TEST(RunTableRefusals, SurvivesDamagedTables)

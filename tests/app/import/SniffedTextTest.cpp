@@ -178,5 +178,8 @@ TEST(SniffedText, LooksAtTheWholeFileAndNotAtItsHeadOnly)
   for (int row = 0; row < 40000; ++row)
     text += std::to_string(row) + ",1.5," + (row < 39000 ? "7" : "x") + '\n';
   // Late texts are still found, and tell that the column is none of numbers.
-  EXPECT_EQ(described(text).error, "line 39002: \"x\" in the column \"drug\" is not a number");
+  EXPECT_EQ(
+      described(text).error,
+      "line 39002: \"x\" in the column \"drug\" is not a number. --ignore \"drug\" leaves the "
+      "column out, --condition \"drug\" takes it for texts");
 }

@@ -122,3 +122,30 @@ TEST(TidyLayout, HasNoRunAllOfWhoseRowsAreLeftOut)
   EXPECT_EQ(table.error, "");
   EXPECT_EQ(table.report.runs, 2U);
 }
+
+TEST(TidyLayout, ReadsNumberedItemsWherePointsRepeat)
+{
+  expectDescribed(described("sim,time,species_id,value\n1,0,1,5\n1,0,2,6\n1,1,1,7\n1,1,2,8\n"
+                            "2,0,1,5\n2,0,2,6\n2,1,1,7\n2,1,2,8\n"),
+                  "tidy", 2, 2, {"1", "2"});
+}
+
+TEST(TidyLayout, TakesNoConditionForAnItem)
+{
+  const std::string drugs = "subject,drug,time,conc\n1,aspirin,0,9\n1,aspirin,1,8\n"
+                            "2,placebo,0,7\n2,placebo,1,6\n";
+  expectDescribed(described(drugs), "stacked", 2, 2, {"conc"}, {}, {"drug"});
+  const DescribedTable doses = described("ID,TIME,DV,SEX\n1,0,9,F\n1,1,8,F\n2,0,7,M\n2,1,6,M\n");
+  expectDescribed(doses, "stacked", 2, 2, {"DV"}, {}, {"SEX"});
+}
+
+TEST(TidyLayout, TellsReplicatesOfConditionsApart)
+{
+  const std::string text = "drug,replicate,time_h,analyte,conc\n"
+                           "DMSO,1,0,A,1\nDMSO,1,0,B,2\nDMSO,1,5,A,3\nDMSO,1,5,B,4\n"
+                           "MEK,1,0,A,5\nMEK,1,0,B,6\nMEK,1,5,A,7\nMEK,1,5,B,8\n";
+  expectDescribed(described(text), "tidy", 2, 2, {"A", "B"}, {}, {"drug"});
+  ImportRequest request;
+  request.run = {"drug", "replicate"};
+  expectDescribed(described(text, request), "tidy", 2, 2, {"A", "B"}, {}, {"drug"});
+}

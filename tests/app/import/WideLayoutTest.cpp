@@ -68,6 +68,61 @@ TEST(WideLayout, TakesAllColumnsOfNumbersWhereItIsAskedFor)
   expectDescribed(described("time,anna,bert\n0,1,2\n1,3,4\n", request), "wide", 2, 2, {"value"});
 }
 
+TEST(WideLayout, TakesValuesOfAParameterInNamesForRuns)
+{
+  const DescribedTable wide = described("time,k=0.1,k=0.2,k=1\n0,1,2,3\n1,4,5,6\n");
+  expectDescribed(wide, "wide", 3, 2, {"value"}, {"k"});
+  expectValues(wide.table, "Parameter: k", {0.1, 0.1, 0.2, 0.2, 1, 1});
+}
+
+TEST(WideLayout, LeavesOutWhatSumsTheRunsUp)
+{
+  const DescribedTable wide = described("time,run_1,run_2,mean\n0,1,3,2\n1,4,6,5\n");
+  expectDescribed(wide, "wide", 2, 2, {"value"});
+  EXPECT_TRUE(wide.warns("\"mean\" is of no run"));
+  EXPECT_EQ(described("time,run_1,run_2,temperature\n0,1,3,2\n1,4,6,5\n").options(),
+            (Names{"--layout stacked", "--layout wide"}));
+}
+
+TEST(WideLayout, AsksWhereManyRunsOfSeveralItemsAreNumbered)
+{
+  std::string text = "time";
+  for (const char* item : {"A", "B"})
+    for (int run = 1; run <= 12; ++run)
+      text += std::string(",") + item + '_' + std::to_string(run);
+  for (const char* time : {"\n0", "\n1"})
+  {
+    text += time;
+    for (int i = 0; i < 24; ++i)
+      text += "," + std::to_string(i);
+  }
+  text += '\n';
+  EXPECT_EQ(described(text).options(), (Names{"--layout stacked", "--layout wide"}));
+  ImportRequest request;
+  request.layout = "wide";
+  expectDescribed(described(text, request), "wide", 12, 2, {"A", "B"});
+}
+
+TEST(WideLayout, TakesWellsForRuns)
+{
+  std::string text = "time";
+  for (char row = 'A'; row <= 'H'; ++row)
+    for (int column = 1; column <= 12; ++column)
+      text += std::string(",") + row + std::to_string(column);
+  for (const char* time : {"\n0", "\n1"})
+  {
+    text += time;
+    for (int i = 0; i < 96; ++i)
+      text += "," + std::to_string(i);
+  }
+  expectDescribed(described(text + '\n'), "wide", 96, 2, {"value"});
+}
+
+TEST(WideLayout, TakesHundredsOfNumbersBehindPointsForRuns)
+{
+  expectDescribed(described(numbered("TetR.", 300)), "wide", 300, 2, {"TetR"});
+}
+
 TEST(WideLayout, ReadsTheNamesOfSeries)
 {
   const auto read = [](const char* name) { return readRunSeriesName(name); };

@@ -83,3 +83,28 @@ TEST(StudyFile, TellsWhateverGoesWrongInOneLine)
       openStudyFile(path, [](double) -> bool { throw std::bad_alloc(); });
   EXPECT_EQ(large.error(), path.toStdString() + ": the table does not fit into memory");
 }
+
+TEST(StudyFile, FindsTheConditionsOfACollectionByTheNameOfTheMeasurements)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("measurementData_X.tsv"));
+  write(path, "observableId\tsimulationConditionId\ttime\tmeasurement\n"
+              "A\tc1\t0\t1\nA\tc1\t5\t2\nA\tc2\t0\t3\nA\tc2\t5\t4\n");
+  write(folder.filePath(QStringLiteral("experimentalCondition_X.tsv")),
+        "conditionId\tdose\nc1\t1\nc2\tk\n");
+  write(folder.filePath(QStringLiteral("parameters_X.tsv")), "parameterId\tnominalValue\nk\t7\n");
+  const Result<OpenedStudy> opened = openStudyFile(path);
+  ASSERT_TRUE(opened.hasValue()) << opened.error();
+  EXPECT_EQ(studySize(opened.value().study), "2 runs, 2 points each, 2 parameters");
+}
+
+TEST(StudyFile, TakesTheRowsOfAScanForRuns)
+{
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("a.scan"));
+  write(path, "# IPTG  GFP\n1 0\n2 5\n4 6\n");
+  const Result<OpenedStudy> opened = openStudyFile(path);
+  ASSERT_TRUE(opened.hasValue()) << opened.error();
+  ASSERT_TRUE(opened.value().study.runs);
+  EXPECT_EQ(opened.value().study.runs->numberOfTrajectories, 3u);
+}

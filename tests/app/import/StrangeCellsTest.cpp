@@ -1,0 +1,100 @@
+#include "app/import/DateText.h"
+#include "app/import/UnitText.h"
+#include "app/import/Utf16Text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "import/DescribedTable.h"
+
+using namespace Talmesh::app;
+
+namespace
+{
+
+bool refusesWith(const std::string& text, const std::string& part)
+{
+  const std::string error = described(text).error;
+  EXPECT_NE(error.find(part), std::string::npos) << error;
+  return !error.empty();
+}
+
+} // namespace
+
+TEST(StrangeCells, OfNumbersWithBlanksBetweenThousandsAreRefused)
+{
+  EXPECT_TRUE(refusesWith("Zeit;A\n0;1 000,5\n1;2 009,5\n2;3 018,5\n", "between thousands"));
+  EXPECT_TRUE(looksLikeThousands("1\xC2\xA0"
+                                 "000"));
+  EXPECT_TRUE(looksLikeThousands("12\xE2\x80\xAF"
+                                 "345,5"));
+  EXPECT_TRUE(looksLikeThousands("1'000.5"));
+  EXPECT_FALSE(looksLikeThousands("1 00"));
+  EXPECT_FALSE(looksLikeThousands("1 000 cells"));
+}
+
+TEST(StrangeCells, OfPercentagesAreRefusedUnlessTheyTellConditions)
+{
+  EXPECT_TRUE(refusesWith("time,A\n0,0%\n1,1%\n2,2%\n", "percent sign"));
+  expectDescribed(described("run,serum,time,A\n1,5%,0,1\n1,5%,1,2\n2,10%,0,3\n2,10%,1,4\n"),
+                  "stacked", 2, 2, {"A"}, {}, {"serum"});
+}
+
+TEST(StrangeCells, OfDatesInOtherOrdersAreRefused)
+{
+  EXPECT_TRUE(refusesWith("Datum;Wert\n01.03.2024;0,5\n02.03.2024;1,5\n", "2024-03-31"));
+  EXPECT_TRUE(refusesWith("date,A\n03/01/2024,0\n03/02/2024,1\n", "2024-03-31"));
+  EXPECT_TRUE(isLocalDate("1/2/2024 12:30"));
+  EXPECT_FALSE(isLocalDate("2024-03-01"));
+  EXPECT_FALSE(isLocalDate("1.2.10"));
+}
+
+TEST(StrangeCells, OfNothingButDifferentTextsAreNoRuns)
+{
+  EXPECT_TRUE(refusesWith("time,A\n0,a1\n1,a2\n2,a3\n", "line 2: \"a1\" in the column \"A\""));
+  expectDescribed(described("time,state,A\n0,on,1\n1,off,2\n2,on,3\n"), "stacked", 1, 3, {"A"}, {},
+                  {"state"});
+}
+
+TEST(StrangeCells, ThatAreReadWithTheOptionOfTheRefusal)
+{
+  const std::string text = "time,A,state\n0,1,0\n1,2,1\n2,3,0\n3,4,done\n";
+  EXPECT_TRUE(refusesWith(text, "--ignore \"state\""));
+  ImportRequest request;
+  request.conditions = {"state"};
+  expectDescribed(described(text, request), "stacked", 1, 4, {"A"}, {}, {"state"});
+}
+
+TEST(StrangeCells, OfUtf16AreRead)
+{
+  const auto utf16 = [](const std::string& text, bool little)
+  {
+    std::string bytes = little ? "\xFF\xFE" : "\xFE\xFF";
+    for (const char c : text)
+      bytes += little ? std::string{c, '\0'} : std::string{'\0', c};
+    return bytes;
+  };
+  for (const bool little : {true, false})
+    expectDescribed(described(utf16("time\tA\r\n0\t1\r\n1\t2\r\n", little)), "stacked", 1, 2,
+                    {"A"});
+  EXPECT_EQ(utf8FromUtf16(std::string("\xFF\xFE\xBC\x03\x3D\xD8\x00\xDE\x00\xD8", 10)),
+            "\xCE\xBC\xF0\x9F\x98\x80\xEF\xBF\xBD");
+  EXPECT_EQ(described("\xFF\xFE").error, "the file is empty");
+}
+
+TEST(StrangeCells, OfColumnsThatNeverVaryAreTold)
+{
+  const DescribedTable table = described("time,A,T_ref\n0,1,37\n1,2,37\n");
+  expectDescribed(table, "stacked", 1, 2, {"A", "T_ref"});
+  EXPECT_TRUE(table.warns("The same value stands in all rows of \"T_ref\"."));
+  EXPECT_FALSE(described("time,A\n0,1\n1,2\n").warns("The same value"));
+}
+
+TEST(StrangeCells, OfErrorsOfOtherColumnsAreNotPlotted)
+{
+  const DescribedTable table = described("time,A,A_sd,B_mean,B_SD\n0,1,0.1,2,0.2\n1,2,0.1,3,0.3\n");
+  expectDescribed(table, "stacked", 1, 2, {"A", "B_mean"});
+  EXPECT_EQ(table.report.ignored, (Names{"A_sd", "B_SD"}));
+  expectDescribed(described("time,A,C_sd\n0,1,0.1\n1,2,0.2\n"), "stacked", 1, 2, {"A", "C_sd"});
+}
