@@ -658,6 +658,17 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>OrderSearch</name>
+    <message>
+        <source>the numbers of %1 rise from row to row, so they are the time</source>
+        <translation>die Zahlen von %1 steigen von Zeile zu Zeile und sind daher die Zeit</translation>
+    </message>
+    <message>
+        <source>%1 parts the rows into runs over time</source>
+        <translation>%1 teilt die Zeilen in Läufe über die Zeit</translation>
+    </message>
+</context>
+<context>
     <name>PaintingMemory</name>
     <message>
         <source>there is not enough memory for this picture</source>
@@ -707,6 +718,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>%1 beside the table says what the conditions are</source>
         <translation>%1 neben der Tabelle sagt, was die Bedingungen sind</translation>
+    </message>
+    <message>
+        <source>The condition %1 does not stand in %2, so nothing more is known of it.</source>
+        <translation>Die Bedingung %1 steht nicht in %2, daher ist nicht mehr von ihr bekannt.</translation>
     </message>
 </context>
 <context>
@@ -876,6 +891,18 @@ p, li { white-space: pre-wrap; }
         <source>line %1: %2 in the column %3 has commas between thousands; write the numbers without them</source>
         <translation>Zeile %1: %2 in der Spalte %3 hat Trennzeichen zwischen Tausendern; bitte die Zahlen ohne sie schreiben</translation>
     </message>
+    <message>
+        <source>line %1: %2 in the column %3 is a date whose day and month could be taken for each other; write it as 2024-03-31</source>
+        <translation>Zeile %1: %2 in der Spalte %3 ist ein Datum, dessen Tag und Monat verwechselt werden könnten; schreiben Sie es wie 2024-03-31</translation>
+    </message>
+    <message>
+        <source>line %1: %2 in the column %3 has a percent sign; write the numbers without it</source>
+        <translation>Zeile %1: %2 in der Spalte %3 hat ein Prozentzeichen; schreiben Sie die Zahlen ohne es</translation>
+    </message>
+    <message>
+        <source>line %1: %2 in the column %3 has marks or blanks between thousands; write the numbers without them</source>
+        <translation>Zeile %1: %2 in der Spalte %3 hat Zeichen oder Leerzeichen zwischen den Tausendern; schreiben Sie die Zahlen ohne sie</translation>
+    </message>
 </context>
 <context>
     <name>RowsLayout</name>
@@ -898,6 +925,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>a column is called as parameters are, and there is no time: a row may be a run</source>
         <translation>eine Spalte heißt wie ein Parameter, und es gibt keine Zeit: Eine Zeile kann ein Lauf sein</translation>
+    </message>
+    <message>
+        <source>a file of this kind holds a scan of its first column</source>
+        <translation>eine Datei dieser Art enthält einen Scan über ihre erste Spalte</translation>
     </message>
 </context>
 <context>
@@ -1239,6 +1270,14 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>%1. If a run starts wherever time falls back, say --layout stacked; if a column names the runs, --run and its name; if there are none, --layout table</source>
         <translation>%1. Wenn ein Lauf beginnt, wo die Zeit zurückspringt, hilft --layout stacked; wenn eine Spalte die Läufe benennt, --run und ihr Name; wenn es keine Läufe sind, --layout table</translation>
+    </message>
+    <message>
+        <source>. --ignore %1 leaves the column out, --condition %1 takes it for texts</source>
+        <translation>. --ignore %1 lässt die Spalte weg, --condition %1 nimmt sie für Texte</translation>
+    </message>
+    <message>
+        <source>The same value stands in all rows of %1.</source>
+        <translation>In allen Zeilen von %1 steht derselbe Wert.</translation>
     </message>
 </context>
 <context>
@@ -1736,20 +1775,12 @@ p, li { white-space: pre-wrap; }
         <translation>die Tabelle hat %1 Spalten; höchstens %2 lassen sich lesen</translation>
     </message>
     <message>
-        <source>the first line holds numbers, not the names of the columns</source>
-        <translation>die erste Zeile enthält Zahlen statt der Namen der Spalten</translation>
-    </message>
-    <message>
         <source>line %1: a quoted field is not closed</source>
         <translation>Zeile %1: Die Anführungszeichen um ein Feld sind nicht geschlossen</translation>
     </message>
     <message>
         <source>the table has no rows below its headers</source>
         <translation>die Tabelle hat unter ihren Überschriften keine Zeilen</translation>
-    </message>
-    <message>
-        <source>line %1: the run has no name in the column %2</source>
-        <translation>Zeile %1: Der Lauf hat keinen Namen in der Spalte %2</translation>
     </message>
     <message>
         <source>line %1: %2 is ambiguous: the table has both decimal points and decimal commas</source>
@@ -1790,6 +1821,18 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>not a table: its first line does not end; tables have a line for each row</source>
         <translation>keine Tabelle: die erste Zeile endet nicht; Tabellen haben eine Zeile je Reihe</translation>
+    </message>
+    <message>
+        <source>the first line holds numbers, not the names of the columns; write a line of names above it, as many as there are columns</source>
+        <translation>die erste Zeile enthält Zahlen, nicht die Namen der Spalten; schreiben Sie eine Zeile mit so vielen Namen darüber, wie es Spalten gibt</translation>
+    </message>
+    <message>
+        <source>line %1: the run has no name in the column %2; fill it in, or name other columns (--run)</source>
+        <translation>Zeile %1: Der Lauf hat in der Spalte %2 keinen Namen; tragen Sie ihn ein, oder nennen Sie andere Spalten (--run)</translation>
+    </message>
+    <message>
+        <source>the text is UTF-16</source>
+        <translation>der Text ist UTF-16</translation>
     </message>
 </context>
 <context>
@@ -3154,6 +3197,33 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Permutations of whole groups of runs that share values</source>
         <translation>Vertauschungen ganzer Gruppen von Läufen mit gemeinsamen Werten</translation>
+    </message>
+</context>
+<context>
+    <name>TextRuns</name>
+    <message>
+        <source>no row has a time</source>
+        <translation>keine Zeile hat eine Zeit</translation>
+    </message>
+    <message>
+        <source>Line %1: the time is missing. Points without a time are left out (%2 in all).</source>
+        <translation>Zeile %1: Die Zeit fehlt. Punkte ohne Zeit werden weggelassen (insgesamt %2).</translation>
+    </message>
+    <message>
+        <source>Line %1: a run has a second point at the same time (%2 such points in all).</source>
+        <translation>Zeile %1: Ein Lauf hat einen zweiten Punkt zur selben Zeit (insgesamt %2 solche Punkte).</translation>
+    </message>
+    <message>
+        <source>a run has several points at the same time</source>
+        <translation>ein Lauf hat mehrere Punkte zur selben Zeit</translation>
+    </message>
+    <message>
+        <source>line %1: a second point of a run at the same time. If a column names the runs, say --run and its name; if one names the items, --item; if the points are of one run, --layout stacked; if the rows have no order, --layout table</source>
+        <translation>Zeile %1: ein zweiter Punkt eines Laufs zur selben Zeit. Wenn eine Spalte die Läufe benennt, geben Sie --run und ihren Namen an; wenn eine die Größen benennt, --item; wenn die Punkte von einem Lauf sind, --layout stacked; wenn die Zeilen keine Ordnung haben, --layout table</translation>
+    </message>
+    <message>
+        <source>The time falls from row to row, so the rows are read from the last to the first.</source>
+        <translation>Die Zeit fällt von Zeile zu Zeile, daher werden die Zeilen von der letzten zur ersten gelesen.</translation>
     </message>
 </context>
 <context>
