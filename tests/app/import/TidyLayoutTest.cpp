@@ -97,7 +97,7 @@ TEST(TidyLayout, RefusesASecondValueOfOnePoint)
 
 TEST(TidyLayout, RefusesTextAmongTheValues)
 {
-  EXPECT_EQ(described("run,time,item,value\n1,0,A,1\n1,0,B,2b\n").error,
+  EXPECT_EQ(described("run,time,item,value\n1,0,A,1\n1,0,B,2b\n1,1,A,3\n1,1,B,4\n").error,
             "line 3: \"2b\" in the column \"value\" is not a number");
 }
 
