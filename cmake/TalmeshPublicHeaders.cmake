@@ -25,6 +25,7 @@ set(TALMESH_PUBLIC_HEADERS
   plot/KsStatistics.h
   plot/PlotContainer.h
   plot/PlotContainerTypes.h
+  plot/PlotLook.h
   plot/PlotOptions.h
   plot/PlotSeams.h
   plot/RunClustering.h
@@ -37,6 +38,7 @@ set(TALMESH_PUBLIC_HEADERS
   stats/ParameterComparison.h
   stats/RunComparison.h
   vtk/CachedPoints.h
+  vtk/HighlightColor.h
   vtk/PointCloud.h
   vtk/SelectionGesture.h
   vtk/VtkCompat.h

@@ -1,5 +1,6 @@
 #include "plot/ChartLifetime.h"
 
+#include "plot/AppliedLook.h"
 #include "plot/AxisScales.h"
 #include "plot/PlotState.h"
 #include "vtk/HandlerScope.h"
@@ -82,6 +83,7 @@ vtkSmartPointer<vtkChartXY> makeXYChart(const PlotState& state)
   chart->SetRenderEmpty(true);
   chart->SetAnnotationLink(state.annotationLink);
   chart->SetGestures(state.gestures);
+  dressInLook(state.options.look, chart);
   return chart;
 }
 
@@ -114,6 +116,7 @@ vtkChartXY* reuseChartXY(PlotState& state, vtkContextScene* scene)
   state.chartXY->SetInteractive(true);
   restoreAxis(state.chartXY->GetAxis(vtkAxis::BOTTOM));
   restoreAxis(state.chartXY->GetAxis(vtkAxis::LEFT));
+  dressInLook(state.options.look, state.chartXY);
   return state.chartXY;
 }
 

@@ -1,6 +1,7 @@
 #include "plot/DistributionCell.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/AppliedLook.h"
 #include "plot/AxisWindows.h"
 #include "plot/DerivedTables.h"
 #include "plot/GroupCurves.h"
@@ -29,6 +30,9 @@ namespace
 {
 
 using Color = std::array<double, 3>;
+
+/// At 0, 0.5 and 1.
+constexpr int ecdfTicks = 3;
 
 /// Colours of the further data sets in turn: the selected runs, then the others.
 constexpr std::array<Color, 3> dataSetColors = {
@@ -62,7 +66,7 @@ vtkPlot* addCurve(const PlotState& state, vtkChart* chart, std::size_t ranks,
 
 void addCurves(const PlotState& state, vtkChart* chart, const std::string& label)
 {
-  addCurve(state, chart, ownRankSlot, label)->SetColor(0, 0, 0, 255);
+  setColor(addCurve(state, chart, ownRankSlot, label), state.options.look.foreground);
   const std::size_t slotCount = state.derivedTables.size();
   for (std::size_t dataSet = 1; densitySlotOf(rankSlot(dataSet)) < slotCount; ++dataSet)
   {
@@ -86,10 +90,13 @@ void addGroupCurves(const PlotState& state, vtkChart* chart, std::size_t paramet
 void dressLeftAxis(const PlotState& state, vtkAxis* axis)
 {
   const bool density = state.metaData->getUseDensity();
-  axis->SetLabelsVisible(false);
-  axis->SetTitle(density ? "Density" : "Ecdf");
+  const bool labelled = !density && state.options.look.labelsEcdfs;
+  axis->SetLabelsVisible(labelled);
+  axis->SetTitle(density ? "Density" : labelled ? "ECDF" : "Ecdf");
   if (!density)
     fixRange(axis, 0.0, 1.0);
+  if (labelled)
+    axis->SetNumberOfTicks(ecdfTicks);
 }
 
 std::string testTitle(const PlotState& state, std::size_t parameter)

@@ -2,6 +2,7 @@
 
 #include "external/Distribution.h"
 #include "external/ScientificFormat.h"
+#include "plot/AppliedLook.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
 #include "plot/PlotFeed.h"
@@ -110,7 +111,7 @@ RangeEnds drawDensityCurve(PlotState& state, const DensityCurve& curve)
   // VTK sorts the points by x and does not finish painting an infinite axis.
   if (isBounded(plottableColumn(state.table, 0)))
     feedPlot(area, state.table, 0, 1);
-  area->SetColor(30, 30, 230, 255);
+  setColor(area, firstSeriesColor(state.options.look, {30, 30, 230, 255}));
   dressAxes(chart, curve);
   chart->SetInteractive(false);
   chart->Update();

@@ -2,6 +2,7 @@
 
 #include "external/LinePlotData.h"
 #include "external/PlotMetaData.h"
+#include "plot/AppliedLook.h"
 #include "plot/ColumnList.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
@@ -57,8 +58,7 @@ void drawLinePlotItems(PlotState& state, const std::vector<Talmesh::TypedConcent
   if (!state.chartXY)
     return;
   state.chartXY->ClearPlots();
-  vtkNew<vtkColorSeries> colors;
-  colors->SetColorScheme(vtkColorSeries::WILD_FLOWER);
+  const vtkSmartPointer<vtkColorSeries> colors = seriesColors(state.options.look);
   const int x =
       columnIndex(state.table, columnName(state.table, firstOf(state.metaData->xColumns)));
   for (std::size_t i = 0; i < items.size(); ++i)

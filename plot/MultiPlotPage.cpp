@@ -1,6 +1,7 @@
 #include "plot/MultiPlotPage.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/AppliedLook.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
 #include "plot/DrawnRows.h"
@@ -24,10 +25,10 @@ namespace
 
 using Titles = std::vector<std::string>;
 
-void addBlackPoints(vtkChart* chart, vtkTable* table, int xColumn, int yColumn)
+void addPoints(const PlotLook& look, vtkChart* chart, vtkTable* table, int xColumn, int yColumn)
 {
   vtkPlot* plot = chart->AddPlot(vtkChart::POINTS);
-  plot->SetColor(0, 0, 0, 255);
+  setColor(plot, look.foreground);
   feedPlot(plot, table, xColumn, yColumn);
 }
 
@@ -35,7 +36,7 @@ void drawPair(PlotState& state, const Titles& titles, const ParameterPair& pair)
 {
   const std::vector<int>& columns = state.metaData->parameterColumns;
   vtkChart* chart = pairCell(state, pair);
-  addBlackPoints(chart, state.table, columns[pair.x], columns[pair.y]);
+  addPoints(state.options.look, chart, state.table, columns[pair.x], columns[pair.y]);
   dressPairAxes(state, chart, pair, titles);
 }
 
@@ -76,7 +77,7 @@ void drawMainChart(PlotState& state, int parameters)
   const DrawnRows drawn = drawnRows(state);
   state.chartXY->SetAnnotationLink(drawn.link);
   state.chartMatrix->SetChartSpan(cell, vtkVector2i(span, span));
-  addBlackPoints(state.chartXY, drawn.table, drawn.x, drawn.y);
+  addPoints(state.options.look, state.chartXY, drawn.table, drawn.x, drawn.y);
   dressMainChart(state);
 }
 

@@ -1,6 +1,8 @@
 #ifndef PlotOptions_h
 #define PlotOptions_h
 
+#include "../plot/PlotLook.h"
+
 /// What a program can have otherwise than a container does by itself. Changes take effect with the
 /// next redraw or computation; a copied container has those of its original.
 struct PlotOptions
@@ -20,6 +22,8 @@ struct PlotOptions
   /// Remarks on computed tables go to standard output: the sizes of a clustering, and parameters
   /// with fewer values than others. A program that shows its results otherwise switches them off.
   bool showsDiagnostics = true;
+  /// Text, colours and ticks of all charts.
+  PlotLook look;
 };
 
 #endif

@@ -6,7 +6,6 @@
 #include "plot/PlotState.h"
 #include "plot/TableColumns.h"
 #include "vtk/GestureHandling.h"
-#include "vtk/HighlightColor.h"
 #include "vtk/RowSelections.h"
 #include "vtk/vtkSelectableChartXYZ.h"
 
@@ -75,7 +74,7 @@ vtkSmartPointer<vtkTable> finitePoints(const std::vector<vtkVector3f>& points)
 
 /// As the places of the selected rows among the finite points.
 void highlight(vtkPlot3D* plot, const std::vector<vtkVector3f>& points,
-               const std::vector<bool>& selected)
+               const std::vector<bool>& selected, const PlotLook::Color& color)
 {
   vtkNew<vtkIdTypeArray> places;
   vtkIdType place = 0;
@@ -87,7 +86,6 @@ void highlight(vtkPlot3D* plot, const std::vector<vtkVector3f>& points,
       places->InsertNextValue(place);
     ++place;
   }
-  const auto& color = highlightColor;
   plot->GetSelectionPen()->SetColor(color[0], color[1], color[2], 255);
   plot->GetSelectionPen()->SetWidth(highlightWidth);
   plot->SetSelection(places);
@@ -102,7 +100,8 @@ void enableSelection3D(PlotState& state, vtkPlot3D* plot, std::vector<vtkVector3
   const DrawnRows drawn = drawnRows(state);
   chart->SetGestures(state.gestures);
   if (state.gestures->select)
-    highlight(plot, points, markedRows(drawn.link->GetCurrentSelection(), drawn.table));
+    highlight(plot, points, markedRows(drawn.link->GetCurrentSelection(), drawn.table),
+              state.options.look.highlight.color);
   chart->SetPoints(drawn.table, std::move(points), drawn.link);
 }
 

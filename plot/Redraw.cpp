@@ -1,6 +1,7 @@
 #include "plot/Redraw.h"
 
 #include "external/PlotMetaData.h"
+#include "plot/AppliedLook.h"
 #include "plot/AxisScales.h"
 #include "plot/ChartLifetime.h"
 #include "plot/Decorations.h"
@@ -34,6 +35,7 @@ void dress(PlotState& state)
   removeDecorations(state);
   drawDecorations(state);
   applyLogScaleX(state);
+  dressInLook(state);
 }
 
 /// Whoever watches the selection hears of the cut and may answer by drawing.

@@ -5,6 +5,7 @@
 #include "external/FitSettings.h"
 #include "external/PlotMetaData.h"
 #include "external/Standardize.h"
+#include "plot/AppliedLook.h"
 #include "plot/ChartLifetime.h"
 #include "plot/PlotFeed.h"
 #include "plot/PlotState.h"
@@ -117,7 +118,7 @@ void addSeries(PlotState& state, int type, int y, bool timeCourse)
     feedPlot(plot, state.table, 0, y);
   else
     feedPlotByIndex(plot, state.table, y);
-  plot->SetColor(200, 30, 30, 255);
+  setColor(plot, firstSeriesColor(state.options.look, {200, 30, 30, 255}));
 }
 
 void addAllSeries(PlotState& state, std::size_t outputs, bool timeCourse, bool sideBySide)

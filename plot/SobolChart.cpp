@@ -2,6 +2,7 @@
 
 #include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
+#include "plot/AppliedLook.h"
 #include "plot/AxisWindows.h"
 #include "plot/ChartLifetime.h"
 #include "plot/PlotState.h"
@@ -82,10 +83,9 @@ bool isTimeAxis(vtkDataArray* time, vtkTable* table)
 }
 
 template <typename StackingPlot>
-void dressSeries(StackingPlot* plot, vtkChartXY* chart)
+void dressSeries(const PlotLook& look, StackingPlot* plot, vtkChartXY* chart)
 {
-  vtkNew<vtkColorSeries> colors;
-  colors->SetColorScheme(vtkColorSeries::WILD_FLOWER);
+  const vtkSmartPointer<vtkColorSeries> colors = seriesColors(look);
   plot->SetColorSeries(colors);
   // A single series is painted in the plot's own colour, but the legend shows the scheme's.
   const vtkColor3ub first = colors->GetColor(0);
@@ -106,13 +106,13 @@ int labelFontSize(vtkStringArray* names)
   return std::max(smallestSize, static_cast<int>(normalSize * normalLength / longest));
 }
 
-void labelCategories(vtkAxis* axis, vtkStringArray* names)
+void labelCategories(const PlotLook& look, vtkAxis* axis, vtkStringArray* names)
 {
   vtkNew<vtkDoubleArray> positions;
   for (vtkIdType i = 0; i < names->GetNumberOfValues(); ++i)
     positions->InsertNextValue(static_cast<double>(i));
   axis->SetCustomTickPositions(positions, names);
-  axis->GetLabelProperties()->SetFontSize(labelFontSize(names));
+  dressText(look, axis->GetLabelProperties(), labelFontSize(names));
   axis->GetLabelProperties()->SetOrientation(90.0);
   axis->GetLabelProperties()->SetJustificationToRight();
   axis->GetLabelProperties()->SetVerticalJustificationToCentered();
@@ -133,7 +133,7 @@ void addSobolBands(PlotState& state, bool total)
     bands->SetInputArray(0, derivedTimeName);
     feedSeries(bands, state.table);
   }
-  dressSeries(bands, chart);
+  dressSeries(state.options.look, bands, chart);
 }
 
 void addSobolBars(PlotState& state, bool total)
@@ -143,11 +143,11 @@ void addSobolBars(PlotState& state, bool total)
   vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
   fixRange(bottom, -1.0, static_cast<double>(state.table->GetNumberOfRows() + 1));
   if (auto* names = vtkStringArray::SafeDownCast(columnNamed(state.table, "Name")))
-    labelCategories(bottom, names);
+    labelCategories(state.options.look, bottom, names);
   dressLeftAxis(chart->GetAxis(vtkAxis::LEFT), total);
   bars->SetUseIndexForXSeries(true);
   feedSeries(bars, state.table);
-  dressSeries(bars, chart);
+  dressSeries(state.options.look, bars, chart);
 }
 
 void buildSobolChart(PlotState& state, bool total)

@@ -2,6 +2,7 @@
 
 #include "external/ColumnNames.h"
 #include "external/PlotMetaData.h"
+#include "plot/AppliedLook.h"
 #include "plot/AxisWindows.h"
 #include "plot/DrawnRows.h"
 #include "plot/PlotFeed.h"
@@ -25,29 +26,22 @@ namespace Talmesh::plot
 namespace
 {
 
-struct Band
-{
-  const char* column;
-  std::array<unsigned char, 4> color;
-};
-
 /// Painted in this order: the wide band behind the narrow one behind the line.
-constexpr std::array<Band, 3> bands = {
-    {{"Range", {148, 148, 255, 255}}, {"QRange", {64, 64, 255, 255}}, {"Median", {0, 0, 0, 255}}}};
+constexpr std::array<const char*, 3> bandColumns = {"Range", "QRange", "Median"};
 
 /// The x axis ends this part of its limits beyond the data, whatever their sign.
 constexpr double lowerFactor = 0.995;
 constexpr double upperFactor = 1.005;
 
-void addBand(PlotState& state, const Band& band)
+void addBand(PlotState& state, const char* column, const PlotLook::Color& color)
 {
   const int time = columnIndex(state.quartileTable, derivedTimeName);
-  const int value = columnIndex(state.quartileTable, band.column);
+  const int value = columnIndex(state.quartileTable, column);
   vtkNew<vtkPlotShiftedBag> plot;
-  plot->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
-  plot->GetBrush()->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
+  setColor(plot, color);
+  plot->GetBrush()->SetColor(color[0], color[1], color[2], color[3]);
   vtkNew<vtkPen> selectionPen;
-  selectionPen->SetColor(band.color[0], band.color[1], band.color[2], band.color[3]);
+  selectionPen->SetColor(color[0], color[1], color[2], color[3]);
   plot->SetSelectionPen(selectionPen);
   // One point in time spans no band, and VTK reports one as an error.
   if (state.quartileTable->GetNumberOfRows() > 1)
@@ -61,6 +55,7 @@ vtkSmartPointer<vtkPlotPoints> makeSummaryPlot(const PlotState& state)
 {
   auto points = vtkSmartPointer<vtkPlotInvisiblePoints>::New();
   points->SetOnlyShowSelected(0);
+  points->SetHighlight(state.options.look.highlight);
   points->SetMarkerSize(static_cast<float>(state.metaData->pointSize));
   points->SetMarkerStyle(state.metaData->markerStyle);
   return points;
@@ -78,10 +73,12 @@ vtkSmartPointer<vtkPlotPoints> makeRunsPlot(const PlotState& state)
     lines->SetOnlyShowSelected(onlyShowSelected);
     lines->SetBreakAtGaps(state.options.breaksLinesAtGaps);
     lines->SetPictureStore(state.pictures);
+    lines->SetHighlight(state.options.look.highlight);
     return lines;
   }
   auto points = vtkSmartPointer<vtkPlotInvisiblePoints>::New();
   points->SetOnlyShowSelected(onlyShowSelected);
+  points->SetHighlight(state.options.look.highlight);
   return points;
 }
 
@@ -123,8 +120,8 @@ void addQuartileBands(PlotState& state)
   if (!state.quartileTable)
     return;
   state.quartileTable->Modified();
-  for (const Band& band : bands)
-    addBand(state, band);
+  for (std::size_t band = 0; band < bandColumns.size(); ++band)
+    addBand(state, bandColumns[band], state.options.look.bands[band]);
 }
 
 vtkPlot* fillTrajectoryChart(PlotState& state)

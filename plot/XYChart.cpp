@@ -30,6 +30,7 @@ vtkPlot* addRuns(PlotState& state)
   runs->SetOnlyShowSelected(0);
   runs->SetBreakAtGaps(state.options.breaksLinesAtGaps);
   runs->SetPictureStore(state.pictures);
+  runs->SetHighlight(state.options.look.highlight);
   state.chartXY->AddPlot(runs);
   return runs;
 }

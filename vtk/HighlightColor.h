@@ -15,6 +15,19 @@ inline constexpr std::array<unsigned char, 4> highlightColorOfParallelLines{255,
 /// The red of runs, but of curves and opaque, 0 to 1. VTK makes 51 of its green, as on pages drawn
 /// before.
 inline constexpr std::array<double, 3> highlightShade{1.0, 0.2, 0.0};
+
+/// How runs and points that are selected are drawn on top of the others.
+struct Highlight
+{
+  std::array<unsigned char, 4> color = highlightColor;
+  /// So much wider than those of the others their lines are, in pixels, and their markers larger.
+  double widening = 2.7;
+};
+
+inline bool operator==(const Highlight& one, const Highlight& other)
+{
+  return one.color == other.color && one.widening == other.widening;
+}
 } // namespace Talmesh
 
 #endif

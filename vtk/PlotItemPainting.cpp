@@ -1,7 +1,5 @@
 #include "vtk/PlotItemPainting.h"
 
-#include "vtk/HighlightColor.h"
-
 #include <vtkContext2D.h>
 #include <vtkDataArray.h>
 #include <vtkIdTypeArray.h>
@@ -16,11 +14,11 @@
 
 namespace Talmesh
 {
-void applyHighlightPen(vtkContext2D* painter, float width)
+void applyHighlightPen(vtkContext2D* painter, const Highlight& highlight, float width)
 {
-  painter->GetPen()->SetColor(highlightColor[0], highlightColor[1], highlightColor[2],
-                              highlightColor[3]);
-  painter->GetPen()->SetWidth(static_cast<float>(width + 2.7));
+  const auto& color = highlight.color;
+  painter->GetPen()->SetColor(color[0], color[1], color[2], color[3]);
+  painter->GetPen()->SetWidth(static_cast<float>(width + highlight.widening));
 }
 
 void paintLegendLine(vtkContext2D* painter, vtkPen* pen, const vtkRectf& rect)

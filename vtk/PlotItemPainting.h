@@ -1,6 +1,8 @@
 #ifndef PlotItemPainting_h
 #define PlotItemPainting_h
 
+#include "vtk/HighlightColor.h"
+
 #include <vtkRect.h>
 #include <vtkSmartPointer.h>
 #include <vtkStdString.h>
@@ -17,9 +19,9 @@ class vtkUnsignedCharArray;
 /// What the plot items of this library have in common when they paint.
 namespace Talmesh
 {
-/// Gives the painter's pen the highlight colour (vtk/HighlightColor.h) and a width
-/// of @p width + 2.7 pixels.
-void applyHighlightPen(vtkContext2D* painter, float width);
+/// Gives the painter's pen the colour of what is selected, and a width that is as much above
+/// @p width, in pixels, as it says.
+void applyHighlightPen(vtkContext2D* painter, const Highlight& highlight, float width);
 
 /// Applies @p pen and draws a horizontal line across @p rect at half its height.
 void paintLegendLine(vtkContext2D* painter, vtkPen* pen, const vtkRectf& rect);

@@ -1,10 +1,16 @@
 #include "vtk/vtkGuardedAxis.h"
 
+#include "stats/RoundTicks.h"
+#include "vtk/ShortenedText.h"
+
 #include <vtkContext2D.h>
+#include <vtkContextScene.h>
 #include <vtkDoubleArray.h>
 #include <vtkFloatArray.h>
 #include <vtkNew.h>
 #include <vtkObjectFactory.h>
+#include <vtkRenderWindow.h>
+#include <vtkRenderer.h>
 #include <vtkStringArray.h>
 #include <vtkTextProperty.h>
 
@@ -37,6 +43,13 @@ constexpr double mostDecadesTickedByVtk = 20.0;
 constexpr int mostDecadeTicks = 10;
 /// Pixels, on both sides together: as far apart are charts above each other at least.
 constexpr float besideUprightTitle = 20.0F;
+/// Of a number's digits in all common sans-serif fonts at most, in parts of the font's size.
+constexpr double digitWidth = 0.64;
+/// From one label to the next along an axis: between them, and from line to line; in the same unit.
+constexpr double lettersBetween = 1.2;
+constexpr double lettersUpright = 3.0;
+/// As VTK takes the size of a font.
+constexpr float pointsPerInch = 72.0F;
 
 using Ends = std::pair<double, double>;
 
@@ -70,13 +83,6 @@ int decadeStep(double span)
   }
 }
 
-float widthOf(vtkContext2D* painter, const std::string& text)
-{
-  float bounds[4] = {};
-  painter->ComputeStringBounds(text, bounds);
-  return bounds[2];
-}
-
 /// Gives a text back what it was, however the scope is left.
 template <typename Text>
 class GivenBack
@@ -95,27 +101,6 @@ private:
   Text& text;
   Text before;
 };
-
-/// The text, or as much of its beginning and end as the width has room for, with three dots
-/// between. Never cuts a character of several bytes.
-std::string shortened(vtkContext2D* painter, const std::string& text, float width)
-{
-  std::vector<std::size_t> starts;
-  for (std::size_t i = 0; i < text.size(); ++i)
-    if ((static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U)
-      starts.push_back(i);
-  std::string shown = text;
-  for (std::size_t kept = starts.size(); kept > 1 && widthOf(painter, shown) > width;)
-  {
-    // A fraction at a time: each width is found by laying the text out.
-    kept -= std::max<std::size_t>(1, kept / 16);
-    const std::size_t front = kept - kept / 2;
-    const std::size_t back = kept / 2;
-    shown = text.substr(0, starts[front]) + "..." +
-            (back > 0 ? text.substr(starts[starts.size() - back]) : std::string());
-  }
-  return shown;
-}
 
 } // namespace
 
@@ -188,11 +173,11 @@ std::string vtkGuardedAxis::FittingTitle(vtkContext2D* painter)
   level->SetOrientation(0.0);
   painter->ApplyTextProp(level);
   // This width tells fonts, resolutions and painting devices apart.
-  const float width = widthOf(painter, Title);
+  const float width = Talmesh::widthOf(painter, Title);
   if (width <= room)
     return Title;
   if (LastCut.title != Title || LastCut.width != width || LastCut.room != room)
-    LastCut = {Title, width, room, shortened(painter, Title, room)};
+    LastCut = {Title, width, room, Talmesh::shortened(painter, Title, room)};
   return LastCut.shown;
 }
 
@@ -208,6 +193,22 @@ bool vtkGuardedAxis::Walkable() const
 bool vtkGuardedAxis::SpansManyDecades() const
 {
   return LogScaleActive && std::fabs(Maximum - Minimum) > mostDecadesTickedByVtk;
+}
+
+void vtkGuardedAxis::SetTicksFollowText(bool follow)
+{
+  if (TicksFollowText == follow)
+    return;
+  TicksFollowText = follow;
+  TickMarksDirty = true;
+  Modified();
+}
+
+bool vtkGuardedAxis::TicksAsText() const
+{
+  return TicksFollowText && !LogScaleActive && NumberOfTicks <= 0 &&
+         Notation == STANDARD_NOTATION && Maximum != Minimum &&
+         (Position2[0] != Position1[0] || Position2[1] != Position1[1]);
 }
 
 void vtkGuardedAxis::RecalculateTickSpacing()
@@ -228,6 +229,8 @@ void vtkGuardedAxis::GenerateTickLabels(double min, double max)
     TickDecades();
   else if (!Walkable())
     TickEnds();
+  else if (TicksAsText())
+    TickRoundNumbers();
   else
     Superclass::GenerateTickLabels(min, max);
 }
@@ -258,5 +261,40 @@ void vtkGuardedAxis::TickEnds()
     TickPositions->InsertNextValue(end);
     TickLabels->InsertNextValue(GenerateSimpleLabel(LogScaleActive ? std::pow(10.0, end) : end));
   }
+  TickMarksDirty = false;
+}
+
+float vtkGuardedAxis::TextScale() const
+{
+  vtkRenderer* renderer = Scene ? Scene->GetRenderer() : nullptr;
+  vtkRenderWindow* window = renderer ? renderer->GetRenderWindow() : nullptr;
+  return window ? static_cast<float>(window->GetDPI()) / pointsPerInch : 1.0F;
+}
+
+void vtkGuardedAxis::TickRoundNumbers()
+{
+  const bool upright = Position == LEFT || Position == RIGHT || Position == PARALLEL;
+  const double length =
+      upright ? std::fabs(Position2[1] - Position1[1]) : std::fabs(Position2[0] - Position1[0]);
+  const double letter = LabelProperties->GetFontSize() * TextScale();
+  const auto [low, high] = std::minmax(Minimum, Maximum);
+  const double span = high - low;
+  Talmesh::stats::RoundTicks ticks(low, high);
+  ticks.take(span * std::min(letter / length, 1.0));
+  const auto room = [&]
+  {
+    return letter *
+           (upright ? lettersUpright : lettersBetween + digitWidth * double(ticks.longestLabel()));
+  };
+  while (ticks.step() < span && ticks.step() / span * length < room())
+    ticks.take(1.5 * ticks.step());
+  TickPositions->SetNumberOfTuples(0);
+  TickLabels->SetNumberOfTuples(0);
+  for (const double position : ticks.positions())
+  {
+    TickPositions->InsertNextValue(position);
+    TickLabels->InsertNextValue(ticks.label(position));
+  }
+  TickInterval = ticks.step();
   TickMarksDirty = false;
 }

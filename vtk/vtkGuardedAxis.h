@@ -34,6 +34,12 @@ public:
   void SetLogScaleAllowed(bool allowed);
   bool GetLogScaleAllowed() const { return LogScaleAllowed; }
 
+  /// Whether the ticks of a linear axis lie at multiples of 1, 2 or 5 times a power of ten, as many
+  /// as their labels have room for beside each other; not where their number, notation or labels
+  /// are set. False at first: as VTK's.
+  void SetTicksFollowText(bool follow);
+  bool GetTicksFollowText() const { return TicksFollowText; }
+
   void RecalculateTickSpacing() override;
 
 protected:
@@ -62,9 +68,13 @@ private:
   bool SpansManyDecades() const;
   void TickDecades();
   void TickEnds();
+  bool TicksAsText() const;
+  float TextScale() const;
+  void TickRoundNumbers();
 
   bool LogScaleWanted = false;
   bool LogScaleAllowed = true;
+  bool TicksFollowText = false;
   CutTitle LastCut;
 };
 

@@ -19,6 +19,13 @@ void vtkPlotInvisiblePoints::PrintSelf(ostream& os, vtkIndent indent)
   this->Superclass::PrintSelf(os, indent);
 }
 
+void vtkPlotInvisiblePoints::SetHighlight(const Talmesh::Highlight& highlight)
+{
+  if (!(highlight == this->SelectedLook))
+    this->Modified();
+  this->SelectedLook = highlight;
+}
+
 bool vtkPlotInvisiblePoints::Paint(vtkContext2D* painter)
 {
   if (!this->OnlyShowSelected)
@@ -28,7 +35,8 @@ bool vtkPlotInvisiblePoints::Paint(vtkContext2D* painter)
   if (!this->Selection || this->Selection->GetNumberOfValues() == 0)
     return true;
 
-  Talmesh::applyHighlightPen(painter, Talmesh::effectiveMarkerSize(this->MarkerSize, this->Pen));
+  Talmesh::applyHighlightPen(painter, this->SelectedLook,
+                             Talmesh::effectiveMarkerSize(this->MarkerSize, this->Pen));
   const auto target = Talmesh::AggregateTarget::of(painter, this);
   if (target && this->MarkerStyle != VTK_MARKER_NONE)
   {

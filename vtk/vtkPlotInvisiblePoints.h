@@ -2,6 +2,7 @@
 #define vtkPlotInvisiblePoints_h
 
 #include "../export/TalmeshPlotExport.h"
+#include "../vtk/HighlightColor.h"
 #include "../vtk/PointCloud.h"
 #include "../vtk/VtkCompat.h"
 
@@ -25,6 +26,9 @@ public:
   vtkBooleanMacro(OnlyShowSelected, int);
   ///@}
 
+  /// How the selected points are drawn; at first as everywhere in the library.
+  void SetHighlight(const Talmesh::Highlight& highlight);
+
 protected:
   vtkPlotInvisiblePoints() = default;
   ~vtkPlotInvisiblePoints() override = default;
@@ -36,6 +40,8 @@ private:
   void operator=(const vtkPlotInvisiblePoints&) = delete;
 
   void UpdateSelectedPoints();
+
+  Talmesh::Highlight SelectedLook;
 };
 
 #endif

@@ -88,6 +88,13 @@ void vtkPlotLineSet::Update()
   this->Modified();
 }
 
+void vtkPlotLineSet::SetHighlight(const Talmesh::Highlight& highlight)
+{
+  if (!(highlight == this->SelectedLook))
+    this->Modified();
+  this->SelectedLook = highlight;
+}
+
 bool vtkPlotLineSet::UpdateSelectionCache(vtkTable* table)
 {
   this->ReadMarkers(table, true);
@@ -132,7 +139,7 @@ bool vtkPlotLineSet::Paint(vtkContext2D* painter)
   const bool marked = this->RemainderSelection->GetNumberOfValues() > 0;
   if (!marked && !(this->Selection && this->Selection->GetNumberOfValues() > 0))
     return true;
-  Talmesh::applyHighlightPen(painter, this->Pen->GetWidth());
+  Talmesh::applyHighlightPen(painter, this->SelectedLook, this->Pen->GetWidth());
   if (target)
   {
     this->CountHighlights(marked);

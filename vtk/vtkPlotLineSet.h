@@ -3,6 +3,7 @@
 
 #include "../export/TalmeshPlotExport.h"
 #include "../vtk/CachedPoints.h"
+#include "../vtk/HighlightColor.h"
 #include "../vtk/VtkCompat.h"
 
 #include <memory>
@@ -82,6 +83,9 @@ public:
   vtkBooleanMacro(BreakAtGaps, int);
   ///@}
 
+  /// How the selected runs are drawn; at first as everywhere in the library.
+  void SetHighlight(const Talmesh::Highlight& highlight);
+
 protected:
   vtkPlotLineSet();
   ~vtkPlotLineSet() override;
@@ -113,6 +117,7 @@ private:
   void PaintSums(vtkContext2D* painter, Talmesh::RunLines& runs);
 
   int BreakAtGaps = 0;
+  Talmesh::Highlight SelectedLook;
   std::vector<double> CopiedMarkers; ///< tells the marker column that was copied
   double MarkerCopies = 0.0;         ///< tells one copy of it from another
   vtkIdType CopiedMarks = 0;         ///< non-zero values of that copy

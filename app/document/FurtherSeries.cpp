@@ -12,7 +12,6 @@
 
 #include <vtkAxis.h>
 #include <vtkChartXY.h>
-#include <vtkColorSeries.h>
 #include <vtkNew.h>
 #include <vtkPen.h>
 #include <vtkTable.h>
@@ -36,6 +35,7 @@ vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotContainer& conta
     runs->SetStride(settings.getStride());
     runs->SetOnlyShowSelected(0);
     runs->SetBreakAtGaps(container.getOptions().breaksLinesAtGaps);
+    runs->SetHighlight(container.getOptions().look.highlight);
     if (auto* first = vtkPlotLineSet::SafeDownCast(chart->GetPlot(0)))
       runs->SetPictureStore(first->GetPictureStore());
     chart->AddPlot(runs);
@@ -50,10 +50,10 @@ vtkSmartPointer<vtkPlot> addSeries(vtkChartXY* chart, const PlotContainer& conta
   return plot;
 }
 
-void colour(vtkPlot* plot, vtkColorSeries* colours, std::size_t series, unsigned char alpha)
+void colour(vtkPlot* plot, const PlotLook& look, std::size_t series, unsigned char alpha)
 {
-  const vtkColor3ub c = colours->GetColorRepeating(static_cast<int>(series));
-  plot->SetColor(c.GetRed(), c.GetGreen(), c.GetBlue(), alpha);
+  const PlotLook::Color& c = look.series[series % look.series.size()];
+  plot->SetColor(c[0], c[1], c[2], alpha);
 }
 
 /// Runs that are one point each cover nothing, unlike the lines that the settings' colour is for.
@@ -87,8 +87,7 @@ void addFurtherSeries(PlotContainer& container)
   if (!styleOf(settings).hasSeries)
     return;
   freeLeftAxis(container, chart);
-  vtkNew<vtkColorSeries> colours;
-  colours->SetColorScheme(vtkColorSeries::BREWER_QUALITATIVE_DARK2);
+  const PlotLook& look = container.getOptions().look;
   const bool runs = container.showsSummary();
   const SummaryTable& summary = container.getSummary();
   vtkTable* table = runs ? summary.table.Get() : container.getTable();
@@ -104,8 +103,8 @@ void addFurtherSeries(PlotContainer& container)
       plot = addSeries(chart, container);
       plot::feedPlot(plot, table, x, columns[series]);
     }
-    if (columns.size() > 1)
-      colour(plot, colours, series, alpha);
+    if (columns.size() > 1 && !look.series.empty())
+      colour(plot, look, series, alpha);
     plot->SetLabel(runs ? plot::columnName(table, columns[series])
                         : shownName(plot::columnName(table, columns[series])));
   }

@@ -2,6 +2,7 @@
 
 #include "app/document/ChartDressing.h"
 #include "app/document/ShownCategories.h"
+#include "app/styles/ViewerLook.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
 
@@ -47,6 +48,7 @@ void fill(const Study& study, PlotContainer& container)
   options.breaksLinesAtGaps = true;
   options.showsSelectionMarks = false;
   options.movesParallelAxes = true;
+  options.look = viewerLook();
   container.setOptions(options);
   settings.sourceName = study.name;
   keepCategories(container, study.categories);

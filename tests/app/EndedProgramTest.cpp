@@ -55,10 +55,8 @@ protected:
 
   void selectAll(unsigned long window)
   {
-    windows.press(window, "a", true);
     // Its keys are taken in order, so all is selected when the dialog comes.
-    windows.press(window, "s", true);
-    ASSERT_NE(windows.waitFor("Save session"), 0U);
+    ASSERT_NE(windows.pressFor(window, {"a", "s"}, "Save session"), 0U);
   }
 
   static void expectEndBy(QProcess& program, int number)
@@ -120,8 +118,7 @@ TEST_F(EndedProgram, OffersItsWorkWhenItIsStartedAgain)
   // The first of its buttons brings the work back, which is then to be saved or kept again.
   windows.press(question, "Return");
   const unsigned long window = windows.waitFor("runs.csv - Talmesh Plot");
-  windows.press(window, "s", true);
-  ASSERT_NE(windows.waitFor("Save session"), 0U);
+  ASSERT_NE(windows.pressFor(window, {"s"}, "Save session"), 0U);
   const QStringList before = keptFiles();
   expectEndBy(second, SIGTERM);
   EXPECT_EQ(keptFiles(), before) << "it goes on in the same file";

@@ -2,16 +2,14 @@
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
-#include <chrono>
 #include <thread>
-#include <vector>
 
 namespace
 {
 
-using Clock = std::chrono::steady_clock;
 constexpr auto patience = std::chrono::seconds(60);
 constexpr auto betweenLooks = std::chrono::milliseconds(50);
+constexpr auto betweenPresses = std::chrono::seconds(5);
 
 /// Windows come and go while they are looked at.
 int ignoreError(::Display*, XErrorEvent*)
@@ -76,15 +74,33 @@ ProgramWindows::~ProgramWindows()
 
 unsigned long ProgramWindows::waitFor(const std::string& title) const
 {
+  return waitFor(title, Clock::now() + patience);
+}
+
+unsigned long ProgramWindows::waitFor(const std::string& title, Clock::time_point end) const
+{
   const auto before = XSetErrorHandler(ignoreError);
   Window found = 0;
-  for (const auto end = Clock::now() + patience; !found && Clock::now() < end;)
+  while (!found && Clock::now() < end)
   {
     found = find(display->x11, DefaultRootWindow(display->x11), title);
     if (!found)
       std::this_thread::sleep_for(betweenLooks);
   }
   XSetErrorHandler(before);
+  return found;
+}
+
+unsigned long ProgramWindows::pressFor(unsigned long window, const std::vector<const char*>& keys,
+                                       const std::string& title) const
+{
+  unsigned long found = 0;
+  for (const auto end = Clock::now() + patience; !found && Clock::now() < end;)
+  {
+    for (const char* key : keys)
+      press(window, key, true);
+    found = waitFor(title, Clock::now() + betweenPresses);
+  }
   return found;
 }
 
