@@ -48,10 +48,11 @@ protected:
   }
 
   /// Lines of the comparison by the names of their parameters.
-  std::map<QString, Row> comparison(const QString& csv, const char* condition)
+  std::map<QString, Row> comparison(const QString& csv, const char* condition,
+                                    const std::string& remark = {})
   {
     QFile::remove(path("out.csv"));
-    expectSuccess({csv, "--select", condition, "--compare", path("out.csv")});
+    expectSuccess({csv, "--select", condition, "--compare", path("out.csv")}, remark);
     const QStringList lines = QString::fromUtf8(contentOf(path("out.csv"))).trimmed().split('\n');
     const QStringList names = lines.first().split(',');
     std::map<QString, Row> rows;
@@ -102,7 +103,8 @@ TEST_F(ComparedNumbers, AreThoseOfROnAGridWithAMissingValue)
                (missing ? std::string() : std::to_string(run * 7 % 60)) + ",3";
       },
       [](int run) { return run / 6 + run * 11 % 5; });
-  auto rows = comparison(csv, "max(X) > 7.5");
+  auto rows = comparison(csv, "max(X) > 7.5",
+                         "talmesh-plot: The same value stands in all rows of \"fixed\".\n");
   ASSERT_EQ(rows.size(), 3U) << "what does not vary is no parameter";
   expectRow(rows["u"], {30, 30, 0, 0, 0.54049524417728112, 1, 1, 0.5, 0});
   expectRow(rows["v"], {30, 30, 0.73333333333333339, 0.19283808915605227, 1, 1.9308951548779874e-08,

@@ -83,12 +83,13 @@ protected:
     EXPECT_EQ(ended.output.toStdString(), "");
   }
 
-  void expectSuccess(const QStringList& arguments)
+  /// @param remark what it writes to standard error
+  void expectSuccess(const QStringList& arguments, const std::string& remark = {})
   {
     const Ended ended = run(arguments);
     EXPECT_FALSE(ended.crashed);
     EXPECT_EQ(ended.status, 0);
-    EXPECT_EQ(ended.errors.toStdString(), "");
+    EXPECT_EQ(ended.errors.toStdString(), remark);
   }
 
   /// Lets the program run in a German locale, which is made for it.

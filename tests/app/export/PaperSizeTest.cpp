@@ -79,7 +79,7 @@ TEST_F(PaperSizeOfAPicture, KeepsTheTextOfThePdfAsText)
 {
   ASSERT_EQ(exportPlot(*widget, path("plot.pdf"), {QSizeF(180.0, 120.0), 300}), "");
   const QString text = outputOf("pdftotext", {path("plot.pdf"), QStringLiteral("-")});
-  for (const char* word : {"time", "X", "k", "Ecdf"})
+  for (const char* word : {"time", "X", "k", "ECDF"})
     EXPECT_TRUE(text.contains(QLatin1String(word))) << word << " in " << text.toStdString();
 
   // Every font is one of those that all readers have, or is in the file.
