@@ -1,9 +1,8 @@
 #include "app/CommandLine.h"
 
-#include "app/DesignOption.h"
+#include "app/ComparisonOptions.h"
 #include "app/ImportOptions.h"
 #include "app/OptionValues.h"
-#include "app/comparison/ComparisonChoice.h"
 #include "app/export/PictureFile.h"
 #include "app/styles/ViewerStyles.h"
 
@@ -74,23 +73,6 @@ std::string readSelect(const std::string& value, CommandLineOptions& options)
 {
   options.select.push_back(typedText(value));
   return {};
-}
-
-std::string readSeed(const std::string& value, CommandLineOptions& options)
-{
-  std::uint64_t seed = 0;
-  if (!readNumber<std::uint64_t>(value, 1, largestSeed, seed))
-    return "--seed takes a whole number from 1 to " + std::to_string(largestSeed) + ", not " +
-           value;
-  options.seed = seed;
-  return {};
-}
-
-std::string readDesign(const std::string& value, CommandLineOptions& options)
-{
-  options.design = readDesignOption(value);
-  return options.design ? std::string()
-                        : "--design takes saltelli, or saltelli:K for K parameters, not " + value;
 }
 
 std::string readExport(const std::string& value, CommandLineOptions& options)
@@ -193,8 +175,6 @@ constexpr Option optionsWithValue[] = {{"style", readStyle},
                                        {"z", readName<&CommandLineOptions::z>},
                                        {"select", readSelect},
                                        {"with", readName<&CommandLineOptions::with>},
-                                       {"seed", readSeed},
-                                       {"design", readDesign},
                                        {"export", readExport},
                                        {"compare", readCompare},
                                        {"runs", readRuns},
@@ -259,6 +239,10 @@ std::string read(const QCommandLineParser& line, CommandLineOptions& options)
     if (error.empty())
       error = readOption(line, option.name,
                          [&](const std::string& value) { return option.read(value, options); });
+  for (const ComparisonOption& option : comparisonOptions())
+    if (error.empty())
+      error = readOption(line, option.name,
+                         [&](const std::string& value) { return option.read(value, options); });
   if (error.empty())
     error = readImport(line, options);
   return error.empty() ? checkPixels(options) : error;
@@ -275,6 +259,8 @@ Result<CommandLineOptions> parseCommandLine(const std::vector<std::string>& argu
   const QCommandLineOption describe(QStringLiteral("describe"));
   line.addOptions({help, version, halves, describe});
   for (const Option& option : optionsWithValue)
+    line.addOption({QLatin1String(option.name), {}, QStringLiteral("value")});
+  for (const ComparisonOption& option : comparisonOptions())
     line.addOption({QLatin1String(option.name), {}, QStringLiteral("value")});
   for (const ImportOption& option : importOptions())
     line.addOption({QLatin1String(option.name), {}, QStringLiteral("value")});

@@ -1,5 +1,6 @@
 #include "app/CommandLineHelp.h"
 
+#include "app/ComparisonOptions.h"
 #include "app/ImportOptions.h"
 #include "app/export/PictureFile.h"
 #include "app/styles/ViewerStyles.h"
@@ -44,14 +45,8 @@ std::string commandLineHelp()
       "                          of them add up\n"
       "  --with CONDITION        compare them with the runs that meet it, or with a kept "
       "selection\n"
-      "                          of that name, instead of all others\n"
-      "  --halves                test in one half of the runs what differs in the other\n"
-      "  --seed N                the seed of halves and permutations, 1 without this\n"
-      "  --design saltelli[:K]   the parameter sets are a Saltelli design of K parameters, or of "
-      "as\n"
-      "                          many as vary; otherwise it is recognised by the values\n"
-      "  --export FILE           write " +
-      exportNames("FILE") +
+      "                          of that name, instead of all others\n" +
+      comparisonHelp() + "  --export FILE           write " + exportNames("FILE") +
       " and open no window;\n"
       "                          may be given several times\n"
       "  --compare FILE          write how the parameters of the selected runs differ from those "

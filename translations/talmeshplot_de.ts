@@ -2221,6 +2221,17 @@ p, li { white-space: pre-wrap; }
     </message>
 </context>
 <context>
+    <name>Talmesh::app::FeatureController</name>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Computing what the chart shows of the runs ...</source>
+        <translation>Berechne, was das Diagramm von den Läufen zeigt ...</translation>
+    </message>
+</context>
+<context>
     <name>Talmesh::app::FileMenu</name>
     <message>
         <source>&amp;File</source>

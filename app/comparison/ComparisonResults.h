@@ -41,7 +41,7 @@ struct ComparedStudy
   /// Parameters that tell runs with otherwise equal parameters apart, by position, as "seed" does.
   std::vector<std::size_t> labels{};
   ComparedNames sides{};
-  /// Whether the selection was made anew by its words, for halves.
+  /// Whether words select the runs, so that they do so in halves.
   bool byWords = false;
 };
 

@@ -2,7 +2,7 @@
 
 #include "app/comparison/ReplicateLabels.h"
 #include "app/document/AskedParameters.h"
-#include "app/document/TableRuns.h"
+#include "app/document/RunConditions.h"
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
@@ -35,6 +35,8 @@ ComparedSide sideOf(const KeptSelection& kept)
 }
 
 /// The condition of a side; one that selects nothing where there is none, or it cannot be read.
+/// @param isKnown false from now on unless it tells of any run whether it is selected. Nobody need
+/// look: each run is asked by itself, so that in any part those meet it that are selected there
 RunFilter filterOf(const ComparedSide& side, const TableRuns& runs, bool& isKnown)
 {
   FilterFault fault;
@@ -167,6 +169,8 @@ std::string chooseSides(PlotContainer& container, const PlotWishes& wishes, Kept
   if (!wishes.with.empty() && TableRuns(container).numberOfRuns() == 0)
     return "--with: this table has no runs to compare";
   ComparisonChoice choice = comparisonChoiceOf(container);
+  choice.comparedBy = wishes.comparedBy.value_or(choice.comparedBy);
+  choice.adjustment = wishes.adjustment.value_or(choice.adjustment);
   choice.halves = choice.halves || wishes.halves;
   choice.seed = wishes.seed.value_or(choice.seed);
   choice.design = wishes.design.value_or(choice.design);
@@ -190,7 +194,7 @@ std::string chooseSides(PlotContainer& container, const PlotWishes& wishes, Kept
   return {};
 }
 
-ComparedStudy comparedStudy(PlotContainer& container, ComparedSides sides, bool byWords)
+ComparedStudy comparedStudy(PlotContainer& container, const ComparedSides& sides, bool byWords)
 {
   ComparedStudy study;
   const TableRuns runs(container);
@@ -209,12 +213,6 @@ ComparedStudy comparedStudy(PlotContainer& container, ComparedSides sides, bool 
   {
     FilterFault fault;
     addColumns(RunFilter::read(condition, runs, fault).columns(), asked);
-  }
-  if (study.byWords)
-  {
-    sides.selected.runs = filter.select(runs, {}).value();
-    if (sides.others)
-      sides.others->runs = second.select(runs, {}).value();
   }
   divide(sides, study);
   for (const int column : container.getMetaData()->parameterColumns)

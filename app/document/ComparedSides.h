@@ -56,8 +56,8 @@ ComparedSides comparedSides(PlotContainer& container, const ComparisonChoice& ch
 std::string chooseSides(PlotContainer& container, const PlotWishes& wishes, KeptSelections& kept);
 
 /// What there is to compare in a container. Runs of both groups are in neither.
-/// @param byWords selects the runs anew by their words, where all of these are known
-ComparedStudy comparedStudy(PlotContainer& container, ComparedSides sides, bool byWords);
+/// @param byWords whether it counts that the runs of both groups are selected by words
+ComparedStudy comparedStudy(PlotContainer& container, const ComparedSides& sides, bool byWords);
 
 /// The runs of which charts draw how parameters are distributed, so that they show what the numbers
 /// speak of: all of them in black, then the selected runs and the others that the comparison

@@ -34,6 +34,7 @@ Document::Document(Stage where, PlotContainer* before, QObject* parent)
   compared.setConditions([this] { return selected.followedConditions(); });
   compared.setKept([this] { return keptSelections.list(); });
   connect(&compared, &SelectionComparison::found, this, &Document::draw);
+  summary.search().setFound([this] { draw(); });
   connect(&keptSelections, &KeptSelections::renamed, this, &Document::followName);
   connect(&grouped, &GroupedRuns::valuesChanged, this, &Document::drawNewValues);
   shown.container = before;

@@ -79,6 +79,8 @@ public:
   /// what is chosen; empty for nothing.
   QString remark() const;
   SelectionController& selection() { return selected; }
+  /// Of what charts of runs lack.
+  FeatureSearch& featureSearch() { return summary.search(); }
   GroupedRuns& groups() { return grouped; }
   KeptSelections& kept() { return keptSelections; }
   /// How panels and pages show the runs, as far as anybody has chosen it, for sessions to keep.
@@ -141,6 +143,7 @@ private:
   void show(PlotContainer* container);
   std::string openData(const OpenedStudy& opened, const PlotWishes& wishes);
   void openOwnChart();
+  Result<bool> selectWished(const std::vector<std::string>& conditions);
   void restore(const RestoredSession& session);
   void summarise();
   void showLook(const RunLook& before);

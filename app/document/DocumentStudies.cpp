@@ -2,9 +2,9 @@
 #include "app/document/ComparedSides.h"
 #include "app/document/Document.h"
 #include "app/document/PlotSession.h"
+#include "app/document/RunConditions.h"
 #include "app/document/ShownChart.h"
 #include "app/document/ShownStudy.h"
-#include "app/document/TableRuns.h"
 
 #include <utility>
 
@@ -49,22 +49,46 @@ std::string Document::openData(const OpenedStudy& opened, const PlotWishes& wish
   shown.columns = choosableColumns(container);
   PlotChoice wished = shown.choice;
   std::string failure = chooseByName(container, wishes, wished);
+  bool isSelected = true;
   if (failure.empty() && !wishes.select.empty())
-    container.withoutDrawing([&] { failure = selectWhere(container, wishes.select); });
+  {
+    const Result<bool> done = selectWished(wishes.select);
+    failure = done.error();
+    isSelected = !done.hasValue() || done.value();
+  }
   if (failure.empty())
     failure = chooseSides(container, wishes, keptSelections);
   if (failure.empty())
     shown.choice = wished;
   // The history begins with what is restored, whole runs of it, as they are drawn.
   SelectionStart start;
-  if (opened.session && wishes.select.empty())
+  if (opened.session && (wishes.select.empty() || !isSelected))
     start = {opened.session->settings.words, conditionsOn(opened.session->settings.asked),
              opened.session->settings.steps};
-  else
+  else if (isSelected)
     start.words = wordsOfAny(wishes.select);
   selected.follow(&container, start);
+  if (failure.empty() && !isSelected)
+    selected.selectWhere(wordsOfAny(wishes.select), RunCombination::Replace);
   drawSilently();
   return failure;
+}
+
+/// @return whether the runs that meet any of the conditions are selected; otherwise it takes long
+/// to look for them, or why they cannot be
+Result<bool> Document::selectWished(const std::vector<std::string>& conditions)
+{
+  TableRuns runs(*shown.container);
+  // Words that are too long for anyone cannot be looked for later.
+  const bool mayWait = !wordsOfAny(conditions).empty();
+  const Result<std::vector<bool>> hit =
+      runsWhere(runs, conditions, mayWait ? selected.impatience() : ImportProgress());
+  if (hit.isCancelled())
+    return false;
+  if (!hit.hasValue())
+    return Result<bool>::without(hit);
+  shown.container->withoutDrawing([&] { runs.select(hit.value()); });
+  return true;
 }
 
 void Document::openOwnChart()

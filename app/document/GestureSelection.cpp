@@ -16,6 +16,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace Talmesh::app
@@ -183,21 +184,28 @@ std::string textBeside(const TableRuns& runs, std::size_t run, const std::string
       {runText(runs, run), shownName(column), numberText(point.x), numberText(point.y)});
 }
 
-std::optional<std::string> wordsOfGesture(const PlotContainer& container, const TableRuns& runs,
-                                          const SelectionGesture& gesture, GestureRule rule,
-                                          double reach)
+PointedAt meantByRun(const TableRuns& runs, std::size_t run)
+{
+  std::vector<bool> one(runs.numberOfRuns(), false);
+  one[run] = true;
+  return {runs.wordsOf(run), std::move(one)};
+}
+
+std::optional<PointedAt> meantByGesture(const PlotContainer& container, const TableRuns& runs,
+                                        const SelectionGesture& gesture, GestureRule rule,
+                                        double reach)
 {
   const auto series = hasNoSeries(gesture) ? std::nullopt : seriesOf(container, gesture);
   if (!series)
-    return wordsOfPoints(runs, gesture, reach);
+    return meantByPoints(runs, gesture, reach);
   if (runs.numberOfRuns() == 0)
     return {};
   if (gesture.kind != SelectionGesture::Kind::Click)
-    return wordsOf(container, gesture, rule, *series);
+    return PointedAt{wordsOf(container, gesture, rule, *series)};
   const NearestRun nearest = nearestOf(runs, gesture, *series, reach);
   if (!nearest.series)
-    return std::string();
-  return runs.wordsOf(nearest.run);
+    return PointedAt();
+  return meantByRun(runs, nearest.run);
 }
 
 std::optional<std::string> nearestRun(const PlotContainer& container, const TableRuns& runs,

@@ -26,6 +26,9 @@ struct PlotWishes
   /// The runs that they are compared with: a condition, or the name of a kept selection; empty for
   /// all others.
   std::string with;
+  /// What the test compares, and for what its p is adjusted.
+  std::optional<Talmesh::stats::ComparedBy> comparedBy;
+  std::optional<Talmesh::stats::Adjustment> adjustment;
   /// Checks the comparison in halves.
   bool halves = false;
   /// Of what a comparison draws at random.

@@ -1,6 +1,5 @@
 #include "app/document/PointedRuns.h"
 
-#include "app/document/GestureSelection.h"
 #include "app/document/TableRuns.h"
 #include "app/import/ColumnRoles.h"
 #include "app/runs/NearestPlace.h"
@@ -219,10 +218,15 @@ std::optional<std::vector<bool>> runsOfRows(const TableRuns& runs, const Selecti
   return found;
 }
 
+PointedAt meantByNumbers(const TableRuns& runs, const std::vector<bool>& these)
+{
+  return {runs.words(these), these};
+}
+
 } // namespace
 
-std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionGesture& gesture,
-                                         double reach)
+std::optional<PointedAt> meantByPoints(const TableRuns& runs, const SelectionGesture& gesture,
+                                       double reach)
 {
   if (gesture.rows)
   {
@@ -230,14 +234,14 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
     if (!found)
       return {};
     const bool isClick = gesture.kind == SelectionGesture::Kind::Click;
-    return isClick && gesture.rows->empty() ? std::string() : runs.words(*found);
+    return isClick && gesture.rows->empty() ? PointedAt() : meantByNumbers(runs, *found);
   }
   if (!gesture.brushes.empty())
   {
     if (rowsOfRun(runs, gesture) != 1)
       return {};
     const std::string words = wordsOfBrushes(runs, gesture);
-    return words.empty() ? runs.words(hitByBrushes(runs, gesture)) : words;
+    return words.empty() ? meantByNumbers(runs, hitByBrushes(runs, gesture)) : PointedAt{words};
   }
   const auto points = pointsOf(runs, gesture);
   if (!points)
@@ -245,19 +249,21 @@ std::optional<std::string> wordsOfPoints(const TableRuns& runs, const SelectionG
   if (gesture.kind == SelectionGesture::Kind::Click)
   {
     const NearestPoint nearest = nearestOf(runs, gesture, *points, reach);
-    return nearest.series ? runs.wordsOf(nearest.run) : std::string();
+    return nearest.series ? meantByRun(runs, nearest.run) : PointedAt();
   }
   const std::string words = gesture.kind == SelectionGesture::Kind::Rectangle
                                 ? wordsOfRectangle(runs, gesture, *points)
                                 : std::string();
   if (!words.empty())
-    return words;
-  const std::string numbers = runs.words(hitBy(runs, gesture, *points));
+    return PointedAt{words};
+  PointedAt meant = meantByNumbers(runs, hitBy(runs, gesture, *points));
   if (gesture.kind != SelectionGesture::Kind::Lasso)
-    return numbers;
+    return meant;
   // Numbers alone would not tell which columns the lasso was drawn over.
   const std::string around = wordsOfRectangle(runs, rectangleAround(gesture), *points);
-  return around.empty() ? numbers : '(' + numbers + ") and (" + around + ')';
+  if (!around.empty())
+    meant.words = '(' + meant.words + ") and (" + around + ')';
+  return meant;
 }
 
 std::optional<std::string> nearestPoint(const TableRuns& runs, const SelectionGesture& place,

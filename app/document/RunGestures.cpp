@@ -1,6 +1,5 @@
 #include "app/document/RunGestures.h"
 
-#include "app/document/GestureSelection.h"
 #include "plot/PlotContainer.h"
 
 #include <utility>
@@ -28,8 +27,8 @@ RunCombination combinationOf(SelectionGesture::Mode mode)
 
 } // namespace
 
-RunGestures::RunGestures(Select selectWhere)
-    : select(std::move(selectWhere))
+RunGestures::RunGestures(Select selectThem)
+    : select(std::move(selectThem))
 {
 }
 
@@ -73,10 +72,10 @@ double RunGestures::reach() const
 
 bool RunGestures::take(const SelectionGesture& gesture)
 {
-  const auto words = wordsOfGesture(*followed, TableRuns(*followed), gesture, chosenRule, reach());
-  if (!words)
+  const auto meant = meantByGesture(*followed, TableRuns(*followed), gesture, chosenRule, reach());
+  if (!meant)
     return false;
-  return words->empty() || select(*words, combinationOf(gesture.mode));
+  return meant->words.empty() || select(*meant, combinationOf(gesture.mode));
 }
 
 } // namespace Talmesh::app

@@ -1,6 +1,7 @@
 #ifndef RunGestures_h
 #define RunGestures_h
 
+#include "app/document/GestureSelection.h"
 #include "app/document/TableRuns.h"
 #include "app/runs/GestureWords.h"
 #include "vtk/SelectionGesture.h"
@@ -22,10 +23,10 @@ namespace Talmesh::app
 class RunGestures
 {
 public:
-  /// Selects runs by words, and answers whether it could.
-  using Select = std::function<bool(const std::string& words, RunCombination how)>;
+  /// Selects the runs that are meant, and answers whether it could.
+  using Select = std::function<bool(const PointedAt& meant, RunCombination how)>;
 
-  explicit RunGestures(Select selectWhere);
+  explicit RunGestures(Select selectThem);
   ~RunGestures();
   RunGestures(const RunGestures&) = delete;
   RunGestures& operator=(const RunGestures&) = delete;

@@ -28,38 +28,60 @@ RunSearch::RunSearch(Select selectRuns, std::function<void()> toldOfEnd)
 FilterFault RunSearch::search(const TableRuns& runs, const std::string& words, RunCombination how)
 {
   FilterFault fault;
-  auto condition = std::make_shared<RunFilter>(RunFilter::read(words, runs, fault));
+  const auto condition = std::make_shared<const RunFilter>(RunFilter::read(words, runs, fault));
   if (!fault.text.empty())
     return fault;
   if (how == RunCombination::Replace)
-    giveUp();
+    drop();
   if (waiting.empty() && selectsAtOnce(*condition, runs, words, how))
     return {};
   try
   {
-    waiting.push_back(
-        {condition, std::make_shared<CopiedRuns>(runs, condition->columns()), words, how});
+    const auto copy = std::make_shared<const CopiedRuns>(runs, condition->columns());
+    append(runs, {[condition, copy](const ImportProgress& progress)
+                  { return condition->select(*copy, progress); },
+                  words, how});
   }
   catch (const std::bad_alloc&)
   {
     return {0, translated("RunFilter", "there is not enough memory for this condition")};
   }
-  if (waiting.size() == 1)
-  {
-    selectedBefore = runs.selected();
-    begin();
-  }
   return {};
+}
+
+void RunSearch::take(const TableRuns& runs, const Runs& hit, const std::string& words,
+                     RunCombination how)
+{
+  if (how == RunCombination::Replace)
+    drop();
+  if (waiting.empty())
+    select(hit, words, how);
+  else
+    append(runs, {[hit](const ImportProgress&) { return Result<Runs>(hit); }, words, how});
+}
+
+void RunSearch::append(const TableRuns& runs, const Wish& wish)
+{
+  waiting.push_back(wish);
+  if (waiting.size() > 1)
+    return;
+  selectedBefore = runs.selected();
+  begin();
+}
+
+ImportProgress RunSearch::impatience() const
+{
+  if (!background.start)
+    return {};
+  const auto end = std::chrono::steady_clock::now() + patience;
+  return [end](double) { return std::chrono::steady_clock::now() < end; };
 }
 
 /// @return whether that took no longer than the caller may wait
 bool RunSearch::selectsAtOnce(const RunFilter& condition, const TableRuns& runs,
                               const std::string& words, RunCombination how)
 {
-  const auto end = std::chrono::steady_clock::now() + patience;
-  const auto mayWait = [&](double)
-  { return !background.start || std::chrono::steady_clock::now() < end; };
-  const Result<Runs> hit = condition.select(runs, mayWait);
+  const Result<Runs> hit = condition.select(runs, impatience());
   if (hit.hasValue())
     select(hit.value(), words, how);
   return hit.hasValue();
@@ -67,13 +89,10 @@ bool RunSearch::selectsAtOnce(const RunFilter& condition, const TableRuns& runs,
 
 void RunSearch::begin()
 {
-  const Wish& next = waiting.front();
-  background.start([condition = next.condition, runs = next.runs](const ImportProgress& progress)
-                   { return condition->select(*runs, progress); },
-                   [this](const Runs& hit) { take(hit); });
+  background.start(waiting.front().work, [this](const Runs& hit) { finish(hit); });
 }
 
-void RunSearch::take(const Runs& hit)
+void RunSearch::finish(const Runs& hit)
 {
   const Wish done = waiting.front();
   selecting = true;
@@ -89,10 +108,18 @@ bool RunSearch::giveUp()
 {
   if (waiting.empty() || selecting)
     return false;
-  waiting.clear();
-  background.cancel();
+  drop();
   tellOfEnd();
   return true;
+}
+
+/// What takes its place tells of itself.
+void RunSearch::drop()
+{
+  if (waiting.empty() || selecting)
+    return;
+  waiting.clear();
+  background.cancel();
 }
 
 void RunSearch::giveUpUnless(const Runs& selected)

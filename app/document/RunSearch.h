@@ -47,6 +47,10 @@ public:
 
   /// @return what is wrong with the words, if anything is; nothing is done then
   FilterFault search(const TableRuns& runs, const std::string& words, RunCombination how);
+  /// Has runs selected that are known, after those that are still looked for.
+  void take(const TableRuns& runs, const Runs& hit, const std::string& words, RunCombination how);
+  /// Gives up what takes longer than a caller may wait from now on.
+  ImportProgress impatience() const;
   bool isUnderWay() const { return !waiting.empty(); }
   /// Selects nothing more of what is under way.
   /// @return whether anything was
@@ -57,16 +61,17 @@ public:
 private:
   struct Wish
   {
-    std::shared_ptr<const RunFilter> condition;
-    std::shared_ptr<const NumberedRuns> runs;
+    Work work;
     std::string words;
     RunCombination how;
   };
 
   bool selectsAtOnce(const RunFilter& condition, const TableRuns& runs, const std::string& words,
                      RunCombination how);
+  void append(const TableRuns& runs, const Wish& wish);
   void begin();
-  void take(const Runs& hit);
+  void finish(const Runs& hit);
+  void drop();
 
   Select select;
   std::function<void()> tellOfEnd;

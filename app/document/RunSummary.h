@@ -1,7 +1,8 @@
 #ifndef RunSummary_h
 #define RunSummary_h
 
-#include "app/document/PlotChoice.h"
+#include "app/document/FeatureSearch.h"
+#include "app/document/RunAxes.h"
 #include "plot/SummaryTable.h"
 
 #include <vtkDoubleArray.h>
@@ -9,6 +10,7 @@
 #include <vtkTable.h>
 #include <vtkWeakPointer.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -17,29 +19,19 @@ class PlotContainer;
 namespace Talmesh::app
 {
 
-/// Whether the charts of a choice draw one point or line per run, and not one per row: on axes that
-/// have one value for a run, which some styles always have.
-bool drawsRuns(const PlotContainer& container, const PlotChoice& choice);
-
-/// The columns of a choice as such charts show them: an item is shown by its features. Time and
-/// what else has no value for a run is left out; -1 for none.
-struct RunAxes
-{
-  int x = -1;
-  int y = -1;
-  int z = -1;
-  /// The series of the XY plot, or the axes of others, in this order.
-  std::vector<int> columns;
-};
-RunAxes axesOfRuns(const PlotContainer& container, const PlotChoice& choice);
-
 /// What charts of runs draw of a container: a row per run, with the columns that were asked for so
-/// far. Each is computed once, and again when its values have changed.
+/// far. Each is computed once, and again when its values have changed. Features that take long have
+/// no values at first, where there is somebody to compute them in the background.
 class RunSummary
 {
 public:
+  RunSummary();
+
   /// Without a table where the choice draws rows.
   SummaryTable of(const PlotContainer& container, const PlotChoice& choice);
+
+  /// Where features that take long get their values.
+  FeatureSearch& search() { return features; }
 
   /// Keeps the group of each run in a column of its own, which no axis shows, see
   /// `groupColumnName`.
@@ -54,11 +46,16 @@ private:
     int shown; ///< -1 for groups
     vtkWeakPointer<vtkDoubleArray> source;
     vtkMTimeType sourceTime;
+    bool hasValues;
   };
 
   int place(const PlotContainer& container, int shown);
-  vtkSmartPointer<vtkDoubleArray> compute(const PlotContainer& container, int shown) const;
+  std::string newName(const PlotContainer& container, int shown) const;
+  FeatureTask taskFor(const PlotContainer& container) const;
+  void put(std::size_t at, const std::vector<double>& values);
+  void take(const FeatureSearch::Wishes& wishes, const FeatureSearch::Values& values);
   void follow(const PlotContainer& container);
+  StackedRuns stacked() const;
 
   vtkWeakPointer<vtkTable> summarised;
   vtkIdType runs = 0;
@@ -66,6 +63,9 @@ private:
   /// Never null while anything is summarised. Its columns are in the order of `columns`.
   vtkSmartPointer<vtkTable> table;
   std::vector<Column> columns;
+  FeatureSearch features;
+  /// What the drawing under way lacks.
+  FeatureSearch::Wishes missing;
 };
 
 } // namespace Talmesh::app

@@ -48,8 +48,7 @@ SelectionController::SelectionController(QObject* parent)
     : QObject(parent)
     , history(stack)
     , visitHistory(visitStack)
-    , pointing([this](const std::string& words, RunCombination how)
-               { return selectWhere(words, how).text.empty(); })
+    , pointing([this](const PointedAt& meant, RunCombination how) { return select(meant, how); })
     , search([this](const std::vector<bool>& hit, const std::string& words, RunCombination how)
              { selectRuns(hit, words, how); },
              [this] { emit gaveUp(); })
@@ -212,21 +211,31 @@ FilterFault SelectionController::selectWhere(const std::string& words, RunCombin
   return search.search(TableRuns(*container), words, how);
 }
 
+/// @return whether its words could be read
+bool SelectionController::select(const PointedAt& meant, RunCombination how)
+{
+  if (!meant.runs)
+    return selectWhere(meant.words, how).text.empty();
+  search.take(TableRuns(*container), *meant.runs, meant.words, how);
+  return true;
+}
+
 SelectionHistory& SelectionController::shownHistory()
 {
   return container == followed ? history : visitHistory;
 }
 
 void SelectionController::selectRuns(const std::vector<bool>& hit, const std::string& words,
-                                     RunCombination how)
+                                     RunCombination how, const std::vector<std::string>& asked)
 {
   if (!container)
     return;
   TableRuns runs(*container);
   if (hit.size() != runs.numberOfRuns())
     return;
-  const SelectionHistory::Step step(
-      shownHistory(), QString::fromStdString(stepText(how, hit, words)), {how, words});
+  const SelectionHistory::Step step(shownHistory(),
+                                    QString::fromStdString(stepText(how, hit, words)),
+                                    {how, words, false, asked});
   const std::vector<bool> before = runs.selected();
   const std::vector<bool> after = combineRuns(before, hit, how);
   runs.select(after);
@@ -252,6 +261,11 @@ int SelectionController::forgottenSteps() const
 std::string SelectionController::words() const
 {
   return container == followed ? history.words() : visitHistory.words();
+}
+
+std::vector<std::string> SelectionController::conditions() const
+{
+  return container == followed ? history.conditions() : visitHistory.conditions();
 }
 
 bool SelectionController::hasRuns() const

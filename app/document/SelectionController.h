@@ -70,6 +70,8 @@ public:
   /// Where such work is done; without one all is done at once.
   void setBackground(const RunSearch::Background& elsewhere) { search.setBackground(elsewhere); }
   void setPatience(std::chrono::milliseconds most) { search.setPatience(most); }
+  /// Gives up what takes too long to wait for.
+  ImportProgress impatience() const { return search.impatience(); }
   bool isSearching() const { return search.isUnderWay(); }
   /// Leaves what is selected as it is, whatever is still being looked for.
   /// @return whether anything was
@@ -77,12 +79,16 @@ public:
   /// Selects runs that are known already, as one step of the history.
   /// @param hit for each run of the table whether it is one of them
   /// @param words the condition that they meet, by which the step is named
-  void selectRuns(const std::vector<bool>& hit, const std::string& words, RunCombination how);
+  /// @param asked further conditions by which they were chosen
+  void selectRuns(const std::vector<bool>& hit, const std::string& words, RunCombination how,
+                  const std::vector<std::string>& asked = {});
   /// Which runs of the plot now shown are selected.
   std::vector<bool> selectedRuns() const;
   /// The condition in words that only the selected runs meet: that of the steps that led there.
   /// Empty where nobody has said it.
   std::string words() const;
+  /// What was asked for on the way there, see `SelectionHistory::conditions`.
+  std::vector<std::string> conditions() const;
   /// That of what was selected as the steps began, and how many of them are forgotten.
   std::string wordsAtFirst() const;
   int forgottenSteps() const;
@@ -92,7 +98,6 @@ public:
   SessionSteps followedSteps() const;
   /// The same of the container that is followed, while another one is visited.
   std::string followedWords() const { return history.words(); }
-  /// What was asked for on the way there, see `SelectionHistory::conditions`.
   std::vector<std::string> followedConditions() const { return history.conditions(); }
   /// Writes the indices of the selected runs to a small JSON file.
   /// @return why that failed, in one line of UTF-8; empty on success
@@ -126,6 +131,7 @@ signals:
   void gaveUp();
 
 private:
+  bool select(const PointedAt& meant, RunCombination how);
   SelectionHistory& shownHistory();
   bool hasRuns() const;
   static std::string noRuns();

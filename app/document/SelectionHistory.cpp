@@ -221,8 +221,13 @@ std::vector<std::string> SelectionHistory::conditionsWith(const Snapshot& rows,
     return asked;
   if (step.goesOn || step.how != RunCombination::Replace)
     asked = followed->current.conditions;
-  if (!step.words.empty() && std::find(asked.begin(), asked.end(), step.words) == asked.end())
-    asked.push_back(step.words);
+  const auto add = [&asked](const std::string& condition)
+  {
+    if (!condition.empty() && std::find(asked.begin(), asked.end(), condition) == asked.end())
+      asked.push_back(condition);
+  };
+  add(step.words);
+  std::for_each(step.asked.begin(), step.asked.end(), add);
   return asked;
 }
 

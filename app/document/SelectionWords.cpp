@@ -114,7 +114,11 @@ std::string wordsOfAny(const std::vector<std::string>& conditions)
 {
   std::string words;
   for (const std::string& condition : conditions)
+  {
     words = wordsAfter(words, !words.empty(), {RunCombination::Add, condition});
+    if (words.empty())
+      break;
+  }
   return words;
 }
 

@@ -29,6 +29,8 @@ struct SelectionStep
   std::string words;
   /// Whether a replacement follows from what was selected before.
   bool goesOn = false;
+  /// Conditions by which the runs of the step were chosen beside the words.
+  std::vector<std::string> asked{};
 };
 
 /// Longer conditions are no words for anyone.

@@ -268,32 +268,4 @@ std::vector<RunColumn> allColumnsOfRuns(const TableRuns& runs)
   return columnsOfRuns(runs, runs.parameters(), runs.items(), features);
 }
 
-std::string describe(const FilterFault& fault, const std::string& words)
-{
-  // Bytes that continue a character of UTF-8 begin with the bits 10.
-  const auto begin = words.begin();
-  const auto character = std::count_if(begin, begin + static_cast<std::ptrdiff_t>(fault.position),
-                                       [](char byte) { return (byte & 0xC0) != 0x80; });
-  return withValues(translated("RunFilter", "%1: at character %2: %3"),
-                    {words, std::to_string(character + 1), fault.text});
-}
-
-std::string selectWhere(PlotContainer& container, const std::vector<std::string>& conditions)
-{
-  TableRuns runs(container);
-  if (runs.numberOfRuns() == 0)
-    return translated("RunFilter", "This table has no runs to select.");
-  std::vector<bool> wanted(runs.numberOfRuns(), false);
-  for (const std::string& words : conditions)
-  {
-    FilterFault fault;
-    const RunFilter filter = RunFilter::read(words, runs, fault);
-    if (!fault.text.empty())
-      return describe(fault, words);
-    wanted = combineRuns(wanted, filter.select(runs, {}).value(), RunCombination::Add);
-  }
-  runs.select(wanted);
-  return {};
-}
-
 } // namespace Talmesh::app

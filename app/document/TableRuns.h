@@ -87,14 +87,6 @@ std::vector<RunColumn> columnsOfRuns(const TableRuns& runs, const std::vector<in
 /// final value.
 std::vector<RunColumn> allColumnsOfRuns(const TableRuns& runs);
 
-/// Selects the runs that meet any of the conditions in words.
-/// @return which of them is wrong and where, in one line; nothing is selected then. Empty on
-/// success
-std::string selectWhere(PlotContainer& container, const std::vector<std::string>& conditions);
-
-/// What is wrong with words, and at which of their characters, in one line.
-std::string describe(const FilterFault& fault, const std::string& words);
-
 } // namespace Talmesh::app
 
 #endif

@@ -19,12 +19,13 @@ int columnOf(const FilterNode& node, const FilteredRuns& runs)
   return column.hasValue() ? column.value() : -1;
 }
 
-} // namespace
-
-std::optional<double> FilteredRuns::numberOf(int, const std::string&) const
+/// Texts have no order.
+bool asksForEqual(char mark)
 {
-  return std::nullopt;
+  return mark == '=' || mark == '!';
 }
+
+} // namespace
 
 std::optional<double> textBesideColumn(const FilterNode& comparison, std::size_t at,
                                        const FilteredRuns& runs)
@@ -32,14 +33,17 @@ std::optional<double> textBesideColumn(const FilterNode& comparison, std::size_t
   const FilterNode& text = comparison.children[at];
   if (comparison.kind != Kind::Comparison || text.kind != Kind::Name || columnOf(text, runs) >= 0)
     return std::nullopt;
-  for (const std::size_t beside : {at - 1, at + 1})
+  const auto numberBeside = [&](std::size_t beside) -> std::optional<double>
   {
-    const int column =
-        beside < comparison.children.size() ? columnOf(comparison.children[beside], runs) : -1;
-    if (const auto number = column >= 0 ? runs.numberOf(column, text.name) : std::nullopt)
-      return number;
-  }
-  return std::nullopt;
+    const int column = columnOf(comparison.children[beside], runs);
+    return column >= 0 ? runs.numberOf(column, text.name) : std::nullopt;
+  };
+  std::optional<double> number;
+  if (at > 0 && asksForEqual(comparison.marks[at]))
+    number = numberBeside(at - 1);
+  if (!number && at + 1 < comparison.children.size() && asksForEqual(comparison.marks[at + 1]))
+    number = numberBeside(at + 1);
+  return number;
 }
 
 } // namespace Talmesh::app

@@ -12,12 +12,13 @@ CopiedRuns::CopiedRuns(const NumberedRuns& runs, const std::vector<int>& columns
   if (columns.empty() || count == 0)
     return;
   points = runs.course(0, columns.front(), -1).size;
-  times.reserve(count * points);
-  for (std::size_t run = 0; run < count; ++run)
-  {
-    const double* x = runs.course(run, columns.front(), -1).x;
-    times.insert(times.end(), x, x + points);
-  }
+  const auto timesOf = [&](std::size_t run) { return runs.course(run, columns.front(), -1).x; };
+  // Runs without times of their own share what stands in for them.
+  haveTimes = count > 1 && timesOf(0) != timesOf(1);
+  const std::size_t copied = haveTimes ? count : 1;
+  times.reserve(copied * points);
+  for (std::size_t run = 0; run < copied; ++run)
+    times.insert(times.end(), timesOf(run), timesOf(run) + points);
   for (const int column : columns)
   {
     std::vector<double>& copy = values[column];
@@ -34,8 +35,10 @@ CopiedRuns::CopiedRuns(const NumberedRuns& runs, const std::vector<int>& columns
 
 RunCourse CopiedRuns::course(std::size_t run, int column, int over) const
 {
-  const std::vector<double>& x = over >= 0 ? values.at(over) : times;
-  return {x.data() + run * points, values.at(column).data() + run * points, points};
+  const std::size_t first = run * points;
+  const double* x =
+      over >= 0 ? values.at(over).data() + first : times.data() + (haveTimes ? first : 0);
+  return {x, values.at(column).data() + first, points};
 }
 
 } // namespace Talmesh::app

@@ -25,7 +25,9 @@ public:
 private:
   std::vector<double> numbers;
   std::size_t points = 0;
+  /// Of one run where all share them.
   std::vector<double> times;
+  bool haveTimes = false;
   std::map<int, std::vector<double>> values;
 };
 

@@ -242,6 +242,11 @@ bool namesRunNumbers(const BoundTerm& term)
 
 } // namespace
 
+std::optional<double> FilteredRuns::numberOf(int, const std::string&) const
+{
+  return std::nullopt;
+}
+
 RunFilter::RunFilter() = default;
 RunFilter::~RunFilter() = default;
 RunFilter::RunFilter(RunFilter&&) noexcept = default;

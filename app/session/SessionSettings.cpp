@@ -211,7 +211,7 @@ QByteArray settingsText(const SessionSettings& settings)
   object["words"] = wholeWords(settings.words);
   if (!settings.asked.empty())
     object["asked"] = arrayOfNames(settings.asked);
-  if (!settings.steps.texts.empty())
+  if (!settings.steps.texts.empty() || settings.steps.forgotten > 0)
     object["steps"] = objectOf(settings.steps);
   object["views"] = objectOf(settings.views);
   if (const QJsonObject import = objectOf(settings.import); !import.isEmpty())

@@ -178,7 +178,7 @@ void KeptSelectionsDock::keep()
   SelectionController& selection = document.selection();
   const std::string words = selection.words();
   document.kept().keep({}, selection.selectedRuns(), words,
-                       askedBeside(words, *document.container(), selection.followedConditions()));
+                       askedBeside(words, *document.container(), selection.conditions()));
   show();
   raise();
   tree->setCurrentItem(tree->topLevelItem(tree->topLevelItemCount() - 1));
@@ -217,7 +217,7 @@ void KeptSelectionsDock::selectAgain(RunCombination how)
   const std::string words = selection.words.empty()
                                 ? TableRuns(*document.container()).words(selection.runs)
                                 : selection.words;
-  document.selection().selectRuns(selection.runs, words, how);
+  document.selection().selectRuns(selection.runs, words, how, conditionsOn(selection.asked));
 }
 
 void KeptSelectionsDock::chooseColour()

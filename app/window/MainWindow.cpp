@@ -4,6 +4,7 @@
 #include "app/session/FileNameCodec.h"
 #include "app/window/ComparisonController.h"
 #include "app/window/ExportController.h"
+#include "app/window/FeatureController.h"
 #include "app/window/GroupController.h"
 #include "app/window/RecentMenu.h"
 #include "app/window/SearchController.h"
@@ -55,6 +56,7 @@ MainWindow::MainWindow(QWidget* parent)
     , status(*statusBar())
     , opener(new StudyOpener(shown, status.opening(), this))
     , searching(new SearchController(shown, status.searching(), this))
+    , features(new FeatureController(shown, status.features(), this))
     , grouping(new GroupController(*panels->clusters, shown, status.grouping(), this))
     , comparing(new ComparisonController(*panels->comparison, shown, status.comparing(), this))
     , sessions(new SessionController(*this, shown))
@@ -78,6 +80,7 @@ MainWindow::~MainWindow()
   // Their threads must not outlive what they report to.
   delete opener;
   delete searching;
+  delete features;
   delete grouping;
   delete comparing;
   delete exports;
@@ -149,8 +152,8 @@ bool MainWindow::isLoading() const
 
 bool MainWindow::isBusy() const
 {
-  return isLoading() || searching->isSearching() || grouping->isGrouping() ||
-         comparing->isComparing() || exports->isExporting();
+  return isLoading() || searching->isSearching() || features->isComputing() ||
+         grouping->isGrouping() || comparing->isComparing() || exports->isExporting();
 }
 
 void MainWindow::returnToRuns()

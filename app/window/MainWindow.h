@@ -18,6 +18,7 @@ namespace Talmesh::app
 class ComparisonController;
 class ComparisonDock;
 class ExportController;
+class FeatureController;
 class FilterLine;
 class GestureActions;
 class GroupController;
@@ -47,7 +48,8 @@ public:
   /// Starts to simulate the example study.
   void openExample();
   bool isLoading() const;
-  /// Whether anything long is going on: opening, looking for runs, grouping, comparing or writing.
+  /// Whether anything long is going on: opening, looking for runs, computing features, grouping,
+  /// comparing or writing.
   bool isBusy() const;
   /// Shows once more the runs or the table opened last; a computed study has taken their place.
   void returnToRuns();
@@ -108,6 +110,7 @@ private:
   StatusLine status;
   StudyOpener* opener;
   SearchController* searching;
+  FeatureController* features;
   GroupController* grouping;
   ComparisonController* comparing;
   SessionController* sessions;

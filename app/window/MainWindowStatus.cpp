@@ -1,6 +1,7 @@
 #include "app/comparison/ComparisonDock.h"
 #include "app/window/ComparisonController.h"
 #include "app/window/ExportController.h"
+#include "app/window/FeatureController.h"
 #include "app/window/FileDialogs.h"
 #include "app/window/GroupController.h"
 #include "app/window/MainWindow.h"
@@ -44,6 +45,10 @@ void MainWindow::connectControllers()
   connect(searching, &SearchController::stopped, this, say);
   connect(searching, &SearchController::ended, this, clear);
   connect(searching, &SearchController::failed, this, &MainWindow::showError);
+  connect(features, &FeatureController::said, this, tell);
+  connect(features, &FeatureController::stopped, this, say);
+  connect(features, &FeatureController::ended, this, clear);
+  connect(features, &FeatureController::failed, this, &MainWindow::showError);
   connect(grouping, &GroupController::said, this, tell);
   connect(grouping, &GroupController::stopped, this, say);
   connect(grouping, &GroupController::ended, this, clear);
@@ -54,8 +59,8 @@ void MainWindow::connectControllers()
   connect(opener, &StudyOpener::notOpened, recent,
           [this](const OpeningTask& task)
           {
-            if (!task.path.isEmpty())
-              recent->remove(task.path);
+            if (!task.ownPath().isEmpty())
+              recent->remove(task.ownPath());
           });
   connect(opener, &StudyOpener::failed, this, &MainWindow::noteFailure);
   connect(opener, &StudyOpener::unsure, this,
@@ -108,9 +113,9 @@ void MainWindow::showDrawing()
 
 void MainWindow::noteOpened(const OpenedStudy& study, const OpeningTask& task)
 {
-  if (!task.path.isEmpty())
-    recent->add(task.path);
-  sessions->opened(study, task.path, task.left);
+  if (!task.ownPath().isEmpty())
+    recent->add(task.ownPath());
+  sessions->opened(study, task.ownPath(), task.left);
 }
 
 void MainWindow::noteFailure(const QString& message, const OpeningTask& task)

@@ -4,6 +4,8 @@
 #include "app/tasks/TaskRunner.h"
 #include "app/window/TaskBar.h"
 
+#include <QScopedValueRollback>
+
 namespace Talmesh::app
 {
 
@@ -16,7 +18,11 @@ SearchController::SearchController(Document& shown, TaskBar& bar, QObject* paren
   SelectionController& selection = document.selection();
   connect(&bar, &TaskBar::cancelled, &selection, &SelectionController::giveUp);
   connect(&selection, &SelectionController::gaveUp, this,
-          [this] { emit stopped(tr("Cancelled")); });
+          [this]
+          {
+            if (!failing)
+              emit stopped(tr("Cancelled"));
+          });
   // The runs that would be found are those of the values before.
   connect(&document, &Document::valuesChanged, &selection, &SelectionController::giveUp);
   const auto start = [this](const RunSearch::Work& work,
@@ -29,11 +35,23 @@ SearchController::SearchController(Document& shown, TaskBar& bar, QObject* paren
                                      emit ended();
                                      if (found.hasValue())
                                        return deliver(found.value());
-                                     document.selection().giveUp();
-                                     emit failed(QString::fromStdString(found.error()));
+                                     fail(QString::fromStdString(found.error()));
                                    });
   };
-  selection.setBackground({start, [this] { runner->cancel(); }});
+  const auto cancel = [this]
+  {
+    runner->cancel();
+    emit ended();
+  };
+  selection.setBackground({start, cancel});
+}
+
+/// Nobody has cancelled what failed.
+void SearchController::fail(const QString& message)
+{
+  const QScopedValueRollback<bool> guard(failing, true);
+  document.selection().giveUp();
+  emit failed(message);
 }
 
 SearchController::~SearchController()

@@ -29,14 +29,17 @@ signals:
   void said(const QString& message);
   /// What has become of it, in one line.
   void stopped(const QString& message);
-  /// The runs are found.
+  /// Nothing is looked for any more.
   void ended();
   /// Why no runs could be looked for, in one line.
   void failed(const QString& message);
 
 private:
+  void fail(const QString& message);
+
   Document& document;
   TaskRunner* runner;
+  bool failing = false;
 };
 
 } // namespace Talmesh::app

@@ -19,6 +19,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     : line(bar)
     , openingBar(new TaskBar)
     , searchingBar(new TaskBar)
+    , featureBar(new TaskBar)
     , groupingBar(new TaskBar)
     , comparingBar(new TaskBar)
     , exportingBar(new TaskBar)
@@ -27,8 +28,9 @@ StatusLine::StatusLine(QStatusBar& bar)
 {
   sizeLabel->setObjectName(QStringLiteral("studySize"));
   selectedLabel->setObjectName(QStringLiteral("selectionSize"));
-  const std::initializer_list<QWidget*> widgets = {
-      openingBar, searchingBar, groupingBar, comparingBar, exportingBar, selectedLabel, sizeLabel};
+  const std::initializer_list<QWidget*> widgets = {openingBar,    searchingBar, featureBar,
+                                                   groupingBar,   comparingBar, exportingBar,
+                                                   selectedLabel, sizeLabel};
   for (QWidget* widget : widgets)
   {
     line.addPermanentWidget(widget);

@@ -22,6 +22,7 @@ public:
   /// One of its own for each kind of long work.
   TaskBar& opening() { return *openingBar; }
   TaskBar& searching() { return *searchingBar; }
+  TaskBar& features() { return *featureBar; }
   TaskBar& grouping() { return *groupingBar; }
   TaskBar& comparing() { return *comparingBar; }
   TaskBar& exporting() { return *exportingBar; }
@@ -41,6 +42,7 @@ private:
   QStatusBar& line;
   TaskBar* openingBar;
   TaskBar* searchingBar;
+  TaskBar* featureBar;
   TaskBar* groupingBar;
   TaskBar* comparingBar;
   TaskBar* exportingBar;

@@ -23,16 +23,12 @@ Result<OpenedStudy> openExampleStudy(const ImportProgress& progress)
   return example.study.runs ? Result<OpenedStudy>(example) : Result<OpenedStudy>::cancelled();
 }
 
-/// Several files have no path that could be opened again.
 OpeningTask taskFor(const QStringList& paths)
 {
   OpeningTask task;
   task.paths = paths;
-  task.name = QFileInfo(paths.front()).fileName();
-  if (paths.size() > 1)
-    task.name = StudyOpener::tr("%1 files").arg(paths.size());
-  else
-    task.path = paths.front();
+  task.name = paths.size() > 1 ? StudyOpener::tr("%1 files").arg(paths.size())
+                               : QFileInfo(paths.front()).fileName();
   return task;
 }
 
@@ -100,7 +96,6 @@ void StudyOpener::openComputed(const QString& name, const StudyJob& job)
 void StudyOpener::bringBack(const LeftWork& work)
 {
   OpeningTask task = taskFor({work.path});
-  task.path.clear();
   task.left = work;
   load(task, [path = work.path](const ImportProgress& progress)
        { return openStudyFile(path, progress); });

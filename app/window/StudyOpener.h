@@ -23,9 +23,6 @@ struct OpeningTask
 {
   /// As messages call it.
   QString name;
-  /// The file; empty for what is computed, for several, and for work that an earlier window has
-  /// left.
-  QString path;
   /// All files; empty for what is computed.
   QStringList paths;
   /// The work that an earlier window has left, if that is what is opened.
@@ -36,6 +33,13 @@ struct OpeningTask
   ImportRequest request;
   std::shared_ptr<ImportReport> report;
   bool namedByCommandLine = false;
+
+  /// The file that could be opened again; empty for what is computed, for several files, and for
+  /// work that an earlier window has left.
+  QString ownPath() const
+  {
+    return paths.size() == 1 && left.path.isEmpty() ? paths.front() : QString();
+  }
 };
 
 /// Opens studies in the background and shows them in the document. What is started while something

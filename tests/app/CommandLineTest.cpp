@@ -268,3 +268,19 @@ TEST(CommandLine, TakesWhatIsKnownOfTheDesign)
     EXPECT_EQ(errorOf({"--design", wrong}),
               std::string("--design takes saltelli, or saltelli:K for K parameters, not ") + wrong);
 }
+
+TEST(CommandLine, TakesTheTestAndTheAdjustment)
+{
+  EXPECT_FALSE(parsed({"runs.csv"}).comparedBy);
+  EXPECT_FALSE(parsed({"runs.csv"}).adjustment);
+  using Talmesh::stats::Adjustment;
+  using Talmesh::stats::ComparedBy;
+  EXPECT_EQ(parsed({"--compare-by", "ks"}).comparedBy, ComparedBy::distribution);
+  EXPECT_EQ(parsed({"--compare-by=mannwhitney"}).comparedBy, ComparedBy::rankSum);
+  EXPECT_EQ(parsed({"--compare-by", "counts"}).comparedBy, ComparedBy::counts);
+  EXPECT_EQ(parsed({"--adjust", "bh"}).adjustment, Adjustment::benjaminiHochberg);
+  EXPECT_EQ(parsed({"--adjust", "holm"}).adjustment, Adjustment::holm);
+  EXPECT_EQ(parsed({"--adjust=maxt"}).adjustment, Adjustment::maxT);
+  EXPECT_EQ(errorOf({"--compare-by", "t"}), "--compare-by takes ks, mannwhitney or counts, not t");
+  EXPECT_EQ(errorOf({"--adjust", "Holm"}), "--adjust takes bh, holm or maxt, not Holm");
+}

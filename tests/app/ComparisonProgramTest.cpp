@@ -193,6 +193,11 @@ TEST_F(ComparisonProgram, TakesTheSeedAndChecksInHalves)
   EXPECT_EQ(one[1][8], "Kolmogorov-Smirnov (9999 permutations of sets; seed 5)");
   const auto half = comparison({csv, "--select", "max(X) > 12", "--seed", "5", "--halves"});
   EXPECT_TRUE(half[1][8].endsWith("second half of the runs; seed 5")) << half[1][8].toStdString();
+  const auto ranks = comparison({csv, "--select", "max(X) > 12", "--compare-by", "mannwhitney"});
+  EXPECT_TRUE(ranks[1][8].startsWith("Mann-Whitney (9999 permutations of sets"))
+      << ranks[1][8].toStdString();
+  const auto holm = comparison({csv, "--select", "max(X) > 12", "--adjust", "holm"});
+  EXPECT_TRUE(holm[1][8].contains("Holm")) << holm[1][8].toStdString();
 }
 
 TEST_F(ComparisonProgram, WritesOverNothingThatItReadsOrWrites)

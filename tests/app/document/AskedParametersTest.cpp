@@ -93,3 +93,20 @@ TEST_F(AskedParameters, AreNotTestedOfAKeptSelection)
   saveAndOpen();
   EXPECT_EQ(obstacleOf(0), TestObstacle::chosenByParameter);
 }
+
+TEST_F(AskedParameters, AreNotTestedWhenTheKeptRunsAreSelectedAgain)
+{
+  const std::vector<std::string> fast = asked();
+  document.selection().clear();
+  QCoreApplication::processEvents();
+  document.selection().selectRuns({false, false, false, true, true, true}, "runs(3, 4, 5)",
+                                  RunCombination::Replace, conditionsOn(fast));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(obstacleOf(0), TestObstacle::chosenByParameter);
+  EXPECT_EQ(asked(), fast) << "for who keeps them once more";
+  document.selection().selectRuns({true}, {}, RunCombination::Replace);
+  document.selection().selectRuns({true, true, false, false, false, false}, "runs(0, 1)",
+                                  RunCombination::Replace);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(asked().empty());
+}

@@ -36,7 +36,8 @@ protected:
   std::optional<std::string> wordsOf(const SelectionGesture& gesture,
                                      GestureRule rule = GestureRule::Through)
   {
-    return wordsOfGesture(container(), TableRuns(container()), gesture, rule);
+    const auto meant = meantByGesture(container(), TableRuns(container()), gesture, rule);
+    return meant ? std::optional<std::string>(meant->words) : std::nullopt;
   }
 
   std::optional<std::string> beside(const SelectionGesture& gesture)
@@ -46,7 +47,8 @@ protected:
 
   Runs selectedBy(const std::string& words)
   {
-    EXPECT_EQ(selectWhere(container(), {words}), "");
+    EXPECT_EQ(document.selection().selectWhere(words, RunCombination::Replace).text, "");
+    QCoreApplication::processEvents();
     return selectedRuns();
   }
 
@@ -140,8 +142,8 @@ TEST_F(GesturesInCharts, ReachAsManyPixelsAsTheyAreTold)
   {
     const TableRuns runs(container());
     const auto rule = GestureRule::Through;
-    EXPECT_EQ(wordsOfGesture(container(), runs, click, rule), "");
-    EXPECT_EQ(wordsOfGesture(container(), runs, click, rule, 2 * pointingReach), "runs(2)");
+    EXPECT_EQ(meantByGesture(container(), runs, click, rule)->words, "");
+    EXPECT_EQ(meantByGesture(container(), runs, click, rule, 2 * pointingReach)->words, "runs(2)");
     EXPECT_EQ(nearestRun(container(), runs, click), "");
     EXPECT_EQ(nearestRun(container(), runs, click, 2 * pointingReach)->rfind("Run 2", 0), 0U);
   }

@@ -210,3 +210,14 @@ TEST_F(KeptComparison, RemembersWhatWasAskedForWhereWordsAreLost)
   select({1, 2});
   EXPECT_EQ(obstacleOf(0), TestObstacle::none) << "replaced";
 }
+
+TEST_F(KeptComparison, LooksForNoRunsAgainInHalves)
+{
+  keep("said", {4, 5}, "max(X) > 33");
+  // As runs that are normalised: none meets the words any more.
+  Talmesh::plot::doubleColumn(document.container()->getTable(), 0)->FillComponent(0, 1.0);
+  ComparisonChoice choice = chosen();
+  choice.halves = true;
+  document.compareBy(choice);
+  EXPECT_EQ(compare("said", "").state, State::compared);
+}

@@ -1,7 +1,10 @@
 #include "app/document/RunSearch.h"
 
 #include "app/document/SelectionController.h"
+#include "plot/ContainerAccess.h"
+#include "plot/PlotState.h"
 #include "support/SampleRuns.h"
+#include "vtk/GestureHandling.h"
 #include "vtk/RowSelections.h"
 
 #include <vtkDoubleArray.h>
@@ -161,4 +164,59 @@ TEST_F(RunSearchTest, ReadsTheValuesThatWereThereWhenItBegan)
   values->FillComponent(0, 1000);
   finish(0);
   EXPECT_EQ(selected(), (Runs{false, true, false, true}));
+}
+
+TEST_F(RunSearchTest, NeedsNoSearchForRunsThatAGestureNames)
+{
+  Talmesh::SelectionGesture gesture;
+  gesture.kind = Talmesh::SelectionGesture::Kind::Lasso;
+  gesture.table = plot.container.getTable();
+  // Rows of the third run, which has three.
+  gesture.rows = {6, 7};
+  const auto& drawn = stateOf(plot.container).gestures->select;
+  EXPECT_TRUE(drawn(gesture));
+  EXPECT_EQ(selected(), (Runs{false, false, true, false}));
+  EXPECT_EQ(controller.words(), "runs(2)");
+  EXPECT_TRUE(begun.empty());
+  // It waits for those that are looked for before.
+  select("run = 3");
+  gesture.mode = Talmesh::SelectionGesture::Mode::Add;
+  EXPECT_TRUE(drawn(gesture));
+  finish(0);
+  EXPECT_EQ(selected(), (Runs{false, false, false, true}));
+  finish(1);
+  EXPECT_EQ(selected(), (Runs{false, false, true, true}));
+  // And takes the place of those that it replaces.
+  select("run = 3");
+  gesture.mode = Talmesh::SelectionGesture::Mode::Replace;
+  EXPECT_TRUE(drawn(gesture));
+  EXPECT_EQ(cancelled, 1);
+  EXPECT_FALSE(controller.isSearching());
+  EXPECT_EQ(selected(), (Runs{false, false, true, false}));
+}
+
+TEST_F(RunSearchTest, TellsNobodyOfTheEndOfWhatIsReplaced)
+{
+  QSignalSpy told(&controller, &SelectionController::gaveUp);
+  select("run = 1");
+  select("run = 2");
+  EXPECT_EQ(told.count(), 0);
+}
+
+TEST_F(RunSearchTest, TakesTheReachOfGesturesOnFineScreens)
+{
+  Talmesh::SelectionGesture click;
+  click.kind = Talmesh::SelectionGesture::Kind::Click;
+  click.points = {{1.0, 20.0}};
+  click.table = plot.container.getTable();
+  click.series = {{": Time [s]", "Complex: A", false}};
+  // The point of the third run at time 1 is 21: ten pixels above.
+  click.unitsX = 0.1;
+  click.unitsY = 0.1;
+  const auto& drawn = stateOf(plot.container).gestures->select;
+  EXPECT_TRUE(drawn(click));
+  EXPECT_EQ(selected(), theFirst) << "beside everything";
+  controller.gestures().setPixelRatio([] { return 2.0; });
+  EXPECT_TRUE(drawn(click));
+  EXPECT_EQ(selected(), (Runs{false, false, true, false}));
 }

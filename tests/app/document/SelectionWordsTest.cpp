@@ -49,6 +49,12 @@ constexpr RunCombination operations[] = {RunCombination::Replace, RunCombination
 
 } // namespace
 
+TEST(SelectionWords, AreNoneOfAnyConditionsWhereOneIsTooLong)
+{
+  EXPECT_EQ(wordsOfAny({"a > 1", "b > 1"}), "a > 1 or b > 1");
+  EXPECT_EQ(wordsOfAny({std::string(mostCharactersOfWords + 1, 'a'), "b > 1"}), "");
+}
+
 TEST_F(SelectionInWords, IsTheConditionThatOnlyTheSelectedRunsMeet)
 {
   const std::vector<std::string> conditions = {"k > 2", "m < 4 or k = 1", "not m = 3",

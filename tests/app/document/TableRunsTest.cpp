@@ -1,4 +1,4 @@
-#include "app/document/TableRuns.h"
+#include "app/document/RunConditions.h"
 
 #include "app/document/DocumentScene.h"
 
@@ -22,9 +22,12 @@ protected:
   /// What the document says to words.
   std::string selectWords(const std::vector<std::string>& words)
   {
-    const std::string fault = selectWhere(container(), words);
+    TableRuns runs(container());
+    const Result<std::vector<bool>> hit = runsWhere(runs, words);
+    if (hit.hasValue())
+      runs.select(hit.value());
     QCoreApplication::processEvents();
-    return fault;
+    return hit.error();
   }
 
   std::vector<vtkIdType> selectedRows()

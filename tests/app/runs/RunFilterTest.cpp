@@ -198,3 +198,37 @@ TEST(RunFilter, IsGivenUpWhenAsked)
   EXPECT_TRUE(filter.select(sample, once).isCancelled()) << "between any two runs";
   EXPECT_EQ(filter.select(sample, {}).value(), (std::vector<bool>{true, true, false, true}));
 }
+
+TEST(RunFilter, ComparesTextsForEqualOnly)
+{
+  /// alpha holds texts: that of the run 101 is one, that of 102 is two, or TetR.
+  class TextCourses : public SampleCourses
+  {
+  public:
+    std::optional<double> numberOf(int column, const std::string& text) const override
+    {
+      if (column != 0)
+        return std::nullopt;
+      return text == "one"                     ? std::optional<double>(1)
+             : text == "two" || text == "TetR" ? std::optional<double>(2)
+                                               : std::nullopt;
+    }
+  } const texts;
+  const auto selects = [&texts](const char* text, std::size_t run)
+  {
+    FilterFault fault;
+    const RunFilter filter = RunFilter::read(text, texts, fault);
+    return fault.text.empty() ? filter.selects(texts, run) ? "yes" : "no" : fault.text;
+  };
+  EXPECT_EQ(selects("alpha = one", 0), "yes");
+  EXPECT_EQ(selects("two == alpha", 0), "no");
+  EXPECT_EQ(selects("alpha != two", 0), "yes");
+  EXPECT_EQ(selects("0 < alpha = one", 0), "yes");
+  for (const char* ordered : {"alpha < two", "one <= alpha", "alpha > one", "two >= alpha"})
+    EXPECT_EQ(selects(ordered, 0), std::string(ordered).find("one") != std::string::npos
+                                       ? "no column one"
+                                       : "no column two")
+        << ordered;
+  // An item that is called as a text.
+  EXPECT_NE(selects("alpha = TetR", 1), "yes");
+}

@@ -146,3 +146,10 @@ TEST(SessionSettings, OfTheLargestTableFitIntoAFile)
   EXPECT_LE(text.size(), largestSettings);
   EXPECT_EQ(settingsIn(text, columns).parameterRanges, settings.parameterRanges);
 }
+
+TEST(SessionSettings, SayHowManyStepsAreForgottenThoughNoneIsLeft)
+{
+  SessionSettings settings;
+  settings.steps.forgotten = 3;
+  EXPECT_EQ(settingsIn(settingsText(settings)).steps.forgotten, 3);
+}

@@ -216,3 +216,15 @@ TEST_F(KeptSelectionsInWindow, AreAskedForBeforeTheyWouldBeLost)
   EXPECT_EQ(tree().topLevelItem(0)->text(0), "a");
   EXPECT_FALSE(window.sessionController().isUnsaved());
 }
+
+TEST_F(KeptSelectionsInWindow, RememberWhatWasAskedForWhenSelectedAgain)
+{
+  std::vector<bool> two(window.selectionController()->selectedRuns().size(), false);
+  two[0] = two[1] = true;
+  window.document().kept().keep("fast", two, "runs(0, 1)", {"k"});
+  QTest::qWait(20);
+  press(QKeySequence(Qt::Key_Escape));
+  doubleClick(0);
+  EXPECT_EQ(window.selectionController()->conditions(),
+            (std::vector<std::string>{"runs(0, 1)", "k = k"}));
+}

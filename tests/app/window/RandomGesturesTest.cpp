@@ -51,7 +51,7 @@ protected:
     take = [this, selects = take](const Talmesh::SelectionGesture& gesture)
     {
       const RunGestures& gestures = window.selectionController()->gestures();
-      words = wordsOfGesture(container(), TableRuns(container()), gesture, gestures.rule()).value();
+      words = meantByGesture(container(), TableRuns(container()), gesture, gestures.rule())->words;
       return selects(gesture);
     };
     press(QKeySequence(Qt::Key_F7));

@@ -1,5 +1,4 @@
 #include "app/window/FilterLine.h"
-#include "external/ColumnNames.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -13,19 +12,6 @@ namespace
 {
 
 using namespace Talmesh::app;
-
-/// Noise in runs that have numbers.
-OpenedStudy numberedNoise(std::size_t runs, std::size_t points)
-{
-  const OpenedStudy opened = noise(runs, points);
-  LinePlotTable& table = *opened.study.runs;
-  table.items.push_back(Talmesh::runIndexItem());
-  auto* numbers = new double[runs * points];
-  for (std::size_t row = 0; row < runs * points; ++row)
-    numbers[row] = static_cast<double>(row / points);
-  table.values.push_back(numbers);
-  return opened;
-}
 
 /// Many runs, the first of which is selected, in a window in which every condition takes long.
 class SearchInWindow : public TasksInWindow
@@ -118,4 +104,44 @@ TEST_F(SearchInWindow, EndsWithTheWindow)
   typeLong();
   ASSERT_TRUE(window->isBusy());
   window.reset();
+}
+
+TEST_F(SearchInWindow, GivesUpWhenTheValuesBecomeOthers)
+{
+  typeLong();
+  ASSERT_TRUE(window->isBusy());
+  emit window->document().valuesChanged();
+  EXPECT_FALSE(window->isBusy());
+  EXPECT_EQ(count(), 1U);
+}
+
+TEST_F(SearchInWindow, CancelsNothingWhenAConditionTakesThePlaceOfAnother)
+{
+  typeLong();
+  ASSERT_TRUE(window->isBusy());
+  type("run = 2");
+  EXPECT_EQ(window->statusBar()->currentMessage(),
+            "Looking for the runs that meet the condition ...");
+  typeLong();
+  selection().setPatience(std::chrono::hours(1));
+  type("run = 3");
+  EXPECT_FALSE(window->isBusy());
+  EXPECT_FALSE(window->statusBar()->currentMessage().startsWith("Looking"));
+  EXPECT_NE(window->statusBar()->currentMessage(), "Cancelled");
+  EXPECT_EQ(count(), 1U);
+}
+
+TEST_F(SearchInWindow, LooksForWhatTheCommandLineSelects)
+{
+  PlotWishes wishes;
+  wishes.select = {"max(X) < 0", "run < 5", "run = 7"};
+  EXPECT_EQ(window->document().open(numberedNoise(3000, 100), wishes), "");
+  EXPECT_TRUE(window->isBusy());
+  EXPECT_EQ(count(), 0U);
+  ASSERT_TRUE(waitForEnd());
+  EXPECT_EQ(count(), 6U);
+  EXPECT_EQ(selection().words(), "max(X) < 0 or run < 5 or run = 7");
+  wishes.select = {"max(X) <"};
+  EXPECT_NE(window->document().open(numberedNoise(30, 100), wishes), "");
+  EXPECT_FALSE(window->isBusy());
 }

@@ -5,6 +5,7 @@
 #include "app/tasks/TaskRunner.h"
 #include "app/window/MainWindow.h"
 #include "app/window/SessionController.h"
+#include "external/ColumnNames.h"
 #include "plot/PlotContainer.h"
 
 #include <boost/make_shared.hpp>
@@ -43,6 +44,19 @@ inline Talmesh::app::OpenedStudy noise(std::size_t runs, std::size_t points)
   }
   Talmesh::app::OpenedStudy opened;
   opened.study = {"noise", table, nullptr};
+  return opened;
+}
+
+/// Noise in runs that have numbers.
+inline Talmesh::app::OpenedStudy numberedNoise(std::size_t runs, std::size_t points)
+{
+  const Talmesh::app::OpenedStudy opened = noise(runs, points);
+  LinePlotTable& table = *opened.study.runs;
+  table.items.push_back(Talmesh::runIndexItem());
+  auto* numbers = new double[runs * points];
+  for (std::size_t row = 0; row < runs * points; ++row)
+    numbers[row] = static_cast<double>(row / points);
+  table.values.push_back(numbers);
   return opened;
 }
 
