@@ -112,6 +112,63 @@ Curve density(const Values& sorted, const stats::ParameterSupport& support)
   return {Values(locations.begin(), locations.end()), Values(densities.begin(), densities.end())};
 }
 
+/// The different values of a parameter in all groups, ascending, unless they are enough for a
+/// kernel estimate: none then.
+Values fewLevels(const PlotState& state, std::size_t parameter)
+{
+  Values levels;
+  for (const DistributionGroup& group : *state.distributionGroups)
+  {
+    const Values& values = valuesOf(group, parameter);
+    for (auto value = values.begin(); value != values.end();
+         value = std::upper_bound(value, values.end(), *value))
+    {
+      const auto place = std::lower_bound(levels.begin(), levels.end(), *value);
+      if (!isFinite(*value) || (place != levels.end() && *place == *value))
+        continue;
+      levels.insert(place, *value);
+      if (levels.size() >= stats::smallestKernelSample)
+        return {};
+    }
+  }
+  return levels;
+}
+
+/// A line at each level, as high as if its values were spread over a step of the grid. A kernel
+/// would fill the gaps between levels; and where most values are equal it is so narrow that levels
+/// beside the places of the grid fade.
+Curve densityAtLevels(const Values& sorted, const Values& levels,
+                      const stats::ParameterSupport& support)
+{
+  Curve curve{{std::min(support.lower, levels.front())}, {0.0}};
+  const double step = support.range / static_cast<double>(stats::densityLocations - 1);
+  for (const double level : levels)
+  {
+    const auto [first, last] = std::equal_range(sorted.begin(), sorted.end(), level);
+    const double share = static_cast<double>(last - first) / static_cast<double>(sorted.size());
+    for (const double height : {0.0, share / step, 0.0})
+    {
+      curve.x.push_back(level);
+      curve.y.push_back(height);
+    }
+  }
+  curve.x.push_back(std::max(support.lower + support.range, levels.back()));
+  curve.y.push_back(0.0);
+  return curve;
+}
+
+/// Runs that are enough for an estimate but have few different values are shown by these.
+Curve densityCurve(const PlotState& state, const Values& sorted, std::size_t parameter)
+{
+  const stats::ParameterSupport support = supportOf(state, parameter);
+  const auto isLarge = [parameter](const DistributionGroup& group)
+  { return valuesOf(group, parameter).size() >= stats::smallestKernelSample; };
+  const std::vector<DistributionGroup>& groups = *state.distributionGroups;
+  const bool areMany = std::any_of(groups.begin(), groups.end(), isLarge);
+  const Values levels = areMany && !support.degenerate ? fewLevels(state, parameter) : Values();
+  return levels.empty() ? density(sorted, support) : densityAtLevels(sorted, levels, support);
+}
+
 } // namespace
 
 void setDistributionGroups(PlotState& state, std::optional<std::vector<DistributionGroup>> groups)
@@ -135,7 +192,7 @@ vtkSmartPointer<vtkTable> groupCurve(const PlotState& state, std::size_t group,
   if (std::none_of(sorted.begin(), sorted.end(), isFinite))
     return nullptr;
   const bool isDensity = state.metaData->getUseDensity();
-  const Curve curve = isDensity ? density(sorted, supportOf(state, parameter))
+  const Curve curve = isDensity ? densityCurve(state, sorted, parameter)
                                 : distributionFunction(sorted, extentOf(state, parameter));
   const std::string label = parameterLabel(state, parameter);
   auto table = vtkSmartPointer<vtkTable>::New();

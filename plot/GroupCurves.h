@@ -23,7 +23,7 @@ void setDistributionGroups(PlotState& state, std::optional<std::vector<Distribut
 /// The curve of the parameter at position `parameter` of the settings' list over the runs of a
 /// group, which exists: a table of x and y. That is the empirical distribution function, with one
 /// point for each different value, or, as the settings say, the density on the support that all
-/// groups share.
+/// groups share; of few different values in many runs a line at each, as high as its share.
 /// @return null without a finite value
 vtkSmartPointer<vtkTable> groupCurve(const PlotState& state, std::size_t group,
                                      std::size_t parameter);

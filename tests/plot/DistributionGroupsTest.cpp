@@ -110,6 +110,36 @@ TEST_F(DistributionGroups, MarkFewValuesOneByOne)
   EXPECT_EQ(std::count(density.begin(), density.end(), 1.0), 2) << "also behind equal ones";
 }
 
+TEST_F(DistributionGroups, ShowFewLevelsByALineForEach)
+{
+  settings().setUseDensity(true);
+  Values all(12, 2.0);
+  all.insert(all.end(), 4, 7.31);
+  all.insert(all.end(), 4, 11.0);
+  show({{{all, {1}}, {}}, {{{11.0, 7.31, 7.31, 11.0}, {1}}, {}}});
+  // The parameters of the study have the bounds 1 and 20, and the grid 199 steps.
+  const Values places{1, 2, 2, 2, 7.31, 7.31, 7.31, 11, 11, 11, 20};
+  const double step = 19.0 / 199.0;
+  for (const auto& [group, shares] :
+       {std::pair(0, Values{0.6, 0.2, 0.2}), std::pair(1, Values{0.0, 0.5, 0.5})})
+  {
+    EXPECT_EQ(x(0, group), places);
+    const Values heights = y(0, group);
+    ASSERT_EQ(heights.size(), 11U);
+    for (std::size_t level = 0; level < 3; ++level)
+    {
+      EXPECT_EQ(heights[1 + 3 * level], 0.0);
+      EXPECT_NEAR(heights[2 + 3 * level], shares[level] / step, 1e-12) << group << ' ' << level;
+      EXPECT_EQ(heights[3 + 3 * level], 0.0);
+    }
+  }
+  // Eleven different values have a smooth one.
+  for (int i = 0; i < 8; ++i)
+    all.push_back(3.0 + i);
+  show({{{all, {1}}, {}}});
+  EXPECT_EQ(x(0, 0).size(), 200U);
+}
+
 TEST_F(DistributionGroups, HaveNoPlaceForInfinity)
 {
   const double infinity = std::numeric_limits<double>::infinity();
