@@ -1,8 +1,8 @@
 #include "app/ImportOptions.h"
 
-#include "app/OptionValues.h"
 #include "app/import/Layouts.h"
 
+#include <cstddef>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -36,11 +36,27 @@ std::string readName(const std::string& value, ImportRequest& request)
   return {};
 }
 
+/// The parts of a text between commas. A comma behind a backslash is part of a name.
+std::vector<std::string> splitNames(const std::string& value)
+{
+  std::vector<std::string> names(1);
+  for (std::size_t i = 0; i < value.size(); ++i)
+  {
+    const bool marked =
+        value[i] == '\\' && i + 1 < value.size() && (value[i + 1] == ',' || value[i + 1] == '\\');
+    if (value[i] == ',')
+      names.emplace_back();
+    else
+      names.back() += value[marked ? ++i : i];
+  }
+  return names;
+}
+
 /// Names between commas.
 template <auto field>
 std::string readNames(const std::string& value, ImportRequest& request)
 {
-  for (std::string& name : splitAtCommas(value))
+  for (std::string& name : splitNames(value))
   {
     if (name.empty())
       return "a name is empty in " + value;
@@ -96,14 +112,15 @@ std::string readJoin(const std::string& value, ImportRequest& request)
 
 } // namespace
 
-const std::array<ImportOption, 15>& importOptions()
+const std::array<ImportOption, 16>& importOptions()
 {
-  static const std::array<ImportOption, 15> options = {
+  static const std::array<ImportOption, 16> options = {
       {{"layout", readLayout},
        {"time", readName<&ImportRequest::time>},
        {"run", readNames<&ImportRequest::run>},
        {"item", readName<&ImportRequest::item>},
        {"value", readName<&ImportRequest::value>},
+       {"measured", readNames<&ImportRequest::measured>},
        {"parameter", readNames<&ImportRequest::parameters>},
        {"condition", readNames<&ImportRequest::conditions>},
        {"ignore", readNames<&ImportRequest::ignored>},
@@ -127,6 +144,7 @@ std::string importHelp()
          "  --run NAME[,NAME...]    the columns that name the run of a row together\n"
          "  --item NAME             the column that says what a row has the value of\n"
          "  --value NAME            the column of these values\n"
+         "  --measured NAME[,...]   columns that are measured, and no parameters of runs\n"
          "  --parameter NAME[,...]  columns that are parameters of runs\n"
          "  --condition NAME[,...]  columns whose cells are names, such as of drugs\n"
          "  --ignore NAME[,...]     columns to leave out\n"

@@ -508,6 +508,69 @@
     </message>
 </context>
 <context>
+    <name>ImportSummary</name>
+    <message>
+        <source>%1 to %2 points</source>
+        <translation>%1 bis %2 Punkten</translation>
+    </message>
+    <message>
+        <source>%1 point</source>
+        <translation>%1 Punkt</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Punkten</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 run</source>
+        <translation>%1 Lauf</translation>
+    </message>
+    <message>
+        <source>%1 runs</source>
+        <translation>%1 Läufe</translation>
+    </message>
+    <message>
+        <source>%1 row</source>
+        <translation>%1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 parameter</source>
+        <translation>%1 Parameter</translation>
+    </message>
+    <message>
+        <source>%1 parameters</source>
+        <translation>%1 Parameter</translation>
+    </message>
+    <message>
+        <source>%1 item</source>
+        <translation>%1 Größe</translation>
+    </message>
+    <message>
+        <source>%1 items</source>
+        <translation>%1 Größen</translation>
+    </message>
+    <message>
+        <source>%1 condition</source>
+        <translation>%1 Bedingung</translation>
+    </message>
+    <message>
+        <source>%1 conditions</source>
+        <translation>%1 Bedingungen</translation>
+    </message>
+    <message>
+        <source>\blines? (\d+)</source>
+        <translation>\bZeilen? (\d+)</translation>
+    </message>
+</context>
+<context>
     <name>LayoutChoice</name>
     <message>
         <source>there is no layout %1; the layouts are %2</source>
@@ -879,6 +942,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>In the order of rows</source>
         <translation>In der Reihenfolge der Zeilen</translation>
+    </message>
+    <message>
+        <source>Choose how to read it...</source>
+        <translation>Auswählen, wie sie gelesen wird …</translation>
     </message>
 </context>
 <context>
@@ -2305,6 +2372,18 @@ p, li { white-space: pre-wrap; }
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>O&amp;pen as...</source>
+        <translation>Öffnen &amp;als …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+P</source>
+        <translation>Ctrl+Alt+P</translation>
+    </message>
+    <message>
+        <source>Open as...</source>
+        <translation>Öffnen als</translation>
+    </message>
 </context>
 <context>
     <name>Talmesh::app::FilterLine</name>
@@ -2442,6 +2521,108 @@ p, li { white-space: pre-wrap; }
 Plots of simulated runs.</source>
         <translation>Talmesh Plot %1
 Grafiken simulierter Läufe.</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ImportDialog</name>
+    <message>
+        <source>&amp;Remember for tables with these columns</source>
+        <translation>Für Tabellen mit diesen Spalten &amp;merken</translation>
+    </message>
+    <message>
+        <source>Open %1 as</source>
+        <translation>%1 öffnen als</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Erste Zeilen der Tabelle</translation>
+    </message>
+    <message>
+        <source>What is understood of the table</source>
+        <translation>Was von der Tabelle verstanden wurde</translation>
+    </message>
+    <message>
+        <source>Command li&amp;ne</source>
+        <translation>&amp;Befehlszeile</translation>
+    </message>
+    <message>
+        <source>Reading ...</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Reading ... (so far %1)</source>
+        <translation>Wird gelesen … (bisher %1)</translation>
+    </message>
+    <message>
+        <source>It may be read in several ways: choose one</source>
+        <translation>Sie kann auf mehrere Arten gelesen werden: eine auswählen</translation>
+    </message>
+    <message>
+        <source>It cannot be read so</source>
+        <translation>So kann sie nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 columns are shown.</source>
+        <translation>Die ersten %1 von %2 Spalten werden gezeigt.</translation>
+    </message>
+    <message>
+        <source>&amp;Column %1 is</source>
+        <translation>Spa&amp;lte %1 ist</translation>
+    </message>
+    <message>
+        <source>Role of the column %1</source>
+        <translation>Rolle der Spalte %1</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ImportModel</name>
+    <message>
+        <source>time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>item</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>measured</source>
+        <translation>gemessen</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>ignored</source>
+        <translation>ausgelassen</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>%1 is to be: %2</source>
+        <translation>%1 soll sein: %2</translation>
+    </message>
+    <message>
+        <source>%1 is recognised as: %2</source>
+        <translation>%1 wurde erkannt als: %2</translation>
     </message>
 </context>
 <context>
@@ -2630,6 +2811,93 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Logarithmic y axis</source>
         <translation>Logarithmische y-Achse</translation>
+    </message>
+</context>
+<context>
+    <name>Talmesh::app::ReadingChoices</name>
+    <message>
+        <source>comma ,</source>
+        <translation>Komma ,</translation>
+    </message>
+    <message>
+        <source>semicolon ;</source>
+        <translation>Semikolon ;</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>blanks</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>bar |</source>
+        <translation>Strich |</translation>
+    </message>
+    <message>
+        <source>colon :</source>
+        <translation>Doppelpunkt :</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>&amp;Layout</source>
+        <translation>&amp;Aufbau</translation>
+    </message>
+    <message>
+        <source>&amp;Separator</source>
+        <translation>Tre&amp;nnzeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Decimal mark</source>
+        <translation>&amp;Dezimalzeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Unequal runs</source>
+        <translation>&amp;Ungleiche Läufe</translation>
+    </message>
+    <message>
+        <source>Each &amp;file is</source>
+        <translation>&amp;Jede Datei ist</translation>
+    </message>
+    <message>
+        <source>the first one</source>
+        <translation>die erste</translation>
+    </message>
+    <message>
+        <source>Of a file with several tables: the sheet, array, group or member</source>
+        <translation>Bei einer Datei mit mehreren Tabellen: das Blatt, das Feld, die Gruppe oder der Eintrag</translation>
+    </message>
+    <message>
+        <source>S&amp;heet</source>
+        <translation>Bla&amp;tt</translation>
+    </message>
+    <message>
+        <source>point .</source>
+        <translation>Punkt .</translation>
+    </message>
+    <message>
+        <source>have gaps</source>
+        <translation>haben Lücken</translation>
+    </message>
+    <message>
+        <source>have lines across gaps</source>
+        <translation>haben Linien über Lücken</translation>
+    </message>
+    <message>
+        <source>What runs of different times have at the times of others</source>
+        <translation>Was Läufe mit verschiedenen Zeiten zu den Zeiten der anderen haben</translation>
+    </message>
+    <message>
+        <source>a run</source>
+        <translation>ein Lauf</translation>
+    </message>
+    <message>
+        <source>an item</source>
+        <translation>eine Größe</translation>
     </message>
 </context>
 <context>
@@ -2976,6 +3244,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>%1 files</source>
         <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>Read as is remembered for tables with these columns.</source>
+        <translation>Gelesen, wie es für Tabellen mit diesen Spalten gemerkt ist.</translation>
     </message>
 </context>
 <context>

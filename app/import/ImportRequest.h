@@ -27,6 +27,8 @@ struct ImportRequest
   std::vector<std::string> run;
   std::string item;
   std::string value;
+  /// Columns that are measured, also those that are the same all through each run.
+  std::vector<std::string> measured;
   std::vector<std::string> parameters;
   /// Columns of text, or of few values, that become categories.
   std::vector<std::string> conditions;

@@ -95,6 +95,27 @@ std::string adviceOnWriting(const std::string& text)
                                         "thousands; write the numbers without them");
 }
 
+/// A column that shall be something else is no time, though it is called so; nor does it name runs
+/// if it is left out or measured.
+void forgetRecognised(TableText& text, const ImportRequest& request)
+{
+  ColumnRoles& roles = text.roles;
+  const auto use = [&text](int column)
+  { return column < 0 ? ColumnUse::Open : text.uses[static_cast<std::size_t>(column)]; };
+  if (request.time.empty() && use(roles.timeColumn) != ColumnUse::Open)
+    roles.timeColumn = -1;
+  if (!request.run.empty())
+    return;
+  std::vector<int>& runs = roles.runCandidates;
+  runs.erase(std::remove_if(runs.begin(), runs.end(),
+                            [&](int column) {
+                              return use(column) == ColumnUse::Ignored ||
+                                     use(column) == ColumnUse::Item;
+                            }),
+             runs.end());
+  roles.runColumn = runs.empty() ? -1 : runs.front();
+}
+
 } // namespace
 
 bool isStrangeNumber(const ColumnValues& column)
@@ -134,9 +155,11 @@ std::string applyRequest(TableText& text, const ImportRequest& request)
     roles.runColumn = roles.askedRuns.front();
   roles.itemColumn = asked.column(request.item);
   roles.valueColumn = asked.column(request.value);
+  asked.use(request.measured, ColumnUse::Item);
   asked.use(request.parameters, ColumnUse::Parameter);
   asked.use(request.conditions, ColumnUse::Condition);
   asked.use(request.ignored, ColumnUse::Ignored);
+  forgetRecognised(text, request);
   return asked.error;
 }
 

@@ -36,14 +36,10 @@ FileMenu::FileMenu(Document& document, RecentMenu& recent, QWidget* window)
 void FileMenu::addOpening(RecentMenu& recent)
 {
   add(tr("&Open..."), QKeySequence::Open, this,
-      [this]
-      {
-        askToOpenSeveral(
-            parentWidget(), tr("Open runs"),
-            tr("Tables and sessions (%1 *.talmesh)").arg(readableEndings().join(QLatin1Char(' '))) +
-                QStringLiteral(";;") + tr("All files (*)"),
-            [this](const QStringList& paths) { emit filesChosen(paths); });
-      });
+      [this] { askForTables(tr("Open runs"), &FileMenu::filesChosen); });
+  QAction* openAs = add(tr("O&pen as..."), QKeySequence(tr("Ctrl+Alt+P")), this,
+                        [this] { askForTables(tr("Open as..."), &FileMenu::filesToReadChosen); });
+  openAs->setObjectName(QStringLiteral("openAs"));
   addMenu(&recent);
   connect(&recent, &RecentMenu::fileChosen, this, &FileMenu::fileChosen);
   add(tr("Open the e&xample study"), QKeySequence(tr("Ctrl+Shift+O")), this,
@@ -65,6 +61,15 @@ void FileMenu::addSessions(Document& document)
     connect(&document, &Document::studyChanged, action, follow);
     follow();
   }
+}
+
+void FileMenu::askForTables(const QString& title, void (FileMenu::*chosen)(const QStringList&))
+{
+  askToOpenSeveral(
+      parentWidget(), title,
+      tr("Tables and sessions (%1 *.talmesh)").arg(readableEndings().join(QLatin1Char(' '))) +
+          QStringLiteral(";;") + tr("All files (*)"),
+      [this, chosen](const QStringList& paths) { emit(this->*chosen)(paths); });
 }
 
 void FileMenu::ask(const QString& title, const QString& filter)

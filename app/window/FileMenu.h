@@ -25,6 +25,8 @@ signals:
   void fileChosen(const QString& path);
   /// One file, or several that belong together.
   void filesChosen(const QStringList& paths);
+  /// The same, to be read as the user says.
+  void filesToReadChosen(const QStringList& paths);
   void exampleWanted();
   void saveWanted();
   void saveAsWanted();
@@ -35,6 +37,7 @@ private:
   QAction* add(const QString& text, const QKeySequence& keys, Receiver* receiver, Slot slot);
   void addOpening(RecentMenu& recent);
   void addSessions(Document& document);
+  void askForTables(const QString& title, void (FileMenu::*chosen)(const QStringList&));
   void ask(const QString& title, const QString& filter);
 };
 

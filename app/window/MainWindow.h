@@ -95,6 +95,8 @@ private:
   void makeFileMenu();
   void makeSelectionMenu();
   void openInstead(const QStringList& paths);
+  void chooseReading(const QStringList& paths);
+  void askForReadingOf(const OpeningTask& task);
   void openExampleInstead();
   void chooseStyle(plotStyles style);
   void showStudy();

@@ -1,9 +1,11 @@
 #include "app/comparison/ComparisonDock.h"
+#include "app/session/SessionFile.h"
 #include "app/window/ClusterDock.h"
 #include "app/window/ExportController.h"
 #include "app/window/FileMenu.h"
 #include "app/window/GestureActions.h"
 #include "app/window/HelpMenu.h"
+#include "app/window/ImportDialog.h"
 #include "app/window/KeptSelectionsDock.h"
 #include "app/window/MainWindow.h"
 #include "app/window/PlotDock.h"
@@ -49,6 +51,7 @@ void MainWindow::makeFileMenu()
   auto* file = new FileMenu(shown, *recent, this);
   connect(file, &FileMenu::fileChosen, this, [this](const QString& path) { openInstead({path}); });
   connect(file, &FileMenu::filesChosen, this, &MainWindow::openInstead);
+  connect(file, &FileMenu::filesToReadChosen, this, &MainWindow::chooseReading);
   connect(file, &FileMenu::exampleWanted, this, &MainWindow::openExampleInstead);
   connect(file, &FileMenu::saveWanted, sessions, [this] { sessions->save(); });
   connect(file, &FileMenu::saveAsWanted, sessions, [this] { sessions->saveAs(); });
@@ -85,6 +88,17 @@ void MainWindow::chooseStyle(plotStyles style)
 void MainWindow::openInstead(const QStringList& paths)
 {
   sessions->leave([this, paths] { openFiles(paths); });
+}
+
+/// A session says itself what it holds.
+void MainWindow::chooseReading(const QStringList& paths)
+{
+  if (isSessionFile(paths.front()))
+    openInstead(paths);
+  else
+    askHowToRead(this, paths, {},
+                 [this, paths](const ImportRequest& request)
+                 { sessions->leave([this, paths, request] { opener->openAs(paths, request); }); });
 }
 
 void MainWindow::openExampleInstead()

@@ -4,6 +4,7 @@
 #include "app/window/FeatureController.h"
 #include "app/window/FileDialogs.h"
 #include "app/window/GroupController.h"
+#include "app/window/ImportDialog.h"
 #include "app/window/MainWindow.h"
 #include "app/window/ReadingQuestion.h"
 #include "app/window/RecentMenu.h"
@@ -67,9 +68,7 @@ void MainWindow::connectControllers()
           [this](const QString& message, const OpeningTask& task)
           {
             status.say(message);
-            askForReading(this, task.name, *task.report, task.request,
-                          [this, task](const ImportRequest& request)
-                          { opener->openAgain(task, request); });
+            askForReadingOf(task);
           });
   connect(exports, &ExportController::said, this, tell);
   connect(exports, &ExportController::stopped, this, say);
@@ -82,6 +81,14 @@ void MainWindow::connectControllers()
           });
   connect(sessions, &SessionController::failed, this, say);
   connect(sessions, &SessionController::bringBackWanted, opener, &StudyOpener::bringBack);
+}
+
+void MainWindow::askForReadingOf(const OpeningTask& task)
+{
+  const auto open = [this, task](const ImportRequest& request)
+  { opener->openAgain(task, request); };
+  askForReading(this, task.name, *task.report, task.request, open,
+                [this, task, open] { askHowToRead(this, task.paths, task.request, open); });
 }
 
 /// Brings what surrounds the plot into line with the study that is now shown.

@@ -21,7 +21,23 @@ class ReadingWords
   Q_DECLARE_TR_FUNCTIONS(ReadingQuestion)
 };
 
-/// The names of layouts for people.
+} // namespace
+
+QString titleOfLayout(const std::string& layout)
+{
+  if (layout == "stacked")
+    return ReadingWords::tr("Runs one below the other");
+  if (layout == "tidy")
+    return ReadingWords::tr("A value per row");
+  if (layout == "wide")
+    return ReadingWords::tr("A column per run");
+  if (layout == "rows")
+    return ReadingWords::tr("A row per run");
+  if (layout == "table")
+    return ReadingWords::tr("A table without runs");
+  return layout == "petab" ? QStringLiteral("PEtab") : QString::fromStdString(layout);
+}
+
 QString titleOf(const ImportCandidate& candidate)
 {
   if (candidate.option == "--decimal ,")
@@ -32,24 +48,14 @@ QString titleOf(const ImportCandidate& candidate)
     return ReadingWords::tr("A file per item");
   if (candidate.option == "--join order")
     return ReadingWords::tr("In the order of rows");
-  if (candidate.layout == "stacked")
-    return ReadingWords::tr("Runs one below the other");
-  if (candidate.layout == "tidy")
-    return ReadingWords::tr("A value per row");
-  if (candidate.layout == "wide")
-    return ReadingWords::tr("A column per run");
-  if (candidate.layout == "rows")
-    return ReadingWords::tr("A row per run");
-  if (candidate.layout == "table")
-    return ReadingWords::tr("A table without runs");
-  return QString::fromStdString(candidate.option);
+  return candidate.layout.empty() ? QString::fromStdString(candidate.option)
+                                  : titleOfLayout(candidate.layout);
 }
-
-} // namespace
 
 QMessageBox* askForReading(QWidget* window, const QString& name, const ImportReport& report,
                            const ImportRequest& request,
-                           std::function<void(const ImportRequest&)> chosen)
+                           std::function<void(const ImportRequest&)> chosen,
+                           std::function<void()> looked)
 {
   auto* box = new QMessageBox(QMessageBox::Question, QStringLiteral("Talmesh Plot"),
                               ReadingWords::tr("How is the table %1 to be read?").arg(name),
@@ -70,10 +76,14 @@ QMessageBox* askForReading(QWidget* window, const QString& name, const ImportRep
     answers.emplace_back(box->addButton(title, QMessageBox::AcceptRole), asked);
     reasons += QStringLiteral("%1: %2\n").arg(title, QString::fromStdString(candidate.reason));
   }
+  QAbstractButton* looking =
+      box->addButton(ReadingWords::tr("Choose how to read it..."), QMessageBox::ActionRole);
   box->setInformativeText(reasons.trimmed());
   QObject::connect(box, &QMessageBox::finished, window,
-                   [box, answers, chosen = std::move(chosen)]
+                   [box, answers, looking, chosen = std::move(chosen), looked = std::move(looked)]
                    {
+                     if (box->clickedButton() == looking)
+                       looked();
                      for (const auto& [button, asked] : answers)
                        if (box->clickedButton() == button)
                          chosen(asked);

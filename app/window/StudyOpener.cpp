@@ -2,7 +2,9 @@
 
 #include "app/document/Document.h"
 #include "app/examples/ExampleStudy.h"
+#include "app/import/RequestWords.h"
 #include "app/tasks/TaskRunner.h"
+#include "app/window/ReadingTemplates.h"
 #include "app/window/TaskBar.h"
 
 #include <QFileInfo>
@@ -30,6 +32,29 @@ OpeningTask taskFor(const QStringList& paths)
   task.name = paths.size() > 1 ? StudyOpener::tr("%1 files").arg(paths.size())
                                : QFileInfo(paths.front()).fileName();
   return task;
+}
+
+/// Reads a table as the user once had such tables read. What cannot be read so any more is read as
+/// if nothing had been said.
+Result<OpenedStudy> openTables(const OpeningTask& task, const ReadingTemplates& templates,
+                               const ImportProgress& progress)
+{
+  const ImportRequest* remembered = templates.findFor(task.paths, progress);
+  if (remembered)
+  {
+    Result<OpenedStudy> opened = openStudyFiles(task.paths, progress, *remembered, nullptr);
+    if (opened.isCancelled())
+      return opened;
+    if (opened.hasValue() && !opened.value().session)
+    {
+      std::vector<std::string>& notes = opened.value().notes;
+      notes.insert(
+          notes.begin(),
+          StudyOpener::tr("Read as is remembered for tables with these columns.").toStdString());
+      return opened;
+    }
+  }
+  return openStudyFiles(task.paths, progress, task.request, task.report.get());
 }
 
 } // namespace
@@ -78,7 +103,13 @@ void StudyOpener::openAgain(const OpeningTask& unsure, const ImportRequest& requ
 {
   OpeningTask task = unsure;
   task.request = request;
+  task.isSettled = true;
   loadFile(task);
+}
+
+void StudyOpener::openAs(const QStringList& paths, const ImportRequest& request)
+{
+  openAgain(taskFor(paths), request);
 }
 
 void StudyOpener::openExample()
@@ -109,8 +140,9 @@ bool StudyOpener::isOpening() const
 void StudyOpener::loadFile(OpeningTask task)
 {
   task.report = std::make_shared<ImportReport>();
-  load(task, [task](const ImportProgress& progress)
-       { return openStudyFiles(task.paths, progress, task.request, task.report.get()); });
+  const bool isSaid = task.isSettled || !optionsOf(task.request).empty();
+  load(task, [task, templates = isSaid ? ReadingTemplates() : ReadingTemplates::kept()](
+                 const ImportProgress& progress) { return openTables(task, templates, progress); });
 }
 
 void StudyOpener::load(OpeningTask task, const StudyJob& job)

@@ -33,6 +33,8 @@ struct OpeningTask
   ImportRequest request;
   std::shared_ptr<ImportReport> report;
   bool namedByCommandLine = false;
+  /// The user has just said how it is to be read: what is remembered for such tables is not asked.
+  bool isSettled = false;
 
   /// The file that could be opened again; empty for what is computed, for several files, and for
   /// work that an earlier window has left.
@@ -61,6 +63,8 @@ public:
   void openFiles(const QStringList& paths);
   /// Opens a file again whose reading was unsure.
   void openAgain(const OpeningTask& unsure, const ImportRequest& request);
+  /// Opens files as the user has them read.
+  void openAs(const QStringList& paths, const ImportRequest& request);
   void openExample();
   void openComputed(const QString& name, const StudyJob& job);
   /// Opens work that an earlier window has left; it is no file of the user's own.

@@ -1,3 +1,4 @@
+#include "app/window/ImportDialog.h"
 #include "app/window/MainWindow.h"
 #include "support/German.h"
 
@@ -123,6 +124,15 @@ TEST_P(Mnemonics, DifferWithinContextMenus)
     expectOneTextEach(keys, widget->objectName().toStdString());
   }
   EXPECT_EQ(found, 2) << "copies or saves a comparison";
+}
+
+TEST_P(Mnemonics, DifferInTheDialogThatOpensTables)
+{
+  ImportDialog dialog({QStringLiteral("none.csv")}, {});
+  dialog.show();
+  const TextsOfKeys keys = keysOf(dialog);
+  EXPECT_GT(keys.size(), 7U);
+  expectOneTextEach(keys, "dialog");
 }
 
 TEST_P(Mnemonics, DifferInTheWindow)
