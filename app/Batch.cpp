@@ -32,13 +32,14 @@ constexpr QSize defaultSize(1000, 700);
 std::string writeExport(const CommandLineOptions& options, VtkPlotWidget& widget,
                         const QString& path)
 {
-  if (options.paperWidth <= 0.0)
-    return exportPlot(widget, path, options.vectors,
-                      options.dotsPerInch.value_or(resolutionOfScreenPages));
-  return exportPlot(widget, path,
-                    {QSizeF(options.paperWidth, options.paperHeight),
-                     options.dotsPerInch.value_or(PaperSize().dotsPerInch)},
-                    options.vectors);
+  ExportWishes wishes;
+  wishes.vectors = options.vectors;
+  wishes.dotsPerInch = options.dotsPerInch.value_or(resolutionOfScreenPages);
+  wishes.textSize = options.textSize;
+  if (options.paperWidth > 0.0)
+    wishes.paper = {QSizeF(options.paperWidth, options.paperHeight),
+                    options.dotsPerInch.value_or(PaperSize().dotsPerInch)};
+  return exportPlot(widget, path, wishes);
 }
 
 std::string writeComparison(const Comparison& comparison, const QString& path)

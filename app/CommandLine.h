@@ -27,6 +27,8 @@ struct CommandLineOptions : OpeningWishes
   /// Width and height of exported pictures on paper in millimetres; 0 for the size in pixels.
   double paperWidth = 0.0;
   double paperHeight = 0.0;
+  /// Text in points, or in pixels of the screen; none for what is usual.
+  std::optional<int> textSize;
   /// Pixels per inch of a picture of a size on paper, and of those in a PDF; none for the default.
   std::optional<int> dotsPerInch;
   /// Which lines and points of a PDF are vectors.

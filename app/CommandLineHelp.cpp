@@ -57,6 +57,8 @@ std::string commandLineHelp()
       "  --gallery DIR           write every view into DIR, one PNG and one PDF each\n"
       "  --size WxH              width and height of the pictures in pixels\n"
       "  --paper WxH             width and height of exported pictures in millimetres\n"
+      "  --font N                size of the text in points of paper or pixels of the screen; 12\n"
+      "                          without this, less with --paper narrower than 180, at least 7\n"
       "  --dpi N                 resolution of a PNG with --paper and of pictures in a PDF,\n"
       "                          300 without this, 150 in a PDF without --paper\n"
       "  --vector all|auto|none  which lines and points of a PDF are vectors: all, as many as\n"

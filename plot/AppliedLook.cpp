@@ -1,6 +1,7 @@
 #include "plot/AppliedLook.h"
 
 #include "plot/PlotState.h"
+#include "plot/SobolChart.h"
 #include "vtk/vtkGuardedAxis.h"
 
 #include <vtkAxis.h>
@@ -79,10 +80,9 @@ void dressInLook(PlotState& state)
 {
   const PlotLook& look = state.options.look;
   vtkAbstractContextItem* shown = state.currentChart;
-  // Its upright names have a size of their own, and it is dressed where it is made.
   if (shown && shown == state.sobolChart.Get())
-    return;
-  if (auto* matrix = vtkScatterPlotMatrix::SafeDownCast(shown))
+    dressSobolChart(look, state.sobolChart);
+  else if (auto* matrix = vtkScatterPlotMatrix::SafeDownCast(shown))
     dressScatterMatrix(look, matrix);
   else if (auto* page = vtkChartMatrix::SafeDownCast(shown))
     dressMatrix(look, page);

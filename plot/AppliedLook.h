@@ -18,7 +18,8 @@ namespace Talmesh::plot
 
 struct PlotState;
 
-/// Text, colours and ticks of the chart that is shown, or of all charts of the page.
+/// Text, colours and ticks of the chart that is shown, or of all charts of the page, if there is
+/// one.
 void dressInLook(PlotState& state);
 
 /// The same of one chart.

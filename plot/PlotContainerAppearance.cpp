@@ -1,4 +1,5 @@
 #include "external/PlotMetaData.h"
+#include "plot/AppliedLook.h"
 #include "plot/AxisScales.h"
 #include "plot/Decorations.h"
 #include "plot/Margins.h"
@@ -6,6 +7,7 @@
 #include "plot/PlotState.h"
 #include "plot/PlotTexts.h"
 #include "plot/PointAppearance.h"
+#include "plot/Redraw.h"
 
 #include <vtkAxis.h>
 
@@ -28,6 +30,8 @@ const PlotOptions& PlotContainer::getOptions() const
 void PlotContainer::setOptions(const PlotOptions& options)
 {
   d->options = options;
+  Talmesh::plot::dressInLook(*d);
+  Talmesh::plot::markDirty(*d);
 }
 
 void PlotContainer::setColor(int r, int g, int b, int a)

@@ -106,13 +106,12 @@ int labelFontSize(vtkStringArray* names)
   return std::max(smallestSize, static_cast<int>(normalSize * normalLength / longest));
 }
 
-void labelCategories(const PlotLook& look, vtkAxis* axis, vtkStringArray* names)
+void labelCategories(vtkAxis* axis, vtkStringArray* names)
 {
   vtkNew<vtkDoubleArray> positions;
   for (vtkIdType i = 0; i < names->GetNumberOfValues(); ++i)
     positions->InsertNextValue(static_cast<double>(i));
   axis->SetCustomTickPositions(positions, names);
-  dressText(look, axis->GetLabelProperties(), labelFontSize(names));
   axis->GetLabelProperties()->SetOrientation(90.0);
   axis->GetLabelProperties()->SetJustificationToRight();
   axis->GetLabelProperties()->SetVerticalJustificationToCentered();
@@ -143,11 +142,19 @@ void addSobolBars(PlotState& state, bool total)
   vtkAxis* bottom = chart->GetAxis(vtkAxis::BOTTOM);
   fixRange(bottom, -1.0, static_cast<double>(state.table->GetNumberOfRows() + 1));
   if (auto* names = vtkStringArray::SafeDownCast(columnNamed(state.table, "Name")))
-    labelCategories(state.options.look, bottom, names);
+    labelCategories(bottom, names);
   dressLeftAxis(chart->GetAxis(vtkAxis::LEFT), total);
   bars->SetUseIndexForXSeries(true);
   feedSeries(bars, state.table);
   dressSeries(state.options.look, bars, chart);
+}
+
+void dressSobolChart(const PlotLook& look, vtkChart* chart)
+{
+  dressInLook(look, chart);
+  vtkAxis* names = chart->GetAxis(vtkAxis::BOTTOM);
+  if (names->GetLabelProperties()->GetOrientation() != 0.0)
+    dressText(look, names->GetLabelProperties(), labelFontSize(names->GetTickLabels()));
 }
 
 void buildSobolChart(PlotState& state, bool total)
@@ -162,6 +169,7 @@ void buildSobolChart(PlotState& state, bool total)
   state.chartXY->SetAnnotationLink(nullptr);
   if (const auto add = currentStyle(state).addSobolIndices)
     add(state, total);
+  dressSobolChart(state.options.look, state.chartXY);
   state.chartXY->Update();
   setPlotTitle(state, state.metaData->title);
 }

@@ -1,6 +1,9 @@
 #ifndef SobolChart_h
 #define SobolChart_h
 
+class vtkChart;
+struct PlotLook;
+
 namespace Talmesh::plot
 {
 
@@ -11,6 +14,9 @@ struct PlotState;
 /// `total` chooses the left axis: a range from 0 for total indices, 0 to 1 otherwise. The series
 /// are all columns but the last.
 void buildSobolChart(PlotState& state, bool total);
+
+/// Gives such a chart a look: upright names are written smaller where they are long.
+void dressSobolChart(const PlotLook& look, vtkChart* chart);
 
 /// The indices as bands stacked over the column "Time".
 void addSobolBands(PlotState& state, bool total);

@@ -2239,10 +2239,6 @@ p, li { white-space: pre-wrap; }
         <translation>Wie auf dem &amp;Bildschirm</translation>
     </message>
     <message>
-        <source>Of a size on &amp;paper, with text of 12 points</source>
-        <translation>In einer Größe auf &amp;Papier, mit Schrift von 12 Punkt</translation>
-    </message>
-    <message>
         <source>Size of the picture</source>
         <translation>Größe des Bildes</translation>
     </message>
@@ -2285,6 +2281,22 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>R&amp;esolution of pictures</source>
         <translation>Aufl&amp;ösung der Bilder</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Of a size on &amp;paper</source>
+        <translation>In einer Größe auf &amp;Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation>Schri&amp;ft</translation>
+    </message>
+    <message>
+        <source>%1 pt for this width</source>
+        <translation>%1 pt bei dieser Breite</translation>
     </message>
 </context>
 <context>

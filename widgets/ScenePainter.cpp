@@ -6,7 +6,10 @@
 #include <vtkContext2D.h>
 #include <vtkContext3D.h>
 #include <vtkContextScene.h>
+#include <vtkGenericOpenGLRenderWindow.h>
 #include <vtkNew.h>
+#include <vtkRenderer.h>
+#include <vtkSmartPointer.h>
 
 #include <QPainter>
 
@@ -26,6 +29,30 @@ ShapeLimits limitsOf(Vectors vectors)
     return {0, 0, 0, true};
   }
 }
+/// Items that ask how large the view is are told the size of the window that the scene's renderer
+/// belongs to: while this lives, one of the page's size.
+class ViewOfPage
+{
+public:
+  ViewOfPage(vtkContextScene& painted, const QSize& size)
+      : scene(painted)
+      , before(painted.GetRenderer())
+  {
+    page->SetSize(size.width(), size.height());
+    page->AddRenderer(renderer);
+    scene.SetRenderer(renderer);
+  }
+  ~ViewOfPage() { scene.SetRenderer(before); }
+  ViewOfPage(const ViewOfPage&) = delete;
+  ViewOfPage& operator=(const ViewOfPage&) = delete;
+
+private:
+  vtkContextScene& scene;
+  const vtkSmartPointer<vtkRenderer> before;
+  // Never rendered.
+  const vtkNew<vtkGenericOpenGLRenderWindow> page;
+  const vtkNew<vtkRenderer> renderer;
+};
 } // namespace
 
 void paintScene(vtkContextScene& scene, QPainter& painter, const QSize& size, double resolution,
@@ -47,6 +74,7 @@ void paintScene(vtkContextScene& scene, QPainter& painter, const QSize& size, do
   context3D->Begin(deep);
   context->SetContext3D(context3D);
 
+  const ViewOfPage view(scene, size);
   scene.SetGeometry(size.width(), size.height());
   scene.Paint(context);
   deep->Finish();

@@ -1,11 +1,15 @@
 #include "app/document/ColourKey.h"
 
+#include "plot/PlotLook.h"
+
 #include <vtkBrush.h>
+#include <vtkChart.h>
 #include <vtkContext2D.h>
 #include <vtkContextScene.h>
 #include <vtkNew.h>
 #include <vtkObjectFactory.h>
 #include <vtkPen.h>
+#include <vtkScatterPlotMatrix.h>
 #include <vtkTextProperty.h>
 
 namespace Talmesh::app
@@ -14,13 +18,12 @@ namespace Talmesh::app
 namespace
 {
 
-/// Pixels.
-constexpr float besidePage = 12.0F;
-constexpr float square = 9.0F;
-constexpr float gap = 5.0F;
-constexpr float betweenNames = 16.0F;
-constexpr float lineHeight = 16.0F;
-constexpr int fontSize = 12;
+/// In parts of the size of the text.
+constexpr float besidePageOfText = 1.0F;
+constexpr float squareOfText = 0.75F;
+constexpr float gapOfText = 0.42F;
+constexpr float betweenNamesOfText = 1.33F;
+constexpr float lineHeightOfText = 1.33F;
 
 ColourKey* keyOf(vtkAbstractContextItem* item)
 {
@@ -28,6 +31,15 @@ ColourKey* keyOf(vtkAbstractContextItem* item)
     if (auto* key = dynamic_cast<ColourKey*>(item->GetItem(i)))
       return key;
   return nullptr;
+}
+
+/// That of the chart's own text.
+int textSizeOf(vtkAbstractContextItem* item)
+{
+  if (auto* chart = vtkChart::SafeDownCast(item))
+    return chart->GetTitleProperties()->GetFontSize();
+  auto* matrix = vtkScatterPlotMatrix::SafeDownCast(item);
+  return matrix ? matrix->GetTitleProperties()->GetFontSize() : PlotLook::usualTextSize;
 }
 
 void applyColour(vtkContext2D* painter, const QColor& colour)
@@ -63,9 +75,16 @@ bool ColourKey::Paint(vtkContext2D* painter)
   vtkNew<vtkTextProperty> text;
   text->SetColor(0.0, 0.0, 0.0);
   text->SetFontFamilyToArial();
-  text->SetFontSize(fontSize);
+  const int textSize = textSizeOf(GetParent());
+  text->SetFontSize(textSize);
   text->SetJustificationToLeft();
   text->SetVerticalJustificationToCentered();
+  const auto unit = static_cast<float>(textSize);
+  const float besidePage = besidePageOfText * unit;
+  const float square = squareOfText * unit;
+  const float gap = gapOfText * unit;
+  const float betweenNames = betweenNamesOfText * unit;
+  const float lineHeight = lineHeightOfText * unit;
   const auto width = static_cast<float>(Scene->GetViewWidth());
   float x = besidePage;
   float y = static_cast<float>(Scene->GetViewHeight()) - besidePage;

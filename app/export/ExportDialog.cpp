@@ -43,15 +43,26 @@ QSpinBox* makeResolution(const char* name)
   return box;
 }
 
+/// Its smallest value stands for the usual size.
+QSpinBox* makeTextSize()
+{
+  auto* box = new QSpinBox;
+  box->setObjectName(QStringLiteral("exportTextSize"));
+  box->setRange(PaperSize::smallestText - 1, PaperSize::largestText);
+  box->setSuffix(ExportDialog::tr(" pt"));
+  return box;
+}
+
 } // namespace
 
 ExportDialog::ExportDialog(std::optional<int> most, const QSize& screen, QWidget* parent)
     : QDialog(parent)
     , mostOnASide(most)
     , asOnScreen(new QRadioButton(tr("As on the &screen")))
-    , onPaper(new QRadioButton(tr("Of a size on &paper, with text of 12 points")))
+    , onPaper(new QRadioButton(tr("Of a size on &paper")))
     , width(makeSide("exportWidth"))
     , height(makeSide("exportHeight"))
+    , text(makeTextSize())
     , resolution(makeResolution("exportResolution"))
     , pictureResolution(makeResolution("exportPictureResolution"))
     , shapes(new QComboBox)
@@ -80,6 +91,7 @@ void ExportDialog::layOut()
   layout->addRow(onPaper);
   layout->addRow(tr("&Width"), width);
   layout->addRow(tr("&Height"), height);
+  layout->addRow(tr("&Text"), text);
   layout->addRow(tr("&Resolution"), resolution);
   layout->addRow(tr("Pixels"), pixelSize);
   layout->addRow(tr("&Lines and points"), shapes);
@@ -105,7 +117,9 @@ void ExportDialog::connectFields()
     connect(side, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             &ExportDialog::showPixels);
   connect(resolution, QOverload<int>::of(&QSpinBox::valueChanged), this, &ExportDialog::showPixels);
-  for (QWidget* field : std::initializer_list<QWidget*>{width, height, resolution})
+  connect(width, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+          &ExportDialog::showTextSize);
+  for (QWidget* field : std::initializer_list<QWidget*>{width, height, text, resolution})
     connect(onPaper, &QRadioButton::toggled, field, &QWidget::setEnabled);
   connect(onPaper, &QRadioButton::toggled, this, &ExportDialog::showPixels);
 }
@@ -117,6 +131,8 @@ void ExportDialog::restore(const QSize& screen)
   settings.beginGroup(settingsGroup);
   width->setValue(settings.value(QStringLiteral("width"), usualWidth).toDouble());
   height->setValue(settings.value(QStringLiteral("height"), width->value() * ratio).toDouble());
+  showTextSize();
+  text->setValue(settings.value(QStringLiteral("textSize"), text->minimum()).toInt());
   resolution->setValue(settings.value(QStringLiteral("resolution"), 300).toInt());
   const auto found = [this](const QVariant& choice)
   { return std::max(shapes->findData(choice), 0); };
@@ -124,7 +140,7 @@ void ExportDialog::restore(const QSize& screen)
   shapes->setCurrentIndex(found(settings.value(QStringLiteral("vectors"))));
   const bool paperLast = settings.value(QStringLiteral("onPaper"), true).toBool();
   (paperLast ? onPaper : asOnScreen)->setChecked(true);
-  for (QWidget* field : std::initializer_list<QWidget*>{width, height, resolution})
+  for (QWidget* field : std::initializer_list<QWidget*>{width, height, text, resolution})
     field->setEnabled(paperLast);
   showPixels();
 }
@@ -139,6 +155,18 @@ void ExportDialog::showPixels()
   if (!error.empty())
     pixelSize->setText(QString::fromStdString(error));
   buttons->button(QDialogButtonBox::Save)->setEnabled(error.empty());
+}
+
+void ExportDialog::showTextSize()
+{
+  text->setSpecialValueText(tr("%1 pt for this width").arg(usualTextSize(width->value())));
+}
+
+std::optional<int> ExportDialog::textSize() const
+{
+  return asOnScreen->isChecked() || text->value() == text->minimum()
+             ? std::nullopt
+             : std::optional<int>(text->value());
 }
 
 std::optional<PaperSize> ExportDialog::paper() const
@@ -165,6 +193,7 @@ void ExportDialog::accept()
   settings.setValue(QStringLiteral("onPaper"), onPaper->isChecked());
   settings.setValue(QStringLiteral("width"), width->value());
   settings.setValue(QStringLiteral("height"), height->value());
+  settings.setValue(QStringLiteral("textSize"), text->value());
   if (mostOnASide)
   {
     settings.setValue(QStringLiteral("resolution"), resolution->value());

@@ -36,6 +36,8 @@ public:
   int dotsPerInch() const;
   /// The lines and points of a page that are vectors.
   Vectors vectors() const;
+  /// In points; none for what is usual on paper of the width that is chosen.
+  std::optional<int> textSize() const;
 
   void accept() override;
 
@@ -44,12 +46,14 @@ private:
   void connectFields();
   void restore(const QSize& screen);
   void showPixels();
+  void showTextSize();
 
   std::optional<int> mostOnASide;
   QRadioButton* asOnScreen;
   QRadioButton* onPaper;
   QDoubleSpinBox* width;
   QDoubleSpinBox* height;
+  QSpinBox* text;
   QSpinBox* resolution;
   QSpinBox* pictureResolution;
   QComboBox* shapes;

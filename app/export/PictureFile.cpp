@@ -1,6 +1,7 @@
 #include "app/export/PictureFile.h"
 
 #include "app/export/ScaledPicture.h"
+#include "app/export/TextForPaper.h"
 #include "app/import/SystemMemory.h"
 #include "app/import/TranslatedText.h"
 #include "app/memory/PaintingMemory.h"
@@ -120,6 +121,13 @@ std::string objectionTo(const VtkPlotWidget& widget, ExportKind kind, const Expo
   return error;
 }
 
+std::optional<int> textSizeOf(const ExportWishes& wishes)
+{
+  if (wishes.textSize || !wishes.paper)
+    return wishes.textSize;
+  return usualTextSize(wishes.paper->millimetres.width());
+}
+
 /// @param own whether a table is to be a copy
 Result<PaintedPlot> paint(VtkPlotWidget& widget, const QString& path, const ExportWishes& wishes,
                           bool own)
@@ -133,6 +141,7 @@ Result<PaintedPlot> paint(VtkPlotWidget& widget, const QString& path, const Expo
   PaintedPlot painted;
   painted.path = path;
   vtkTable* table = widget.plotContainer()->getTable();
+  const TextForPaper text(widget, textSizeOf(wishes));
   if (kind == ExportKind::Pixels)
     painted.picture = pictureOf(widget, wishes.paper);
   else if (kind == ExportKind::Vectors)
@@ -233,6 +242,13 @@ bool isWholePdf(const QByteArray& pdf)
   return pdf.startsWith("%PDF") && pdf.right(16).trimmed().endsWith("%%EOF");
 }
 
+int usualTextSize(double millimetres)
+{
+  constexpr double fullWidth = 180.0;
+  return std::clamp(qRound(PlotLook::usualTextSize * millimetres / fullWidth), 7,
+                    PlotLook::usualTextSize);
+}
+
 QSize pixelsOn(const PaperSize& paper)
 {
   return rounded(paper.millimetres * (paper.dotsPerInch / millimetresPerInch));
@@ -246,13 +262,18 @@ Result<PaintedPlot> paintPlot(VtkPlotWidget& widget, const QString& path,
 
 std::string exportPlot(VtkPlotWidget& widget, const QString& path, Vectors vectors, int dotsPerInch)
 {
-  return paintAndWrite(widget, path, {{}, vectors, dotsPerInch});
+  return paintAndWrite(widget, path, {{}, vectors, dotsPerInch, {}});
 }
 
 std::string exportPlot(VtkPlotWidget& widget, const QString& path, const PaperSize& paper,
                        Vectors vectors)
 {
-  return paintAndWrite(widget, path, {paper, vectors});
+  return paintAndWrite(widget, path, {paper, vectors, resolutionOfScreenPages, {}});
+}
+
+std::string exportPlot(VtkPlotWidget& widget, const QString& path, const ExportWishes& wishes)
+{
+  return paintAndWrite(widget, path, wishes);
 }
 
 std::unique_ptr<VtkPlotWidget> makeHiddenPlot(const QSize& pixels)

@@ -58,9 +58,16 @@ struct PaperSize
   static constexpr int smallestResolution = 72; ///< dots per inch
   static constexpr int largestResolution = 1200;
 
+  static constexpr int smallestText = 4; ///< points
+  static constexpr int largestText = 36;
+
   QSizeF millimetres{180.0, 120.0};
   int dotsPerInch = 300;
 };
+
+/// The size of text on a page of that width, in points: 12 where a page of a journal is filled, and
+/// in proportion down to 7 in a column of it.
+int usualTextSize(double millimetres);
 
 /// Dots per inch of pictures on a page that is as large as a plot on the screen, which is read from
 /// a screen or printed smaller.
@@ -75,6 +82,9 @@ struct ExportWishes
   Vectors vectors = Vectors::Auto;
   /// Of pictures on a page that is as large as a plot on the screen.
   int dotsPerInch = resolutionOfScreenPages;
+  /// In points, which are the pixels of the screen; none for what is usual on paper of that width,
+  /// and for that of the screen without paper.
+  std::optional<int> textSize = std::nullopt;
 };
 
 /// Paints what a plot widget shows for a file, or copies its table. In the GUI thread.
@@ -90,6 +100,7 @@ Result<PaintedPlot> paintPlot(VtkPlotWidget& widget, const QString& path,
 /// success
 std::string exportPlot(VtkPlotWidget& widget, const QString& path, Vectors vectors = Vectors::Auto,
                        int dotsPerInch = resolutionOfScreenPages);
+std::string exportPlot(VtkPlotWidget& widget, const QString& path, const ExportWishes& wishes);
 
 /// A picture with more pixels on a side takes more memory than a figure is worth.
 constexpr int mostPixels = 20000;

@@ -61,8 +61,10 @@ void ExportController::askForSize(const QString& path)
   auto* dialog = new ExportDialog(most, plot.size(), &window);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &QDialog::accepted, this,
-          [this, dialog, path] {
-            exportTo(path, {dialog->paper(), dialog->vectors(), dialog->dotsPerInch()});
+          [this, dialog, path]
+          {
+            exportTo(path, {dialog->paper(), dialog->vectors(), dialog->dotsPerInch(),
+                            dialog->textSize()});
           });
   dialog->open();
 }

@@ -113,7 +113,7 @@ TEST(CommandLine, RefusesAnUnknownOption)
 TEST(CommandLine, RefusesAnOptionWithoutItsValue)
 {
   for (const char* option : {"--style", "--x", "--y", "--z", "--export", "--compare", "--gallery",
-                             "--size", "--paper", "--dpi", "--vector"})
+                             "--size", "--paper", "--dpi", "--font", "--vector"})
   {
     EXPECT_EQ(errorOf({option}), std::string(option) + " needs a value");
     EXPECT_EQ(errorOf({option, ""}), std::string(option) + " needs a value");
@@ -180,6 +180,15 @@ TEST(CommandLine, TakesASizeOnPaperAndAResolution)
   for (const char* dpi : {"71", "1201", "300.5", "high"})
     EXPECT_EQ(errorOf({"--dpi", dpi}),
               std::string("--dpi takes a number from 72 to 1200, not ") + dpi);
+}
+
+TEST(CommandLine, TakesTheSizeOfText)
+{
+  EXPECT_FALSE(parsed({}).textSize);
+  EXPECT_EQ(parsed({"--font", "7"}).textSize, 7);
+  for (const char* size : {"3", "37", "7.5", "small"})
+    EXPECT_EQ(errorOf({"--font", size}),
+              std::string("--font takes a number from 4 to 36, not ") + size);
 }
 
 TEST(CommandLine, TakesWhichShapesAreVectors)
