@@ -123,6 +123,7 @@ const std::array<ImportOption, 16>& importOptions()
        {"measured", readNames<&ImportRequest::measured>},
        {"parameter", readNames<&ImportRequest::parameters>},
        {"condition", readNames<&ImportRequest::conditions>},
+       {"error", readNames<&ImportRequest::errors>},
        {"ignore", readNames<&ImportRequest::ignored>},
        {"separator", readSeparator},
        {"decimal", readDecimal},
@@ -147,6 +148,7 @@ std::string importHelp()
          "  --measured NAME[,...]   columns that are measured, and no parameters of runs\n"
          "  --parameter NAME[,...]  columns that are parameters of runs\n"
          "  --condition NAME[,...]  columns whose cells are names, such as of drugs\n"
+         "  --error NAME[,...]      columns that tell how exact others are, which is not shown\n"
          "  --ignore NAME[,...]     columns to leave out\n"
          "  --separator CHAR        what parts the fields: , ; | : tab or blank\n"
          "  --decimal CHAR          the decimal mark: . or ,\n"

@@ -38,6 +38,10 @@
         <source>the column %1 holds %2 different texts: %3</source>
         <translation>die Spalte %1 enthält %2 verschiedene Texte: %3</translation>
     </message>
+    <message>
+        <source>The column %1 holds no other text than %2, and is left out.</source>
+        <translation>Die Spalte %1 enthält keinen anderen Text als %2 und wird weggelassen.</translation>
+    </message>
 </context>
 <context>
     <name>ColouredRuns</name>
@@ -1346,6 +1350,10 @@ p, li { white-space: pre-wrap; }
         <source>The same value stands in all rows of %1.</source>
         <translation>In allen Zeilen von %1 steht derselbe Wert.</translation>
     </message>
+    <message>
+        <source>Line %1: %2 in the column %3 is not a number, so its numbers are taken for names, too.</source>
+        <translation>Zeile %1: %2 in der Spalte %3 ist keine Zahl; deshalb gelten auch ihre Zahlen als Namen.</translation>
+    </message>
 </context>
 <context>
     <name>SelectionHistory</name>
@@ -1900,6 +1908,10 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>the text is UTF-16</source>
         <translation>der Text ist UTF-16</translation>
+    </message>
+    <message>
+        <source>Line %1 repeats the header and is left out (%2 in all).</source>
+        <translation>Zeile %1 wiederholt die Kopfzeile und wird weggelassen (insgesamt %2).</translation>
     </message>
 </context>
 <context>

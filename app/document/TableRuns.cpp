@@ -26,14 +26,6 @@
 namespace Talmesh::app
 {
 
-namespace
-{
-
-/// Fewer neighbours are named one by one.
-constexpr std::size_t shortestStretch = 4;
-
-} // namespace
-
 TableRuns::TableRuns(PlotContainer& shown)
     : container(shown)
     , points(static_cast<std::size_t>(std::max(0, shown.getMetaData()->getStride())))
@@ -79,15 +71,19 @@ bool TableRuns::isOfWholeRun(int column) const
 
 std::optional<double> TableRuns::numberOf(int column, const std::string& text) const
 {
-  const std::string label = plot::columnName(container.getTable(), column);
-  for (const Category& category : categoriesOf(container))
-    if (category.column == label)
-    {
-      const auto level = std::find(category.levels.begin(), category.levels.end(), text);
-      if (level != category.levels.end())
-        return static_cast<double>(level - category.levels.begin());
-    }
+  const std::vector<std::string> levels = textsOf(column);
+  for (std::size_t level = 0; level < levels.size(); ++level)
+    if (levels[level] == text)
+      return static_cast<double>(level);
   return std::nullopt;
+}
+
+std::vector<std::string> TableRuns::textsOf(int column) const
+{
+  for (const Category& category : categoriesOf(container))
+    if (category.column == plot::columnName(container.getTable(), column))
+      return category.levels;
+  return {};
 }
 
 /// A parameter that the study did not vary is none of its settings.
@@ -189,6 +185,7 @@ std::string TableRuns::words(const std::vector<bool>& these) const
     return "none";
   if (static_cast<std::size_t>(count) == runs.size())
     return "all";
+  constexpr std::size_t shortestStretch = 4; // fewer neighbours are named one by one
   const std::size_t shortest = numbersAreRuler() ? shortestStretch : runs.size();
   std::string stretches;
   std::string singles;
@@ -206,9 +203,8 @@ std::string TableRuns::words(const std::vector<bool>& these) const
       for (std::size_t one = first; one <= run; ++one)
         singles += (singles.empty() ? "" : ", ") + std::to_string(runs[one].number);
   }
-  if (singles.empty())
-    return stretches;
-  return stretches + (stretches.empty() ? "" : " or ") + "runs(" + singles + ')';
+  return singles.empty() ? stretches
+                         : stretches + (stretches.empty() ? "" : " or ") + "runs(" + singles + ')';
 }
 
 std::string TableRuns::wordsOf(std::size_t run) const

@@ -35,6 +35,7 @@ public:
   /// Parameters, the column of the runs' numbers and what changes in no run.
   bool isOfWholeRun(int column) const override;
   std::optional<double> numberOf(int column, const std::string& text) const override;
+  std::vector<std::string> textsOf(int column) const override;
   RunCourse course(std::size_t run, int column, int over) const override;
 
   /// The name by which `column` finds a column.

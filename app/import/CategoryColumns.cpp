@@ -1,10 +1,11 @@
 #include "app/import/CategoryColumns.h"
 
+#include "app/import/MissingValue.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 #include <utility>
 
 namespace Talmesh::app
@@ -26,7 +27,6 @@ bool isCategory(const TableText& text, std::size_t column)
 /// The numbers of a column's texts in place of what they were read as.
 void numberTexts(ColumnValues& column)
 {
-  constexpr double missing = std::numeric_limits<double>::quiet_NaN();
   const std::vector<int>& ofRow = column.levels.rows();
   for (std::size_t row = 0; row < column.values.size(); ++row)
     column.values[row] = ofRow[row] == TextLevels::none ? missing : ofRow[row];
@@ -79,11 +79,17 @@ std::vector<ColumnLevels> makeCategories(TableText& text, ImportReport& report)
     std::vector<std::string> levels = takeLevels(text.columns[i]);
     if (levels.size() < 2)
     {
+      const std::vector<double>& values = text.columns[i].values;
+      const bool everywhere = std::none_of(values.begin(), values.end(),
+                                           [](double value) { return std::isnan(value); });
       text.uses[i] = ColumnUse::Ignored;
       report.ignored.push_back(name);
       report.warnings.push_back(withValues(
-          translated("CategoryColumns", "The column %1 holds the same text in all rows, %2, and is "
-                                        "left out."),
+          everywhere
+              ? translated("CategoryColumns",
+                           "The column %1 holds the same text in all rows, %2, and is left out.")
+              : translated("CategoryColumns", "The column %1 holds no other text than %2, and is "
+                                              "left out."),
           {quotedForMessage(name), listed(levels)}));
       continue;
     }

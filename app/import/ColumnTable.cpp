@@ -40,6 +40,7 @@ NamedColumn columnOf(ColumnValues& values, std::string name)
     column.values = std::move(values.values);
     return column;
   }
+  values.completeValues();
   ColumnWords words;
   for (std::size_t row = 0; row < values.values.size(); ++row)
   {

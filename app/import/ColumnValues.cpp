@@ -2,6 +2,7 @@
 
 #include "app/import/AsciiText.h"
 #include "app/import/DateText.h"
+#include "app/import/MissingValue.h"
 #include "app/import/NumberText.h"
 #include "app/import/UnitText.h"
 #include "app/import/Utf8Text.h"
@@ -40,7 +41,7 @@ bool mayBeThousands(std::string_view field)
 
 /// Takes a cell that is no number and not missing.
 /// @return the value that stands for it
-double readText(ColumnValues& column, std::string_view field, double missing, std::size_t line)
+double readText(ColumnValues& column, std::string_view field, std::size_t line)
 {
   if (isCensored(field))
   {
@@ -80,11 +81,11 @@ bool isNoneWord(std::string_view field)
 
 void keepText(ColumnValues& column, std::string_view field, bool isText)
 {
-  if (column.keepsTexts || isText)
+  if (isText)
     column.levels.add(field);
   else
     column.levels.addNone();
-  if (!column.keepsTexts && column.levels.names().size() > ColumnValues::mostLevels)
+  if (column.levels.names().size() > ColumnValues::mostLevels)
   {
     column.hasTooManyTexts = true;
     column.levels.clear();
@@ -121,19 +122,59 @@ void ColumnValues::read(std::string_view field, bool mayHaveCommas, std::size_t 
     }
   }
   else if (isText)
-    value = readText(*this, field, value, line);
-  if (isWord && levels.rows().empty() && !keepsTexts && !hasTooManyTexts)
+    value = readText(*this, field, line);
+  if (keepsTexts)
+  {
+    if (withoutOuterBlanks(field).empty())
+      firstEmpty.note("-", line);
+    keepName(field, value);
+    return;
+  }
+  if (isWord && levels.rows().empty() && !hasTooManyTexts)
     levels.startAt(values.size());
-  if (keepsTexts && withoutOuterBlanks(field).empty())
-    firstEmpty.note("-", line);
-  if (keepsTexts || (!hasTooManyTexts && (isWord || !levels.isEmpty())))
+  if (!hasTooManyTexts && (isWord || !levels.isEmpty()))
     keepText(*this, field, isWord);
   values.push_back(value);
 }
 
+void ColumnValues::keepName(std::string_view field, double value)
+{
+  levels.add(field);
+  if (levels.names().size() > valueOfLevel.size())
+    valueOfLevel.push_back(value);
+  if (!mayBeQuantity || texts > 0 || firstFraction.line == 0 || levels.names().size() <= mostLevels)
+    return;
+  completeValues();
+  keepsTexts = false;
+  levels.clear();
+  std::vector<double>().swap(valueOfLevel);
+}
+
+double ColumnValues::valueAt(std::size_t row) const
+{
+  if (!values.empty())
+    return values[row];
+  const int level = levels.rows()[row];
+  return level == TextLevels::none || static_cast<std::size_t>(level) >= valueOfLevel.size()
+             ? missing
+             : valueOfLevel[static_cast<std::size_t>(level)];
+}
+
+void ColumnValues::completeValues()
+{
+  if (!values.empty())
+    return;
+  std::vector<double> complete;
+  complete.reserve(rows());
+  for (std::size_t row = 0; row < rows(); ++row)
+    complete.push_back(valueAt(row));
+  values = std::move(complete);
+}
+
 void ColumnValues::reserve(std::size_t rows)
 {
-  values.reserve(rows);
+  if (!keepsTexts)
+    values.reserve(rows);
   if (!levels.isEmpty())
     levels.reserve(rows);
 }
@@ -142,6 +183,7 @@ void ColumnValues::completeTexts()
 {
   if (levels.rows().empty())
     levels.startAt(values.size());
+  // Where there are no values, every cell has its text.
   for (std::size_t row = 0; row < values.size(); ++row)
     if (levels.rows()[row] == TextLevels::none && !std::isnan(values[row]))
       levels.set(row, shortestText(values[row]));
@@ -161,6 +203,30 @@ ColumnValues columnOfNumbers(std::vector<double> values)
   return column;
 }
 
+ColumnValues gatheredColumn(const ColumnValues& column, const std::vector<std::size_t>& rows)
+{
+  ColumnValues gathered;
+  gathered.numbers = column.numbers;
+  gathered.texts = column.texts;
+  gathered.dates = column.dates;
+  gathered.keepsTexts = column.keepsTexts;
+  gathered.hasTooManyTexts = column.hasTooManyTexts;
+  gathered.firstText = column.firstText;
+  gathered.values.reserve(rows.size());
+  for (const std::size_t row : rows)
+  {
+    gathered.values.push_back(column.valueAt(row));
+    if (column.levels.rows().empty())
+      continue;
+    const int level = column.levels.rows()[row];
+    if (level == TextLevels::none)
+      gathered.levels.addNone();
+    else
+      gathered.levels.add(column.levels.names()[static_cast<std::size_t>(level)]);
+  }
+  return gathered;
+}
+
 ColumnValues columnOfTexts(const std::vector<std::string>& texts)
 {
   ColumnValues column;
@@ -168,6 +234,7 @@ ColumnValues columnOfTexts(const std::vector<std::string>& texts)
   column.reserve(texts.size());
   for (std::size_t row = 0; row < texts.size(); ++row)
     column.read(texts[row], false, row + 1);
+  column.completeValues();
   return column;
 }
 

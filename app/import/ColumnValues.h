@@ -28,7 +28,8 @@ struct ColumnValues
   /// Columns of more different texts hold no categories, and their texts are not kept.
   static constexpr std::size_t mostLevels = 10000;
 
-  /// Of texts NaN, of dates the seconds since 1970, of times of day those since midnight.
+  /// Of texts NaN, of dates the seconds since 1970, of times of day those since midnight. Where
+  /// the texts of all cells are kept, only completeValues() makes them.
   std::vector<double> values;
   std::size_t numbers = 0;
   /// Cells that are neither numbers nor dates nor missing.
@@ -46,6 +47,9 @@ struct ColumnValues
   TextLevels levels;
   /// Whether the text of each cell counts, also of numbers, as in names of runs.
   bool keepsTexts = false;
+  /// Whether that is no more than a guess, which very many different numbers with fractions prove
+  /// wrong.
+  bool mayBeQuantity = false;
   bool hasTooManyTexts = false;
   NotedCell firstText;
   NotedCell firstFraction;
@@ -58,6 +62,17 @@ struct ColumnValues
   /// Reads the next cell.
   void read(std::string_view field, bool mayHaveCommas, std::size_t line);
   void reserve(std::size_t rows);
+  /// Keeps the text of each cell from here on.
+  void keepTexts(bool guessed)
+  {
+    keepsTexts = true;
+    mayBeQuantity = guessed;
+  }
+  /// The value of a cell, also where there are only texts.
+  double valueAt(std::size_t row) const;
+  std::size_t rows() const { return values.empty() ? levels.rows().size() : values.size(); }
+  /// Makes the values of the texts, where there are none yet.
+  void completeValues();
   /// Gives every number a text, the shortest one that is read as that number.
   void completeTexts();
 
@@ -67,10 +82,19 @@ struct ColumnValues
   bool isDates() const { return dates > 0 && texts == 0 && numbers == 0; }
   /// Whether it holds texts, at least more of them than numbers.
   bool isText() const { return texts + dates > numbers && !isDates(); }
+
+private:
+  void keepName(std::string_view field, double value);
+
+  /// What the first texts are read as.
+  std::vector<double> valueOfLevel;
 };
 
 /// A column of numbers that a reader of another format has.
 ColumnValues columnOfNumbers(std::vector<double> values);
+
+/// Some rows of a column, in their order.
+ColumnValues gatheredColumn(const ColumnValues& column, const std::vector<std::size_t>& rows);
 
 /// A column of texts; numbers among them are read as such.
 ColumnValues columnOfTexts(const std::vector<std::string>& texts);

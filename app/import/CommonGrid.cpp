@@ -1,10 +1,10 @@
 #include "app/import/CommonGrid.h"
 
+#include "app/import/MissingValue.h"
 #include "app/import/TranslatedText.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -14,7 +14,6 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 /// The grid may take so many times the room of what was measured, or so many cells.
 constexpr std::size_t mostGrowth = 4;
 constexpr std::size_t alwaysCells = 2000000;

@@ -32,6 +32,8 @@ struct ImportRequest
   std::vector<std::string> parameters;
   /// Columns of text, or of few values, that become categories.
   std::vector<std::string> conditions;
+  /// Columns that tell how exact others are, which is not shown.
+  std::vector<std::string> errors;
   std::vector<std::string> ignored;
   /// A blank stands for any number of blanks and tabs.
   std::optional<char> separator;

@@ -1,6 +1,7 @@
 #ifndef Layouts_h
 #define Layouts_h
 
+#include "app/import/ImportProgress.h"
 #include "app/import/ImportReport.h"
 #include "app/import/ImportRequest.h"
 #include "app/import/Result.h"
@@ -31,6 +32,8 @@ struct LayoutTask
   FileBeside beside;
   /// Gets warnings, reasons and what is ignored.
   ImportReport& report;
+  /// Only asked whether to go on.
+  ImportProgress progress = {};
 };
 
 /// One way in which tables are laid out in files.

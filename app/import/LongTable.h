@@ -1,6 +1,7 @@
 #ifndef LongTable_h
 #define LongTable_h
 
+#include "app/import/ImportProgress.h"
 #include "app/import/ImportReport.h"
 #include "app/import/Result.h"
 #include "app/import/TableText.h"
@@ -25,13 +26,12 @@ struct LongColumns
 /// runs and times are those that the table has got. Columns that say something of the whole point
 /// come along; those that differ between its items are left out, and said so. The time it takes is
 /// linear in the rows.
-Result<TableText> pivotLong(TableText text, const LongColumns& columns, ImportReport& report);
+/// @param progress only asked whether to go on
+Result<TableText> pivotLong(TableText text, const LongColumns& columns,
+                            const ImportProgress& progress, ImportReport& report);
 
 /// Forgets the names of runs that have no rows any more.
 void forgetEmptyRuns(TableText& table);
-
-/// Some rows of a column, in their order.
-ColumnValues gatheredColumn(const ColumnValues& column, const std::vector<std::size_t>& rows);
 
 } // namespace Talmesh::app
 

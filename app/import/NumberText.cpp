@@ -1,6 +1,7 @@
 #include "app/import/NumberText.h"
 
 #include "app/import/AsciiText.h"
+#include "app/import/MissingValue.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 /// The longest text that a number of another notation than that of C++ is looked for in.
 constexpr std::size_t longestNumber = 400;
 constexpr std::string_view unicodeMinus = "\xE2\x88\x92";
@@ -104,6 +104,27 @@ double outOfRange(std::string_view text)
   return negative ? -size : size;
 }
 
+/// What older C libraries of Windows write for numbers that are none: 1.#QNAN, -1.#IND, 1.#INF.
+bool parseMarked(std::string_view text, double& value)
+{
+  const bool negative = !text.empty() && text.front() == '-';
+  text.remove_prefix(negative ? 1 : 0);
+  constexpr std::string_view start = "1.#";
+  if (text.substr(0, start.size()) != start)
+    return false;
+  text.remove_prefix(start.size());
+  // Zeros behind it fill the digits that were asked for.
+  while (!text.empty() && text.back() == '0')
+    text.remove_suffix(1);
+  const bool infinite = sameIgnoringCase(text, "inf");
+  if (!infinite && !sameIgnoringCase(text, "qnan") && !sameIgnoringCase(text, "snan") &&
+      !sameIgnoringCase(text, "nan") && !sameIgnoringCase(text, "ind"))
+    return false;
+  const double size = infinite ? std::numeric_limits<double>::infinity() : missing;
+  value = negative ? -size : size;
+  return true;
+}
+
 bool parse(std::string_view text, double& value)
 {
   if (text.front() == '+')
@@ -132,6 +153,8 @@ NumberText readAsPrograms(std::string_view text, bool commas)
   {
     if (parse(text, value))
       number = {NumberText::Kind::Number, value, text.find('.') != std::string_view::npos};
+    else if (parseMarked(text, value))
+      number = {std::isnan(value) ? NumberText::Kind::Missing : NumberText::Kind::Number, value};
   }
   else if (commas && text.size() <= longestNumber && text.find('.') == std::string_view::npos)
   {

@@ -47,7 +47,7 @@ void stackSimulations(TableText& text, const LongColumns& columns, std::size_t s
   text.columns[columns.item].completeTexts();
   for (ColumnValues& column : text.columns)
     column = gatheredColumn(column, twice);
-  std::vector<std::size_t> lines;
+  LineNumbers lines;
   for (const std::size_t row : twice)
     lines.push_back(text.lineOf(row));
   text.lines = std::move(lines);
@@ -84,11 +84,10 @@ void ignoreOthers(TableText& text, ImportReport& report)
     }
 }
 
-/// Names the runs by conditions and replicates, and keeps these columns for what they say.
+/// Names the runs by conditions and replicates, whose columns say more than that.
 std::string nameConditions(TableText& text, ImportReport& report)
 {
-  text.roles.askedRuns.clear();
-  std::vector<ColumnValues> kept;
+  std::vector<int> columns;
   for (const char* name : runColumns)
     if (const int column = columnCalled(text, name); column >= 0)
     {
@@ -105,17 +104,9 @@ std::string nameConditions(TableText& text, ImportReport& report)
       for (std::size_t row = 0; row < text.rows; ++row)
         if (values.levels.rows()[row] == TextLevels::none)
           values.levels.set(row, {});
-      text.roles.askedRuns.push_back(column);
-      kept.push_back(values);
+      columns.push_back(column);
     }
-  const std::vector<ColumnUse> uses = text.uses;
-  const std::string error = nameRuns(text);
-  for (std::size_t i = 0; i < kept.size(); ++i)
-    text.columns[static_cast<std::size_t>(text.roles.askedRuns[i])] = std::move(kept[i]);
-  text.uses = uses;
-  text.roles.askedRuns.clear();
-  text.roles.runColumn = -1;
-  return error;
+  return nameRunsBy(text, std::move(columns));
 }
 
 Result<TableText> arrange(TableText text, const LayoutTask& task)
@@ -153,7 +144,7 @@ Result<TableText> arrange(TableText text, const LayoutTask& task)
   if (measured)
     task.report.reasons.push_back(
         translated("PetabLayout", "the values are measurements: nothing is drawn between them"));
-  Result<TableText> wide = pivotLong(std::move(text), columns, task.report);
+  Result<TableText> wide = pivotLong(std::move(text), columns, task.progress, task.report);
   if (wide.hasValue())
     wide.value().isMeasured = measured;
   return wide;

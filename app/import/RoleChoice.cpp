@@ -123,7 +123,7 @@ bool isStrangeNumber(const ColumnValues& column)
   const std::string& text = column.firstText.text;
   // A few percentages may be what tells conditions apart.
   const std::size_t different = column.levels.names().size();
-  const bool manyPercentages = isPercentage(text) && 2 * different > column.values.size();
+  const bool manyPercentages = isPercentage(text) && 2 * different > column.rows();
   return column.texts > 0 && (looksLikeThousands(text) || isLocalDate(text) || manyPercentages);
 }
 
@@ -143,6 +143,20 @@ std::vector<int> columnsOfNames(const ColumnRoles& roles, const ImportRequest& r
   return columns;
 }
 
+void completeQuantities(TableText& text)
+{
+  const ColumnRoles& roles = text.roles;
+  const std::vector<int>& runs = roles.runCandidates;
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    const auto index = static_cast<int>(i);
+    const bool isName = std::find(runs.begin(), runs.end(), index) != runs.end() ||
+                        isItemName(roles.headers[i].name);
+    if (!isName || index == roles.timeColumn || text.columns[i].dates > 0)
+      text.columns[i].completeValues();
+  }
+}
+
 std::string applyRequest(TableText& text, const ImportRequest& request)
 {
   RequestedRoles asked(text);
@@ -156,8 +170,12 @@ std::string applyRequest(TableText& text, const ImportRequest& request)
   roles.itemColumn = asked.column(request.item);
   roles.valueColumn = asked.column(request.value);
   asked.use(request.measured, ColumnUse::Item);
+  for (const int column : {roles.timeColumn, roles.valueColumn})
+    if (column >= 0)
+      text.columns[static_cast<std::size_t>(column)].completeValues();
   asked.use(request.parameters, ColumnUse::Parameter);
   asked.use(request.conditions, ColumnUse::Condition);
+  asked.use(request.errors, ColumnUse::Ignored);
   asked.use(request.ignored, ColumnUse::Ignored);
   forgetRecognised(text, request);
   return asked.error;

@@ -15,6 +15,10 @@ namespace Talmesh::app
 /// conditions, by their own names or as the user says.
 std::vector<int> columnsOfNames(const ColumnRoles& roles, const ImportRequest& request);
 
+/// Makes the values of all columns but those that by their names hold nothing but names, of runs
+/// and items.
+void completeQuantities(TableText& text);
+
 /// Gives the columns that the user names the roles that they shall have.
 /// @return why that cannot be, in one line; empty on success
 std::string applyRequest(TableText& text, const ImportRequest& request);
@@ -31,6 +35,10 @@ void findOrder(TableText& text, const ImportRequest& request, ImportReport& repo
 /// Numbers the runs by the columns that name them, several together; without any, time will tell.
 /// @return why that cannot be, in one line; empty on success
 std::string nameRuns(TableText& text);
+
+/// Numbers the runs by some columns together, which stay what they are.
+/// @return why that cannot be, in one line; empty on success
+std::string nameRunsBy(TableText& text, std::vector<int> columns);
 
 /// Whether a column's texts are numbers or dates as people, but not programs, write them: 1 000,5,
 /// 5%, 01.03.2024.

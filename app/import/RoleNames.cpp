@@ -158,6 +158,12 @@ bool isRowNumberName(std::string_view name)
   return isOneOf(plainName(name), rowNumberWords) && name != "1" && name != "x";
 }
 
+bool namesRowsOnly(std::string_view name)
+{
+  const std::string plain = plainName(name);
+  return isRowNumberName(name) && plain != "x" && plain != "1" && plain != "index";
+}
+
 bool isDrawName(std::string_view name)
 {
   return isOneOf(plainName(name), drawWords);
@@ -165,7 +171,8 @@ bool isDrawName(std::string_view name)
 
 bool isResultName(std::string_view name)
 {
-  return isOneOf(plainName(name), resultWords);
+  // Stan ends what it tells of its draws so: lp__, stepsize__.
+  return endsWith(name, "__") || isOneOf(plainName(name), resultWords);
 }
 
 bool isParameterName(std::string_view name)

@@ -22,6 +22,8 @@ bool isMeanName(std::string_view name);
 
 /// What R, pandas and others call a column of row numbers: rownames, X, ...1, "Unnamed: 0", index.
 bool isRowNumberName(std::string_view name);
+/// Whether that says nothing else: rownames, "Unnamed: 0", but neither X nor index.
+bool namesRowsOnly(std::string_view name);
 
 /// What numbers the draws of a sampler or the starts of a fit: chain, draw, iteration, start.
 bool isDrawName(std::string_view name);

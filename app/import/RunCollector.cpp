@@ -1,9 +1,10 @@
 #include "app/import/RunCollector.h"
 
+#include "app/import/MissingValue.h"
+
 #include <QString>
 
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace Talmesh::app
@@ -44,7 +45,7 @@ void RunCollector::append(Column& column, const NamedColumn& added)
     makeText(column);
   if (!column.isText)
   {
-    column.values.resize(rows, std::numeric_limits<double>::quiet_NaN());
+    column.values.resize(rows, missing);
     column.values.insert(column.values.end(), added.values.begin(), added.values.end());
     return;
   }

@@ -1,6 +1,7 @@
 #ifndef RunGrouping_h
 #define RunGrouping_h
 
+#include "app/import/LineNumbers.h"
 #include "app/import/Result.h"
 
 #include <cstddef>
@@ -21,7 +22,7 @@ struct RunColumns
   /// What the file calls each run, in order of first appearance.
   const std::vector<std::string>* names = nullptr;
   /// The line of each row in the file.
-  const std::vector<std::size_t>* lines = nullptr;
+  const LineNumbers* lines = nullptr;
 };
 
 /// Rows sorted into runs.

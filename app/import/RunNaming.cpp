@@ -35,6 +35,7 @@ NamedRuns joined(const NamedRuns& runs, const ColumnValues& column)
 {
   NamedRuns both;
   std::unordered_map<std::uint64_t, int> numbers;
+  both.ofRow.reserve(runs.ofRow.size());
   for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
   {
     const int second = column.levels.rows()[row];
@@ -51,32 +52,28 @@ NamedRuns joined(const NamedRuns& runs, const ColumnValues& column)
 /// Rows sorted into series of one run, or one item of a run.
 struct RowSeries
 {
-  std::vector<int> ofRow;
-  std::size_t count = 0;
+  const std::vector<int>* runs = nullptr;
+  /// Null where runs are the series.
+  const std::vector<int>* items = nullptr;
+  std::size_t itemCount = 0;
+
+  std::size_t of(std::size_t row) const
+  {
+    const auto run = static_cast<std::size_t>((*runs)[row]);
+    if (!items)
+      return run;
+    // Those without an item are one more.
+    return run * itemCount + static_cast<std::size_t>((*items)[row] + 1);
+  }
 };
 
-/// The series of runs, or, where a column says which item a row is of, of runs and items.
-RowSeries seriesOf(const NamedRuns& runs, const std::vector<int>* items)
-{
-  if (!items || items->size() != runs.ofRow.size())
-    return {runs.ofRow, runs.names.size()};
-  RowSeries series;
-  std::unordered_map<std::uint64_t, int> numbers;
-  for (std::size_t row = 0; row < runs.ofRow.size(); ++row)
-    series.ofRow.push_back(
-        numbers.emplace(together(runs.ofRow[row], (*items)[row]), static_cast<int>(numbers.size()))
-            .first->second);
-  series.count = numbers.size();
-  return series;
-}
-
 /// Whether the time rises from each row of a series to its next.
-bool timesRise(const RowSeries& series, const std::vector<double>& time)
+bool timesRise(const RowSeries& series, std::size_t count, const std::vector<double>& time)
 {
-  std::vector<double> last(series.count, -std::numeric_limits<double>::infinity());
-  for (std::size_t row = 0; row < series.ofRow.size(); ++row)
+  std::vector<double> last(count, -std::numeric_limits<double>::infinity());
+  for (std::size_t row = 0; row < series.runs->size(); ++row)
   {
-    double& before = last[static_cast<std::size_t>(series.ofRow[row])];
+    double& before = last[series.of(row)];
     if (!(time[row] > before))
       return false;
     before = time[row];
@@ -85,15 +82,15 @@ bool timesRise(const RowSeries& series, const std::vector<double>& time)
 }
 
 /// Whether a series has two rows at one time.
-bool repeatsTimes(const RowSeries& series, const std::vector<double>& time)
+bool repeatsTimes(const RowSeries& series, std::size_t runs, const std::vector<double>& time)
 {
-  // Most tables need no memory for it.
-  if (timesRise(series, time))
+  const std::size_t count = runs * (series.items ? series.itemCount : 1);
+  // Most tables need little memory for it.
+  if (count <= 2 * time.size() && timesRise(series, count, time))
     return false;
-  std::vector<std::unordered_set<double>> seen(series.count);
-  for (std::size_t row = 0; row < series.ofRow.size(); ++row)
-    if (!std::isnan(time[row]) &&
-        !seen[static_cast<std::size_t>(series.ofRow[row])].insert(time[row]).second)
+  std::unordered_map<std::size_t, std::unordered_set<double>> seen;
+  for (std::size_t row = 0; row < series.runs->size(); ++row)
+    if (!std::isnan(time[row]) && !seen[series.of(row)].insert(time[row]).second)
       return true;
   return false;
 }
@@ -101,8 +98,10 @@ bool repeatsTimes(const RowSeries& series, const std::vector<double>& time)
 class RunNamer
 {
 public:
-  explicit RunNamer(TableText& text_)
+  /// @param keepsColumns_ whether the columns that name the runs stay what they are
+  RunNamer(TableText& text_, bool keepsColumns_)
       : text(text_)
+      , keepsColumns(keepsColumns_)
   {
   }
 
@@ -160,10 +159,14 @@ private:
 
   bool repeats(const NamedRuns& named) const
   {
-    const int item = text.roles.itemColumn;
-    const auto* items =
-        item < 0 ? nullptr : &text.columns[static_cast<std::size_t>(item)].levels.rows();
-    return repeatsTimes(seriesOf(named, items),
+    RowSeries series{&named.ofRow, nullptr, 0};
+    if (const int item = text.roles.itemColumn; item >= 0)
+    {
+      const TextLevels& levels = text.columns[static_cast<std::size_t>(item)].levels;
+      if (levels.rows().size() == named.ofRow.size())
+        series = {&named.ofRow, &levels.rows(), levels.names().size() + 1};
+    }
+    return repeatsTimes(series, named.names.size(),
                         text.columns[static_cast<std::size_t>(text.roles.timeColumn)].values);
   }
 
@@ -202,9 +205,9 @@ private:
       return;
     }
     values.completeTexts();
-    const bool stays = isCondition(static_cast<int>(column));
+    const bool stays = keepsColumns || isCondition(static_cast<int>(column));
     if (isFirst)
-      runs = {values.levels.rows(), values.levels.names()};
+      runs = {stays ? values.levels.rows() : values.levels.takeRows(), values.levels.names()};
     else
     {
       runs = joined(runs, values);
@@ -216,6 +219,7 @@ private:
   }
 
   TableText& text;
+  bool keepsColumns;
   NamedRuns runs;
   std::vector<std::size_t> further;
   std::string error;
@@ -225,7 +229,16 @@ private:
 
 std::string nameRuns(TableText& text)
 {
-  return RunNamer(text).name();
+  return RunNamer(text, false).name();
+}
+
+std::string nameRunsBy(TableText& text, std::vector<int> columns)
+{
+  text.roles.askedRuns = std::move(columns);
+  const std::string error = RunNamer(text, true).name();
+  text.roles.askedRuns.clear();
+  text.roles.runColumn = -1;
+  return error;
 }
 
 void forgetEmptyRuns(TableText& table)

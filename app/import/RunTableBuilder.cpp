@@ -30,17 +30,22 @@ std::pair<double, double> rangeAround(double value)
 class RunTableBuilder
 {
 public:
-  RunTableBuilder(TableText& text_, const RunGrouping& grouping_)
+  RunTableBuilder(TableText& text_, const RunGrouping& grouping_, const ImportProgress& progress_)
       : text(text_)
       , grouping(grouping_)
+      , progress(progress_)
   {
   }
 
   BuiltRuns build()
   {
     for (std::size_t i = 0; i < text.columns.size(); ++i)
+    {
+      if (progress && !progress(1.0))
+        return {};
       if (text.uses[i] != ColumnUse::Ignored && text.uses[i] != ColumnUse::RunName)
         addColumn(i);
+    }
     if (!text.roles.anyTyped && text.roles.runColumn < 0)
       addRunIndex(runIndexName, false);
     makeLabelsUnique(columns);
@@ -179,14 +184,16 @@ private:
 
   TableText& text;
   const RunGrouping& grouping;
+  const ImportProgress& progress;
   std::vector<StackedColumn> columns;
 };
 
 } // namespace
 
-BuiltRuns buildRunTable(TableText& text, const RunGrouping& grouping)
+BuiltRuns buildRunTable(TableText& text, const RunGrouping& grouping,
+                        const ImportProgress& progress)
 {
-  return RunTableBuilder(text, grouping).build();
+  return RunTableBuilder(text, grouping, progress).build();
 }
 
 } // namespace Talmesh::app

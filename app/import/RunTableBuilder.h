@@ -1,6 +1,7 @@
 #ifndef RunTableBuilder_h
 #define RunTableBuilder_h
 
+#include "app/import/ImportProgress.h"
 #include "app/import/RunGrouping.h"
 #include "app/import/TableText.h"
 #include "external/LinePlotTable.h"
@@ -18,6 +19,7 @@ namespace Talmesh::app
 /// The runs of a table.
 struct BuiltRuns
 {
+  /// Null where that was given up.
   boost::shared_ptr<LinePlotTable> runs;
   /// Names of the parameters that plots leave out because they are the same in all runs.
   std::vector<std::string> unvariedParameters;
@@ -28,7 +30,9 @@ struct BuiltRuns
 /// Stacks the columns of a text run after run, gives each its kind and its label, and adds the run
 /// index that a table of plain headers lacks.
 /// @param text is emptied on the way, so that no column is in memory twice.
-BuiltRuns buildRunTable(TableText& text, const RunGrouping& grouping);
+/// @param progress asked behind each column whether to go on
+BuiltRuns buildRunTable(TableText& text, const RunGrouping& grouping,
+                        const ImportProgress& progress = {});
 
 } // namespace Talmesh::app
 

@@ -11,6 +11,7 @@
 #include <vtkNew.h>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <set>
 #include <utility>
@@ -33,6 +34,20 @@ bool isLeftOut(const TableText& text, std::size_t column)
   return text.uses[column] == ColumnUse::Ignored || text.uses[column] == ColumnUse::RunName;
 }
 
+/// Whether a column's numbers are whole and so few that each stands in many rows.
+bool holdsCodes(const ColumnValues& column)
+{
+  constexpr std::size_t mostCodes = 20;
+  constexpr std::size_t rowsOfCode = 10;
+  if (column.firstFraction.line > 0 || column.hasTooManyTexts)
+    return false;
+  std::set<double> codes;
+  for (const double value : column.values)
+    if (!std::isnan(value) && codes.insert(value).second && codes.size() > mostCodes)
+      return false;
+  return column.numbers >= rowsOfCode * codes.size();
+}
+
 /// Texts among numbers are an error, because a silent gap would look like data.
 std::string mistypedCell(const TableText& text)
 {
@@ -49,6 +64,25 @@ std::string mistypedCell(const TableText& text)
                               {quotedForMessage(text.roles.headers[i].name)});
   }
   return {};
+}
+
+/// Few numbers that come again and again, and at last a text, are all names: 0, 1, done.
+void takeCodesForNames(TableText& text, ImportReport& report)
+{
+  for (std::size_t i = 0; i < text.columns.size(); ++i)
+  {
+    ColumnValues& column = text.columns[i];
+    const bool known = isLeftOut(text, i) || text.uses[i] != ColumnUse::Open ||
+                       static_cast<int>(i) == text.roles.timeColumn || text.roles.headers[i].typed;
+    if (known || mistypedCell(text, i).empty() || isStrangeNumber(column) || !holdsCodes(column))
+      continue;
+    text.uses[i] = ColumnUse::Condition;
+    report.warnings.push_back(
+        withValues(translated("RunTableImport", "Line %1: %2 in the column %3 is not a number, so "
+                                                "its numbers are taken for names, too."),
+                   {std::to_string(column.firstText.line), quotedForMessage(column.firstText.text),
+                    quotedForMessage(text.roles.headers[i].name)}));
+  }
 }
 
 /// Texts that differ nearly everywhere are no categories of anything; where nothing but them goes
@@ -145,6 +179,12 @@ bool hasNumbers(const TableText& text)
                      { return column.numbers > 0 || column.dates > 0; });
 }
 
+/// The text has been read by then.
+bool isGivenUp(const ImportTask& task)
+{
+  return task.progress && !task.progress(1.0);
+}
+
 bool hasColumns(const TableText& text)
 {
   for (std::size_t i = 0; i < text.columns.size(); ++i)
@@ -158,8 +198,16 @@ Imported importArranged(TableText text, const ImportTask& task, ImportReport& re
   std::string error;
   if (text.hasRuns && text.runNames.empty())
     error = nameRuns(text);
+  // What names neither runs nor items is shown.
+  for (ColumnValues& column : text.columns)
+    column.completeValues();
+  if (isGivenUp(task))
+    return Imported::cancelled();
   if (error.empty())
+  {
+    takeCodesForNames(text, report);
     error = mistypedCell(text);
+  }
   if (error.empty())
     error = nothingToPlot(text);
   if (!error.empty())
@@ -170,7 +218,9 @@ Imported importArranged(TableText text, const ImportTask& task, ImportReport& re
     text.levelColumns.push_back(category.column);
   if (!hasColumns(text))
     return Imported::failed(noNumbers());
-  Imported imported = text.hasRuns ? buildRuns(text, levels, task.request, report)
+  if (isGivenUp(task))
+    return Imported::cancelled();
+  Imported imported = text.hasRuns ? buildRuns(text, levels, task.request, task.progress, report)
                                    : Imported(plainTable(text, levels, report));
   if (imported.hasValue())
     imported.value().notes = report.warnings;
@@ -189,12 +239,14 @@ Result<ImportedTable> importTable(TableText text, const ImportTask& task, Import
   text.isScan = task.isScan;
   settleColumns(text, report);
   findOrder(text, task.request, report);
+  if (isGivenUp(task))
+    return Imported::cancelled();
   const Result<const Layout*> layout = chooseLayout(text, task.request, report);
   if (!layout.hasValue())
     return Imported::without(layout);
   report.layout = layout.value()->name;
   Result<TableText> arranged =
-      layout.value()->arrange(std::move(text), {task.request, task.beside, report});
+      layout.value()->arrange(std::move(text), {task.request, task.beside, report, task.progress});
   return arranged.hasValue() ? importArranged(std::move(arranged.value()), task, report)
                              : Imported::without(arranged);
 }

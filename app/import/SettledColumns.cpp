@@ -128,13 +128,15 @@ private:
     if ((!header.unnamed && !isRowNumberName(header.name)) || first.numbers != text.rows)
       return false;
     const double start = first.values.front();
-    for (std::size_t row = 0; row < text.rows; ++row)
+    // Rows that were taken out of a longer table keep their numbers.
+    const bool counts = header.unnamed || !namesRowsOnly(header.name);
+    for (std::size_t row = 0; row < text.rows && counts; ++row)
       if (first.values[row] != start + static_cast<double>(row))
         return false;
     const bool otherNumbers = std::any_of(text.columns.begin() + 1, text.columns.end(),
                                           [](const ColumnValues& column)
                                           { return column.numbers > 0 || column.isDates(); });
-    return otherNumbers && (start == 0.0 || start == 1.0);
+    return otherNumbers && (!counts || start == 0.0 || start == 1.0);
   }
 
   void tellCensored(std::size_t i)

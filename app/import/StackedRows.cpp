@@ -1,10 +1,10 @@
 #include "app/import/CommonGrid.h"
+#include "app/import/MissingValue.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace Talmesh::app
@@ -15,7 +15,6 @@ namespace
 
 /// Behind the name of the item, in every language.
 constexpr const char* steadyName = " at steady state";
-constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
 /// The cells of some rows in their order; columns of names have none.
 template <typename Cell>
@@ -34,7 +33,10 @@ void gatherRows(TableText& text, const std::vector<std::size_t>& rows)
 {
   for (ColumnValues& column : text.columns)
     gather(column.values, rows);
-  gather(text.lines, rows);
+  LineNumbers lines;
+  for (const std::size_t row : text.lines.empty() ? std::vector<std::size_t>() : rows)
+    lines.push_back(text.lines[row]);
+  text.lines = std::move(lines);
   text.rows = rows.size();
 }
 

@@ -9,6 +9,7 @@
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Talmesh::app
@@ -56,14 +57,8 @@ const NotedCell* earliest(const std::vector<ColumnValues>& columns, NotedCell Co
 /// Whether all commas in numbers stand where they could part thousands.
 bool mayAllBeThousands(const std::vector<ColumnValues>& columns)
 {
-  std::size_t commas = 0;
-  std::size_t thousands = 0;
-  for (const ColumnValues& column : columns)
-  {
-    commas += column.commas;
-    thousands += column.thousands;
-  }
-  return commas > 0 && commas == thousands;
+  return std::all_of(columns.begin(), columns.end(),
+                     [](const ColumnValues& column) { return column.commas == column.thousands; });
 }
 
 /// Decimal points beside decimal commas, or commas that may part thousands.
@@ -91,6 +86,21 @@ std::string ambiguousCell(const std::vector<ColumnValues>& columns, const Import
       {std::to_string(later.line), quotedForMessage(later.text)});
 }
 
+/// A line with another number of fields than the header has.
+std::string otherFields(const std::string& line, std::size_t count, std::size_t wanted,
+                        std::size_t headerLine)
+{
+  const std::string header = headerLine == 1
+                                 ? translated("TableText", "the first line")
+                                 : withValues(translated("TableText", "the header in line %1"),
+                                              {std::to_string(headerLine)});
+  const std::string have = std::to_string(wanted);
+  return count == 1 ? withValues(translated("TableText", "line %1 has 1 field, %3 has %2"),
+                                 {line, have, header})
+                    : withValues(translated("TableText", "line %1 has %2 fields, %4 has %3"),
+                                 {line, std::to_string(count), have, header});
+}
+
 class TableTextReader
 {
 public:
@@ -114,6 +124,7 @@ public:
       return Result<TableText>::cancelled();
     if (error.empty())
       error = ambiguousCell(table.columns, request, report);
+    completeQuantities(table);
     return error.empty() ? Result<TableText>(std::move(table)) : Result<TableText>::failed(error);
   }
 
@@ -141,13 +152,13 @@ private:
     if (!error.empty())
       return;
     std::vector<std::string> headers;
-    for (const std::string& name : names)
-      headers.push_back(toUtf8(name));
+    std::transform(names.begin(), names.end(), std::back_inserter(headers), toUtf8);
     table.roles = assignRoles(headers);
     table.columns.resize(headers.size());
     table.uses.resize(headers.size());
+    const bool guessed = request.run.empty() && request.conditions.empty() && request.item.empty();
     for (const int column : columnsOfNames(table.roles, request))
-      table.columns[static_cast<std::size_t>(column)].keepsTexts = true;
+      table.columns[static_cast<std::size_t>(column)].keepTexts(guessed);
     records = DelimitedText(text, shape.separator, shape.comment);
     records.skipTo(shape.dataBegin, shape.dataLine);
   }
@@ -160,6 +171,8 @@ private:
         tellOpenQuotes();
       else if (table.columns.size() > 1 && isBlankRecord(fields))
         continue;
+      else if (repeatsHeader())
+        repeatedHeaders.push_back(records.line());
       else if (rowFits())
         readRow();
       if (table.rows == rowsBetweenReports)
@@ -167,8 +180,18 @@ private:
       if (table.rows % rowsBetweenReports == 0 && !tellProgress())
         return;
     }
+    if (!repeatedHeaders.empty())
+      report.warnings.push_back(withValues(
+          translated("TableText", "Line %1 repeats the header and is left out (%2 in all)."),
+          {std::to_string(repeatedHeaders.front()), std::to_string(repeatedHeaders.size())}));
     if (error.empty() && table.rows == 0)
       error = translated("TableText", "the table has no rows below its headers");
+  }
+
+  bool repeatsHeader() const
+  {
+    return !shape.headers.front().empty() &&
+           std::equal(fields.begin(), fields.end(), shape.headers.begin(), shape.headers.end());
   }
 
   /// Columns that grow as they fill hold up to three times what they need. Memory that is asked for
@@ -180,7 +203,6 @@ private:
         static_cast<std::size_t>(reservedShare * static_cast<double>(table.rows) / part);
     for (ColumnValues& column : table.columns)
       column.reserve(rows);
-    table.lines.reserve(rows);
   }
 
   bool tellProgress()
@@ -200,16 +222,7 @@ private:
       return true;
     if (isCut())
       return false;
-    const std::string header = shape.headerLine == 1
-                                   ? translated("TableText", "the first line")
-                                   : withValues(translated("TableText", "the header in line %1"),
-                                                {std::to_string(shape.headerLine)});
-    const std::string have = std::to_string(table.columns.size());
-    error = fields.size() == 1
-                ? withValues(translated("TableText", "line %1 has 1 field, %3 has %2"),
-                             {line(), have, header})
-                : withValues(translated("TableText", "line %1 has %2 fields, %4 has %3"),
-                             {line(), std::to_string(fields.size()), have, header});
+    error = otherFields(line(), fields.size(), table.columns.size(), shape.headerLine);
     return false;
   }
 
@@ -250,6 +263,7 @@ private:
   const TextPassed& passed;
   std::vector<std::string_view> fields;
   TableText table;
+  std::vector<std::size_t> repeatedHeaders;
   /// Why there is none, in one line.
   std::string error;
   bool cancelled = false;

@@ -6,6 +6,7 @@
 #include "app/import/ImportProgress.h"
 #include "app/import/ImportReport.h"
 #include "app/import/ImportRequest.h"
+#include "app/import/LineNumbers.h"
 #include "app/import/Result.h"
 
 #include <cstddef>
@@ -43,7 +44,7 @@ struct TableText
   std::vector<ColumnUse> uses;
   std::size_t rows = 0;
   /// The line of each row in the file; empty for tables that have no lines.
-  std::vector<std::size_t> lines;
+  LineNumbers lines;
   /// The run of each row, into `runNames`; empty where the time tells the runs.
   std::vector<int> runOfRow;
   std::vector<std::string> runNames;
@@ -75,6 +76,8 @@ using TextPassed = std::function<void(std::size_t)>;
 /// Reads headers and cells of a delimited text. Every row must have as many fields as there are
 /// headers; empty fields beyond them and, in a table of several columns, blank rows, as
 /// spreadsheets leave them, are ignored. So is a last row that the end of the file cuts short.
+/// Columns that by their names are those of runs or items may hold texts only
+/// (ColumnValues::completeValues()).
 /// @param report gets reasons and warnings
 Result<TableText> readTableText(std::string_view bytes, const ImportRequest& request,
                                 ImportReport& report, const ImportProgress& progress = {},

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Talmesh::app
@@ -31,6 +32,8 @@ public:
 
   /// The number of each row's text; `none` without one.
   const std::vector<int>& rows() const { return ofRow; }
+  /// The same, which is nobody else's then.
+  std::vector<int> takeRows() { return std::move(ofRow); }
   const std::vector<std::string>& names() const { return texts; }
   bool isEmpty() const { return texts.empty(); }
 

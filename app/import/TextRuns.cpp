@@ -24,9 +24,11 @@ using Imported = Result<ImportedTable>;
 class RunsOfText
 {
 public:
-  RunsOfText(TableText& text_, const ImportRequest& request_, ImportReport& report_)
+  RunsOfText(TableText& text_, const ImportRequest& request_, const ImportProgress& progress_,
+             ImportReport& report_)
       : text(text_)
       , request(request_)
+      , progress(progress_)
       , report(report_)
   {
   }
@@ -36,13 +38,17 @@ public:
     Result<RunGrouping> grouped = text.rowsAreRuns ? everyRow() : grouping();
     if (!grouped.hasValue())
       return Imported::without(grouped);
+    if (progress && !progress(1.0))
+      return Imported::cancelled();
     RunGrouping& runs = grouped.value();
     ImportedTable imported;
     const std::string error = layOnGrid(runs, imported);
     if (!error.empty())
       return Imported::failed(error);
     noteOnMissingTime(runs.pointsPerRun);
-    const BuiltRuns built = buildRunTable(text, runs);
+    const BuiltRuns built = buildRunTable(text, runs, progress);
+    if (!built.runs)
+      return Imported::cancelled();
     imported.runs = built.runs;
     for (const std::string& parameter : built.unvariedParameters)
       report.warnings.push_back(withValues(
@@ -249,15 +255,17 @@ private:
 
   TableText& text;
   const ImportRequest& request;
+  const ImportProgress& progress;
   ImportReport& report;
 };
 
 } // namespace
 
 Result<ImportedTable> buildRuns(TableText& text, const std::vector<ColumnLevels>& levels,
-                                const ImportRequest& request, ImportReport& report)
+                                const ImportRequest& request, const ImportProgress& progress,
+                                ImportReport& report)
 {
-  return RunsOfText(text, request, report).build(levels);
+  return RunsOfText(text, request, progress, report).build(levels);
 }
 
 } // namespace Talmesh::app

@@ -2,6 +2,7 @@
 #define TextRuns_h
 
 #include "app/import/CategoryColumns.h"
+#include "app/import/ImportProgress.h"
 #include "app/import/ImportReport.h"
 #include "app/import/ImportRequest.h"
 #include "app/import/Result.h"
@@ -17,8 +18,10 @@ namespace Talmesh::app
 /// where theirs differ, and tells what there is.
 /// @param text is emptied on the way
 /// @param levels the columns of categories
+/// @param progress only asked whether to go on
 Result<ImportedTable> buildRuns(TableText& text, const std::vector<ColumnLevels>& levels,
-                                const ImportRequest& request, ImportReport& report);
+                                const ImportRequest& request, const ImportProgress& progress,
+                                ImportReport& report);
 
 } // namespace Talmesh::app
 

@@ -7,6 +7,8 @@
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 /// A row per value: run, time, which item, its value.
 namespace Talmesh::app
@@ -133,23 +135,12 @@ std::string nameRunsByConditions(TableText& text, std::size_t item)
   std::string error = nameRuns(text);
   if (!error.empty() || !text.runNames.empty())
     return error;
+  std::vector<int> columns;
   for (const std::size_t column : textColumns(text))
     if (column != item && hasLevels(text, column) && !text.columns[column].hasTooManyTexts)
-      text.roles.askedRuns.push_back(static_cast<int>(column));
-  if (text.roles.askedRuns.empty())
-    return {};
-  // The columns stay categories.
-  std::vector<ColumnValues> kept;
-  for (const int column : text.roles.askedRuns)
-    kept.push_back(text.columns[static_cast<std::size_t>(column)]);
-  const std::vector<ColumnUse> uses = text.uses;
-  error = nameRuns(text);
-  for (std::size_t i = 0; i < kept.size(); ++i)
-    text.columns[static_cast<std::size_t>(text.roles.askedRuns[i])] = std::move(kept[i]);
-  text.uses = uses;
-  text.roles.askedRuns.clear();
-  text.roles.runColumn = -1;
-  return error;
+      columns.push_back(static_cast<int>(column));
+  // They stay categories.
+  return columns.empty() ? std::string() : nameRunsBy(text, std::move(columns));
 }
 
 Result<TableText> arrange(TableText text, const LayoutTask& task)
@@ -174,7 +165,8 @@ Result<TableText> arrange(TableText text, const LayoutTask& task)
     error = mistypedCell(text, static_cast<std::size_t>(text.roles.timeColumn));
   if (error.empty())
     error = nameRunsByConditions(text, columns.item);
-  return error.empty() ? pivotLong(std::move(text), columns, task.report) : Arranged::failed(error);
+  return error.empty() ? pivotLong(std::move(text), columns, task.progress, task.report)
+                       : Arranged::failed(error);
 }
 
 } // namespace

@@ -242,6 +242,11 @@ bool namesRunNumbers(const BoundTerm& term)
 
 } // namespace
 
+std::vector<std::string> FilteredRuns::textsOf(int) const
+{
+  return {};
+}
+
 std::optional<double> FilteredRuns::numberOf(int, const std::string&) const
 {
   return std::nullopt;

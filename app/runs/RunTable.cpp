@@ -1,5 +1,7 @@
 #include "app/runs/RunTable.h"
 
+#include "app/import/MissingValue.h"
+
 #include <array>
 #include <charconv>
 #include <chrono>
@@ -12,8 +14,6 @@ namespace Talmesh::app
 
 namespace
 {
-
-constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
 std::vector<double> missingValues(std::size_t count)
 {
@@ -41,6 +41,10 @@ RunTableFilling::RunTableFilling(const FilteredRuns& filled, std::vector<RunColu
   table.columns = std::move(columns);
   table.numbers = missingValues(runs.numberOfRuns());
   table.values.assign(table.columns.size(), missingValues(runs.numberOfRuns()));
+  for (std::size_t i = 0; i < table.columns.size(); ++i)
+    if (std::vector<std::string> texts = runs.textsOf(table.columns[i].column);
+        !table.columns[i].feature && !texts.empty())
+      table.texts.emplace(i, std::move(texts));
 }
 
 void RunTableFilling::goOn(int milliseconds)
@@ -94,6 +98,15 @@ std::string commaCell(const std::string& text)
   return quoted + '"';
 }
 
+std::string cellText(const RunTable& table, std::size_t column, std::size_t run)
+{
+  const double value = table.values[column][run];
+  const auto texts = table.texts.find(column);
+  const bool isText = texts != table.texts.end() && value >= 0.0 &&
+                      value < static_cast<double>(texts->second.size());
+  return isText ? texts->second[static_cast<std::size_t>(value)] : fullNumber(value);
+}
+
 std::string commaText(const RunTable& table)
 {
   std::string text = "run";
@@ -103,8 +116,8 @@ std::string commaText(const RunTable& table)
   for (std::size_t run = 0; run < table.numbers.size(); ++run)
   {
     text += fullNumber(table.numbers[run]);
-    for (const std::vector<double>& column : table.values)
-      text += ',' + fullNumber(column[run]);
+    for (std::size_t column = 0; column < table.values.size(); ++column)
+      text += ',' + commaCell(cellText(table, column, run));
     text += '\n';
   }
   return text;

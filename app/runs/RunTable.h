@@ -5,6 +5,7 @@
 #include "app/runs/RunFilter.h"
 
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -46,6 +47,8 @@ struct RunTable
   std::vector<double> numbers;
   /// For each column a value per run.
   std::vector<std::vector<double>> values;
+  /// The texts that the values 0, 1, 2, ... of some columns stand for.
+  std::map<std::size_t, std::vector<std::string>> texts;
 };
 
 /// Fills a table a few runs at a time, so that whoever waits for it can do other things meanwhile.
@@ -72,6 +75,9 @@ void addColumn(RunTable& table, const std::string& name, const std::vector<doubl
 
 /// The whole table at once.
 RunTable runTable(const FilteredRuns& runs, const std::vector<RunColumn>& columns);
+
+/// What files have in a cell: a text, or a number with all its digits; nothing where it is missing.
+std::string cellText(const RunTable& table, std::size_t column, std::size_t run);
 
 /// The table as comma-separated text: a line of names, `run` and the titles of the columns, then
 /// one line per run. Numbers that are missing are left out.

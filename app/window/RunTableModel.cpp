@@ -14,7 +14,7 @@ namespace
 /// As many digits as a reader compares.
 constexpr int shortDigits = 6;
 
-QString cellText(double value, bool isNumberOfRun)
+QString shortText(double value, bool isNumberOfRun)
 {
   if (std::isnan(value))
     return QStringLiteral("–");
@@ -88,8 +88,12 @@ QVariant RunTableModel::data(const QModelIndex& index, int role) const
   if (role == Qt::TextAlignmentRole)
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   const double value = valuesOf(index.column())[runOf(index.row())];
+  const std::size_t column = static_cast<std::size_t>(std::max(0, index.column() - 1));
+  const bool isText = index.column() > 0 && runs.texts.count(column) > 0 && !std::isnan(value);
+  if (isText && (role == Qt::DisplayRole || role == Qt::ToolTipRole))
+    return QString::fromStdString(cellText(runs, column, runOf(index.row())));
   if (role == Qt::DisplayRole)
-    return cellText(value, index.column() == 0);
+    return shortText(value, index.column() == 0);
   if (role == Qt::ToolTipRole && !std::isnan(value))
     return QString::fromStdString(fullNumber(value));
   return {};
@@ -122,8 +126,10 @@ QString RunTableModel::tabbedText(const std::vector<int>& chosenRows) const
   text += '\n';
   for (const int row : copied)
   {
-    for (int column = 0; column < columnCount(); ++column)
-      text += (column == 0 ? "" : "\t") + fullNumber(valuesOf(column)[runOf(row)]);
+    const std::size_t run = runOf(row);
+    text += fullNumber(runs.numbers[run]);
+    for (std::size_t column = 0; column < runs.columns.size(); ++column)
+      text += '\t' + cellText(runs, column, run);
     text += '\n';
   }
   return QString::fromStdString(text);

@@ -178,8 +178,14 @@ TEST(SniffedText, LooksAtTheWholeFileAndNotAtItsHeadOnly)
   for (int row = 0; row < 40000; ++row)
     text += std::to_string(row) + ",1.5," + (row < 39000 ? "7" : "x") + '\n';
   // Late texts are still found, and tell that the column is none of numbers.
-  EXPECT_EQ(
-      described(text).error,
-      "line 39002: \"x\" in the column \"drug\" is not a number. --ignore \"drug\" leaves the "
-      "column out, --condition \"drug\" takes it for texts");
+  const DescribedTable table = described(text);
+  EXPECT_EQ(table.report.categories, Names{"drug"});
+  EXPECT_TRUE(table.warns("Line 39002: \"x\" in the column \"drug\" is not a number"));
+  std::string measured = "time,A\n";
+  for (int row = 0; row < 40000; ++row)
+    measured +=
+        std::to_string(row) + ',' + (row == 39000 ? "x" : std::to_string(row) + ".5") + '\n';
+  EXPECT_EQ(described(measured).error,
+            "line 39002: \"x\" in the column \"A\" is not a number. --ignore \"A\" leaves the "
+            "column out, --condition \"A\" takes it for texts");
 }

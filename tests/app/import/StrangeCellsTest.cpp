@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 
 #include "import/DescribedTable.h"
@@ -97,4 +98,60 @@ TEST(StrangeCells, OfErrorsOfOtherColumnsAreNotPlotted)
   expectDescribed(table, "stacked", 1, 2, {"A", "B_mean"});
   EXPECT_EQ(table.report.ignored, (Names{"A_sd", "B_SD"}));
   expectDescribed(described("time,A,C_sd\n0,1,0.1\n1,2,0.2\n"), "stacked", 1, 2, {"A", "C_sd"});
+}
+
+TEST(StrangeCells, OfFewCodesAreNamesWhereATextIsAmongThem)
+{
+  std::string text = "time,A,state\n";
+  for (int row = 0; row < 40; ++row)
+    text +=
+        std::to_string(row) + ',' + std::to_string(row) + ".5," + std::to_string(row / 20) + '\n';
+  const DescribedTable table = described(text + "40,1,done\n");
+  expectDescribed(table, "stacked", 1, 41, {"A"}, {}, {"state"});
+  EXPECT_EQ(table.table.categories.front().levels, (Names{"done", "0", "1"}));
+  EXPECT_TRUE(table.warns("Line 42: \"done\" in the column \"state\" is not a number"));
+  // A measurement that overflowed is no code.
+  EXPECT_NE(described("time,A\n0,1.5\n1,overflow\n2,3.5\n").error, "");
+}
+
+TEST(StrangeCells, OfOldProgramsOfWindowsAreNoNumbersOrInfinite)
+{
+  const DescribedTable table =
+      described("time,A,B\n0,1.#QNAN,1\n1,-1.#IND00,1.#INF00\n2,3,-1.#INF\n");
+  expectDescribed(table, "stacked", 1, 3, {"A", "B"});
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  constexpr double infinite = std::numeric_limits<double>::infinity();
+  expectValues(table.table, "Molecule: A", {none, none, 3});
+  expectValues(table.table, "Molecule: B", {1, infinite, -infinite});
+}
+
+TEST(StrangeCells, OfFewRowsAreNotSaidToBeInAll)
+{
+  EXPECT_TRUE(described("time,A,note\n0,1,\n1,2,pump failed\n")
+                  .warns("The column \"note\" holds no other text than \"pump failed\""));
+}
+
+TEST(StrangeCells, ThatNameRowsAreLeftOutWhateverTheyCount)
+{
+  const DescribedTable table = described("rownames,Ozone,Wind\n3,41,7.5\n7,36,8\n12,12,12.5\n");
+  EXPECT_EQ(table.report.items, (Names{"Ozone", "Wind"}));
+  EXPECT_EQ(table.report.ignored, Names{"rownames"});
+  EXPECT_EQ(described("X,Ozone,Wind\n3,41,7.5\n7,36,8\n12,12,12.5\n").report.items,
+            (Names{"X", "Ozone", "Wind"}));
+}
+
+TEST(StrangeCells, OfHeadersBetweenTheRowsAreLeftOut)
+{
+  const DescribedTable table = described("time,A\n0,1\n1,2\ntime,A\n0,3\n1,4\ntime,A\n0,5\n1,6\n");
+  expectDescribed(table, "stacked", 3, 2, {"A"});
+  EXPECT_TRUE(table.warns("Line 4 repeats the header and is left out (2 in all)."));
+}
+
+TEST(StrangeCells, OfColumnsThatTheUserCallsErrorsAreNotShown)
+{
+  ImportRequest request;
+  request.errors = {"spread"};
+  const DescribedTable table = described("time,A,spread\n0,1,0.1\n1,2,0.2\n", request);
+  expectDescribed(table, "stacked", 1, 2, {"A"});
+  EXPECT_EQ(table.report.ignored, Names{"spread"});
 }

@@ -78,3 +78,22 @@ TEST(RunTable, IsWrittenWithThePlainNamesOfParametersAndTheDigitsThatItTakes)
                               "1,0.30000000000000004,,1\n"
                               "2,1e+300,-inf,2\n");
 }
+
+TEST(RunTable, HasTextsWhereItsNumbersStandForThem)
+{
+  class Drugs : public SampleCourses
+  {
+  public:
+    std::vector<std::string> textsOf(int column) const override
+    {
+      using Texts = std::vector<std::string>;
+      return column == 0 ? Texts{"none", "aspirin", "salt, sugar"} : Texts{};
+    }
+  };
+  const Drugs runs;
+  // Of a run's course there are numbers only.
+  const RunTable table =
+      runTable(runs, {runColumn({}, 0, "drug"), runColumn(RunFeature::Max, 0, "drug")});
+  EXPECT_EQ(commaText(table),
+            "run,drug,max(drug)\n101,aspirin,1\n102,\"salt, sugar\",2\n103,,\n104,40,40\n");
+}
