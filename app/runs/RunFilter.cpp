@@ -242,11 +242,6 @@ bool namesRunNumbers(const BoundTerm& term)
 
 } // namespace
 
-std::vector<std::string> FilteredRuns::textsOf(int) const
-{
-  return {};
-}
-
 std::optional<double> FilteredRuns::numberOf(int, const std::string&) const
 {
   return std::nullopt;

@@ -40,8 +40,8 @@ public:
   virtual bool isOfWholeRun(int column) const = 0;
   /// The number that stands for a text in a column; none where the column has no such text.
   virtual std::optional<double> numberOf(int column, const std::string& text) const;
-  /// The texts that a column's numbers 0, 1, 2, ... stand for; empty of numbers that are such.
-  virtual std::vector<std::string> textsOf(int column) const;
+  /// The texts that the numbers 0, 1, 2, ... of a column stand for; empty of others.
+  virtual std::vector<std::string> textsOf(int) const { return {}; }
 };
 
 struct BoundTerm;
