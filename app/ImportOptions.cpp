@@ -112,9 +112,9 @@ std::string readJoin(const std::string& value, ImportRequest& request)
 
 } // namespace
 
-const std::array<ImportOption, 16>& importOptions()
+const std::array<ImportOption, 17>& importOptions()
 {
-  static const std::array<ImportOption, 16> options = {
+  static const std::array<ImportOption, 17> options = {
       {{"layout", readLayout},
        {"time", readName<&ImportRequest::time>},
        {"run", readNames<&ImportRequest::run>},

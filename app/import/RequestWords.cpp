@@ -75,6 +75,7 @@ std::string optionsOf(const ImportRequest& request)
   add("measured", listOf(request.measured));
   add("parameter", listOf(request.parameters));
   add("condition", listOf(request.conditions));
+  add("error", listOf(request.errors));
   add("ignore", listOf(request.ignored));
   add("separator", wordOf(request.separator));
   add("decimal", wordOf(request.decimalMark));

@@ -62,6 +62,7 @@ TEST(RequestWords, AreWhatTheCommandLineReads)
   request.measured = {"a\\b"};
   request.parameters = {"k1", "k2"};
   request.conditions = {"drug"};
+  request.errors = {"A_sd"};
   request.ignored = {"*"};
   request.separator = '\t';
   request.decimalMark = ',';
@@ -79,6 +80,7 @@ TEST(RequestWords, AreWhatTheCommandLineReads)
   EXPECT_EQ(read.measured, request.measured);
   EXPECT_EQ(read.parameters, request.parameters);
   EXPECT_EQ(read.conditions, request.conditions);
+  EXPECT_EQ(read.errors, request.errors);
   EXPECT_EQ(read.ignored, request.ignored);
   EXPECT_EQ(read.separator, request.separator);
   EXPECT_EQ(read.decimalMark, request.decimalMark);
