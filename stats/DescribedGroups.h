@@ -11,6 +11,9 @@ namespace Talmesh::stats
 /// The row of a parameter in two groups of runs: everything but the interval of D and the test.
 /// @param values of the blocks
 ParameterComparison describedGroups(const TieBlocks& blocks, const std::vector<double>& values);
+
+/// The same of a parameter whose values are names without an order.
+ParameterComparison describedLevels(const TieBlocks& blocks, const std::vector<double>& values);
 } // namespace Talmesh::stats
 
 #endif

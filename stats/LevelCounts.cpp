@@ -140,6 +140,29 @@ CountsTest chiSquaredTest(const TieBlocks& blocks)
   return test;
 }
 
+double cramersV(const TieBlocks& blocks)
+{
+  const double runs = static_cast<double>(groupSizes(blocks).runs());
+  return std::min(std::sqrt(chiSquaredTest(blocks).chiSquared / runs), 1.0);
+}
+
+double leastExpectedCount(const TieBlocks& blocks)
+{
+  const GroupSizes sizes = groupSizes(blocks);
+  const auto smaller = static_cast<double>(std::min(sizes.selected, sizes.others));
+  double least = std::numeric_limits<double>::infinity();
+  for (const TieBlock& block : blocks)
+    least = std::min(least, static_cast<double>(sizeOf(block)) * smaller /
+                                static_cast<double>(sizes.runs()));
+  return least;
+}
+
+bool isPoorlyApproximated(const TieBlocks& blocks)
+{
+  return isTable(blocks, groupSizes(blocks)) && leastExpectedCount(blocks) < fewExpected &&
+         tablesWithSumsOf(blocks) > largestExactCounts;
+}
+
 CountsTest levelCountsTest(const TieBlocks& blocks)
 {
   CountsTest test = chiSquaredTest(blocks);

@@ -38,6 +38,20 @@ double tablesWithSumsOf(const TieBlocks& blocks);
 /// @throws std::length_error as groupSizes() does
 CountsTest levelCountsTest(const TieBlocks& blocks);
 
+/// sqrt(chi-squared / runs), in [0, 1]: 0 for equal shares of all levels in both groups, 1 where no
+/// level is in both (H. Cramer, Mathematical Methods of Statistics, 1946, section 21.9, for tables
+/// of two columns).
+/// @return NaN as chiSquaredTest()
+double cramersV(const TieBlocks& blocks);
+
+/// Smallest count that is expected in any cell of the table where the groups do not differ.
+double leastExpectedCount(const TieBlocks& blocks);
+/// Below it the chi-squared distribution is a poor approximation (W. G. Cochran, Some methods for
+/// strengthening the common chi-squared tests, Biometrics 10, 1954, 417-451).
+constexpr double fewExpected = 5.0;
+/// Whether levelCountsTest() has nothing better than that. False without a table to test.
+bool isPoorlyApproximated(const TieBlocks& blocks);
+
 /// The chi-squared distribution's answer, whatever the number of tables; no continuity correction.
 CountsTest chiSquaredTest(const TieBlocks& blocks);
 } // namespace Talmesh::stats

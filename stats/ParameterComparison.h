@@ -83,6 +83,8 @@ enum class TestMethod
   exactCounts,
   /// The counts per value by the chi-squared distribution.
   chiSquaredCounts,
+  /// The counts per value by permutations of single runs: too many tables, too small counts.
+  permutedRuns,
   /// Permutations of whole parameter sets (stats/SelectionPermutation.h).
   permutedSets,
   /// Permutations of the base samples of a Saltelli design.
@@ -148,6 +150,13 @@ struct ParameterComparison
   /// Median of the selected runs less that of the others.
   double medianDifference = none;
 
+  /// Whether its values are names without an order. Nothing of the above is said of them, but:
+  bool isUnordered = false;
+  /// Cramer's V of the counts per value, in [0, 1] (stats/LevelCounts.h).
+  double association = none;
+  /// The value whose share among the selected runs exceeds that among the others most.
+  double leading = none;
+
   /// In (0, 1]. Below what doubles hold with all their digits it is the smallest such
   /// one, 2.2e-308: a bound.
   double p = none;
@@ -167,6 +176,8 @@ struct ParameterComparison
   /// Of all these permutations, if any.
   std::uint64_t seed = 0;
 
+  /// How much the groups differ, in [0, 1]: Cramer's V of names, D of numbers.
+  double effect() const { return isUnordered ? association : distance; }
   /// Whether the true p is smaller.
   bool isOnlyBounded() const { return p <= std::numeric_limits<double>::min(); }
 };

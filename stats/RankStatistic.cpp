@@ -42,7 +42,9 @@ void takeP(const Test& test, ParameterComparison& row)
 }
 } // namespace
 
-RankedCells::RankedCells(const ExchangeUnits& units, const std::vector<double>& column)
+RankedCells::RankedCells(const ExchangeUnits& units, const std::vector<double>& column,
+                         bool valuesAreOrdered)
+    : isOrdered(valuesAreOrdered)
 {
   std::uint64_t runs = 0;
   for (const auto& [value, cell] : sortedCells(units, column))
@@ -131,7 +133,7 @@ double RankedCells::statistic(ComparedBy comparedBy, const CellGroups& groups) c
   if (m == 0 || m == all)
     return 0.0;
   const double pairs = static_cast<double>(m) * static_cast<double>(all - m);
-  if (comparedBy == ComparedBy::distribution)
+  if (isOrdered && comparedBy == ComparedBy::distribution)
   {
     // i (m + n) - (i + j) m is i n - j m.
     std::int64_t soFar = 0;
@@ -145,7 +147,7 @@ double RankedCells::statistic(ComparedBy comparedBy, const CellGroups& groups) c
                 });
     return static_cast<double>(largest) / pairs;
   }
-  if (comparedBy == ComparedBy::rankSum)
+  if (isOrdered && comparedBy == ComparedBy::rankSum)
   {
     std::int64_t twiceRanks = 0;
     visitBlocks(groups,
@@ -162,7 +164,8 @@ double RankedCells::statistic(ComparedBy comparedBy, const CellGroups& groups) c
                 const double deviation = static_cast<double>(selected) - expected;
                 chiSquared += deviation * deviation / (expected * (1.0 - part));
               });
-  return chiSquared;
+  return comparedBy == ComparedBy::counts ? chiSquared
+                                          : std::sqrt(chiSquared / static_cast<double>(all));
 }
 
 void testIndependentRuns(ComparedBy comparedBy, const TieBlocks& blocks, ParameterComparison& row)

@@ -34,7 +34,8 @@ class RankedCells
 public:
   RankedCells() = default;
   /// @param column a value per run, the same in all runs of a cell
-  RankedCells(const ExchangeUnits& units, const std::vector<double>& column);
+  /// @param isOrdered whether the values are more than names
+  RankedCells(const ExchangeUnits& units, const std::vector<double>& column, bool isOrdered = true);
 
   /// Runs with equal values, told apart by the groups. O(cells).
   TieBlocks blocks(const CellGroups& groups) const;
@@ -42,7 +43,8 @@ public:
   std::vector<double> valuesOfBlocks(const CellGroups& groups) const;
 
   /// One pass over the cells, in whole numbers but for chi-squared; 0 without runs in one of the
-  /// groups.
+  /// groups. Of names without an order Cramer's V stands in for a statistic that needs one, which
+  /// is from 0 to 1 like these.
   double statistic(ComparedBy comparedBy, const CellGroups& groups) const;
 
 private:
@@ -50,6 +52,7 @@ private:
   template <class Visit>
   void visitBlocks(const CellGroups& groups, Visit visit) const;
 
+  bool isOrdered = true;
   std::vector<std::uint32_t> cells;
   std::vector<double> distinctValues;
   /// Behind the last cell of each block.

@@ -1,6 +1,7 @@
 #include "stats/RunComparison.h"
 
 #include "stats/AdjustedPValues.h"
+#include "stats/ComparisonInput.h"
 #include "stats/DescribedGroups.h"
 #include "stats/ExchangeUnits.h"
 #include "stats/GroupContrast.h"
@@ -14,7 +15,6 @@
 #include <atomic>
 #include <cmath>
 #include <mutex>
-#include <stdexcept>
 #include <utility>
 
 namespace Talmesh::stats
@@ -53,21 +53,19 @@ CellGroups groupsOf(const ExchangeUnits& units, const std::vector<char>& selecte
   return {selectedOfCells(units, counted), selectedOfCells(units, inEither)};
 }
 
-void checkLengths(const ParameterColumns& columns, const std::vector<char>& selected,
-                  const std::vector<char>& leftOut)
-{
-  if (!columns.empty() && runsIn(columns) != selected.size())
-    throw std::invalid_argument("a selection of another number of runs");
-  if (!leftOut.empty() && leftOut.size() != selected.size())
-    throw std::invalid_argument("runs left out of another number of runs");
-}
-
 TestMethod permutedUnits(IndependentUnit unit)
 {
+  if (unit == IndependentUnit::run)
+    return TestMethod::permutedRuns;
   if (unit == IndependentUnit::linkedRuns)
     return TestMethod::permutedLinkedRuns;
   return unit == IndependentUnit::baseSample ? TestMethod::permutedBaseSamples
                                              : TestMethod::permutedSets;
+}
+
+bool isAmong(const std::vector<std::size_t>& positions, std::size_t position)
+{
+  return std::find(positions.begin(), positions.end(), position) != positions.end();
 }
 
 class Comparer
@@ -82,6 +80,7 @@ public:
   {
     result.units = summaryOf(units);
     result.parameters.resize(columns.size());
+    isPermuted.assign(columns.size(), permutes() ? 1 : 0);
   }
 
   RunComparison run()
@@ -97,7 +96,8 @@ public:
                            ++parameter)
                         compareParameter(parameter, ranked[parameter]);
                     });
-    if (permutes() || plan.adjustment == Adjustment::maxT)
+    if (plan.adjustment == Adjustment::maxT ||
+        std::find(isPermuted.begin(), isPermuted.end(), 1) != isPermuted.end())
       permuteTested(ranked);
     if (cancelled)
       giveUp();
@@ -111,40 +111,48 @@ private:
 
   void compareParameter(std::size_t parameter, RankedCells& ranked)
   {
-    ranked = RankedCells(units, columns[parameter]);
+    const bool isOrdered = !isAmong(plan.unordered, parameter);
+    ranked = RankedCells(units, columns[parameter], isOrdered);
     const TieBlocks blocks = ranked.blocks(groups);
-    ParameterComparison row = describedGroups(blocks, ranked.valuesOfBlocks(groups));
+    ParameterComparison row = isOrdered ? describedGroups(blocks, ranked.valuesOfBlocks(groups))
+                                        : describedLevels(blocks, ranked.valuesOfBlocks(groups));
     row.parameter = parameter;
-    row.comparedBy = plan.comparedBy;
+    row.comparedBy = isOrdered ? plan.comparedBy : ComparedBy::counts;
     row.adjustment = plan.adjustment;
     row.reason = obstacle(row);
     if (!permutes())
-    {
-      row.interval = distanceInterval(ksDistance(blocks), plan.confidence);
-      if (row.reason == NotTested::tested)
-        testIndependentRuns(plan.comparedBy, blocks, row);
-    }
+      testSingleRuns(blocks, row);
     result.parameters[parameter] = row;
     const double permuting = permutes() || plan.adjustment == Adjustment::maxT ? 0.1 : 1.0;
     report(permuting * static_cast<double>(++compared) / static_cast<double>(columns.size()));
   }
 
+  void testSingleRuns(const TieBlocks& blocks, ParameterComparison& row)
+  {
+    if (!row.isUnordered)
+      row.interval = distanceInterval(ksDistance(blocks), plan.confidence);
+    if (row.reason != NotTested::tested)
+      return;
+    if (row.comparedBy == ComparedBy::counts && isPoorlyApproximated(blocks))
+      isPermuted[row.parameter] = 1;
+    else
+      testIndependentRuns(row.comparedBy, blocks, row);
+  }
+
   NotTested obstacle(const ParameterComparison& row) const
   {
-    const auto isAmong = [&row](const std::vector<std::size_t>& parameters)
-    { return std::find(parameters.begin(), parameters.end(), row.parameter) != parameters.end(); };
     if (row.selected == 0 || row.others == 0)
       return NotTested::emptyGroup;
     if (row.levels < 2)
       return NotTested::constant;
-    if (isAmong(plan.chosenBy))
+    if (isAmong(plan.chosenBy, row.parameter))
       return NotTested::chosenByParameter;
-    if (plan.comparedBy == ComparedBy::counts && row.levels > mostLevels)
+    if (row.comparedBy == ComparedBy::counts && row.levels > mostLevels)
       return NotTested::tooManyLevels;
     if (permutes() && units.arrangements() < fewestArrangements)
       return NotTested::tooFewUnits;
     // Last: what could not be tested anyway has the better reason.
-    if (isAmong(plan.untested))
+    if (isAmong(plan.untested, row.parameter))
       return NotTested::leftUntested;
     return NotTested::tested;
   }
@@ -156,7 +164,8 @@ private:
     std::vector<double> observed;
     for (std::size_t parameter = 0; parameter < columns.size(); ++parameter)
     {
-      if (result.parameters[parameter].reason != NotTested::tested)
+      const bool takesPart = isPermuted[parameter] != 0 || plan.adjustment == Adjustment::maxT;
+      if (result.parameters[parameter].reason != NotTested::tested || !takesPart)
         continue;
       tested.push_back(parameter);
       parameters.push_back(std::move(ranked[parameter]));
@@ -170,8 +179,7 @@ private:
       return;
     result.seed = plan.seed;
     result.permutations = counts.permutations;
-    if (permutes())
-      take(permutationP(counts), tested);
+    take(permutationP(counts), tested);
     if (plan.adjustment == Adjustment::maxT)
       takeAdjusted(maxTAdjusted(counts, observed), tested);
   }
@@ -191,6 +199,8 @@ private:
     for (std::size_t i = 0; i < tested.size(); ++i)
     {
       ParameterComparison& row = result.parameters[tested[i]];
+      if (isPermuted[tested[i]] == 0)
+        continue;
       row.p = p[i];
       row.logP = std::log(p[i]);
       row.permutations = result.permutations;
@@ -246,6 +256,8 @@ private:
   ExchangeUnits units;
   CellGroups groups;
   RunComparison result;
+  /// Of each parameter, whether p comes from permutations.
+  std::vector<char> isPermuted;
   std::atomic<std::size_t> compared{0};
   std::atomic<bool> cancelled{false};
   std::mutex access;
@@ -255,7 +267,7 @@ private:
 RunComparison compareRuns(const ParameterColumns& columns, const std::vector<char>& selected,
                           const ComparisonPlan& plan)
 {
-  checkLengths(columns, selected, plan.leftOut);
+  checkComparedRuns(columns, selected, plan.leftOut);
   if (columns.empty())
     return {};
   return Comparer(columns, selected, plan, exchangeUnits(columns, plan.design)).run();
@@ -265,25 +277,5 @@ RunComparison compareRunsIn(const ExchangeUnits& units, const ParameterColumns& 
                             const std::vector<char>& selected, const ComparisonPlan& plan)
 {
   return Comparer(columns, selected, plan, units).run();
-}
-
-bool takesTimeToCompare(const ParameterColumns& columns, const std::vector<char>& selected,
-                        const ComparisonPlan& plan)
-{
-  /// Steps of the exact test's recursion, some 0.2 s on one core.
-  constexpr double manySteps = 5e7;
-  checkLengths(columns, selected, plan.leftOut);
-  if (plan.adjustment == Adjustment::maxT ||
-      exchangeUnits(columns, plan.design).kind != IndependentUnit::run)
-    return true;
-  double first = 0.0;
-  double second = 0.0;
-  for (std::size_t run = 0; run < selected.size(); ++run)
-    if (plan.leftOut.empty() || plan.leftOut[run] == 0)
-      (selected[run] != 0 ? first : second) += 1.0;
-  const double steps = first * second;
-  return plan.comparedBy == ComparedBy::distribution &&
-         steps <= static_cast<double>(largestExactKs) &&
-         steps * static_cast<double>(columns.size()) > manySteps;
 }
 } // namespace Talmesh::stats

@@ -22,6 +22,9 @@ struct ComparisonPlan
   KnownDesign design{};
   /// Parameters by which the selection was made, by position.
   std::vector<std::size_t> chosenBy;
+  /// Parameters whose values are names without an order, by position: their counts per value are
+  /// compared, whatever is compared of the others.
+  std::vector<std::size_t> unordered;
   /// Parameters that are described but not tested, by position.
   std::vector<std::size_t> untested;
   /// Runs that are in neither group, an entry per run, 0 for the others; empty for none. Units of
@@ -60,8 +63,9 @@ struct RunComparison
 ///
 /// Independent are single runs, sets of runs with equal parameters, the base samples of a Saltelli
 /// design, or groups of runs that share values (stats/ExchangeUnits.h). Single runs are tested
-/// exactly where that is feasible, otherwise whole units are permuted. Runs without a value of a
-/// parameter are left out of its row.
+/// exactly where that is feasible, otherwise whole units are permuted; so are single runs where
+/// counts per value are neither few enough for an exact test nor large enough for chi-squared. Runs
+/// without a value of a parameter are left out of its row.
 ///
 /// O(parameters N log N), and what the tests take: see their headers. Runs parameters and
 /// permutations on all cores.
