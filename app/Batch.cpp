@@ -7,6 +7,7 @@
 #include "app/examples/ExampleStudy.h"
 #include "app/examples/Gallery.h"
 #include "app/export/PictureFile.h"
+#include "app/import/ColumnRoles.h"
 #include "app/session/StudyFile.h"
 #include "widgets/VtkPlotWidget.h"
 
@@ -18,6 +19,7 @@
 
 #include <iostream>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -163,14 +165,25 @@ namespace
 void describeSession(const Study& study, ImportReport& report)
 {
   report.layout = "session";
+  if (study.reading)
+  {
+    report.time = study.reading->time;
+    report.ignored = study.reading->ignored;
+  }
+  std::set<std::string> categories;
+  for (const Category& category : study.categories)
+  {
+    categories.insert(category.column);
+    report.categories.push_back(shownName(category.column));
+  }
   if (!study.runs)
     return;
   report.runs = study.runs->numberOfTrajectories;
   report.fewestPoints = study.runs->pointsPerTrajectory;
   report.mostPoints = study.runs->pointsPerTrajectory;
-  for (const auto& [kind, name] : study.runs->items)
-    if (kind != TimeOrValue)
-      (kind == Parameter ? report.parameters : report.items).push_back(name);
+  for (const auto& item : study.runs->items)
+    if (item.first != TimeOrValue && categories.count(selectionPairToString(item)) == 0)
+      (item.first == Parameter ? report.parameters : report.items).push_back(item.second);
 }
 
 } // namespace

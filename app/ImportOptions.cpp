@@ -1,6 +1,11 @@
 #include "app/ImportOptions.h"
 
 #include "app/import/Layouts.h"
+#include "app/session/DumpedTable.h"
+#include "app/session/SessionFile.h"
+#include "app/session/SessionSettings.h"
+
+#include <QString>
 
 #include <cstddef>
 #include <string_view>
@@ -19,6 +24,17 @@ std::string layoutNames()
   for (const Layout& layout : layouts())
     names += (names.empty() ? "" : ", ") + std::string(layout.name);
   return names;
+}
+
+/// Before all others, which may say something else.
+std::string readLike(const std::string& value, ImportRequest& request)
+{
+  const Result<SessionSettings> settings =
+      readSettings(peekSettings(QString::fromStdString(value)), mostSessionColumns);
+  if (!settings.hasValue() || !settings.value().import.reading)
+    return "--like needs a session that tells how its table was read; " + value + " does not";
+  request = *settings.value().import.reading;
+  return {};
 }
 
 std::string readLayout(const std::string& value, ImportRequest& request)
@@ -112,10 +128,11 @@ std::string readJoin(const std::string& value, ImportRequest& request)
 
 } // namespace
 
-const std::array<ImportOption, 17>& importOptions()
+const std::array<ImportOption, 18>& importOptions()
 {
-  static const std::array<ImportOption, 17> options = {
-      {{"layout", readLayout},
+  static const std::array<ImportOption, 18> options = {
+      {{"like", readLike},
+       {"layout", readLayout},
        {"time", readName<&ImportRequest::time>},
        {"run", readNames<&ImportRequest::run>},
        {"item", readName<&ImportRequest::item>},
@@ -138,6 +155,7 @@ const std::array<ImportOption, 17>& importOptions()
 std::string importHelp()
 {
   return "How a table is read, where it does not tell by itself:\n"
+         "  --like SESSION          as that of a session was, but for what else is said\n"
          "  --layout NAME           how its rows and columns are laid out: " +
          layoutNames() +
          "\n"

@@ -19,7 +19,7 @@ struct ImportOption
 };
 
 /// In the order of the help.
-const std::array<ImportOption, 17>& importOptions();
+const std::array<ImportOption, 18>& importOptions();
 
 /// What the help says of them.
 std::string importHelp();

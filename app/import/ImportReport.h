@@ -1,6 +1,8 @@
 #ifndef ImportReport_h
 #define ImportReport_h
 
+#include "app/import/ImportRequest.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -43,6 +45,9 @@ struct ImportReport
   std::vector<std::string> reasons;
   /// What fits about equally well, the best one first; empty when all is clear.
   std::vector<ImportCandidate> candidates;
+  /// What the user would have to say for the table to be read in the same way, whatever its cells
+  /// suggest.
+  ImportRequest settled;
 
   bool isUnsure() const { return !candidates.empty(); }
 };

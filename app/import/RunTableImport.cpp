@@ -3,6 +3,7 @@
 #include "app/import/CategoryColumns.h"
 #include "app/import/LayoutChoice.h"
 #include "app/import/RoleChoice.h"
+#include "app/import/SettledRequest.h"
 #include "app/import/TextRuns.h"
 #include "app/import/TranslatedText.h"
 #include "app/import/Utf8Text.h"
@@ -227,6 +228,14 @@ Imported importArranged(TableText text, const ImportTask& task, ImportReport& re
   return imported;
 }
 
+std::vector<std::string> headersOf(const TableText& text)
+{
+  std::vector<std::string> names;
+  for (const ColumnHeader& header : text.roles.headers)
+    names.push_back(header.name);
+  return names;
+}
+
 } // namespace
 
 Result<ImportedTable> importTable(TableText text, const ImportTask& task, ImportReport& report)
@@ -245,10 +254,14 @@ Result<ImportedTable> importTable(TableText text, const ImportTask& task, Import
   if (!layout.hasValue())
     return Imported::without(layout);
   report.layout = layout.value()->name;
+  const std::vector<std::string> headers = headersOf(text);
   Result<TableText> arranged =
       layout.value()->arrange(std::move(text), {task.request, task.beside, report, task.progress});
-  return arranged.hasValue() ? importArranged(std::move(arranged.value()), task, report)
-                             : Imported::without(arranged);
+  if (!arranged.hasValue())
+    return Imported::without(arranged);
+  Imported imported = importArranged(std::move(arranged.value()), task, report);
+  report.settled = settledRequest(task.request, report, headers);
+  return imported;
 }
 
 Result<ImportedTable> importTable(std::string_view bytes, const ImportTask& task,

@@ -16,6 +16,7 @@
 namespace Talmesh::app
 {
 
+struct ImportRequest;
 struct OwnChart;
 
 /// A column whose numbers 0, 1, 2, ... stand for texts.
@@ -48,6 +49,8 @@ struct Study
   std::vector<Category> categories = {};
   /// Null where all runs were read at the times that they have.
   std::shared_ptr<const MeasuredTimes> measured = nullptr;
+  /// How its table was read; null for a study that is no table, or where nobody knows.
+  std::shared_ptr<const ImportRequest> reading = nullptr;
 };
 
 /// The state of every run at its last point, as a study of one point per run; of a plain table the

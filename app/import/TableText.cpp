@@ -78,7 +78,11 @@ std::string ambiguousCell(const std::vector<ColumnValues>& columns, const Import
                       {std::to_string(comma->line), quotedForMessage(comma->text)});
   }
   if (!point || !comma)
+  {
+    if (point || comma)
+      report.settled.decimalMark = comma ? ',' : '.';
     return {};
+  }
   const NotedCell& later = point->line < comma->line ? *comma : *point;
   return withValues(
       translated("TableText",
@@ -142,6 +146,7 @@ private:
     shape = std::move(sniffed.value());
     report.reasons.insert(report.reasons.end(), shape.reasons.begin(), shape.reasons.end());
     report.warnings.insert(report.warnings.end(), shape.warnings.begin(), shape.warnings.end());
+    report.settled.separator = shape.separator;
     std::vector<std::string>& names = shape.headers;
     while (names.size() > 1 && withoutOuterBlanks(names.back()).empty())
       names.pop_back();

@@ -74,6 +74,7 @@ void dropStrangeGroups(SessionGroups& groups, const Study& study)
   if (study.runs && groups.groupOfRun.size() == study.runs->numberOfTrajectories)
     return;
   groups.groupOfRun.clear();
+  groups.category.clear();
   groups.look.groupColours = false;
   groups.look.groupMeans = false;
 }
@@ -93,6 +94,7 @@ Result<std::shared_ptr<const RestoredSession>> readRest(const ReadSessionParts& 
   study.name = settings.name;
   study.categories = settings.import.categories;
   study.measured = settings.import.measured;
+  study.reading = settings.import.reading;
   return Rest(std::make_shared<const RestoredSession>(
       RestoredSession{settings, file.end, table.further, table.selected}));
 }
@@ -130,7 +132,7 @@ SessionSettings settingsOf(const SessionSource& source)
       entry.column = places.of(entry.column);
   settings.asked = source.asked;
   settings.steps = source.steps;
-  settings.import = {study.categories, study.measured};
+  settings.import = {study.categories, study.measured, study.reading};
   settings.views = source.views;
   if (settings.views.runTable)
     for (int& item : settings.views.runTable->items)

@@ -21,7 +21,9 @@ namespace
 
 // The first byte keeps text tools away, as in PNG files.
 const QByteArray magic = QByteArrayLiteral("\x89TALMESH");
-constexpr quint32 formatVersion = 1;
+constexpr quint32 formatVersion = 2;
+/// What it has more than this one are settings, which are found missing then.
+constexpr quint32 oldestVersion = 1;
 constexpr int headerSize = 24;
 constexpr qint64 chunk = 4 << 20; ///< bytes between two reports of progress
 /// A QByteArray counts with int and has a header.
@@ -64,7 +66,7 @@ std::string objection(const QByteArray& bytes, qint64 size)
   const Header header = headerOf(bytes);
   if (header.version > formatVersion)
     return translated("SessionFile", "the session was written by a newer version of this program");
-  if (header.version < formatVersion || header.settingsSize > largestSettings ||
+  if (header.version < oldestVersion || header.settingsSize > largestSettings ||
       header.dumpSize > largestDump)
     return translated("SessionFile", "the session is damaged");
   const auto stated =

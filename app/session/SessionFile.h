@@ -46,7 +46,7 @@ bool isSessionFile(const QString& path);
 /// another way.
 QByteArray peekSettings(const QString& path);
 
-/// Writes version 1 of the format, all numbers big-endian:
+/// Writes version 2 of the format, all numbers big-endian:
 ///   8 bytes "\x89TALMESH", uint32 version, uint32 S, uint64 D,
 ///   S bytes of settings, D bytes of dump, and the SHA-256 of everything before it.
 /// @param end gets the checksum unless it is null

@@ -39,13 +39,16 @@ QString textOf(const std::vector<int>& groups)
 
 QJsonObject objectOf(const SessionGroups& groups)
 {
-  return {{"ofRun", textOf(groups.groupOfRun)},
-          {"count", groups.count},
-          {"mode", groups.mode},
-          {"colours", groups.look.groupColours},
-          {"means", groups.look.groupMeans},
-          {"bands", groups.look.quartileBands},
-          {"kept", groups.look.keptColours}};
+  QJsonObject object{{"ofRun", textOf(groups.groupOfRun)},
+                     {"count", groups.count},
+                     {"mode", groups.mode},
+                     {"colours", groups.look.groupColours},
+                     {"means", groups.look.groupMeans},
+                     {"bands", groups.look.quartileBands},
+                     {"kept", groups.look.keptColours}};
+  if (!groups.category.empty())
+    object["category"] = QString::fromStdString(groups.category);
+  return object;
 }
 
 SessionGroups readGroups(const QJsonObject& object)
@@ -54,6 +57,7 @@ SessionGroups readGroups(const QJsonObject& object)
   groups.groupOfRun = readMembers(object["ofRun"].toString());
   groups.count = object["count"].toInt();
   groups.mode = object["mode"].toInt();
+  groups.category = object["category"].toString().toStdString();
   groups.look = {object["colours"].toBool(), object["means"].toBool(), object["bands"].toBool(),
                  object["kept"].toBool()};
   return groups;

@@ -3,6 +3,7 @@
 
 #include <QJsonObject>
 
+#include <string>
 #include <vector>
 
 namespace Talmesh::app
@@ -30,6 +31,8 @@ struct SessionGroups
   int count = 0;
   /// The mode of the container's clustering.
   int mode = 0;
+  /// The label of the category whose texts the groups are; empty for others.
+  std::string category;
   RunLook look;
 };
 

@@ -1,7 +1,10 @@
 #include "app/session/SessionImport.h"
 
+#include "app/session/SessionReading.h"
+
 #include <QByteArray>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QString>
 #include <QtEndian>
 
@@ -90,6 +93,12 @@ QJsonObject objectOf(const SessionImport& import)
     object["categories"] = categories;
   if (import.measured && import.measured->times.size() * sizeof(double) <= mostBytes)
     object["measured"] = objectOf(*import.measured);
+  if (import.reading)
+  {
+    const QJsonObject reading = objectOf(*import.reading);
+    if (QJsonDocument(reading).toJson().size() <= static_cast<int>(mostBytes))
+      object["reading"] = reading;
+  }
   return object;
 }
 
@@ -107,6 +116,9 @@ SessionImport readImport(const QJsonObject& object)
   }
   if (object["measured"].isObject())
     import.measured = readMeasured(object["measured"].toObject());
+  if (object["reading"].isObject())
+    import.reading =
+        std::make_shared<const ImportRequest>(readReading(object["reading"].toObject()));
   return import;
 }
 

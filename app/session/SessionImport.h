@@ -1,6 +1,7 @@
 #ifndef SessionImport_h
 #define SessionImport_h
 
+#include "app/import/ImportRequest.h"
 #include "app/import/Study.h"
 
 #include <QJsonObject>
@@ -16,9 +17,11 @@ struct SessionImport
 {
   std::vector<Category> categories;
   std::shared_ptr<const MeasuredTimes> measured;
+  /// Without the path of a table of parameters; null where nobody knows how the table was read.
+  std::shared_ptr<const ImportRequest> reading;
 };
 
-/// Texts and times that take more than a megabyte each are left out.
+/// Texts, times and a reading that take more than a megabyte each are left out.
 QJsonObject objectOf(const SessionImport& import);
 
 /// What is damaged is left out.

@@ -107,6 +107,8 @@ Result<OpenedStudy> openTable(const QStringList& paths, const ImportTask& task,
   opened.study.runs = imported.value().runs;
   opened.study.table = imported.value().table;
   opened.study.categories = imported.value().categories;
+  opened.study.measured = imported.value().measured;
+  opened.study.reading = std::make_shared<const ImportRequest>(report.settled);
   opened.notes = imported.value().notes;
   return opened;
 }

@@ -26,11 +26,24 @@ const SessionParts small = {"{}", "dump"};
 QByteArray smallBytes()
 {
   return QByteArray::fromHex("8954414c4d455348" // \x89TALMESH
-                             "00000001"         // version
+                             "00000002"         // version
                              "00000002"         // size of the settings
                              "0000000000000004" // size of the dump
                              "7b7d"             // {}
                              "64756d70"         // dump
+                             "493fef2baae233c4c080320b1a819936"
+                             "b7a345fa385a6f7cd50bec847b64a25e");
+}
+
+/// The same as programs wrote it that knew version 1 only.
+QByteArray firstVersion()
+{
+  return QByteArray::fromHex("8954414c4d455348"
+                             "00000001"
+                             "00000002"
+                             "0000000000000004"
+                             "7b7d"
+                             "64756d70"
                              "45935019b7db7f099c8fbeb45458d526"
                              "f9db62b078491ea79a39e383415d43b8");
 }
@@ -157,10 +170,19 @@ TEST_F(SessionFile, ReadsNothingOfAFileThatWasNotWrittenToItsEnd)
   EXPECT_EQ(reports, 0);
 }
 
+TEST_F(SessionFile, ReadsFilesOfTheFirstVersion)
+{
+  const Result<ReadSessionParts> read = loadSessionFile(write(firstVersion()));
+  ASSERT_EQ(read.error(), "");
+  EXPECT_EQ(read.value().parts.settings, small.settings);
+  EXPECT_EQ(read.value().parts.dump, small.dump);
+  EXPECT_EQ(peekSettings(path()), small.settings);
+}
+
 TEST_F(SessionFile, SaysThatANewerVersionIsNeeded)
 {
   QByteArray newer = smallBytes();
-  newer[11] = 2;
+  newer[11] = 3;
   EXPECT_EQ(errorOf(newer), "the session was written by a newer version of this program");
   QByteArray none = smallBytes();
   none[11] = 0;
