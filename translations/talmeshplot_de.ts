@@ -44,6 +44,21 @@
     </message>
 </context>
 <context>
+    <name>CategoryGroups</name>
+    <message>
+        <source>The column %1 has no text for each run.</source>
+        <translation>Die Spalte %1 hat nicht für jeden Lauf einen Text.</translation>
+    </message>
+    <message>
+        <source>(no text)</source>
+        <translation>(kein Text)</translation>
+    </message>
+    <message>
+        <source>The column %1 has %2 different texts; there are colours for %3 groups.</source>
+        <translation>Die Spalte %1 hat %2 verschiedene Texte; Farben gibt es für %3 Gruppen.</translation>
+    </message>
+</context>
+<context>
     <name>ColouredRuns</name>
     <message>
         <source>Other runs</source>
@@ -280,6 +295,11 @@
     <message>
         <source>The runs are no Saltelli design of so many parameters, which has k + 2 or 2 k + 2 runs for each base sample.</source>
         <translation>Die Läufe sind kein Saltelli-Plan von so vielen Parametern, der k + 2 oder 2 k + 2 Läufe je Grundstichprobe hat.</translation>
+    </message>
+    <message>
+        <source>%1 more often</source>
+        <comment>a text of a category</comment>
+        <translation>%1 häufiger</translation>
     </message>
 </context>
 <context>
@@ -591,6 +611,13 @@
     <message>
         <source>it is not clear how the table is laid out. Say %1</source>
         <translation>es ist nicht klar, wie die Tabelle aufgebaut ist. Bitte angeben: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LevelBars</name>
+    <message>
+        <source>Share</source>
+        <translation>Anteil</translation>
     </message>
 </context>
 <context>
@@ -1929,10 +1956,6 @@ p, li { white-space: pre-wrap; }
         <translation>In wie viele Gruppen die Läufe eingeteilt werden</translation>
     </message>
     <message>
-        <source>What makes two runs alike; level and amplitude never count</source>
-        <translation>Worin sich zwei Läufe gleichen; Niveau und Amplitude zählen nie</translation>
-    </message>
-    <message>
         <source>Course over time</source>
         <translation>Zeitverlauf</translation>
     </message>
@@ -1943,10 +1966,6 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Magnitudes of the spectrum</source>
         <translation>Beträge des Spektrums</translation>
-    </message>
-    <message>
-        <source>Sort the runs into groups by the first y column</source>
-        <translation>Die Läufe nach der ersten y-Spalte in Gruppen einteilen</translation>
     </message>
     <message>
         <source>Click a group to select its runs</source>
@@ -1991,6 +2010,19 @@ p, li { white-space: pre-wrap; }
     <message>
         <source>Draw each run in the colour of its group, in the XY plot, the scatter-plot matrix and parallel coordinates</source>
         <translation>Jeden Lauf in der Farbe seiner Gruppe zeichnen, im XY-Diagramm, in der Streudiagramm-Matrix und in parallelen Koordinaten</translation>
+    </message>
+    <message>
+        <source>What makes two runs alike; of courses level and amplitude never count. Columns of texts make a group of each text</source>
+        <translation>Worin sich zwei Läufe gleichen; bei Verläufen zählen Niveau und Amplitude nie. Spalten mit Texten machen aus jedem Text eine Gruppe</translation>
+    </message>
+    <message>
+        <source>Sort the runs into groups by the first y column, or by a column of texts</source>
+        <translation>Die Läufe nach der ersten y-Spalte oder nach einer Spalte mit Texten in Gruppen einteilen</translation>
+    </message>
+    <message>
+        <source>Text in %1</source>
+        <comment>the name of a column</comment>
+        <translation>Text in %1</translation>
     </message>
 </context>
 <context>
@@ -2043,10 +2075,6 @@ p, li { white-space: pre-wrap; }
         <translation>Richtung</translation>
     </message>
     <message>
-        <source>Largest distance of the two empirical distribution functions; in brackets what holds the true distance with 95 %, where the runs are independent</source>
-        <translation>Größter Abstand der beiden empirischen Verteilungsfunktionen; in Klammern, was den wahren Abstand mit 95 % enthält, wo die Läufe unabhängig sind</translation>
-    </message>
-    <message>
         <source>Probability of such a difference, or a larger one, if the parameter had nothing to do with the selection</source>
         <translation>Wahrscheinlichkeit eines solchen oder größeren Unterschieds, wenn der Parameter nichts mit der Auswahl zu tun hätte</translation>
     </message>
@@ -2067,10 +2095,6 @@ p, li { white-space: pre-wrap; }
         <source>Δ med.</source>
         <comment>difference of medians, as a narrow header</comment>
         <translation>Δ Med.</translation>
-    </message>
-    <message>
-        <source>Adjusted p: for the number of parameters tested; bold where it and D meet the thresholds</source>
-        <translation>Korrigiertes p: für die Zahl der getesteten Parameter; fett, wo es und D die Schwellen erreichen</translation>
     </message>
     <message>
         <source>Adj. p</source>
@@ -2094,6 +2118,14 @@ p, li { white-space: pre-wrap; }
         <source>Others</source>
         <comment>the other runs</comment>
         <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Largest distance of the two empirical distribution functions; in brackets what holds the true distance with 95 %, where the runs are independent. Of texts without an order V: Cramér&apos;s measure of how much their shares differ, from 0 to 1</source>
+        <translation>Größter Abstand der beiden empirischen Verteilungsfunktionen; in Klammern, was den wahren Abstand mit 95 % enthält, wo die Läufe unabhängig sind. Bei Texten ohne Ordnung V: Cramérs Maß dafür, wie sehr sich ihre Anteile unterscheiden, von 0 bis 1</translation>
+    </message>
+    <message>
+        <source>Adjusted p: for the number of parameters tested; bold where it and D or V meet the thresholds</source>
+        <translation>Korrigiertes p: für die Zahl der getesteten Parameter; fett, wo es und D oder V die Schwellen erreichen</translation>
     </message>
 </context>
 <context>
@@ -3504,6 +3536,10 @@ Grafiken simulierter Läufe.</translation>
     <message>
         <source>Permutations of whole groups of runs that share values</source>
         <translation>Vertauschungen ganzer Gruppen von Läufen mit gemeinsamen Werten</translation>
+    </message>
+    <message>
+        <source>Permutations of the runs, for the counts per value</source>
+        <translation>Permutationen der Läufe, für die Anzahlen je Wert</translation>
     </message>
 </context>
 <context>

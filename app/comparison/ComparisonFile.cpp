@@ -20,9 +20,11 @@ QString numberCell(double value)
   return std::isnan(value) ? QString() : QString::number(value, 'g', allDigits);
 }
 
-QString directionCell(stats::Direction direction)
+QString directionCell(const ComparedParameter& parameter)
 {
-  switch (direction)
+  if (!parameter.leading.empty())
+    return QStringLiteral("more often: ") + QString::fromStdString(parameter.leading);
+  switch (parameter.result.direction)
   {
   case stats::Direction::larger:
     return QStringLiteral("larger in selected");
@@ -108,7 +110,7 @@ QString quotedIfNeeded(const QString& cell)
 QStringList comparisonColumns()
 {
   return QStringLiteral("parameter selected others D D_low D_high p p_adjusted method direction "
-                        "superiority median_difference")
+                        "superiority median_difference V")
       .split(QLatin1Char(' '));
 }
 
@@ -124,9 +126,10 @@ QStringList comparisonCells(const ComparedParameter& parameter)
           numberCell(result.p),
           numberCell(result.adjusted),
           methodCell(parameter),
-          directionCell(result.direction),
+          directionCell(parameter),
           numberCell(result.superiority),
-          numberCell(result.medianDifference)};
+          numberCell(result.medianDifference),
+          numberCell(result.association)};
 }
 
 QString commaLine(const QStringList& cells)

@@ -33,7 +33,7 @@ double numberIn(const stats::ParameterComparison& result, int column)
   switch (column)
   {
   case ComparisonModel::Statistic:
-    return result.distance;
+    return result.effect();
   case ComparisonModel::Superiority:
     return result.superiority;
   case ComparisonModel::MedianDifference:
@@ -67,6 +67,8 @@ QString ComparisonModel::testText(const stats::ParameterComparison& result, int 
   QStringList lines;
   if (adjusts)
     lines.append(adjustmentNames().value(static_cast<int>(result.adjustment)).text);
+  else if (result.isUnordered)
+    lines << methodText(result.method);
   else
     lines << comparedByNames().value(static_cast<int>(result.comparedBy)).text
           << methodText(result.method);
@@ -97,9 +99,9 @@ QString ComparisonModel::cellText(const ComparedParameter& parameter, int column
   case ComparisonModel::Name:
     return QString::fromStdString(parameter.name);
   case ComparisonModel::DirectionOfDifference:
-    return directionText(result.direction, names.selected);
+    return directionText(parameter, names.selected);
   case ComparisonModel::Statistic:
-    return distanceText(result);
+    return effectText(result);
   case ComparisonModel::PValue:
     return pText(result);
   case ComparisonModel::AdjustedPValue:
@@ -204,7 +206,10 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
                : tr("Direction");
   case Statistic:
     return tip ? tr("Largest distance of the two empirical distribution functions; in brackets "
-                    "what holds the true distance with 95 %, where the runs are independent")
+                    "what holds the true distance with 95 %, where the runs are independent. Of "
+                    "texts without an order V: Cram\u00e9r's measure of how much their shares "
+                    "differ, "
+                    "from 0 to 1")
                : tr("D");
   case Superiority:
     return tip ? tr("Superiority: probability that the value of a selected run exceeds that of "
@@ -219,8 +224,9 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
                     "nothing to do with the selection")
                : tr("p");
   case AdjustedPValue:
-    return tip ? tr("Adjusted p: for the number of parameters tested; bold where it and D meet the "
-                    "thresholds")
+    return tip ? tr("Adjusted p: for the number of parameters tested; bold where it and D or V "
+                    "meet "
+                    "the thresholds")
                : tr("Adj. p", "adjusted p, as a narrow header");
   case Selected:
   case Others:

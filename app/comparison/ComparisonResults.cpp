@@ -48,8 +48,12 @@ stats::ComparisonPlan planOf(const ComparedStudy& study, const ComparisonChoice&
   plan.leftOut = study.leftOut;
   const Positions positions = usable(study);
   for (std::size_t k = 0; k < positions.size(); ++k)
+  {
     if (isAmong(study.chosenBy, positions[k]))
       plan.chosenBy.push_back(k);
+    if (study.isCategory(positions[k]))
+      plan.unordered.push_back(k);
+  }
   return plan;
 }
 
@@ -79,7 +83,16 @@ TestObstacle obstacleOf(stats::NotTested reason)
 
 bool differs(const stats::ParameterComparison& row, const ComparisonChoice& choice)
 {
-  return row.adjusted <= choice.pThreshold && row.distance >= choice.ksThreshold;
+  return row.adjusted <= choice.pThreshold && row.effect() >= choice.ksThreshold;
+}
+
+/// The text of a number; empty for none.
+std::string levelOf(const ComparedStudy& study, std::size_t parameter, double number)
+{
+  if (!study.isCategory(parameter) || !(number >= 0.0))
+    return {};
+  const auto level = static_cast<std::size_t>(number);
+  return level < study.levels[parameter].size() ? study.levels[parameter][level] : std::string();
 }
 
 Comparison comparisonOf(const ComparedStudy& study, const ComparisonChoice& choice,
@@ -99,13 +112,15 @@ Comparison comparisonOf(const ComparedStudy& study, const ComparisonChoice& choi
          {},
          isAmong(study.labels, k) ? TestObstacle::label : TestObstacle::changingValues,
          false,
-         0});
+         0,
+         {}});
   const Positions positions = usable(study);
   for (std::size_t k = 0; k < results.parameters.size(); ++k)
   {
     ComparedParameter& row = comparison.parameters[positions[k]];
     row.result = results.parameters[k];
     row.obstacle = obstacleOf(row.result.reason);
+    row.leading = levelOf(study, positions[k], row.result.leading);
   }
   for (std::size_t k = 0; k < comparison.parameters.size(); ++k)
     comparison.parameters[k].result.parameter = k;
@@ -128,7 +143,7 @@ bool operator==(const ComparedStudy& one, const ComparedStudy& other)
          one.selected == other.selected && one.chosenBy == other.chosenBy &&
          one.leftOut == other.leftOut && one.inBoth == other.inBoth &&
          one.sides.selected == other.sides.selected && one.sides.others == other.sides.others &&
-         one.byWords == other.byWords && one.labels == other.labels &&
+         one.byWords == other.byWords && one.labels == other.labels && one.levels == other.levels &&
          std::equal(one.columns.begin(), one.columns.end(), other.columns.begin(),
                     other.columns.end(), areEqual);
 }

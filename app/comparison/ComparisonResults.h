@@ -43,6 +43,14 @@ struct ComparedStudy
   ComparedNames sides{};
   /// Whether words select the runs, so that they do so in halves.
   bool byWords = false;
+  /// Of each parameter the texts that its numbers 0, 1, 2, ... stand for; empty for numbers that
+  /// are numbers.
+  std::vector<std::vector<std::string>> levels{};
+
+  bool isCategory(std::size_t parameter) const
+  {
+    return parameter < levels.size() && !levels[parameter].empty();
+  }
 };
 
 bool operator==(const ComparedStudy& one, const ComparedStudy& other);
@@ -74,10 +82,12 @@ struct ComparedParameter
   std::string name;
   stats::ParameterComparison result;
   TestObstacle obstacle = TestObstacle::none;
-  /// Whether adjusted p and D meet the thresholds.
+  /// Whether adjusted p and D, or V of a category, meet the thresholds.
   bool significant = false;
   /// By which the half was drawn that the numbers speak of; 0 where they speak of all runs.
   std::uint64_t seedOfHalf = 0;
+  /// Of a category: the text that selected runs have more often than others, by most.
+  std::string leading{};
 };
 
 /// What can be said of a selection.

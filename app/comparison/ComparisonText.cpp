@@ -96,6 +96,14 @@ QString log10Text(const stats::ParameterComparison& result)
   return QStringLiteral("log10 p = %1").arg(result.logP / std::log(10.0), 0, 'f', 4);
 }
 
+QString directionText(const ComparedParameter& parameter, const std::string& selected)
+{
+  if (parameter.leading.empty())
+    return directionText(parameter.result.direction, selected);
+  return Words::tr("%1 more often", "a text of a category")
+      .arg(QString::fromStdString(parameter.leading));
+}
+
 QString directionText(stats::Direction direction, const std::string& selected)
 {
   const QString name = QString::fromStdString(selected);
@@ -113,8 +121,11 @@ QString directionText(stats::Direction direction, const std::string& selected)
   return {};
 }
 
-QString distanceText(const stats::ParameterComparison& result)
+QString effectText(const stats::ParameterComparison& result)
 {
+  if (result.isUnordered)
+    return std::isnan(result.association) ? QString()
+                                          : QStringLiteral("V ") + numberText(result.association);
   const QString distance = numberText(result.distance);
   if (std::isnan(result.interval.low))
     return distance;

@@ -23,8 +23,10 @@ QString log10Text(const stats::ParameterComparison& result);
 /// "larger in selected"
 /// @param selected as the selected runs are called; empty without a name
 QString directionText(stats::Direction direction, const std::string& selected = {});
-/// "0.53 (0.31-0.74)"; without what there is not.
-QString distanceText(const stats::ParameterComparison& result);
+/// The same of a parameter; of a category "aspirin more often".
+QString directionText(const ComparedParameter& parameter, const std::string& selected);
+/// "0.53 (0.31-0.74)"; without what there is not. "V 0.62" of a category.
+QString effectText(const stats::ParameterComparison& result);
 /// Why there is no p, in a word or two and in a sentence.
 QString obstacleLabel(TestObstacle obstacle);
 QString obstacleText(TestObstacle obstacle);

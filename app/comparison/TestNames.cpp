@@ -90,6 +90,8 @@ QString methodText(stats::TestMethod method)
     return Words::tr("Fisher's exact test of the counts per value");
   case stats::TestMethod::chiSquaredCounts:
     return Words::tr("Chi-squared test of the counts per value");
+  case stats::TestMethod::permutedRuns:
+    return Words::tr("Permutations of the runs, for the counts per value");
   case stats::TestMethod::permutedSets:
     return Words::tr("Permutations of whole parameter sets");
   case stats::TestMethod::permutedBaseSamples:
@@ -118,6 +120,8 @@ QString methodInFiles(const stats::ParameterComparison& result)
     return QStringLiteral("counts (Fisher)");
   case stats::TestMethod::chiSquaredCounts:
     return QStringLiteral("counts (chi-squared)");
+  case stats::TestMethod::permutedRuns:
+    return permutedInFiles("%1 (%2 permutations of runs; seed %3)", result);
   case stats::TestMethod::permutedSets:
     return permutedInFiles("%1 (%2 permutations of sets; seed %3)", result);
   case stats::TestMethod::permutedBaseSamples:

@@ -3,6 +3,8 @@
 #include "app/comparison/ReplicateLabels.h"
 #include "app/document/AskedParameters.h"
 #include "app/document/RunConditions.h"
+#include "app/document/ShownCategories.h"
+#include "app/document/TableRuns.h"
 #include "app/import/ColumnRoles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
@@ -16,8 +18,6 @@ namespace Talmesh::app
 
 namespace
 {
-
-constexpr std::array<unsigned char, 3> black = {0, 0, 0};
 
 const KeptSelection* findKept(const std::vector<KeptSelection>& kept, const std::string& name)
 {
@@ -72,9 +72,13 @@ void divide(const ComparedSides& sides, ComparedStudy& study)
   }
 }
 
-bool isAmong(const std::vector<std::size_t>& positions, std::size_t position)
+/// The texts that a column's numbers stand for; none for numbers that are numbers.
+std::vector<std::string> levelsOf(const PlotContainer& container, const std::string& column)
 {
-  return std::find(positions.begin(), positions.end(), position) != positions.end();
+  for (const Category& category : categoriesOf(container))
+    if (category.column == column)
+      return category.levels;
+  return {};
 }
 
 /// Missing values are equal. Each is compared with the one behind it, all at once: of many points
@@ -84,63 +88,6 @@ bool isConstant(const RunCourse& course)
   return course.size < 2 ||
          std::memcmp(course.y, course.y + 1, (course.size - 1) * sizeof(double)) == 0;
 }
-
-bool areEqual(const std::vector<double>& one, const std::vector<double>& other)
-{
-  return one.size() == other.size() &&
-         (one.empty() || std::memcmp(one.data(), other.data(), one.size() * sizeof(double)) == 0);
-}
-
-/// The values of each parameter in the runs of a group.
-class GroupValues
-{
-public:
-  GroupValues(PlotContainer& shown, const ComparedStudy& comparedRuns)
-      : container(shown)
-      , study(comparedRuns)
-      , runs(shown)
-  {
-  }
-
-  DistributionGroup of(const std::vector<bool>& members, const std::array<unsigned char, 3>& color)
-  {
-    DistributionGroup group;
-    group.color = color;
-    for (std::size_t k = 0; k < study.columns.size(); ++k)
-      group.values.push_back(isAmong(study.changing, k) ? ofPoints(k, members)
-                                                        : ofRuns(k, members));
-    return group;
-  }
-
-private:
-  std::vector<double> ofRuns(std::size_t k, const std::vector<bool>& members) const
-  {
-    std::vector<double> values;
-    for (std::size_t run = 0; run < study.columns[k].size(); ++run)
-      if (members[run])
-        values.push_back(study.columns[k][run]);
-    return values;
-  }
-
-  std::vector<double> ofPoints(std::size_t k, const std::vector<bool>& members) const
-  {
-    std::vector<double> values;
-    const int column = container.getMetaData()->parameterColumns[k];
-    if (!plot::doubleColumn(container.getTable(), column))
-      return values;
-    for (std::size_t run = 0; run < members.size(); ++run)
-    {
-      const RunCourse course = runs.course(run, column, -1);
-      if (members[run])
-        values.insert(values.end(), course.y, course.y + course.size);
-    }
-    return values;
-  }
-
-  PlotContainer& container;
-  const ComparedStudy& study;
-  TableRuns runs;
-};
 
 } // namespace
 
@@ -218,7 +165,9 @@ ComparedStudy comparedStudy(PlotContainer& container, const ComparedSides& sides
   for (const int column : container.getMetaData()->parameterColumns)
   {
     const std::size_t k = study.names.size();
-    study.names.push_back(shownName(plot::columnName(container.getTable(), column)));
+    const std::string name = plot::columnName(container.getTable(), column);
+    study.names.push_back(shownName(name));
+    study.levels.push_back(levelsOf(container, name));
     study.columns.emplace_back();
     const bool hasNumbers = plot::doubleColumn(container.getTable(), column) != nullptr;
     bool changes = !hasNumbers;
@@ -235,44 +184,6 @@ ComparedStudy comparedStudy(PlotContainer& container, const ComparedSides& sides
   }
   study.labels = replicateLabels(study);
   return study;
-}
-
-std::vector<DistributionGroup> drawnGroups(PlotContainer& container, const ComparedStudy& study,
-                                           const Comparison& comparison, const ComparedSides& sides)
-{
-  const std::size_t runs = study.selected.size();
-  const std::vector<char>& uncounted =
-      comparison.uncounted.empty() ? study.leftOut : comparison.uncounted;
-  std::vector<bool> selected(runs);
-  std::vector<bool> others(runs);
-  for (std::size_t run = 0; run < runs; ++run)
-  {
-    const bool counts = uncounted.empty() || uncounted[run] == 0;
-    selected[run] = counts && study.selected[run] != 0;
-    others[run] = counts && study.selected[run] == 0;
-  }
-  const auto isAny = [](const std::vector<bool>& members)
-  { return std::find(members.begin(), members.end(), true) != members.end(); };
-  GroupValues values(container, study);
-  std::vector<DistributionGroup> groups{values.of(std::vector<bool>(runs, true), black)};
-  if (!isAny(selected))
-    return groups;
-  groups.push_back(values.of(selected, sides.selected.color));
-  if (isAny(others))
-    groups.push_back(values.of(others, sides.colorOfOthers()));
-  return groups;
-}
-
-bool areSame(const std::vector<DistributionGroup>& ones,
-             const std::vector<DistributionGroup>& others)
-{
-  return std::equal(ones.begin(), ones.end(), others.begin(), others.end(),
-                    [](const DistributionGroup& one, const DistributionGroup& other)
-                    {
-                      return one.color == other.color &&
-                             std::equal(one.values.begin(), one.values.end(), other.values.begin(),
-                                        other.values.end(), areEqual);
-                    });
 }
 
 } // namespace Talmesh::app

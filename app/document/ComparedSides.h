@@ -59,19 +59,6 @@ std::string chooseSides(PlotContainer& container, const PlotWishes& wishes, Kept
 /// @param byWords whether it counts that the runs of both groups are selected by words
 ComparedStudy comparedStudy(PlotContainer& container, const ComparedSides& sides, bool byWords);
 
-/// The runs of which charts draw how parameters are distributed, so that they show what the numbers
-/// speak of: all of them in black, then the selected runs and the others that the comparison
-/// counts, as far as there are any. A parameter that changes within a run has the values of all its
-/// points.
-/// @param study what was compared, of the container as it is
-std::vector<DistributionGroup> drawnGroups(PlotContainer& container, const ComparedStudy& study,
-                                           const Comparison& comparison,
-                                           const ComparedSides& sides);
-
-/// Whether they have the same values, missing ones too, and colours.
-bool areSame(const std::vector<DistributionGroup>& ones,
-             const std::vector<DistributionGroup>& others);
-
 } // namespace Talmesh::app
 
 #endif

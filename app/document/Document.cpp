@@ -251,36 +251,6 @@ void Document::together(const std::function<void()>& changes)
   draw();
 }
 
-void Document::takeGroups(const RunClustering& found)
-{
-  grouped.take(found);
-  RunLook before = grouped.state().look;
-  before.groupColours = false;
-  showLook(before);
-}
-
-void Document::setLook(const RunLook& look)
-{
-  const RunLook before = grouped.state().look;
-  grouped.setLook(look);
-  showLook(before);
-}
-
-/// In a style that shows what is new of the look.
-void Document::showLook(const RunLook& before)
-{
-  const RunLook& look = grouped.state().look;
-  PlotChoice choice = shown.choice;
-  const bool newColours =
-      (look.groupColours && !before.groupColours) || (look.keptColours && !before.keptColours);
-  const bool newCourses =
-      (look.groupMeans && !before.groupMeans) || (look.quartileBands && !before.quartileBands);
-  if (newCourses || (newColours && !showsColoursOfRuns(viewerStyle(choice.style))))
-    choice.style = xyPlot;
-  choice.legend = choice.legend || (look.keptColours && !before.keptColours);
-  choose(choice);
-}
-
 /// The tables of selected and of other runs are copies of the plot's: they are made anew, which
 /// draws where there are parameters to compare.
 void Document::drawNewValues()

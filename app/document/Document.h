@@ -100,6 +100,8 @@ public:
   /// Takes groups that were found for the runs now shown, see `GroupedRuns::clustering`, and shows
   /// them in their colours.
   void takeGroups(const RunClustering& found);
+  /// The same with groups of the runs that have the same text, see `GroupedRuns::takeCategory`.
+  std::string takeCategory(const std::string& label);
   /// Shows the runs as the look says, in the XY plot if the style shows nothing of it, or not what
   /// is new in it. Colours of kept selections come with the legend.
   void setLook(const RunLook& look);
@@ -146,6 +148,7 @@ private:
   Result<bool> selectWished(const std::vector<std::string>& conditions);
   void restore(const RestoredSession& session);
   void summarise();
+  void showGroups();
   void showLook(const RunLook& before);
   void followAxes();
   void followKept();

@@ -1,5 +1,6 @@
 #include "app/document/GroupedRuns.h"
 
+#include "app/document/CategoryGroups.h"
 #include "app/document/ColouredRuns.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
@@ -94,13 +95,35 @@ void GroupedRuns::take(const RunClustering& found)
   found.handOver(*container);
   kept.groupOfRun = membershipOf(*container);
   named = namedGroups(kept.groupOfRun);
+  kept.category.clear();
   kept.look.groupColours = !named.names.empty();
+}
+
+std::vector<std::string> GroupedRuns::categories() const
+{
+  return container ? groupableCategories(*container) : std::vector<std::string>();
+}
+
+std::string GroupedRuns::takeCategory(const std::string& label)
+{
+  if (!container)
+    return {};
+  const Result<RunGroups> found = groupsOfCategory(*container, label);
+  if (!found.hasValue())
+    return found.error();
+  named = found.value();
+  kept.groupOfRun = named.groupOfRun;
+  kept.category = label;
+  kept.look.groupColours = true;
+  return {};
 }
 
 void GroupedRuns::restore(const SessionGroups& groups)
 {
   kept.groupOfRun = groups.groupOfRun;
   named = namedGroups(kept.groupOfRun);
+  if (!groups.category.empty())
+    takeCategory(groups.category);
   if (groups.count >= 1 && groups.count <= mostPossible())
     kept.count = groups.count;
   if (isMode(groups.mode))

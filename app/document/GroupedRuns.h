@@ -72,6 +72,12 @@ public:
   std::shared_ptr<RunClustering> clustering() const;
   /// Takes the groups that it has found, and has them coloured. Draws nothing.
   void take(const RunClustering& found);
+  /// The labels of the columns of texts that runs have one of each.
+  std::vector<std::string> categories() const;
+  /// Makes a group of the runs of each text of such a column, in the order of the texts, and one of
+  /// the runs without any, and has them coloured. Draws nothing.
+  /// @return why that cannot be, in one line; nothing has changed then. Empty on success
+  std::string takeCategory(const std::string& label);
   /// Draws nothing.
   void setLook(const RunLook& look);
   /// Selects the runs of a group.

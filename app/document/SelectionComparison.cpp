@@ -2,6 +2,7 @@
 
 #include "app/comparison/ComparisonText.h"
 #include "app/document/ComparedSides.h"
+#include "app/document/DrawnGroups.h"
 #include "app/styles/ViewerStyles.h"
 #include "external/PlotMetaData.h"
 #include "plot/PlotContainer.h"
@@ -37,8 +38,8 @@ std::vector<ParameterTest> testsOf(const Comparison& comparison, std::size_t par
   for (std::size_t k = 0; k < std::min(parameters, comparison.parameters.size()); ++k)
   {
     const ComparedParameter& row = comparison.parameters[k];
-    const double distance = std::isnan(row.result.distance) ? 0.0 : row.result.distance;
-    tests[k] = {row.result.adjusted, distance, chartTitle(row).toStdString()};
+    const double effect = std::isnan(row.result.effect()) ? 0.0 : row.result.effect();
+    tests[k] = {row.result.adjusted, effect, chartTitle(row).toStdString()};
   }
   return tests;
 }
@@ -70,11 +71,19 @@ void SelectionComparison::follow(PlotContainer* container)
   comparison = {};
   handed.clear();
   drawn.clear();
+  bars.clear();
   seen.clear();
   lookedBefore = 0;
   isRestored = false;
-  if (container)
-    container->addPreparation(this, [this] { update(); });
+  if (!container)
+    return;
+  container->addPreparation(this, [this] { update(); });
+  container->addCompletion(this,
+                           [this]
+                           {
+                             if (showsDistributions())
+                               drawLevelBars(*followed, bars);
+                           });
 }
 
 void SelectionComparison::setLookedBefore(std::size_t count)
@@ -176,16 +185,24 @@ bool SelectionComparison::handOver()
          !std::equal(before.begin(), before.end(), handed.begin(), handed.end(), isSame);
 }
 
+bool SelectionComparison::showsDistributions() const
+{
+  return followed && viewerStyle(followed->getMetaData()->getPlotStyle()).showsDistributions;
+}
+
 /// @return as handOver()
 bool SelectionComparison::handOverGroups()
 {
   // Another style than this one shows none; they are handed over before it is drawn.
-  if (!viewerStyle(followed->getMetaData()->getPlotStyle()).showsDistributions)
+  if (!showsDistributions())
     return false;
-  std::vector<DistributionGroup> groups = drawnGroups(*followed, *compared, comparison, sides);
-  if (areSame(groups, drawn))
+  const std::vector<DrawnRunGroup> runs = drawnRunGroups(*compared, comparison, sides);
+  std::vector<DistributionGroup> groups = drawnGroups(*followed, *compared, runs);
+  std::vector<LevelShares> shares = levelShares(*compared, runs);
+  if (areSame(groups, drawn) && shares == bars)
     return false;
   drawn = std::move(groups);
+  bars = std::move(shares);
   followed->setDistributionGroups(drawn);
   return true;
 }

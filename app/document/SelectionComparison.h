@@ -3,6 +3,7 @@
 
 #include "app/comparison/ComparisonResults.h"
 #include "app/document/ComparedSides.h"
+#include "app/document/LevelBars.h"
 #include "plot/DistributionGroup.h"
 #include "plot/KsStatistics.h"
 
@@ -79,6 +80,7 @@ private:
   void take(const Comparison& found);
   bool handOver();
   bool handOverGroups();
+  bool showsDistributions() const;
 
   QPointer<PlotContainer> followed;
   Background background;
@@ -91,6 +93,7 @@ private:
   Comparison comparison;
   std::vector<ParameterTest> handed;
   std::vector<DistributionGroup> drawn;
+  std::vector<LevelShares> bars;
   /// Fingerprints of selections.
   std::set<std::size_t> seen;
   std::size_t lookedBefore = 0;

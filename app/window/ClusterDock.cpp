@@ -1,5 +1,6 @@
 #include "app/window/ClusterDock.h"
 
+#include "app/import/ColumnRoles.h"
 #include "app/panels/PanelParts.h"
 
 #include <QCheckBox>
@@ -31,12 +32,10 @@ ClusterDock::ClusterDock(QWidget* parent)
   count->setObjectName(QStringLiteral("clusterCount"));
   count->setToolTip(tr("Into how many groups the runs are sorted"));
   modes->setObjectName(QStringLiteral("clusterMode"));
-  modes->setToolTip(tr("What makes two runs alike; level and amplitude never count"));
-  modes->addItem(tr("Course over time"), byCourse);
-  modes->addItem(tr("Phases of the spectrum"), byPhases);
-  modes->addItem(tr("Magnitudes of the spectrum"), byMagnitudes);
+  modes->setToolTip(tr("What makes two runs alike; of courses level and amplitude never count. "
+                       "Columns of texts make a group of each text"));
   start->setObjectName(QStringLiteral("clusterStart"));
-  start->setToolTip(tr("Sort the runs into groups by the first y column"));
+  start->setToolTip(tr("Sort the runs into groups by the first y column, or by a column of texts"));
   list->setObjectName(QStringLiteral("clusterList"));
   list->setToolTip(tr("Click a group to select its runs"));
   list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
@@ -44,12 +43,16 @@ ClusterDock::ClusterDock(QWidget* parent)
   makeForm();
   connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, &ClusterDock::groupingChanged);
   connect(modes, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-          &ClusterDock::groupingChanged);
+          [this]
+          {
+            enableCount();
+            emit groupingChanged();
+          });
   connect(start, &QPushButton::clicked, this, &ClusterDock::groupingRequested);
   const auto choose = [this](QListWidgetItem* item) { emit groupChosen(list->row(item)); };
   connect(list, &QListWidget::itemClicked, this, choose);
   connect(list, &QListWidget::itemActivated, this, choose);
-  reset(0, {});
+  reset(0, {}, {});
 }
 
 void ClusterDock::makeForm()
@@ -89,7 +92,29 @@ QCheckBox* ClusterDock::addSwitch(const QString& name, const QString& text, cons
   return box;
 }
 
-void ClusterDock::reset(int most, const QString& reason)
+void ClusterDock::fillModes(bool haveCourses, const std::vector<std::string>& categories)
+{
+  const QSignalBlocker silent(modes);
+  modes->clear();
+  if (haveCourses)
+  {
+    modes->addItem(tr("Course over time"), byCourse);
+    modes->addItem(tr("Phases of the spectrum"), byPhases);
+    modes->addItem(tr("Magnitudes of the spectrum"), byMagnitudes);
+  }
+  for (const std::string& label : categories)
+    modes->addItem(
+        tr("Text in %1", "the name of a column").arg(QString::fromStdString(shownName(label))),
+        QString::fromStdString(label));
+}
+
+/// Texts say themselves how many groups they are.
+void ClusterDock::enableCount()
+{
+  count->setEnabled(modes->isEnabled() && category().empty());
+}
+
+void ClusterDock::reset(int most, const std::vector<std::string>& categories, const QString& reason)
 {
   const bool usable = reason.isEmpty();
   reasonLabel->setText(reason);
@@ -98,15 +123,18 @@ void ClusterDock::reset(int most, const QString& reason)
     const QSignalBlocker silent(count);
     count->setRange(1, std::max(1, most));
   }
+  fillModes(most > 0 || categories.empty(), categories);
   list->clear();
   for (QCheckBox* box : {colours, means, bands, normalise})
   {
     const QSignalBlocker silent(box);
     box->setChecked(false);
   }
-  const std::initializer_list<QWidget*> controls = {count, modes, start, list, bands, normalise};
-  for (QWidget* control : controls)
+  for (QWidget* control : std::initializer_list<QWidget*>{modes, start, list})
     control->setEnabled(usable);
+  for (QWidget* control : std::initializer_list<QWidget*>{bands, normalise})
+    control->setEnabled(usable && most > 0);
+  enableCount();
   enableGroupSwitches();
 }
 
@@ -123,7 +151,7 @@ void ClusterDock::setGroups(const RunGroups& groups)
 void ClusterDock::enableGroupSwitches()
 {
   colours->setEnabled(list->count() > 0);
-  means->setEnabled(list->count() > 0);
+  means->setEnabled(list->count() > 0 && bands->isEnabled());
 }
 
 void ClusterDock::setNormalised(bool on)
@@ -132,12 +160,15 @@ void ClusterDock::setNormalised(bool on)
   normalise->setChecked(on);
 }
 
-void ClusterDock::setGrouping(int groupCount, int mode)
+void ClusterDock::setGrouping(int groupCount, int mode, const std::string& category)
 {
   const QSignalBlocker silentCount(count);
   const QSignalBlocker silentModes(modes);
   count->setValue(groupCount);
-  modes->setCurrentIndex(modes->findData(mode));
+  const int chosen =
+      category.empty() ? modes->findData(mode) : modes->findData(QString::fromStdString(category));
+  modes->setCurrentIndex(std::max(chosen, 0));
+  enableCount();
 }
 
 void ClusterDock::setLook(const RunLook& look)
@@ -159,6 +190,12 @@ int ClusterDock::groupCount() const
 int ClusterDock::mode() const
 {
   return modes->currentData().toInt();
+}
+
+std::string ClusterDock::category() const
+{
+  const QVariant data = modes->currentData();
+  return data.userType() == QMetaType::QString ? data.toString().toStdString() : std::string();
 }
 
 RunLook ClusterDock::look() const

@@ -24,20 +24,25 @@ public:
   explicit ClusterDock(QWidget* parent = nullptr);
 
   /// Starts anew for data that can be sorted into so many groups, without any. Emits nothing.
+  /// @param most 0 for runs that have no course
+  /// @param categories labels of columns of texts whose runs can be groups
   /// @param reason why the panel can do nothing with the data; empty when it can
-  void reset(int most, const QString& reason);
+  void reset(int most, const std::vector<std::string>& categories, const QString& reason);
   /// Lists groups. Emits nothing.
   void setGroups(const RunGroups& groups);
   /// Emits nothing.
   void setNormalised(bool on);
   /// Says how groups are made. Emits nothing.
-  void setGrouping(int groupCount, int mode);
+  /// @param category the label of a column of texts; empty for what `mode` says
+  void setGrouping(int groupCount, int mode, const std::string& category);
   /// Emits nothing.
   void setLook(const RunLook& look);
 
   int groupCount() const;
   /// The mode of the container's clustering.
   int mode() const;
+  /// The column of texts that is chosen in its place; empty for none.
+  std::string category() const;
   RunLook look() const;
 
 signals:
@@ -51,7 +56,9 @@ signals:
 private:
   void makeForm();
   QCheckBox* addSwitch(const QString& name, const QString& text, const QString& toolTip);
+  void fillModes(bool haveCourses, const std::vector<std::string>& categories);
   void enableGroupSwitches();
+  void enableCount();
 
   QLabel* reasonLabel;
   QSpinBox* count;

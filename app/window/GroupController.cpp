@@ -20,7 +20,11 @@ GroupController::GroupController(ClusterDock& panel, Document& shown, TaskBar& b
   bar.follow(*runner, QStringLiteral("cancelGrouping"));
   connect(&bar, &TaskBar::cancelled, this, &GroupController::cancel);
   connect(&dock, &ClusterDock::groupingChanged, this,
-          [this] { document.groups().setGrouping(dock.groupCount(), dock.mode()); });
+          [this]
+          {
+            if (dock.category().empty())
+              document.groups().setGrouping(dock.groupCount(), dock.mode());
+          });
   connect(&dock, &ClusterDock::groupingRequested, this, &GroupController::group);
   connect(&dock, &ClusterDock::groupChosen, this,
           [this](int group) { document.groups().select(group); });
@@ -48,11 +52,13 @@ GroupController::~GroupController()
 void GroupController::showStudy()
 {
   const GroupedRuns& groups = document.groups();
-  const bool usable = groups.runs() > 0;
-  dock.reset(usable ? groups.mostPossible() : 0,
-             usable ? QString() : tr("This data has no runs over time to group."));
+  const bool haveCourses = groups.runs() > 0;
+  const std::vector<std::string> categories = groups.categories();
+  dock.reset(haveCourses ? groups.mostPossible() : 0, categories,
+             haveCourses || !categories.empty() ? QString()
+                                                : tr("This data has no runs over time to group."));
   dock.setGroups(groups.groups());
-  dock.setGrouping(groups.state().count, groups.state().mode);
+  dock.setGrouping(groups.state().count, groups.state().mode, groups.state().category);
   dock.setLook(groups.state().look);
   showNormalised();
 }
@@ -70,8 +76,25 @@ std::shared_ptr<RunClustering> GroupController::prepare()
   }
 }
 
+void GroupController::groupByTexts(const std::string& label)
+{
+  runner->cancel();
+  const std::string failure = document.takeCategory(label);
+  if (!failure.empty())
+    emit failed(QString::fromStdString(failure));
+  showGroups();
+}
+
+void GroupController::showGroups()
+{
+  dock.setGroups(document.groups().groups());
+  dock.setLook(document.groups().state().look);
+}
+
 void GroupController::group()
 {
+  if (const std::string label = dock.category(); !label.empty())
+    return groupByTexts(label);
   // A copy of the runs, which may be large.
   const std::shared_ptr<RunClustering> clustering = prepare();
   if (!clustering)
@@ -101,8 +124,7 @@ void GroupController::take(const Result<std::shared_ptr<RunClustering>>& found)
   if (!found.hasValue())
     return;
   document.takeGroups(*found.value());
-  dock.setGroups(document.groups().groups());
-  dock.setLook(document.groups().state().look);
+  showGroups();
 }
 
 bool GroupController::isGrouping() const

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <string>
 
 namespace Talmesh
 {
@@ -49,6 +50,8 @@ signals:
 private:
   std::shared_ptr<RunClustering> prepare();
   void group();
+  void groupByTexts(const std::string& label);
+  void showGroups();
   void cancel();
   void take(const Result<std::shared_ptr<RunClustering>>& found);
   void showStudy();

@@ -85,7 +85,7 @@ TEST_F(ComparisonProgram, WritesTheTableWithAllDigits)
   ASSERT_EQ(lines.size(), 3U);
   EXPECT_EQ(lines[0].join(QLatin1Char(' ')),
             "parameter selected others D D_low D_high p p_adjusted method direction superiority "
-            "median_difference");
+            "median_difference V");
   std::vector<double> k, s;
   std::vector<char> selected;
   for (int run = 0; run < 12; ++run)

@@ -37,9 +37,9 @@ TEST(ComparisonFile, HasAllDigitsAndQuotes)
 {
   EXPECT_EQ(commaText({sample()}).toStdString(),
             "parameter,selected,others,D,D_low,D_high,p,p_adjusted,method,direction,superiority,"
-            "median_difference\n"
+            "median_difference,V\n"
             "\"k, \"\"2\"\"\",3,4,0.10000000000000001,0,1,0.22857142857142856,1,"
-            "Kolmogorov-Smirnov (exact),larger in selected,0.91666666666666663,-3.5\n");
+            "Kolmogorov-Smirnov (exact),larger in selected,0.91666666666666663,-3.5,\n");
 }
 
 TEST(ComparisonFile, SaysWhyThereIsNoP)
@@ -50,7 +50,7 @@ TEST(ComparisonFile, SaysWhyThereIsNoP)
   parameter.result.selected = 2;
   parameter.result.others = 4;
   EXPECT_EQ(comparisonCells(parameter).join(QLatin1Char(',')).toStdString(),
-            "k,2,4,,,,,,not tested: too few sets,,,");
+            "k,2,4,,,,,,not tested: too few sets,,,,");
 }
 
 TEST(ComparisonFile, NamesTheStatisticThatIsPermuted)

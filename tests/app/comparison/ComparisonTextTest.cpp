@@ -80,11 +80,11 @@ TEST(ComparisonText, SaysOfPermutationsWhatTheyCannotTell)
 TEST(ComparisonText, ShowsTheIntervalWhereThereIsOne)
 {
   stats::ParameterComparison result;
-  EXPECT_EQ(distanceText(result), "");
+  EXPECT_EQ(effectText(result), "");
   result.distance = 0.527;
-  EXPECT_EQ(distanceText(result), "0.527");
+  EXPECT_EQ(effectText(result), "0.527");
   result.interval = {0.0, 1.0};
-  EXPECT_EQ(distanceText(result).toStdString(), "0.527 (0.00\u20131.00)");
+  EXPECT_EQ(effectText(result).toStdString(), "0.527 (0.00\u20131.00)");
 }
 
 TEST(ComparisonText, TakesAsManyDigitsAsAReaderCompares)

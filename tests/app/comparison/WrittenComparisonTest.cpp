@@ -14,10 +14,10 @@ namespace
 
 constexpr const char* tabbedHeader = "parameter\tselected\tothers\tD\tD_low\tD_high\tp\t"
                                      "p_adjusted\tmethod\tdirection\tsuperiority\t"
-                                     "median_difference\n";
+                                     "median_difference\tV\n";
 constexpr const char* tabbedSecond = "k, \"2\"\t8\t12\t0.5\t\t\t0.029999999999999999\t"
                                      "0.044999999999999998\tKolmogorov-Smirnov (exact)\t"
-                                     "larger in selected\t0.75\t-2.5\n";
+                                     "larger in selected\t0.75\t-2.5\t\n";
 
 } // namespace
 
