@@ -33,7 +33,8 @@ struct NamedList
 constexpr NamedList lists[] = {{"run", &ImportRequest::run},
                                {"parameter", &ImportRequest::parameters},
                                {"condition", &ImportRequest::conditions},
-                               {"ignore", &ImportRequest::ignored}};
+                               {"ignore", &ImportRequest::ignored},
+                               {"measured", &ImportRequest::measured}};
 
 constexpr std::string_view separators = ",;|: \t";
 constexpr std::string_view decimalMarks = ".,";

@@ -32,6 +32,7 @@ ImportRequest everything()
   reading.parameters = {"k1", "k2"};
   reading.conditions = {"drug"};
   reading.ignored = {"note"};
+  reading.measured = {"X"};
   reading.separator = '\t';
   reading.decimalMark = ',';
   reading.unequal = UnequalRuns::Interpolate;
@@ -79,7 +80,7 @@ TEST(SessionReading, KeepsAllThatOptionsSay)
   const ImportRequest said = everything();
   const ImportRequest kept = readReading(objectOf(said));
   EXPECT_EQ(objectOf(kept), objectOf(said));
-  EXPECT_EQ(objectOf(kept).size(), 14);
+  EXPECT_EQ(objectOf(kept).size(), 15);
   EXPECT_EQ(kept.run, said.run);
   EXPECT_EQ(kept.separator, '\t');
   EXPECT_EQ(kept.decimalMark, ',');
