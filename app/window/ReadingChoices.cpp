@@ -17,7 +17,7 @@ namespace Talmesh::app
 namespace
 {
 
-constexpr int boxCharacters = 12;
+constexpr int boxCharacters = 8;
 
 QString nameOfSeparator(char separator)
 {

@@ -11,6 +11,7 @@
 #include <QTableView>
 #include <QTest>
 
+#include "formats/WrittenFiles.h"
 #include "window/ImportInWindow.h"
 
 using namespace Talmesh::app;
@@ -116,4 +117,35 @@ TEST_F(ImportDialogs, OfferTextsWhatTheyHave)
   EXPECT_FALSE(part<QComboBox>("readingFiles")->isEnabled());
   choose("readingSeparator", "comma ,");
   EXPECT_EQ(part<QTableView>("importTable")->model()->columnCount(), 1);
+}
+
+TEST_F(ImportDialogs, OfferFilesOfNumbersNoSeparators)
+{
+  const std::vector<double> numbers = {0, 1, 1, 2, 2, 3};
+  openAs(write("numbers.npy", npy("<f8", "(3, 2)", bytesOf(numbers))));
+  EXPECT_FALSE(part<QComboBox>("readingSeparator")->isEnabled());
+  EXPECT_FALSE(part<QComboBox>("readingDecimal")->isEnabled());
+  EXPECT_TRUE(part<QLineEdit>("readingSheet")->isEnabled());
+  EXPECT_TRUE(part<QComboBox>("readingLayout")->isEnabled());
+  EXPECT_GT(part<QTableView>("importTable")->model()->rowCount(), 0);
+  end(QDialogButtonBox::Cancel);
+}
+
+TEST_F(ImportDialogs, StayAliveWhileALongTableIsRead)
+{
+  std::string text = "run,time,A\n";
+  for (int run = 0; run < 400; ++run)
+    for (int time = 0; time < 500; ++time)
+      text += std::to_string(run) + ',' + std::to_string(time) + ",0.5\n";
+  openAs(write("long.csv", text));
+  EXPECT_TRUE(count().startsWith("400 runs of 500 points")) << count().toStdString();
+  auto* layout = part<QComboBox>("readingLayout");
+  layout->setFocus();
+  // Each key has the table read once more, and gives up what is being read.
+  for (int i = 0; i < 6; ++i)
+    QTest::keyClick(layout, i % 2 == 0 ? Qt::Key_Down : Qt::Key_Up);
+  EXPECT_TRUE(count().startsWith("Reading")) << "answers before the table is read";
+  ASSERT_TRUE(isRead());
+  EXPECT_TRUE(count().startsWith("400 runs of 500 points")) << count().toStdString();
+  end(QDialogButtonBox::Cancel);
 }
