@@ -78,6 +78,12 @@ void keepFirstRows(NamedColumn& column)
 
 } // namespace
 
+bool mayHaveParts(const QStringList& paths)
+{
+  const QStringList files = namedFiles(paths);
+  return !files.isEmpty() && formatOf(files.front());
+}
+
 Result<TableSample> readTableSample(const QStringList& paths, const std::string& sheet,
                                     const ImportProgress& progress)
 {
@@ -94,7 +100,6 @@ Result<TableSample> readTableSample(const QStringList& paths, const std::string&
     return Result<TableSample>::without(content);
   TableSample sample;
   sample.start = std::move(content.value());
-  sample.hasParts = true;
   std::string& text = sample.start.text;
   const std::size_t head = headText(text).size();
   sample.isWhole = sample.start.isText() && head == text.size();

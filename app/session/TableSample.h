@@ -22,9 +22,11 @@ struct TableSample
   FileContent start;
   /// Whether the file holds nothing else.
   bool isWhole = false;
-  /// Whether the file may hold several tables: sheets, arrays, groups.
-  bool hasParts = false;
 };
+
+/// Whether the first of these files may hold several tables: sheets, arrays, groups. May run in any
+/// thread.
+bool mayHaveParts(const QStringList& paths);
 
 /// Reads the start of the first of these files, or of the tables of a folder or pattern. Long texts
 /// are not read to their end. May run in any thread.

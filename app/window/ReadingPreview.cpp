@@ -16,6 +16,7 @@ struct ReadingPreview::Start
   FirstRows rows;
   PreviewedReading reading;
   std::string key;
+  bool hasParts = false;
 };
 
 ReadingPreview::ReadingPreview(QStringList paths, QObject* parent)
@@ -54,11 +55,19 @@ Result<ReadingPreview::Start> ReadingPreview::readStart(const QStringList& paths
                                                         const ImportProgress& progress)
 {
   Start start;
+  start.hasParts = mayHaveParts(paths);
+  start.reading.isSample = true;
   if (!sample)
   {
     Result<TableSample> read = readTableSample(paths, request.sheet, progress);
+    if (read.isCancelled())
+      return Result<Start>::cancelled();
     if (!read.hasValue())
-      return Result<Start>::without(read);
+    {
+      // Of a file of several tables the user can name one.
+      start.reading.refusal = QString::fromStdString(read.error());
+      return start;
+    }
     sample = std::make_shared<const TableSample>(std::move(read.value()));
   }
   start.sample = sample;
@@ -71,7 +80,6 @@ Result<ReadingPreview::Start> ReadingPreview::readStart(const QStringList& paths
     start.key = ReadingTemplates::keyOf(*sample, paths.size() > 1);
   if (!sample->isWhole && sample->start.isText())
     start.reading.report = reportOf(*sample, request);
-  start.reading.isSample = true;
   return start;
 }
 
@@ -81,7 +89,7 @@ void ReadingPreview::showStart(const Result<Start>& result, const ImportRequest&
   {
     const Start& start = result.value();
     known = start.sample;
-    parts = known->hasParts;
+    parts = start.hasParts;
     if (request.sheet.empty())
       key = start.key;
     const int shown = turn;

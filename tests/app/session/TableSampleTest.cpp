@@ -25,8 +25,8 @@ TEST_F(TableSamples, AreAllOfAShortText)
 {
   const TableSample sample = sampleOf(write("a.csv", "time,A\n0,1\n1,2"));
   EXPECT_TRUE(sample.isWhole);
-  EXPECT_FALSE(sample.hasParts);
   EXPECT_EQ(sample.start.text, "time,A\n0,1\n1,2");
+  EXPECT_FALSE(mayHaveParts({folder.filePath("a.csv")}));
 }
 
 TEST_F(TableSamples, AreWholeLinesOfALongText)

@@ -122,12 +122,30 @@ TEST_F(ImportDialogs, OfferTextsWhatTheyHave)
 TEST_F(ImportDialogs, OfferFilesOfNumbersNoSeparators)
 {
   const std::vector<double> numbers = {0, 1, 1, 2, 2, 3};
-  openAs(write("numbers.npy", npy("<f8", "(3, 2)", bytesOf(numbers))));
+  openAs(write("numbers.npy", npy("'<f8'", "(3, 2)", bytesOf(numbers))));
   EXPECT_FALSE(part<QComboBox>("readingSeparator")->isEnabled());
   EXPECT_FALSE(part<QComboBox>("readingDecimal")->isEnabled());
   EXPECT_TRUE(part<QLineEdit>("readingSheet")->isEnabled());
   EXPECT_TRUE(part<QComboBox>("readingLayout")->isEnabled());
   EXPECT_GT(part<QTableView>("importTable")->model()->rowCount(), 0);
+  end(QDialogButtonBox::Cancel);
+}
+
+TEST_F(ImportDialogs, LetTheUserNameATableOfSeveral)
+{
+  const QString file = folder.filePath(QStringLiteral("several.npz"));
+  const std::string plane = npy("'<f8'", "(2, 2)", bytesOf<double>({0, 1, 2, 3}));
+  writeZipTo(file, {{"A.npy", plane}, {"B.npy", plane}});
+  openAs(file);
+  EXPECT_FALSE(button(QDialogButtonBox::Open)->isEnabled());
+  auto* sheet = part<QLineEdit>("readingSheet");
+  ASSERT_TRUE(sheet->isEnabled());
+  sheet->setFocus();
+  QTest::keyClicks(sheet, "B");
+  QTest::keyClick(sheet, Qt::Key_Tab);
+  ASSERT_TRUE(
+      QTest::qWaitFor([this] { return button(QDialogButtonBox::Open)->isEnabled(); }, patience));
+  EXPECT_EQ(part<QTableView>("importTable")->model()->rowCount(), 2);
   end(QDialogButtonBox::Cancel);
 }
 
