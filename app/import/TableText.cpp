@@ -77,12 +77,10 @@ std::string ambiguousCell(const std::vector<ColumnValues>& columns, const Import
                                  "between thousands (write the table without them)"),
                       {std::to_string(comma->line), quotedForMessage(comma->text)});
   }
+  if (point || comma)
+    report.settled.decimalMark = comma ? ',' : '.';
   if (!point || !comma)
-  {
-    if (point || comma)
-      report.settled.decimalMark = comma ? ',' : '.';
     return {};
-  }
   const NotedCell& later = point->line < comma->line ? *comma : *point;
   return withValues(
       translated("TableText",
@@ -98,11 +96,11 @@ std::string otherFields(const std::string& line, std::size_t count, std::size_t 
                                  ? translated("TableText", "the first line")
                                  : withValues(translated("TableText", "the header in line %1"),
                                               {std::to_string(headerLine)});
-  const std::string have = std::to_string(wanted);
-  return count == 1 ? withValues(translated("TableText", "line %1 has 1 field, %3 has %2"),
-                                 {line, have, header})
-                    : withValues(translated("TableText", "line %1 has %2 fields, %4 has %3"),
-                                 {line, std::to_string(count), have, header});
+  if (count == 1)
+    return withValues(translated("TableText", "line %1 has 1 field, %3 has %2"),
+                      {line, std::to_string(wanted), header});
+  return withValues(translated("TableText", "line %1 has %2 fields, %4 has %3"),
+                    {line, std::to_string(count), std::to_string(wanted), header});
 }
 
 class TableTextReader
@@ -151,11 +149,12 @@ private:
     while (names.size() > 1 && withoutOuterBlanks(names.back()).empty())
       names.pop_back();
     if (names.size() > mostColumns)
+    {
       error =
           withValues(translated("TableText", "the table has %1 columns; at most %2 can be read"),
                      {std::to_string(names.size()), std::to_string(mostColumns)});
-    if (!error.empty())
       return;
+    }
     std::vector<std::string> headers;
     std::transform(names.begin(), names.end(), std::back_inserter(headers), toUtf8);
     table.roles = assignRoles(headers);
@@ -204,8 +203,7 @@ private:
   void reserveRows()
   {
     const double part = static_cast<double>(records.position()) / static_cast<double>(text.size());
-    const auto rows =
-        static_cast<std::size_t>(reservedShare * static_cast<double>(table.rows) / part);
+    const auto rows = static_cast<std::size_t>(reservedShare * double(table.rows) / part);
     for (ColumnValues& column : table.columns)
       column.reserve(rows);
   }
@@ -214,8 +212,7 @@ private:
   {
     if (passed)
       passed(records.position());
-    cancelled = progress && !progress(static_cast<double>(records.position()) /
-                                      static_cast<double>(text.size()));
+    cancelled = progress && !progress(double(records.position()) / double(text.size()));
     return !cancelled;
   }
 
@@ -246,9 +243,9 @@ private:
   void tellOpenQuotes()
   {
     // A quote that opens in the last line is cut with it; any other takes lines in.
-    if (records.followingLine() == records.line() && isCut())
-      return;
-    error = withValues(translated("TableText", "line %1: a quoted field is not closed"), {line()});
+    if (records.followingLine() != records.line() || !isCut())
+      error =
+          withValues(translated("TableText", "line %1: a quoted field is not closed"), {line()});
   }
 
   void readRow()
@@ -290,8 +287,7 @@ Result<TableText> readTableText(std::string_view bytes, const ImportRequest& req
                                 ImportReport& report, const ImportProgress& progress,
                                 const TextPassed& passed)
 {
-  const std::string refused = unreadable(bytes);
-  if (!refused.empty())
+  if (const std::string refused = unreadable(bytes); !refused.empty())
     return Result<TableText>::failed(refused);
   if (isUtf16(bytes))
   {

@@ -143,9 +143,10 @@ TEST_F(ImportDialogs, LetTheUserNameATableOfSeveral)
   sheet->setFocus();
   QTest::keyClicks(sheet, "B");
   QTest::keyClick(sheet, Qt::Key_Tab);
-  ASSERT_TRUE(
-      QTest::qWaitFor([this] { return button(QDialogButtonBox::Open)->isEnabled(); }, patience));
-  EXPECT_EQ(part<QTableView>("importTable")->model()->rowCount(), 2);
+  auto* rows = part<QTableView>("importTable")->model();
+  ASSERT_TRUE(QTest::qWaitFor([rows] { return rows->rowCount() == 2; }, patience));
+  ASSERT_TRUE(isRead());
+  EXPECT_TRUE(button(QDialogButtonBox::Open)->isEnabled());
   end(QDialogButtonBox::Cancel);
 }
 
