@@ -22,7 +22,8 @@ struct PlotOptions
   /// Remarks on computed tables go to standard output: the sizes of a clustering, and parameters
   /// with fewer values than others. A program that shows its results otherwise switches them off.
   bool showsDiagnostics = true;
-  /// Text, colours and ticks of all charts.
+  /// Text, colours and ticks of all charts. Those of the chart that is shown change at once but for
+  /// the colours of what is drawn.
   PlotLook look;
 };
 

@@ -28,7 +28,7 @@ TieBlocks blocksOf(const std::vector<double>& column, const std::vector<char>& s
 } // namespace
 
 void checkComparedRuns(const ParameterColumns& columns, const std::vector<char>& selected,
-                  const std::vector<char>& leftOut)
+                       const std::vector<char>& leftOut)
 {
   if (!columns.empty() && runsIn(columns) != selected.size())
     throw std::invalid_argument("a selection of another number of runs");

@@ -1,6 +1,5 @@
-#include "app/document/RunConditions.h"
-
 #include "app/document/DocumentScene.h"
+#include "app/document/RunConditions.h"
 
 #include <vtkIntArray.h>
 #include <vtkSmartPointer.h>
