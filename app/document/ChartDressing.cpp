@@ -80,6 +80,7 @@ void makeRoom(PlotContainer& container)
   container.setTopMargin(room.top);
   container.setRightMargin(room.right);
   container.setBottomMargin(room.bottom);
+  container.setHorizontalGutter(room.betweenColumns);
 }
 
 void dress3DChart(PlotContainer& container)

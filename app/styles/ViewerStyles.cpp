@@ -131,6 +131,8 @@ ViewerStyle selectionPageStyle()
   style.controls.logY = true;
   style.comparesRuns = true;
   style.showsDistributions = true;
+  // Each chart has numbers and a name to its left.
+  style.room.betweenColumns = 60;
   style.unit = ChartUnit::RunsOverRuns;
   style.charts = parametersOf;
   // The runs; the curves of the parameters have few points.

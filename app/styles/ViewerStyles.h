@@ -44,6 +44,8 @@ struct PageRoom
   int top = 30;
   int right = 30;
   int bottom = 45;
+  /// Between the columns of a page.
+  int betweenColumns = 28;
 };
 
 /// What a point or a line of a chart stands for in a table of runs; on a page of several charts, of
