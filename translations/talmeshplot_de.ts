@@ -1001,6 +1001,10 @@ p, li { white-space: pre-wrap; }
         <source>line %1: %2 in the column %3 has marks or blanks between thousands; write the numbers without them</source>
         <translation>Zeile %1: %2 in der Spalte %3 hat Zeichen oder Leerzeichen zwischen den Tausendern; schreiben Sie die Zahlen ohne sie</translation>
     </message>
+    <message>
+        <source>the column %1 cannot be the time and name the runs</source>
+        <translation>die Spalte %1 kann nicht die Zeit sein und zugleich die Läufe benennen</translation>
+    </message>
 </context>
 <context>
     <name>RowsLayout</name>

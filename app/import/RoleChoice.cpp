@@ -95,6 +95,13 @@ std::string adviceOnWriting(const std::string& text)
                                         "thousands; write the numbers without them");
 }
 
+bool timeNamesRuns(const ColumnRoles& roles)
+{
+  const std::vector<int>& runs = roles.askedRuns;
+  return roles.timeColumn >= 0 &&
+         std::find(runs.begin(), runs.end(), roles.timeColumn) != runs.end();
+}
+
 /// A column that shall be something else is no time, though it is called so; nor does it name runs
 /// if it is left out or measured.
 void forgetRecognised(TableText& text, const ImportRequest& request)
@@ -102,7 +109,7 @@ void forgetRecognised(TableText& text, const ImportRequest& request)
   ColumnRoles& roles = text.roles;
   const auto use = [&text](int column)
   { return column < 0 ? ColumnUse::Open : text.uses[static_cast<std::size_t>(column)]; };
-  if (request.time.empty() && use(roles.timeColumn) != ColumnUse::Open)
+  if (request.time.empty() && (use(roles.timeColumn) != ColumnUse::Open || timeNamesRuns(roles)))
     roles.timeColumn = -1;
   if (!request.run.empty())
     return;
@@ -178,6 +185,10 @@ std::string applyRequest(TableText& text, const ImportRequest& request)
   asked.use(request.errors, ColumnUse::Ignored);
   asked.use(request.ignored, ColumnUse::Ignored);
   forgetRecognised(text, request);
+  if (asked.error.empty() && timeNamesRuns(roles))
+    return withValues(
+        translated("RoleChoice", "the column %1 cannot be the time and name the runs"),
+        {quotedForMessage(request.time)});
   return asked.error;
 }
 

@@ -130,11 +130,13 @@ private:
            !text.roles.headers[index].typed && !isRunName(text.roles.headers[index].name);
   }
 
-  /// A column with a name of runs whose cells are numbers, not all of them whole, names no runs.
+  /// A column with a name of runs whose cells are numbers, not all of them whole, names no runs;
+  /// nor does the time, as dates of a column with such a name may be.
   bool mayNameRuns(std::size_t column) const
   {
     const ColumnValues& values = text.columns[column];
     return text.uses[column] == ColumnUse::Open &&
+           static_cast<int>(column) != text.roles.timeColumn &&
            (values.texts + values.dates > 0 || values.firstFraction.line == 0);
   }
 

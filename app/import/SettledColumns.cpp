@@ -32,7 +32,7 @@ public:
       tellCensored(i);
       if (text.uses[i] == ColumnUse::Ignored)
         report.ignored.push_back(name(i));
-      else if (text.columns[i].isDates())
+      else if (text.columns[i].isDates() && !has(text.roles.askedRuns, i))
         makeTime(i);
       else if (isFree(i))
         setAside(i);
@@ -50,15 +50,18 @@ public:
 private:
   const std::string& name(std::size_t column) const { return text.roles.headers[column].name; }
 
+  static bool has(const std::vector<int>& columns, std::size_t column)
+  {
+    return std::find(columns.begin(), columns.end(), static_cast<int>(column)) != columns.end();
+  }
+
   bool isFree(std::size_t column) const
   {
     const ColumnRoles& roles = text.roles;
     const int index = static_cast<int>(column);
-    const auto isRun = [index](const std::vector<int>& runs)
-    { return std::find(runs.begin(), runs.end(), index) != runs.end(); };
     return text.uses[column] == ColumnUse::Open && !roles.headers[column].typed &&
            index != roles.timeColumn && index != roles.itemColumn && index != roles.valueColumn &&
-           !isRun(roles.askedRuns) && !isRun(roles.runCandidates);
+           !has(roles.askedRuns, column) && !has(roles.runCandidates, column);
   }
 
   void ignore(std::size_t column, const std::string& warning)

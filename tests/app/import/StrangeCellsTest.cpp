@@ -155,3 +155,18 @@ TEST(StrangeCells, OfColumnsThatTheUserCallsErrorsAreNotShown)
   expectDescribed(table, "stacked", 1, 2, {"A"});
   EXPECT_EQ(table.report.ignored, Names{"spread"});
 }
+
+TEST(StrangeCells, OfDatesThatCouldNameRunsAreTheTime)
+{
+  const std::string text = "patient,A\n2026-03-17,1\n2026-03-18,2\n";
+  expectDescribed(described(text), "stacked", 1, 2, {"A"});
+  ImportRequest request;
+  request.run = {"patient"};
+  EXPECT_EQ(described(text, request).report.runs, 2U) << "a day each";
+  request.time = "patient";
+  EXPECT_NE(described(text, request).error.find("cannot be the time and name the runs"),
+            std::string::npos);
+  request = {};
+  request.run = {"time"};
+  described("time,A\n0,1\n1,2\n", request);
+}
