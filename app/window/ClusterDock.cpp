@@ -194,8 +194,8 @@ int ClusterDock::mode() const
 
 std::string ClusterDock::category() const
 {
-  const QVariant data = modes->currentData();
-  return data.userType() == QMetaType::QString ? data.toString().toStdString() : std::string();
+  const QVariant chosen = modes->currentData();
+  return chosen.userType() == QMetaType::QString ? chosen.toString().toStdString() : std::string();
 }
 
 RunLook ClusterDock::look() const
