@@ -194,19 +194,31 @@ private:
       runs = std::move(named);
   }
 
+  std::string withoutName(std::size_t line, std::size_t column) const
+  {
+    return withValues(translated("TableText", "line %1: the run has no name in the column %2; fill "
+                                              "it in, or name other columns (--run)"),
+                      {std::to_string(line), quotedForMessage(text.roles.headers[column].name)});
+  }
+
   void take(std::size_t column, bool isFirst)
   {
     ColumnValues& values = text.columns[column];
     if (values.firstEmpty.line > 0)
     {
-      error =
-          withValues(translated("TableText", "line %1: the run has no name in the column %2; fill "
-                                             "it in, or name other columns (--run)"),
-                     {std::to_string(values.firstEmpty.line),
-                      quotedForMessage(text.roles.headers[column].name)});
+      error = withoutName(values.firstEmpty.line, column);
       return;
     }
     values.completeTexts();
+    // What is no name of a run is found here, whoever takes a column for them.
+    const std::vector<int>& levels = values.levels.rows();
+    const auto blank = std::find(levels.begin(), levels.end(), TextLevels::none);
+    if (blank != levels.end())
+    {
+      const auto row = static_cast<std::size_t>(blank - levels.begin());
+      error = withoutName(row < text.lines.size() ? text.lines[row] : row + 1, column);
+      return;
+    }
     const bool stays = keepsColumns || isCondition(static_cast<int>(column));
     if (isFirst)
       runs = {stays ? values.levels.rows() : values.levels.takeRows(), values.levels.names()};

@@ -7,6 +7,9 @@
 #include "app/import/Utf8Text.h"
 
 #include <algorithm>
+#include <cmath>
+#include <map>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -129,16 +132,51 @@ LayoutFit recognise(const TableText& text, const ImportRequest& request)
   return {found.itemByName || found.valueByName ? 0.6 : 0.0, reason};
 }
 
+bool isInAllRows(const TextLevels& levels)
+{
+  const std::vector<int>& rows = levels.rows();
+  return std::find(rows.begin(), rows.end(), TextLevels::none) == rows.end();
+}
+
+/// Those of the columns in which two rows of one item at one time have different texts. Others say
+/// something of an item, as its unit, or of a single value, as a remark.
+std::vector<int> tellingApart(const TableText& text, std::size_t item,
+                              const std::vector<std::size_t>& columns)
+{
+  const auto levelIn = [&text](std::size_t column, std::size_t row)
+  {
+    const std::vector<int>& levels = text.columns[column].levels.rows();
+    return row < levels.size() ? levels[row] : TextLevels::none;
+  };
+  const int time = text.roles.timeColumn;
+  std::map<std::pair<int, double>, std::size_t> firstRows;
+  std::set<int> found;
+  for (std::size_t row = 0; row < text.rows && found.size() < columns.size(); ++row)
+  {
+    const double at = time < 0 ? 0.0 : text.columns[static_cast<std::size_t>(time)].values[row];
+    if (std::isnan(at))
+      continue;
+    const std::size_t first =
+        firstRows.emplace(std::pair(levelIn(item, row), at), row).first->second;
+    for (const std::size_t column : columns)
+      if (levelIn(column, first) != levelIn(column, row))
+        found.insert(static_cast<int>(column));
+  }
+  return {found.begin(), found.end()};
+}
+
 /// Texts that are no items tell runs apart as well as names of runs do.
 std::string nameRunsByConditions(TableText& text, std::size_t item)
 {
   std::string error = nameRuns(text);
   if (!error.empty() || !text.runNames.empty())
     return error;
-  std::vector<int> columns;
+  std::vector<std::size_t> texts;
   for (const std::size_t column : textColumns(text))
-    if (column != item && hasLevels(text, column) && !text.columns[column].hasTooManyTexts)
-      columns.push_back(static_cast<int>(column));
+    if (column != item && hasLevels(text, column) && !text.columns[column].hasTooManyTexts &&
+        isInAllRows(text.columns[column].levels))
+      texts.push_back(column);
+  std::vector<int> columns = tellingApart(text, item, texts);
   // They stay categories.
   return columns.empty() ? std::string() : nameRunsBy(text, std::move(columns));
 }

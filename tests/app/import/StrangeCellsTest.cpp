@@ -170,3 +170,29 @@ TEST(StrangeCells, OfDatesThatCouldNameRunsAreTheTime)
   request.run = {"time"};
   described("time,A\n0,1\n1,2\n", request);
 }
+
+TEST(StrangeCells, OfRemarksOnSingleValuesTellNoRunsApart)
+{
+  const DescribedTable table =
+      described("time,species,value,comment\n0,A,1,\n1,A,2,\n2,A,3,pump off\n"
+                "0,B,4,\n1,B,5,\n2,B,6,pump on\n");
+  expectDescribed(table, "tidy", 1, 3, {"A", "B"});
+}
+
+TEST(StrangeCells, OfUnitsOfItemsTellNoRunsApart)
+{
+  expectDescribed(described("time,species,value,unit\n0,A,1,nM\n1,A,2,nM\n0,B,4,uM\n1,B,5,uM\n"),
+                  "tidy", 1, 2, {"A", "B"});
+  const std::string drugs = "time,species,value,unit,drug\n0,A,1,nM,x\n1,A,2,nM,x\n0,B,4,uM,x\n"
+                            "1,B,5,uM,x\n0,A,6,nM,y\n1,A,7,nM,y\n0,B,8,uM,y\n1,B,9,uM,y\n";
+  expectDescribed(described(drugs), "tidy", 2, 2, {"A", "B"}, {}, {"drug"});
+}
+
+TEST(StrangeCells, ThatAreBlankWhereRunsAreToldApartAreNoNames)
+{
+  const DescribedTable table =
+      described("time,species,value,drug\n0,A,1,\n1,A,2,\n0,A,3,x\n1,A,4,x\n"
+                "0,B,5,\n1,B,6,\n0,B,7,x\n1,B,8,x\n");
+  EXPECT_NE(table.error, "");
+  EXPECT_EQ(table.runs(), 0U);
+}
